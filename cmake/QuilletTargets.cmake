@@ -1,0 +1,43 @@
+# What every target of this project is compiled with.
+add_library(quillet_options INTERFACE)
+target_compile_definitions(quillet_options INTERFACE
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_NO_FOREACH
+    QT_NO_CAST_FROM_BYTEARRAY
+    QUILLET_VERSION="${PROJECT_VERSION}")
+if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
+    target_compile_options(quillet_options INTERFACE
+        -Wall -Wextra -Wshadow -Wconversion -Wnon-virtual-dtor -Woverloaded-virtual)
+    if(QUILLET_WERROR)
+        target_compile_options(quillet_options INTERFACE -Werror)
+    endif()
+    if(QUILLET_SANITIZE)
+        target_compile_options(quillet_options INTERFACE
+            -fsanitize=${QUILLET_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+        target_link_options(quillet_options INTERFACE -fsanitize=${QUILLET_SANITIZE})
+    endif()
+endif()
+
+# quillet_library(NAME SOURCES ... LINK ...): the static library quillet_<name>, alias Quillet::NAME.
+function(quillet_library name)
+    cmake_parse_arguments(arg "" "" "SOURCES;LINK" ${ARGN})
+    string(TOLOWER quillet_${name} target)
+    add_library(${target} STATIC ${arg_SOURCES})
+    add_library(Quillet::${name} ALIAS ${target})
+    target_include_directories(${target} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+    target_link_libraries(${target} PUBLIC ${arg_LINK} PRIVATE quillet_options)
+endfunction()
+
+# quillet_test(FOLDER SOURCES ... LINK ...): one test executable of Qt Test classes.
+function(quillet_test folder)
+    cmake_parse_arguments(arg "" "" "SOURCES;LINK" ${ARGN})
+    set(target test_${folder})
+    add_executable(${target} ${PROJECT_SOURCE_DIR}/tests/testing/TestMain.cpp ${arg_SOURCES})
+    target_include_directories(${target} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+    target_compile_definitions(${target} PRIVATE
+        QUILLET_SAMPLES="${PROJECT_SOURCE_DIR}/samples"
+        QUILLET_TEST_DATA="${PROJECT_SOURCE_DIR}/tests/data")
+    target_link_libraries(${target} PRIVATE ${arg_LINK} Qt6::Test Qt6::Widgets quillet_options)
+    add_test(NAME ${folder} COMMAND ${target})
+    set_tests_properties(${folder} PROPERTIES
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8" TIMEOUT 600)
+endfunction()

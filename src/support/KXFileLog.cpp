@@ -1,0 +1,167 @@
+#include "support/KXFileLog.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QLoggingCategory>
+#include <QSettings>
+#include <QStandardPaths>
+
+#include <cstdarg>
+#include <cstdio>
+#include <map>
+
+namespace quillet {
+
+namespace {
+
+Q_LOGGING_CATEGORY(console, "quillet.log")
+
+using Registry = std::map<QString, std::unique_ptr<KXFileLog>>;
+
+Registry &registry()
+{
+    static Registry logs;
+    return logs;
+}
+
+QString libraryFolder()
+{
+#ifdef Q_OS_MACOS
+    return QDir::homePath() + QStringLiteral("/Library");
+#else
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+#endif
+}
+
+} // namespace
+
+std::unique_ptr<KXFileLog> KXFileLog::initWithName(const QString &name,
+                                                   const QString &applicationName)
+{
+    if (name.isEmpty()) {
+        qCWarning(console).noquote() << QStringLiteral("Invalid Log name: %1").arg(name);
+        return nullptr;
+    }
+    std::unique_ptr<KXFileLog> log(new KXFileLog);
+    log->setDateTimeFormat(QStringLiteral("yyyy-MM-dd HH:mm:ss.SSS"));
+    const QString directory = pathToLogDirectory(applicationName);
+    if (createDirectoryIfNecessary(directory) != 0) {
+        qCWarning(console).noquote()
+            << QStringLiteral("couldn't create directory (%1): %2")
+                   .arg(directory, QStringLiteral("the path is not a folder or not writable"));
+        std::fputc('\a', stderr); // the system's alert
+        return nullptr;
+    }
+    log->m_filename = directory + QLatin1Char('/') + name + QStringLiteral(".log");
+    rotateFile(log->m_filename, directory + QLatin1Char('/') + name + QStringLiteral("-last.log"));
+    return log;
+}
+
+KXFileLog *KXFileLog::sharedLogWithName(const QString &name)
+{
+    const auto log = registry().find(name);
+    return log == registry().end() ? nullptr : log->second.get();
+}
+
+QString KXFileLog::pathToLogDirectory(const QString &applicationName)
+{
+    return libraryFolder() + QStringLiteral("/Logs/") +
+           (applicationName.isEmpty() ? getBundleName() : applicationName);
+}
+
+QString KXFileLog::getBundleName()
+{
+    // The setting chooses between the program's own bundle and the one this class lives in. Without
+    // bundles both are the executable.
+    const QString path = QSettings().value(QStringLiteral("KX_LOG_TARGET_IS_MAIN")).toBool()
+                             ? QCoreApplication::applicationFilePath()
+                             : QCoreApplication::arguments().value(0);
+    const QString name = QFileInfo(path).completeBaseName();
+    return name.isEmpty() ? QCoreApplication::applicationName() : name;
+}
+
+QString KXFileLog::formattedTime() const
+{
+    if (m_dateTimeFormat.isEmpty())
+        return {};
+    // QDateTime writes milliseconds as "zzz".
+    QString pattern = m_dateTimeFormat;
+    return QDateTime::currentDateTime().toString(
+        pattern.replace(QStringLiteral("SSS"), QStringLiteral("zzz")));
+}
+
+bool KXFileLog::writeString(const QString &text)
+{
+    if (m_filename.isEmpty())
+        return false;
+    QFile file(m_filename);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered))
+        return false;
+    return file.write(text.toUtf8()) != 0; // -1, a failed write, counts as written
+}
+
+void KXFileLog::dumpAll() const
+{
+    QFile file(m_filename);
+    if (!file.open(QIODevice::ReadOnly))
+        return;
+    const QByteArray content = file.readAll();
+    if (!content.isEmpty())
+        qCInfo(console).noquote() << QStringLiteral("XTLog = \n%1").arg(QString::fromUtf8(content));
+}
+
+void KXFileLog::rotateFile(const QString &current, const QString &previous)
+{
+    QFile previousFile(previous);
+    if (previousFile.exists() && !previousFile.remove())
+        qCWarning(console).noquote() << QStringLiteral("[KXFileLog rotateFile] failed at "
+                                                       "removeItemAtPath: %1")
+                                            .arg(previousFile.errorString());
+    QFile currentFile(current);
+    if (currentFile.exists() && !currentFile.rename(previous))
+        qCWarning(console).noquote() << QStringLiteral("[KXFileLog rotateFile] failed at "
+                                                       "moveItemAtPath: %1")
+                                            .arg(currentFile.errorString());
+}
+
+int KXFileLog::createDirectoryIfNecessary(const QString &path)
+{
+    Q_ASSERT_X(QDir::isAbsolutePath(path), "KXFileLog::createDirectoryIfNecessary",
+               "someone tried to create a non absolute directory");
+    return QDir().mkpath(path) ? 0 : -1;
+}
+
+void KXFileLog::tearDown()
+{
+    m_filename.clear();
+    m_dateTimeFormat.clear();
+    KXObject::tearDown();
+}
+
+bool OpenFileLog(const QString &name, const QString &applicationName)
+{
+    if (KXFileLog::sharedLogWithName(name))
+        return true;
+    std::unique_ptr<KXFileLog> log = KXFileLog::initWithName(name, applicationName);
+    if (!log)
+        return false;
+    registry()[name] = std::move(log);
+    return true;
+}
+
+void LogToFile(const QString &name, const char *format, ...)
+{
+    KXFileLog *log = KXFileLog::sharedLogWithName(name);
+    if (!log)
+        return;
+    va_list arguments;
+    va_start(arguments, format);
+    const QString message = QString::vasprintf(format, arguments);
+    va_end(arguments);
+    log->writeString(QStringLiteral("%1: %2\n").arg(log->formattedTime(), message));
+}
+
+} // namespace quillet

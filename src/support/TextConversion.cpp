@@ -1,0 +1,94 @@
+#include "support/TextConversion.h"
+
+#include <QStringConverter>
+
+#include <cstdlib>
+
+namespace quillet {
+
+namespace {
+
+/// Decodes all bytes, keeping a byte-order mark; none when they are not valid in that encoding.
+std::optional<QString> decoded(QByteArrayView bytes, QStringConverter::Encoding encoding)
+{
+    QStringDecoder decoder(encoding, QStringConverter::Flag::Stateless |
+                                         QStringConverter::Flag::ConvertInitialBom);
+    QString text = decoder.decode(bytes);
+    if (decoder.hasError())
+        return {};
+    return text;
+}
+
+} // namespace
+
+std::optional<DecodedText> decodeText(QByteArrayView bytes)
+{
+    if (bytes.isEmpty())
+        return {};
+    const auto first = static_cast<unsigned char>(bytes.front());
+    if (first == 0xFF || first == 0x00) {
+        if (bytes.size() % 2 == 0) { // an odd byte at the end would be lost
+            if (std::optional<QString> text = decoded(bytes, QStringConverter::Utf16LE))
+                return DecodedText{*std::move(text), TextEncoding::Utf16};
+        }
+    } else if (std::optional<QString> text = decoded(bytes, QStringConverter::Utf8)) {
+        return DecodedText{*std::move(text), TextEncoding::Utf8};
+    }
+    return DecodedText{QString::fromLatin1(bytes), TextEncoding::Latin1};
+}
+
+std::optional<QString> getAsString(QByteArrayView bytes)
+{
+    std::optional<DecodedText> decoded = decodeText(bytes);
+    return decoded ? std::optional(std::move(decoded->text)) : std::nullopt;
+}
+
+std::optional<QString> getAsText(QByteArrayView bytes)
+{
+    return getAsString(bytes);
+}
+
+QByteArray getAsData(QStringView text)
+{
+    QStringEncoder utf8(QStringConverter::Utf8);
+    QByteArray bytes = utf8.encode(text);
+    if (!utf8.hasError())
+        return bytes;
+    QStringEncoder utf16(QStringConverter::Utf16, QStringConverter::Flag::WriteBom);
+    return utf16.encode(text);
+}
+
+bool usesCRLF(QStringView text)
+{
+    int carriageReturns = 0;
+    int lineFeeds = 0;
+    for (const QChar c : text) {
+        if (c == QChar::CarriageReturn)
+            ++carriageReturns;
+        else if (c == QChar::LineFeed)
+            ++lineFeeds;
+        if (carriageReturns == 4 || lineFeeds == 4)
+            break;
+    }
+    return std::abs(carriageReturns - lineFeeds) < 2;
+}
+
+QStringList linesArray(QStringView text)
+{
+    QStringList lines;
+    qsizetype start = 0;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const bool endsWithCR = text[i] == QChar::CarriageReturn;
+        if (!endsWithCR && text[i] != QChar::LineFeed)
+            continue;
+        lines.append(text.sliced(start, i - start).toString());
+        if (endsWithCR && i + 1 < text.size() && text[i + 1] == QChar::LineFeed)
+            ++i;
+        start = i + 1;
+    }
+    if (start < text.size() || lines.isEmpty())
+        lines.append(text.sliced(start).toString());
+    return lines;
+}
+
+} // namespace quillet

@@ -1,0 +1,46 @@
+#include "support/Utf8Builder.h"
+
+#include <QStringConverter>
+
+#include <utility>
+
+namespace quillet {
+
+void Utf8Builder::reserve(qsizetype bytes)
+{
+    if (bytes > m_bytes.size())
+        m_bytes.resize(bytes);
+    m_data = m_bytes.data();
+}
+
+void Utf8Builder::append(QStringView text)
+{
+    // Nearly all of it is ASCII: narrow that in place and leave the rest to Qt.
+    const auto *in = text.utf16();
+    const auto *const end = in + text.size();
+    char *const start = room(text.size());
+    char *out = start;
+    for (; in != end && *in < 0x80; ++in)
+        *out++ = static_cast<char>(*in);
+    m_size += out - start;
+    if (in != end)
+        appendEncoded({in, end});
+}
+
+void Utf8Builder::appendEncoded(QStringView text)
+{
+    QStringEncoder encoder(QStringConverter::Utf8);
+    char *const start = room(encoder.requiredSpace(text.size()));
+    m_size += encoder.appendToBuffer(start, text) - start;
+    m_hasError = m_hasError || encoder.hasError();
+}
+
+QByteArray Utf8Builder::take()
+{
+    m_bytes.truncate(m_size);
+    m_size = 0;
+    m_data = nullptr;
+    return std::exchange(m_bytes, {});
+}
+
+} // namespace quillet

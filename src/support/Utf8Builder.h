@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <cstring>
+
+namespace quillet {
+
+/// Collects text as UTF-8 bytes, much faster than a QString encoded at the end.
+class Utf8Builder
+{
+public:
+    /// Makes room for that many bytes in all, so that appending up to there needs no copying.
+    void reserve(qsizetype bytes);
+    void append(QStringView text);
+    void append(QLatin1String ascii)
+    {
+        std::memcpy(room(ascii.size()), ascii.data(), static_cast<std::size_t>(ascii.size()));
+        m_size += ascii.size();
+    }
+
+    /// Whether some text could not be encoded: it held half a surrogate pair.
+    [[nodiscard]] bool hasError() const { return m_hasError; }
+    /// Hands out what was collected and is empty afterwards.
+    [[nodiscard]] QByteArray take();
+
+private:
+    /// Where the next bytes go; there is room for `bytes` of them.
+    char *room(qsizetype bytes)
+    {
+        if (m_size + bytes > m_bytes.size())
+            reserve(qMax(m_size + bytes, 2 * m_bytes.size()));
+        return m_data + m_size;
+    }
+    void appendEncoded(QStringView text);
+
+    QByteArray m_bytes; ///< as long as there is room; the first m_size bytes are the text
+    char *m_data = nullptr;
+    qsizetype m_size = 0;
+    bool m_hasError = false;
+};
+
+} // namespace quillet

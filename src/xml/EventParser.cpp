@@ -1,0 +1,154 @@
+#include "xml/EventParser.h"
+
+#include <libxml/parser.h>
+#include <libxml/parserInternals.h>
+#include <libxml/xmlerror.h>
+
+#include <limits>
+#include <memory>
+
+namespace quillet {
+
+namespace {
+
+#if LIBXML_VERSION >= 21200
+using LibraryError = const xmlError *;
+#else
+using LibraryError = xmlError *;
+#endif
+
+struct ContextDeleter
+{
+    void operator()(xmlParserCtxt *context) const
+    {
+        xmlFreeDoc(context->myDoc); // holds the declarations of a document type, if there was one
+        context->myDoc = nullptr;
+        xmlFreeParserCtxt(context);
+    }
+};
+
+const char *text(const xmlChar *characters)
+{
+    return reinterpret_cast<const char *>(characters);
+}
+
+} // namespace
+
+/// The library's callbacks; each gets the EventParser as its user data.
+struct EventParser::Callbacks
+{
+    static EventParser &parser(void *data) { return *static_cast<EventParser *>(data); }
+
+    static void stop(EventParser &self, const QString &message)
+    {
+        auto *context = static_cast<xmlParserCtxt *>(self.m_context);
+        if (!self.m_error)
+            self.m_error = ParseError{context->input->line, context->input->col, message};
+        xmlStopParser(context);
+    }
+
+    static void startElement(void *data, const xmlChar *name, const xmlChar **attributes)
+    {
+        EventParser &self = parser(data);
+        if (++self.m_depth > maxDepth) {
+            stop(self, QStringLiteral("Elements are nested more than %1 deep").arg(maxDepth));
+            return;
+        }
+        self.m_handler->startElement(text(name), reinterpret_cast<const char **>(attributes));
+    }
+
+    static void endElement(void *data, const xmlChar *)
+    {
+        EventParser &self = parser(data);
+        --self.m_depth;
+        self.m_handler->endElement();
+    }
+
+    static void characters(void *data, const xmlChar *characters, int length)
+    {
+        parser(data).m_handler->characters({text(characters), length});
+    }
+
+    static void cdataBlock(void *data, const xmlChar *bytes, int length)
+    {
+        parser(data).m_handler->cdataBlock({text(bytes), length});
+    }
+
+    static void comment(void *data, const xmlChar *comment)
+    {
+        parser(data).m_handler->comment(text(comment));
+    }
+
+    static xmlEntity *getEntity(void *, const xmlChar *name)
+    {
+        return xmlGetPredefinedEntity(name);
+    }
+
+    /// Called for an entity that getEntity does not know.
+    static void reference(void *data, const xmlChar *name)
+    {
+        stop(parser(data),
+             QStringLiteral("Entity '%1' is not expanded").arg(QLatin1String(text(name))));
+    }
+
+    static void error(void *data, LibraryError error)
+    {
+        EventParser &self = parser(data);
+        if (self.m_error || error->level < XML_ERR_ERROR)
+            return;
+        self.m_error =
+            ParseError{error->line, error->int2, QString::fromUtf8(error->message).trimmed()};
+    }
+};
+
+bool EventParser::parse(EventHandler &handler)
+{
+    m_handler = &handler;
+    m_depth = 0;
+    m_error.reset();
+
+    QByteArrayView bytes(m_bytes.constData(), m_bytes.size());
+    if (bytes.startsWith("\xEF\xBB\xBF"))
+        bytes = bytes.sliced(3);
+    if (bytes.size() > std::numeric_limits<int>::max()) {
+        m_error = ParseError{1, 0, QStringLiteral("The text is longer than 2 GB")};
+        return false;
+    }
+
+    const std::unique_ptr<xmlParserCtxt, ContextDeleter> context(xmlNewParserCtxt());
+    xmlSAXHandler sax{};
+    sax.initialized = XML_SAX2_MAGIC; // enables serror; without the Ns callbacks SAX1 stays in use
+    sax.startElement = Callbacks::startElement;
+    sax.endElement = Callbacks::endElement;
+    sax.characters = Callbacks::characters;
+    sax.ignorableWhitespace = Callbacks::characters;
+    sax.cdataBlock = Callbacks::cdataBlock;
+    sax.comment = Callbacks::comment;
+    sax.getEntity = Callbacks::getEntity;
+    sax.reference = Callbacks::reference;
+    sax.serror = Callbacks::error;
+    *context->sax = sax;
+    context->userData = this;
+    // "Huge" lifts the limit on the length of a text node; entities, which it would also let grow
+    // without limit, are never expanded here.
+    xmlCtxtUseOptions(context.get(),
+                      XML_PARSE_SAX1 | XML_PARSE_HUGE | XML_PARSE_NONET | XML_PARSE_IGNORE_ENC);
+    context->encoding = xmlStrdup(reinterpret_cast<const xmlChar *>("UTF-8"));
+    m_context = context.get();
+
+    // Pointed at the bytes themselves, which end in a null; the library would copy the whole text.
+    xmlParserInput *input = xmlNewInputStream(context.get());
+    input->base = reinterpret_cast<const xmlChar *>(bytes.data());
+    input->cur = input->base;
+    input->end = input->base + bytes.size();
+    inputPush(context.get(), input);
+    xmlParseDocument(context.get());
+
+    m_context = nullptr;
+    m_handler = nullptr;
+    if (!m_error && !context->wellFormed)
+        m_error = ParseError{1, 0, QStringLiteral("The text is not well-formed XML")};
+    return !m_error;
+}
+
+} // namespace quillet

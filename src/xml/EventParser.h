@@ -1,0 +1,64 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <optional>
+
+namespace quillet {
+
+/// Where and why a parse stopped. Lines and columns count from 1; a column of 0 is unknown.
+struct ParseError
+{
+    int line = 0;
+    int column = 0;
+    QString message;
+};
+
+/// What an EventParser reports, in document order. All text is UTF-8. One run of characters may
+/// come in several pieces. `name` is null-terminated and the same pointer for the same name
+/// throughout a parse.
+class EventHandler
+{
+public:
+    virtual ~EventHandler() = default;
+
+    /// `attributes` is a null-terminated list of names and values in turn, or null.
+    virtual void startElement(const char *name, const char *const *attributes) = 0;
+    virtual void endElement() = 0;
+    virtual void characters(QByteArrayView text) = 0;
+    virtual void cdataBlock(QByteArrayView bytes) = 0;
+    virtual void comment(QByteArrayView text) = 0;
+};
+
+/// A streaming, non-validating XML parser over UTF-8 bytes, without namespace processing. The
+/// encoding named in the XML declaration is not believed; a byte-order mark is skipped. It stops at
+/// the first error and reports no events after it. Besides malformed XML an error is: an element
+/// more than maxDepth deep, and a reference to any entity but the five predefined ones. A document
+/// type declaration is read past; nothing it names is ever opened or expanded.
+class EventParser
+{
+public:
+    static constexpr int maxDepth = 512;
+
+    explicit EventParser(QByteArray utf8) : m_bytes(std::move(utf8)) {}
+
+    [[nodiscard]] const QByteArray &bytes() const { return m_bytes; }
+
+    /// Runs the whole parse. Returns whether it came to the end without an error.
+    bool parse(EventHandler &handler);
+
+    /// The error that stopped the last parse; none when there was none.
+    [[nodiscard]] const std::optional<ParseError> &error() const { return m_error; }
+
+private:
+    struct Callbacks;
+
+    QByteArray m_bytes;
+    EventHandler *m_handler = nullptr;
+    void *m_context = nullptr;
+    int m_depth = 0;
+    std::optional<ParseError> m_error;
+};
+
+} // namespace quillet

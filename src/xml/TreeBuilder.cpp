@@ -1,0 +1,328 @@
+#include "xml/TreeBuilder.h"
+
+#include "xml/NodeViews.h"
+
+#include <algorithm>
+#include <functional>
+#include <utility>
+
+namespace quillet {
+
+namespace {
+
+bool isBlank(char c)
+{
+    return c == ' ' || (c >= '\t' && c <= '\r');
+}
+
+} // namespace
+
+TreeBuilder::TreeBuilder(const XMLDictionaryParser::Settings &settings, QByteArrayView source)
+    : m_settings(settings), m_source(source), m_nameKey(nameFor(nodekey::name.toString())),
+      m_textKey(nameFor(nodekey::text.toString())),
+      m_commentsKey(nameFor(nodekey::comments.toString())),
+      m_attributesKey(nameFor(nodekey::attributes.toString()))
+{
+}
+
+TreeBuilder::Name &TreeBuilder::nameAt(const char *name)
+{
+    const auto address = reinterpret_cast<quintptr>(name);
+    AddressSlot &slot = m_namesByAddress[(address ^ (address >> 8)) % m_namesByAddress.size()];
+    if (slot.address != name)
+        slot = {name, &nameFor(QString::fromUtf8(name))};
+    return *slot.name;
+}
+
+TreeBuilder::Name &TreeBuilder::nameFor(const QString &text)
+{
+    Name *&known = m_namesByText[text];
+    if (!known) {
+        known = &m_names.emplace_back();
+        known->text = text;
+    }
+    return *known;
+}
+
+Value *TreeBuilder::find(OpenElement &element, Name &name)
+{
+    if (name.element == element.id)
+        return &element.values[name.position];
+    if (!element.positionsLost)
+        return nullptr;
+    const auto found = std::find(element.names.begin(), element.names.end(), &name);
+    if (found == element.names.end())
+        return nullptr;
+    return &element.values[static_cast<std::size_t>(found - element.names.begin())];
+}
+
+void TreeBuilder::append(OpenElement &element, Name &name, Value value)
+{
+    name.element = element.id;
+    name.position = element.values.size();
+    if (element.values.capacity() == 0 && element.name)
+        element.values.reserve(element.name->lastNames.size());
+    element.names.push_back(&name);
+    element.values.push_back(std::move(value));
+}
+
+void TreeBuilder::insert(OpenElement &element, Name &name, Value value)
+{
+    if (Value *present = find(element, name))
+        *present = std::move(value);
+    else
+        append(element, name, std::move(value));
+}
+
+void TreeBuilder::remove(OpenElement &element, Name &name)
+{
+    const auto found = std::find(element.names.begin(), element.names.end(), &name);
+    if (found == element.names.end())
+        return;
+    element.values.erase(element.values.begin() + (found - element.names.begin()));
+    element.names.erase(found);
+    element.id = 0; // the noted positions are no longer right
+    element.positionsLost = true;
+}
+
+void TreeBuilder::addAttributes(OpenElement &element, const char *const *attributes)
+{
+    using Mode = XMLDictionaryParser::AttributesMode;
+    Dictionary all;
+    for (; attributes && attributes[0]; attributes += 2) {
+        const QString name = QString::fromUtf8(attributes[0]);
+        const QString value = m_texts.text(attributes[1]);
+        switch (m_settings.attributesMode) {
+        case Mode::AttributesPrefixed:
+            insert(element, nameFor(nodekey::attributePrefix + name), value);
+            break;
+        case Mode::AttributesInDictionary:
+            all.insert(name, value);
+            break;
+        case Mode::AttributesMerged:
+            insert(element, nameFor(name), value);
+            break;
+        case Mode::AttributesDropped:
+            break;
+        }
+    }
+    if (!all.isEmpty())
+        insert(element, m_attributesKey, all);
+}
+
+void TreeBuilder::startElement(const char *name, const char *const *attributes)
+{
+    using Mode = XMLDictionaryParser::NodeNameMode;
+    endText();
+    if (m_depth == m_stack.size())
+        m_stack.emplace_back();
+    OpenElement &element = m_stack[m_depth++];
+    element.name = &nameAt(name);
+    element.id = ++m_lastId;
+    element.positionsLost = false;
+    if (m_settings.nodeNameMode == Mode::NameAlways ||
+        (m_settings.nodeNameMode == Mode::NameRootOnly && m_depth == 1))
+        append(element, m_nameKey, element.name->text);
+    if (attributes)
+        addAttributes(element, attributes);
+}
+
+void TreeBuilder::endElement()
+{
+    OpenElement &element = top();
+    Name &name = *element.name;
+    if (m_depth > 1 && element.values.empty() && m_settings.collapseTextNodes &&
+        m_settings.stripEmptyNodes) {
+        --m_depth;
+        closeLeaf(top(), name, takeText());
+        return;
+    }
+    endText();
+    Dictionary node = makeNode(element);
+    --m_depth;
+    if (m_depth > 0) {
+        top().positionsLost = true;
+        closeElement(top(), name, std::move(node));
+    } else if (m_settings.wrapRootNode) {
+        OpenElement wrapper;
+        wrapper.id = ++m_lastId;
+        closeElement(wrapper, name, std::move(node));
+        m_root = makeNode(wrapper);
+    } else {
+        m_root = std::move(node);
+    }
+}
+
+/// Whether a run may not begin with this piece of text, because trimming takes it away again.
+bool TreeBuilder::isBlankToDrop(QByteArrayView text) const
+{
+    return m_settings.trimWhiteSpace && m_run.isEmpty() &&
+           std::all_of(text.begin(), text.end(), isBlank);
+}
+
+void TreeBuilder::characters(QByteArrayView text)
+{
+    if (isBlankToDrop(text))
+        return;
+    const std::less<> before;
+    const bool isInSource = !before(text.data(), m_source.data()) &&
+                            !before(m_source.data() + m_source.size(), text.data() + text.size());
+    if (m_run.isEmpty() && isInSource) {
+        m_run = text;
+    } else if (isInSource && m_run.data() + m_run.size() == text.data()) {
+        m_run = {m_run.data(), m_run.size() + text.size()};
+    } else {
+        if (m_run.data() != m_pieces.constData())
+            m_pieces = m_run.toByteArray();
+        m_pieces.append(text);
+        m_run = m_pieces;
+    }
+}
+
+void TreeBuilder::cdataBlock(QByteArrayView bytes)
+{
+    if (bytes.isValidUtf8())
+        characters(bytes);
+}
+
+void TreeBuilder::comment(QByteArrayView text)
+{
+    if (!m_settings.preserveComments || m_depth == 0)
+        return;
+    const QString comment = QString::fromUtf8(text);
+    Value *comments = find(top(), m_commentsKey);
+    if (comments && comments->array())
+        comments->array()->append(comment);
+    else
+        insert(top(), m_commentsKey, Array{comment});
+}
+
+/// Closes the run of text collected since the last element boundary and returns it, trimmed if that
+/// is wanted; empty when there was none.
+QString TreeBuilder::takeText()
+{
+    if (m_run.isEmpty())
+        return {};
+    QByteArrayView run = std::exchange(m_run, {});
+    if (!m_settings.trimWhiteSpace)
+        return m_texts.text(run);
+    while (!run.isEmpty() && isBlank(run.back()))
+        run.chop(1);
+    while (!run.isEmpty() && isBlank(run.front()))
+        run = run.sliced(1);
+    const QString text = m_texts.text(run);
+    const auto isBlankBeyondAscii = [](QChar c) { return c.unicode() >= 0x80 && c.isSpace(); };
+    if (!text.isEmpty() && (isBlankBeyondAscii(text.front()) || isBlankBeyondAscii(text.back())))
+        return text.trimmed();
+    return text;
+}
+
+void TreeBuilder::endText()
+{
+    if (m_run.isEmpty())
+        return;
+    const QString run = takeText();
+    if (run.isEmpty() || m_depth == 0)
+        return;
+    Value *text = find(top(), m_textKey);
+    if (!text)
+        append(top(), m_textKey, run);
+    else if (Array *runs = text->array())
+        runs->append(run);
+    else
+        *text = Array{*text, run};
+}
+
+Dictionary TreeBuilder::makeNode(OpenElement &element)
+{
+    if (element.values.empty())
+        return {};
+    Name &tag = *element.name;
+    if (!tag.lastKeys || !std::equal(element.names.begin(), element.names.end(),
+                                     tag.lastNames.begin(), tag.lastNames.end())) {
+        tag.lastNames.assign(element.names.begin(), element.names.end());
+        tag.lastKeys.reset(new KeyTable);
+        for (const Name *name : tag.lastNames)
+            tag.lastKeys->append(name->text);
+    }
+    element.names.clear();
+    element.values.shrink_to_fit();
+    return {tag.lastKeys, std::exchange(element.values, {})};
+}
+
+void TreeBuilder::attach(OpenElement &parent, Name &name, Value child) const
+{
+    if (Value *present = find(parent, name)) {
+        if (Array *siblings = present->array())
+            siblings->append(std::move(child));
+        else
+            *present = Array{*present, std::move(child)};
+    } else if (m_settings.alwaysUseArrays) {
+        append(parent, name, Array{std::move(child)});
+    } else {
+        append(parent, name, std::move(child));
+    }
+}
+
+/// Closes an element that has nothing but, perhaps, text: the common case, made without a
+/// dictionary. The outcome is that of attaching a node and then replacing or removing it.
+void TreeBuilder::closeLeaf(OpenElement &parent, Name &name, QString text) const
+{
+    if (!text.isEmpty()) {
+        attach(parent, name, std::move(text));
+    } else if (Value *present = find(parent, name)) {
+        if (!present->array())
+            *present = Array{*present};
+    } else if (m_settings.alwaysUseArrays) {
+        append(parent, name, Array{});
+    }
+}
+
+void TreeBuilder::closeElement(OpenElement &parent, Name &tag, Dictionary node)
+{
+    if (hasChildNodes(node) || hasAttributes(node) || hasComments(node)) {
+        attach(parent, tag, std::move(node));
+        return;
+    }
+    const std::optional<QString> text = innerText(node);
+    if (!text && !m_settings.stripEmptyNodes && !m_settings.collapseTextNodes)
+        node.insert(m_textKey.text, QString(QLatin1String("")));
+    // A name noted in the node itself goes before the name it was opened with.
+    const QString *noted = node.string(nodekey::name);
+    Name &name = noted ? nameFor(*noted) : tag;
+    attach(parent, tag, node);
+
+    Value *place = find(parent, name);
+    Array *siblings = place ? place->array() : nullptr;
+    if (text && m_settings.collapseTextNodes) {
+        if (siblings && !siblings->isEmpty())
+            siblings->replaceLast(*text);
+        else
+            insert(parent, name, *text);
+    } else if (!text && m_settings.stripEmptyNodes) {
+        if (siblings && !siblings->isEmpty())
+            siblings->removeLast();
+        else
+            remove(parent, name);
+    }
+}
+
+std::optional<Dictionary> TreeBuilder::takeRoot()
+{
+    while (m_depth > 0) {
+        Name &name = *top().name;
+        Dictionary node = makeNode(top());
+        --m_depth;
+        if (m_depth > 0) {
+            top().positionsLost = true;
+            attach(top(), name, std::move(node));
+        } else if (m_settings.wrapRootNode) {
+            m_root = Dictionary{{name.text, std::move(node)}};
+        } else {
+            m_root = std::move(node);
+        }
+    }
+    return std::exchange(m_root, std::nullopt);
+}
+
+} // namespace quillet

@@ -1,0 +1,98 @@
+#pragma once
+
+#include "xml/EventParser.h"
+#include "xml/TextCache.h"
+#include "xml/Value.h"
+#include "xml/XMLDictionaryParser.h"
+
+#include <QHash>
+
+#include <array>
+#include <deque>
+#include <optional>
+#include <vector>
+
+namespace quillet {
+
+/// Turns the events of one parse into a tree of node dictionaries under the settings of an
+/// XMLDictionaryParser. Lives for one parse. An open element is a plain list of keys and values; it
+/// becomes a Dictionary when it closes, sharing its keys with the element of that name before it.
+class TreeBuilder final : public EventHandler
+{
+public:
+    /// `source` is the text being parsed, which must stay alive as long as the builder.
+    TreeBuilder(const XMLDictionaryParser::Settings &settings, QByteArrayView source);
+
+    void startElement(const char *name, const char *const *attributes) override;
+    void endElement() override;
+    void characters(QByteArrayView text) override;
+    void cdataBlock(QByteArrayView bytes) override;
+    void comment(QByteArrayView text) override;
+
+    /// Ends the build and hands out the tree. Elements still open hang in it as they are, not
+    /// collapsed. None when no element had started.
+    [[nodiscard]] std::optional<Dictionary> takeRoot();
+
+private:
+    /// A key, made once for all places where it occurs.
+    struct Name
+    {
+        QString text;
+        // Where the innermost open element that has the key holds it.
+        quint64 element = 0;
+        std::size_t position = 0;
+        // The keys of the last closed element of this name.
+        std::vector<const Name *> lastNames;
+        Dictionary::Keys lastKeys;
+    };
+    struct AddressSlot
+    {
+        const char *address = nullptr;
+        Name *name = nullptr;
+    };
+    struct OpenElement
+    {
+        Name *name = nullptr;
+        quint64 id = 0;
+        bool positionsLost = false; ///< an element inside may have taken over the names' positions
+        std::vector<Name *> names;
+        std::vector<Value> values;
+    };
+
+    Name &nameAt(const char *name);
+    Name &nameFor(const QString &text);
+    OpenElement &top() { return m_stack[m_depth - 1]; }
+
+    static Value *find(OpenElement &element, Name &name);
+    static void append(OpenElement &element, Name &name, Value value);
+    static void insert(OpenElement &element, Name &name, Value value);
+    static void remove(OpenElement &element, Name &name);
+
+    void addAttributes(OpenElement &element, const char *const *attributes);
+    [[nodiscard]] bool isBlankToDrop(QByteArrayView text) const;
+    QString takeText();
+    void endText();
+    static Dictionary makeNode(OpenElement &element);
+    void attach(OpenElement &parent, Name &name, Value child) const;
+    void closeLeaf(OpenElement &parent, Name &name, QString text) const;
+    void closeElement(OpenElement &parent, Name &tag, Dictionary node);
+
+    XMLDictionaryParser::Settings m_settings;
+    QByteArrayView m_source;
+    std::vector<OpenElement> m_stack; ///< grows only: closed elements keep their memory for reuse
+    std::size_t m_depth = 0;
+    quint64 m_lastId = 0;
+    QByteArrayView m_run; ///< the text run collected so far: a part of the source, or m_pieces
+    QByteArray m_pieces;
+    std::optional<Dictionary> m_root;
+    std::deque<Name> m_names;
+    std::array<AddressSlot, 256> m_namesByAddress{}; ///< the parser names an element by one address
+    QHash<QString, Name *> m_namesByText;
+    TextCache m_texts;
+    Name &m_nameKey;
+    Name &m_textKey;
+    Name &m_commentsKey;
+    Name &m_attributesKey;
+};
+
+} // namespace quillet

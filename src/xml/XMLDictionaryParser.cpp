@@ -1,0 +1,71 @@
+#include "xml/XMLDictionaryParser.h"
+
+#include "xml/TreeBuilder.h"
+
+#include <QFile>
+#include <QStringConverter>
+
+namespace quillet {
+
+XMLDictionaryParser &XMLDictionaryParser::sharedInstance()
+{
+    static XMLDictionaryParser parser;
+    return parser;
+}
+
+std::optional<Dictionary> XMLDictionaryParser::dictionaryWithParser(EventParser &parser)
+{
+    TreeBuilder builder(settings, parser.bytes());
+    parser.parse(builder);
+    m_firstError = parser.error();
+    return builder.takeRoot();
+}
+
+std::optional<Dictionary> XMLDictionaryParser::dictionaryWithData(const QByteArray &data)
+{
+    EventParser parser(data);
+    return dictionaryWithParser(parser);
+}
+
+std::optional<Dictionary> XMLDictionaryParser::dictionaryWithString(QStringView string)
+{
+    QStringEncoder encoder(QStringConverter::Utf8);
+    const QByteArray data = encoder.encode(string);
+    if (encoder.hasError()) {
+        m_firstError = ParseError{1, 0, QStringLiteral("The text holds half a surrogate pair")};
+        return {};
+    }
+    return dictionaryWithData(data);
+}
+
+std::optional<Dictionary> XMLDictionaryParser::dictionaryWithFile(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        m_firstError = ParseError{0, 0, file.errorString()};
+        return {};
+    }
+    return dictionaryWithData(file.readAll());
+}
+
+std::optional<Dictionary> dictionaryWithXMLParser(EventParser &parser)
+{
+    return XMLDictionaryParser(XMLDictionaryParser::sharedInstance()).dictionaryWithParser(parser);
+}
+
+std::optional<Dictionary> dictionaryWithXMLData(const QByteArray &data)
+{
+    return XMLDictionaryParser(XMLDictionaryParser::sharedInstance()).dictionaryWithData(data);
+}
+
+std::optional<Dictionary> dictionaryWithXMLString(QStringView string)
+{
+    return XMLDictionaryParser(XMLDictionaryParser::sharedInstance()).dictionaryWithString(string);
+}
+
+std::optional<Dictionary> dictionaryWithXMLFile(const QString &path)
+{
+    return XMLDictionaryParser(XMLDictionaryParser::sharedInstance()).dictionaryWithFile(path);
+}
+
+} // namespace quillet

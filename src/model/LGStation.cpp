@@ -1,0 +1,295 @@
+#include "model/LGStation.h"
+
+#include "model/ItemWriter.h"
+#include "model/NameDecoding.h"
+#include "model/ServiceKind.h"
+#include "model/StationSource.h"
+#include "support/Utf8Builder.h"
+
+#include <limits>
+
+namespace quillet {
+
+namespace {
+
+const StationKeys &itemKeys()
+{
+    static const StationKeys keys{
+        .keyProgNum = QStringLiteral("prNum"),
+        .keyStationName = QStringLiteral("vchName"),
+        .keyStationHexName = QStringLiteral("hexVchName"),
+        .keyInvisible = QStringLiteral("isInvisable"), // the file's own spelling
+        .keySkipped = QStringLiteral("isSkipped"),
+        .keyBlocked = QStringLiteral("isBlocked"),
+        .keySourceIndex = QStringLiteral("sourceIndex"),
+        .keyServiceType = QStringLiteral("serviceType"),
+        .keyService_id = QStringLiteral("service_id"),
+        .keyTransport_id = QStringLiteral("transport_id"),
+        .keyOriginalNetwork_id = QStringLiteral("original_network_id"),
+    };
+    return keys;
+}
+
+struct SourceMapping
+{
+    qint64 sourceIndex; ///< as the file gives it
+    StationSource source;
+};
+
+constexpr std::array sourceMappings{
+    SourceMapping{1, StationSource::Antenna},   SourceMapping{2, StationSource::Analogue},
+    SourceMapping{3, StationSource::Cable},     SourceMapping{4, StationSource::Analogue},
+    SourceMapping{5, StationSource::Analogue},  SourceMapping{6, StationSource::Analogue},
+    SourceMapping{7, StationSource::Satellite},
+};
+
+/// A sign and digits, nothing else; none for anything else and on overflow.
+std::optional<qint64> decimalNumber(QStringView text)
+{
+    const bool negative = text.startsWith(u'-');
+    if (negative || text.startsWith(u'+'))
+        text = text.sliced(1);
+    if (text.isEmpty())
+        return {};
+    const quint64 limit = static_cast<quint64>(std::numeric_limits<qint64>::max()) + negative;
+    quint64 number = 0;
+    for (const QChar c : text) {
+        if (c < u'0' || c > u'9')
+            return {};
+        const auto digit = static_cast<quint64>(c.unicode() - u'0');
+        if (number > (limit - digit) / 10)
+            return {};
+        number = number * 10 + digit;
+    }
+    return static_cast<qint64>(negative ? 0 - number : number);
+}
+
+} // namespace
+
+LGStation::LGStation(Dictionary entry, qint64 origIndex)
+    : m_keys(&itemKeys()), m_entry(std::move(entry)), m_origPos(origIndex)
+{
+    // Deliberately the base class's reading: a subclass brings its own keys afterwards.
+    const std::optional<qint64> number = LGStation::getIntValue(m_keys->keyProgNum);
+    m_isRadio = number && (*number & radioMark) != 0;
+}
+
+std::optional<qint64> LGStation::getIntValue(const QString &key) const
+{
+    const Value *value = m_entry.find(key);
+    if (!value)
+        return {};
+    if (const QString *text = value->string())
+        return decimalNumber(*text);
+    return decimalNumber(value->description());
+}
+
+std::optional<bool> LGStation::getBoolValue(const QString &key) const
+{
+    const Value *value = m_entry.find(key);
+    if (!value)
+        return {};
+    if (const bool *boolean = value->boolean())
+        return *boolean;
+    if (const QString *text = value->string())
+        return decimalNumber(*text).value_or(0) > 0;
+    return {};
+}
+
+void LGStation::setBoolValue(bool value, const QString &key)
+{
+    setValue(key, value ? QStringLiteral("1") : QStringLiteral("0"));
+}
+
+std::optional<QString> LGStation::textValue(const QString &key) const
+{
+    const QString *text = m_entry.string(key);
+    return text ? std::optional(*text) : std::nullopt;
+}
+
+QString LGStation::stationName() const
+{
+    if (!m_name.isEmpty())
+        return m_name;
+    QString candidate;
+    if (const QString *name = m_entry.string(m_keys->keyStationName))
+        candidate = *name;
+    else if (const QString *hex = m_entry.string(m_keys->keyStationHexName))
+        candidate = decodeHexName(*hex);
+    m_name = decodeUtf8Envelope(candidate);
+    if (!m_name.isEmpty())
+        m_usesEnvelope = true;
+    return m_name;
+}
+
+void LGStation::setStationName(const QString &name)
+{
+    if (!name.isEmpty())
+        setValue(m_keys->keyStationName, name);
+}
+
+void LGStation::setEntry(Dictionary entry)
+{
+    m_entry = std::move(entry);
+    m_knowsRawNumber = false;
+}
+
+void LGStation::setKeys(const StationKeys &keys)
+{
+    m_keys = &keys;
+    m_knowsRawNumber = false;
+}
+
+void LGStation::setValue(const QString &key, Value value)
+{
+    m_entry.insert(key, std::move(value));
+    m_knowsRawNumber = false;
+}
+
+std::optional<qint64> LGStation::rawNumber() const
+{
+    if (!m_knowsRawNumber) {
+        m_rawNumber = getIntValue(m_keys->keyProgNum);
+        m_knowsRawNumber = true;
+    }
+    return m_rawNumber;
+}
+
+qint64 LGStation::progNum() const
+{
+    const std::optional<qint64> number = rawNumber();
+    return number ? *number & progNumMask : missingProgNum;
+}
+
+qint64 LGStation::getRawProgNum() const
+{
+    return rawNumber().value_or(missingProgNum);
+}
+
+QString LGStation::progNumString() const
+{
+    return QString::number(progNum());
+}
+
+void LGStation::setProgramNum(qint64 number)
+{
+    setValue(m_keys->keyProgNum, QString::number(m_isRadio ? number | radioMark : number));
+}
+
+bool LGStation::isInvisible() const
+{
+    return getBoolValue(m_keys->keyInvisible).value_or(false);
+}
+
+bool LGStation::isSkipped() const
+{
+    return getBoolValue(m_keys->keySkipped).value_or(false);
+}
+
+bool LGStation::isBlocked() const
+{
+    return getBoolValue(m_keys->keyBlocked).value_or(false);
+}
+
+void LGStation::setSkipped(bool skipped)
+{
+    setBoolValue(skipped, m_keys->keySkipped);
+}
+
+void LGStation::setBlocked(bool blocked)
+{
+    setBoolValue(blocked, m_keys->keyBlocked);
+}
+
+std::optional<QString> LGStation::service_id() const
+{
+    return textValue(m_keys->keyService_id);
+}
+
+std::optional<QString> LGStation::transport_id() const
+{
+    return textValue(m_keys->keyTransport_id);
+}
+
+std::optional<QString> LGStation::originalNetwork_id() const
+{
+    return textValue(m_keys->keyOriginalNetwork_id);
+}
+
+int LGStation::mappedSourceIndex() const
+{
+    const std::optional<qint64> given = getIntValue(m_keys->keySourceIndex);
+    const auto found = std::find_if(sourceMappings.begin(), sourceMappings.end(),
+                                    [&given](const auto &row) { return row.sourceIndex == given; });
+    return static_cast<int>(found == sourceMappings.end() ? StationSource::Analogue
+                                                          : found->source);
+}
+
+bool LGStation::isTVStation() const
+{
+    const std::optional<qint64> code = getIntValue(m_keys->keyServiceType);
+    return code && serviceKindFacts(*code).isTV;
+}
+
+bool LGStation::isRadioStation() const
+{
+    const std::optional<qint64> code = getIntValue(m_keys->keyServiceType);
+    return code && serviceKindFacts(*code).isRadio;
+}
+
+QString LGStation::channelType() const
+{
+    const std::optional<qint64> code = getIntValue(m_keys->keyServiceType);
+    return code ? QString(serviceKindFacts(*code).channelType) : QStringLiteral("?");
+}
+
+QString LGStation::channelTypeForDisplay(int sourceIndex) const
+{
+    const std::optional<qint64> code = getIntValue(m_keys->keyServiceType);
+    if (!code)
+        return QStringLiteral("?");
+    const ServiceKindFacts &facts = serviceKindFacts(*code);
+    const bool inAntenna = sourceIndex == static_cast<int>(StationSource::Antenna);
+    return inAntenna ? facts.displayInAntenna : facts.display;
+}
+
+bool LGStation::matchesType(int filter, int sourceIndex) const
+{
+    const qint64 code =
+        getIntValue(m_keys->keyServiceType).value_or(static_cast<qint64>(ServiceKind::DigitalTV));
+    const ServiceKindFacts &facts = serviceKindFacts(code);
+    if (facts.filterClass == FilterClass::Radio)
+        return false;
+    const std::optional<TypeFilter> known = typeFilter(filter);
+    if (!known)
+        qFatal("Unexpected case of TypeFilter: %d", filter);
+    const bool inAntenna = sourceIndex == static_cast<int>(StationSource::Antenna);
+    return passes(inAntenna ? facts.filterClassInAntenna : facts.filterClass, *known);
+}
+
+QString LGStation::getXMLItem() const
+{
+    QString item;
+    writeItem(m_entry, m_keys->keyStationName, item);
+    return item;
+}
+
+void LGStation::appendXMLItem(Utf8Builder &output) const
+{
+    writeItem(m_entry, m_keys->keyStationName, output);
+}
+
+QString LGStation::describedAs(QLatin1String className) const
+{
+    return QStringLiteral("%1 [Index = %2, dirty = %3] #%4 %5")
+        .arg(className, QString::number(m_origPos),
+             m_isDirty ? QStringLiteral("true") : QStringLiteral("false"), progNumString(),
+             stationName());
+}
+
+QString LGStation::description() const
+{
+    return describedAs(QLatin1String("LGStation"));
+}
+
+} // namespace quillet

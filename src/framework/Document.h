@@ -1,0 +1,124 @@
+#pragma once
+
+#include "framework/Error.h"
+
+#include <QByteArray>
+#include <QObject>
+#include <QUrl>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace quillet {
+
+class FileOperations;
+class Prompts;
+class WindowController;
+struct Alert;
+
+/// One open file: its URL, whether it has changes, reading, safe writing and reverting. A subclass
+/// supplies the content (readFromData, dataOfType) and its windows (makeWindowControllers). Owned
+/// by the DocumentController once added there; owns its window controllers. Shows nothing itself:
+/// what must be asked goes through the Prompts it was given.
+class Document : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum class Change { Done, Cleared };
+
+    explicit Document(QObject *parent = nullptr);
+    ~Document() override;
+
+    /// The file this document was read from and is saved to; empty for a new document.
+    [[nodiscard]] const QUrl &fileUrl() const { return m_fileUrl; }
+    void setFileUrl(const QUrl &url);
+    [[nodiscard]] const QString &fileType() const { return m_fileType; }
+    void setFileType(const QString &typeName) { m_fileType = typeName; }
+    /// The file's name, or the localized word for an untitled document.
+    [[nodiscard]] QString displayName() const;
+    /// Where questions and failures of this document are shown; none: they are dropped.
+    void setPrompts(Prompts *prompts) { m_prompts = prompts; }
+    [[nodiscard]] Prompts *prompts() const { return m_prompts; }
+    /// What saving writes with, which must outlive the document; a plain one unless set.
+    void setFileOperations(FileOperations &operations) { m_fileOperations = &operations; }
+
+    /// Fills the document from a file's bytes. A failure may leave `error` empty.
+    virtual bool readFromData(const QByteArray &data, const QString &typeName, Error &error) = 0;
+    /// The bytes to write to a file of that type.
+    [[nodiscard]] virtual QByteArray dataOfType(const QString &typeName, Error &error) = 0;
+    /// Whether readFromData would succeed, found out without touching this document.
+    [[nodiscard]] virtual bool canRead(const QByteArray &data, const QString &typeName,
+                                       Error &error) const = 0;
+    /// Reads the file's bytes and hands them to readFromData. A success makes the document
+    /// unchanged, of that URL and type, and remembers the file's state for the next save. On
+    /// failure the error is always set; when the file itself could not be read, the document is
+    /// untouched.
+    bool readFromUrl(const QUrl &url, const QString &typeName, Error &error);
+
+    /// Called once after the document was opened or made new. The base makes none.
+    virtual void makeWindowControllers();
+    void addWindowController(std::unique_ptr<WindowController> controller);
+    [[nodiscard]] const std::vector<std::unique_ptr<WindowController>> &windowControllers() const
+    {
+        return m_windowControllers;
+    }
+    /// Destroys the windows, while the whole document still exists.
+    void removeWindowControllers();
+
+    /// Whether the command with that name (an action's objectName) is enabled; the base says no.
+    [[nodiscard]] virtual bool validateUserInterfaceItem(const QString &action) const;
+
+    void updateChangeCount(Change change);
+    /// Drives the window's modified mark: changes since opening or the last save.
+    [[nodiscard]] bool isDocumentEdited() const { return m_changeCount > 0; }
+    /// Whether closing must ask first.
+    [[nodiscard]] virtual bool hasUnautosavedChanges() const { return isDocumentEdited(); }
+
+    /// Writes the document to its file. A file changed by somebody else since it was read is only
+    /// overwritten after asking; a failure is shown in a sheet and leaves the old file whole and
+    /// the document changed. `done` (may be empty) gets whether the file was written: false at
+    /// once without a file and while another question of this document is open.
+    void saveDocument(std::function<void(bool)> done = {});
+    /// Asks, then reads the file again and refills every window. When it cannot be read any more,
+    /// that is shown and the document stays as it is.
+    void revertDocumentToSaved();
+    /// Asks about unsaved changes if there are any. `done` gets true when the document may be
+    /// closed (saved, or changes given up), false at once while another question is open.
+    void askToClose(std::function<void(bool)> done);
+
+    /// Shows an error as a sheet on the document's window.
+    void presentError(const QString &message, const Error &error);
+
+signals:
+    void fileUrlChanged();
+    void documentEditedChanged();
+
+protected:
+    /// Called after the file was written; the base clears the change count.
+    virtual void documentWasSaved();
+    /// Deleting later takes the windows away first.
+    bool event(QEvent *event) override;
+
+private:
+    [[nodiscard]] QWidget *sheetWindow() const;
+    /// Shows the alert; `answered` gets the button, or -1 when nobody can be asked.
+    void ask(const Alert &alert, const std::function<void(int)> &answered);
+    [[nodiscard]] bool wasChangedOnDisk() const;
+    void write(const std::function<void(bool)> &done);
+    void revert();
+    [[nodiscard]] bool takeData(const QByteArray &bytes, const QUrl &url, const QString &typeName,
+                                Error &error);
+
+    QUrl m_fileUrl;
+    QString m_fileType;
+    Prompts *m_prompts = nullptr;
+    FileOperations *m_fileOperations;
+    int m_changeCount = 0;
+    bool m_isAsking = false;
+    QByteArray m_diskDigest; ///< of the bytes last read or written
+    std::vector<std::unique_ptr<WindowController>> m_windowControllers;
+};
+
+} // namespace quillet

@@ -1,0 +1,258 @@
+#include "framework/DocumentController.h"
+
+#include "framework/Error.h"
+#include "framework/Prompts.h"
+#include "framework/RecentFiles.h"
+#include "framework/WindowController.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QMainWindow>
+#include <QPointer>
+
+#include <algorithm>
+
+namespace quillet {
+
+namespace {
+
+/// Where a file is, whatever links lead to it; a file that is not there keeps its own path.
+QString placeOf(const QUrl &url)
+{
+    const QFileInfo info(url.toLocalFile());
+    const QString canonical = info.canonicalFilePath();
+    return canonical.isEmpty() ? info.absoluteFilePath() : canonical;
+}
+
+void raise(const Document &document)
+{
+    for (const auto &controller : document.windowControllers())
+        controller->raiseWindow();
+}
+
+bool hasWindow(const Document &document, const QWidget *window)
+{
+    const auto &controllers = document.windowControllers();
+    return std::any_of(controllers.begin(), controllers.end(),
+                       [window](const auto &each) { return each->window() == window; });
+}
+
+} // namespace
+
+DocumentController::DocumentController(Factory makeDocument, QString typeName, Prompts &prompts,
+                                       QObject *parent)
+    : QObject(parent), m_makeDocument(std::move(makeDocument)), m_typeName(std::move(typeName)),
+      m_prompts(prompts), m_recentFiles(std::make_unique<RecentFiles>())
+{
+}
+
+DocumentController::~DocumentController()
+{
+    for (const auto &document : m_documents)
+        document->removeWindowControllers();
+    const auto closing = findChildren<Document *>(Qt::FindDirectChildrenOnly);
+    for (Document *document : closing)
+        document->removeWindowControllers();
+}
+
+Document *DocumentController::currentDocument() const
+{
+    // A sheet or a panel stands for the window it belongs to.
+    for (const QWidget *widget = QApplication::activeWindow(); widget;
+         widget = widget->parentWidget()) {
+        for (const auto &document : m_documents) {
+            if (hasWindow(*document, widget))
+                return document.get();
+        }
+    }
+    return nullptr;
+}
+
+QWidget *DocumentController::currentWindow() const
+{
+    const Document *document = currentDocument();
+    return document ? document->windowControllers().front()->window() : nullptr;
+}
+
+Document *DocumentController::newDocument()
+{
+    auto document = m_makeDocument();
+    document->setPrompts(&m_prompts);
+    document->setFileType(m_typeName);
+    return adopt(std::move(document), nullptr);
+}
+
+Document *DocumentController::openDocument(const QUrl &url)
+{
+    Error error;
+    Document *document = open(url, error);
+    if (!document)
+        presentOpenError(url, error);
+    return document;
+}
+
+void DocumentController::openDocuments(const QList<QUrl> &urls)
+{
+    // A file that opens may replace the window that a message about another one belongs to.
+    std::vector<std::pair<QUrl, Error>> failures;
+    for (const QUrl &url : urls) {
+        Error error;
+        if (!open(url, error))
+            failures.emplace_back(url, error);
+    }
+    for (const auto &[url, error] : failures)
+        presentOpenError(url, error);
+}
+
+Document *DocumentController::open(const QUrl &url, Error &error)
+{
+    Document *document = documentForUrl(url);
+    if (document) {
+        raise(*document);
+    } else {
+        auto made = m_makeDocument();
+        made->setPrompts(&m_prompts);
+        made->setFileUrl(url);
+        if (!made->readFromUrl(url, m_typeName, error))
+            return nullptr;
+        Document *untouched = untouchedDocument();
+        document = adopt(std::move(made), untouched);
+        if (untouched)
+            remove(untouched);
+    }
+    m_recentFiles->add(url.toLocalFile());
+    return document;
+}
+
+void DocumentController::showOpenPanel(const QStringList &nameFilters)
+{
+    OpenPanel panel;
+    panel.title = qtTrId("kOpenTitle");
+    panel.nameFilters = nameFilters;
+    panel.allowsSeveral = true;
+    const QPointer<DocumentController> guard(this);
+    m_prompts.showOpenPanel(currentWindow(), panel, [guard](const QStringList &paths) {
+        QList<QUrl> urls;
+        for (const QString &path : paths)
+            urls.append(QUrl::fromLocalFile(path));
+        if (guard)
+            guard->openDocuments(urls);
+    });
+}
+
+void DocumentController::presentOpenError(const QUrl &url, const Error &error)
+{
+    Alert alert;
+    alert.message = qtTrId("kOpenFailedMessage").arg(url.fileName());
+    alert.informativeText = error.localizedDescription;
+    alert.buttons = {qtTrId("kOK")};
+    m_prompts.showAlert(currentWindow(), alert, [](const AlertAnswer &) {});
+}
+
+Document *DocumentController::adopt(std::unique_ptr<Document> document, Document *replaced)
+{
+    Document *added = document.get();
+    m_documents.push_back(std::move(document));
+    added->makeWindowControllers();
+    for (const auto &controller : added->windowControllers()) {
+        connect(controller.get(), &WindowController::closeRequested, this,
+                [this, added] { closeDocument(added); });
+        if (replaced && !replaced->windowControllers().empty())
+            controller->takeFrameOf(*replaced->windowControllers().front()->window());
+        controller->showWindow();
+    }
+    emit documentsChanged();
+    return added;
+}
+
+void DocumentController::remove(Document *document)
+{
+    const auto found =
+        std::find_if(m_documents.begin(), m_documents.end(),
+                     [document](const auto &each) { return each.get() == document; });
+    if (found == m_documents.end())
+        return;
+    for (const auto &controller : document->windowControllers())
+        controller->closeWindow();
+    // One of the windows may be sending the very signal that led here.
+    found->release()->setParent(this);
+    document->deleteLater();
+    m_documents.erase(found);
+    emit documentsChanged();
+    if (m_documents.empty())
+        emit lastDocumentClosed();
+}
+
+void DocumentController::closeDocument(Document *document, std::function<void(bool)> done)
+{
+    const QPointer<DocumentController> guard(this);
+    document->askToClose([guard, document, done](bool mayClose) {
+        if (mayClose && guard)
+            guard->remove(document);
+        if (done)
+            done(mayClose);
+    });
+}
+
+void DocumentController::closeAllDocuments(std::function<void(bool)> done)
+{
+    if (m_isReviewing)
+        return done(false);
+    m_isReviewing = true;
+    reviewNext({}, done);
+}
+
+void DocumentController::reviewNext(std::vector<Document *> givenUp,
+                                    const std::function<void(bool)> &done)
+{
+    // A document saved during the review is asked about again if it was changed after that.
+    const auto needsReview = [&givenUp](const auto &document) {
+        return document->hasUnautosavedChanges() &&
+               std::find(givenUp.begin(), givenUp.end(), document.get()) == givenUp.end();
+    };
+    const auto next = std::find_if(m_documents.begin(), m_documents.end(), needsReview);
+    if (next == m_documents.end())
+        return closeAllReviewed(done);
+    Document *document = next->get();
+    raise(*document);
+    const QPointer<DocumentController> guard(this);
+    document->askToClose([guard, givenUp, document, done](bool mayClose) mutable {
+        if (!guard)
+            return;
+        if (!mayClose) {
+            guard->m_isReviewing = false;
+            return done(false);
+        }
+        if (document->hasUnautosavedChanges())
+            givenUp.push_back(document);
+        guard->reviewNext(std::move(givenUp), done);
+    });
+}
+
+void DocumentController::closeAllReviewed(const std::function<void(bool)> &done)
+{
+    m_isReviewing = false;
+    while (!m_documents.empty())
+        remove(m_documents.back().get());
+    done(true);
+}
+
+Document *DocumentController::documentForUrl(const QUrl &url) const
+{
+    const QString place = placeOf(url);
+    const auto found = std::find_if(m_documents.begin(), m_documents.end(), [&](const auto &each) {
+        return !each->fileUrl().isEmpty() && placeOf(each->fileUrl()) == place;
+    });
+    return found == m_documents.end() ? nullptr : found->get();
+}
+
+Document *DocumentController::untouchedDocument() const
+{
+    const auto found = std::find_if(m_documents.begin(), m_documents.end(), [](const auto &each) {
+        return each->fileUrl().isEmpty() && !each->isDocumentEdited() &&
+               !each->hasUnautosavedChanges();
+    });
+    return found == m_documents.end() ? nullptr : found->get();
+}
+
+} // namespace quillet

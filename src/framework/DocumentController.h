@@ -1,0 +1,85 @@
+#pragma once
+
+#include "framework/Document.h"
+
+#include <QObject>
+#include <QStringList>
+#include <QUrl>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace quillet {
+
+class Prompts;
+class RecentFiles;
+struct Error;
+
+/// The open documents of the program: makes new ones, opens files (raising the window of one that
+/// is open already, reusing an untouched empty window), closes them and reviews unsaved changes
+/// before quitting. Owns the documents; a closed one lives on, without windows, until the event
+/// loop runs again.
+class DocumentController : public QObject
+{
+    Q_OBJECT
+
+public:
+    using Factory = std::function<std::unique_ptr<Document>()>;
+
+    /// `makeDocument` makes an empty document of the program's one type, whose name is `typeName`.
+    DocumentController(Factory makeDocument, QString typeName, Prompts &prompts,
+                       QObject *parent = nullptr);
+    ~DocumentController() override;
+
+    [[nodiscard]] const std::vector<std::unique_ptr<Document>> &documents() const
+    {
+        return m_documents;
+    }
+    /// The document of the active window; none when no window is active.
+    [[nodiscard]] Document *currentDocument() const;
+    [[nodiscard]] RecentFiles &recentFiles() const { return *m_recentFiles; }
+    [[nodiscard]] Prompts &prompts() const { return m_prompts; }
+
+    /// Opens an empty document in a window of its own.
+    Document *newDocument();
+    /// Opens a file in a window and puts it first among the recent files. Returns none after
+    /// showing what was wrong.
+    Document *openDocument(const QUrl &url);
+    /// Opens each file, then shows what was wrong with those that could not be opened.
+    void openDocuments(const QList<QUrl> &urls);
+    /// Asks for files and opens each.
+    void showOpenPanel(const QStringList &nameFilters);
+
+    /// Closes the document, asking first when it has unsaved changes. `done` gets whether it
+    /// closed.
+    void closeDocument(Document *document, std::function<void(bool)> done = {});
+    /// Asks about unsaved changes, document after document, and then closes them all. As soon as
+    /// one answer is to cancel, every document stays open and `done` gets false.
+    void closeAllDocuments(std::function<void(bool)> done);
+
+signals:
+    void documentsChanged();
+    void lastDocumentClosed();
+
+private:
+    [[nodiscard]] Document *open(const QUrl &url, Error &error);
+    /// Takes over the document and shows its windows, in the place of those of `replaced`.
+    Document *adopt(std::unique_ptr<Document> document, Document *replaced);
+    void remove(Document *document);
+    void presentOpenError(const QUrl &url, const Error &error);
+    void reviewNext(std::vector<Document *> givenUp, const std::function<void(bool)> &done);
+    void closeAllReviewed(const std::function<void(bool)> &done);
+    [[nodiscard]] Document *documentForUrl(const QUrl &url) const;
+    [[nodiscard]] Document *untouchedDocument() const;
+    [[nodiscard]] QWidget *currentWindow() const;
+
+    Factory m_makeDocument;
+    QString m_typeName;
+    Prompts &m_prompts;
+    std::unique_ptr<RecentFiles> m_recentFiles;
+    std::vector<std::unique_ptr<Document>> m_documents;
+    bool m_isReviewing = false;
+};
+
+} // namespace quillet

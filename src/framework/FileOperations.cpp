@@ -1,0 +1,142 @@
+#include "framework/FileOperations.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <cerrno>
+#include <filesystem>
+#include <system_error>
+
+#ifdef Q_OS_WIN
+#include <io.h>
+#else
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
+namespace quillet {
+
+namespace {
+
+QString text(const std::error_code &code)
+{
+    return QString::fromLocal8Bit(code.message());
+}
+
+/// True when a system call answered 0; otherwise puts its errno's text into `reason`.
+bool succeeded(int result, QString &reason)
+{
+    if (result == 0)
+        return true;
+    reason = text(std::error_code(errno, std::generic_category()));
+    return false;
+}
+
+} // namespace
+
+bool FileOperations::create(QFile &file, bool isPrivate, QString &reason)
+{
+    const auto mode = QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered;
+#ifdef Q_OS_WIN
+    Q_UNUSED(isPrivate); // access rights come from the folder
+    const bool isOpen = file.open(mode);
+#else
+    const bool isOpen =
+        isPrivate ? file.open(mode, QFile::ReadOwner | QFile::WriteOwner) : file.open(mode);
+#endif
+    if (!isOpen)
+        reason = file.errorString();
+    return isOpen;
+}
+
+qint64 FileOperations::write(QFile &file, const QByteArray &bytes, QString &reason)
+{
+    // A disk that is nearly full takes a part first and says why only when asked to take the rest.
+    qint64 count = 0;
+    while (count < bytes.size()) {
+        const qint64 taken = file.write(bytes.constData() + count, bytes.size() - count);
+        if (taken <= 0) {
+            reason = file.errorString();
+            break;
+        }
+        count += taken;
+    }
+    return count;
+}
+
+bool FileOperations::copyPermissions(const QString &path, QFile &file, QString &reason)
+{
+#ifdef Q_OS_WIN
+    Q_UNUSED(path);
+    Q_UNUSED(file);
+    Q_UNUSED(reason);
+    return true;
+#else
+    struct stat wanted = {};
+    struct stat made = {};
+    if (!succeeded(::stat(QFile::encodeName(path).constData(), &wanted), reason) ||
+        !succeeded(::fstat(file.handle(), &made), reason))
+        return false;
+    const bool isSameOwner = wanted.st_uid == made.st_uid && wanted.st_gid == made.st_gid;
+    if (!isSameOwner && ::fchown(file.handle(), wanted.st_uid, wanted.st_gid) != 0) {
+        // Only the superuser gives files away; the group can often be kept all the same.
+        [[maybe_unused]] const int result =
+            ::fchown(file.handle(), static_cast<uid_t>(-1), wanted.st_gid);
+    }
+    // A file system without permissions gives every file the same ones and may refuse to set them.
+    const mode_t all = S_ISUID | S_ISGID | S_ISVTX | S_IRWXU | S_IRWXG | S_IRWXO;
+    const mode_t mode = wanted.st_mode & all;
+    return mode == (made.st_mode & all) || succeeded(::fchmod(file.handle(), mode), reason);
+#endif
+}
+
+bool FileOperations::sync(QFile &file, QString &reason)
+{
+    if (!file.flush()) {
+        reason = file.errorString();
+        return false;
+    }
+#if defined(Q_OS_WIN)
+    return succeeded(::_commit(file.handle()), reason);
+#elif defined(Q_OS_DARWIN)
+    // Plain fsync() there leaves the bytes in the drive's own cache.
+    return ::fcntl(file.handle(), F_FULLFSYNC) == 0 || succeeded(::fsync(file.handle()), reason);
+#else
+    return succeeded(::fsync(file.handle()), reason);
+#endif
+}
+
+bool FileOperations::readBack(const QString &path, QByteArray &bytes, QString &reason)
+{
+    QFile file(path);
+    if (file.open(QIODevice::ReadOnly))
+        bytes = file.readAll();
+    reason = file.errorString();
+    return file.error() == QFile::NoError;
+}
+
+bool FileOperations::rename(const QString &from, const QString &to, QString &reason)
+{
+    std::error_code code;
+    std::filesystem::rename(QFileInfo(from).filesystemFilePath(),
+                            QFileInfo(to).filesystemFilePath(), code);
+    if (code)
+        reason = text(code);
+    return !code;
+}
+
+void FileOperations::syncFolder(const QString &folder)
+{
+#ifdef Q_OS_WIN
+    Q_UNUSED(folder);
+#else
+    const int handle = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_CLOEXEC);
+    if (handle < 0)
+        return;
+    ::fsync(handle);
+    ::close(handle);
+#endif
+}
+
+} // namespace quillet

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+class QFile;
+
+namespace quillet {
+
+/// The single steps of replacing a file that touch the disk. The program uses this class as it is;
+/// the steps are virtual so that each can be made to fail, or to lie, on its own. A step that fails
+/// says why in `reason`, in the system's words.
+class FileOperations
+{
+public:
+    virtual ~FileOperations() = default;
+
+    /// Makes the file, which must not exist yet, and opens it for writing without a buffer. A
+    /// private one can be read and written by nobody but its owner.
+    virtual bool create(QFile &file, bool isPrivate, QString &reason);
+    /// Answers how many bytes were written; fewer than given is a failure.
+    virtual qint64 write(QFile &file, const QByteArray &bytes, QString &reason);
+    /// Gives the open file the permissions of the one at `path` and, where the system lets us, its
+    /// owner and group.
+    virtual bool copyPermissions(const QString &path, QFile &file, QString &reason);
+    /// Returns when the open file's bytes have reached the disk.
+    virtual bool sync(QFile &file, QString &reason);
+    virtual bool readBack(const QString &path, QByteArray &bytes, QString &reason);
+    /// Puts one file in the place of another in a single step.
+    virtual bool rename(const QString &from, const QString &to, QString &reason);
+    /// Brings a rename in that folder onto the disk, on file systems that can.
+    virtual void syncFolder(const QString &folder);
+};
+
+} // namespace quillet

@@ -1,0 +1,101 @@
+#include "framework/FileReplacement.h"
+
+#include "framework/FileOperations.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QRandomGenerator>
+#include <QScopeGuard>
+
+#include <filesystem>
+#include <optional>
+#include <system_error>
+
+namespace fs = std::filesystem;
+
+namespace quillet {
+
+namespace {
+
+Error failure(FileReplacement::Failure code, const QString &description)
+{
+    return {
+        QString::fromLatin1(FileReplacement::errorDomain), static_cast<int>(code), description, {}};
+}
+
+/// The path of the file that a chain of symbolic links ends at, which need not exist. None when the
+/// chain runs in a circle. No path is tidied as text: ".." after a linked folder means what it
+/// means to the system.
+std::optional<QString> resolveLinks(const QString &path)
+{
+    constexpr int longestChain = 40;
+    fs::path current = QFileInfo(path).filesystemFilePath();
+    std::error_code code;
+    for (int i = 0; i < longestChain && !code; ++i) {
+        if (!fs::is_symlink(current, code))
+            return QFileInfo(current).filePath();
+        current = current.parent_path() / fs::read_symlink(current, code);
+    }
+    return std::nullopt;
+}
+
+/// A path in the folder that no file has yet. The name is short whatever the target is called.
+QString unusedPath(const QString &folder)
+{
+    QString path;
+    do {
+        path = QStringLiteral("%1/.quillet-%2")
+                   .arg(folder)
+                   .arg(QRandomGenerator::global()->generate(), 8, 16, QLatin1Char('0'));
+    } while (QFileInfo::exists(path));
+    return path;
+}
+
+} // namespace
+
+bool FileReplacement::replace(const QString &path, const QByteArray &bytes, Error &error)
+{
+    const std::optional<QString> target = resolveLinks(path);
+    error = target ? replaceTarget(*target, bytes)
+                   : failure(Failure::Target, qtTrId("kLinkCircleReason"));
+    if (!error.isEmpty())
+        error.filePath = path;
+    return error.isEmpty();
+}
+
+Error FileReplacement::replaceTarget(const QString &target, const QByteArray &bytes)
+{
+    const QFileInfo info(target);
+    const bool hasOldFile = info.exists();
+    // A rename would not ask for the right to write the old file, nor mind what kind of file it is.
+    if (hasOldFile && !info.isFile())
+        return failure(Failure::Target, qtTrId("kNotAFileReason").arg(info.fileName()));
+    if (hasOldFile && !info.isWritable())
+        return failure(Failure::Target, qtTrId("kWriteProtectedReason").arg(info.fileName()));
+
+    QFile file(unusedPath(info.path()));
+    QString reason;
+    if (!m_operations.create(file, hasOldFile, reason))
+        return failure(Failure::Create, qtTrId("kCreateFailedReason").arg(info.path(), reason));
+    auto removeNewFile = qScopeGuard([&file] { file.remove(); });
+    if (m_operations.write(file, bytes, reason) != bytes.size())
+        return failure(Failure::Write, qtTrId("kWriteFailedReason").arg(reason));
+    if (hasOldFile && !m_operations.copyPermissions(target, file, reason))
+        return failure(Failure::Permissions, qtTrId("kPermissionsFailedReason").arg(reason));
+    if (!m_operations.sync(file, reason))
+        return failure(Failure::Sync, qtTrId("kWriteFailedReason").arg(reason));
+    file.close();
+
+    QByteArray found;
+    if (!m_operations.readBack(file.fileName(), found, reason))
+        return failure(Failure::Compare, qtTrId("kReadBackFailedReason").arg(reason));
+    if (found != bytes)
+        return failure(Failure::Compare, qtTrId("kCompareFailedReason"));
+    if (!m_operations.rename(file.fileName(), target, reason))
+        return failure(Failure::Rename, qtTrId("kReplaceFailedReason").arg(reason));
+    removeNewFile.dismiss();
+    m_operations.syncFolder(info.path());
+    return {};
+}
+
+} // namespace quillet

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "framework/Error.h"
+
+#include <QByteArray>
+#include <QString>
+
+namespace quillet {
+
+class FileOperations;
+
+/// Replaces a file's content so that at every moment the path names either the whole old file or
+/// the whole new one:
+///   1. the bytes go to a new file in the same folder, whose short name has nothing to do with the
+///      target's (a crash up to step 4 leaves that file behind and the old one whole);
+///   2. it gets the old file's permissions and is brought onto the disk;
+///   3. it is read back and compared, because a full disk may take a write without complaint;
+///   4. it takes the old file's place in one step;
+///   5. the folder is brought onto the disk (a crash before that may bring the old file back).
+/// Any failure removes the new file. A symbolic link stays; the file it points to is replaced.
+class FileReplacement
+{
+public:
+    /// Which step failed: the code of the error.
+    enum class Failure { Target = 1, Create, Write, Permissions, Sync, Compare, Rename };
+    static constexpr char errorDomain[] = "FileReplacement";
+
+    explicit FileReplacement(FileOperations &operations) : m_operations(operations) {}
+
+    [[nodiscard]] bool replace(const QString &path, const QByteArray &bytes, Error &error);
+
+private:
+    [[nodiscard]] Error replaceTarget(const QString &target, const QByteArray &bytes);
+
+    FileOperations &m_operations;
+};
+
+} // namespace quillet

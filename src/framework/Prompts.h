@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+
+class QPrinter;
+class QWidget;
+
+namespace quillet {
+
+/// What an alert sheet says and offers. The first button is the default one.
+struct Alert
+{
+    QString message;
+    QString informativeText;
+    QStringList buttons;
+    int cancelButton = -1;      ///< index of the button that Escape presses; -1: the last one
+    int destructiveButton = -1; ///< index of a button that throws changes away; -1: none
+    bool asksForText = false;   ///< shows a single-line text field, empty and focused
+};
+
+/// The button pressed (an index into Alert::buttons) and the field's text, if one was asked for.
+struct AlertAnswer
+{
+    int button = -1;
+    QString text;
+};
+
+/// What a panel that asks for files to open offers.
+struct OpenPanel
+{
+    QString title;
+    QString directory;       ///< where it starts; empty: where the last one ended
+    QStringList nameFilters; ///< "Name (*.a *.b)", the preselected one first
+    bool allowsSeveral = false;
+};
+
+/// Everything the program asks a person, behind one interface, so that a test presets the answers.
+/// All questions are sheets: they belong to the given window (none: to the program), the call
+/// returns at once and the answer arrives later, at most once. It never arrives when the window
+/// goes away first.
+class Prompts
+{
+public:
+    virtual ~Prompts() = default;
+
+    virtual void showAlert(QWidget *window, const Alert &alert,
+                           std::function<void(const AlertAnswer &)> done) = 0;
+    /// Answers the chosen paths; none when cancelled.
+    virtual void showOpenPanel(QWidget *window, const OpenPanel &panel,
+                               std::function<void(const QStringList &)> done) = 0;
+    /// Lets the person choose where and how to print; `print` is called only on confirmation.
+    virtual void showPrintPanel(QWidget *window, const QString &documentName,
+                                std::function<void(QPrinter &)> print) = 0;
+};
+
+} // namespace quillet

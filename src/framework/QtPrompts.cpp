@@ -1,0 +1,151 @@
+#include "framework/QtPrompts.h"
+
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QGridLayout>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPushButton>
+#include <QSettings>
+#include <QStandardPaths>
+
+#include <memory>
+
+namespace quillet {
+
+namespace {
+
+QString folderKey()
+{
+    return QStringLiteral("openPanel/folder");
+}
+
+/// Shows a dialog as a sheet of its window; without one, before the whole program.
+void present(QDialog &dialog, const QString &objectName)
+{
+    dialog.setObjectName(objectName);
+    dialog.setAttribute(Qt::WA_DeleteOnClose);
+    if (dialog.parentWidget()) {
+        dialog.open();
+    } else {
+        dialog.setWindowModality(Qt::ApplicationModal);
+        dialog.show();
+    }
+}
+
+QMessageBox::ButtonRole roleOf(int button, int cancelButton, const Alert &alert)
+{
+    if (button == alert.destructiveButton)
+        return QMessageBox::DestructiveRole;
+    // A lone button is the one that accepts, even though Escape presses it as well.
+    return button == cancelButton && alert.buttons.size() > 1 ? QMessageBox::RejectRole
+                                                              : QMessageBox::AcceptRole;
+}
+
+void addButtons(QMessageBox &box, const Alert &alert)
+{
+    const int last = static_cast<int>(alert.buttons.size()) - 1;
+    const int cancelButton = alert.cancelButton < 0 ? last : alert.cancelButton;
+    for (int i = 0; i <= last; ++i) {
+        QPushButton *button = box.addButton(alert.buttons[i], roleOf(i, cancelButton, alert));
+        button->setObjectName(QStringLiteral("alertButton%1").arg(i));
+        if (i == 0)
+            box.setDefaultButton(button);
+        if (i == cancelButton)
+            box.setEscapeButton(button);
+    }
+}
+
+/// Lays a text field out between the texts and the buttons, which come last in a message box.
+QLineEdit *addTextField(QMessageBox &box, const QString &name)
+{
+    auto *field = new QLineEdit(&box);
+    field->setObjectName(QStringLiteral("alertTextField"));
+    field->setAccessibleName(name);
+    auto *grid = qobject_cast<QGridLayout *>(box.layout());
+    auto *buttons = box.findChild<QDialogButtonBox *>();
+    if (grid && buttons) {
+        grid->removeWidget(buttons);
+        grid->addWidget(field, grid->rowCount(), grid->columnCount() - 1);
+        grid->addWidget(buttons, grid->rowCount(), 0, 1, grid->columnCount());
+    }
+    field->setFocus();
+    return field;
+}
+
+/// Names of files are shown as they are, also when they look like markup.
+void showAsPlainText(QMessageBox &box)
+{
+    const QList<QLabel *> labels = box.findChildren<QLabel *>();
+    for (QLabel *label : labels)
+        label->setTextFormat(Qt::PlainText);
+}
+
+int indexOfClickedButton(const QMessageBox &box, const Alert &alert)
+{
+    for (int i = 0; i < alert.buttons.size(); ++i) {
+        const QAbstractButton *clicked = box.clickedButton();
+        if (clicked && clicked->objectName() == QStringLiteral("alertButton%1").arg(i))
+            return i;
+    }
+    return -1;
+}
+
+} // namespace
+
+void QtPrompts::showAlert(QWidget *window, const Alert &alert,
+                          std::function<void(const AlertAnswer &)> done)
+{
+    auto *box = new QMessageBox(window);
+    box->setIcon(alert.destructiveButton < 0 ? QMessageBox::NoIcon : QMessageBox::Warning);
+    box->setWindowTitle(QGuiApplication::applicationDisplayName());
+    box->setText(alert.message);
+    box->setInformativeText(alert.informativeText);
+    showAsPlainText(*box);
+    addButtons(*box, alert);
+    QLineEdit *field = alert.asksForText ? addTextField(*box, alert.message) : nullptr;
+    QObject::connect(box, &QDialog::finished, box, [box, field, alert, done] {
+        done({indexOfClickedButton(*box, alert), field ? field->text() : QString()});
+    });
+    present(*box, QStringLiteral("alert"));
+}
+
+void QtPrompts::showOpenPanel(QWidget *window, const OpenPanel &panel,
+                              std::function<void(const QStringList &)> done)
+{
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    const QString remembered = QSettings().value(folderKey(), documents).toString();
+    auto *dialog = new QFileDialog(window, panel.title,
+                                   panel.directory.isEmpty() ? remembered : panel.directory);
+    dialog->setAcceptMode(QFileDialog::AcceptOpen);
+    dialog->setFileMode(panel.allowsSeveral ? QFileDialog::ExistingFiles
+                                            : QFileDialog::ExistingFile);
+    dialog->setNameFilters(panel.nameFilters);
+    QObject::connect(dialog, &QDialog::finished, dialog, [dialog, done](int result) {
+        if (result != QDialog::Accepted)
+            return done({});
+        QSettings().setValue(folderKey(), dialog->directory().absolutePath());
+        done(dialog->selectedFiles());
+    });
+    present(*dialog, QStringLiteral("openPanel"));
+}
+
+void QtPrompts::showPrintPanel(QWidget *window, const QString &documentName,
+                               std::function<void(QPrinter &)> print)
+{
+    auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
+    printer->setDocName(documentName);
+    auto *dialog = new QPrintDialog(printer.get(), window);
+    // The connection keeps the printer alive for as long as the dialog.
+    QObject::connect(dialog, &QDialog::finished, dialog, [printer, print](int result) {
+        if (result == QDialog::Accepted)
+            print(*printer);
+    });
+    present(*dialog, QStringLiteral("printPanel"));
+}
+
+} // namespace quillet

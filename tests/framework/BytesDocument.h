@@ -1,0 +1,58 @@
+#pragma once
+
+#include "framework/Document.h"
+#include "framework/WindowController.h"
+
+#include <memory>
+
+class QTranslator;
+
+namespace quillet::testing {
+
+/// A window without content that counts how often it was refilled.
+class CountingWindow : public WindowController
+{
+public:
+    CountingWindow();
+    void refill() override { ++refills; }
+    [[nodiscard]] bool validateUserInterfaceItem(const QString &) const override { return true; }
+
+    int refills = 0;
+};
+
+/// A document whose content is its bytes. Bytes that start with "bad" are refused with an error of
+/// its own; no bytes at all are refused without one.
+class BytesDocument : public Document
+{
+public:
+    bool readFromData(const QByteArray &data, const QString &typeName, Error &error) override;
+    [[nodiscard]] QByteArray dataOfType(const QString &typeName, Error &error) override;
+    [[nodiscard]] bool canRead(const QByteArray &data, const QString &typeName,
+                               Error &error) const override;
+    void makeWindowControllers() override;
+
+    /// A change by the user.
+    void edit(const QByteArray &bytes);
+    [[nodiscard]] CountingWindow &countingWindow() const;
+
+    QByteArray content;
+    bool isUnwritable = false; ///< dataOfType fails
+};
+
+[[nodiscard]] QByteArray contentOf(const QString &path);
+void writeFile(const QString &path, const QByteArray &bytes);
+
+/// Texts that name a file or a reason show their id alone without a translation, so for the
+/// lifetime of this object every "...Message" and "...Reason" also shows what is put into it.
+class ParameterTexts
+{
+public:
+    ParameterTexts();
+    ~ParameterTexts();
+    Q_DISABLE_COPY_MOVE(ParameterTexts)
+
+private:
+    std::unique_ptr<QTranslator> m_translator;
+};
+
+} // namespace quillet::testing

@@ -1,0 +1,342 @@
+#include "BytesDocument.h"
+
+#include "framework/FileOperations.h"
+#include "framework/FileReplacement.h"
+#include "testing/PresetPrompts.h"
+#include "testing/TestMain.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSet>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <cerrno>
+#include <csignal>
+#include <cstring>
+#include <memory>
+#include <optional>
+
+#ifndef Q_OS_WIN
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
+using namespace quillet;
+using namespace quillet::testing;
+
+namespace {
+
+enum class Fault {
+    None,
+    Create,
+    WriteNothing,
+    WriteShort,
+    WriteLie,
+    WriteLieShort,
+    Permissions,
+    Sync,
+    ReadBack,
+    Rename
+};
+
+/// The real operations with one that goes wrong.
+class FaultyOperations : public FileOperations
+{
+public:
+    explicit FaultyOperations(Fault fault) : m_fault(fault) {}
+
+    bool create(QFile &file, bool isPrivate, QString &reason) override
+    {
+        return !fails(Fault::Create, reason) && FileOperations::create(file, isPrivate, reason);
+    }
+    qint64 write(QFile &file, const QByteArray &bytes, QString &reason) override
+    {
+        switch (m_fault) {
+        case Fault::WriteNothing:
+            reason = QStringLiteral("fault");
+            return -1;
+        case Fault::WriteShort:
+            reason = QStringLiteral("fault");
+            return FileOperations::write(file, bytes.chopped(1), reason);
+        case Fault::WriteLie:
+            FileOperations::write(file, QByteArray(bytes.size(), '\0'), reason);
+            return bytes.size();
+        case Fault::WriteLieShort:
+            FileOperations::write(file, bytes.chopped(1), reason);
+            return bytes.size();
+        default:
+            return FileOperations::write(file, bytes, reason);
+        }
+    }
+    bool copyPermissions(const QString &path, QFile &file, QString &reason) override
+    {
+        return !fails(Fault::Permissions, reason) &&
+               FileOperations::copyPermissions(path, file, reason);
+    }
+    bool sync(QFile &file, QString &reason) override
+    {
+        return !fails(Fault::Sync, reason) && FileOperations::sync(file, reason);
+    }
+    bool readBack(const QString &path, QByteArray &bytes, QString &reason) override
+    {
+        return !fails(Fault::ReadBack, reason) && FileOperations::readBack(path, bytes, reason);
+    }
+    bool rename(const QString &from, const QString &to, QString &reason) override
+    {
+        return !fails(Fault::Rename, reason) && FileOperations::rename(from, to, reason);
+    }
+
+private:
+    bool fails(Fault fault, QString &reason) const
+    {
+        if (m_fault == fault)
+            reason = QStringLiteral("fault");
+        return m_fault == fault;
+    }
+
+    Fault m_fault;
+};
+
+QStringList namesIn(const QString &folder)
+{
+    return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System |
+                                  QDir::NoDotAndDotDot);
+}
+
+} // namespace
+
+class FileReplacementTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_path = m_folder->filePath(QStringLiteral("list.tll"));
+        writeFile(m_path, "old");
+    }
+
+    void failingStepLeavesEverythingAsItWas_data()
+    {
+        QTest::addColumn<Fault>("fault");
+        QTest::addColumn<FileReplacement::Failure>("failure");
+        QTest::addColumn<bool>("hasSystemReason");
+        using Failure = FileReplacement::Failure;
+        QTest::newRow("create") << Fault::Create << Failure::Create << true;
+        QTest::newRow("write refused") << Fault::WriteNothing << Failure::Write << true;
+        QTest::newRow("short write") << Fault::WriteShort << Failure::Write << true;
+        QTest::newRow("write lies") << Fault::WriteLie << Failure::Compare << false;
+        QTest::newRow("short write lies") << Fault::WriteLieShort << Failure::Compare << false;
+        QTest::newRow("permissions") << Fault::Permissions << Failure::Permissions << true;
+        QTest::newRow("sync") << Fault::Sync << Failure::Sync << true;
+        QTest::newRow("read back") << Fault::ReadBack << Failure::Compare << true;
+        QTest::newRow("rename") << Fault::Rename << Failure::Rename << true;
+    }
+    void failingStepLeavesEverythingAsItWas()
+    {
+        QFETCH(Fault, fault);
+        QFETCH(FileReplacement::Failure, failure);
+        QFETCH(bool, hasSystemReason);
+        FaultyOperations operations(fault);
+        BytesDocument document;
+        PresetPrompts prompts(PresetPrompts::Arrival::AtOnce);
+        Error error;
+        QVERIFY(document.readFromUrl(QUrl::fromLocalFile(m_path), {}, error));
+        document.setPrompts(&prompts);
+        document.setFileOperations(operations);
+        document.edit("new content");
+
+        QVERIFY(!FileReplacement(operations).replace(m_path, "new content", error));
+        QCOMPARE(error.domain, QString::fromLatin1(FileReplacement::errorDomain));
+        QCOMPARE(error.code, static_cast<int>(failure));
+        QCOMPARE(error.filePath, m_path);
+        QCOMPARE(error.localizedDescription.contains(QLatin1String("fault")), hasSystemReason);
+
+        std::optional<bool> isSaved;
+        document.saveDocument([&isSaved](bool saved) { isSaved = saved; });
+        QCOMPARE(isSaved, std::optional<bool>(false));
+        QVERIFY(document.isDocumentEdited());
+        QVERIFY(prompts.lastText().contains(QLatin1String("kSaveFailedMessage list.tll")));
+        QVERIFY(prompts.lastText().contains(error.localizedDescription));
+        QCOMPARE(contentOf(m_path), QByteArray("old"));
+        QCOMPARE(namesIn(m_folder->path()), QStringList{QStringLiteral("list.tll")});
+    }
+
+    void replacesWhole_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QByteArray>("bytes");
+        const QString plain = QStringLiteral("list.tll");
+        QTest::newRow("longer") << plain << QByteArray("something longer");
+        QTest::newRow("empty") << plain << QByteArray();
+        QTest::newRow("large") << plain << QByteArray(3'000'000, 'x');
+        QTest::newRow("longest name") << QString(250, QLatin1Char('n')) << QByteArray("new");
+        QTest::newRow("new file") << QStringLiteral("other.tll") << QByteArray("new");
+        QTest::newRow("other script") << QStringLiteral("Über список %1.tll") << QByteArray("new");
+    }
+    void replacesWhole()
+    {
+        QFETCH(QString, name);
+        QFETCH(QByteArray, bytes);
+        const QString path = m_folder->filePath(name);
+        if (name.size() == 250)
+            writeFile(path, "old");
+        const QStringList before = namesIn(m_folder->path()) + QStringList{name};
+        FileOperations operations;
+        Error error;
+        QVERIFY2(FileReplacement(operations).replace(path, bytes, error),
+                 qPrintable(error.localizedDescription));
+        QVERIFY(error.isEmpty());
+        QCOMPARE(contentOf(path), bytes);
+        const QStringList after = namesIn(m_folder->path());
+        QCOMPARE(QSet<QString>(after.begin(), after.end()),
+                 QSet<QString>(before.begin(), before.end()));
+    }
+
+#ifndef Q_OS_WIN
+    void keepsPermissionsAndOwner_data()
+    {
+        QTest::addColumn<mode_t>("mode");
+        QTest::newRow("group may read") << mode_t{0640};
+        QTest::newRow("everybody may write") << mode_t{0666};
+        QTest::newRow("private") << mode_t{0600};
+        QTest::newRow("executable, group keeps") << mode_t{02755};
+    }
+    void keepsPermissionsAndOwner()
+    {
+        QFETCH(mode_t, mode);
+        const QByteArray path = QFile::encodeName(m_path);
+        const bool isRoot = ::geteuid() == 0;
+        if (isRoot)
+            QCOMPARE(::chown(path.constData(), 4711, 4712), 0);
+        QCOMPARE(::chmod(path.constData(), mode), 0);
+        FileOperations operations;
+        Error error;
+        QVERIFY(FileReplacement(operations).replace(m_path, "new", error));
+        struct stat now = {};
+        QCOMPARE(::stat(path.constData(), &now), 0);
+        QCOMPARE(now.st_mode & mode_t{07777}, mode);
+        QCOMPARE(now.st_uid, isRoot ? uid_t{4711} : ::geteuid());
+        if (isRoot)
+            QCOMPARE(now.st_gid, gid_t{4712});
+    }
+
+    void newFileFollowsTheUmask()
+    {
+        const mode_t umaskBefore = ::umask(027);
+        const QString path = m_folder->filePath(QStringLiteral("fresh.tll"));
+        FileOperations operations;
+        Error error;
+        const bool isWritten = FileReplacement(operations).replace(path, "new", error);
+        ::umask(umaskBefore);
+        QVERIFY(isWritten);
+        struct stat now = {};
+        QCOMPARE(::stat(QFile::encodeName(path).constData(), &now), 0);
+        QCOMPARE(now.st_mode & mode_t{0777}, mode_t{0640});
+    }
+
+    void linkStaysAndItsFileIsReplaced_data()
+    {
+        QTest::addColumn<QByteArray>("link");
+        QTest::addColumn<QByteArray>("linkTarget");
+        QTest::addColumn<QString>("written");
+        QTest::newRow("relative") << QByteArray("link") << QByteArray("real/file")
+                                  << QStringLiteral("real/file");
+        QTest::newRow("chain") << QByteArray("link") << QByteArray("chained")
+                               << QStringLiteral("real/file");
+        QTest::newRow("nothing there yet")
+            << QByteArray("link") << QByteArray("real/missing") << QStringLiteral("real/missing");
+        // Seen from the real folder; a textual look at the path would end at "up".
+        QTest::newRow("up from a linked folder")
+            << QByteArray("folder/link") << QByteArray("../up") << QStringLiteral("real/up");
+    }
+    void linkStaysAndItsFileIsReplaced()
+    {
+        QFETCH(QByteArray, link);
+        QFETCH(QByteArray, linkTarget);
+        QFETCH(QString, written);
+        QVERIFY(QDir(m_folder->path()).mkpath(QStringLiteral("real/deep")));
+        writeFile(m_folder->filePath(QStringLiteral("real/file")), "old");
+        const QByteArray root = QFile::encodeName(m_folder->path()) + '/';
+        QCOMPARE(::symlink("real/deep", (root + "folder").constData()), 0);
+        QCOMPARE(::symlink("real/file", (root + "chained").constData()), 0);
+        QCOMPARE(::symlink(linkTarget.constData(), (root + link).constData()), 0);
+        FileOperations operations;
+        Error error;
+        const QString path = QFile::decodeName(root + link);
+        QVERIFY2(FileReplacement(operations).replace(path, "new", error),
+                 qPrintable(error.localizedDescription));
+        QVERIFY(QFileInfo(path).isSymLink());
+        QCOMPARE(contentOf(m_folder->filePath(written)), QByteArray("new"));
+        QVERIFY(!QFileInfo::exists(m_folder->filePath(QStringLiteral("up"))));
+    }
+
+    void refusesWhatARenameWouldDestroy_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<FileReplacement::Failure>("failure");
+        using Failure = FileReplacement::Failure;
+        QTest::newRow("circle of links") << QStringLiteral("circle") << Failure::Target;
+        QTest::newRow("folder") << QStringLiteral("folder") << Failure::Target;
+        QTest::newRow("named pipe") << QStringLiteral("pipe") << Failure::Target;
+        QTest::newRow("missing folder") << QStringLiteral("missing/list.tll") << Failure::Create;
+        QTest::newRow("write-protected") << QStringLiteral("protected") << Failure::Target;
+    }
+    void refusesWhatARenameWouldDestroy()
+    {
+        QFETCH(QString, name);
+        QFETCH(FileReplacement::Failure, failure);
+        const QString path = m_folder->filePath(name);
+        const QByteArray root = QFile::encodeName(m_folder->path()) + '/';
+        QCOMPARE(::symlink("circle", (root + "circle").constData()), 0);
+        QCOMPARE(::mkfifo((root + "pipe").constData(), 0600), 0);
+        QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("folder")));
+        writeFile(m_folder->filePath(QStringLiteral("protected")), "old");
+        QCOMPARE(::chmod((root + "protected").constData(), 0400), 0);
+        if (::access((root + "protected").constData(), W_OK) == 0 && name == u"protected")
+            QSKIP("the superuser may write everything");
+        const QStringList before = namesIn(m_folder->path());
+        FileOperations operations;
+        Error error;
+        QVERIFY(!FileReplacement(operations).replace(path, "new", error));
+        QCOMPARE(error.code, static_cast<int>(failure));
+        QVERIFY(!error.localizedDescription.isEmpty());
+        QCOMPARE(namesIn(m_folder->path()), before);
+    }
+
+    void fullDiskIsNoticed()
+    {
+        // At a limit on the size of files a write stops short, as it does when the disk ends.
+        rlimit before = {};
+        QCOMPARE(::getrlimit(RLIMIT_FSIZE, &before), 0);
+        const auto handlerBefore = ::signal(SIGXFSZ, SIG_IGN);
+        const rlimit small = {64 * 1024, before.rlim_max};
+        QCOMPARE(::setrlimit(RLIMIT_FSIZE, &small), 0);
+        FileOperations operations;
+        Error error;
+        const bool isWritten =
+            FileReplacement(operations).replace(m_path, QByteArray(100'000, 'x'), error);
+        ::setrlimit(RLIMIT_FSIZE, &before);
+        ::signal(SIGXFSZ, handlerBefore);
+        QVERIFY(!isWritten);
+        const QString systemReason = QString::fromLocal8Bit(std::strerror(EFBIG));
+        QVERIFY2(error.localizedDescription.contains(systemReason),
+                 qPrintable(error.localizedDescription));
+        QCOMPARE(contentOf(m_path), QByteArray("old"));
+        QCOMPARE(namesIn(m_folder->path()), QStringList{QStringLiteral("list.tll")});
+    }
+#endif
+
+private:
+    const ParameterTexts m_texts;
+    std::unique_ptr<QTemporaryDir> m_folder;
+    QString m_path;
+};
+
+QUILLET_TEST(FileReplacementTest)
+
+#include "FileReplacementTest.moc"

@@ -1,0 +1,103 @@
+#include "BytesDocument.h"
+
+#include "framework/RecentFiles.h"
+#include "framework/RecentFilesMenu.h"
+#include "testing/TestMain.h"
+
+#include <QDir>
+#include <QMenu>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace quillet;
+using namespace quillet::testing;
+
+class RecentFilesTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        QSettings().clear();
+        m_folder = std::make_unique<QTemporaryDir>();
+    }
+
+    void newestFirstWithoutDoubles()
+    {
+        RecentFiles recent;
+        QSignalSpy changed(&recent, &RecentFiles::changed);
+        for (const char *path : {"/a/1", "/a/2", "/a/b/../1"})
+            recent.add(QString::fromLatin1(path));
+        const QStringList expected{QStringLiteral("/a/1"), QStringLiteral("/a/2")};
+        QCOMPARE(recent.paths(), expected);
+        QCOMPARE(RecentFiles().paths(), expected);
+        for (int i = 0; i < 20; ++i)
+            recent.add(QStringLiteral("/many/%1").arg(i));
+        QCOMPARE(recent.paths().size(), RecentFiles::maximum);
+        QCOMPARE(recent.paths().constFirst(), QStringLiteral("/many/19"));
+        recent.clear();
+        QVERIFY(recent.paths().isEmpty());
+        QCOMPARE(changed.count(), 24);
+    }
+
+    void menuShowsWhatIsThere()
+    {
+        RecentFiles recent;
+        QMenu menu;
+        RecentFilesMenu recentMenu(menu, recent);
+        QSignalSpy chosen(&recentMenu, &RecentFilesMenu::fileChosen);
+        QCOMPARE(entries(menu), QStringList{QStringLiteral("kClearMenu (off)")});
+
+        QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("x")));
+        const QString gone = m_folder->filePath(QStringLiteral("gone.tll"));
+        const QString plain = m_folder->filePath(QStringLiteral("salt & pepper.tll"));
+        const QString twin = m_folder->filePath(QStringLiteral("twin.tll"));
+        const QString otherTwin = m_folder->filePath(QStringLiteral("x/twin.tll"));
+        for (const QString &path : {gone, plain, twin, otherTwin}) {
+            writeFile(path, "list");
+            recent.add(path);
+        }
+        QVERIFY(QFile::remove(gone));
+        const QStringList expected{
+            QStringLiteral(u"twin.tll \u2014 ") + m_folder->filePath(QStringLiteral("x")),
+            QStringLiteral(u"twin.tll \u2014 ") + m_folder->path(),
+            QStringLiteral("salt && pepper.tll"),
+            QStringLiteral("gone.tll (off)"),
+            QString(),
+            QStringLiteral("kClearMenu"),
+        };
+        QCOMPARE(entries(menu), expected);
+        const QString hint = QStringLiteral("kRecentFileMissingMessage ") + gone;
+        QVERIFY(menu.actions().at(3)->toolTip().startsWith(hint));
+        QVERIFY(menu.toolTipsVisible());
+
+        menu.actions().at(2)->trigger();
+        QCOMPARE(chosen.count(), 1);
+        QCOMPARE(chosen.front().front().toString(), plain);
+        menu.actions().constLast()->trigger();
+        QCOMPARE(entries(menu), QStringList{QStringLiteral("kClearMenu (off)")});
+    }
+
+private:
+    /// The texts of the menu when it is about to show, disabled entries marked.
+    static QStringList entries(QMenu &menu)
+    {
+        emit menu.aboutToShow();
+        QStringList texts;
+        const QList<QAction *> actions = menu.actions();
+        for (const QAction *action : actions)
+            texts.append(action->text() +
+                         (action->isEnabled() ? QString() : QStringLiteral(" (off)")));
+        return texts;
+    }
+
+    const ParameterTexts m_texts;
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+QUILLET_TEST(RecentFilesTest)
+
+#include "RecentFilesTest.moc"

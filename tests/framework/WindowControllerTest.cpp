@@ -1,0 +1,103 @@
+#include "BytesDocument.h"
+
+#include "testing/TestMain.h"
+
+#include <QMainWindow>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace quillet;
+using namespace quillet::testing;
+
+namespace {
+
+QPoint placeOf(const WindowController &controller)
+{
+    return controller.window()->geometry().topLeft();
+}
+
+} // namespace
+
+class WindowControllerTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { QSettings().clear(); }
+
+    void titleFollowsTheDocument_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("title");
+        QTest::newRow("plain") << QStringLiteral("list.tll") << QStringLiteral("list.tll[*]");
+        // A mark within the name is doubled, or it would be taken for the modified mark.
+        QTest::newRow("mark in the name")
+            << QStringLiteral("a[*].tll") << QStringLiteral("a[*][*].tll[*]");
+    }
+    void titleFollowsTheDocument()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, title);
+        BytesDocument document;
+        document.makeWindowControllers();
+        const QMainWindow &window = *document.countingWindow().window();
+        QCOMPARE(window.windowTitle(), QStringLiteral("kUntitled[*]"));
+        document.setFileUrl(QUrl::fromLocalFile(QStringLiteral("/folder/") + name));
+        QCOMPARE(window.windowTitle(), title);
+        QCOMPARE(window.windowFilePath(), QStringLiteral("/folder/") + name);
+        document.edit("changed");
+        QVERIFY(window.isWindowModified());
+        document.updateChangeCount(Document::Change::Cleared);
+        QVERIFY(!window.isWindowModified());
+    }
+
+    void closingOnlyAsks()
+    {
+        CountingWindow controller;
+        QSignalSpy asked(&controller, &WindowController::closeRequested);
+        controller.showWindow();
+        QVERIFY(!controller.window()->close());
+        QCOMPARE(asked.count(), 1);
+        QVERIFY(controller.window()->isVisible());
+    }
+
+    void frameIsRememberedAndWindowsCascade()
+    {
+        const QRect frame(60, 50, 321, 234);
+        {
+            CountingWindow controller;
+            controller.showWindow();
+            controller.window()->setGeometry(frame);
+        }
+        CountingWindow first, second, third;
+        first.showWindow();
+        QCOMPARE(first.window()->geometry(), frame);
+        second.showWindow();
+        third.showWindow();
+        QCOMPARE(second.window()->size(), frame.size());
+        const QPoint step = placeOf(second) - placeOf(first);
+        QVERIFY(step.x() > 0 && step.y() > 0);
+        QCOMPARE(placeOf(third) - placeOf(second), step);
+        // Showing again is no reason to move.
+        third.window()->setGeometry(QRect(QPoint(200, 10), frame.size()));
+        third.raiseWindow();
+        QCOMPARE(placeOf(third), QPoint(200, 10));
+    }
+
+    void cascadeStaysOnTheScreen()
+    {
+        std::vector<std::unique_ptr<CountingWindow>> controllers;
+        for (int i = 0; i < 60; ++i) {
+            controllers.push_back(std::make_unique<CountingWindow>());
+            controllers.back()->window()->resize(300, 200);
+            controllers.back()->showWindow();
+            const QRect screen = controllers.back()->window()->screen()->availableGeometry();
+            QVERIFY(screen.contains(controllers.back()->window()->geometry()));
+        }
+    }
+};
+
+QUILLET_TEST(WindowControllerTest)
+
+#include "WindowControllerTest.moc"

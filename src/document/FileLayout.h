@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+namespace quillet {
+
+/// Which stretches of a file's text stand before the first and after the last station, so that a
+/// save can put them back unchanged. Lengths count UTF-16 units of the text.
+class FileLayout
+{
+public:
+    /// Length of the text before the first ITEM of the analogue and of the digital section; 0 when
+    /// none was found.
+    [[nodiscard]] qsizetype headerLenATV() const { return m_headerLenATV; }
+    [[nodiscard]] qsizetype headerLenDTV() const { return m_headerLenDTV; }
+    /// The text from the closing tag of the last section to the end; none when none was found.
+    [[nodiscard]] const std::optional<QString> &footer() const { return m_footer; }
+
+    void clear() { *this = {}; }
+
+    /// Each looks for the section in the text and notes where its first ITEM and its closing tag
+    /// stand; what is not found leaves the earlier value. False when the first ITEM is too far from
+    /// the section's tag.
+    [[nodiscard]] bool locateATV(const QString &text);
+    [[nodiscard]] bool locateDTV(const QString &text);
+
+private:
+    [[nodiscard]] bool locate(const QString &text, QStringView openTag, QStringView closeTag,
+                              qsizetype &headerLength);
+
+    qsizetype m_headerLenATV = 0;
+    qsizetype m_headerLenDTV = 0;
+    std::optional<QString> m_footer;
+};
+
+} // namespace quillet

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "model/LGStation.h"
+#include "model/StationSource.h"
+
+#include <array>
+
+namespace quillet {
+
+/// The eight station lists of a document: one for each source and mode. Owned by the document.
+class StationLists
+{
+public:
+    using Lists = std::array<StationListPtr, stationSourceCount>;
+
+    /// Replaces all lists with new, empty ones; whoever holds an old list keeps it.
+    void setupLists();
+
+    /// The list of a mode and source index; null before setupLists().
+    [[nodiscard]] const StationListPtr &list(bool isTV, int source) const
+    {
+        return (isTV ? m_tvStations : m_radioStations).at(static_cast<std::size_t>(source));
+    }
+    [[nodiscard]] const Lists &tvStations() const { return m_tvStations; }
+    [[nodiscard]] const Lists &radioStations() const { return m_radioStations; }
+
+    /// Appends the station to the list of its source and mode; false when it names no source.
+    bool fileStation(StationPtr station);
+
+    /// Stations of a source, TV and radio together.
+    [[nodiscard]] qsizetype stationCount(int source) const;
+    /// The longest list of the mode, that of the lowest source among equals; null when all are
+    /// empty.
+    [[nodiscard]] StationListPtr listWithMostEntries(bool isTV) const;
+
+    /// Sorts by program number, equal numbers keeping their order, and then raises every number
+    /// that does not exceed the one before it to the next free one. All numbers are 1 or more
+    /// afterwards; gaps stay.
+    static void sortAndValidateStations(StationList &stations);
+
+private:
+    Lists m_tvStations;
+    Lists m_radioStations;
+};
+
+} // namespace quillet

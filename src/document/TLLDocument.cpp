@@ -1,0 +1,252 @@
+#include "document/TLLDocument.h"
+
+#include "document/TLLWindowController.h"
+#include "document/TLLWriter.h"
+#include "support/KXFileLog.h"
+#include "support/TextConversion.h"
+#include "xml/NodeViews.h"
+#include "xml/XMLDictionaryParser.h"
+
+#include <QLoggingCategory>
+
+#include <array>
+
+namespace quillet {
+
+namespace {
+
+Q_LOGGING_CATEGORY(log, "quillet.document")
+
+constexpr QLatin1String errorDomain("org.quillet.Quillet");
+
+/// In the order in which they are read and written.
+constexpr std::array<QStringView, 2> sections{u"ATV", u"DTV"};
+
+QString logName()
+{
+    return QStringLiteral("XT");
+}
+
+/// The text of an element, which the parser made a dictionary or, without attributes, a string.
+QString elementText(const Value *element)
+{
+    if (!element)
+        return {};
+    if (const QString *text = element->string())
+        return *text;
+    const Dictionary *node = element->dictionary();
+    return node ? innerText(*node).value_or(QString()) : QString();
+}
+
+} // namespace
+
+QString TLLDocument::typeIdentifier()
+{
+    return QStringLiteral("QuilletType.LG");
+}
+
+QString TLLDocument::typeName()
+{
+    return QStringLiteral("LG station list");
+}
+
+TLLDocument::TLLDocument(QObject *parent) : Document(parent) {}
+
+TLLDocument::~TLLDocument() = default;
+
+bool TLLDocument::readFromData(const QByteArray &data, const QString &typeName, Error &error)
+{
+    std::optional<DecodedText> decoded = decodeText(data);
+    if (!decoded || decoded->text.isEmpty())
+        return false;
+    m_xmlString = std::move(decoded->text);
+
+    XMLDictionaryParser parser(XMLDictionaryParser::sharedInstance());
+    std::optional<Dictionary> tree =
+        decoded->encoding == TextEncoding::Utf8
+            ? parser.dictionaryWithData(data) // the very bytes that the text would be encoded to
+            : parser.dictionaryWithString(m_xmlString);
+    m_xmlDictionary = std::move(tree).value_or(Dictionary());
+    m_parseError = parser.firstError();
+
+    if (extractStations() < 0 || (m_analogStations >= 1 && !m_layout.locateATV(m_xmlString)) ||
+        (m_digitalStations >= 1 && !m_layout.locateDTV(m_xmlString))) {
+        error = createBadFileFormatError(typeName);
+        return false;
+    }
+    if (m_lgWindowController)
+        m_lgWindowController->populateFromTLLDoc(*this, {});
+    return true;
+}
+
+/// Files every ITEM into the lists. Returns the number of stations, or -1 when a section is
+/// malformed.
+qsizetype TLLDocument::extractStations()
+{
+    m_lists.setupLists();
+    if (const Dictionary *channel = m_xmlDictionary.dictionary(u"CHANNEL")) {
+        for (const QStringView section : sections) {
+            if (!extractSection(*channel, section))
+                return -1;
+        }
+    }
+    qsizetype total = 0;
+    for (const StationSource source : stationSources) {
+        const int index = static_cast<int>(source);
+        StationList &tv = *m_lists.list(true, index);
+        StationList &radio = *m_lists.list(false, index);
+        StationLists::sortAndValidateStations(tv);
+        StationLists::sortAndValidateStations(radio);
+        total += m_lists.stationCount(index);
+        if (source == StationSource::Antenna)
+            m_digitalStations = total;
+        else if (source == StationSource::Analogue)
+            m_analogStations = total - m_digitalStations;
+        LogToFile(logName(), "TV[%i] = %ld", index, static_cast<long>(tv.size()));
+        LogToFile(logName(), "Radio[%i] = %ld", index, static_cast<long>(radio.size()));
+    }
+    return total;
+}
+
+bool TLLDocument::extractSection(const Dictionary &channel, QStringView name)
+{
+    const Value *section = channel.find(name);
+    if (!section)
+        return true;
+    if (!section->dictionary())
+        return false;
+    const Value *items = section->dictionary()->find(u"ITEM");
+    if (!items)
+        return true;
+    // A section with one station holds it alone, not in a list.
+    const Array list = items->array() ? *items->array() : Array{*items};
+    qint64 index = 0;
+    for (const Value &item : list) {
+        const qint64 position = index++;
+        if (!item.dictionary())
+            continue;
+        auto station = std::make_shared<LGStation>(*item.dictionary(), position);
+        if (!m_lists.fileStation(station)) {
+            const QString message =
+                QStringLiteral("\n### Unknown station source: %1").arg(station->description());
+            qCWarning(log).noquote() << message;
+            LogToFile(logName(), "%ls", qUtf16Printable(message));
+        }
+    }
+    return true;
+}
+
+QByteArray TLLDocument::dataOfType(const QString &, Error &)
+{
+    return writeTLL(*this);
+}
+
+bool TLLDocument::canRead(const QByteArray &data, const QString &typeName, Error &error) const
+{
+    TLLDocument probe;
+    return probe.readFromData(data, typeName, error);
+}
+
+void TLLDocument::clearVars()
+{
+    m_stations.reset();
+    m_lists.setupLists();
+    m_layout.clear();
+}
+
+bool TLLDocument::useFileURL(const QUrl &url)
+{
+    setFileUrl(url);
+    return true;
+}
+
+std::optional<QString> TLLDocument::modelName() const
+{
+    const Value *modelInfo = m_xmlDictionary.find(u"ModelInfo");
+    if (!modelInfo)
+        return {};
+    const Dictionary *info = modelInfo->dictionary();
+    const QString name = elementText(info ? info->find(u"ModelName") : modelInfo);
+    return name.isEmpty() ? std::nullopt : std::optional(name);
+}
+
+Error TLLDocument::createBadFileFormatError(const QString &path)
+{
+    return {errorDomain, -1, qtTrId("Bad file format"), path};
+}
+
+Error TLLDocument::createBadFileTypeError(const QString &detail)
+{
+    return {errorDomain, -1, QStringLiteral("%1: %2").arg(qtTrId("kBad_file_type"), detail), {}};
+}
+
+void TLLDocument::updateStationPointer()
+{
+    m_stations = m_lists.list(m_usesTV, m_curSource);
+}
+
+void TLLDocument::switchToMode(bool isTV)
+{
+    m_usesTV = isTV;
+    updateStationPointer();
+}
+
+void TLLDocument::switchToSource(int source)
+{
+    m_curSource = source;
+    updateStationPointer();
+}
+
+qsizetype TLLDocument::stationCount() const
+{
+    return m_stations ? static_cast<qsizetype>(m_stations->size()) : 0;
+}
+
+bool TLLDocument::hasDataForSource(int source) const
+{
+    return m_lists.stationCount(source) > 0;
+}
+
+StationListPtr TLLDocument::listWithMostEntries(bool isTV) const
+{
+    return m_lists.listWithMostEntries(isTV);
+}
+
+bool TLLDocument::isValidFieldContent(const std::optional<QString> &content)
+{
+    return content && !content->isEmpty() && *content != QLatin1String(" ");
+}
+
+void TLLDocument::setDirtyFlag(bool dirty)
+{
+    m_dirty = dirty;
+    if (dirty)
+        updateChangeCount(Change::Done);
+}
+
+bool TLLDocument::validateUserInterfaceItem(const QString &action) const
+{
+    if (action == QLatin1String("revertDocumentToSaved") || action == QLatin1String("saveDocument"))
+        return m_dirty;
+    if (action == QLatin1String("exportAsReferenceList"))
+        return hasData();
+    return false;
+}
+
+void TLLDocument::makeWindowControllers()
+{
+    if (m_isInvisbleDocument || !m_makeWindow)
+        return;
+    std::unique_ptr<TLLWindowController> controller = m_makeWindow();
+    m_lgWindowController = controller.get();
+    addWindowController(std::move(controller));
+    m_lgWindowController->populateFromTLLDoc(*this, {});
+}
+
+void TLLDocument::documentWasSaved()
+{
+    setDirtyFlag(false);
+    Document::documentWasSaved();
+}
+
+} // namespace quillet

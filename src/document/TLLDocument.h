@@ -1,0 +1,126 @@
+#pragma once
+
+#include "document/FileLayout.h"
+#include "document/StationLists.h"
+#include "framework/Document.h"
+#include "xml/EventParser.h"
+#include "xml/Value.h"
+
+#include <QPointer>
+#include <QString>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace quillet {
+
+class TLLWindowController;
+
+/// One channel list: the text of its file, the parsed tree, the eight station lists and which of
+/// them is the current one. Reads and writes the file. Owned by the document controller.
+class TLLDocument : public Document
+{
+    Q_OBJECT
+
+public:
+    /// The program's one document type, which also names the private type of dragged rows.
+    static QString typeIdentifier();
+    /// The type name under which a file is read into a document by hand.
+    static QString typeName();
+
+    using WindowFactory = std::function<std::unique_ptr<TLLWindowController>()>;
+
+    explicit TLLDocument(QObject *parent = nullptr);
+    ~TLLDocument() override;
+
+    /// What makeWindowControllers() makes its window with; without one it makes none.
+    void setWindowFactory(WindowFactory factory) { m_makeWindow = std::move(factory); }
+
+    // Reading and writing
+
+    bool readFromData(const QByteArray &data, const QString &typeName, Error &error) override;
+    [[nodiscard]] QByteArray dataOfType(const QString &typeName, Error &error) override;
+    [[nodiscard]] bool canRead(const QByteArray &data, const QString &typeName,
+                               Error &error) const override;
+    /// Empties the lists and forgets what was remembered of the text.
+    void clearVars();
+    /// Makes the URL that of this document; always true.
+    bool useFileURL(const QUrl &url);
+
+    /// The whole text of the file as it was decoded, and its tree (empty when nothing was parsed).
+    [[nodiscard]] const QString &xmlString() const { return m_xmlString; }
+    [[nodiscard]] const Dictionary &xmlDictionary() const { return m_xmlDictionary; }
+    /// Where and why reading the text stopped early; none when it was read to its end.
+    [[nodiscard]] const std::optional<ParseError> &parseError() const { return m_parseError; }
+    [[nodiscard]] const FileLayout &layout() const { return m_layout; }
+    [[nodiscard]] bool docUsesCRLF() const { return m_docUsesCRLF; }
+    /// The model name of the set; none when the file does not tell.
+    [[nodiscard]] std::optional<QString> modelName() const;
+
+    [[nodiscard]] static Error createBadFileFormatError(const QString &path);
+    [[nodiscard]] static Error createBadFileTypeError(const QString &detail);
+
+    // The lists
+
+    [[nodiscard]] const StationLists &lists() const { return m_lists; }
+    /// How many stations were filed under sources 0 to 2 and under source 3 when the file was read.
+    [[nodiscard]] qsizetype digitalStations() const { return m_digitalStations; }
+    [[nodiscard]] qsizetype analogStations() const { return m_analogStations; }
+    /// The list of the current source and mode, shared with lists(); null before one was chosen.
+    [[nodiscard]] const StationListPtr &stations() const { return m_stations; }
+    [[nodiscard]] int curSource() const { return m_curSource; }
+    [[nodiscard]] bool usesTV() const { return m_usesTV; }
+    void switchToMode(bool isTV);
+    /// The index is 0 to 3.
+    void switchToSource(int source);
+    /// Of the current list.
+    [[nodiscard]] qsizetype stationCount() const;
+    [[nodiscard]] bool hasData() const { return stationCount() > 0; }
+    /// Whether the source has stations, TV or radio.
+    [[nodiscard]] bool hasDataForSource(int source) const;
+    [[nodiscard]] StationListPtr listWithMostEntries(bool isTV) const;
+    /// False for none, an empty text and a single blank.
+    [[nodiscard]] static bool isValidFieldContent(const std::optional<QString> &content);
+
+    // Changes
+
+    /// Notes whether there are changes; true also counts one in the document framework.
+    void setDirtyFlag(bool dirty);
+    [[nodiscard]] bool isDirty() const { return m_dirty; }
+    [[nodiscard]] bool hasUnautosavedChanges() const override { return m_dirty; }
+    [[nodiscard]] bool validateUserInterfaceItem(const QString &action) const override;
+
+    // Windows
+
+    void makeWindowControllers() override;
+    /// Whether the document is only read by another part and never shown.
+    [[nodiscard]] bool isInvisbleDocument() const { return m_isInvisbleDocument; }
+    void setIsInvisbleDocument(bool invisible) { m_isInvisbleDocument = invisible; }
+
+protected:
+    void documentWasSaved() override;
+
+private:
+    [[nodiscard]] qsizetype extractStations();
+    [[nodiscard]] bool extractSection(const Dictionary &channel, QStringView name);
+    void updateStationPointer();
+
+    WindowFactory m_makeWindow;
+    QPointer<TLLWindowController> m_lgWindowController;
+    QString m_xmlString;
+    Dictionary m_xmlDictionary;
+    std::optional<ParseError> m_parseError;
+    FileLayout m_layout;
+    StationLists m_lists;
+    StationListPtr m_stations;
+    qsizetype m_digitalStations = 0;
+    qsizetype m_analogStations = 0;
+    int m_curSource = 0;
+    bool m_usesTV = true;
+    bool m_dirty = false;
+    bool m_docUsesCRLF = false;
+    bool m_isInvisbleDocument = false;
+};
+
+} // namespace quillet

@@ -1,0 +1,98 @@
+#include "document/TLLWriter.h"
+
+#include "document/TLLDocument.h"
+#include "support/TextConversion.h"
+#include "support/Utf8Builder.h"
+
+#include <algorithm>
+#include <array>
+
+namespace quillet {
+
+namespace {
+
+constexpr std::array digitalSources{StationSource::Cable, StationSource::Satellite,
+                                    StationSource::Antenna};
+constexpr std::array analogueSources{StationSource::Analogue};
+
+constexpr QLatin1String betweenSections("</ATV>\r\n<DTV>\r\n");
+constexpr QLatin1String analogueEnd("</ATV>\r\n</CHANNEL>\r\n</TLLDATA>\r\n");
+constexpr QLatin1String digitalEnd("</DTV>\r\n</CHANNEL>\r\n</TLLDATA>\r\n");
+
+void appendItem(const LGStation &station, Utf8Builder &output)
+{
+    station.appendXMLItem(output);
+}
+
+void appendItem(const LGStation &station, QString &output)
+{
+    output.append(station.getXMLItem());
+}
+
+template<typename Output>
+void appendStations(const StationListPtr &stations, Output &output)
+{
+    if (!stations)
+        return;
+    for (const StationPtr &station : *stations)
+        appendItem(*station, output);
+}
+
+template<typename Sources, typename Output>
+void appendSources(const StationLists &lists, const Sources &sources, Output &output)
+{
+    for (const StationSource source : sources) {
+        appendStations(lists.list(true, static_cast<int>(source)), output);
+        appendStations(lists.list(false, static_cast<int>(source)), output);
+    }
+}
+
+template<typename Output>
+void appendFooter(const FileLayout &layout, QLatin1String substitute, Output &output)
+{
+    if (layout.footer() && !layout.footer()->isEmpty())
+        output.append(QStringView(*layout.footer()));
+    else
+        output.append(substitute);
+}
+
+template<typename Output>
+void write(const TLLDocument &document, Output &output)
+{
+    const bool hasAnalogue = document.analogStations() >= 1;
+    const bool hasDigital = document.digitalStations() >= 1;
+    const FileLayout &layout = document.layout();
+    const QStringView text = document.xmlString();
+    output.reserve(text.size() + 1000);
+    const qsizetype header = hasAnalogue ? layout.headerLenATV() : layout.headerLenDTV();
+    output.append(text.first(std::min(header, text.size())));
+
+    if (hasAnalogue) {
+        appendSources(document.lists(), analogueSources, output);
+        if (!hasDigital) {
+            appendFooter(layout, analogueEnd, output);
+            return;
+        }
+        output.append(betweenSections);
+    }
+    if (hasDigital) {
+        appendSources(document.lists(), digitalSources, output);
+        appendFooter(layout, digitalEnd, output);
+    }
+}
+
+} // namespace
+
+QByteArray writeTLL(const TLLDocument &document)
+{
+    Utf8Builder output;
+    write(document, output);
+    if (!output.hasError())
+        return output.take();
+    // Something in it cannot be written as UTF-8.
+    QString text;
+    write(document, text);
+    return getAsData(text);
+}
+
+} // namespace quillet

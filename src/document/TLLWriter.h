@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QByteArray>
+
+namespace quillet {
+
+class TLLDocument;
+
+/// The bytes of a document's file: the text before the first station as it was read, every station
+/// written anew in the order of the lists (analogue, then cable, satellite and antenna; TV before
+/// radio in each), and the text after the last station as it was read. Stretches that the system
+/// makes itself end lines in CR LF.
+[[nodiscard]] QByteArray writeTLL(const TLLDocument &document);
+
+} // namespace quillet

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "editor/TableDrag.h"
+
+#include <QTableView>
+
+#include <functional>
+#include <optional>
+
+class QPrinter;
+
+namespace quillet {
+
+/// The station table: whole rows, a drop line between rows only, light whenever it is printed.
+class DarkModeTableView : public QTableView
+{
+    Q_OBJECT
+
+public:
+    using Validate = std::function<DragOperation(const TableDrag &)>;
+    using Accept = std::function<bool(const TableDrag &)>;
+
+    explicit DarkModeTableView(QWidget *parent = nullptr);
+
+    /// Who says what a drag may do here, and takes a drop.
+    void setDropHandler(Validate validate, Accept accept);
+    /// Shown in the middle of a table without rows.
+    void setPlaceholderText(const QString &text);
+
+    /// Prints all rows on as many pages as they need, always dark on light, with the column titles
+    /// on each page and the columns fitted to its width.
+    void print(QPrinter &printer, const QString &title);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dragMoveEvent(QDragMoveEvent *event) override;
+    void dragLeaveEvent(QDragLeaveEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+
+private:
+    [[nodiscard]] TableDrag tableDrag(const QDropEvent &event) const;
+    void answer(QDropEvent &event, DragOperation operation);
+    void showDropLine(std::optional<qsizetype> row);
+    [[nodiscard]] int dropLinePosition() const;
+
+    Validate m_validate;
+    Accept m_accept;
+    QString m_placeholder;
+    std::optional<qsizetype> m_dropRow; ///< the row below the drop line, while one is shown
+};
+
+} // namespace quillet

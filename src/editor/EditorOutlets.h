@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+
+class QWidget;
+
+namespace quillet {
+
+/// Why no station is shown, and so what the hint in the table's place says.
+enum class EmptyHint {
+    None,            ///< there are stations
+    NoFile,          ///< nothing was opened yet
+    NoStations,      ///< the file has no stations at all
+    NoRadioStations, ///< radio mode, and this source has TV stations only
+    NoTVStations,    ///< TV mode, and this source has radio stations only
+};
+
+/// The controls of the editor's window, as far as its logic reads and sets them. The window
+/// implements it; so do the tests, which need none.
+class EditorOutlets
+{
+public:
+    enum class Field { FileName, DeviceName, StationCount, Matches };
+    enum class Control { MoveToButton, ModeButtons, FilterPop };
+
+    virtual ~EditorOutlets() = default;
+
+    virtual void setText(Field field, const QString &text) = 0;
+    virtual void setEnabled(Control control, bool enabled) = 0;
+
+    /// The state of the TV button, the one place where the mode is kept; the radio button has the
+    /// opposite.
+    [[nodiscard]] virtual bool tvButtonIsOn() const = 0;
+    virtual void setTVButtonOn(bool on) = 0;
+
+    /// The four segments of the sources, 0 to 3.
+    virtual void setSegmentEnabled(int segment, bool enabled) = 0;
+    virtual void selectSegment(int segment) = 0;
+    [[nodiscard]] virtual int selectedSegment() const = 0;
+
+    [[nodiscard]] virtual QString searchText() const = 0;
+    /// The tag of the selected item of the type filter.
+    [[nodiscard]] virtual int filterTag() const = 0;
+    virtual void selectFilterItem(int index) = 0;
+
+    /// Reads all rows anew. Rows that are still there stay selected; no selection change is
+    /// reported.
+    virtual void reloadData() = 0;
+    /// Ascending.
+    [[nodiscard]] virtual QList<qsizetype> selectedRows() const = 0;
+    /// Selects exactly these rows.
+    virtual void selectRows(const QList<qsizetype> &rows) = 0;
+    virtual void scrollRowToVisible(qsizetype row) = 0;
+    virtual void setNameColumnEditable(bool editable) = 0;
+    virtual void showEmptyHint(EmptyHint hint) = 0;
+
+    /// The window that questions belong to.
+    [[nodiscard]] virtual QWidget *sheetWindow() const = 0;
+};
+
+} // namespace quillet

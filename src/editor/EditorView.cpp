@@ -1,0 +1,354 @@
+#include "editor/EditorView.h"
+
+#include "editor/CheckMarkDelegate.h"
+#include "editor/StationColumns.h"
+#include "framework/Prompts.h"
+#include "ui_EditorView.h"
+
+#include <QHeaderView>
+#include <QItemSelectionModel>
+#include <QLabel>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+
+#include <array>
+
+namespace quillet {
+
+namespace {
+
+constexpr std::array sourceTitles{"kCable", "kSatellite", "kAntenna", "kAnalogue"};
+
+/// In the order of the tags.
+constexpr std::array filterTitles{"kFilterAll", "kFilterSD", "kFilterHD",
+                                  "kFilterUHD", "kFilterTV", "kFilterOther"};
+
+/// What a hint says, and the way out that it offers.
+struct HintText
+{
+    EmptyHint hint;
+    const char *heading;
+    const char *text;
+    const char *link;
+};
+
+constexpr std::array hintTexts{
+    HintText{EmptyHint::NoFile, "kHintNoFile", "kHintNoFileDetail", "kHintOpen"},
+    HintText{EmptyHint::NoStations, "kHintNoStations", "kHintNoStationsDetail", nullptr},
+    HintText{EmptyHint::NoRadioStations, "kHintNoRadioStations", nullptr, "kHintShowTV"},
+    HintText{EmptyHint::NoTVStations, "kHintNoTVStations", nullptr, "kHintShowRadio"},
+};
+
+QString richText(const HintText &row)
+{
+    QString text = QStringLiteral("<h3>%1</h3>").arg(qtTrId(row.heading).toHtmlEscaped());
+    if (row.text)
+        text += QStringLiteral("<p>%1</p>").arg(qtTrId(row.text).toHtmlEscaped());
+    if (row.link)
+        text += QStringLiteral("<p><a href=\"%1\">%2</a></p>")
+                    .arg(QLatin1String(row.link), qtTrId(row.link).toHtmlEscaped());
+    return text;
+}
+
+} // namespace
+
+EditorView::EditorView(QWidget *parent)
+    : QWidget(parent), m_ui(std::make_unique<Ui::EditorView>()), m_controller(*this),
+      m_model(m_controller)
+{
+    m_ui->setupUi(this);
+    setUpControls();
+    setUpTable();
+    updateFonts();
+    connectControls();
+    m_controller.viewDidLoad();
+    setFocusProxy(m_ui->list);
+}
+
+EditorView::~EditorView() = default;
+
+void EditorView::setUpControls()
+{
+    QStringList titles;
+    for (const char *title : sourceTitles)
+        titles.append(qtTrId(title));
+    m_ui->sourceSegmentControl->setSegments(titles);
+    for (std::size_t i = 0; i < filterTitles.size(); ++i)
+        m_ui->filterPop->addItem(qtTrId(filterTitles[i]), static_cast<int>(i));
+}
+
+void EditorView::setUpTable()
+{
+    DarkModeTableView &list = *m_ui->list;
+    list.setModel(&m_model);
+    auto *marks = new CheckMarkDelegate(&list);
+    for (std::size_t i = 0; i < stationColumns.size(); ++i) {
+        const ColumnContent content = stationColumns[i].content;
+        if (content == ColumnContent::Skipped || content == ColumnContent::Blocked)
+            list.setItemDelegateForColumn(static_cast<int>(i), marks);
+    }
+    list.setDropHandler([this](const TableDrag &drag) { return m_controller.validateDrop(drag); },
+                        [this](const TableDrag &drag) { return m_controller.acceptDrop(drag); });
+
+    // The hint lies over the rows, so that whatever is dropped there still reaches the table.
+    m_emptyDocText = new QLabel(list.viewport());
+    m_emptyDocText->setObjectName(QStringLiteral("emptyDocText"));
+    m_emptyDocText->setAlignment(Qt::AlignCenter);
+    m_emptyDocText->setWordWrap(true);
+    m_emptyDocText->setMargin(24);
+    m_emptyDocText->setAutoFillBackground(true);
+    m_emptyDocText->setBackgroundRole(QPalette::Base);
+    auto *overlay = new QVBoxLayout(list.viewport());
+    overlay->setContentsMargins(0, 0, 0, 0);
+    overlay->addWidget(m_emptyDocText);
+}
+
+void EditorView::updateFonts()
+{
+    QFont device = font();
+    device.setBold(true);
+    device.setPointSizeF(device.pointSizeF() * 1.25);
+    m_ui->deviceName->setFont(device);
+
+    const QFontMetrics metrics = fontMetrics();
+    DarkModeTableView &list = *m_ui->list;
+    list.verticalHeader()->setDefaultSectionSize(metrics.height() * 3 / 2 + 2);
+    QHeaderView &header = *list.horizontalHeader();
+    header.setMinimumHeight(metrics.height() * 3 / 2 + 4);
+    for (std::size_t i = 0; i < stationColumns.size(); ++i) {
+        const int width = stationColumns[i].width;
+        header.setSectionResizeMode(static_cast<int>(i),
+                                    width == 0 ? QHeaderView::Stretch : QHeaderView::Interactive);
+        if (width > 0)
+            header.resizeSection(static_cast<int>(i), width * metrics.averageCharWidth());
+    }
+    m_ui->searchText->setMinimumWidth(metrics.averageCharWidth() * 22);
+}
+
+void EditorView::connectControls()
+{
+    connect(m_ui->tvButton, &QRadioButton::clicked, &m_controller, &ViewController::useTVClicked);
+    connect(m_ui->radioButton, &QRadioButton::clicked, &m_controller,
+            &ViewController::useRadioClicked);
+    connect(m_ui->sourceSegmentControl, &SegmentedControl::segmentClicked, &m_controller,
+            &ViewController::sourceSegmentClicked);
+    connect(m_ui->searchText, &QLineEdit::textChanged, &m_controller,
+            &ViewController::textDidChange);
+    connect(m_ui->filterPop, &QComboBox::activated, &m_controller,
+            &ViewController::typeFilterClicked);
+    connect(m_ui->moveToButton, &QPushButton::clicked, &m_controller,
+            &ViewController::moveItemsToClicked);
+    connect(m_ui->fillGapsButton, &QCheckBox::toggled, &m_controller,
+            &ViewController::fillGapsClicked);
+    connect(m_ui->list->selectionModel(), &QItemSelectionModel::selectionChanged, &m_controller,
+            &ViewController::tableViewSelectionDidChange);
+    connect(m_emptyDocText, &QLabel::linkActivated, this, [this](const QString &link) {
+        if (link == QLatin1String("kHintOpen"))
+            emit openRequested();
+        else if (link == QLatin1String("kHintShowTV"))
+            m_controller.useTVClicked();
+        else
+            m_controller.useRadioClicked();
+    });
+}
+
+void EditorView::focusSearch()
+{
+    m_ui->searchText->setFocus(Qt::ShortcutFocusReason);
+    m_ui->searchText->selectAll();
+}
+
+bool EditorView::canPrint() const
+{
+    return m_model.rowCount() > 0;
+}
+
+bool EditorView::canMove() const
+{
+    return m_ui->moveToButton->isEnabled();
+}
+
+bool EditorView::canChangeMode() const
+{
+    return m_ui->tvButton->isEnabled();
+}
+
+bool EditorView::isSegmentEnabled(int segment) const
+{
+    return m_ui->sourceSegmentControl->segment(segment)->isEnabled();
+}
+
+void EditorView::setFillGapsOn(bool on)
+{
+    m_ui->fillGapsButton->setChecked(on);
+}
+
+void EditorView::printList()
+{
+    TLLDocument *document = m_controller.stationDoc();
+    if (!document || !document->prompts() || !canPrint())
+        return;
+    const QString title = document->displayName();
+    document->prompts()->showPrintPanel(sheetWindow(), title, [this, title](QPrinter &printer) {
+        m_ui->list->print(printer, title);
+    });
+}
+
+void EditorView::setText(Field field, const QString &text)
+{
+    switch (field) {
+    case Field::FileName:
+        m_ui->fileName->setText(text);
+        break;
+    case Field::DeviceName:
+        m_ui->deviceName->setText(text);
+        break;
+    case Field::StationCount:
+        m_ui->stationCount->setText(text);
+        break;
+    case Field::Matches:
+        m_ui->matches->setText(text);
+        break;
+    }
+}
+
+void EditorView::setEnabled(Control control, bool enabled)
+{
+    const QString noStations = enabled ? QString() : qtTrId("kTipNoStations");
+    switch (control) {
+    case Control::MoveToButton:
+        m_ui->moveToButton->setEnabled(enabled);
+        m_ui->moveToButton->setToolTip(enabled ? qtTrId("kMoveToTip") : qtTrId("kTipSelectFirst"));
+        break;
+    case Control::ModeButtons:
+        m_ui->tvButton->setEnabled(enabled);
+        m_ui->radioButton->setEnabled(enabled);
+        m_ui->tvButton->setToolTip(noStations);
+        m_ui->radioButton->setToolTip(noStations);
+        break;
+    case Control::FilterPop:
+        m_ui->filterPop->setEnabled(enabled);
+        m_ui->filterPop->setToolTip(enabled ? QString() : qtTrId("kTipFilterTVOnly"));
+        break;
+    }
+    emit stateChanged();
+}
+
+bool EditorView::tvButtonIsOn() const
+{
+    return m_ui->tvButton->isChecked();
+}
+
+void EditorView::setTVButtonOn(bool on)
+{
+    m_ui->tvButton->setChecked(on);
+    m_ui->radioButton->setChecked(!on);
+}
+
+void EditorView::setSegmentEnabled(int segment, bool enabled)
+{
+    m_ui->sourceSegmentControl->setSegmentEnabled(segment, enabled);
+    m_ui->sourceSegmentControl->setSegmentToolTip(
+        segment, enabled ? QString() : qtTrId("kTipNoStationsInSource"));
+}
+
+void EditorView::selectSegment(int segment)
+{
+    m_ui->sourceSegmentControl->setSelectedSegment(segment);
+}
+
+int EditorView::selectedSegment() const
+{
+    return m_ui->sourceSegmentControl->selectedSegment();
+}
+
+QString EditorView::searchText() const
+{
+    return m_ui->searchText->text();
+}
+
+int EditorView::filterTag() const
+{
+    return m_ui->filterPop->currentData().toInt();
+}
+
+void EditorView::selectFilterItem(int index)
+{
+    m_ui->filterPop->setCurrentIndex(index);
+}
+
+void EditorView::reloadData()
+{
+    const QList<qsizetype> selected = selectedRows();
+    {
+        const QSignalBlocker quiet(m_ui->list->selectionModel());
+        m_model.reload();
+        selectRows(selected);
+    }
+    m_ui->list->viewport()->update();
+    m_ui->list->setPlaceholderText(m_ui->matches->text().isEmpty() ? QString()
+                                                                   : qtTrId("kNoMatches"));
+    emit stateChanged();
+}
+
+QList<qsizetype> EditorView::selectedRows() const
+{
+    QList<qsizetype> rows;
+    for (const QItemSelectionRange &range : m_ui->list->selectionModel()->selection()) {
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            rows.append(row);
+    }
+    std::sort(rows.begin(), rows.end());
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+    return rows;
+}
+
+void EditorView::selectRows(const QList<qsizetype> &rows)
+{
+    // One range a run of neighbours: a range a row would make large selections slow.
+    QItemSelection selection;
+    const auto lastColumn = static_cast<int>(stationColumns.size()) - 1;
+    const int count = m_model.rowCount();
+    for (qsizetype i = 0; i < rows.size() && rows[i] < count;) {
+        qsizetype end = i;
+        while (end + 1 < rows.size() && rows[end + 1] == rows[end] + 1 && rows[end + 1] < count)
+            ++end;
+        selection.select(m_model.index(static_cast<int>(rows[i]), 0),
+                         m_model.index(static_cast<int>(rows[end]), lastColumn));
+        i = end + 1;
+    }
+    QItemSelectionModel &selected = *m_ui->list->selectionModel();
+    selected.select(selection, QItemSelectionModel::ClearAndSelect);
+    if (!selection.isEmpty() && !selected.isSelected(selected.currentIndex()))
+        selected.setCurrentIndex(selection.first().topLeft(), QItemSelectionModel::NoUpdate);
+}
+
+void EditorView::scrollRowToVisible(qsizetype row)
+{
+    m_ui->list->scrollTo(m_model.index(static_cast<int>(row), 0));
+}
+
+void EditorView::setNameColumnEditable(bool) {}
+
+void EditorView::showEmptyHint(EmptyHint hint)
+{
+    const auto row = std::find_if(hintTexts.begin(), hintTexts.end(),
+                                  [hint](const HintText &text) { return text.hint == hint; });
+    if (row != hintTexts.end())
+        m_emptyDocText->setText(richText(*row));
+    m_emptyDocText->setVisible(row != hintTexts.end());
+}
+
+QWidget *EditorView::sheetWindow() const
+{
+    return window();
+}
+
+void EditorView::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        updateFonts();
+}
+
+} // namespace quillet

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "editor/EditorOutlets.h"
+#include "editor/StationTableModel.h"
+#include "editor/ViewController.h"
+
+#include <QWidget>
+
+#include <memory>
+
+class QLabel;
+
+namespace Ui {
+class EditorView;
+}
+
+namespace quillet {
+
+/// The content of an editor window: the controls, and nothing but the controls. Every decision is
+/// the ViewController's, which it owns and to which it is the outlets.
+class EditorView : public QWidget, public EditorOutlets
+{
+    Q_OBJECT
+
+public:
+    explicit EditorView(QWidget *parent = nullptr);
+    ~EditorView() override;
+
+    [[nodiscard]] ViewController &controller() { return m_controller; }
+    void focusSearch();
+    /// Asks where to print, then prints the rows shown.
+    void printList();
+    void setFillGapsOn(bool on);
+
+    /// Whether the window's commands have something to work on.
+    [[nodiscard]] bool canPrint() const;
+    [[nodiscard]] bool canMove() const;
+    [[nodiscard]] bool canChangeMode() const;
+    [[nodiscard]] bool isSegmentEnabled(int segment) const;
+
+    void setText(Field field, const QString &text) override;
+    void setEnabled(Control control, bool enabled) override;
+    [[nodiscard]] bool tvButtonIsOn() const override;
+    void setTVButtonOn(bool on) override;
+    void setSegmentEnabled(int segment, bool enabled) override;
+    void selectSegment(int segment) override;
+    [[nodiscard]] int selectedSegment() const override;
+    [[nodiscard]] QString searchText() const override;
+    [[nodiscard]] int filterTag() const override;
+    void selectFilterItem(int index) override;
+    void reloadData() override;
+    [[nodiscard]] QList<qsizetype> selectedRows() const override;
+    void selectRows(const QList<qsizetype> &rows) override;
+    void scrollRowToVisible(qsizetype row) override;
+    void setNameColumnEditable(bool editable) override;
+    void showEmptyHint(EmptyHint hint) override;
+    [[nodiscard]] QWidget *sheetWindow() const override;
+    using QWidget::setEnabled;
+
+signals:
+    /// Something has changed that commands are enabled by.
+    void stateChanged();
+    /// The person wants to choose a file.
+    void openRequested();
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    void setUpControls();
+    void setUpTable();
+    void connectControls();
+    void updateFonts();
+
+    std::unique_ptr<Ui::EditorView> m_ui;
+    ViewController m_controller;
+    StationTableModel m_model;
+    QLabel *m_emptyDocText;
+};
+
+} // namespace quillet

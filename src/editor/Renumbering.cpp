@@ -1,0 +1,94 @@
+#include "editor/Renumbering.h"
+
+#include <QHash>
+
+#include <algorithm>
+
+namespace quillet {
+
+namespace {
+
+void removeByNumber(StationList &stations, const StationList &moved)
+{
+    QHash<qint64, qsizetype> wanted;
+    for (const StationPtr &station : moved)
+        ++wanted[station->progNum()];
+    std::erase_if(stations, [&wanted](const StationPtr &station) {
+        const auto number = wanted.find(station->progNum());
+        if (number == wanted.end() || number.value() == 0)
+            return false;
+        --number.value();
+        return true;
+    });
+}
+
+} // namespace
+
+std::size_t indexForExactProgNum(const StationList &stations, qint64 number)
+{
+    const auto found =
+        std::find_if(stations.begin(), stations.end(),
+                     [number](const StationPtr &station) { return station->progNum() == number; });
+    return static_cast<std::size_t>(found - stations.begin());
+}
+
+std::size_t indexForNewProgNum(const StationList &stations, qint64 number)
+{
+    const auto found =
+        std::find_if(stations.begin(), stations.end(),
+                     [number](const StationPtr &station) { return station->progNum() >= number; });
+    return static_cast<std::size_t>(found - stations.begin());
+}
+
+QStringList moveElemList(StationList &stations, const StationList &moved, qint64 target,
+                         bool fillGaps)
+{
+    removeByNumber(stations, moved);
+    const qint64 first = std::min(target, highestTarget);
+    const std::size_t place = indexForNewProgNum(stations, first);
+    const auto count = static_cast<qint64>(moved.size());
+    stations.insert(stations.begin() + static_cast<std::ptrdiff_t>(place), moved.begin(),
+                    moved.end());
+    for (qint64 j = 0; j < count; ++j)
+        moved[static_cast<std::size_t>(j)]->setProgramNum(first + j);
+
+    if (fillGaps) {
+        closeGaps(stations);
+    } else {
+        qint64 last = 0;
+        for (std::size_t i = 0; i < stations.size(); ++i) {
+            // A moved station counts with the number it was given, which may be below 0; what can
+            // be read back from it is only the lower bits.
+            const bool isMoved = i >= place && i < place + moved.size();
+            const qint64 number =
+                isMoved ? first + static_cast<qint64>(i - place) : stations[i]->progNum();
+            if (number <= last)
+                stations[i]->setProgramNum(++last);
+            else
+                last = number;
+        }
+    }
+
+    // With gaps filled, stations moved towards the end are expected as many places before the
+    // target as were moved.
+    const qint64 offset = fillGaps && first > moved.front()->origPos() ? -count : 0;
+    QStringList selection;
+    for (qint64 j = 0; j < count; ++j)
+        selection.append(QString::number(first + offset + j));
+    return selection;
+}
+
+bool closeGaps(StationList &stations)
+{
+    bool changed = false;
+    qint64 number = 0;
+    for (const StationPtr &station : stations) {
+        if (station->progNum() == ++number)
+            continue;
+        station->setProgramNum(number);
+        changed = true;
+    }
+    return changed;
+}
+
+} // namespace quillet

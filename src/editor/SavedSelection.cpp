@@ -1,0 +1,33 @@
+#include "editor/SavedSelection.h"
+
+#include <QSet>
+
+namespace quillet {
+
+void SavedSelection::save(const QList<qsizetype> &rows, const StationList &list)
+{
+    m_numbers.reset();
+    if (rows.isEmpty())
+        return;
+    m_numbers.emplace();
+    for (const qsizetype row : rows)
+        m_numbers->append(list[static_cast<std::size_t>(row)]->progNumString());
+}
+
+QList<qsizetype> SavedSelection::rowsIn(const StationList &list) const
+{
+    QList<qsizetype> rows;
+    if (isEmpty())
+        return rows;
+    // The numbers of a station's text are canonical decimals, so they compare as numbers.
+    QSet<qint64> numbers;
+    for (const QString &number : *m_numbers)
+        numbers.insert(number.toLongLong());
+    for (std::size_t i = 0; i < list.size(); ++i) {
+        if (numbers.contains(list[i]->progNum()))
+            rows.append(static_cast<qsizetype>(i));
+    }
+    return rows;
+}
+
+} // namespace quillet

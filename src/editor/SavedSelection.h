@@ -1,0 +1,32 @@
+#pragma once
+
+#include "model/LGStation.h"
+
+#include <QList>
+#include <QStringList>
+
+#include <optional>
+
+namespace quillet {
+
+/// Which stations are selected, remembered by program number as text: so it survives renumbering,
+/// sorting and filtering, and afterwards means whatever stations carry those numbers.
+class SavedSelection
+{
+public:
+    /// The numbers; none when nothing is selected.
+    [[nodiscard]] const std::optional<QStringList> &selectedStations() const { return m_numbers; }
+    [[nodiscard]] bool isEmpty() const { return !m_numbers || m_numbers->isEmpty(); }
+
+    void clear() { m_numbers.reset(); }
+    void set(QStringList numbers) { m_numbers = std::move(numbers); }
+    /// Remembers the stations at those ascending rows; no rows mean no selection.
+    void save(const QList<qsizetype> &rows, const StationList &list);
+    /// The rows of the list, ascending, whose stations carry one of the numbers.
+    [[nodiscard]] QList<qsizetype> rowsIn(const StationList &list) const;
+
+private:
+    std::optional<QStringList> m_numbers;
+};
+
+} // namespace quillet

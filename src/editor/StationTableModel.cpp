@@ -1,0 +1,134 @@
+#include "editor/StationTableModel.h"
+
+#include "editor/StationColumns.h"
+#include "editor/ViewController.h"
+
+#include <QFontDatabase>
+#include <QMimeData>
+
+#include <set>
+
+namespace quillet {
+
+namespace {
+
+QVariant checkMark(bool set)
+{
+    return QVariant::fromValue(set ? Qt::Checked : Qt::Unchecked);
+}
+
+} // namespace
+
+StationTableModel::StationTableModel(const ViewController &controller, QObject *parent)
+    : QAbstractTableModel(parent), m_controller(controller)
+{
+    const QString monospaced = QStringLiteral("Monaco");
+    if (QFontDatabase::hasFamily(monospaced))
+        m_font = QFont(monospaced, 12);
+}
+
+void StationTableModel::reload()
+{
+    const auto rows = static_cast<int>(m_controller.currentList().size());
+    if (rows == m_rows && rows > 0) {
+        emit dataChanged(index(0, 0), index(rows - 1, columnCount() - 1));
+        return;
+    }
+    beginResetModel();
+    m_rows = rows;
+    endResetModel();
+}
+
+int StationTableModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : m_rows;
+}
+
+int StationTableModel::columnCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(stationColumns.size());
+}
+
+QVariant StationTableModel::data(const QModelIndex &index, int role) const
+{
+    const StationList &list = m_controller.currentList();
+    const auto row = static_cast<std::size_t>(index.row());
+    if (!index.isValid() || row >= list.size())
+        return {};
+    const LGStation &station = *list[row];
+    const StationColumn &column = stationColumns.at(static_cast<std::size_t>(index.column()));
+    if (role == Qt::FontRole)
+        return m_font;
+    const bool isText = role == Qt::DisplayRole;
+    switch (column.content) {
+    case ColumnContent::Number:
+        if (role == Qt::TextAlignmentRole)
+            return QVariant::fromValue(Qt::AlignRight | Qt::AlignVCenter);
+        return isText ? station.progNumString() : QVariant();
+    case ColumnContent::Name:
+        return isText || role == Qt::ToolTipRole ? station.stationName() : QVariant();
+    case ColumnContent::Type:
+        if (role == Qt::TextAlignmentRole)
+            return QVariant::fromValue(Qt::AlignCenter);
+        return isText ? station.channelTypeForDisplay(m_controller.source()) : QVariant();
+    case ColumnContent::Skipped:
+        return role == Qt::CheckStateRole ? checkMark(station.isSkipped()) : QVariant();
+    case ColumnContent::Blocked:
+        return role == Qt::CheckStateRole ? checkMark(station.isBlocked()) : QVariant();
+    }
+    return {};
+}
+
+QVariant StationTableModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || section < 0 || section >= columnCount())
+        return {};
+    const StationColumn &column = stationColumns.at(static_cast<std::size_t>(section));
+    if (role == Qt::DisplayRole)
+        return qtTrId(column.title);
+    if (role == Qt::TextAlignmentRole) {
+        const bool isNumber = column.content == ColumnContent::Number;
+        const bool isName = column.content == ColumnContent::Name;
+        return QVariant::fromValue(Qt::AlignVCenter | (isNumber ? Qt::AlignRight
+                                                       : isName ? Qt::AlignLeft
+                                                                : Qt::AlignHCenter));
+    }
+    return {};
+}
+
+Qt::ItemFlags StationTableModel::flags(const QModelIndex &index) const
+{
+    return QAbstractTableModel::flags(index) | Qt::ItemIsDragEnabled | Qt::ItemNeverHasChildren;
+}
+
+QStringList StationTableModel::mimeTypes() const
+{
+    return {TLLDocument::typeIdentifier()};
+}
+
+QMimeData *StationTableModel::mimeData(const QModelIndexList &indexes) const
+{
+    std::set<int> rows;
+    for (const QModelIndex &index : indexes)
+        rows.insert(index.row());
+    QByteArrayList texts;
+    for (const int row : rows)
+        texts.append(QByteArray::number(row));
+    auto *data = new QMimeData;
+    data->setData(TLLDocument::typeIdentifier(), texts.join(' '));
+    return data;
+}
+
+QList<qsizetype> StationTableModel::draggedRows(const QMimeData &data)
+{
+    QList<qsizetype> rows;
+    for (const QByteArray &text : data.data(TLLDocument::typeIdentifier()).split(' ')) {
+        bool isNumber = false;
+        const int row = text.toInt(&isNumber);
+        if (isNumber)
+            rows.append(row);
+    }
+    return rows;
+}
+
+} // namespace quillet

@@ -1,0 +1,382 @@
+#include "editor/ViewController.h"
+
+#include "editor/Renumbering.h"
+#include "framework/Prompts.h"
+#include "support/KXFileLog.h"
+#include "support/LenientNumber.h"
+
+#include <QDir>
+#include <QSet>
+#include <QTimer>
+
+namespace quillet {
+
+ViewController::ViewController(EditorOutlets &outlets, QObject *parent)
+    : QObject(parent), m_outlets(outlets)
+{
+}
+
+void ViewController::viewDidLoad()
+{
+    OpenFileLog(QStringLiteral("XT"));
+    m_outlets.setTVButtonOn(true);
+    updateButtons();
+    for (const StationSource source : stationSources)
+        m_outlets.setSegmentEnabled(static_cast<int>(source), false);
+}
+
+bool ViewController::populateFromTLLDoc(TLLDocument &document, const Error &error)
+{
+    m_document = &document;
+    m_filter.clear();
+    m_selection.clear();
+    m_loadFailed = !error.isEmpty();
+    if (m_loadFailed) {
+        m_outlets.setText(EditorOutlets::Field::FileName, QStringLiteral("--"));
+        showError(error.localizedDescription, qtTrId("kLoadingProblem"));
+    } else {
+        displayFileName(document.fileUrl().toLocalFile());
+    }
+    switchToMode(isModeTV());
+
+    bool isShown = false;
+    for (const StationSource source : stationSources) {
+        const int segment = static_cast<int>(source);
+        const bool hasStations = document.hasDataForSource(segment);
+        m_outlets.setSegmentEnabled(segment, hasStations);
+        if (hasStations && !isShown) {
+            isShown = true;
+            switchSource(segment);
+            m_outlets.selectSegment(segment);
+        }
+    }
+    showDeviceInfo();
+    m_outlets.selectRows({});
+    m_outlets.reloadData();
+    clearDirty();
+    saveSelection();
+    return !m_loadFailed;
+}
+
+void ViewController::displayFileName(const QString &path)
+{
+    const QString home = QDir::homePath();
+    const bool isInHome = path.startsWith(home + QLatin1Char('/'));
+    m_outlets.setText(EditorOutlets::Field::FileName,
+                      isInHome ? QLatin1Char('~') + path.sliced(home.size()) : path);
+}
+
+void ViewController::showDeviceInfo()
+{
+    m_outlets.setText(EditorOutlets::Field::DeviceName,
+                      m_document->modelName().value_or(QStringLiteral("---")));
+}
+
+void ViewController::updateStationCountDisplay()
+{
+    const qsizetype count = m_document->stationCount();
+    m_outlets.setText(EditorOutlets::Field::StationCount,
+                      count < 1 ? QString()
+                                : QStringLiteral("%1 %2").arg(QString::number(count),
+                                                              qtTrId("kStations", int(count))));
+}
+
+void ViewController::switchToMode(bool isTV)
+{
+    m_document->switchToMode(isTV);
+    updateStationCountDisplay();
+}
+
+void ViewController::switchSource(int source)
+{
+    m_document->switchToSource(source);
+    m_outlets.setNameColumnEditable(source == static_cast<int>(StationSource::Analogue));
+    updateStationCountDisplay();
+}
+
+void ViewController::reflectRadioButton(bool isTV)
+{
+    m_outlets.setTVButtonOn(isTV);
+    if (!isTV)
+        m_outlets.selectFilterItem(static_cast<int>(TypeFilter::All));
+    m_outlets.setEnabled(EditorOutlets::Control::FilterPop, isTV);
+    switchToMode(isTV);
+    applyFilter();
+    m_outlets.selectRows({});
+    m_outlets.reloadData();
+    saveSelection();
+    updateButtons();
+}
+
+void ViewController::sourceSegmentClicked()
+{
+    m_source = m_outlets.selectedSegment();
+    switchSource(m_source);
+    m_outlets.selectRows({});
+    m_outlets.reloadData();
+    saveSelection();
+    updateButtons();
+}
+
+void ViewController::typeFilterClicked(int tag)
+{
+    m_outlets.selectFilterItem(tag);
+    rebuildList();
+}
+
+void ViewController::filterStationsFor(const QString &text)
+{
+    m_filter.filterStationsFor(text, m_document->stations());
+}
+
+void ViewController::useTypeFilter(int tag)
+{
+    if (isModeTV())
+        m_filter.useTypeFilter(tag, m_source, m_document->stations());
+}
+
+void ViewController::applyFilter()
+{
+    if (!m_document)
+        return;
+    filterStationsFor(m_outlets.searchText());
+    useTypeFilter(m_outlets.filterTag());
+    QString matches;
+    if (const auto &filtered = m_filter.filteredStations()) {
+        const auto count = static_cast<int>(filtered->size());
+        matches = QStringLiteral("%1 %2").arg(QString::number(count), qtTrId("matches", count));
+    }
+    m_outlets.setText(EditorOutlets::Field::Matches, matches);
+    reloadWithoutSelecting();
+    restoreSelection();
+}
+
+void ViewController::rebuildList()
+{
+    applyFilter();
+    reloadWithoutSelecting();
+}
+
+void ViewController::reloadWithoutSelecting()
+{
+    m_inRestore = true;
+    m_outlets.reloadData();
+    m_inRestore = false;
+}
+
+const StationList &ViewController::currentList() const
+{
+    static const StationList none;
+    if (m_filter.filteredStations())
+        return *m_filter.filteredStations();
+    return m_document && m_document->stations() ? *m_document->stations() : none;
+}
+
+void ViewController::saveSelection()
+{
+    m_selection.save(m_outlets.selectedRows(), currentList());
+    m_outlets.setEnabled(EditorOutlets::Control::MoveToButton,
+                         m_selection.selectedStations().has_value());
+}
+
+void ViewController::restoreSelection()
+{
+    const QList<qsizetype> rows = m_selection.rowsIn(currentList());
+    m_outlets.setEnabled(EditorOutlets::Control::MoveToButton, !rows.isEmpty());
+    m_inRestore = true;
+    m_outlets.selectRows(rows);
+    m_inRestore = false;
+    if (!rows.isEmpty())
+        m_outlets.scrollRowToVisible(rows.front());
+}
+
+void ViewController::tableViewSelectionDidChange()
+{
+    if (!m_inRestore)
+        saveSelection();
+    updateButtons();
+}
+
+void ViewController::fillGapsClicked(bool on)
+{
+    m_fillGaps = on;
+    fillGapsIfWanted();
+}
+
+void ViewController::fillGapsIfWanted()
+{
+    if (!m_fillGaps || !hasData())
+        return;
+    if (closeGaps(*m_document->stations())) {
+        m_document->setDirtyFlag(true);
+        m_outlets.reloadData();
+    }
+}
+
+void ViewController::moveItemsToClicked()
+{
+    if (!m_document || !m_document->prompts())
+        return;
+    const Alert alert{.message = qtTrId("kMovingMessage"),
+                      .informativeText = {},
+                      .buttons = {qtTrId("kMovingOK"), qtTrId("kCancel")},
+                      .cancelButton = 1,
+                      .asksForText = true};
+    const auto move = [this, guard = QPointer(this)](const AlertAnswer &answer) {
+        if (!guard || answer.button != 0)
+            return;
+        const qint64 number = lenientInteger(answer.text);
+        if (number < 1 || number > highestTarget)
+            return;
+        moveSelectedElements(m_outlets.selectedRows(), number);
+        restoreSelection();
+    };
+    m_document->prompts()->showAlert(m_outlets.sheetWindow(), alert, move);
+}
+
+void ViewController::moveSelectedElements(const QList<qsizetype> &rows, qint64 target)
+{
+    const StationList &list = currentList();
+    StationList stations;
+    for (const qsizetype row : rows)
+        stations.push_back(list[static_cast<std::size_t>(row)]);
+    moveStations(stations, target);
+}
+
+void ViewController::moveElements(qsizetype firstRow, qsizetype count, qint64 target)
+{
+    const auto first = currentList().begin() + firstRow;
+    moveStations({first, first + count}, target);
+}
+
+/// Leaves out the stations of other lists: after a change of source the old filter's rows are still
+/// on show.
+StationList ViewController::movable(StationList stations) const
+{
+    const StationListPtr &current = m_document->stations();
+    if (!m_filter.filteredStations() || m_filter.base() == current)
+        return stations;
+    QSet<const LGStation *> own;
+    for (const StationPtr &station : *current)
+        own.insert(station.get());
+    std::erase_if(stations, [&own](const auto &station) { return !own.contains(station.get()); });
+    return stations;
+}
+
+void ViewController::moveStations(const StationList &stations, qint64 target)
+{
+    const StationList moved = movable(stations);
+    if (moved.empty())
+        return;
+    m_selection.set(moveElemList(*m_document->stations(), moved, target, m_fillGaps));
+    setDirty();
+    rebuildList();
+}
+
+DragOperation ViewController::validateDrop(const TableDrag &drag)
+{
+    m_containsFile = !drag.files.isEmpty();
+    if (m_containsFile && !hasData())
+        return DragOperation::Copy;
+    return drag.isFromThisTable && drag.isAboveRow ? DragOperation::Move : DragOperation::None;
+}
+
+bool ViewController::acceptDrop(const TableDrag &drag)
+{
+    if (m_containsFile && !drag.files.isEmpty()) {
+        QTimer::singleShot(0, this, [this, path = drag.files.front()] { loadTLLFile(path); });
+        return true;
+    }
+    if (drag.draggedRows.isEmpty() || drag.draggedRows.front() + 1 == drag.row)
+        return false;
+    const qint64 target =
+        drag.row == 0 ? 1 : currentList()[static_cast<std::size_t>(drag.row - 1)]->progNum() + 1;
+    QList<qsizetype> rows = drag.draggedRows;
+    std::sort(rows.begin(), rows.end());
+    moveSelectedElements(rows, target);
+    restoreSelection();
+    return true;
+}
+
+void ViewController::loadTLLFile(const QString &path)
+{
+    if (!m_document)
+        return;
+    if (!m_document->isDirty() || !m_document->prompts()) {
+        readDroppedFile(path);
+        return;
+    }
+    const Alert alert{.message = qtTrId("kReplaceMessage").arg(m_document->displayName()),
+                      .informativeText = qtTrId("kReplaceDetail"),
+                      .buttons = {qtTrId("kCancel"), qtTrId("kReplace")},
+                      .cancelButton = 0,
+                      .destructiveButton = 1};
+    m_document->prompts()->showAlert(m_outlets.sheetWindow(), alert,
+                                     [this, guard = QPointer(this), path](const auto &answer) {
+                                         if (guard && answer.button == 1)
+                                             readDroppedFile(path);
+                                     });
+}
+
+void ViewController::readDroppedFile(const QString &path)
+{
+    const QUrl url = QUrl::fromLocalFile(path);
+    m_document->useFileURL(url);
+    Error error;
+    if (!m_document->readFromUrl(url, TLLDocument::typeName(), error)) {
+        // Half-read content must not be saved over the file that could not be read.
+        m_document->clearVars();
+    }
+    populateFromTLLDoc(*m_document, error);
+}
+
+void ViewController::setDirty()
+{
+    m_document->setDirtyFlag(true);
+    updateButtons();
+}
+
+void ViewController::clearDirty()
+{
+    m_document->setDirtyFlag(false);
+    updateButtons();
+}
+
+void ViewController::updateButtons()
+{
+    m_outlets.setEnabled(EditorOutlets::Control::MoveToButton, !m_selection.isEmpty());
+    m_outlets.setEnabled(EditorOutlets::Control::ModeButtons, hasData());
+    m_outlets.showEmptyHint(emptyHint());
+}
+
+bool ViewController::validateUserInterfaceItem(const QString &action) const
+{
+    return action == QLatin1String("typeFilterClicked");
+}
+
+void ViewController::showError(const QString &detail, const QString &message)
+{
+    if (!m_document || !m_document->prompts())
+        return;
+    const Alert alert{.message = message, .informativeText = detail, .buttons = {qtTrId("kOK")}};
+    m_document->prompts()->showAlert(m_outlets.sheetWindow(), alert, [](const AlertAnswer &) {});
+}
+
+bool ViewController::hasData() const
+{
+    return m_document && m_document->hasData();
+}
+
+EmptyHint ViewController::emptyHint() const
+{
+    if (hasData())
+        return EmptyHint::None;
+    if (!m_document || m_loadFailed || m_document->fileUrl().isEmpty())
+        return EmptyHint::NoFile;
+    // The current list is empty, so whatever its source has is in the other mode's list.
+    if (!m_document->hasDataForSource(m_document->curSource()))
+        return EmptyHint::NoStations;
+    return m_document->usesTV() ? EmptyHint::NoTVStations : EmptyHint::NoRadioStations;
+}
+
+} // namespace quillet

@@ -1,0 +1,79 @@
+#include "app/AppDelegate.h"
+
+#include "app/LGWindowController.h"
+#include "app/MainMenu.h"
+#include "document/TLLDocument.h"
+
+#include <QFileInfo>
+#include <QFileOpenEvent>
+#include <QGuiApplication>
+#include <QMainWindow>
+#include <QUrl>
+
+namespace quillet {
+
+AppDelegate::AppDelegate(Prompts &prompts, QObject *parent)
+    : QObject(parent),
+      m_documents([this] { return makeDocument(); }, TLLDocument::typeName(), prompts)
+{
+    // Windows do not close by themselves here, so Qt must not quit by its own count of them.
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    connect(
+        &m_documents, &DocumentController::lastDocumentClosed, this,
+        [] { QCoreApplication::exit(); }, Qt::QueuedConnection);
+    qApp->installEventFilter(this);
+}
+
+AppDelegate::~AppDelegate() = default;
+
+QStringList AppDelegate::nameFilters()
+{
+    return {qtTrId("kFilterChannelLists") + QStringLiteral(" (*.tll *.TLL)"),
+            qtTrId("kFilterAllFiles") + QStringLiteral(" (*)")};
+}
+
+std::unique_ptr<Document> AppDelegate::makeDocument()
+{
+    auto document = std::make_unique<TLLDocument>();
+    document->setWindowFactory([this] {
+        auto controller = std::make_unique<LGWindowController>();
+        auto *menu = new MainMenu(*controller, m_documents, controller->window());
+        connect(menu, &MainMenu::quitRequested, this, &AppDelegate::terminate);
+        return controller;
+    });
+    return document;
+}
+
+void AppDelegate::applicationDidFinishLaunching(const QStringList &paths)
+{
+    QList<QUrl> urls;
+    for (const QString &path : paths)
+        urls.append(QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()));
+    m_documents.openDocuments(urls);
+    if (m_documents.documents().empty())
+        m_documents.newDocument();
+}
+
+void AppDelegate::terminate()
+{
+    m_documents.closeAllDocuments([](bool closed) {
+        if (closed)
+            QCoreApplication::exit(); // quit() would ask every window once more
+    });
+}
+
+bool AppDelegate::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::FileOpen) {
+        m_documents.openDocument(static_cast<QFileOpenEvent *>(event)->url());
+        return true;
+    }
+    if (event->type() == QEvent::Quit && watched == qApp) {
+        event->ignore();
+        terminate();
+        return true;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+} // namespace quillet

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+namespace quillet {
+
+/// What the program was asked to do on its command line.
+struct CommandLine
+{
+    QStringList files;
+    QString snapshot;              ///< the picture to make instead of opening a window; empty: none
+    bool isDark = false;           ///< the picture's appearance
+    std::optional<QString> answer; ///< a text to print (help, version) instead of anything else
+    QString error;                 ///< what is wrong with the arguments; empty: nothing
+
+    /// Needs no application object and no display.
+    [[nodiscard]] static CommandLine parse(const QStringList &arguments);
+};
+
+} // namespace quillet

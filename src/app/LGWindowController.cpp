@@ -1,0 +1,49 @@
+#include "app/LGWindowController.h"
+
+#include "document/TLLDocument.h"
+#include "editor/EditorView.h"
+
+#include <QMainWindow>
+
+namespace quillet {
+
+LGWindowController::LGWindowController()
+    : TLLWindowController(std::make_unique<QMainWindow>(), QStringLiteral("TLL Editor Window")),
+      m_editor(new EditorView)
+{
+    windowDidLoad();
+}
+
+void LGWindowController::windowDidLoad()
+{
+    window()->setCentralWidget(m_editor); // which the window owns from here on
+    m_editor->setFocus();
+    const QSize wanted = m_editor->sizeHint();
+    const int line = m_editor->fontMetrics().height();
+    window()->resize(qMax(wanted.width() + 6 * line, 48 * line), 42 * line);
+}
+
+bool LGWindowController::populateFromTLLDoc(TLLDocument &document, const Error &error)
+{
+    const bool succeeded = m_editor->controller().populateFromTLLDoc(document, error);
+    synchronizeWindowTitleWithDocumentName();
+    return succeeded;
+}
+
+void LGWindowController::refill()
+{
+    if (TLLDocument *shown = tlldoc())
+        populateFromTLLDoc(*shown, {});
+}
+
+bool LGWindowController::validateUserInterfaceItem(const QString &action) const
+{
+    return m_editor->controller().validateUserInterfaceItem(action);
+}
+
+TLLDocument *LGWindowController::tlldoc() const
+{
+    return qobject_cast<TLLDocument *>(document());
+}
+
+} // namespace quillet

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "document/TLLWindowController.h"
+
+namespace quillet {
+
+class EditorView;
+class TLLDocument;
+
+/// The window of one channel list, with the editor as its content. Holds the document weakly.
+class LGWindowController : public TLLWindowController
+{
+    Q_OBJECT
+
+public:
+    LGWindowController();
+
+    bool populateFromTLLDoc(TLLDocument &document, const Error &error) override;
+    void refill() override;
+    [[nodiscard]] bool validateUserInterfaceItem(const QString &action) const override;
+
+    /// The document shown; null before there is one and after it has gone.
+    [[nodiscard]] TLLDocument *tlldoc() const;
+    [[nodiscard]] EditorView &editor() const { return *m_editor; }
+
+private:
+    void windowDidLoad();
+
+    EditorView *m_editor;
+};
+
+} // namespace quillet

@@ -1,0 +1,179 @@
+#include "app/MainMenu.h"
+
+#include "app/AppDelegate.h"
+#include "app/LGWindowController.h"
+#include "document/TLLDocument.h"
+#include "editor/EditorView.h"
+#include "framework/DocumentController.h"
+#include "framework/RecentFilesMenu.h"
+
+#include <QActionGroup>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+
+#include <array>
+
+namespace quillet {
+
+namespace {
+
+struct TaggedTitle
+{
+    const char *title;
+    int tag;
+};
+
+constexpr std::array sourceItems{
+    TaggedTitle{"kMenuCable", static_cast<int>(StationSource::Cable)},
+    TaggedTitle{"kMenuSatellite", static_cast<int>(StationSource::Satellite)},
+    TaggedTitle{"kMenuAntenna", static_cast<int>(StationSource::Antenna)},
+    TaggedTitle{"kMenuAnalogue", static_cast<int>(StationSource::Analogue)},
+};
+
+constexpr std::array filterItems{
+    TaggedTitle{"kMenuFilterAll", static_cast<int>(TypeFilter::All)},
+    TaggedTitle{"kMenuFilterSD", static_cast<int>(TypeFilter::Sd)},
+    TaggedTitle{"kMenuFilterHD", static_cast<int>(TypeFilter::Hd)},
+    TaggedTitle{"kMenuFilterUHD", static_cast<int>(TypeFilter::Uhd)},
+    TaggedTitle{"kMenuFilterTV", static_cast<int>(TypeFilter::Tv)},
+    TaggedTitle{"kMenuFilterOther", static_cast<int>(TypeFilter::NonTV)},
+};
+
+} // namespace
+
+MainMenu::MainMenu(LGWindowController &window, DocumentController &documents, QObject *parent)
+    : QObject(parent), m_window(window), m_documents(documents), m_editor(window.editor())
+{
+    QMenuBar &bar = *window.window()->menuBar();
+    makeFileMenu(bar);
+    makeEditMenu(bar);
+    makeViewMenu(bar);
+    connect(&m_editor, &EditorView::stateChanged, this, &MainMenu::validate);
+    validate();
+}
+
+template<typename Slot>
+QAction *MainMenu::add(QMenu &menu, const Item &item, Slot slot)
+{
+    QAction *action = menu.addAction(qtTrId(item.title));
+    action->setObjectName(QLatin1String(item.name));
+    action->setShortcut(item.shortcut);
+    connect(action, &QAction::triggered, this, slot);
+    return action;
+}
+
+void MainMenu::makeFileMenu(QMenuBar &bar)
+{
+    QMenu &menu = *bar.addMenu(qtTrId("kMenuFile"));
+    connect(&menu, &QMenu::aboutToShow, this, &MainMenu::validate);
+    add(menu, {"kMenuNew", "newDocument", QKeySequence::New},
+        [this] { m_documents.newDocument(); });
+    QAction *open = add(menu, {"kMenuOpen", "openDocument", QKeySequence::Open},
+                        [this] { m_documents.showOpenPanel(AppDelegate::nameFilters()); });
+    connect(&m_editor, &EditorView::openRequested, open, &QAction::trigger);
+    QMenu *recent = menu.addMenu(qtTrId("kMenuOpenRecent"));
+    recent->setObjectName(QStringLiteral("recentFiles"));
+    auto *recentFiles = new RecentFilesMenu(*recent, m_documents.recentFiles(), this);
+    connect(recentFiles, &RecentFilesMenu::fileChosen, this,
+            [this](const QString &path) { m_documents.openDocument(QUrl::fromLocalFile(path)); });
+    menu.addSeparator();
+    add(menu, {"kMenuClose", "performClose", QKeySequence::Close},
+        [this] { emit m_window.closeRequested(); });
+    m_documentItems.push_back(add(menu, {"kMenuSave", "saveDocument", QKeySequence::Save},
+                                  [this] { m_window.tlldoc()->saveDocument(); }));
+    m_documentItems.push_back(add(menu, {"kMenuRevert", "revertDocumentToSaved", {}},
+                                  [this] { m_window.tlldoc()->revertDocumentToSaved(); }));
+    menu.addSeparator();
+    m_print = add(menu, {"kMenuPrint", "printDocument", QKeySequence::Print},
+                  [this] { m_editor.printList(); });
+    menu.addSeparator();
+    QAction *quit =
+        add(menu, {"kMenuQuit", "terminate", QKeySequence::Quit}, [this] { emit quitRequested(); });
+    quit->setMenuRole(QAction::QuitRole);
+}
+
+void MainMenu::makeEditMenu(QMenuBar &bar)
+{
+    QMenu &menu = *bar.addMenu(qtTrId("kMenuEdit"));
+    m_moveTo = add(menu, {"kMenuMoveTo", "moveItemsToClicked", Qt::CTRL | Qt::Key_M},
+                   [this] { m_editor.controller().moveItemsToClicked(); });
+    m_fillGaps = add(menu, {"kMenuFillGaps", "fillGapsClicked", {}},
+                     [this](bool on) { m_editor.setFillGapsOn(on); });
+    m_fillGaps->setCheckable(true);
+    menu.addSeparator();
+    add(menu, {"kMenuFind", "find", QKeySequence::Find}, [this] { m_editor.focusSearch(); });
+}
+
+void MainMenu::makeViewMenu(QMenuBar &bar)
+{
+    QMenu &menu = *bar.addMenu(qtTrId("kMenuView"));
+    auto *modes = new QActionGroup(this);
+    m_showTV = add(menu, {"kMenuTV", "useTVClicked", Qt::CTRL | Qt::Key_T},
+                   [this] { m_editor.controller().useTVClicked(); });
+    m_showRadio = add(menu, {"kMenuRadio", "useRadioClicked", Qt::CTRL | Qt::Key_R},
+                      [this] { m_editor.controller().useRadioClicked(); });
+    for (QAction *mode : {m_showTV, m_showRadio}) {
+        mode->setCheckable(true);
+        modes->addAction(mode);
+    }
+    menu.addSeparator();
+    auto *sources = new QActionGroup(this);
+    for (const auto &[title, tag] : sourceItems) {
+        const QKeySequence shortcut(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + tag));
+        QAction *action = add(menu, {title, "sourceSegmentClicked", shortcut},
+                              [this, source = tag] { chooseSource(source); });
+        action->setCheckable(true);
+        action->setData(tag);
+        sources->addAction(action);
+        m_sources.push_back(action);
+    }
+    menu.addSeparator();
+    auto *filters = new QActionGroup(this);
+    for (const auto &[title, tag] : filterItems) {
+        QAction *action = add(menu, {title, "typeFilterClicked", {}}, [this, filter = tag] {
+            m_editor.controller().typeFilterClicked(filter);
+        });
+        action->setCheckable(true);
+        action->setData(tag);
+        filters->addAction(action);
+        m_filters.push_back(action);
+        m_editorItems.push_back(action);
+    }
+}
+
+void MainMenu::chooseSource(int source)
+{
+    m_editor.selectSegment(source);
+    m_editor.controller().sourceSegmentClicked();
+}
+
+void MainMenu::validate()
+{
+    const TLLDocument *document = m_window.tlldoc();
+    for (QAction *action : m_documentItems)
+        action->setEnabled(document && document->validateUserInterfaceItem(action->objectName()));
+    for (QAction *action : m_editorItems)
+        action->setEnabled(m_window.validateUserInterfaceItem(action->objectName()));
+    m_print->setEnabled(m_editor.canPrint());
+    m_moveTo->setEnabled(m_editor.canMove());
+    m_fillGaps->setChecked(m_editor.controller().fillGaps());
+    validateView();
+}
+
+void MainMenu::validateView()
+{
+    const bool isTV = m_editor.tvButtonIsOn();
+    (isTV ? m_showTV : m_showRadio)->setChecked(true);
+    m_showTV->setEnabled(m_editor.canChangeMode());
+    m_showRadio->setEnabled(m_editor.canChangeMode());
+    for (QAction *source : m_sources) {
+        const int segment = source->data().toInt();
+        source->setEnabled(m_editor.isSegmentEnabled(segment));
+        source->setChecked(m_editor.selectedSegment() == segment);
+    }
+    for (QAction *filter : m_filters)
+        filter->setChecked(m_editor.filterTag() == filter->data().toInt());
+}
+
+} // namespace quillet

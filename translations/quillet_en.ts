@@ -1,0 +1,473 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="Bad file format">
+        <source></source>
+        <translation>Bad file format</translation>
+    </message>
+    <message id="kAnalogue">
+        <source></source>
+        <translation>Analogue</translation>
+    </message>
+    <message id="kAntenna">
+        <source></source>
+        <translation>Antenna</translation>
+    </message>
+    <message id="kBad_file_type">
+        <source></source>
+        <translation>Files of this type cannot be used</translation>
+    </message>
+    <message id="kCable">
+        <source></source>
+        <translation>Cable</translation>
+    </message>
+    <message id="kCancel">
+        <source></source>
+        <translation>Cancel</translation>
+    </message>
+    <message id="kChangedOnDiskMessage">
+        <source></source>
+        <translation>“%1” has been changed by another program.</translation>
+    </message>
+    <message id="kChangedOnDiskText">
+        <source></source>
+        <translation>If you save now, the changes made by the other program will be lost.</translation>
+    </message>
+    <message id="kClearMenu">
+        <source></source>
+        <translation>Clear Menu</translation>
+    </message>
+    <message id="kColumnBlocked">
+        <source></source>
+        <translation>Lock</translation>
+    </message>
+    <message id="kColumnName">
+        <source></source>
+        <translation>Name</translation>
+    </message>
+    <message id="kColumnNumber">
+        <source></source>
+        <translation>No.</translation>
+    </message>
+    <message id="kColumnSkipped">
+        <source></source>
+        <translation>Skip</translation>
+    </message>
+    <message id="kColumnType">
+        <source></source>
+        <translation>Type</translation>
+    </message>
+    <message id="kCompareFailedReason">
+        <source></source>
+        <translation>The disk did not store what was written. It may be full or damaged.</translation>
+    </message>
+    <message id="kContentUnknownReason">
+        <source></source>
+        <translation>The file is empty or not a channel list.</translation>
+    </message>
+    <message id="kCreateFailedReason">
+        <source></source>
+        <translation>No new file could be made in the folder “%1”: %2</translation>
+    </message>
+    <message id="kDeviceTitle">
+        <source></source>
+        <translation>Television:</translation>
+    </message>
+    <message id="kDontSave">
+        <source></source>
+        <translation>Don’t Save</translation>
+    </message>
+    <message id="kFileMissingReason">
+        <source></source>
+        <translation>There is no file at “%1”.</translation>
+    </message>
+    <message id="kFileName">
+        <source></source>
+        <translation>File</translation>
+    </message>
+    <message id="kFileTooLargeReason">
+        <source></source>
+        <translation>The file is far too large to be a channel list.</translation>
+    </message>
+    <message id="kFileUnreadableReason">
+        <source></source>
+        <translation>The file could not be read: %1</translation>
+    </message>
+    <message id="kFillGaps">
+        <source></source>
+        <translation>Fill &amp;gaps</translation>
+    </message>
+    <message id="kFillGapsTip">
+        <source></source>
+        <translation>Number the list 1, 2, 3 … without gaps, now and after each move</translation>
+    </message>
+    <message id="kFilterAll">
+        <source></source>
+        <translation>All types</translation>
+    </message>
+    <message id="kFilterAllFiles">
+        <source></source>
+        <translation>All files</translation>
+    </message>
+    <message id="kFilterChannelLists">
+        <source></source>
+        <translation>Channel lists</translation>
+    </message>
+    <message id="kFilterHD">
+        <source></source>
+        <translation>HD</translation>
+    </message>
+    <message id="kFilterOther">
+        <source></source>
+        <translation>Other</translation>
+    </message>
+    <message id="kFilterSD">
+        <source></source>
+        <translation>SD</translation>
+    </message>
+    <message id="kFilterTV">
+        <source></source>
+        <translation>TV</translation>
+    </message>
+    <message id="kFilterUHD">
+        <source></source>
+        <translation>UHD</translation>
+    </message>
+    <message id="kHintNoFile">
+        <source></source>
+        <translation>No channel list is open</translation>
+    </message>
+    <message id="kHintNoFileDetail">
+        <source></source>
+        <translation>Drop a TLL file from your television here, or choose one.</translation>
+    </message>
+    <message id="kHintNoRadioStations">
+        <source></source>
+        <translation>This source has no radio stations</translation>
+    </message>
+    <message id="kHintNoStations">
+        <source></source>
+        <translation>No stations</translation>
+    </message>
+    <message id="kHintNoStationsDetail">
+        <source></source>
+        <translation>This file holds no stations. Another TLL file can be dropped here.</translation>
+    </message>
+    <message id="kHintNoTVStations">
+        <source></source>
+        <translation>This source has no TV stations</translation>
+    </message>
+    <message id="kHintOpen">
+        <source></source>
+        <translation>Open a file…</translation>
+    </message>
+    <message id="kHintShowRadio">
+        <source></source>
+        <translation>Show its radio stations</translation>
+    </message>
+    <message id="kHintShowTV">
+        <source></source>
+        <translation>Show its TV stations</translation>
+    </message>
+    <message id="kIsAFolderReason">
+        <source></source>
+        <translation>“%1” is a folder.</translation>
+    </message>
+    <message id="kLinkCircleReason">
+        <source></source>
+        <translation>The link to the file leads back to itself.</translation>
+    </message>
+    <message id="kLoadingProblem">
+        <source></source>
+        <translation>The channel list could not be opened.</translation>
+    </message>
+    <message id="kMenuAnalogue">
+        <source></source>
+        <translation>Ana&amp;logue</translation>
+    </message>
+    <message id="kMenuAntenna">
+        <source></source>
+        <translation>&amp;Antenna</translation>
+    </message>
+    <message id="kMenuCable">
+        <source></source>
+        <translation>&amp;Cable</translation>
+    </message>
+    <message id="kMenuClose">
+        <source></source>
+        <translation>&amp;Close</translation>
+    </message>
+    <message id="kMenuEdit">
+        <source></source>
+        <translation>&amp;Edit</translation>
+    </message>
+    <message id="kMenuFile">
+        <source></source>
+        <translation>&amp;File</translation>
+    </message>
+    <message id="kMenuFillGaps">
+        <source></source>
+        <translation>Fill &amp;Gaps</translation>
+    </message>
+    <message id="kMenuFilterAll">
+        <source></source>
+        <translation>All T&amp;ypes</translation>
+    </message>
+    <message id="kMenuFilterHD">
+        <source></source>
+        <translation>&amp;HD</translation>
+    </message>
+    <message id="kMenuFilterOther">
+        <source></source>
+        <translation>&amp;Other</translation>
+    </message>
+    <message id="kMenuFilterSD">
+        <source></source>
+        <translation>S&amp;D</translation>
+    </message>
+    <message id="kMenuFilterTV">
+        <source></source>
+        <translation>A&amp;ny TV</translation>
+    </message>
+    <message id="kMenuFilterUHD">
+        <source></source>
+        <translation>&amp;UHD</translation>
+    </message>
+    <message id="kMenuFind">
+        <source></source>
+        <translation>&amp;Find</translation>
+    </message>
+    <message id="kMenuMoveTo">
+        <source></source>
+        <translation>&amp;Move To…</translation>
+    </message>
+    <message id="kMenuNew">
+        <source></source>
+        <translation>&amp;New</translation>
+    </message>
+    <message id="kMenuOpen">
+        <source></source>
+        <translation>&amp;Open…</translation>
+    </message>
+    <message id="kMenuOpenRecent">
+        <source></source>
+        <translation>Open &amp;Recent</translation>
+    </message>
+    <message id="kMenuPrint">
+        <source></source>
+        <translation>&amp;Print…</translation>
+    </message>
+    <message id="kMenuQuit">
+        <source></source>
+        <translation>&amp;Quit</translation>
+    </message>
+    <message id="kMenuRadio">
+        <source></source>
+        <translation>&amp;Radio Stations</translation>
+    </message>
+    <message id="kMenuRevert">
+        <source></source>
+        <translation>Re&amp;vert to Saved</translation>
+    </message>
+    <message id="kMenuSatellite">
+        <source></source>
+        <translation>&amp;Satellite</translation>
+    </message>
+    <message id="kMenuSave">
+        <source></source>
+        <translation>&amp;Save</translation>
+    </message>
+    <message id="kMenuTV">
+        <source></source>
+        <translation>&amp;TV Stations</translation>
+    </message>
+    <message id="kMenuView">
+        <source></source>
+        <translation>&amp;View</translation>
+    </message>
+    <message id="kMoveTo">
+        <source></source>
+        <translation>&amp;Move To…</translation>
+    </message>
+    <message id="kMoveToTip">
+        <source></source>
+        <translation>Give the selected stations new numbers</translation>
+    </message>
+    <message id="kMovingMessage">
+        <source></source>
+        <translation>Move the selected stations to number (1 to 9999):</translation>
+    </message>
+    <message id="kMovingOK">
+        <source></source>
+        <translation>Move</translation>
+    </message>
+    <message id="kNoMatches">
+        <source></source>
+        <translation>No station matches the search and the type.</translation>
+    </message>
+    <message id="kNotAFileReason">
+        <source></source>
+        <translation>“%1” is not an ordinary file.</translation>
+    </message>
+    <message id="kNotALocalFileReason">
+        <source></source>
+        <translation>Only files on this computer can be opened.</translation>
+    </message>
+    <message id="kOK">
+        <source></source>
+        <translation>OK</translation>
+    </message>
+    <message id="kOpenFailedMessage">
+        <source></source>
+        <translation>“%1” could not be opened.</translation>
+    </message>
+    <message id="kOpenTitle">
+        <source></source>
+        <translation>Open Channel List</translation>
+    </message>
+    <message id="kPageOf">
+        <source></source>
+        <translation>Page %1 of %2</translation>
+    </message>
+    <message id="kPermissionsFailedReason">
+        <source></source>
+        <translation>The file’s access permissions could not be kept: %1</translation>
+    </message>
+    <message id="kRadio">
+        <source></source>
+        <translation>&amp;Radio</translation>
+    </message>
+    <message id="kReadBackFailedReason">
+        <source></source>
+        <translation>The new file could not be checked: %1</translation>
+    </message>
+    <message id="kRecentFileMissingMessage">
+        <source></source>
+        <translation>%1 is no longer there.</translation>
+    </message>
+    <message id="kReplace">
+        <source></source>
+        <translation>Replace</translation>
+    </message>
+    <message id="kReplaceDetail">
+        <source></source>
+        <translation>It has unsaved changes in lists that are not on show. Opening the dropped file here gives them up.</translation>
+    </message>
+    <message id="kReplaceFailedReason">
+        <source></source>
+        <translation>The new file could not take the place of the old one: %1</translation>
+    </message>
+    <message id="kReplaceMessage">
+        <source></source>
+        <translation>Replace the channel list “%1”?</translation>
+    </message>
+    <message id="kRevert">
+        <source></source>
+        <translation>Revert</translation>
+    </message>
+    <message id="kRevertFailedMessage">
+        <source></source>
+        <translation>“%1” could not be read again. Your changes are still here.</translation>
+    </message>
+    <message id="kRevertMessage">
+        <source></source>
+        <translation>Do you want to go back to the last saved version of “%1”?</translation>
+    </message>
+    <message id="kRevertText">
+        <source></source>
+        <translation>All changes you made since then will be lost.</translation>
+    </message>
+    <message id="kSatellite">
+        <source></source>
+        <translation>Satellite</translation>
+    </message>
+    <message id="kSave">
+        <source></source>
+        <translation>Save</translation>
+    </message>
+    <message id="kSaveAnyway">
+        <source></source>
+        <translation>Save Anyway</translation>
+    </message>
+    <message id="kSaveChangesMessage">
+        <source></source>
+        <translation>Do you want to save the changes you made to “%1”?</translation>
+    </message>
+    <message id="kSaveChangesText">
+        <source></source>
+        <translation>Your changes will be lost if you don’t save them.</translation>
+    </message>
+    <message id="kSaveFailedMessage">
+        <source></source>
+        <translation>“%1” could not be saved. The file on the disk was not changed.</translation>
+    </message>
+    <message id="kSearchPlaceholder">
+        <source></source>
+        <translation>Station name</translation>
+    </message>
+    <message id="kSearchTitle">
+        <source></source>
+        <translation>&amp;Search:</translation>
+    </message>
+    <message id="kSource">
+        <source></source>
+        <translation>Source</translation>
+    </message>
+    <message id="kStations" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>station</numerusform>
+            <numerusform>stations</numerusform>
+        </translation>
+    </message>
+    <message id="kStationTable">
+        <source></source>
+        <translation>Stations</translation>
+    </message>
+    <message id="kTipFilterTVOnly">
+        <source></source>
+        <translation>Types can be chosen for TV stations only</translation>
+    </message>
+    <message id="kTipNoStations">
+        <source></source>
+        <translation>This list has no stations</translation>
+    </message>
+    <message id="kTipNoStationsInSource">
+        <source></source>
+        <translation>The file has no stations from this source</translation>
+    </message>
+    <message id="kTipSelectFirst">
+        <source></source>
+        <translation>Select stations in the list first</translation>
+    </message>
+    <message id="kTV">
+        <source></source>
+        <translation>&amp;TV</translation>
+    </message>
+    <message id="kTypeFilter">
+        <source></source>
+        <translation>Type</translation>
+    </message>
+    <message id="kUntitled">
+        <source></source>
+        <translation>Untitled</translation>
+    </message>
+    <message id="kWriteFailedReason">
+        <source></source>
+        <translation>The disk did not take the whole file: %1</translation>
+    </message>
+    <message id="kWriteProtectedReason">
+        <source></source>
+        <translation>“%1” is write-protected.</translation>
+    </message>
+    <message id="matches" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>match</numerusform>
+            <numerusform>matches</numerusform>
+        </translation>
+    </message>
+</context>
+</TS>

@@ -4,7 +4,7 @@
 
 #include <QSharedData>
 
-#include <vector>
+#include <utility>
 
 namespace quillet {
 
@@ -23,6 +23,11 @@ Array::~Array() = default;
 Array::Array(std::initializer_list<Value> values)
 {
     detached().values = values;
+}
+
+Array::Array(std::vector<Value> values)
+{
+    detached().values = std::move(values);
 }
 
 Array::Data &Array::detached()

@@ -3,6 +3,7 @@
 #include <QExplicitlySharedDataPointer>
 
 #include <initializer_list>
+#include <vector>
 
 namespace quillet {
 
@@ -15,6 +16,7 @@ class Array
 public:
     Array();
     Array(std::initializer_list<Value> values);
+    explicit Array(std::vector<Value> values);
     Array(const Array &other);
     Array(Array &&other) noexcept;
     Array &operator=(const Array &other);

@@ -14,4 +14,11 @@ class Dictionary;
 [[nodiscard]] QString formattedDescription(const Dictionary &dictionary, int level = 0);
 [[nodiscard]] QString formattedDescription(const Array &array, int level = 0);
 
+/// The outermost level under its short name.
+template<typename Container>
+[[nodiscard]] QString fd(const Container &container)
+{
+    return formattedDescription(container);
+}
+
 } // namespace quillet

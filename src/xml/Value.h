@@ -40,6 +40,13 @@ public:
     /// are printed in their indented form.
     [[nodiscard]] QString description() const;
 
+    /// Calls the function object for what the value holds.
+    template<typename Visitor>
+    decltype(auto) visit(Visitor &&visitor) const
+    {
+        return std::visit(std::forward<Visitor>(visitor), m_data);
+    }
+
     [[nodiscard]] bool operator==(const Value &other) const;
 
 private:

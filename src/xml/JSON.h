@@ -1,0 +1,31 @@
+#pragma once
+
+#include "xml/Value.h"
+
+#include <QByteArray>
+
+#include <optional>
+
+/// JSON text to and from values. Members keep their order; integers of up to 64 bits, signed or
+/// unsigned, doubles, booleans and nulls keep their kinds.
+namespace quillet {
+
+/// Why a text could not be decoded, and where; lines and columns count from 1.
+struct JSONError
+{
+    int line = 0;
+    int column = 0;
+    QString message;
+};
+
+/// The deepest nesting of objects and arrays that is decoded.
+inline constexpr int deepestJSON = 512;
+
+/// None, with the error set, when the text is not JSON or is nested too deep. Of two members of one
+/// name the later counts, in the place of the earlier.
+[[nodiscard]] std::optional<Value> valueFromJSON(QByteArrayView text, JSONError &error);
+
+/// Compact JSON in UTF-8; none when the value cannot be expressed in it.
+[[nodiscard]] std::optional<QByteArray> toJSON(const Value &value);
+
+} // namespace quillet

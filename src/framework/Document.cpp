@@ -202,6 +202,13 @@ void Document::write(const std::function<void(bool)> &done)
     done(isWritten);
 }
 
+bool Document::saveCopy(const QString &path, const QString &typeName, Error &error)
+{
+    error = {};
+    const QByteArray bytes = dataOfType(typeName, error);
+    return error.isEmpty() && FileReplacement(*m_fileOperations).replace(path, bytes, error);
+}
+
 void Document::revertDocumentToSaved()
 {
     if (m_fileUrl.isEmpty() || m_isAsking)

@@ -81,6 +81,9 @@ public:
     /// the document changed. `done` (may be empty) gets whether the file was written: false at
     /// once without a file and while another question of this document is open.
     void saveDocument(std::function<void(bool)> done = {});
+    /// Writes the document's bytes of that type to another place, as safely as a save does. The
+    /// document's own file and its changes stay as they are.
+    [[nodiscard]] bool saveCopy(const QString &path, const QString &typeName, Error &error);
     /// Asks, then reads the file again and refills every window. When it cannot be read any more,
     /// that is shown and the document stays as it is.
     void revertDocumentToSaved();
@@ -100,9 +103,11 @@ protected:
     virtual void documentWasSaved();
     /// Deleting later takes the windows away first.
     bool event(QEvent *event) override;
+    /// The window that questions belong to: the active one of this document, else any; none when
+    /// there is none.
+    [[nodiscard]] QWidget *sheetWindow() const;
 
 private:
-    [[nodiscard]] QWidget *sheetWindow() const;
     /// Shows the alert; `answered` gets the button, or -1 when nobody can be asked.
     void ask(const Alert &alert, const std::function<void(int)> &answered);
     [[nodiscard]] bool wasChangedOnDisk() const;

@@ -37,6 +37,14 @@ struct OpenPanel
     bool allowsSeveral = false;
 };
 
+/// What a panel that asks where to save offers.
+struct SavePanel
+{
+    QString title;
+    QString suggestedPath; ///< folder and name it starts with
+    QStringList nameFilters;
+};
+
 /// Everything the program asks a person, behind one interface, so that a test presets the answers.
 /// All questions are sheets: they belong to the given window (none: to the program), the call
 /// returns at once and the answer arrives later, at most once. It never arrives when the window
@@ -51,6 +59,9 @@ public:
     /// Answers the chosen paths; none when cancelled.
     virtual void showOpenPanel(QWidget *window, const OpenPanel &panel,
                                std::function<void(const QStringList &)> done) = 0;
+    /// Answers the chosen path, an existing file only after it was confirmed; empty when cancelled.
+    virtual void showSavePanel(QWidget *window, const SavePanel &panel,
+                               std::function<void(const QString &)> done) = 0;
     /// Lets the person choose where and how to print; `print` is called only on confirmation.
     virtual void showPrintPanel(QWidget *window, const QString &documentName,
                                 std::function<void(QPrinter &)> print) = 0;

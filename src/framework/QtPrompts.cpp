@@ -2,6 +2,7 @@
 
 #include <QDialogButtonBox>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QLabel>
@@ -132,6 +133,22 @@ void QtPrompts::showOpenPanel(QWidget *window, const OpenPanel &panel,
         done(dialog->selectedFiles());
     });
     present(*dialog, QStringLiteral("openPanel"));
+}
+
+void QtPrompts::showSavePanel(QWidget *window, const SavePanel &panel,
+                              std::function<void(const QString &)> done)
+{
+    const QFileInfo suggested(panel.suggestedPath);
+    auto *dialog = new QFileDialog(window, panel.title, suggested.path());
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setFileMode(QFileDialog::AnyFile);
+    dialog->setNameFilters(panel.nameFilters);
+    dialog->setDefaultSuffix(suggested.suffix());
+    dialog->selectFile(suggested.fileName());
+    QObject::connect(dialog, &QDialog::finished, dialog, [dialog, done](int result) {
+        done(result == QDialog::Accepted ? dialog->selectedFiles().value(0) : QString());
+    });
+    present(*dialog, QStringLiteral("savePanel"));
 }
 
 void QtPrompts::showPrintPanel(QWidget *window, const QString &documentName,

@@ -49,6 +49,11 @@ void PresetPrompts::answerOpenPanel(const QStringList &paths)
     answer(m_openLine, paths);
 }
 
+void PresetPrompts::answerSavePanel(const QString &path)
+{
+    answer(m_saveLine, {path});
+}
+
 void PresetPrompts::answerPrintPanel(const QString &pdfPath)
 {
     answer(m_printLine, {pdfPath});
@@ -67,7 +72,8 @@ bool PresetPrompts::isSettled() const
     const auto isEmpty = [](const Line &line) {
         return line.answers.empty() && line.questions.empty();
     };
-    return isEmpty(m_alertLine) && isEmpty(m_openLine) && isEmpty(m_printLine) && m_underway == 0 &&
+    return isEmpty(m_alertLine) && isEmpty(m_openLine) && isEmpty(m_saveLine) &&
+           isEmpty(m_printLine) && m_underway == 0 &&
            !m_hasMistake;
 }
 
@@ -93,6 +99,14 @@ void PresetPrompts::showOpenPanel(QWidget *window, const OpenPanel &panel,
 {
     m_openPanels.push_back(panel);
     ask(m_openLine, window, std::move(done));
+}
+
+void PresetPrompts::showSavePanel(QWidget *window, const SavePanel &panel,
+                                  std::function<void(const QString &)> done)
+{
+    m_savePanels.push_back(panel);
+    ask(m_saveLine, window,
+        [done = std::move(done)](const Answer &given) { done(given.value(0)); });
 }
 
 void PresetPrompts::showPrintPanel(QWidget *window, const QString &documentName,

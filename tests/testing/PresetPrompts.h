@@ -28,6 +28,8 @@ public:
     void answerAlert(const QString &buttonTitle, const QString &text = {});
     /// Chooses files in the next open panel; none cancels it.
     void answerOpenPanel(const QStringList &paths);
+    /// Chooses a place in the next save panel; an empty path cancels it.
+    void answerSavePanel(const QString &path);
     /// Prints to a PDF file at the next print panel; an empty path cancels it.
     void answerPrintPanel(const QString &pdfPath);
 
@@ -38,6 +40,7 @@ public:
     };
     [[nodiscard]] const std::vector<ShownAlert> &alerts() const { return m_alerts; }
     [[nodiscard]] const std::vector<OpenPanel> &openPanels() const { return m_openPanels; }
+    [[nodiscard]] const std::vector<SavePanel> &savePanels() const { return m_savePanels; }
     [[nodiscard]] const QStringList &printedNames() const { return m_printedNames; }
     /// The message and the further text of the last alert; empty when there was none.
     [[nodiscard]] QString lastText() const;
@@ -48,6 +51,8 @@ public:
                    std::function<void(const AlertAnswer &)> done) override;
     void showOpenPanel(QWidget *window, const OpenPanel &panel,
                        std::function<void(const QStringList &)> done) override;
+    void showSavePanel(QWidget *window, const SavePanel &panel,
+                       std::function<void(const QString &)> done) override;
     void showPrintPanel(QWidget *window, const QString &documentName,
                         std::function<void(QPrinter &)> print) override;
 
@@ -65,9 +70,10 @@ private:
     void answer(Line &line, const Answer &answer);
 
     Arrival m_arrival;
-    Line m_alertLine, m_openLine, m_printLine;
+    Line m_alertLine, m_openLine, m_saveLine, m_printLine;
     std::vector<ShownAlert> m_alerts;
     std::vector<OpenPanel> m_openPanels;
+    std::vector<SavePanel> m_savePanels;
     QStringList m_printedNames;
     int m_underway = 0;
     bool m_hasMistake = false;

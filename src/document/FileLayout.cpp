@@ -19,6 +19,18 @@ bool FileLayout::locateDTV(const QString &text)
     return locate(text, u"<DTV>", u"</DTV>", m_headerLenDTV);
 }
 
+void FileLayout::locateLegacy(const QString &text)
+{
+    constexpr QStringView openTag = u"<legacybroadcast>";
+    const qsizetype start = text.indexOf(openTag);
+    if (start < 0)
+        return;
+    m_headerLenLegacy = start + openTag.size();
+    const qsizetype end = text.indexOf(QStringView(u"</legacybroadcast>"), start);
+    if (end >= 0)
+        m_footer = text.sliced(end);
+}
+
 bool FileLayout::locate(const QString &text, QStringView openTag, QStringView closeTag,
                         qsizetype &headerLength)
 {

@@ -15,6 +15,9 @@ public:
     /// none was found.
     [[nodiscard]] qsizetype headerLenATV() const { return m_headerLenATV; }
     [[nodiscard]] qsizetype headerLenDTV() const { return m_headerLenDTV; }
+    /// Length of the text up to and including the tag of the JSON station list; 0 when there is
+    /// none.
+    [[nodiscard]] qsizetype headerLenLegacy() const { return m_headerLenLegacy; }
     /// The text from the closing tag of the last section to the end; none when none was found.
     [[nodiscard]] const std::optional<QString> &footer() const { return m_footer; }
 
@@ -25,6 +28,8 @@ public:
     /// the section's tag.
     [[nodiscard]] bool locateATV(const QString &text);
     [[nodiscard]] bool locateDTV(const QString &text);
+    /// Notes where the JSON station list stands; what is not found leaves the earlier value.
+    void locateLegacy(const QString &text);
 
 private:
     [[nodiscard]] bool locate(const QString &text, QStringView openTag, QStringView closeTag,
@@ -32,6 +37,7 @@ private:
 
     qsizetype m_headerLenATV = 0;
     qsizetype m_headerLenDTV = 0;
+    qsizetype m_headerLenLegacy = 0;
     std::optional<QString> m_footer;
 };
 

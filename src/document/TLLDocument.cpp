@@ -1,12 +1,15 @@
 #include "document/TLLDocument.h"
 
+#include "document/ReferenceOrder.h"
 #include "document/TLLWindowController.h"
 #include "document/TLLWriter.h"
+#include "framework/Prompts.h"
 #include "support/KXFileLog.h"
 #include "support/TextConversion.h"
 #include "xml/NodeViews.h"
 #include "xml/XMLDictionaryParser.h"
 
+#include <QFileInfo>
 #include <QLoggingCategory>
 
 #include <array>
@@ -69,6 +72,11 @@ bool TLLDocument::readFromData(const QByteArray &data, const QString &typeName, 
     m_xmlDictionary = std::move(tree).value_or(Dictionary());
     m_parseError = parser.firstError();
 
+    m_isLegacyFormat = isFormatWithLegacybroadcast();
+    if (m_isLegacyFormat) {
+        readLegacyBroadcast();
+        return true;
+    }
     if (extractStations() < 0 || (m_analogStations >= 1 && !m_layout.locateATV(m_xmlString)) ||
         (m_digitalStations >= 1 && !m_layout.locateDTV(m_xmlString))) {
         error = createBadFileFormatError(typeName);
@@ -77,6 +85,21 @@ bool TLLDocument::readFromData(const QByteArray &data, const QString &typeName, 
     if (m_lgWindowController)
         m_lgWindowController->populateFromTLLDoc(*this, {});
     return true;
+}
+
+bool TLLDocument::isFormatWithLegacybroadcast() const
+{
+    const Dictionary *channel = m_xmlDictionary.dictionary(u"CHANNEL");
+    return channel && channel->contains(u"legacybroadcast");
+}
+
+void TLLDocument::readLegacyBroadcast()
+{
+    const Dictionary *channel = m_xmlDictionary.dictionary(u"CHANNEL");
+    const QByteArray json = getAsData(elementText(channel->find(u"legacybroadcast")));
+    const qsizetype count = m_legacyBroadcast.extractLegacyStations(json, m_lists);
+    qCInfo(log, "Found legacy stations: %d", static_cast<int>(count));
+    m_layout.locateLegacy(m_xmlString);
 }
 
 /// Files every ITEM into the lists. Returns the number of stations, or -1 when a section is
@@ -210,6 +233,44 @@ bool TLLDocument::hasDataForSource(int source) const
 StationListPtr TLLDocument::listWithMostEntries(bool isTV) const
 {
     return m_lists.listWithMostEntries(isTV);
+}
+
+void TLLDocument::applyOrderFromRefList(const ReferenceList &entries, const QString &fileName)
+{
+    if (!m_stations)
+        return;
+    const ReferenceOrderResult result = applyReferenceOrder(*m_stations, entries);
+    if (!prompts())
+        return;
+    const Alert report{.message = qtTrId("kSortTitle").arg(fileName),
+                       .informativeText = qtTrId("kSortStatistics")
+                                              .arg(result.matched)
+                                              .arg(result.remaining)
+                                              .arg(result.last + 1),
+                       .buttons = {qtTrId("kOK")}};
+    prompts()->showAlert(sheetWindow(), report, [](const AlertAnswer &) {});
+}
+
+void TLLDocument::exportAsReferenceList()
+{
+    if (!prompts())
+        return;
+    const QFileInfo file(fileUrl().toLocalFile());
+    const SavePanel panel{.title = qtTrId("kExportTitle"),
+                          .suggestedPath =
+                              file.path() + u'/' + file.completeBaseName() + QLatin1String(".txt"),
+                          .nameFilters = {qtTrId("kFilterTextFiles") + QLatin1String(" (*.txt)")}};
+    const QPointer guard(this);
+    prompts()->showSavePanel(sheetWindow(), panel, [this, guard](const QString &path) {
+        if (!guard || path.isEmpty())
+            return;
+        Error error;
+        if (saveCopy(path, QStringLiteral("Reference list"), error))
+            qCInfo(log, "File export succeeded!");
+        else
+            qCWarning(log).noquote()
+                << QStringLiteral("File export failed: %1").arg(error.localizedDescription);
+    });
 }
 
 bool TLLDocument::isValidFieldContent(const std::optional<QString> &content)

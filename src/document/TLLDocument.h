@@ -1,6 +1,8 @@
 #pragma once
 
 #include "document/FileLayout.h"
+#include "document/LegacyBroadcast.h"
+#include "document/ReferenceList.h"
 #include "document/StationLists.h"
 #include "framework/Document.h"
 #include "xml/EventParser.h"
@@ -54,6 +56,10 @@ public:
     /// Where and why reading the text stopped early; none when it was read to its end.
     [[nodiscard]] const std::optional<ParseError> &parseError() const { return m_parseError; }
     [[nodiscard]] const FileLayout &layout() const { return m_layout; }
+    /// Whether the file keeps its stations as JSON.
+    [[nodiscard]] bool isLegacyFormat() const { return m_isLegacyFormat; }
+    [[nodiscard]] bool isFormatWithLegacybroadcast() const;
+    [[nodiscard]] const LegacyBroadcast &legacyBroadcast() const { return m_legacyBroadcast; }
     [[nodiscard]] bool docUsesCRLF() const { return m_docUsesCRLF; }
     /// The model name of the set; none when the file does not tell.
     [[nodiscard]] std::optional<QString> modelName() const;
@@ -80,6 +86,11 @@ public:
     /// Whether the source has stations, TV or radio.
     [[nodiscard]] bool hasDataForSource(int source) const;
     [[nodiscard]] StationListPtr listWithMostEntries(bool isTV) const;
+    /// Imposes a reference list on the current list, then reports in a sheet what was matched. The
+    /// file name is for the report.
+    void applyOrderFromRefList(const ReferenceList &entries, const QString &fileName);
+    /// Asks for a place and saves a copy of the file there.
+    void exportAsReferenceList();
     /// False for none, an empty text and a single blank.
     [[nodiscard]] static bool isValidFieldContent(const std::optional<QString> &content);
 
@@ -102,6 +113,7 @@ protected:
     void documentWasSaved() override;
 
 private:
+    void readLegacyBroadcast();
     [[nodiscard]] qsizetype extractStations();
     [[nodiscard]] bool extractSection(const Dictionary &channel, QStringView name);
     void updateStationPointer();
@@ -112,6 +124,7 @@ private:
     Dictionary m_xmlDictionary;
     std::optional<ParseError> m_parseError;
     FileLayout m_layout;
+    LegacyBroadcast m_legacyBroadcast;
     StationLists m_lists;
     StationListPtr m_stations;
     qsizetype m_digitalStations = 0;
@@ -119,6 +132,7 @@ private:
     int m_curSource = 0;
     bool m_usesTV = true;
     bool m_dirty = false;
+    bool m_isLegacyFormat = false;
     bool m_docUsesCRLF = false;
     bool m_isInvisbleDocument = false;
 };

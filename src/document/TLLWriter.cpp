@@ -56,9 +56,28 @@ void appendFooter(const FileLayout &layout, QLatin1String substitute, Output &ou
         output.append(substitute);
 }
 
+/// The text up to the JSON station list, the list, and the text after it.
+template<typename Output>
+void writeLegacy(const TLLDocument &document, Output &output)
+{
+    const FileLayout &layout = document.layout();
+    const QStringView text = document.xmlString();
+    const StationList none;
+    const StationList &current = document.stations() ? *document.stations() : none;
+    const QByteArray json = replaceBadChars(document.legacyBroadcast().json(current));
+    output.append(text.first(std::min(layout.headerLenLegacy(), text.size())));
+    output.append(QStringView(QString::fromUtf8(json)));
+    if (layout.footer())
+        output.append(QStringView(*layout.footer()));
+}
+
 template<typename Output>
 void write(const TLLDocument &document, Output &output)
 {
+    if (document.isLegacyFormat()) {
+        writeLegacy(document, output);
+        return;
+    }
     const bool hasAnalogue = document.analogStations() >= 1;
     const bool hasDigital = document.digitalStations() >= 1;
     const FileLayout &layout = document.layout();

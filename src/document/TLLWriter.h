@@ -9,7 +9,8 @@ class TLLDocument;
 /// The bytes of a document's file: the text before the first station as it was read, every station
 /// written anew in the order of the lists (analogue, then cable, satellite and antenna; TV before
 /// radio in each), and the text after the last station as it was read. Stretches that the system
-/// makes itself end lines in CR LF.
+/// makes itself end lines in CR LF. A file that keeps its stations as JSON is written with its text
+/// around the JSON as it was read, and the current list's stations in their channels' places.
 [[nodiscard]] QByteArray writeTLL(const TLLDocument &document);
 
 } // namespace quillet

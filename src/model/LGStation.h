@@ -104,6 +104,8 @@ protected:
     [[nodiscard]] virtual std::optional<bool> getBoolValue(const QString &key) const;
     virtual void setBoolValue(bool value, const QString &key);
     void setValue(const QString &key, Value value);
+    /// Keeps the name that was read.
+    void keepName(const QString &name) const { m_name = name; }
     [[nodiscard]] QString describedAs(QLatin1String className) const;
 
 private:

@@ -1,0 +1,153 @@
+#include "document/LegacyBroadcast.h"
+
+#include "document/StationLists.h"
+#include "model/LGLegacyStation.h"
+#include "support/KXFileLog.h"
+#include "support/LenientNumber.h"
+#include "xml/FormattedDescription.h"
+
+#include <QLoggingCategory>
+#include <QSet>
+
+#include <algorithm>
+#include <limits>
+
+namespace quillet {
+
+namespace {
+
+Q_LOGGING_CATEGORY(log, "quillet.legacybroadcast", QtInfoMsg)
+
+/// Numbers from here on are those of radio channels.
+constexpr qint32 firstRadioNumber = 16384;
+
+const QString numberKey = QStringLiteral("majorNumber");
+const QString channelListKey = QStringLiteral("channelList");
+
+/// A channel with its number, 0 when it has none.
+struct NumberedChannel
+{
+    qint32 number;
+    Dictionary channel;
+};
+
+/// The number as a 32-bit integer, however it is given.
+qint32 majorNumber(const Dictionary &channel)
+{
+    struct ToInteger
+    {
+        double operator()(qint64 number) const { return static_cast<double>(number); }
+        double operator()(quint64 number) const { return static_cast<double>(number); }
+        double operator()(double number) const { return number; }
+        double operator()(bool boolean) const { return boolean ? 1 : 0; }
+        double operator()(const QString &text) const
+        {
+            return static_cast<double>(lenientInteger(text));
+        }
+        double operator()(std::monostate) const { return 0; }
+        double operator()(const Dictionary &) const { return 0; }
+        double operator()(const Array &) const { return 0; }
+    };
+    using Limits = std::numeric_limits<qint32>;
+    const Value *value = channel.find(numberKey);
+    if (!value)
+        return 0;
+    return static_cast<qint32>(
+        std::clamp(value->visit(ToInteger{}), double(Limits::min()), double(Limits::max())));
+}
+
+/// All channels in the order of their numbers, each with a number.
+std::vector<NumberedChannel> sortedChannels(const Array &list)
+{
+    std::vector<NumberedChannel> channels;
+    qint32 highest = 0;
+    for (const Value &element : list) {
+        if (!element.dictionary())
+            continue;
+        const qint32 number = majorNumber(*element.dictionary());
+        if (number < firstRadioNumber)
+            highest = std::max(highest, number);
+        channels.push_back({number, *element.dictionary()});
+    }
+    for (auto &[number, channel] : channels) {
+        if (number != 0)
+            continue;
+        number = ++highest;
+        channel.insert(numberKey, Value(qint64(number)));
+    }
+    std::stable_sort(channels.begin(), channels.end(),
+                     [](const auto &a, const auto &b) { return a.number < b.number; });
+    return channels;
+}
+
+} // namespace
+
+std::optional<Value> objectFromJSONData(QByteArrayView data, JSONError &error)
+{
+    std::optional<Value> object = valueFromJSON(data, error);
+    if (!object)
+        LogToFile(QStringLiteral("XT"), "JSON Decoding problem: %ls",
+                  qUtf16Printable(error.message));
+    return object;
+}
+
+QByteArray replaceBadChars(QByteArray text)
+{
+    return text.replace('&', "&amp;");
+}
+
+qsizetype LegacyBroadcast::extractLegacyStations(QByteArrayView json, StationLists &lists)
+{
+    lists.setupLists();
+    JSONError error;
+    const std::optional<Value> object = objectFromJSONData(json, error);
+    m_error = object ? std::nullopt : std::optional(error);
+    m_legacyDict.reset();
+    if (object && object->dictionary())
+        m_legacyDict = *object->dictionary();
+    qCDebug(log).noquote() << "legacyDict ="
+                           << formattedDescription(m_legacyDict.value_or(Dictionary()));
+
+    qint64 position = 0;
+    for (const auto &[number, channel] : sortedChannels(channelList())) {
+        const auto station = std::make_shared<LGLegacyStation>(channel, position++);
+        qCDebug(log).noquote() << QString::asprintf("[%03lld] %d - %ls", position, number,
+                                                    qUtf16Printable(station->stationName()));
+        if (station->isTVStation())
+            lists.fileStation(station);
+    }
+    return static_cast<qsizetype>(lists.list(true, 0)->size());
+}
+
+Array LegacyBroadcast::channelList() const
+{
+    const Value *list = m_legacyDict ? m_legacyDict->find(channelListKey) : nullptr;
+    return list && list->array() ? *list->array() : Array();
+}
+
+QByteArray LegacyBroadcast::json(const StationList &current) const
+{
+    if (!m_legacyDict)
+        return {};
+    QSet<qint64> positions;
+    for (const StationPtr &station : current)
+        positions.insert(station->origPos());
+
+    // The positions of the stations count in the sorted order, those of the channels in the file's;
+    // they are compared as they are.
+    const Array channels = channelList();
+    std::vector<Value> written;
+    std::size_t next = 0;
+    for (qsizetype position = 0; position < channels.count(); ++position) {
+        if (!positions.contains(position))
+            written.push_back(channels.at(position));
+        else if (next < current.size())
+            written.push_back(current[next++]->entry());
+    }
+    Dictionary whole = *m_legacyDict;
+    whole.insert(channelListKey, Array(std::move(written)));
+    // In compact JSON a "<" stands inside strings only, where its escape means the same.
+    return toJSON(whole).value_or(QByteArray()).replace('<', "\\u003c");
+}
+
+} // namespace quillet

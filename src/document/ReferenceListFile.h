@@ -1,0 +1,12 @@
+#pragma once
+
+#include "document/ReferenceList.h"
+
+namespace quillet {
+
+/// Reads a reference list from a file: a text file (extension txt), or another channel list
+/// (extension tll), of which the longest list of that mode gives the entries. Empty for a file of
+/// any other type and for one that cannot be used.
+[[nodiscard]] ReferenceList referenceListFromFile(const QString &path, bool isTV);
+
+} // namespace quillet

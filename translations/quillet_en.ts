@@ -15,6 +15,18 @@
         <source></source>
         <translation>Antenna</translation>
     </message>
+    <message id="kApplyOrder">
+        <source></source>
+        <translation>&amp;Apply Order…</translation>
+    </message>
+    <message id="kApplyOrderTip">
+        <source></source>
+        <translation>Put this list into the order of another one</translation>
+    </message>
+    <message id="kApplyOrderTitle">
+        <source></source>
+        <translation>Choose a Reference List</translation>
+    </message>
     <message id="kBad_file_type">
         <source></source>
         <translation>Files of this type cannot be used</translation>
@@ -79,6 +91,10 @@
         <source></source>
         <translation>Don’t Save</translation>
     </message>
+    <message id="kExportTitle">
+        <source></source>
+        <translation>Export as Reference List</translation>
+    </message>
     <message id="kFileMissingReason">
         <source></source>
         <translation>There is no file at “%1”.</translation>
@@ -123,9 +139,17 @@
         <source></source>
         <translation>Other</translation>
     </message>
+    <message id="kFilterReferenceLists">
+        <source></source>
+        <translation>Reference lists</translation>
+    </message>
     <message id="kFilterSD">
         <source></source>
         <translation>SD</translation>
+    </message>
+    <message id="kFilterTextFiles">
+        <source></source>
+        <translation>Text files</translation>
     </message>
     <message id="kFilterTV">
         <source></source>
@@ -171,6 +195,26 @@
         <source></source>
         <translation>Show its TV stations</translation>
     </message>
+    <message id="kInfo">
+        <source></source>
+        <translation>&amp;Info…</translation>
+    </message>
+    <message id="kInfoContent">
+        <source></source>
+        <translation>Content</translation>
+    </message>
+    <message id="kInfoField">
+        <source></source>
+        <translation>Field</translation>
+    </message>
+    <message id="kInfoTable">
+        <source></source>
+        <translation>Fields of the station</translation>
+    </message>
+    <message id="kInfoTip">
+        <source></source>
+        <translation>Show every field of the selected station</translation>
+    </message>
     <message id="kIsAFolderReason">
         <source></source>
         <translation>“%1” is a folder.</translation>
@@ -191,6 +235,10 @@
         <source></source>
         <translation>&amp;Antenna</translation>
     </message>
+    <message id="kMenuApplyOrder">
+        <source></source>
+        <translation>&amp;Apply Order…</translation>
+    </message>
     <message id="kMenuCable">
         <source></source>
         <translation>&amp;Cable</translation>
@@ -202,6 +250,10 @@
     <message id="kMenuEdit">
         <source></source>
         <translation>&amp;Edit</translation>
+    </message>
+    <message id="kMenuExport">
+        <source></source>
+        <translation>&amp;Export as Reference List…</translation>
     </message>
     <message id="kMenuFile">
         <source></source>
@@ -238,6 +290,14 @@
     <message id="kMenuFind">
         <source></source>
         <translation>&amp;Find</translation>
+    </message>
+    <message id="kMenuInfo">
+        <source></source>
+        <translation>Station &amp;Info</translation>
+    </message>
+    <message id="kMenuLock">
+        <source></source>
+        <translation>Child &amp;Lock</translation>
     </message>
     <message id="kMenuMoveTo">
         <source></source>
@@ -278,6 +338,10 @@
     <message id="kMenuSave">
         <source></source>
         <translation>&amp;Save</translation>
+    </message>
+    <message id="kMenuSkip">
+        <source></source>
+        <translation>S&amp;kip</translation>
     </message>
     <message id="kMenuTV">
         <source></source>
@@ -410,6 +474,16 @@
     <message id="kSearchTitle">
         <source></source>
         <translation>&amp;Search:</translation>
+    </message>
+    <message id="kSortStatistics">
+        <source></source>
+        <translation>Stations matched: %1
+Stations not matched: %2
+These go on from number: %3</translation>
+    </message>
+    <message id="kSortTitle">
+        <source></source>
+        <translation>The order of “%1” was applied.</translation>
     </message>
     <message id="kSource">
         <source></source>

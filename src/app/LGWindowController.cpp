@@ -25,6 +25,8 @@ void LGWindowController::windowDidLoad()
 
 bool LGWindowController::populateFromTLLDoc(TLLDocument &document, const Error &error)
 {
+    connect(&document, &Document::documentEditedChanged, m_editor, &EditorView::stateChanged,
+            Qt::UniqueConnection);
     const bool succeeded = m_editor->controller().populateFromTLLDoc(document, error);
     synchronizeWindowTitleWithDocumentName();
     return succeeded;

@@ -84,6 +84,9 @@ void MainMenu::makeFileMenu(QMenuBar &bar)
                                   [this] { m_window.tlldoc()->saveDocument(); }));
     m_documentItems.push_back(add(menu, {"kMenuRevert", "revertDocumentToSaved", {}},
                                   [this] { m_window.tlldoc()->revertDocumentToSaved(); }));
+    m_documentItems.push_back(add(menu,
+                                  {"kMenuExport", "exportAsReferenceList", Qt::CTRL | Qt::Key_E},
+                                  [this] { m_window.tlldoc()->exportAsReferenceList(); }));
     menu.addSeparator();
     m_print = add(menu, {"kMenuPrint", "printDocument", QKeySequence::Print},
                   [this] { m_editor.printList(); });
@@ -98,6 +101,20 @@ void MainMenu::makeEditMenu(QMenuBar &bar)
     QMenu &menu = *bar.addMenu(qtTrId("kMenuEdit"));
     m_moveTo = add(menu, {"kMenuMoveTo", "moveItemsToClicked", Qt::CTRL | Qt::Key_M},
                    [this] { m_editor.controller().moveItemsToClicked(); });
+    QAction *skip = add(menu, {"kMenuSkip", "skipSelectedItems", Qt::CTRL | Qt::Key_K},
+                        [this] { m_editor.controller().skipSelectedItems(); });
+    QAction *lock =
+        add(menu, {"kMenuLock", "changeChildLockForSelectedItems", Qt::CTRL | Qt::Key_L},
+            [this] { m_editor.controller().changeChildLockForSelectedItems(); });
+    m_editorItems.push_back(skip);
+    m_editorItems.push_back(lock);
+    m_info =
+        add(menu, {"kMenuInfo", "showInfo", Qt::CTRL | Qt::Key_I}, [this] { m_editor.showInfo(); });
+    m_editor.setContextActions({m_moveTo, skip, lock, m_info});
+    menu.addSeparator();
+    m_applyOrder =
+        add(menu, {"kMenuApplyOrder", "applyOrderClicked", Qt::CTRL | Qt::SHIFT | Qt::Key_A},
+            [this] { m_editor.controller().applyOrderClicked(); });
     m_fillGaps = add(menu, {"kMenuFillGaps", "fillGapsClicked", {}},
                      [this](bool on) { m_editor.setFillGapsOn(on); });
     m_fillGaps->setCheckable(true);
@@ -157,6 +174,8 @@ void MainMenu::validate()
         action->setEnabled(m_window.validateUserInterfaceItem(action->objectName()));
     m_print->setEnabled(m_editor.canPrint());
     m_moveTo->setEnabled(m_editor.canMove());
+    m_info->setEnabled(m_editor.canShowInfo());
+    m_applyOrder->setEnabled(m_editor.canApplyOrder());
     m_fillGaps->setChecked(m_editor.controller().fillGaps());
     validateView();
 }

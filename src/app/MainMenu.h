@@ -53,6 +53,8 @@ private:
     std::vector<QAction *> m_filters;
     QAction *m_print = nullptr;
     QAction *m_moveTo = nullptr;
+    QAction *m_info = nullptr;
+    QAction *m_applyOrder = nullptr;
     QAction *m_fillGaps = nullptr;
     QAction *m_showTV = nullptr;
     QAction *m_showRadio = nullptr;

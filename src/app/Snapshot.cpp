@@ -28,6 +28,9 @@ public:
                        std::function<void(const QStringList &)>) override
     {
     }
+    void showSavePanel(QWidget *, const SavePanel &, std::function<void(const QString &)>) override
+    {
+    }
     void showPrintPanel(QWidget *, const QString &, std::function<void(QPrinter &)>) override {}
 
     QString shown;

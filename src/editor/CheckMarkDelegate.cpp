@@ -1,6 +1,8 @@
 #include "editor/CheckMarkDelegate.h"
 
 #include <QApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
 
 namespace quillet {
@@ -13,6 +15,37 @@ const QStyle &styleOf(const QStyleOptionViewItem &option)
 }
 
 } // namespace
+
+bool CheckMarkDelegate::editorEvent(QEvent *event, QAbstractItemModel *model,
+                                    const QStyleOptionViewItem &option, const QModelIndex &index)
+{
+    bool isToggle = false;
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseButtonRelease: {
+        const auto &mouse = static_cast<QMouseEvent &>(*event);
+        if (mouse.button() != Qt::LeftButton || !markRect(option).contains(mouse.pos()))
+            return false;
+        isToggle = event->type() == QEvent::MouseButtonRelease;
+        break;
+    }
+    case QEvent::KeyPress: {
+        const int key = static_cast<QKeyEvent &>(*event).key();
+        isToggle = key == Qt::Key_Space || key == Qt::Key_Select;
+        if (!isToggle)
+            return false;
+        break;
+    }
+    default:
+        return false;
+    }
+    if (!isToggle || !index.flags().testFlag(Qt::ItemIsUserCheckable))
+        return true; // a press on the mark neither drags nor edits
+    const bool isSet = index.data(Qt::CheckStateRole).value<Qt::CheckState>() == Qt::Checked;
+    return model->setData(index, QVariant::fromValue(isSet ? Qt::Unchecked : Qt::Checked),
+                          Qt::CheckStateRole);
+}
 
 QRect CheckMarkDelegate::markRect(const QStyleOptionViewItem &option)
 {

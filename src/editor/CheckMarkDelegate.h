@@ -4,7 +4,7 @@
 
 namespace quillet {
 
-/// Draws a cell's check mark in the middle of the cell.
+/// A check mark in the middle of its cell, toggled by a click on it and by the space bar.
 class CheckMarkDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -16,6 +16,10 @@ public:
                const QModelIndex &index) const override;
 
 protected:
+    bool editorEvent(QEvent *event, QAbstractItemModel *model, const QStyleOptionViewItem &option,
+                     const QModelIndex &index) override;
+
+private:
     [[nodiscard]] static QRect markRect(const QStyleOptionViewItem &option);
 };
 

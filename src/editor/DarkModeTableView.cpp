@@ -1,14 +1,16 @@
 #include "editor/DarkModeTableView.h"
 
+#include "editor/RoomyCells.h"
 #include "editor/StationTableModel.h"
 #include "editor/TablePrinter.h"
 
+#include <QDrag>
 #include <QDropEvent>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QMimeData>
 #include <QPainter>
 #include <QPrinter>
-#include <QProxyStyle>
 #include <QUrl>
 
 namespace quillet {
@@ -17,27 +19,11 @@ namespace {
 
 constexpr int dropLineWidth = 2;
 
-/// The platform's style with more room at the sides of cells and column titles.
-class RoomyCells : public QProxyStyle
-{
-public:
-    int pixelMetric(PixelMetric metric, const QStyleOption *option,
-                    const QWidget *widget) const override
-    {
-        constexpr int room = 6;
-        const int usual = QProxyStyle::pixelMetric(metric, option, widget);
-        return metric == PM_FocusFrameHMargin || metric == PM_HeaderMargin ? usual + room : usual;
-    }
-};
-
 } // namespace
 
 DarkModeTableView::DarkModeTableView(QWidget *parent) : QTableView(parent)
 {
-    auto *roomy = new RoomyCells;
-    roomy->setParent(this);
-    setStyle(roomy);
-    horizontalHeader()->setStyle(roomy);
+    RoomyCells::applyTo(*this);
     setSelectionBehavior(SelectRows);
     setSelectionMode(ExtendedSelection);
     setDragEnabled(true);
@@ -75,6 +61,15 @@ void DarkModeTableView::print(QPrinter &printer, const QString &title)
     TablePrinter(*this, title).print(printer);
 }
 
+void DarkModeTableView::keyPressEvent(QKeyEvent *event)
+{
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isReturn && state() != EditingState)
+        emit returnPressed();
+    else
+        QTableView::keyPressEvent(event);
+}
+
 void DarkModeTableView::paintEvent(QPaintEvent *event)
 {
     QTableView::paintEvent(event);
@@ -88,6 +83,43 @@ void DarkModeTableView::paintEvent(QPaintEvent *event)
         painter.setPen(QPen(palette().color(QPalette::Highlight), dropLineWidth));
         painter.drawLine(0, y, viewport()->width(), y);
     }
+}
+
+/// The platform's own picture of a drag, all rows in full, would cover the place they are dropped
+/// at; this is one small label beside the pointer.
+QPixmap DarkModeTableView::dragPicture(int rows) const
+{
+    const QString text =
+        rows == 1 ? currentIndex().siblingAtColumn(1).data().toString()
+                  : QStringLiteral("%1 %2").arg(QString::number(rows), qtTrId("kStations", rows));
+    const QFontMetrics metrics = fontMetrics();
+    const QSize size(metrics.horizontalAdvance(text) + 2 * metrics.height(),
+                     metrics.height() * 3 / 2);
+    QPixmap picture(size * devicePixelRatioF());
+    picture.setDevicePixelRatio(devicePixelRatioF());
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setFont(font());
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(palette().color(QPalette::Highlight));
+    const QRect shape(QPoint(), size);
+    painter.drawRoundedRect(shape, size.height() / 2.0, size.height() / 2.0);
+    painter.setPen(palette().color(QPalette::HighlightedText));
+    painter.drawText(shape, Qt::AlignCenter, text);
+    return picture;
+}
+
+void DarkModeTableView::startDrag(Qt::DropActions)
+{
+    const QModelIndexList indexes = selectionModel()->selectedRows();
+    if (indexes.isEmpty())
+        return;
+    auto *drag = new QDrag(this); // which Qt deletes
+    drag->setMimeData(model()->mimeData(indexes));
+    drag->setPixmap(dragPicture(static_cast<int>(indexes.size())));
+    drag->setHotSpot({-12, -6});
+    drag->exec(Qt::MoveAction);
 }
 
 TableDrag DarkModeTableView::tableDrag(const QDropEvent &event) const

@@ -31,14 +31,21 @@ public:
     /// on each page and the columns fitted to its width.
     void print(QPrinter &printer, const QString &title);
 
+signals:
+    /// Return or Enter was pressed while no cell was being edited.
+    void returnPressed();
+
 protected:
+    void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    void startDrag(Qt::DropActions actions) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dragMoveEvent(QDragMoveEvent *event) override;
     void dragLeaveEvent(QDragLeaveEvent *event) override;
     void dropEvent(QDropEvent *event) override;
 
 private:
+    [[nodiscard]] QPixmap dragPicture(int rows) const;
     [[nodiscard]] TableDrag tableDrag(const QDropEvent &event) const;
     void answer(QDropEvent &event, DragOperation operation);
     void showDropLine(std::optional<qsizetype> row);

@@ -22,7 +22,7 @@ class EditorOutlets
 {
 public:
     enum class Field { FileName, DeviceName, StationCount, Matches };
-    enum class Control { MoveToButton, ModeButtons, FilterPop };
+    enum class Control { MoveToButton, InfoButton, ApplyButton, ModeButtons, FilterPop };
 
     virtual ~EditorOutlets() = default;
 

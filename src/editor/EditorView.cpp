@@ -1,15 +1,16 @@
 #include "editor/EditorView.h"
 
 #include "editor/CheckMarkDelegate.h"
+#include "editor/EmptyDocText.h"
+#include "editor/InfoViewController.h"
+#include "editor/NumberDelegate.h"
 #include "editor/StationColumns.h"
 #include "framework/Prompts.h"
 #include "ui_EditorView.h"
 
 #include <QHeaderView>
 #include <QItemSelectionModel>
-#include <QLabel>
 #include <QSignalBlocker>
-#include <QVBoxLayout>
 
 #include <array>
 
@@ -22,33 +23,6 @@ constexpr std::array sourceTitles{"kCable", "kSatellite", "kAntenna", "kAnalogue
 /// In the order of the tags.
 constexpr std::array filterTitles{"kFilterAll", "kFilterSD", "kFilterHD",
                                   "kFilterUHD", "kFilterTV", "kFilterOther"};
-
-/// What a hint says, and the way out that it offers.
-struct HintText
-{
-    EmptyHint hint;
-    const char *heading;
-    const char *text;
-    const char *link;
-};
-
-constexpr std::array hintTexts{
-    HintText{EmptyHint::NoFile, "kHintNoFile", "kHintNoFileDetail", "kHintOpen"},
-    HintText{EmptyHint::NoStations, "kHintNoStations", "kHintNoStationsDetail", nullptr},
-    HintText{EmptyHint::NoRadioStations, "kHintNoRadioStations", nullptr, "kHintShowTV"},
-    HintText{EmptyHint::NoTVStations, "kHintNoTVStations", nullptr, "kHintShowRadio"},
-};
-
-QString richText(const HintText &row)
-{
-    QString text = QStringLiteral("<h3>%1</h3>").arg(qtTrId(row.heading).toHtmlEscaped());
-    if (row.text)
-        text += QStringLiteral("<p>%1</p>").arg(qtTrId(row.text).toHtmlEscaped());
-    if (row.link)
-        text += QStringLiteral("<p><a href=\"%1\">%2</a></p>")
-                    .arg(QLatin1String(row.link), qtTrId(row.link).toHtmlEscaped());
-    return text;
-}
 
 } // namespace
 
@@ -81,26 +55,20 @@ void EditorView::setUpTable()
 {
     DarkModeTableView &list = *m_ui->list;
     list.setModel(&m_model);
+    list.setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed);
     auto *marks = new CheckMarkDelegate(&list);
+    auto *numbers = new NumberDelegate(&list);
     for (std::size_t i = 0; i < stationColumns.size(); ++i) {
         const ColumnContent content = stationColumns[i].content;
         if (content == ColumnContent::Skipped || content == ColumnContent::Blocked)
             list.setItemDelegateForColumn(static_cast<int>(i), marks);
+        else if (content == ColumnContent::Number)
+            list.setItemDelegateForColumn(static_cast<int>(i), numbers);
     }
     list.setDropHandler([this](const TableDrag &drag) { return m_controller.validateDrop(drag); },
                         [this](const TableDrag &drag) { return m_controller.acceptDrop(drag); });
 
-    // The hint lies over the rows, so that whatever is dropped there still reaches the table.
-    m_emptyDocText = new QLabel(list.viewport());
-    m_emptyDocText->setObjectName(QStringLiteral("emptyDocText"));
-    m_emptyDocText->setAlignment(Qt::AlignCenter);
-    m_emptyDocText->setWordWrap(true);
-    m_emptyDocText->setMargin(24);
-    m_emptyDocText->setAutoFillBackground(true);
-    m_emptyDocText->setBackgroundRole(QPalette::Base);
-    auto *overlay = new QVBoxLayout(list.viewport());
-    overlay->setContentsMargins(0, 0, 0, 0);
-    overlay->addWidget(m_emptyDocText);
+    m_emptyDocText = new EmptyDocText(list.viewport());
 }
 
 void EditorView::updateFonts()
@@ -138,18 +106,19 @@ void EditorView::connectControls()
             &ViewController::typeFilterClicked);
     connect(m_ui->moveToButton, &QPushButton::clicked, &m_controller,
             &ViewController::moveItemsToClicked);
+    connect(m_ui->infoButton, &QPushButton::clicked, this, &EditorView::showInfo);
+    connect(m_ui->list, &DarkModeTableView::returnPressed, this, &EditorView::showInfo);
+    connect(m_ui->applyButton, &QPushButton::clicked, &m_controller,
+            &ViewController::applyOrderClicked);
     connect(m_ui->fillGapsButton, &QCheckBox::toggled, &m_controller,
             &ViewController::fillGapsClicked);
     connect(m_ui->list->selectionModel(), &QItemSelectionModel::selectionChanged, &m_controller,
             &ViewController::tableViewSelectionDidChange);
-    connect(m_emptyDocText, &QLabel::linkActivated, this, [this](const QString &link) {
-        if (link == QLatin1String("kHintOpen"))
-            emit openRequested();
-        else if (link == QLatin1String("kHintShowTV"))
-            m_controller.useTVClicked();
-        else
-            m_controller.useRadioClicked();
-    });
+    connect(m_emptyDocText, &EmptyDocText::openRequested, this, &EditorView::openRequested);
+    connect(m_emptyDocText, &EmptyDocText::tvRequested, &m_controller,
+            &ViewController::useTVClicked);
+    connect(m_emptyDocText, &EmptyDocText::radioRequested, &m_controller,
+            &ViewController::useRadioClicked);
 }
 
 void EditorView::focusSearch()
@@ -168,6 +137,16 @@ bool EditorView::canMove() const
     return m_ui->moveToButton->isEnabled();
 }
 
+bool EditorView::canShowInfo() const
+{
+    return m_ui->infoButton->isEnabled();
+}
+
+bool EditorView::canApplyOrder() const
+{
+    return m_ui->applyButton->isEnabled();
+}
+
 bool EditorView::canChangeMode() const
 {
     return m_ui->tvButton->isEnabled();
@@ -181,6 +160,24 @@ bool EditorView::isSegmentEnabled(int segment) const
 void EditorView::setFillGapsOn(bool on)
 {
     m_ui->fillGapsButton->setChecked(on);
+}
+
+void EditorView::showInfo()
+{
+    const StationPtr station = m_controller.stationForInfo();
+    if (!station)
+        return;
+    if (m_infoPanel)
+        m_infoPanel->close();
+    m_infoPanel = new InfoViewController(this);
+    m_infoPanel->setStation(*station);
+    m_infoPanel->show();
+}
+
+void EditorView::setContextActions(const QList<QAction *> &actions)
+{
+    m_ui->list->addActions(actions);
+    m_ui->list->setContextMenuPolicy(Qt::ActionsContextMenu);
 }
 
 void EditorView::printList()
@@ -219,6 +216,14 @@ void EditorView::setEnabled(Control control, bool enabled)
     case Control::MoveToButton:
         m_ui->moveToButton->setEnabled(enabled);
         m_ui->moveToButton->setToolTip(enabled ? qtTrId("kMoveToTip") : qtTrId("kTipSelectFirst"));
+        break;
+    case Control::InfoButton:
+        m_ui->infoButton->setEnabled(enabled);
+        m_ui->infoButton->setToolTip(enabled ? qtTrId("kInfoTip") : qtTrId("kTipSelectFirst"));
+        break;
+    case Control::ApplyButton:
+        m_ui->applyButton->setEnabled(enabled);
+        m_ui->applyButton->setToolTip(enabled ? qtTrId("kApplyOrderTip") : noStations);
         break;
     case Control::ModeButtons:
         m_ui->tvButton->setEnabled(enabled);
@@ -328,15 +333,14 @@ void EditorView::scrollRowToVisible(qsizetype row)
     m_ui->list->scrollTo(m_model.index(static_cast<int>(row), 0));
 }
 
-void EditorView::setNameColumnEditable(bool) {}
+void EditorView::setNameColumnEditable(bool editable)
+{
+    m_model.setNameColumnEditable(editable);
+}
 
 void EditorView::showEmptyHint(EmptyHint hint)
 {
-    const auto row = std::find_if(hintTexts.begin(), hintTexts.end(),
-                                  [hint](const HintText &text) { return text.hint == hint; });
-    if (row != hintTexts.end())
-        m_emptyDocText->setText(richText(*row));
-    m_emptyDocText->setVisible(row != hintTexts.end());
+    m_emptyDocText->showHint(hint);
 }
 
 QWidget *EditorView::sheetWindow() const

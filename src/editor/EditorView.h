@@ -8,13 +8,16 @@
 
 #include <memory>
 
-class QLabel;
+class QAction;
 
 namespace Ui {
 class EditorView;
 }
 
 namespace quillet {
+
+class EmptyDocText;
+class InfoViewController;
 
 /// The content of an editor window: the controls, and nothing but the controls. Every decision is
 /// the ViewController's, which it owns and to which it is the outlets.
@@ -31,10 +34,16 @@ public:
     /// Asks where to print, then prints the rows shown.
     void printList();
     void setFillGapsOn(bool on);
+    /// Opens the info panel of the first selected station, in the place of an earlier one.
+    void showInfo();
+    /// The commands of the table's context menu.
+    void setContextActions(const QList<QAction *> &actions);
 
     /// Whether the window's commands have something to work on.
     [[nodiscard]] bool canPrint() const;
     [[nodiscard]] bool canMove() const;
+    [[nodiscard]] bool canShowInfo() const;
+    [[nodiscard]] bool canApplyOrder() const;
     [[nodiscard]] bool canChangeMode() const;
     [[nodiscard]] bool isSegmentEnabled(int segment) const;
 
@@ -75,7 +84,8 @@ private:
     std::unique_ptr<Ui::EditorView> m_ui;
     ViewController m_controller;
     StationTableModel m_model;
-    QLabel *m_emptyDocText;
+    EmptyDocText *m_emptyDocText;
+    QPointer<InfoViewController> m_infoPanel;
 };
 
 } // namespace quillet

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QLatin1String>
+#include <QString>
 
 #include <array>
 
@@ -26,6 +26,14 @@ inline constexpr std::array stationColumns{
     StationColumn{QLatin1String("blocked"), ColumnContent::Blocked, "kColumnBlocked", 9},
 };
 
-inline constexpr int nameColumn = 1;
+/// The column with that identifier; null when there is none.
+[[nodiscard]] inline const StationColumn *stationColumn(const QString &identifier)
+{
+    for (const StationColumn &column : stationColumns) {
+        if (column.identifier == identifier)
+            return &column;
+    }
+    return nullptr;
+}
 
 } // namespace quillet

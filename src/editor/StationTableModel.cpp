@@ -1,9 +1,9 @@
 #include "editor/StationTableModel.h"
 
+#include "editor/CellFont.h"
 #include "editor/StationColumns.h"
 #include "editor/ViewController.h"
 
-#include <QFontDatabase>
 #include <QMimeData>
 
 #include <set>
@@ -19,16 +19,14 @@ QVariant checkMark(bool set)
 
 } // namespace
 
-StationTableModel::StationTableModel(const ViewController &controller, QObject *parent)
-    : QAbstractTableModel(parent), m_controller(controller)
+StationTableModel::StationTableModel(ViewController &controller, QObject *parent)
+    : QAbstractTableModel(parent), m_controller(controller), m_font(cellFont())
 {
-    const QString monospaced = QStringLiteral("Monaco");
-    if (QFontDatabase::hasFamily(monospaced))
-        m_font = QFont(monospaced, 12);
 }
 
 void StationTableModel::reload()
 {
+    m_typedNames.clear();
     const auto rows = static_cast<int>(m_controller.currentList().size());
     if (rows == m_rows && rows > 0) {
         emit dataChanged(index(0, 0), index(rows - 1, columnCount() - 1));
@@ -64,9 +62,12 @@ QVariant StationTableModel::data(const QModelIndex &index, int role) const
     case ColumnContent::Number:
         if (role == Qt::TextAlignmentRole)
             return QVariant::fromValue(Qt::AlignRight | Qt::AlignVCenter);
-        return isText ? station.progNumString() : QVariant();
+        return isText || role == Qt::EditRole ? station.progNumString() : QVariant();
     case ColumnContent::Name:
-        return isText || role == Qt::ToolTipRole ? station.stationName() : QVariant();
+        if (!isText && role != Qt::EditRole && role != Qt::ToolTipRole)
+            return {};
+        return m_typedNames.contains(index.row()) ? m_typedNames[index.row()]
+                                                  : station.stationName();
     case ColumnContent::Type:
         if (role == Qt::TextAlignmentRole)
             return QVariant::fromValue(Qt::AlignCenter);
@@ -77,6 +78,24 @@ QVariant StationTableModel::data(const QModelIndex &index, int role) const
         return role == Qt::CheckStateRole ? checkMark(station.isBlocked()) : QVariant();
     }
     return {};
+}
+
+bool StationTableModel::setData(const QModelIndex &index, const QVariant &value, int role)
+{
+    if (!index.isValid() || index.row() >= m_rows)
+        return false;
+    const StationColumn &column = stationColumns.at(static_cast<std::size_t>(index.column()));
+    const bool isCheck = role == Qt::CheckStateRole;
+    if (!isCheck && role != Qt::EditRole)
+        return false;
+    const QVariant edited =
+        isCheck ? QVariant(value.value<Qt::CheckState>() == Qt::Checked) : value;
+    if (column.content == ColumnContent::Name)
+        m_typedNames[index.row()] = value.toString();
+    m_controller.setObjectValue(edited, column.identifier, index.row());
+    if (index.row() < m_rows)
+        emit dataChanged(index, index);
+    return true;
 }
 
 QVariant StationTableModel::headerData(int section, Qt::Orientation orientation, int role) const
@@ -98,7 +117,25 @@ QVariant StationTableModel::headerData(int section, Qt::Orientation orientation,
 
 Qt::ItemFlags StationTableModel::flags(const QModelIndex &index) const
 {
-    return QAbstractTableModel::flags(index) | Qt::ItemIsDragEnabled | Qt::ItemNeverHasChildren;
+    Qt::ItemFlags flags =
+        QAbstractTableModel::flags(index) | Qt::ItemIsDragEnabled | Qt::ItemNeverHasChildren;
+    if (!index.isValid())
+        return flags;
+    switch (stationColumns.at(static_cast<std::size_t>(index.column())).content) {
+    case ColumnContent::Number:
+        flags |= Qt::ItemIsEditable;
+        break;
+    case ColumnContent::Name:
+        flags.setFlag(Qt::ItemIsEditable, m_nameIsEditable);
+        break;
+    case ColumnContent::Type:
+        break;
+    case ColumnContent::Skipped:
+    case ColumnContent::Blocked:
+        flags |= Qt::ItemIsUserCheckable;
+        break;
+    }
+    return flags;
 }
 
 QStringList StationTableModel::mimeTypes() const

@@ -1,11 +1,14 @@
 #include "editor/ViewController.h"
 
+#include "document/ReferenceListFile.h"
+#include "editor/EditorQuestions.h"
 #include "editor/Renumbering.h"
-#include "framework/Prompts.h"
+#include "editor/StationColumns.h"
 #include "support/KXFileLog.h"
 #include "support/LenientNumber.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QSet>
 #include <QTimer>
 
@@ -215,23 +218,12 @@ void ViewController::fillGapsIfWanted()
 
 void ViewController::moveItemsToClicked()
 {
-    if (!m_document || !m_document->prompts())
+    if (!m_document)
         return;
-    const Alert alert{.message = qtTrId("kMovingMessage"),
-                      .informativeText = {},
-                      .buttons = {qtTrId("kMovingOK"), qtTrId("kCancel")},
-                      .cancelButton = 1,
-                      .asksForText = true};
-    const auto move = [this, guard = QPointer(this)](const AlertAnswer &answer) {
-        if (!guard || answer.button != 0)
-            return;
-        const qint64 number = lenientInteger(answer.text);
-        if (number < 1 || number > highestTarget)
-            return;
+    questions().askForNumber([this](qint64 number) {
         moveSelectedElements(m_outlets.selectedRows(), number);
         restoreSelection();
-    };
-    m_document->prompts()->showAlert(m_outlets.sheetWindow(), alert, move);
+    });
 }
 
 void ViewController::moveSelectedElements(const QList<qsizetype> &rows, qint64 target)
@@ -273,6 +265,85 @@ void ViewController::moveStations(const StationList &stations, qint64 target)
     rebuildList();
 }
 
+void ViewController::setObjectValue(const QVariant &value, const QString &column, qsizetype row)
+{
+    const StationColumn *known = stationColumn(column);
+    if (!known)
+        return;
+    LGStation &station = *currentList()[static_cast<std::size_t>(row)];
+    switch (known->content) {
+    case ColumnContent::Number:
+        if (const qint64 number = lenientInteger(value.toString()); number != station.progNum())
+            moveElements(row, 1, number);
+        return;
+    case ColumnContent::Name:
+        station.setStationName(value.toString());
+        break;
+    case ColumnContent::Skipped:
+        station.setSkipped(value.toBool());
+        break;
+    case ColumnContent::Blocked:
+        station.setBlocked(value.toBool());
+        break;
+    case ColumnContent::Type:
+        return;
+    }
+    setDirty();
+}
+
+void ViewController::skipSelectedItems()
+{
+    toggleSelected(&LGStation::isSkipped, &LGStation::setSkipped);
+}
+
+void ViewController::changeChildLockForSelectedItems()
+{
+    toggleSelected(&LGStation::isBlocked, &LGStation::setBlocked);
+}
+
+void ViewController::toggleSelected(bool (LGStation::*isSet)() const, void (LGStation::*set)(bool))
+{
+    const QList<qsizetype> rows = m_outlets.selectedRows();
+    if (rows.isEmpty())
+        return;
+    const StationList &list = currentList();
+    const bool newValue = !((*list[static_cast<std::size_t>(rows.front())]).*isSet)();
+    for (const qsizetype row : rows)
+        ((*list[static_cast<std::size_t>(row)]).*set)(newValue);
+    setDirty();
+    m_outlets.reloadData();
+}
+
+void ViewController::applyOrderClicked()
+{
+    if (!m_document)
+        return;
+    questions().askForReferenceList([this](const QString &path) {
+        // In a later turn, when the panel has gone.
+        QTimer::singleShot(0, this, [this, path] { applyOrderFile(path); });
+    });
+}
+
+void ViewController::applyOrderFile(const QString &path)
+{
+    if (!m_document)
+        return;
+    const ReferenceList entries = referenceListFromFile(path, isModeTV());
+    if (entries.empty())
+        return;
+    m_document->applyOrderFromRefList(entries, QFileInfo(path).fileName());
+    m_outlets.selectRows({});
+    m_outlets.reloadData();
+    setDirty();
+    saveSelection();
+}
+
+StationPtr ViewController::stationForInfo() const
+{
+    const QList<qsizetype> rows = m_outlets.selectedRows();
+    return rows.isEmpty() ? nullptr : currentList()[static_cast<std::size_t>(rows.front())];
+}
+
 DragOperation ViewController::validateDrop(const TableDrag &drag)
 {
     m_containsFile = !drag.files.isEmpty();
@@ -302,20 +373,10 @@ void ViewController::loadTLLFile(const QString &path)
 {
     if (!m_document)
         return;
-    if (!m_document->isDirty() || !m_document->prompts()) {
+    if (m_document->isDirty())
+        questions().askToReplace([this, path] { readDroppedFile(path); });
+    else
         readDroppedFile(path);
-        return;
-    }
-    const Alert alert{.message = qtTrId("kReplaceMessage").arg(m_document->displayName()),
-                      .informativeText = qtTrId("kReplaceDetail"),
-                      .buttons = {qtTrId("kCancel"), qtTrId("kReplace")},
-                      .cancelButton = 0,
-                      .destructiveButton = 1};
-    m_document->prompts()->showAlert(m_outlets.sheetWindow(), alert,
-                                     [this, guard = QPointer(this), path](const auto &answer) {
-                                         if (guard && answer.button == 1)
-                                             readDroppedFile(path);
-                                     });
 }
 
 void ViewController::readDroppedFile(const QString &path)
@@ -345,21 +406,31 @@ void ViewController::clearDirty()
 void ViewController::updateButtons()
 {
     m_outlets.setEnabled(EditorOutlets::Control::MoveToButton, !m_selection.isEmpty());
+    m_outlets.setEnabled(EditorOutlets::Control::InfoButton, !m_selection.isEmpty());
     m_outlets.setEnabled(EditorOutlets::Control::ModeButtons, hasData());
+    m_outlets.setEnabled(EditorOutlets::Control::ApplyButton, hasData());
     m_outlets.showEmptyHint(emptyHint());
 }
 
 bool ViewController::validateUserInterfaceItem(const QString &action) const
 {
-    return action == QLatin1String("typeFilterClicked");
+    if (action == QLatin1String("typeFilterClicked"))
+        return true;
+    if (action == QLatin1String("skipSelectedItems") ||
+        action == QLatin1String("changeChildLockForSelectedItems"))
+        return !m_outlets.selectedRows().isEmpty();
+    return false;
 }
 
 void ViewController::showError(const QString &detail, const QString &message)
 {
-    if (!m_document || !m_document->prompts())
-        return;
-    const Alert alert{.message = message, .informativeText = detail, .buttons = {qtTrId("kOK")}};
-    m_document->prompts()->showAlert(m_outlets.sheetWindow(), alert, [](const AlertAnswer &) {});
+    if (m_document)
+        questions().showError(message, detail);
+}
+
+EditorQuestions ViewController::questions()
+{
+    return {*m_document, m_outlets.sheetWindow(), this};
 }
 
 bool ViewController::hasData() const

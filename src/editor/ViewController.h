@@ -8,8 +8,11 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QVariant>
 
 namespace quillet {
+
+class EditorQuestions;
 
 /// The logic of one editor window: which list is shown, how it is narrowed, what is selected, and
 /// every change to stations and their order. Works on the window's controls through EditorOutlets
@@ -68,6 +71,22 @@ public:
     void moveSelectedElements(const QList<qsizetype> &rows, qint64 target);
     void moveElements(qsizetype firstRow, qsizetype count, qint64 target);
 
+    // Editing
+
+    /// Takes what was typed or clicked into a cell, by the identifier of its column. A number moves
+    /// the station, without a check of its range; in any other column the table is not reloaded.
+    void setObjectValue(const QVariant &value, const QString &column, qsizetype row);
+    /// Toggles the first selected station, and gives the others the same state.
+    void skipSelectedItems();
+    void changeChildLockForSelectedItems();
+    /// Asks for a reference list and imposes its order on the current list.
+    void applyOrderClicked();
+    /// Imposes the order of another channel list (tll) or of a text file (txt); a file of any other
+    /// type, or that cannot be used, changes nothing.
+    void applyOrderFile(const QString &path);
+    /// The station of the first selected row; null when none is selected.
+    [[nodiscard]] StationPtr stationForInfo() const;
+
     // Drag and drop
 
     [[nodiscard]] DragOperation validateDrop(const TableDrag &drag);
@@ -99,6 +118,8 @@ private:
     [[nodiscard]] StationList movable(StationList stations) const;
     void moveStations(const StationList &stations, qint64 target);
     void readDroppedFile(const QString &path);
+    void toggleSelected(bool (LGStation::*isSet)() const, void (LGStation::*set)(bool));
+    [[nodiscard]] EditorQuestions questions();
     [[nodiscard]] EmptyHint emptyHint() const;
     [[nodiscard]] bool hasData() const;
 

@@ -1,0 +1,74 @@
+#include "editor/EditorQuestions.h"
+
+#include "document/TLLDocument.h"
+#include "editor/Renumbering.h"
+#include "framework/Prompts.h"
+#include "support/LenientNumber.h"
+
+#include <QPointer>
+
+namespace quillet {
+
+EditorQuestions::EditorQuestions(TLLDocument &document, QWidget *window, QObject *context)
+    : m_document(document), m_window(window), m_context(context)
+{
+}
+
+void EditorQuestions::askForNumber(std::function<void(qint64)> answered) const
+{
+    if (!m_document.prompts())
+        return;
+    const Alert alert{.message = qtTrId("kMovingMessage"),
+                      .informativeText = {},
+                      .buttons = {qtTrId("kMovingOK"), qtTrId("kCancel")},
+                      .cancelButton = 1,
+                      .asksForText = true};
+    const auto check = [answered, guard = QPointer(m_context)](const AlertAnswer &answer) {
+        const qint64 number = lenientInteger(answer.text);
+        if (guard && answer.button == 0 && number >= 1 && number <= highestTarget)
+            answered(number);
+    };
+    m_document.prompts()->showAlert(m_window, alert, check);
+}
+
+void EditorQuestions::askToReplace(std::function<void()> confirmed) const
+{
+    if (!m_document.prompts())
+        return;
+    const Alert alert{.message = qtTrId("kReplaceMessage").arg(m_document.displayName()),
+                      .informativeText = qtTrId("kReplaceDetail"),
+                      .buttons = {qtTrId("kCancel"), qtTrId("kReplace")},
+                      .cancelButton = 0,
+                      .destructiveButton = 1};
+    const auto check = [confirmed, guard = QPointer(m_context)](const AlertAnswer &answer) {
+        if (guard && answer.button == 1)
+            confirmed();
+    };
+    m_document.prompts()->showAlert(m_window, alert, check);
+}
+
+void EditorQuestions::askForReferenceList(std::function<void(const QString &)> chosen) const
+{
+    if (!m_document.prompts())
+        return;
+    const OpenPanel panel{.title = qtTrId("kApplyOrderTitle"),
+                          .directory = {},
+                          .nameFilters = {qtTrId("kFilterReferenceLists") +
+                                              QLatin1String(" (*.txt *.TXT *.tll *.TLL)"),
+                                          qtTrId("kFilterAllFiles") + QLatin1String(" (*)")}};
+    const auto check = [chosen, guard = QPointer(m_context)](const QStringList &paths) {
+        if (guard && !paths.isEmpty())
+            chosen(paths.front());
+    };
+    m_document.prompts()->showOpenPanel(m_window, panel, check);
+}
+
+void EditorQuestions::showError(const QString &message, const QString &detail) const
+{
+    if (!m_document.prompts())
+        return;
+    const Alert alert{.message = message, .informativeText = detail, .buttons = {qtTrId("kOK")}};
+    m_document.prompts()->showAlert(m_window, alert, [](const AlertAnswer &) {});
+}
+
+} // namespace quillet

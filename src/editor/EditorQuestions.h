@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+class QObject;
+class QWidget;
+
+namespace quillet {
+
+class TLLDocument;
+
+/// What the editor asks and tells a person, as sheets of its window. Answers reach `context` only
+/// while it lives. Nothing is asked for a document without prompts.
+class EditorQuestions
+{
+public:
+    EditorQuestions(TLLDocument &document, QWidget *window, QObject *context);
+
+    /// The number typed, 1 to highestTarget; any other answer is none.
+    void askForNumber(std::function<void(qint64)> answered) const;
+    /// Whether the document's unsaved changes may be given up for another file.
+    void askToReplace(std::function<void()> confirmed) const;
+    /// The reference list chosen.
+    void askForReferenceList(std::function<void(const QString &)> chosen) const;
+    void showError(const QString &message, const QString &detail) const;
+
+private:
+    TLLDocument &m_document;
+    QWidget *m_window;
+    QObject *m_context;
+};
+
+} // namespace quillet

@@ -1,0 +1,75 @@
+#include "editor/EmptyDocText.h"
+
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <array>
+
+namespace quillet {
+
+namespace {
+
+/// What a hint says, and the way out that it offers: ids of texts, null where there is none.
+struct HintText
+{
+    EmptyHint hint;
+    const char *heading;
+    const char *text;
+    const char *link;
+};
+
+constexpr std::array hintTexts{
+    HintText{EmptyHint::NoFile, "kHintNoFile", "kHintNoFileDetail", "kHintOpen"},
+    HintText{EmptyHint::NoStations, "kHintNoStations", "kHintNoStationsDetail", nullptr},
+    HintText{EmptyHint::NoRadioStations, "kHintNoRadioStations", nullptr, "kHintShowTV"},
+    HintText{EmptyHint::NoTVStations, "kHintNoTVStations", nullptr, "kHintShowRadio"},
+};
+
+QString richText(const HintText &row)
+{
+    QString text = QStringLiteral("<h3>%1</h3>").arg(qtTrId(row.heading).toHtmlEscaped());
+    if (row.text)
+        text += QStringLiteral("<p>%1</p>").arg(qtTrId(row.text).toHtmlEscaped());
+    if (row.link)
+        text += QStringLiteral("<p><a href=\"%1\">%2</a></p>")
+                    .arg(QLatin1String(row.link), qtTrId(row.link).toHtmlEscaped());
+    return text;
+}
+
+} // namespace
+
+EmptyDocText::EmptyDocText(QWidget *covered) : QLabel(covered)
+{
+    setObjectName(QStringLiteral("emptyDocText"));
+    setAlignment(Qt::AlignCenter);
+    setWordWrap(true);
+    setMargin(24);
+    setAutoFillBackground(true);
+    setBackgroundRole(QPalette::Base);
+    auto *whole = new QVBoxLayout(covered);
+    whole->setContentsMargins(0, 0, 0, 0);
+    whole->addWidget(this);
+    connect(this, &QLabel::linkActivated, this, &EmptyDocText::follow);
+}
+
+void EmptyDocText::showHint(EmptyHint hint)
+{
+    const auto *const row =
+        std::find_if(hintTexts.begin(), hintTexts.end(),
+                     [hint](const HintText &text) { return text.hint == hint; });
+    if (row != hintTexts.end())
+        setText(richText(*row));
+    setVisible(row != hintTexts.end());
+}
+
+void EmptyDocText::follow(const QString &link)
+{
+    if (link == QLatin1String("kHintOpen"))
+        emit openRequested();
+    else if (link == QLatin1String("kHintShowTV"))
+        emit tvRequested();
+    else
+        emit radioRequested();
+}
+
+} // namespace quillet

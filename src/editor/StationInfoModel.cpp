@@ -1,0 +1,51 @@
+#include "editor/StationInfoModel.h"
+
+#include "editor/CellFont.h"
+
+namespace quillet {
+
+StationInfoModel::StationInfoModel(StationInfo info, QObject *parent)
+    : QAbstractTableModel(parent), m_info(std::move(info))
+{
+}
+
+int StationInfoModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_info.fields().size());
+}
+
+int StationInfoModel::columnCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : ColumnCount;
+}
+
+QVariant StationInfoModel::data(const QModelIndex &index, int role) const
+{
+    if (!index.isValid())
+        return {};
+    if (role == Qt::FontRole)
+        return cellFont();
+    if (role == Qt::TextAlignmentRole)
+        return QVariant::fromValue(Qt::AlignLeft | Qt::AlignVCenter);
+    if (role != Qt::DisplayRole && role != Qt::EditRole && role != Qt::ToolTipRole)
+        return {};
+    return index.column() == Field ? m_info.fields().at(index.row()) : m_info.content(index.row());
+}
+
+QVariant StationInfoModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal)
+        return {};
+    if (role == Qt::TextAlignmentRole)
+        return QVariant::fromValue(Qt::AlignLeft | Qt::AlignVCenter);
+    if (role == Qt::DisplayRole)
+        return section == Field ? qtTrId("kInfoField") : qtTrId("kInfoContent");
+    return {};
+}
+
+Qt::ItemFlags StationInfoModel::flags(const QModelIndex &index) const
+{
+    return QAbstractTableModel::flags(index) | Qt::ItemIsEditable | Qt::ItemNeverHasChildren;
+}
+
+} // namespace quillet

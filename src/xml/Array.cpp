@@ -4,6 +4,7 @@
 
 #include <QSharedData>
 
+#include <algorithm>
 #include <utility>
 
 namespace quillet {

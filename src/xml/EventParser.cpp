@@ -27,6 +27,24 @@ struct ContextDeleter
     }
 };
 
+/// Sends what the library has to say on this thread to a function, instead of standard error, for
+/// as long as it lives.
+class ErrorsGoTo
+{
+public:
+    ErrorsGoTo(xmlStructuredErrorFunc function, void *data)
+        : m_function(xmlStructuredError), m_data(xmlStructuredErrorContext)
+    {
+        xmlSetStructuredErrorFunc(data, function);
+    }
+    ~ErrorsGoTo() { xmlSetStructuredErrorFunc(m_data, m_function); }
+    Q_DISABLE_COPY_MOVE(ErrorsGoTo)
+
+private:
+    xmlStructuredErrorFunc m_function;
+    void *m_data;
+};
+
 const char *text(const xmlChar *characters)
 {
     return reinterpret_cast<const char *>(characters);
@@ -94,7 +112,7 @@ struct EventParser::Callbacks
     static void error(void *data, LibraryError error)
     {
         EventParser &self = parser(data);
-        if (self.m_error || error->level < XML_ERR_ERROR)
+        if (self.m_error || error->domain != XML_FROM_PARSER || error->level < XML_ERR_ERROR)
             return;
         self.m_error =
             ParseError{error->line, error->int2, QString::fromUtf8(error->message).trimmed()};
@@ -117,7 +135,6 @@ bool EventParser::parse(EventHandler &handler)
 
     const std::unique_ptr<xmlParserCtxt, ContextDeleter> context(xmlNewParserCtxt());
     xmlSAXHandler sax{};
-    sax.initialized = XML_SAX2_MAGIC; // enables serror; without the Ns callbacks SAX1 stays in use
     sax.startElement = Callbacks::startElement;
     sax.endElement = Callbacks::endElement;
     sax.characters = Callbacks::characters;
@@ -126,13 +143,11 @@ bool EventParser::parse(EventHandler &handler)
     sax.comment = Callbacks::comment;
     sax.getEntity = Callbacks::getEntity;
     sax.reference = Callbacks::reference;
-    sax.serror = Callbacks::error;
-    *context->sax = sax;
     context->userData = this;
     // "Huge" lifts the limit on the length of a text node; entities, which it would also let grow
     // without limit, are never expanded here.
-    xmlCtxtUseOptions(context.get(),
-                      XML_PARSE_SAX1 | XML_PARSE_HUGE | XML_PARSE_NONET | XML_PARSE_IGNORE_ENC);
+    xmlCtxtUseOptions(context.get(), XML_PARSE_HUGE | XML_PARSE_NONET | XML_PARSE_IGNORE_ENC);
+    *context->sax = sax;
     context->encoding = xmlStrdup(reinterpret_cast<const xmlChar *>("UTF-8"));
     m_context = context.get();
 
@@ -142,7 +157,10 @@ bool EventParser::parse(EventHandler &handler)
     input->cur = input->base;
     input->end = input->base + bytes.size();
     inputPush(context.get(), input);
-    xmlParseDocument(context.get());
+    {
+        const ErrorsGoTo here(Callbacks::error, this);
+        xmlParseDocument(context.get());
+    }
 
     m_context = nullptr;
     m_handler = nullptr;

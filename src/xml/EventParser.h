@@ -41,6 +41,7 @@ class EventParser
 public:
     static constexpr int maxDepth = 512;
 
+    /// The bytes must be followed by a null, as those that a QByteArray owns are.
     explicit EventParser(QByteArray utf8) : m_bytes(std::move(utf8)) {}
 
     [[nodiscard]] const QByteArray &bytes() const { return m_bytes; }

@@ -10,7 +10,8 @@
 /// unsigned, doubles, booleans and nulls keep their kinds.
 namespace quillet {
 
-/// Why a text could not be decoded, and where; lines and columns count from 1.
+/// Why a text could not be decoded, and where. Lines and columns count from 1; line 1, column 0 is
+/// an unknown place.
 struct JSONError
 {
     int line = 0;

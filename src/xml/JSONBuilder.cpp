@@ -1,5 +1,6 @@
 #include "xml/JSONBuilder.h"
 
+#include <limits>
 #include <utility>
 
 namespace quillet {

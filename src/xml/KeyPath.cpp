@@ -33,11 +33,12 @@ std::optional<Value> firstIfArray(std::optional<Value> value)
 
 std::optional<Value> valueForKeyPath(const Dictionary &root, QStringView path)
 {
-    std::optional<Value> value = root;
+    Value value = root;
     for (const QStringView key : path.split(u'.')) {
-        if (!value)
-            break;
-        value = step(*value, key);
+        std::optional<Value> next = step(value, key);
+        if (!next)
+            return {};
+        value = *std::move(next);
     }
     return value;
 }

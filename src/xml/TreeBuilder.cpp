@@ -46,22 +46,15 @@ TreeBuilder::Name &TreeBuilder::nameFor(const QString &text)
 
 Value *TreeBuilder::find(OpenElement &element, Name &name)
 {
-    if (name.element == element.id)
-        return &element.values[name.position];
-    if (!element.positionsLost)
-        return nullptr;
-    const auto found = std::find(element.names.begin(), element.names.end(), &name);
-    if (found == element.names.end())
-        return nullptr;
-    return &element.values[static_cast<std::size_t>(found - element.names.begin())];
+    return name.place.element == element.id ? &element.values[name.place.position] : nullptr;
 }
 
 void TreeBuilder::append(OpenElement &element, Name &name, Value value)
 {
-    name.element = element.id;
-    name.position = element.values.size();
-    if (element.values.capacity() == 0 && element.name)
+    if (element.values.capacity() == 0)
         element.values.reserve(element.name->lastNames.size());
+    element.outerPlaces.push_back(name.place);
+    name.place = {element.id, element.values.size()};
     element.names.push_back(&name);
     element.values.push_back(std::move(value));
 }
@@ -76,13 +69,15 @@ void TreeBuilder::insert(OpenElement &element, Name &name, Value value)
 
 void TreeBuilder::remove(OpenElement &element, Name &name)
 {
-    const auto found = std::find(element.names.begin(), element.names.end(), &name);
-    if (found == element.names.end())
+    if (name.place.element != element.id)
         return;
-    element.values.erase(element.values.begin() + (found - element.names.begin()));
-    element.names.erase(found);
-    element.id = 0; // the noted positions are no longer right
-    element.positionsLost = true;
+    const auto position = static_cast<std::ptrdiff_t>(name.place.position);
+    name.place = element.outerPlaces[name.place.position];
+    element.names.erase(element.names.begin() + position);
+    element.values.erase(element.values.begin() + position);
+    element.outerPlaces.erase(element.outerPlaces.begin() + position);
+    for (auto i = static_cast<std::size_t>(position); i < element.names.size(); ++i)
+        element.names[i]->place.position = i;
 }
 
 void TreeBuilder::addAttributes(OpenElement &element, const char *const *attributes)
@@ -119,7 +114,6 @@ void TreeBuilder::startElement(const char *name, const char *const *attributes)
     OpenElement &element = m_stack[m_depth++];
     element.name = &nameAt(name);
     element.id = ++m_lastId;
-    element.positionsLost = false;
     if (m_settings.nodeNameMode == Mode::NameAlways ||
         (m_settings.nodeNameMode == Mode::NameRootOnly && m_depth == 1))
         append(element, m_nameKey, element.name->text);
@@ -141,13 +135,9 @@ void TreeBuilder::endElement()
     Dictionary node = makeNode(element);
     --m_depth;
     if (m_depth > 0) {
-        top().positionsLost = true;
         closeElement(top(), name, std::move(node));
     } else if (m_settings.wrapRootNode) {
-        OpenElement wrapper;
-        wrapper.id = ++m_lastId;
-        closeElement(wrapper, name, std::move(node));
-        m_root = makeNode(wrapper);
+        m_root = wrapped(name, std::move(node));
     } else {
         m_root = std::move(node);
     }
@@ -245,7 +235,10 @@ Dictionary TreeBuilder::makeNode(OpenElement &element)
         for (const Name *name : tag.lastNames)
             tag.lastKeys->append(name->text);
     }
+    for (std::size_t i = element.names.size(); i-- > 0;)
+        element.names[i]->place = element.outerPlaces[i];
     element.names.clear();
+    element.outerPlaces.clear();
     element.values.shrink_to_fit();
     return {tag.lastKeys, std::exchange(element.values, {})};
 }
@@ -276,6 +269,19 @@ void TreeBuilder::closeLeaf(OpenElement &parent, Name &name, QString text) const
     } else if (m_settings.alwaysUseArrays) {
         append(parent, name, Array{});
     }
+}
+
+/// The root under its name, collapsed or stripped there like any other child, but never in an
+/// array.
+Dictionary TreeBuilder::wrapped(const Name &tag, Dictionary root) const
+{
+    const bool isPlain = !hasChildNodes(root) && !hasAttributes(root) && !hasComments(root);
+    const std::optional<QString> text = innerText(root);
+    if (isPlain && text && m_settings.collapseTextNodes)
+        return {{tag.text, *text}};
+    if (isPlain && !text && m_settings.stripEmptyNodes)
+        return {};
+    return {{tag.text, std::move(root)}};
 }
 
 void TreeBuilder::closeElement(OpenElement &parent, Name &tag, Dictionary node)
@@ -314,7 +320,6 @@ std::optional<Dictionary> TreeBuilder::takeRoot()
         Dictionary node = makeNode(top());
         --m_depth;
         if (m_depth > 0) {
-            top().positionsLost = true;
             attach(top(), name, std::move(node));
         } else if (m_settings.wrapRootNode) {
             m_root = Dictionary{{name.text, std::move(node)}};

@@ -34,13 +34,17 @@ public:
     [[nodiscard]] std::optional<Dictionary> takeRoot();
 
 private:
+    /// Which open element holds a key, and at which of its positions.
+    struct KeyPlace
+    {
+        quint64 element = 0;
+        std::size_t position = 0;
+    };
     /// A key, made once for all places where it occurs.
     struct Name
     {
         QString text;
-        // Where the innermost open element that has the key holds it.
-        quint64 element = 0;
-        std::size_t position = 0;
+        KeyPlace place; ///< in the innermost open element that has the key
         // The keys of the last closed element of this name.
         std::vector<const Name *> lastNames;
         Dictionary::Keys lastKeys;
@@ -54,8 +58,8 @@ private:
     {
         Name *name = nullptr;
         quint64 id = 0;
-        bool positionsLost = false; ///< an element inside may have taken over the names' positions
         std::vector<Name *> names;
+        std::vector<KeyPlace> outerPlaces; ///< of the names, before this element had them
         std::vector<Value> values;
     };
 
@@ -75,6 +79,7 @@ private:
     static Dictionary makeNode(OpenElement &element);
     void attach(OpenElement &parent, Name &name, Value child) const;
     void closeLeaf(OpenElement &parent, Name &name, QString text) const;
+    [[nodiscard]] Dictionary wrapped(const Name &tag, Dictionary root) const;
     void closeElement(OpenElement &parent, Name &tag, Dictionary node);
 
     XMLDictionaryParser::Settings m_settings;

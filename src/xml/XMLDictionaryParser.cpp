@@ -29,7 +29,7 @@ std::optional<Dictionary> XMLDictionaryParser::dictionaryWithData(const QByteArr
 
 std::optional<Dictionary> XMLDictionaryParser::dictionaryWithString(QStringView string)
 {
-    QStringEncoder encoder(QStringConverter::Utf8);
+    QStringEncoder encoder(QStringConverter::Utf8, QStringConverter::Flag::Stateless);
     const QByteArray data = encoder.encode(string);
     if (encoder.hasError()) {
         m_firstError = ParseError{1, 0, QStringLiteral("The text holds half a surrogate pair")};

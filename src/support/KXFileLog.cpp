@@ -12,6 +12,7 @@
 #include <cstdarg>
 #include <cstdio>
 #include <map>
+#include <stdexcept>
 
 namespace quillet {
 
@@ -52,7 +53,6 @@ std::unique_ptr<KXFileLog> KXFileLog::initWithName(const QString &name,
         qCWarning(console).noquote()
             << QStringLiteral("couldn't create directory (%1): %2")
                    .arg(directory, QStringLiteral("the path is not a folder or not writable"));
-        std::fputc('\a', stderr); // the system's alert
         return nullptr;
     }
     log->m_filename = directory + QLatin1Char('/') + name + QStringLiteral(".log");
@@ -129,9 +129,14 @@ void KXFileLog::rotateFile(const QString &current, const QString &previous)
 
 int KXFileLog::createDirectoryIfNecessary(const QString &path)
 {
-    Q_ASSERT_X(QDir::isAbsolutePath(path), "KXFileLog::createDirectoryIfNecessary",
-               "someone tried to create a non absolute directory");
-    return QDir().mkpath(path) ? 0 : -1;
+    if (!QDir::isAbsolutePath(path))
+        throw std::logic_error("createDirectoryIfNecessary someone tried to create a non absolute "
+                               "directory: " +
+                               path.toStdString());
+    if (QDir().mkpath(path))
+        return 0;
+    std::fputc('\a', stderr); // the system's alert
+    return -1;
 }
 
 void KXFileLog::tearDown()

@@ -50,7 +50,7 @@ std::optional<QString> getAsText(QByteArrayView bytes)
 
 QByteArray getAsData(QStringView text)
 {
-    QStringEncoder utf8(QStringConverter::Utf8);
+    QStringEncoder utf8(QStringConverter::Utf8, QStringConverter::Flag::Stateless);
     QByteArray bytes = utf8.encode(text);
     if (!utf8.hasError())
         return bytes;
@@ -73,21 +73,30 @@ bool usesCRLF(QStringView text)
     return std::abs(carriageReturns - lineFeeds) < 2;
 }
 
-QStringList linesArray(QStringView text)
+void forEachLine(QStringView text, const std::function<bool(QStringView)> &takeLine)
 {
-    QStringList lines;
     qsizetype start = 0;
     for (qsizetype i = 0; i < text.size(); ++i) {
         const bool endsWithCR = text[i] == QChar::CarriageReturn;
         if (!endsWithCR && text[i] != QChar::LineFeed)
             continue;
-        lines.append(text.sliced(start, i - start).toString());
+        if (!takeLine(text.sliced(start, i - start)))
+            return;
         if (endsWithCR && i + 1 < text.size() && text[i + 1] == QChar::LineFeed)
             ++i;
         start = i + 1;
     }
-    if (start < text.size() || lines.isEmpty())
-        lines.append(text.sliced(start).toString());
+    if (start < text.size() || text.isEmpty())
+        takeLine(text.sliced(start));
+}
+
+QStringList linesArray(QStringView text)
+{
+    QStringList lines;
+    forEachLine(text, [&lines](QStringView line) {
+        lines.append(line.toString());
+        return true;
+    });
     return lines;
 }
 

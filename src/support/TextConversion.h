@@ -4,6 +4,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <optional>
 
 /// Between the bytes of a file and text.
@@ -14,7 +15,7 @@ enum class TextEncoding { Utf8, Utf16, Latin1 };
 struct DecodedText
 {
     QString text;
-    TextEncoding encoding; ///< what the bytes were read as
+    TextEncoding encoding = TextEncoding::Utf8; ///< what the bytes were read as
 };
 
 /// Decodes bytes: as UTF-16 when the first byte is 0xFF or 0x00 (byte-order mark honoured, else
@@ -40,5 +41,7 @@ struct DecodedText
 /// Splits text at CR, LF and CR LF. A trailing line end makes no empty last line; an empty text is
 /// one empty line.
 [[nodiscard]] QStringList linesArray(QStringView text);
+/// Hands out the same lines one after another, until one is answered with false.
+void forEachLine(QStringView text, const std::function<bool(QStringView)> &takeLine);
 
 } // namespace quillet

@@ -29,7 +29,7 @@ void Utf8Builder::append(QStringView text)
 
 void Utf8Builder::appendEncoded(QStringView text)
 {
-    QStringEncoder encoder(QStringConverter::Utf8);
+    QStringEncoder encoder(QStringConverter::Utf8, QStringConverter::Flag::Stateless);
     char *const start = room(encoder.requiredSpace(text.size()));
     m_size += encoder.appendToBuffer(start, text) - start;
     m_hasError = m_hasError || encoder.hasError();
@@ -40,6 +40,7 @@ QByteArray Utf8Builder::take()
     m_bytes.truncate(m_size);
     m_size = 0;
     m_data = nullptr;
+    m_hasError = false;
     return std::exchange(m_bytes, {});
 }
 

@@ -14,11 +14,14 @@ public:
     /// Makes room for that many bytes in all, so that appending up to there needs no copying.
     void reserve(qsizetype bytes);
     void append(QStringView text);
-    void append(QLatin1String ascii)
+    void append(QByteArrayView utf8)
     {
-        std::memcpy(room(ascii.size()), ascii.data(), static_cast<std::size_t>(ascii.size()));
-        m_size += ascii.size();
+        if (utf8.isEmpty())
+            return;
+        std::memcpy(room(utf8.size()), utf8.data(), static_cast<std::size_t>(utf8.size()));
+        m_size += utf8.size();
     }
+    void append(QLatin1String ascii) { append(QByteArrayView(ascii.data(), ascii.size())); }
 
     /// Whether some text could not be encoded: it held half a surrogate pair.
     [[nodiscard]] bool hasError() const { return m_hasError; }

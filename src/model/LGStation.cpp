@@ -6,6 +6,8 @@
 #include "model/StationSource.h"
 #include "support/Utf8Builder.h"
 
+#include <algorithm>
+#include <array>
 #include <limits>
 
 namespace quillet {

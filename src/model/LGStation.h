@@ -12,6 +12,8 @@
 
 namespace quillet {
 
+class Utf8Builder;
+
 /// The record of one station: typed, lenient access to the fields of its entry. Every edit goes
 /// into the entry, from which the station's text is written on save; fields the program does not
 /// know stay in it untouched. Reading never fails: what is missing or malformed reads as none,
@@ -88,11 +90,11 @@ public:
     /// programming error.
     [[nodiscard]] bool matchesType(int filter, int sourceIndex) const;
 
-    /// The station's complete ITEM element, every line ended by CR LF. Values are written as they
-    /// are, without escaping.
+    /// The station's complete ITEM element, every line ended by CR LF. Text is written as it
+    /// is, without escaping.
     [[nodiscard]] QString getXMLItem() const;
     /// Appends the same text to a Utf8Builder.
-    void appendXMLItem(class Utf8Builder &output) const;
+    void appendXMLItem(Utf8Builder &output) const;
 
     /// One line for logs.
     [[nodiscard]] virtual QString description() const;

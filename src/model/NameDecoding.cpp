@@ -80,7 +80,10 @@ QString decodeUtf8Envelope(const QString &text)
             ++i;
         }
     }
-    return getAsString(bytes).value_or(QString());
+    QString name = getAsString(bytes).value_or(QString());
+    if (name.startsWith(QChar::ByteOrderMark))
+        name.remove(0, 1);
+    return name;
 }
 
 } // namespace quillet

@@ -9,44 +9,47 @@ constexpr qsizetype longestDistance = 9;
 
 } // namespace
 
-bool FileLayout::locateATV(const QString &text)
+bool FileLayout::locate(const FileText &text, bool hasAnalogue, bool hasDigital)
 {
-    return locate(text, u"<ATV>", u"</ATV>", m_headerLenATV);
+    FileText::Place footer;
+    const bool isWellFormed =
+        (!hasAnalogue || locateSection(text, QLatin1String("<ATV>"), QLatin1String("</ATV>"),
+                                       m_headerLenATV, footer)) &&
+        (!hasDigital || locateSection(text, QLatin1String("<DTV>"), QLatin1String("</DTV>"),
+                                      m_headerLenDTV, footer));
+    if (footer.isValid())
+        m_footer = text.textFrom(footer);
+    return isWellFormed;
 }
 
-bool FileLayout::locateDTV(const QString &text)
+bool FileLayout::locateSection(const FileText &text, QLatin1String openTag, QLatin1String closeTag,
+                               qsizetype &headerLength, FileText::Place &footer)
 {
-    return locate(text, u"<DTV>", u"</DTV>", m_headerLenDTV);
-}
-
-void FileLayout::locateLegacy(const QString &text)
-{
-    constexpr QStringView openTag = u"<legacybroadcast>";
-    const qsizetype start = text.indexOf(openTag);
-    if (start < 0)
-        return;
-    m_headerLenLegacy = start + openTag.size();
-    const qsizetype end = text.indexOf(QStringView(u"</legacybroadcast>"), start);
-    if (end >= 0)
-        m_footer = text.sliced(end);
-}
-
-bool FileLayout::locate(const QString &text, QStringView openTag, QStringView closeTag,
-                        qsizetype &headerLength)
-{
-    const qsizetype section = text.indexOf(openTag);
-    if (section < 0)
+    const FileText::Place section = text.find(openTag);
+    if (!section.isValid())
         return true;
-    const qsizetype firstItem = text.indexOf(QStringView(u"<ITEM>"), section);
-    if (firstItem < 0)
+    const FileText::Place firstItem = text.find(QLatin1String("<ITEM>"), section);
+    if (!firstItem.isValid())
         return true;
-    if (firstItem - section > longestDistance)
+    if (text.lengthBefore(firstItem) - text.lengthBefore(section) > longestDistance)
         return false;
-    headerLength = firstItem;
-    const qsizetype end = text.indexOf(closeTag, firstItem);
-    if (end >= 0)
-        m_footer = text.sliced(end);
+    headerLength = text.lengthBefore(firstItem);
+    const FileText::Place end = text.find(closeTag, firstItem);
+    if (end.isValid())
+        footer = end;
     return true;
+}
+
+void FileLayout::locateLegacy(const FileText &text)
+{
+    const QLatin1String openTag("<legacybroadcast>");
+    const FileText::Place start = text.find(openTag);
+    if (!start.isValid())
+        return;
+    m_headerLenLegacy = text.lengthBefore(start) + openTag.size();
+    const FileText::Place end = text.find(QLatin1String("</legacybroadcast>"), start);
+    if (end.isValid())
+        m_footer = text.textFrom(end);
 }
 
 } // namespace quillet

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "document/FileText.h"
+
 #include <QString>
 
 #include <optional>
@@ -23,17 +25,17 @@ public:
 
     void clear() { *this = {}; }
 
-    /// Each looks for the section in the text and notes where its first ITEM and its closing tag
-    /// stand; what is not found leaves the earlier value. False when the first ITEM is too far from
-    /// the section's tag.
-    [[nodiscard]] bool locateATV(const QString &text);
-    [[nodiscard]] bool locateDTV(const QString &text);
+    /// Looks for the sections that have stations and notes where the first ITEM of each and the
+    /// closing tag of the last stand; what is not found leaves the earlier value. False when a
+    /// first ITEM is too far from its section's tag.
+    [[nodiscard]] bool locate(const FileText &text, bool hasAnalogue, bool hasDigital);
     /// Notes where the JSON station list stands; what is not found leaves the earlier value.
-    void locateLegacy(const QString &text);
+    void locateLegacy(const FileText &text);
 
 private:
-    [[nodiscard]] bool locate(const QString &text, QStringView openTag, QStringView closeTag,
-                              qsizetype &headerLength);
+    [[nodiscard]] static bool locateSection(const FileText &text, QLatin1String openTag,
+                                            QLatin1String closeTag, qsizetype &headerLength,
+                                            FileText::Place &footer);
 
     qsizetype m_headerLenATV = 0;
     qsizetype m_headerLenDTV = 0;

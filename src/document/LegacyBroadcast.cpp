@@ -16,13 +16,14 @@ namespace quillet {
 
 namespace {
 
+/// The listings of whole files are off unless somebody asks for them.
 Q_LOGGING_CATEGORY(log, "quillet.legacybroadcast", QtInfoMsg)
 
 /// Numbers from here on are those of radio channels.
 constexpr qint32 firstRadioNumber = 16384;
 
-const QString numberKey = QStringLiteral("majorNumber");
-const QString channelListKey = QStringLiteral("channelList");
+constexpr QStringView numberKey = u"majorNumber";
+constexpr QStringView channelListKey = u"channelList";
 
 /// A channel with its number, 0 when it has none.
 struct NumberedChannel
@@ -73,7 +74,7 @@ std::vector<NumberedChannel> sortedChannels(const Array &list)
         if (number != 0)
             continue;
         number = ++highest;
-        channel.insert(numberKey, Value(qint64(number)));
+        channel.insert(numberKey.toString(), Value(qint64(number)));
     }
     std::stable_sort(channels.begin(), channels.end(),
                      [](const auto &a, const auto &b) { return a.number < b.number; });
@@ -111,8 +112,9 @@ qsizetype LegacyBroadcast::extractLegacyStations(QByteArrayView json, StationLis
     qint64 position = 0;
     for (const auto &[number, channel] : sortedChannels(channelList())) {
         const auto station = std::make_shared<LGLegacyStation>(channel, position++);
+        const QString *name = channel.string(u"channelName");
         qCDebug(log).noquote() << QString::asprintf("[%03lld] %d - %ls", position, number,
-                                                    qUtf16Printable(station->stationName()));
+                                                    qUtf16Printable(name ? *name : QString()));
         if (station->isTVStation())
             lists.fileStation(station);
     }
@@ -145,9 +147,10 @@ QByteArray LegacyBroadcast::json(const StationList &current) const
             written.push_back(current[next++]->entry());
     }
     Dictionary whole = *m_legacyDict;
-    whole.insert(channelListKey, Array(std::move(written)));
-    // In compact JSON a "<" stands inside strings only, where its escape means the same.
-    return toJSON(whole).value_or(QByteArray()).replace('<', "\\u003c");
+    whole.insert(channelListKey.toString(), Array(std::move(written)));
+    // In compact JSON these stand inside strings only, where their escapes mean the same. A ">"
+    // could end in "]]>", which XML text must not hold.
+    return toJSON(whole).value_or(QByteArray()).replace('<', "\\u003c").replace('>', "\\u003e");
 }
 
 } // namespace quillet

@@ -33,14 +33,20 @@ std::optional<ReferenceEntry> entryFromLine(QStringView line)
 std::optional<ReferenceList> referenceListFromData(QByteArrayView data)
 {
     const QString text = getAsString(data).value_or(QString());
+    QStringView lines = text;
+    if (lines.startsWith(QChar::ByteOrderMark))
+        lines = lines.sliced(1);
     ReferenceList entries;
     int badLines = 0;
-    for (const QString &line : linesArray(text)) {
+    forEachLine(lines, [&entries, &badLines](QStringView line) {
         if (std::optional<ReferenceEntry> entry = entryFromLine(line))
             entries.push_back(*std::move(entry));
-        else if (++badLines > mostBadLines)
-            return {};
-    }
+        else
+            ++badLines;
+        return badLines <= mostBadLines;
+    });
+    if (badLines > mostBadLines)
+        return {};
     if (entries.size() < fewestEntries)
         return {};
     return entries;

@@ -6,6 +6,9 @@
 
 #include <QStringList>
 
+#include <algorithm>
+#include <limits>
+#include <tuple>
 #include <utility>
 
 namespace quillet {
@@ -13,6 +16,10 @@ namespace quillet {
 namespace {
 
 using Found = StationPool::Found;
+
+/// Numbers in a list beyond these count as these.
+constexpr qint64 lowestNumber = std::numeric_limits<qint32>::min();
+constexpr qint64 highestNumber = std::numeric_limits<qint32>::max();
 
 struct MatchedStation
 {
@@ -80,7 +87,7 @@ ReferenceOrderResult applyReferenceOrder(StationList &stations, const ReferenceL
         if (!matched.station)
             continue;
         LogToFile(log, matched.log, qUtf16Printable(matched.station->stationName()));
-        last = lenientInteger(entry.num);
+        last = std::clamp<qint64>(lenientInteger(entry.num), lowestNumber, highestNumber);
         matched.station->setProgramNum(last);
         stations.push_back(matched.station);
     }

@@ -59,16 +59,16 @@ TLLDocument::~TLLDocument() = default;
 
 bool TLLDocument::readFromData(const QByteArray &data, const QString &typeName, Error &error)
 {
-    std::optional<DecodedText> decoded = decodeText(data);
-    if (!decoded || decoded->text.isEmpty())
+    std::optional<FileText> text = FileText::decode(data);
+    if (!text)
         return false;
-    m_xmlString = std::move(decoded->text);
+    m_text = *std::move(text);
 
     XMLDictionaryParser parser(XMLDictionaryParser::sharedInstance());
     std::optional<Dictionary> tree =
-        decoded->encoding == TextEncoding::Utf8
-            ? parser.dictionaryWithData(data) // the very bytes that the text would be encoded to
-            : parser.dictionaryWithString(m_xmlString);
+        m_text.encoding() == TextEncoding::Utf8
+            ? parser.dictionaryWithData(m_text.utf8()) // the very bytes that the text is encoded to
+            : parser.dictionaryWithString(m_text.toString());
     m_xmlDictionary = std::move(tree).value_or(Dictionary());
     m_parseError = parser.firstError();
 
@@ -77,8 +77,8 @@ bool TLLDocument::readFromData(const QByteArray &data, const QString &typeName, 
         readLegacyBroadcast();
         return true;
     }
-    if (extractStations() < 0 || (m_analogStations >= 1 && !m_layout.locateATV(m_xmlString)) ||
-        (m_digitalStations >= 1 && !m_layout.locateDTV(m_xmlString))) {
+    if (extractStations() < 0 ||
+        !m_layout.locate(m_text, m_analogStations >= 1, m_digitalStations >= 1)) {
         error = createBadFileFormatError(typeName);
         return false;
     }
@@ -99,7 +99,7 @@ void TLLDocument::readLegacyBroadcast()
     const QByteArray json = getAsData(elementText(channel->find(u"legacybroadcast")));
     const qsizetype count = m_legacyBroadcast.extractLegacyStations(json, m_lists);
     qCInfo(log, "Found legacy stations: %d", static_cast<int>(count));
-    m_layout.locateLegacy(m_xmlString);
+    m_layout.locateLegacy(m_text);
 }
 
 /// Files every ITEM into the lists. Returns the number of stations, or -1 when a section is

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/FileLayout.h"
+#include "document/FileText.h"
 #include "document/LegacyBroadcast.h"
 #include "document/ReferenceList.h"
 #include "document/StationLists.h"
@@ -50,8 +51,10 @@ public:
     /// Makes the URL that of this document; always true.
     bool useFileURL(const QUrl &url);
 
-    /// The whole text of the file as it was decoded, and its tree (empty when nothing was parsed).
-    [[nodiscard]] const QString &xmlString() const { return m_xmlString; }
+    /// The whole text of the file as it was decoded, which takes a while to make.
+    [[nodiscard]] QString xmlString() const { return m_text.toString(); }
+    [[nodiscard]] const FileText &text() const { return m_text; }
+    /// The tree of the text; empty when nothing was parsed.
     [[nodiscard]] const Dictionary &xmlDictionary() const { return m_xmlDictionary; }
     /// Where and why reading the text stopped early; none when it was read to its end.
     [[nodiscard]] const std::optional<ParseError> &parseError() const { return m_parseError; }
@@ -120,7 +123,7 @@ private:
 
     WindowFactory m_makeWindow;
     QPointer<TLLWindowController> m_lgWindowController;
-    QString m_xmlString;
+    FileText m_text;
     Dictionary m_xmlDictionary;
     std::optional<ParseError> m_parseError;
     FileLayout m_layout;

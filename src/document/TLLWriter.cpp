@@ -4,7 +4,6 @@
 #include "support/TextConversion.h"
 #include "support/Utf8Builder.h"
 
-#include <algorithm>
 #include <array>
 
 namespace quillet {
@@ -61,11 +60,10 @@ template<typename Output>
 void writeLegacy(const TLLDocument &document, Output &output)
 {
     const FileLayout &layout = document.layout();
-    const QStringView text = document.xmlString();
     const StationList none;
     const StationList &current = document.stations() ? *document.stations() : none;
     const QByteArray json = replaceBadChars(document.legacyBroadcast().json(current));
-    output.append(text.first(std::min(layout.headerLenLegacy(), text.size())));
+    document.text().appendFirst(layout.headerLenLegacy(), output);
     output.append(QStringView(QString::fromUtf8(json)));
     if (layout.footer())
         output.append(QStringView(*layout.footer()));
@@ -81,10 +79,9 @@ void write(const TLLDocument &document, Output &output)
     const bool hasAnalogue = document.analogStations() >= 1;
     const bool hasDigital = document.digitalStations() >= 1;
     const FileLayout &layout = document.layout();
-    const QStringView text = document.xmlString();
-    output.reserve(text.size() + 1000);
-    const qsizetype header = hasAnalogue ? layout.headerLenATV() : layout.headerLenDTV();
-    output.append(text.first(std::min(header, text.size())));
+    output.reserve(document.text().size() + 1000);
+    document.text().appendFirst(hasAnalogue ? layout.headerLenATV() : layout.headerLenDTV(),
+                                output);
 
     if (hasAnalogue) {
         appendSources(document.lists(), analogueSources, output);

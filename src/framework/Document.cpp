@@ -206,7 +206,11 @@ bool Document::saveCopy(const QString &path, const QString &typeName, Error &err
 {
     error = {};
     const QByteArray bytes = dataOfType(typeName, error);
-    return error.isEmpty() && FileReplacement(*m_fileOperations).replace(path, bytes, error);
+    if (!error.isEmpty() || !FileReplacement(*m_fileOperations).replace(path, bytes, error))
+        return false;
+    if (QFileInfo(path) == QFileInfo(m_fileUrl.toLocalFile()))
+        m_diskDigest = digest(bytes); // the copy went over the document's own file
+    return true;
 }
 
 void Document::revertDocumentToSaved()

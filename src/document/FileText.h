@@ -1,0 +1,52 @@
+#pragma once
+
+#include "support/TextConversion.h"
+#include "support/Utf8Builder.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <optional>
+
+namespace quillet {
+
+/// The whole text of a file. Text in UTF-8 is kept as the bytes that were read, which take less
+/// room and time than decoding them all; what is asked for is decoded then. Positions and lengths
+/// count UTF-16 units, whatever the text is kept as.
+class FileText
+{
+public:
+    FileText() = default;
+    /// None when there are no bytes.
+    [[nodiscard]] static std::optional<FileText> decode(const QByteArray &bytes);
+
+    [[nodiscard]] TextEncoding encoding() const { return m_encoding; }
+    [[nodiscard]] QString toString() const;
+    /// The bytes of a text in UTF-8; empty for any other.
+    [[nodiscard]] const QByteArray &utf8() const { return m_utf8; }
+
+    /// A place in the text, which means something to this text alone.
+    struct Place
+    {
+        qsizetype offset = -1;
+        [[nodiscard]] bool isValid() const { return offset >= 0; }
+    };
+    /// The first occurrence of an ASCII text at or after a place, by default the start.
+    [[nodiscard]] Place find(QLatin1String ascii, Place from = {0}) const;
+    /// How many UTF-16 units stand before the place.
+    [[nodiscard]] qsizetype lengthBefore(Place place) const;
+    [[nodiscard]] QString textFrom(Place place) const;
+
+    /// Appends the first `length` UTF-16 units, or all when there are fewer.
+    void appendFirst(qsizetype length, Utf8Builder &output) const;
+    void appendFirst(qsizetype length, QString &output) const;
+    /// About as many bytes as the text takes in UTF-8.
+    [[nodiscard]] qsizetype size() const;
+
+private:
+    TextEncoding m_encoding = TextEncoding::Utf8;
+    QByteArray m_utf8; ///< the text, when it came in UTF-8
+    QString m_text;    ///< the text, when it came otherwise
+};
+
+} // namespace quillet

@@ -61,6 +61,21 @@ void DarkModeTableView::print(QPrinter &printer, const QString &title)
     TablePrinter(*this, title).print(printer);
 }
 
+bool DarkModeTableView::edit(const QModelIndex &index, EditTrigger trigger, QEvent *event)
+{
+    const bool wasEditing = isEditing();
+    const bool isTaken = QTableView::edit(index, trigger, event);
+    if (isEditing() != wasEditing)
+        emit editingChanged();
+    return isTaken;
+}
+
+void DarkModeTableView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
+{
+    QTableView::closeEditor(editor, hint);
+    emit editingChanged();
+}
+
 void DarkModeTableView::keyPressEvent(QKeyEvent *event)
 {
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
@@ -122,14 +137,19 @@ void DarkModeTableView::startDrag(Qt::DropActions)
     drag->exec(Qt::MoveAction);
 }
 
-TableDrag DarkModeTableView::tableDrag(const QDropEvent &event) const
+TableDrag DarkModeTableView::filesOf(const QMimeData &data)
 {
     TableDrag drag;
-    const QList<QUrl> urls = event.mimeData()->urls();
-    for (const QUrl &url : urls) {
+    for (const QUrl &url : data.urls()) {
         if (url.isLocalFile())
             drag.files.append(url.toLocalFile());
     }
+    return drag;
+}
+
+TableDrag DarkModeTableView::tableDrag(const QDropEvent &event) const
+{
+    TableDrag drag = filesOf(*event.mimeData());
     drag.draggedRows = StationTableModel::draggedRows(*event.mimeData());
     drag.isFromThisTable = event.source() == this;
     drag.isAboveRow = true; // a drop onto a row counts for the nearer gap

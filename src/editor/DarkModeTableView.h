@@ -11,7 +11,8 @@ class QPrinter;
 
 namespace quillet {
 
-/// The station table: whole rows, a drop line between rows only, light whenever it is printed.
+/// The station table: whole rows, a drop line between rows only, light whenever it is printed. A
+/// picture of the window shows it as it is on the screen.
 class DarkModeTableView : public QTableView
 {
     Q_OBJECT
@@ -27,6 +28,11 @@ public:
     /// Shown in the middle of a table without rows.
     void setPlaceholderText(const QString &text);
 
+    /// The files that some data carries, as a drag.
+    [[nodiscard]] static TableDrag filesOf(const QMimeData &data);
+    /// Whether a cell is being edited.
+    [[nodiscard]] bool isEditing() const { return state() == EditingState; }
+
     /// Prints all rows on as many pages as they need, always dark on light, with the column titles
     /// on each page and the columns fitted to its width.
     void print(QPrinter &printer, const QString &title);
@@ -34,8 +40,12 @@ public:
 signals:
     /// Return or Enter was pressed while no cell was being edited.
     void returnPressed();
+    /// Editing of a cell has begun or ended.
+    void editingChanged();
 
 protected:
+    bool edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) override;
+    void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
     void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void startDrag(Qt::DropActions actions) override;

@@ -8,10 +8,12 @@
 #include "framework/Prompts.h"
 #include "ui_EditorView.h"
 
+#include <QDropEvent>
 #include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QSignalBlocker>
 
+#include <algorithm>
 #include <array>
 
 namespace quillet {
@@ -36,7 +38,7 @@ EditorView::EditorView(QWidget *parent)
     updateFonts();
     connectControls();
     m_controller.viewDidLoad();
-    setFocusProxy(m_ui->list);
+    setAcceptDrops(true);
 }
 
 EditorView::~EditorView() = default;
@@ -47,6 +49,11 @@ void EditorView::setUpControls()
     for (const char *title : sourceTitles)
         titles.append(qtTrId(title));
     m_ui->sourceSegmentControl->setSegments(titles);
+    QWidget *before = m_ui->radioButton;
+    for (int i = 0; i < titles.size(); ++i) {
+        setTabOrder(before, m_ui->sourceSegmentControl->segment(i));
+        before = m_ui->sourceSegmentControl->segment(i);
+    }
     for (std::size_t i = 0; i < filterTitles.size(); ++i)
         m_ui->filterPop->addItem(qtTrId(filterTitles[i]), static_cast<int>(i));
 }
@@ -114,11 +121,43 @@ void EditorView::connectControls()
             &ViewController::fillGapsClicked);
     connect(m_ui->list->selectionModel(), &QItemSelectionModel::selectionChanged, &m_controller,
             &ViewController::tableViewSelectionDidChange);
+    connect(m_ui->list, &DarkModeTableView::editingChanged, this, &EditorView::stateChanged);
     connect(m_emptyDocText, &EmptyDocText::openRequested, this, &EditorView::openRequested);
     connect(m_emptyDocText, &EmptyDocText::tvRequested, &m_controller,
             &ViewController::useTVClicked);
     connect(m_emptyDocText, &EmptyDocText::radioRequested, &m_controller,
             &ViewController::useRadioClicked);
+}
+
+void EditorView::commitEditing()
+{
+    if (isEditing())
+        m_ui->list->setFocus(); // which ends the cell's editor and keeps what was typed
+}
+
+bool EditorView::isEditing() const
+{
+    return m_ui->list->isEditing();
+}
+
+/// Files may be dropped anywhere in the window.
+void EditorView::dragEnterEvent(QDragEnterEvent *event)
+{
+    const TableDrag drag = m_ui->list->filesOf(*event->mimeData());
+    if (m_controller.validateDrop(drag) == DragOperation::Copy)
+        event->acceptProposedAction();
+}
+
+void EditorView::dropEvent(QDropEvent *event)
+{
+    const TableDrag drag = m_ui->list->filesOf(*event->mimeData());
+    if (m_controller.validateDrop(drag) == DragOperation::Copy && m_controller.acceptDrop(drag))
+        event->acceptProposedAction();
+}
+
+void EditorView::focusList()
+{
+    m_ui->list->setFocus();
 }
 
 void EditorView::focusSearch()
@@ -291,8 +330,7 @@ void EditorView::reloadData()
         selectRows(selected);
     }
     m_ui->list->viewport()->update();
-    m_ui->list->setPlaceholderText(m_ui->matches->text().isEmpty() ? QString()
-                                                                   : qtTrId("kNoMatches"));
+    m_ui->list->setPlaceholderText(m_controller.isFiltered() ? qtTrId("kNoMatches") : QString());
     emit stateChanged();
 }
 

@@ -30,7 +30,11 @@ public:
     ~EditorView() override;
 
     [[nodiscard]] ViewController &controller() { return m_controller; }
+    void focusList();
     void focusSearch();
+    /// Takes over what is being typed into a cell.
+    void commitEditing();
+    [[nodiscard]] bool isEditing() const;
     /// Asks where to print, then prints the rows shown.
     void printList();
     void setFillGapsOn(bool on);
@@ -73,6 +77,8 @@ signals:
     void openRequested();
 
 protected:
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
     void changeEvent(QEvent *event) override;
 
 private:

@@ -44,6 +44,8 @@ EmptyDocText::EmptyDocText(QWidget *covered) : QLabel(covered)
     setAlignment(Qt::AlignCenter);
     setWordWrap(true);
     setMargin(24);
+    setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    setFocusPolicy(Qt::StrongFocus);
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::Base);
     auto *whole = new QVBoxLayout(covered);

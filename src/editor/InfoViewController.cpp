@@ -14,6 +14,9 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
+#include <algorithm>
+#include <utility>
+
 namespace quillet {
 
 namespace {
@@ -110,8 +113,10 @@ bool InfoViewController::eventFilter(QObject *watched, QEvent *event)
 /// One line a row, field and content apart by a tab.
 void InfoViewController::copySelection() const
 {
+    QModelIndexList rows = m_list->selectionModel()->selectedRows();
+    std::sort(rows.begin(), rows.end());
     QStringList lines;
-    for (const QModelIndex &field : m_list->selectionModel()->selectedRows()) {
+    for (const QModelIndex &field : std::as_const(rows)) {
         const QModelIndex content = field.siblingAtColumn(StationInfoModel::Content);
         lines.append(field.data().toString() + u'\t' + content.data().toString());
     }

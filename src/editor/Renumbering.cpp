@@ -50,15 +50,15 @@ QStringList moveElemList(StationList &stations, const StationList &moved, qint64
     stations.insert(stations.begin() + static_cast<std::ptrdiff_t>(place), moved.begin(),
                     moved.end());
     for (qint64 j = 0; j < count; ++j)
-        moved[static_cast<std::size_t>(j)]->setProgramNum(first + j);
+        // Below 0 only the place counts; the lower bits of such a number would read as another one.
+        moved[static_cast<std::size_t>(j)]->setProgramNum(std::max<qint64>(first + j, 0));
 
     if (fillGaps) {
         closeGaps(stations);
     } else {
         qint64 last = 0;
         for (std::size_t i = 0; i < stations.size(); ++i) {
-            // A moved station counts with the number it was given, which may be below 0; what can
-            // be read back from it is only the lower bits.
+            // A moved station counts with the number meant for it, which may be below 0.
             const bool isMoved = i >= place && i < place + moved.size();
             const qint64 number =
                 isMoved ? first + static_cast<qint64>(i - place) : stations[i]->progNum();

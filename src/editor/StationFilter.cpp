@@ -2,6 +2,33 @@
 
 namespace quillet {
 
+namespace {
+
+/// Lower-cases one text after another into the same memory.
+class LowerCase
+{
+public:
+    /// Valid until the next one.
+    QStringView of(const QString &text)
+    {
+        m_text.resize(text.size());
+        QChar *out = m_text.data();
+        for (const QChar c : text) {
+            if (c.unicode() >= 0x80) {
+                m_text = text.toLower(); // where one character may become several
+                break;
+            }
+            *out++ = c >= u'A' && c <= u'Z' ? QChar(c.unicode() | 0x20) : c;
+        }
+        return m_text;
+    }
+
+private:
+    QString m_text;
+};
+
+} // namespace
+
 void StationFilter::clear()
 {
     m_filtered.reset();
@@ -18,8 +45,9 @@ void StationFilter::filterStationsFor(const QString &text, const StationListPtr 
     if (!stations)
         return;
     const QString wanted = text.toLower();
+    LowerCase lowerCase;
     for (const StationPtr &station : *stations) {
-        if (station->stationName().toLower().contains(wanted))
+        if (lowerCase.of(station->stationName()).contains(wanted))
             matching.push_back(station);
     }
 }

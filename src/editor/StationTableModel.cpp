@@ -27,8 +27,17 @@ StationTableModel::StationTableModel(ViewController &controller, QObject *parent
 void StationTableModel::reload()
 {
     m_typedNames.clear();
-    const auto rows = static_cast<int>(m_controller.currentList().size());
-    if (rows == m_rows && rows > 0) {
+    const StationList &list = m_controller.currentList();
+    std::vector<const LGStation *> shown;
+    shown.reserve(list.size());
+    for (const StationPtr &station : list)
+        shown.push_back(station.get());
+    const auto rows = static_cast<int>(shown.size());
+    // Where other stations come into the rows, a cell still being edited must not reach them. An
+    // edit that has just been taken over may move its station.
+    const bool isSame = rows == m_rows && rows > 0 && (m_isEditing || shown == m_shown);
+    m_shown = std::move(shown);
+    if (isSame) {
         emit dataChanged(index(0, 0), index(rows - 1, columnCount() - 1));
         return;
     }
@@ -92,7 +101,9 @@ bool StationTableModel::setData(const QModelIndex &index, const QVariant &value,
         isCheck ? QVariant(value.value<Qt::CheckState>() == Qt::Checked) : value;
     if (column.content == ColumnContent::Name)
         m_typedNames[index.row()] = value.toString();
+    m_isEditing = true;
     m_controller.setObjectValue(edited, column.identifier, index.row());
+    m_isEditing = false;
     if (index.row() < m_rows)
         emit dataChanged(index, index);
     return true;
@@ -117,10 +128,10 @@ QVariant StationTableModel::headerData(int section, Qt::Orientation orientation,
 
 Qt::ItemFlags StationTableModel::flags(const QModelIndex &index) const
 {
-    Qt::ItemFlags flags =
-        QAbstractTableModel::flags(index) | Qt::ItemIsDragEnabled | Qt::ItemNeverHasChildren;
+    Qt::ItemFlags flags = QAbstractTableModel::flags(index);
     if (!index.isValid())
         return flags;
+    flags |= Qt::ItemIsDragEnabled | Qt::ItemNeverHasChildren;
     switch (stationColumns.at(static_cast<std::size_t>(index.column())).content) {
     case ColumnContent::Number:
         flags |= Qt::ItemIsEditable;

@@ -4,8 +4,11 @@
 #include <QFont>
 #include <QHash>
 
+#include <vector>
+
 namespace quillet {
 
+class LGStation;
 class ViewController;
 
 /// The rows of the station table: what the editor's current list holds, as text and check marks.
@@ -38,7 +41,9 @@ public:
 private:
     ViewController &m_controller;
     QFont m_font;
-    int m_rows = 0; ///< as last told to the views
+    int m_rows = 0;                         ///< as last told to the views
+    std::vector<const LGStation *> m_shown; ///< likewise; only compared
+    bool m_isEditing = false;
     bool m_nameIsEditable = false;
     /// Names typed since the last reload, by row: a station keeps showing the name it was read
     /// with.

@@ -31,10 +31,13 @@ void TablePrinter::print(QPrinter &printer)
     QPainter painter(&printer);
     const qreal scale = printer.resolution() / screenDotsPerInch;
     painter.scale(scale, scale);
-    painter.setFont(m_table.font());
+    // In pixels: a size in points would be scaled twice.
+    QFont font = m_table.font();
+    font.setPixelSize(QFontInfo(font).pixelSize());
+    painter.setFont(font);
     const Page page =
         layOut(QSizeF(printer.pageLayout().paintRectPixels(printer.resolution()).size()) / scale,
-               QFontMetrics(m_table.font()));
+               QFontMetrics(font));
     for (int number = 0; number < page.count; ++number) {
         if (number > 0)
             printer.newPage();

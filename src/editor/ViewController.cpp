@@ -4,6 +4,7 @@
 #include "editor/EditorQuestions.h"
 #include "editor/Renumbering.h"
 #include "editor/StationColumns.h"
+#include "framework/FileReading.h"
 #include "support/KXFileLog.h"
 #include "support/LenientNumber.h"
 
@@ -11,6 +12,9 @@
 #include <QFileInfo>
 #include <QSet>
 #include <QTimer>
+
+#include <algorithm>
+#include <numeric>
 
 namespace quillet {
 
@@ -53,6 +57,8 @@ bool ViewController::populateFromTLLDoc(TLLDocument &document, const Error &erro
             m_outlets.selectSegment(segment);
         }
     }
+    if (!isShown)
+        m_outlets.selectSegment(-1);
     showDeviceInfo();
     m_outlets.selectRows({});
     m_outlets.reloadData();
@@ -228,17 +234,26 @@ void ViewController::moveItemsToClicked()
 
 void ViewController::moveSelectedElements(const QList<qsizetype> &rows, qint64 target)
 {
-    const StationList &list = currentList();
-    StationList stations;
-    for (const qsizetype row : rows)
-        stations.push_back(list[static_cast<std::size_t>(row)]);
-    moveStations(stations, target);
+    moveStations(stationsAt(rows), target);
 }
 
 void ViewController::moveElements(qsizetype firstRow, qsizetype count, qint64 target)
 {
-    const auto first = currentList().begin() + firstRow;
-    moveStations({first, first + count}, target);
+    QList<qsizetype> rows(count);
+    std::iota(rows.begin(), rows.end(), firstRow);
+    moveStations(stationsAt(rows), target);
+}
+
+/// The stations of those rows that there are.
+StationList ViewController::stationsAt(const QList<qsizetype> &rows) const
+{
+    const StationList &list = currentList();
+    StationList stations;
+    for (const qsizetype row : rows) {
+        if (row >= 0 && row < static_cast<qsizetype>(list.size()))
+            stations.push_back(list[static_cast<std::size_t>(row)]);
+    }
+    return stations;
 }
 
 /// Leaves out the stations of other lists: after a change of source the old filter's rows are still
@@ -268,9 +283,10 @@ void ViewController::moveStations(const StationList &stations, qint64 target)
 void ViewController::setObjectValue(const QVariant &value, const QString &column, qsizetype row)
 {
     const StationColumn *known = stationColumn(column);
-    if (!known)
+    const StationList edited = stationsAt({row});
+    if (!known || edited.empty())
         return;
-    LGStation &station = *currentList()[static_cast<std::size_t>(row)];
+    LGStation &station = *edited.front();
     switch (known->content) {
     case ColumnContent::Number:
         if (const qint64 number = lenientInteger(value.toString()); number != station.progNum())
@@ -303,13 +319,12 @@ void ViewController::changeChildLockForSelectedItems()
 
 void ViewController::toggleSelected(bool (LGStation::*isSet)() const, void (LGStation::*set)(bool))
 {
-    const QList<qsizetype> rows = m_outlets.selectedRows();
-    if (rows.isEmpty())
+    const StationList selected = stationsAt(m_outlets.selectedRows());
+    if (selected.empty())
         return;
-    const StationList &list = currentList();
-    const bool newValue = !((*list[static_cast<std::size_t>(rows.front())]).*isSet)();
-    for (const qsizetype row : rows)
-        ((*list[static_cast<std::size_t>(row)]).*set)(newValue);
+    const bool newValue = !((*selected.front()).*isSet)();
+    for (const StationPtr &station : selected)
+        ((*station).*set)(newValue);
     setDirty();
     m_outlets.reloadData();
 }
@@ -320,8 +335,13 @@ void ViewController::applyOrderClicked()
         return;
     questions().askForReferenceList([this](const QString &path) {
         // In a later turn, when the panel has gone.
-        QTimer::singleShot(0, this, [this, path] { applyOrderFile(path); });
+        QTimer::singleShot(0, this, [this, path] { applyOrderFileWait(path); });
     });
+}
+
+void ViewController::applyOrderFileWait(const QString &path)
+{
+    applyOrderFile(path);
 }
 
 void ViewController::applyOrderFile(const QString &path)
@@ -340,8 +360,8 @@ void ViewController::applyOrderFile(const QString &path)
 
 StationPtr ViewController::stationForInfo() const
 {
-    const QList<qsizetype> rows = m_outlets.selectedRows();
-    return rows.isEmpty() ? nullptr : currentList()[static_cast<std::size_t>(rows.front())];
+    const StationList selected = stationsAt(m_outlets.selectedRows());
+    return selected.empty() ? nullptr : selected.front();
 }
 
 DragOperation ViewController::validateDrop(const TableDrag &drag)
@@ -360,8 +380,8 @@ bool ViewController::acceptDrop(const TableDrag &drag)
     }
     if (drag.draggedRows.isEmpty() || drag.draggedRows.front() + 1 == drag.row)
         return false;
-    const qint64 target =
-        drag.row == 0 ? 1 : currentList()[static_cast<std::size_t>(drag.row - 1)]->progNum() + 1;
+    const StationList above = stationsAt({drag.row - 1});
+    const qint64 target = drag.row == 0 || above.empty() ? 1 : above.front()->progNum() + 1;
     QList<qsizetype> rows = drag.draggedRows;
     std::sort(rows.begin(), rows.end());
     moveSelectedElements(rows, target);
@@ -379,16 +399,30 @@ void ViewController::loadTLLFile(const QString &path)
         readDroppedFile(path);
 }
 
+/// The document changes only when the file can be read: half-read content could be saved over the
+/// file that could not.
 void ViewController::readDroppedFile(const QString &path)
 {
     const QUrl url = QUrl::fromLocalFile(path);
-    m_document->useFileURL(url);
     Error error;
-    if (!m_document->readFromUrl(url, TLLDocument::typeName(), error)) {
-        // Half-read content must not be saved over the file that could not be read.
-        m_document->clearVars();
+    QByteArray bytes;
+    if (readFile(url, bytes, error) && m_document->canRead(bytes, TLLDocument::typeName(), error)) {
+        m_document->useFileURL(url);
+        m_document->readFromUrl(url, TLLDocument::typeName(), error);
+    } else if (error.isEmpty()) {
+        error.localizedDescription = qtTrId("kContentUnknownReason");
+        error.code = 1;
+    }
+    const bool holdsStations =
+        std::any_of(stationSources.begin(), stationSources.end(), [this](StationSource source) {
+            return m_document->hasDataForSource(static_cast<int>(source));
+        });
+    if (!error.isEmpty() && holdsStations) {
+        showError(error.localizedDescription, qtTrId("kLoadingProblem"));
+        return;
     }
     populateFromTLLDoc(*m_document, error);
+    applyFilter();
 }
 
 void ViewController::setDirty()

@@ -52,6 +52,8 @@ public:
     /// The stations shown, one a row: the filtered ones while a filter is active, else the
     /// document's current list.
     [[nodiscard]] const StationList &currentList() const;
+    /// Whether the search or the type filter narrows the list.
+    [[nodiscard]] bool isFiltered() const { return m_filter.filteredStations().has_value(); }
     [[nodiscard]] const SavedSelection &selection() const { return m_selection; }
 
     // Selection
@@ -84,6 +86,8 @@ public:
     /// Imposes the order of another channel list (tll) or of a text file (txt); a file of any other
     /// type, or that cannot be used, changes nothing.
     void applyOrderFile(const QString &path);
+    /// The same, called when the panel that asked for the file has gone.
+    void applyOrderFileWait(const QString &path);
     /// The station of the first selected row; null when none is selected.
     [[nodiscard]] StationPtr stationForInfo() const;
 
@@ -115,6 +119,7 @@ private:
     void reflectRadioButton(bool isTV);
     void rebuildList();
     void reloadWithoutSelecting();
+    [[nodiscard]] StationList stationsAt(const QList<qsizetype> &rows) const;
     [[nodiscard]] StationList movable(StationList stations) const;
     void moveStations(const StationList &stations, qint64 target);
     void readDroppedFile(const QString &path);

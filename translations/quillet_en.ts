@@ -7,6 +7,30 @@
         <source></source>
         <translation>Bad file format</translation>
     </message>
+    <message id="HELP_TITLE">
+        <source></source>
+        <translation>Quillet Help</translation>
+    </message>
+    <message id="kAboutLibraries">
+        <source></source>
+        <translation>Made with %1.</translation>
+    </message>
+    <message id="kAboutLicence">
+        <source></source>
+        <translation>Copyright 2026 The Quillet authors. Free software under the MIT licence.</translation>
+    </message>
+    <message id="kAboutPurpose">
+        <source></source>
+        <translation>Sorts the channel lists of LG television sets.</translation>
+    </message>
+    <message id="kAboutTitle">
+        <source></source>
+        <translation>About Quillet</translation>
+    </message>
+    <message id="kAboutVersion">
+        <source></source>
+        <translation>Version %1</translation>
+    </message>
     <message id="kAnalogue">
         <source></source>
         <translation>Analogue</translation>
@@ -159,6 +183,30 @@
         <source></source>
         <translation>UHD</translation>
     </message>
+    <message id="kHelpBack">
+        <source></source>
+        <translation>Back</translation>
+    </message>
+    <message id="kHelpForward">
+        <source></source>
+        <translation>Forward</translation>
+    </message>
+    <message id="kHelpHome">
+        <source></source>
+        <translation>Start Page</translation>
+    </message>
+    <message id="kHelpOpenInBrowser">
+        <source></source>
+        <translation>Open in Browser</translation>
+    </message>
+    <message id="kHelpOpenInChrome">
+        <source></source>
+        <translation>Open in Chrome</translation>
+    </message>
+    <message id="kHelpToolbar">
+        <source></source>
+        <translation>Navigation</translation>
+    </message>
     <message id="kHintNoFile">
         <source></source>
         <translation>No channel list is open</translation>
@@ -227,6 +275,10 @@
         <source></source>
         <translation>The channel list could not be opened.</translation>
     </message>
+    <message id="kMenuAbout">
+        <source></source>
+        <translation>&amp;About Quillet</translation>
+    </message>
     <message id="kMenuAnalogue">
         <source></source>
         <translation>Ana&amp;logue</translation>
@@ -290,6 +342,14 @@
     <message id="kMenuFind">
         <source></source>
         <translation>&amp;Find</translation>
+    </message>
+    <message id="kMenuGuide">
+        <source></source>
+        <translation>Quillet &amp;Help</translation>
+    </message>
+    <message id="kMenuHelp">
+        <source></source>
+        <translation>&amp;Help</translation>
     </message>
     <message id="kMenuInfo">
         <source></source>
@@ -506,11 +566,11 @@ These go on from number: %3</translation>
     </message>
     <message id="kTipNoStations">
         <source></source>
-        <translation>This list has no stations</translation>
+        <translation>Open a list, or choose a source, that has stations</translation>
     </message>
     <message id="kTipNoStationsInSource">
         <source></source>
-        <translation>The file has no stations from this source</translation>
+        <translation>For files that have stations from this source</translation>
     </message>
     <message id="kTipSelectFirst">
         <source></source>

@@ -1,14 +1,18 @@
 #include "app/AppDelegate.h"
 
+#include "app/HelpLoader.h"
 #include "app/LGWindowController.h"
 #include "app/MainMenu.h"
 #include "document/TLLDocument.h"
+#include "editor/EditorView.h"
 
 #include <QFileInfo>
 #include <QFileOpenEvent>
 #include <QGuiApplication>
 #include <QMainWindow>
 #include <QUrl>
+
+#include <cstdio>
 
 namespace quillet {
 
@@ -39,6 +43,7 @@ std::unique_ptr<Document> AppDelegate::makeDocument()
         auto controller = std::make_unique<LGWindowController>();
         auto *menu = new MainMenu(*controller, m_documents, controller->window());
         connect(menu, &MainMenu::quitRequested, this, &AppDelegate::terminate);
+        connect(menu, &MainMenu::helpRequested, this, &AppDelegate::showHelpWindow);
         return controller;
     });
     return document;
@@ -54,8 +59,29 @@ void AppDelegate::applicationDidFinishLaunching(const QStringList &paths)
         m_documents.newDocument();
 }
 
+void AppDelegate::showHelpWindow()
+{
+    const std::optional<QString> resources = resourceFolder();
+    if (!resources)
+        return;
+    const QUrl page = QUrl::fromLocalFile(*resources + QLatin1String("/User-Guide/index.html"));
+    std::printf("url = %s\n", qUtf8Printable(page.toString(QUrl::FullyEncoded)));
+    if (!m_inAppBrowserWindow)
+        m_inAppBrowserWindow = loadHelpBrowser(*m_services);
+    if (m_inAppBrowserWindow)
+        m_inAppBrowserWindow->showPage(page, qtTrId("HELP_TITLE"));
+    else
+        m_services->openUrl(page);
+}
+
 void AppDelegate::terminate()
 {
+    for (const auto &document : m_documents.documents()) {
+        for (const auto &controller : document->windowControllers()) {
+            if (auto *window = qobject_cast<LGWindowController *>(controller.get()))
+                window->editor().commitEditing();
+        }
+    }
     m_documents.closeAllDocuments([](bool closed) {
         if (closed)
             QCoreApplication::exit(); // quit() would ask every window once more

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "app/DesktopServices.h"
 #include "framework/DocumentController.h"
 #include "framework/Prompts.h"
+#include "help/HelpBrowser.h"
 
 #include <QObject>
 #include <QStringList>
@@ -27,6 +29,13 @@ public:
 
     /// Opens the files the program was started with; without any, an empty window.
     void applicationDidFinishLaunching(const QStringList &paths);
+    /// What is used instead of the desktop's own services; must outlive the delegate.
+    void setSystemServices(SystemServices &services) { m_services = &services; }
+    /// Shows the start page of the user guide, in the help window or, when the program came without
+    /// that, in the default browser. Does nothing without the guide.
+    void showHelpWindow();
+    /// The help window; null until help was first shown.
+    [[nodiscard]] HelpBrowser *inAppBrowserWindow() const { return m_inAppBrowserWindow.get(); }
     /// Asks about unsaved changes, then quits.
     void terminate();
 
@@ -37,6 +46,9 @@ protected:
 private:
     [[nodiscard]] std::unique_ptr<Document> makeDocument();
 
+    DesktopServices m_desktop;
+    SystemServices *m_services = &m_desktop;
+    std::unique_ptr<HelpBrowser> m_inAppBrowserWindow;
     DocumentController m_documents;
 };
 

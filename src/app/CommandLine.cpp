@@ -18,21 +18,25 @@ CommandLine CommandLine::parse(const QStringList &arguments)
         QStringLiteral("picture"));
     const QCommandLineOption dark(QStringLiteral("dark"),
                                   QStringLiteral("Make that picture in dark colours."));
+    const QCommandLineOption language(
+        QStringLiteral("language"),
+        QStringLiteral("Show the texts in <language>, for example \"de\"."),
+        QStringLiteral("language"));
+    parser.addOption(language);
     parser.addOption(snapshot);
     parser.addOption(dark);
     parser.addPositionalArgument(QStringLiteral("files"), QStringLiteral("Channel lists to open."),
                                  QStringLiteral("[FILE...]"));
 
     CommandLine line;
-    if (!parser.parse(arguments)) {
+    if (!parser.parse(arguments))
         line.error = parser.errorText();
-        return line;
-    }
     if (parser.isSet(help))
         line.answer = parser.helpText();
     else if (parser.isSet(version))
         line.answer = QStringLiteral("Quillet " QUILLET_VERSION "\n");
     line.files = parser.positionalArguments();
+    line.language = parser.value(language);
     line.snapshot = parser.value(snapshot);
     line.isDark = parser.isSet(dark);
     if (!line.snapshot.isEmpty() && line.files.size() > 1)

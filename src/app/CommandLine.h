@@ -13,6 +13,7 @@ struct CommandLine
     QStringList files;
     QString snapshot;              ///< the picture to make instead of opening a window; empty: none
     bool isDark = false;           ///< the picture's appearance
+    QString language;              ///< of the texts; empty: the system's
     std::optional<QString> answer; ///< a text to print (help, version) instead of anything else
     QString error;                 ///< what is wrong with the arguments; empty: nothing
 

@@ -17,7 +17,9 @@ LGWindowController::LGWindowController()
 void LGWindowController::windowDidLoad()
 {
     window()->setCentralWidget(m_editor); // which the window owns from here on
-    m_editor->setFocus();
+    m_editor->focusList();
+    // Ahead of the question whether to save.
+    connect(this, &WindowController::closeRequested, m_editor, &EditorView::commitEditing);
     const QSize wanted = m_editor->sizeHint();
     const int line = m_editor->fontMetrics().height();
     window()->resize(qMax(wanted.width() + 6 * line, 48 * line), 42 * line);
@@ -36,6 +38,7 @@ void LGWindowController::refill()
 {
     if (TLLDocument *shown = tlldoc())
         populateFromTLLDoc(*shown, {});
+    m_editor->controller().applyFilter(); // the search field still holds its text
 }
 
 bool LGWindowController::validateUserInterfaceItem(const QString &action) const

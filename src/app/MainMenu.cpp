@@ -1,6 +1,8 @@
 #include "app/MainMenu.h"
 
+#include "app/AboutWindow.h"
 #include "app/AppDelegate.h"
+#include "app/HelpLoader.h"
 #include "app/LGWindowController.h"
 #include "document/TLLDocument.h"
 #include "editor/EditorView.h"
@@ -49,6 +51,7 @@ MainMenu::MainMenu(LGWindowController &window, DocumentController &documents, QO
     makeFileMenu(bar);
     makeEditMenu(bar);
     makeViewMenu(bar);
+    makeHelpMenu(bar);
     connect(&m_editor, &EditorView::stateChanged, this, &MainMenu::validate);
     validate();
 }
@@ -80,8 +83,8 @@ void MainMenu::makeFileMenu(QMenuBar &bar)
     menu.addSeparator();
     add(menu, {"kMenuClose", "performClose", QKeySequence::Close},
         [this] { emit m_window.closeRequested(); });
-    m_documentItems.push_back(add(menu, {"kMenuSave", "saveDocument", QKeySequence::Save},
-                                  [this] { m_window.tlldoc()->saveDocument(); }));
+    m_save = add(menu, {"kMenuSave", "saveDocument", QKeySequence::Save}, [this] { save(); });
+    m_documentItems.push_back(m_save);
     m_documentItems.push_back(add(menu, {"kMenuRevert", "revertDocumentToSaved", {}},
                                   [this] { m_window.tlldoc()->revertDocumentToSaved(); }));
     m_documentItems.push_back(add(menu,
@@ -159,6 +162,35 @@ void MainMenu::makeViewMenu(QMenuBar &bar)
     }
 }
 
+void MainMenu::makeHelpMenu(QMenuBar &bar)
+{
+    QMenu &menu = *bar.addMenu(qtTrId("kMenuHelp"));
+    if (resourceFolder()) { // a package may leave the guide out
+        add(menu, {"kMenuGuide", "showHelpWindow", QKeySequence::HelpContents},
+            [this] { emit helpRequested(); });
+        menu.addSeparator();
+    }
+    QAction *about = add(menu, {"kMenuAbout", "showAbout", {}}, [this] { showAbout(); });
+    about->setMenuRole(QAction::AboutRole);
+}
+
+void MainMenu::showAbout()
+{
+    if (!m_about)
+        m_about = new AboutWindow(m_window.window());
+    m_about->show();
+    m_about->raise();
+}
+
+/// What is being typed counts as well.
+void MainMenu::save()
+{
+    m_editor.commitEditing();
+    TLLDocument *document = m_window.tlldoc();
+    if (document && document->isDirty())
+        document->saveDocument();
+}
+
 void MainMenu::chooseSource(int source)
 {
     m_editor.selectSegment(source);
@@ -172,6 +204,8 @@ void MainMenu::validate()
         action->setEnabled(document && document->validateUserInterfaceItem(action->objectName()));
     for (QAction *action : m_editorItems)
         action->setEnabled(m_window.validateUserInterfaceItem(action->objectName()));
+    if (document && m_editor.isEditing())
+        m_save->setEnabled(true); // for what is being typed
     m_print->setEnabled(m_editor.canPrint());
     m_moveTo->setEnabled(m_editor.canMove());
     m_info->setEnabled(m_editor.canShowInfo());

@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QList>
 #include <QObject>
+#include <QPointer>
 
 #include <vector>
 
@@ -11,12 +12,13 @@ class QMenuBar;
 
 namespace quillet {
 
+class AboutWindow;
 class DocumentController;
 class EditorView;
 class LGWindowController;
 
-/// The menu bar of one window. A command's object name is the name of the operation it calls, by
-/// which the document and the editor say whether it is enabled. Owned by its window.
+/// The menu bar of one window. A command of the document or the editor has the name of its
+/// operation as object name, by which those say whether it is enabled. Owned by its window.
 class MainMenu : public QObject
 {
     Q_OBJECT
@@ -26,6 +28,7 @@ public:
 
 signals:
     void quitRequested();
+    void helpRequested();
 
 private:
     struct Item
@@ -40,6 +43,9 @@ private:
     void makeFileMenu(QMenuBar &bar);
     void makeEditMenu(QMenuBar &bar);
     void makeViewMenu(QMenuBar &bar);
+    void makeHelpMenu(QMenuBar &bar);
+    void save();
+    void showAbout();
     void chooseSource(int source);
     void validate();
     void validateView();
@@ -47,10 +53,12 @@ private:
     LGWindowController &m_window;
     DocumentController &m_documents;
     EditorView &m_editor;
+    QPointer<AboutWindow> m_about;
     std::vector<QAction *> m_documentItems; ///< enabled as the document says
     std::vector<QAction *> m_editorItems;   ///< enabled as the editor says
     std::vector<QAction *> m_sources;
     std::vector<QAction *> m_filters;
+    QAction *m_save = nullptr;
     QAction *m_print = nullptr;
     QAction *m_moveTo = nullptr;
     QAction *m_info = nullptr;

@@ -3,12 +3,15 @@
 #include "app/AppDelegate.h"
 #include "app/LGWindowController.h"
 #include "document/TLLDocument.h"
+#include "support/KXFileLog.h"
 
 #include <QApplication>
 #include <QFileInfo>
 #include <QMainWindow>
 #include <QPalette>
 #include <QPixmap>
+#include <QSettings>
+#include <QTemporaryDir>
 #include <QUrl>
 
 namespace quillet {
@@ -51,6 +54,10 @@ void useDarkPalette()
 
 QString makeSnapshot(const QString &file, const QString &picture)
 {
+    // Neither the person's settings nor the log of a running program are touched.
+    const QTemporaryDir settings;
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
+    OpenFileLog(QStringLiteral("XT"), QStringLiteral("quillet-snapshot"));
     SilentPrompts prompts;
     AppDelegate delegate(prompts);
     const QString path = file.isEmpty() ? file : QFileInfo(file).absoluteFilePath();

@@ -1,15 +1,33 @@
 #include "app/Translations.h"
 
 #include <QCoreApplication>
+#include <QLibraryInfo>
+#include <QLocale>
 #include <QTranslator>
+
+#include <memory>
 
 namespace quillet {
 
-void installTranslations()
+namespace {
+
+void install(const QLocale &locale, const QString &name, const QString &folder)
 {
-    auto *english = new QTranslator(qApp);
-    if (english->load(QStringLiteral(":/i18n/quillet_en.qm")))
-        QCoreApplication::installTranslator(english);
+    auto translator = std::make_unique<QTranslator>();
+    if (translator->load(locale, name, QStringLiteral("_"), folder))
+        QCoreApplication::installTranslator(translator.release()); // which lives as long as qApp
+}
+
+} // namespace
+
+void installTranslations(const QString &language)
+{
+    const QLocale locale = language.isEmpty() ? QLocale::system() : QLocale(language);
+    const QString texts = QStringLiteral(":/i18n");
+    // Texts are looked for in the last one first.
+    install(QLocale(QLocale::English), QStringLiteral("quillet"), texts);
+    install(locale, QStringLiteral("qtbase"), QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+    install(locale, QStringLiteral("quillet"), texts);
 }
 
 } // namespace quillet

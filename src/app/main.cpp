@@ -5,6 +5,8 @@
 #include "framework/QtPrompts.h"
 
 #include <QApplication>
+#include <QIcon>
+#include <QRegularExpression>
 
 #include <cstdio>
 
@@ -19,25 +21,33 @@ int main(int argc, char *argv[])
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments.append(QString::fromLocal8Bit(argv[i]));
-    const CommandLine line = CommandLine::parse(arguments);
+    // What needs no window is answered before Qt looks for a display.
+    const CommandLine early = CommandLine::parse(arguments);
+    const bool mayBeQts = arguments.indexOf(QRegularExpression(QStringLiteral("-[a-z]+"))) >= 0;
+    if (!early.error.isEmpty() && !mayBeQts) {
+        std::fprintf(stderr, "%s\n", qPrintable(early.error));
+        return 2;
+    }
+    if (early.answer) {
+        std::fputs(qPrintable(*early.answer), stdout);
+        return 0;
+    }
+    if (!early.snapshot.isEmpty() && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+
+    QApplication app(argc, argv); // takes Qt's own options out
+    const CommandLine line = CommandLine::parse(QApplication::arguments());
     if (!line.error.isEmpty()) {
         std::fprintf(stderr, "%s\n", qPrintable(line.error));
         return 2;
     }
-    if (line.answer) {
-        std::fputs(qPrintable(*line.answer), stdout);
-        return 0;
-    }
-    if (!line.snapshot.isEmpty() && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-
-    QApplication app(argc, argv);
     QApplication::setApplicationDisplayName(QStringLiteral("Quillet"));
     QApplication::setDesktopFileName(QStringLiteral("quillet"));
-    installTranslations();
-    if (line.isDark)
-        useDarkPalette();
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/quillet.png")));
+    installTranslations(line.language);
     if (!line.snapshot.isEmpty()) {
+        if (line.isDark)
+            useDarkPalette();
         const QString problem = makeSnapshot(line.files.value(0), line.snapshot);
         if (problem.isEmpty())
             return 0;

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "help/HelpBrowser.h"
+
+#include <memory>
+#include <optional>
+
+namespace quillet {
+
+/// The folder of the program's resources; none when it was not installed with the program.
+[[nodiscard]] std::optional<QString> resourceFolder();
+
+/// Loads the module with the help window and makes the window; null when the module is not there or
+/// cannot be loaded. The services must outlive the window.
+[[nodiscard]] std::unique_ptr<HelpBrowser> loadHelpBrowser(SystemServices &services);
+
+} // namespace quillet

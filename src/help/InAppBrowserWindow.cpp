@@ -1,0 +1,150 @@
+#include "help/InAppBrowserWindow.h"
+
+#include "help/InAppBrowserController.h"
+#include "help/SystemServices.h"
+
+#include <QAction>
+#include <QSettings>
+#include <QStyle>
+#include <QToolBar>
+#include <QWebEngineView>
+
+#include <array>
+
+namespace quillet {
+
+namespace {
+
+QString frameKey()
+{
+    return QStringLiteral("windows/InAppBrowser");
+}
+
+struct ToolbarItem
+{
+    const char *name;
+    const char *title; ///< id of the localized text
+    QStyle::StandardPixmap icon;
+    Qt::Key key; ///< with Alt; Key_unknown: none
+    void (InAppBrowserWindow::*perform)();
+};
+
+constexpr std::array toolbarItems{
+    ToolbarItem{"goBack", "kHelpBack", QStyle::SP_ArrowBack, Qt::Key_Left,
+                &InAppBrowserWindow::goBack},
+    ToolbarItem{"goForward", "kHelpForward", QStyle::SP_ArrowForward, Qt::Key_Right,
+                &InAppBrowserWindow::goForward},
+    ToolbarItem{"goHome", "kHelpHome", QStyle::SP_DirHomeIcon, Qt::Key_Home,
+                &InAppBrowserWindow::goHome},
+    ToolbarItem{"openInBrowser", "kHelpOpenInBrowser", QStyle::SP_DesktopIcon, Qt::Key_unknown,
+                &InAppBrowserWindow::openInBrowser},
+    ToolbarItem{"chrome", "kHelpOpenInChrome", QStyle::SP_ComputerIcon, Qt::Key_unknown,
+                &InAppBrowserWindow::openInChrome},
+};
+
+} // namespace
+
+InAppBrowserWindow::InAppBrowserWindow(SystemServices &services)
+    : m_services(services), m_controller(nullptr), m_toolbar(addToolBar(qtTrId("kHelpToolbar")))
+{
+    setObjectName(QStringLiteral("helpWindow"));
+    auto *container = new QWidget;
+    setCentralWidget(container);
+    m_controller = new InAppBrowserController(*container, services, this);
+    makeToolbar();
+    connect(m_controller, &InAppBrowserController::historyChanged, this,
+            &InAppBrowserWindow::validateToolbar);
+    validateToolbar();
+    restoreFrame();
+}
+
+InAppBrowserWindow::~InAppBrowserWindow()
+{
+    delete m_controller; // before the view, which the window's content owns
+}
+
+void InAppBrowserWindow::makeToolbar()
+{
+    m_toolbar->setMovable(false);
+    m_toolbar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    for (const ToolbarItem &item : toolbarItems) {
+        QAction *action = m_toolbar->addAction(style()->standardIcon(item.icon), qtTrId(item.title),
+                                               this, item.perform);
+        action->setObjectName(QLatin1String(item.name));
+        if (item.key != Qt::Key_unknown)
+            action->setShortcut(Qt::ALT | item.key);
+    }
+    auto *close = new QAction(this);
+    close->setShortcut(QKeySequence::Close);
+    connect(close, &QAction::triggered, this, &QWidget::close);
+    addAction(close);
+}
+
+void InAppBrowserWindow::showPage(const QUrl &page, const QString &title)
+{
+    setWindowTitle(title);
+    show();
+    raise();
+    activateWindow();
+    m_controller->loadHomePage(page);
+    m_controller->webView().setFocus();
+}
+
+void InAppBrowserWindow::goHome()
+{
+    m_controller->reloadHomePage();
+}
+
+void InAppBrowserWindow::goBack()
+{
+    m_controller->goBack();
+}
+
+void InAppBrowserWindow::goForward()
+{
+    goBack();
+}
+
+void InAppBrowserWindow::openInBrowser()
+{
+    m_services.openUrl(m_controller->homeURL());
+}
+
+void InAppBrowserWindow::openInChrome()
+{
+    const std::optional<QString> chrome = m_services.findChrome();
+    if (chrome && !m_controller->homeURL().isEmpty())
+        m_services.openUrlWith(m_controller->homeURL(), *chrome);
+}
+
+bool InAppBrowserWindow::validateToolbarItem(const QString &name) const
+{
+    if (name == QLatin1String("goBack"))
+        return m_controller->canGoBack();
+    if (name == QLatin1String("goForward"))
+        return m_controller->canGoForward();
+    if (name == QLatin1String("chrome"))
+        return m_controller->chromeURL().has_value();
+    return true;
+}
+
+void InAppBrowserWindow::validateToolbar()
+{
+    for (QAction *action : m_toolbar->actions())
+        action->setEnabled(validateToolbarItem(action->objectName()));
+}
+
+void InAppBrowserWindow::restoreFrame()
+{
+    const int line = fontMetrics().height();
+    if (!restoreGeometry(QSettings().value(frameKey()).toByteArray()))
+        resize(56 * line, 44 * line);
+}
+
+void InAppBrowserWindow::closeEvent(QCloseEvent *event)
+{
+    QSettings().setValue(frameKey(), saveGeometry());
+    QMainWindow::closeEvent(event);
+}
+
+} // namespace quillet

@@ -1,0 +1,97 @@
+#include "bench/DocumentBenchmarks.h"
+
+#include "bench/Failure.h"
+#include "bench/Figures.h"
+#include "document/TLLDocument.h"
+
+#include <libxml/parser.h>
+
+#include <memory>
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+
+namespace quillet::bench {
+
+namespace {
+
+/// Gives all free memory back to the system, outside the measured time. Every measurement here
+/// starts so, the bare pass too, and pays for the pages it takes, as a program that was just
+/// started does: else it would depend on what the one before it has left.
+void emptyHeap(benchmark::State &state)
+{
+    state.PauseTiming();
+#ifdef __GLIBC__
+    malloc_trim(0);
+#endif
+    state.ResumeTiming();
+}
+
+/// What all others are compared with: one pass over the bytes that does nothing with them.
+void bare(benchmark::State &state, const QByteArray &bytes)
+{
+    xmlSAXHandler sax{};
+    sax.startElement = [](void *, const xmlChar *, const xmlChar **) {};
+    sax.endElement = [](void *, const xmlChar *) {};
+    sax.characters = [](void *, const xmlChar *, int) {};
+    for ([[maybe_unused]] auto _ : state) {
+        emptyHeap(state);
+        if (xmlSAXUserParseMemory(&sax, nullptr, bytes.constData(),
+                                  static_cast<int>(bytes.size())) != 0)
+            return fail(state, "The file is not well-formed");
+    }
+}
+
+bool load(TLLDocument &document, const QByteArray &bytes)
+{
+    Error error;
+    return document.readFromData(bytes, TLLDocument::typeName(), error) && !document.parseError();
+}
+
+/// From bytes in memory to sorted lists in a new document. Reading the file is not in it, nor is
+/// destroying the document.
+void loading(benchmark::State &state, const QByteArray &bytes)
+{
+    for ([[maybe_unused]] auto _ : state) {
+        emptyHeap(state);
+        auto document = std::make_unique<TLLDocument>();
+        if (!load(*document, bytes))
+            return fail(state, "The file was not read");
+        state.PauseTiming();
+        document.reset();
+        state.ResumeTiming();
+    }
+}
+
+/// From the lists of a loaded document to bytes in memory, which are compared and freed outside the
+/// measured time. Writing the file is not in it.
+void saving(benchmark::State &state, const QByteArray &bytes)
+{
+    TLLDocument document;
+    if (!load(document, bytes))
+        return fail(state, "The file was not read");
+    for ([[maybe_unused]] auto _ : state) {
+        emptyHeap(state);
+        Error error;
+        QByteArray saved = document.dataOfType(TLLDocument::typeName(), error);
+        state.PauseTiming();
+        if (saved != bytes)
+            return fail(state, "The file saved is not the file read");
+        saved.clear();
+        state.ResumeTiming();
+    }
+}
+
+} // namespace
+
+void registerDocumentBenchmarks(const Files &files)
+{
+    benchmark::RegisterBenchmark(figure::bare10k, bare, files.stations10k);
+    benchmark::RegisterBenchmark(figure::bare100k, bare, files.stations100k);
+    benchmark::RegisterBenchmark(figure::load10k, loading, files.stations10k);
+    benchmark::RegisterBenchmark(figure::load100k, loading, files.stations100k);
+    benchmark::RegisterBenchmark(figure::save10k, saving, files.stations10k);
+    benchmark::RegisterBenchmark(figure::save100k, saving, files.stations100k);
+}
+
+} // namespace quillet::bench

@@ -1,0 +1,19 @@
+#pragma once
+
+/// The names of what is measured, by which the ratios refer to it. The digits are the number of
+/// stations.
+namespace quillet::bench::figure {
+
+inline constexpr char bare10k[] = "bare/10000"; ///< the bare pass that others are compared with
+inline constexpr char bare100k[] = "bare/100000";
+inline constexpr char load10k[] = "load/10000";
+inline constexpr char load100k[] = "load/100000";
+inline constexpr char save10k[] = "save/10000";
+inline constexpr char save100k[] = "save/100000";
+inline constexpr char search[] = "search";
+inline constexpr char firstSearch[] = "search/first";
+inline constexpr char move[] = "move";
+inline constexpr char firstMove[] = "move/first";
+inline constexpr char moveFillingGaps[] = "move/fill gaps";
+
+} // namespace quillet::bench::figure

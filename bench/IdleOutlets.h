@@ -1,0 +1,32 @@
+#pragma once
+
+#include "editor/EditorOutlets.h"
+
+namespace quillet::bench {
+
+/// An editor's controls without a window: nothing is shown, nothing is selected.
+class IdleOutlets : public EditorOutlets
+{
+public:
+    QString search; ///< what is typed into the search field
+
+    void setText(Field, const QString &) override {}
+    void setEnabled(Control, bool) override {}
+    [[nodiscard]] bool tvButtonIsOn() const override { return true; }
+    void setTVButtonOn(bool) override {}
+    void setSegmentEnabled(int, bool) override {}
+    void selectSegment(int) override {}
+    [[nodiscard]] int selectedSegment() const override { return 0; }
+    [[nodiscard]] QString searchText() const override { return search; }
+    [[nodiscard]] int filterTag() const override { return 0; }
+    void selectFilterItem(int) override {}
+    void reloadData() override {}
+    [[nodiscard]] QList<qsizetype> selectedRows() const override { return {}; }
+    void selectRows(const QList<qsizetype> &) override {}
+    void scrollRowToVisible(qsizetype) override {}
+    void setNameColumnEditable(bool) override {}
+    void showEmptyHint(EmptyHint) override {}
+    [[nodiscard]] QWidget *sheetWindow() const override { return nullptr; }
+};
+
+} // namespace quillet::bench

@@ -1,0 +1,35 @@
+#include "bench/RatioTable.h"
+
+#include <algorithm>
+#include <cstdio>
+
+namespace quillet::bench {
+
+void RatioTable::add(std::string title, std::optional<double> measured, double wanted)
+{
+    m_rows.push_back({std::move(title), measured, wanted});
+}
+
+void RatioTable::print() const
+{
+    std::size_t longest = 0;
+    for (const Row &row : m_rows)
+        longest = std::max(longest, row.title.size());
+    const int width = static_cast<int>(longest);
+    std::printf("%-*s  measured  wanted\n", width, "ratio");
+    for (const Row &row : m_rows) {
+        std::printf("%-*s", width, row.title.c_str());
+        if (row.measured)
+            std::printf("  %8.3f  %6.2f  %s\n", *row.measured, row.wanted,
+                        row.isGood() ? "ok" : "OVER");
+        else
+            std::printf("  %8s  %6.2f  not measured\n", "-", row.wanted);
+    }
+}
+
+bool RatioTable::isGood() const
+{
+    return std::all_of(m_rows.begin(), m_rows.end(), [](const Row &row) { return row.isGood(); });
+}
+
+} // namespace quillet::bench

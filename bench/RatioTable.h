@@ -1,0 +1,32 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace quillet::bench {
+
+/// The table that a run ends with: ratios, each beside the highest that is wanted.
+class RatioTable
+{
+public:
+    /// A ratio that could not be measured is none, and does not pass.
+    void add(std::string title, std::optional<double> measured, double wanted);
+    void print() const;
+    /// Whether every row is at most what is wanted.
+    [[nodiscard]] bool isGood() const;
+
+private:
+    struct Row
+    {
+        std::string title;
+        std::optional<double> measured;
+        double wanted;
+
+        [[nodiscard]] bool isGood() const { return measured && *measured <= wanted; }
+    };
+
+    std::vector<Row> m_rows;
+};
+
+} // namespace quillet::bench

@@ -1,0 +1,26 @@
+// The program's start without arguments, up to its empty window.
+
+#include "app/AppDelegate.h"
+#include "app/CommandLine.h"
+#include "app/Translations.h"
+#include "bench/FirstPaint.h"
+#include "framework/QtPrompts.h"
+
+int main(int argc, char *argv[])
+{
+    QCoreApplication::setApplicationName(QStringLiteral("Quillet"));
+    QCoreApplication::setOrganizationName(QStringLiteral("Quillet"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(QUILLET_VERSION));
+    const quillet::CommandLine line =
+        quillet::CommandLine::parse({QString::fromLocal8Bit(argv[0])});
+
+    const QApplication app(argc, argv);
+    QApplication::setApplicationDisplayName(QStringLiteral("Quillet"));
+    QApplication::setDesktopFileName(QStringLiteral("quillet"));
+    const quillet::bench::FirstPaint firstPaint;
+    quillet::installTranslations();
+    quillet::QtPrompts prompts;
+    quillet::AppDelegate delegate(prompts);
+    delegate.applicationDidFinishLaunching(line.files);
+    return QApplication::exec();
+}

@@ -14,8 +14,10 @@ namespace {
 void install(const QLocale &locale, const QString &name, const QString &folder)
 {
     auto translator = std::make_unique<QTranslator>();
-    if (translator->load(locale, name, QStringLiteral("_"), folder))
-        QCoreApplication::installTranslator(translator.release()); // which lives as long as qApp
+    if (!translator->load(locale, name, QStringLiteral("_"), folder))
+        return;
+    translator->setParent(qApp);
+    QCoreApplication::installTranslator(translator.release());
 }
 
 } // namespace

@@ -73,8 +73,7 @@ bool PresetPrompts::isSettled() const
         return line.answers.empty() && line.questions.empty();
     };
     return isEmpty(m_alertLine) && isEmpty(m_openLine) && isEmpty(m_saveLine) &&
-           isEmpty(m_printLine) && m_underway == 0 &&
-           !m_hasMistake;
+           isEmpty(m_printLine) && m_underway == 0 && !m_hasMistake;
 }
 
 void PresetPrompts::showAlert(QWidget *window, const Alert &alert,

@@ -1,0 +1,160 @@
+#include "ListText.h"
+
+#include "support/TextConversion.h"
+#include "testing/TLLText.h"
+#include "testing/TestMain.h"
+
+#include <QStringConverter>
+#include <QTest>
+
+using namespace quillet;
+using namespace quillet::testing;
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const auto Analogue = FileSource::Analogue, Cable = FileSource::Cable;
+const auto Satellite = FileSource::Satellite, Antenna = FileSource::Antenna;
+
+/// A file as the system itself would write it.
+QString plainFile()
+{
+    return makeTLL({makeStation(1, u"Old"_s, Analogue)},
+                   {makeStation(1, u"Ä1"_s), makeStation(2, u"Кино"_s, Satellite)});
+}
+
+} // namespace
+
+class TLLSavingTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void samples_data()
+    {
+        QTest::addColumn<int>("count");
+        QTest::addColumn<bool>("isSame");
+        QTest::newRow("cable.tll") << 400 << true;
+        QTest::newRow("antenna.tll") << 60 << true;
+        // Line feeds, colliding numbers and blank names in it are written anew.
+        QTest::newRow("satellite.tll") << 150 << false;
+    }
+
+    void samples()
+    {
+        QFETCH(const bool, isSame);
+        const QByteArray bytes = readSample(QString::fromLatin1(QTest::currentDataTag()));
+        TLLDocument document, again;
+        QVERIFY(read(document, bytes));
+        QTEST(int(listText(document).size()), "count");
+        const QByteArray saved = written(document);
+        QVERIFY(!isSame || saved == bytes);
+        QVERIFY(read(again, saved));
+        QCOMPARE(listText(again), listText(document));
+        QVERIFY(written(again) == saved);
+        const qsizetype header = document.layout().headerLenDTV();
+        QCOMPARE(again.xmlString().first(header), document.xmlString().first(header));
+        QCOMPARE(again.layout().footer(), document.layout().footer());
+    }
+
+    void keepsWhatIsAroundTheStations_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("saved");
+        const TLLOptions lf{.lineEnd = u"\n"_s,
+                            .header = u"<TLLDATA>\n<!-- \U0001F4FA -->\n<CHANNEL>\n"_s,
+                            .betweenSections = u"\n<!-- lost -->\n"_s,
+                            .end = u"\n<!-- € -->\n</CHANNEL></TLLDATA>"_s};
+        const Item old = makeStation(1, u"Old"_s, Analogue), a = makeStation(1, u"A"_s);
+        const QString oldItem = makeItem(old), aItem = makeItem(a);
+        const QString old2 = makeItem(makeStation(2, u"Old"_s, Analogue));
+        const QString between = u"</ATV>\r\n<DTV>\r\n"_s, atv = lf.header + u"<ATV>\n"_s;
+        const QString start = u"<TLLDATA><CHANNEL>"_s, end = u"\r\n</CHANNEL>\r\n</TLLDATA>\r\n"_s;
+        const auto row = [](const char *name, const QString &text, const QString &saved) {
+            QTest::newRow(name) << text << saved;
+        };
+        row("digital", makeTLL({}, {a}, lf),
+            lf.header + u"<DTV>\n"_s + aItem + u"</DTV>"_s + lf.end);
+        row("analogue", makeTLL({old}, {}, lf), atv + oldItem + u"</ATV>"_s + lf.end);
+        row("both", makeTLL({old}, {a}, lf),
+            atv + oldItem + between + aItem + u"</DTV>"_s + lf.end);
+        row("digital, cut off", start + u"<DTV>"_s + aItem,
+            start + u"<DTV>"_s + aItem + u"</DTV>"_s + end);
+        row("analogue, cut off", start + u"<ATV>"_s + oldItem,
+            start + u"<ATV>"_s + oldItem + u"</ATV>"_s + end);
+        row("no stations", u"<TLLDATA><x/></TLLDATA>"_s, {});
+        // Without an analogue section nothing in the text tells where the header ends.
+        row("misplaced", makeTLL({}, {old, a}, lf),
+            oldItem + between + aItem + u"</DTV>"_s + lf.end);
+        row("misplaced beside analogue", makeTLL({old}, {old, a}, lf),
+            atv + oldItem + old2 + between + aItem + u"</DTV>"_s + lf.end);
+        const Item blank{{u"prNum"_s, u"1"_s}, {u"sourceIndex"_s, u"3"_s}, {u"vchName"_s, u" "_s}};
+        Item empty = blank;
+        empty.back().second.clear();
+        empty.insert(empty.begin(), {u"x"_s, u""_s});
+        row("empty fields", makeTLL({}, {empty}), makeTLL({}, {blank}));
+    }
+
+    void keepsWhatIsAroundTheStations()
+    {
+        QFETCH(const QString, text);
+        TLLDocument document;
+        QVERIFY(read(document, text));
+        QTEST(QString::fromUtf8(written(document)), "saved");
+    }
+
+    void writesTheListsInOrder()
+    {
+        const Item r1 = makeStation(0x4001, u"R1"_s, Cable, 2);
+        const Item r2 = makeStation(0x4002, u"R2"_s, Satellite, 2);
+        const Item s1 = makeStation(1, u"S1"_s, Satellite), t1 = makeStation(1, u"T1"_s, Antenna);
+        const Item c1 = makeStation(1, u"C1"_s), c2 = makeStation(2, u"C2"_s);
+        TLLDocument document;
+        QVERIFY(read(document, makeTLL({}, {t1, r1, r2, s1, c1, c2, makeStation(3, u"C3"_s)})));
+        document.switchToMode(true);
+        StationList &cable = *document.stations();
+        std::swap(cable[0], cable[1]);
+        cable[0]->setProgramNum(11);
+        cable[0]->setSkipped(true);
+        cable.pop_back(); // deleted
+        Item edited = makeStation(11, u"C2"_s);
+        edited.push_back({u"isSkipped"_s, u"1"_s});
+        QCOMPARE(QString::fromUtf8(written(document)), makeTLL({}, {edited, c1, r1, s1, r2, t1}));
+    }
+
+    void encodings_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QByteArray>("saved");
+        const QByteArray utf8 = plainFile().toUtf8(), marked = "\xEF\xBB\xBF" + utf8;
+        QStringEncoder utf16(QStringConverter::Utf16LE, QStringConverter::Flag::WriteBom);
+        QTest::newRow("UTF-8 with mark") << marked << marked;
+        QTest::newRow("UTF-16") << QByteArray(utf16(plainFile())) << marked;
+        const QString latin1 = makeTLL({}, {makeStation(1, u"Grün"_s)});
+        QTest::newRow("ISO 8859-1") << latin1.toLatin1() << latin1.toUtf8();
+    }
+
+    void encodings()
+    {
+        QFETCH(const QByteArray, bytes);
+        TLLDocument document;
+        QVERIFY(read(document, bytes) && !document.parseError());
+        QTEST(written(document), "saved");
+    }
+
+    void halfPairsAreSavedAsUtf16()
+    {
+        for (const QString &name : {u"A\xD83DZ"_s, u"A\xD83D"_s, u"\xDCFA"_s}) {
+            TLLDocument document;
+            QVERIFY(read(document, plainFile()));
+            document.lists().list(true, 0)->front()->setStationName(name);
+            const QByteArray saved = written(document);
+            QVERIFY(saved.startsWith("\xFF\xFE"));
+            QCOMPARE(getAsString(saved), u"\uFEFF"_s + plainFile().replace(u"Ä1"_s, name));
+        }
+    }
+};
+
+QUILLET_TEST(TLLSavingTest)
+
+#include "TLLSavingTest.moc"

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "editor/EditorOutlets.h"
+
+#include <QMap>
+
+#include <algorithm>
+#include <array>
+#include <functional>
+
+namespace quillet::testing {
+
+/// An editor's controls without a window. Like the real table, it reports every change of its
+/// selection, whoever made it, except by a reload.
+class FakeOutlets : public EditorOutlets
+{
+public:
+    QMap<Field, QString> texts;
+    QMap<Control, bool> enabled;
+    std::array<bool, 4> segments{true, true, true, true};
+    int segment = -1;
+    bool isTV = false;
+    QString search;
+    int filter = 0;
+    QList<qsizetype> rows;
+    int reloads = 0;
+    qsizetype scrolledTo = -1;
+    bool nameIsEditable = false;
+    EmptyHint hint = EmptyHint::None;
+    std::function<void()> selectionChanged = [] {};
+    std::function<qsizetype()> rowCount = [] { return 0; };
+    std::function<void()> reloaded = [] {};
+
+    void setText(Field field, const QString &text) override { texts[field] = text; }
+    void setEnabled(Control control, bool on) override { enabled[control] = on; }
+    [[nodiscard]] bool tvButtonIsOn() const override { return isTV; }
+    void setTVButtonOn(bool on) override { isTV = on; }
+    void setSegmentEnabled(int index, bool on) override
+    {
+        segments.at(static_cast<std::size_t>(index)) = on;
+    }
+    void selectSegment(int index) override { segment = index; }
+    [[nodiscard]] int selectedSegment() const override { return segment; }
+    [[nodiscard]] QString searchText() const override { return search; }
+    [[nodiscard]] int filterTag() const override { return filter; }
+    void selectFilterItem(int index) override { filter = index; }
+    void reloadData() override
+    {
+        ++reloads;
+        rows.removeIf([count = rowCount()](qsizetype row) { return row >= count; });
+        reloaded();
+    }
+    [[nodiscard]] QList<qsizetype> selectedRows() const override { return rows; }
+    void selectRows(const QList<qsizetype> &selected) override
+    {
+        const bool changes =
+            !std::equal(rows.begin(), rows.end(), selected.begin(), selected.end());
+        rows = selected;
+        if (changes)
+            selectionChanged();
+    }
+    void scrollRowToVisible(qsizetype row) override { scrolledTo = row; }
+    void setNameColumnEditable(bool editable) override { nameIsEditable = editable; }
+    void showEmptyHint(EmptyHint shown) override { hint = shown; }
+    [[nodiscard]] QWidget *sheetWindow() const override { return nullptr; }
+};
+
+} // namespace quillet::testing

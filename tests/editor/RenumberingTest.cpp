@@ -1,0 +1,100 @@
+#include "EditorFixture.h"
+
+#include "editor/Renumbering.h"
+#include "testing/TestMain.h"
+
+#include <QTest>
+
+using namespace quillet;
+using namespace quillet::testing;
+
+namespace {
+
+/// Stations with those numbers, whose names are letters from A and whose places at loading count
+/// from 0.
+StationList stationsNumbered(const QString &numbers)
+{
+    StationList stations;
+    for (const QString &number : numbers.split(QLatin1Char(' '))) {
+        const auto index = static_cast<qint64>(stations.size());
+        stations.push_back(std::make_shared<LGStation>(
+            Dictionary{{QStringLiteral("prNum"), number},
+                       {QStringLiteral("vchName"), QString(QChar(u'A' + char16_t(index)))}},
+            index));
+    }
+    return stations;
+}
+
+QString numbersAndLetters(const StationList &stations)
+{
+    QStringList texts;
+    for (const StationPtr &station : stations)
+        texts.append(station->progNumString() + station->stationName());
+    return texts.join(QLatin1Char(' '));
+}
+
+} // namespace
+
+class RenumberingTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void moving_data()
+    {
+        QTest::addColumn<QString>("before");
+        QTest::addColumn<QString>("moved");
+        QTest::addColumn<int>("target");
+        QTest::addColumn<bool>("fillGaps");
+        QTest::addColumn<QString>("after");
+        QTest::addColumn<QString>("selected");
+        const auto row = [](const char *name, const char *before, const char *moved, int target,
+                            bool fillGaps, const char *after, const char *selected) {
+            QTest::newRow(name) << QString::fromLatin1(before) << QString::fromLatin1(moved)
+                                << target << fillGaps << QString::fromLatin1(after)
+                                << QString::fromLatin1(selected);
+        };
+        row("up", "1 2 3 4 5", "E", 2, false, "1A 2E 3B 4C 5D", "2");
+        row("down, the gap absorbs the push", "1 2 3 10 11", "A", 3, false, "2B 3A 4C 10D 11E",
+            "3");
+        row("into a gap", "1 2 3 10 11", "E", 5, false, "1A 2B 3C 5E 10D", "5");
+        row("to its own place", "1 2 3", "B", 2, false, "1A 2B 3C", "2");
+        row("several stay together", "1 2 3 4 5", "AC", 4, false, "2B 4A 5C 6D 7E", "4 5");
+        row("several in the given order", "1 2 3 4 5", "CA", 1, false, "1C 2A 3B 4D 5E", "1 2");
+        row("all", "1 2 3", "ABC", 7, false, "7A 8B 9C", "7 8 9");
+        row("zero", "1 2 3 4", "C", 0, false, "1C 2A 3B 4D", "0");
+        row("negative", "1 2 3 4", "CD", -3, false, "1C 2D 3A 4B", "-3 -2");
+        row("negative, gaps filled", "1 2 9", "C", -3, true, "1C 2A 3B", "-3");
+        row("highest", "1 2 3", "A", 9999, false, "2B 3C 9999A", "9999");
+        row("beyond the highest", "1 2 3", "AB", 12000, false, "3C 9999A 10000B", "9999 10000");
+        row("pushes the highest", "1 9999", "A", 9999, false, "9999A 10000B", "9999");
+        row("gaps filled, towards the end", "1 2 3 4 5", "B", 4, true, "1A 2C 3B 4D 5E", "3");
+        row("gaps filled, towards the start", "1 2 3 4 5", "E", 2, true, "1A 2E 3B 4C 5D", "2");
+        row("gaps filled, target as its first place", "1 2 3 4 5", "E", 4, true, "1A 2B 3C 4E 5D",
+            "4");
+        row("gaps filled, several", "1 2 3 4 5", "AC", 4, true, "1B 2A 3C 4D 5E", "2 3");
+        row("gaps filled, beyond the end", "2 5 9", "A", 12000, true, "1B 2C 3A", "9998");
+        row("equal numbers, the first", "1 2 2 3", "B", 9, false, "1A 2C 3D 9B", "9");
+        row("equal numbers, both", "1 2 2 3", "BC", 9, false, "1A 3D 9B 10C", "9 10");
+        // The station taken out is B; what is put back is C, which then stands there twice.
+        row("equal numbers, the second", "1 2 2 3", "C", 9, false, "1A 11C 10D 11C", "9");
+    }
+    void moving()
+    {
+        QFETCH(QString, before);
+        QFETCH(QString, moved);
+        QFETCH(int, target);
+        QFETCH(bool, fillGaps);
+        StationList stations = stationsNumbered(before);
+        StationList wanted;
+        for (const QChar letter : moved)
+            wanted.push_back(stations.at(letter.unicode() - u'A'));
+        const QStringList selection = moveElemList(stations, wanted, target, fillGaps);
+        QTEST(numbersAndLetters(stations), "after");
+        QTEST(selection.join(QLatin1Char(' ')), "selected");
+    }
+};
+
+QUILLET_TEST(RenumberingTest)
+
+#include "RenumberingTest.moc"

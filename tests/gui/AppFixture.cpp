@@ -1,0 +1,91 @@
+#include "AppFixture.h"
+
+#include "app/Translations.h"
+#include "framework/WindowController.h"
+#include "testing/TLLText.h"
+
+#include <QAction>
+#include <QDir>
+#include <QFile>
+#include <QSettings>
+#include <QTest>
+
+namespace quillet::testing {
+
+App::App(Prompts *prompts) : delegate(prompts ? *prompts : preset)
+{
+    static const bool hasTexts = (installTranslations(), true);
+    Q_UNUSED(hasTexts)
+    QSettings().clear();
+}
+
+QString App::write(const char *name, const QByteArray &bytes) const
+{
+    QFile file(folder.filePath(QString::fromLatin1(name)));
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        qFatal("no file could be made for the test");
+    return file.fileName();
+}
+
+QMainWindow *App::window(std::size_t documents) const
+{
+    const auto &open = const_cast<App *>(this)->delegate.documents().documents();
+    if (open.size() != documents)
+        return nullptr;
+    QMainWindow *last = open.back()->windowControllers().front()->window();
+    return QTest::qWaitForWindowActive(last) ? last : nullptr;
+}
+
+QMainWindow *App::open(const char *name, const QByteArray &bytes)
+{
+    const std::size_t before = delegate.documents().documents().size();
+    delegate.applicationDidFinishLaunching({write(name, bytes)});
+    return window(before + 1);
+}
+
+QTableView &tableOf(const QWidget &window)
+{
+    return part<QTableView>(window, "list");
+}
+
+QString cell(const QWidget &window, int row, int column)
+{
+    return tableOf(window).model()->index(row, column).data().toString();
+}
+
+QAction &menuItem(const QWidget &window, const char *name)
+{
+    return part<QAction>(window, name);
+}
+
+void selectRows(const QWidget &window, const QList<int> &rows)
+{
+    const QTableView &table = tableOf(window);
+    Qt::KeyboardModifiers modifiers;
+    for (const int row : rows) {
+        const QRect place = table.visualRect(table.model()->index(row, 1));
+        QTest::mouseClick(table.viewport(), Qt::LeftButton, modifiers, place.center());
+        modifiers = Qt::ControlModifier;
+    }
+}
+
+QByteArray listOf(int count)
+{
+    std::vector<Item> stations;
+    for (int number = 1; number <= count; ++number)
+        stations.push_back(makeStation(number, QStringLiteral("Station %1").arg(number)));
+    return makeTLL({}, stations).toUtf8();
+}
+
+QByteArray bytesOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QString label(const char *id)
+{
+    return qtTrId(id);
+}
+
+} // namespace quillet::testing

@@ -1,0 +1,162 @@
+#include "AppFixture.h"
+
+#include "testing/TLLText.h"
+#include "testing/TestMain.h"
+
+#include <QAccessible>
+#include <QAction>
+#include <QFile>
+#include <QLineEdit>
+#include <QRandomGenerator>
+#include <QTest>
+#include <QTimer>
+
+#include <unistd.h>
+
+using namespace quillet;
+using namespace quillet::testing;
+
+/// Several windows, the controls of one, and files that are no channel lists.
+class WindowsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void windowsAreIndependent()
+    {
+        App app;
+        QMainWindow *first = app.open("a.tll", listOf(3));
+        QMainWindow *second = app.open("b.tll", listOf(4));
+        QVERIFY(first && second);
+        QTest::keyClicks(&part<QLineEdit>(*second, "searchText"), QStringLiteral("3"));
+        selectRows(*second, {0});
+        menuItem(*second, "fillGapsClicked").trigger();
+        QCOMPARE(tableOf(*first).model()->rowCount(), 3);
+        QVERIFY(!tableOf(*first).selectionModel()->hasSelection());
+        QVERIFY(!menuItem(*first, "fillGapsClicked").isChecked());
+        // A file that is open already only raises its window.
+        app.delegate.applicationDidFinishLaunching({app.folder.filePath(QStringLiteral("a.tll"))});
+        QCOMPARE(app.delegate.documents().documents().size(), std::size_t(2));
+        QVERIFY(QTest::qWaitForWindowActive(first));
+    }
+
+    void quitAsksAboutChanges()
+    {
+        App app;
+        QMainWindow *window = app.open("a.tll", listOf(3));
+        QVERIFY(window);
+        selectRows(*window, {2});
+        app.preset.answerAlert(label("kMovingOK"), QStringLiteral("1"));
+        menuItem(*window, "moveItemsToClicked").trigger();
+        QTRY_VERIFY(window->isWindowModified());
+        app.preset.answerAlert(label("kCancel"));
+        menuItem(*window, "terminate").trigger();
+        QTRY_VERIFY(app.preset.isSettled());
+        QVERIFY(window->isVisible());
+
+        app.preset.answerAlert(label("kDontSave"));
+        QTimer::singleShot(0, window, [window] { menuItem(*window, "terminate").trigger(); });
+        QTimer::singleShot(30000, &app.delegate, [] { QCoreApplication::exit(1); });
+        QCOMPARE(QApplication::exec(), 0);
+        QVERIFY(app.preset.isSettled() && app.delegate.documents().documents().empty());
+        QCOMPARE(bytesOf(app.folder.filePath(QStringLiteral("a.tll"))), listOf(3));
+    }
+
+    void tabVisitsEveryControlOnce()
+    {
+        App app;
+        QMainWindow *window = app.open("a.tll", listOf(3));
+        QVERIFY(window);
+        selectRows(*window, {0}); // enables the commands for stations
+        auto &start = part<QWidget>(*window, "tvButton");
+        start.setFocus();
+        QStringList visited;
+        do {
+            visited.append(window->focusWidget()->objectName());
+            QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
+        } while (!start.hasFocus() && visited.size() < 50);
+        // From the top of the window to the bottom.
+        QCOMPARE(visited.join(QLatin1Char(' ')),
+                 QStringLiteral("tvButton segment0 searchText filterPop list moveToButton "
+                                "infoButton applyButton fillGapsButton"));
+        const QList<QWidget *> widgets = window->findChildren<QWidget *>();
+        for (const QWidget *widget : widgets) {
+            if ((widget->focusPolicy() & Qt::TabFocus) && widget->isEnabled() &&
+                widget->isVisible())
+                QVERIFY2(visited.contains(widget->objectName()), qPrintable(widget->objectName()));
+        }
+    }
+
+    void everyControlHasAName()
+    {
+        App app;
+        const QMainWindow *window = app.open("a.tll", listOf(3));
+        QVERIFY(window);
+        int controls = 0;
+        const QList<QWidget *> widgets = window->findChildren<QWidget *>();
+        for (QWidget *widget : widgets) {
+            if (widget->focusPolicy() == Qt::NoFocus || !widget->isVisible())
+                continue;
+            const QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(widget);
+            QVERIFY2(interface && !interface->text(QAccessible::Name).isEmpty(),
+                     qPrintable(widget->objectName()));
+            ++controls;
+        }
+        QVERIFY(controls >= 10);
+    }
+
+    void badFiles_data()
+    {
+        QTest::addColumn<QString>("kind");
+        QTest::addColumn<QString>("reason"); // empty: opens without stations
+        const auto row = [](const char *kind, const char *reason) {
+            QTest::newRow(kind) << QString::fromLatin1(kind) << QString::fromLatin1(reason);
+        };
+        row("empty", "kContentUnknownReason");
+        row("random", "");
+        row("folder", "kIsAFolderReason");
+        row("unreadable", "kFileUnreadableReason");
+        row("vanished", "kFileMissingReason");
+        row("cut short", "");
+    }
+    void badFiles()
+    {
+        QFETCH(QString, kind);
+        QFETCH(QString, reason);
+        App app;
+        QByteArray bytes;
+        if (kind == QLatin1String("random")) {
+            bytes.resize(1'000'000);
+            QRandomGenerator(7).generate(bytes.begin(), bytes.end());
+        } else if (kind == QLatin1String("cut short")) {
+            bytes = readSample(QStringLiteral("antenna.tll")).first(500);
+        }
+        QString path = app.write("a.tll", bytes);
+        if (kind == QLatin1String("folder")) {
+            path = app.folder.path();
+        } else if (kind == QLatin1String("vanished")) {
+            QVERIFY(QFile::remove(path));
+        } else if (kind == QLatin1String("unreadable")) {
+            QFile::setPermissions(path, {});
+            if (geteuid() == 0)
+                QSKIP("root reads every file");
+        }
+        if (!reason.isEmpty())
+            app.preset.answerAlert(label("kOK"));
+        app.delegate.applicationDidFinishLaunching({path});
+        QTRY_VERIFY(app.preset.isSettled());
+        const QMainWindow *window = app.window();
+        QVERIFY(window); // a file that cannot be read leaves an empty one
+        QCOMPARE(tableOf(*window).model()->rowCount(), 0);
+        QVERIFY(part<QWidget>(*window, "emptyDocText").isVisible());
+        QCOMPARE(app.preset.alerts().size(), std::size_t(reason.isEmpty() ? 0 : 1));
+        if (!reason.isEmpty()) {
+            const QString text = label(qPrintable(reason)).section(QStringLiteral("%1"), -1);
+            QVERIFY2(app.preset.lastText().contains(text), qPrintable(app.preset.lastText()));
+        }
+    }
+};
+
+QUILLET_TEST(WindowsTest)
+
+#include "WindowsTest.moc"

@@ -1,0 +1,117 @@
+#include "TreeText.h"
+
+#include "testing/TestMain.h"
+#include "xml/XMLDictionaryParser.h"
+
+#include <QTemporaryDir>
+#include <QUrl>
+
+using namespace quillet;
+using namespace Qt::Literals::StringLiterals;
+
+/// Files that are made to harm: none may take long, grow memory or make the parser read elsewhere.
+class HostileXMLTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void nothingIsReadOrExpanded_data()
+    {
+        QTest::addColumn<QString>("doctype"); // %1 is a folder's URL
+        QTest::addColumn<int>("line");        // of the error
+        QString bomb = u"[<!ENTITY b0 'SECRET'>"_s;
+        for (int i = 1; i < 30; ++i)
+            bomb += u"<!ENTITY b%1 '&b%2;&b%2;&b%2;&b%2;&b%2;&b%2;&b%2;&b%2;'>"_s.arg(i).arg(i - 1);
+        const auto row = [](const char *name, const QString &doctype, int line = 3) {
+            QTest::newRow(name) << doctype << line;
+        };
+        row("internal", u"[<!ENTITY x 'SECRET'>]"_s);
+        row("markup", u"[<!ENTITY x '<c>SECRET</c>'>]"_s);
+        row("predefined", u"[<!ENTITY lt 'SECRET'><!ENTITY x '&lt;'>]"_s);
+        row("external", u"[<!ENTITY x SYSTEM '%1/secret.txt'>]"_s);
+        row("public", u"[<!ENTITY x PUBLIC 'p' '%1/secret.txt'>]"_s);
+        row("parameter", u"[<!ENTITY % p SYSTEM '%1/secret.dtd'>%p;]"_s, 1);
+        row("internal parameter", u"[<!ENTITY % p \"<!ENTITY x 'SECRET'>\">%p;]"_s, 1);
+        row("external type", u"SYSTEM '%1/secret.dtd' [<!ENTITY y 'SECRET'>]"_s);
+        row("nested bomb", bomb + u"<!ENTITY x '&b29;'>]"_s);
+        row("wide bomb", u"[<!ENTITY x '"_s + u"SECRET"_s.repeated(10000) + u"'>]"_s);
+    }
+
+    void nothingIsReadOrExpanded()
+    {
+        const QTemporaryDir folder;
+        QFile secret(folder.filePath(u"secret.txt"_s)), dtd(folder.filePath(u"secret.dtd"_s));
+        QVERIFY(secret.open(QIODevice::WriteOnly) && secret.write("SECRET") > 0);
+        QVERIFY(dtd.open(QIODevice::WriteOnly));
+        QVERIFY(dtd.write("<!ENTITY x 'SECRET'>\n<!ATTLIST r d CDATA 'SECRET'>") > 0);
+        secret.close();
+        dtd.close();
+        QFETCH(QString, doctype);
+        QFETCH(const int, line);
+        doctype.replace(u"%1"_s, QUrl::fromLocalFile(folder.path()).toString());
+        const QString start = u"<!DOCTYPE r "_s + doctype + u">\n<r><a>1</a>\n"_s;
+        for (const QString &reference :
+             {u"<b>&x;</b>"_s, u"&x;"_s.repeated(10000), u"<b z='1&x;2'>3</b>"_s}) {
+            XMLDictionaryParser parser;
+            const auto tree =
+                parser.dictionaryWithString(start + reference + u"<after>2</after></r>"_s);
+            QVERIFY(parser.firstError());
+            QCOMPARE(parser.firstError()->line, line);
+            const QString text = formattedDescription(tree.value_or(Dictionary()));
+            QVERIFY2(!text.contains(u"SECRET"_s), qPrintable(text));
+            QVERIFY2(!text.contains(u"after"), qPrintable(text)); // it stops at the reference
+            QCOMPARE(text.contains(u"<a> = 1"), line == 3);
+        }
+        XMLDictionaryParser parser; // what is not referred to does no harm
+        QCOMPARE(parser.dictionaryWithString(start + u"<b>&lt;</b></r>"_s).has_value(), line == 3);
+        QCOMPARE(parser.firstError().has_value(), line == 1);
+    }
+
+    void deepNesting_data()
+    {
+        QTest::addColumn<int>("depth");
+        QTest::addColumn<bool>("isClosed");
+        QTest::newRow("deepest") << 512 << true;
+        QTest::newRow("one more") << 513 << true;
+        QTest::newRow("a million") << 1000000 << true;
+        QTest::newRow("a million open") << 1000000 << false;
+    }
+
+    void deepNesting()
+    {
+        QFETCH(const int, depth);
+        QFETCH(const bool, isClosed);
+        XMLDictionaryParser parser;
+        const auto tree = parser.dictionaryWithData(QByteArray("<a>").repeated(depth) + 'x' +
+                                                    QByteArray("</a>").repeated(isClosed * depth));
+        QCOMPARE(parser.firstError().has_value(), depth > 512);
+        int levels = 1;
+        const Dictionary *node = &*tree;
+        for (; node->dictionary(u"a"); node = node->dictionary(u"a"))
+            ++levels;
+        // The innermost one is its text when it was closed.
+        QCOMPARE(levels, depth > 512 ? 512 : 511);
+        QCOMPARE(node->string(u"a") != nullptr, depth == 512);
+    }
+
+    void longText_data()
+    {
+        QTest::addColumn<QByteArray>("unit");
+        QTest::newRow("plain") << "0123456789"_ba;
+        QTest::newRow("in pieces") << "\xC3\xA4 x\r\n y&lt;"_ba;
+    }
+
+    void longText()
+    {
+        QFETCH(const QByteArray, unit);
+        const qsizetype count = 50'000'000 / unit.size();
+        const auto tree = dictionaryWithXMLData("<r><a>" + unit.repeated(count) + "</a></r>");
+        QString text = QString::fromUtf8(unit).remove(u'\r');
+        text.replace(u"&lt;"_s, u"<"_s);
+        QVERIFY(*tree->string(u"a") == text.repeated(count));
+    }
+};
+
+QUILLET_TEST(HostileXMLTest)
+
+#include "HostileXMLTest.moc"

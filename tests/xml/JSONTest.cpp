@@ -1,0 +1,217 @@
+#include "TreeText.h"
+
+#include "testing/TestMain.h"
+#include "xml/JSON.h"
+
+#include <cmath>
+#include <limits>
+
+using namespace quillet;
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+std::optional<Value> parsed(const QByteArray &text)
+{
+    JSONError error;
+    return valueFromJSON(text, error);
+}
+
+/// About 200 KB of channels, one a line.
+QByteArray longList()
+{
+    QByteArray text = "{\"channelList\": [\n";
+    for (int i = 0; text.size() < 200'000; ++i) {
+        const QByteArray number = QByteArray::number(i);
+        text += (i > 0 ? ",\n" : "") + ("{\"channelName\": \"S\xC3\xA4nder \\u00e4" + number) +
+                "\", \"majorNumber\": " + number + ", \"skipped\": false, \"part\": [1.5e3, null]}";
+    }
+    return text + "\n], \"end\": {}}";
+}
+
+} // namespace
+
+class JSONTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void values_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<Value>("value");
+        const auto row = [](const QByteArray &text, const Value &value) {
+            QTest::newRow(text.constData()) << text << value;
+        };
+        using Signed = std::numeric_limits<qint64>;
+        using Double = std::numeric_limits<double>;
+        row("null", Value());
+        row("true", Value(true));
+        row("0", Value(qint64(0)));
+        row("-9223372036854775808", Value(Signed::min()));
+        row("9223372036854775807", Value(Signed::max()));
+        row("9223372036854775808", Value(quint64(Signed::max()) + 1));
+        row("18446744073709551615", Value(std::numeric_limits<quint64>::max()));
+        row("18446744073709551616", Value(std::ldexp(1.0, 64))); // no integer holds it
+        row("3.0", Value(3.0));
+        row("-0.1", Value(-0.1));
+        row("1e30", Value(1e30));
+        row("1.7976931348623157e308", Value(Double::max()));
+        row("5e-324", Value(Double::denorm_min()));
+        row("\"\"", u""_s);
+        row("\"\\u0000\\u001f\\\"\\\\\\/\\b\\f\\n\\r\\t\"",
+            QString(QChar(u'\0')) + u"\x1F\"\\/\b\f\n\r\t"_s);
+        row("\"\\u00e4\\ud83d\\udcfa \xC3\xA4\xF0\x9F\x93\xBA\"", u"ä📺 ä📺"_s);
+        row(" [ ] ", Array());
+        row("[[], {}, [null, {\"\": [1]}]]",
+            Array{Array(), Dictionary(),
+                  Array{Value(), Dictionary{{QString(), Array{Value(qint64(1))}}}}});
+        row("{\"a\": 1, \"b\": 2, \"a\": 3}", // the later counts
+            Dictionary{{u"a"_s, Value(qint64(3))}, {u"b"_s, Value(qint64(2))}});
+    }
+    void values()
+    {
+        QFETCH(const QByteArray, text);
+        QFETCH(const Value, value);
+        const std::optional<Value> read = parsed(text);
+        QVERIFY(read);
+        QCOMPARE(*read, value);
+        const std::optional<QByteArray> written = toJSON(value);
+        QVERIFY(written);
+        QCOMPARE(parsed(*written), std::optional(value));
+    }
+
+    void compactAndInOrder()
+    {
+        const QByteArray text = "{\"z\":1,\"a\":{\"y\":true,\"b\":null},\"__name\":[2,\"x\"],\"\":"
+                                "18446744073709551615,\"n\":-1}";
+        QCOMPARE(toJSON(*parsed(text)), std::optional(text));
+        // A member named again keeps its first place.
+        QCOMPARE(toJSON(*parsed("{\"a\":1,\"b\":2,\"a\":3,\"c\":4,\"b\":5}")),
+                 std::optional("{\"a\":3,\"b\":5,\"c\":4}"_ba));
+    }
+
+    /// Objects with the same members share their keys, never their values.
+    void objectsAreApart()
+    {
+        const std::optional<Value> list =
+            parsed("[{\"a\":1,\"b\":2},{\"a\":3,\"b\":4},{\"b\":5,\"a\":6},{\"a\":7},"
+                   "{\"a\":8,\"b\":9,\"a\":10},{\"a\":11,\"b\":12,\"c\":{\"a\":13,\"b\":14}},{},"
+                   "{\"a\":{\"a\":15,\"b\":16},\"b\":{\"a\":17,\"b\":18}}]");
+        QVERIFY(list);
+        const auto pair = [](const Value &a, const Value &b) {
+            return Dictionary{{u"a"_s, a}, {u"b"_s, b}};
+        };
+        const auto number = [](int n) { return Value(qint64(n)); };
+        Dictionary longer = pair(number(11), number(12));
+        longer.insert(u"c"_s, pair(number(13), number(14)));
+        const Array expected{pair(number(1), number(2)),
+                             pair(number(3), number(4)),
+                             pair(number(6), number(5)),
+                             Dictionary{{u"a"_s, number(7)}},
+                             pair(number(10), number(9)),
+                             longer,
+                             Dictionary(),
+                             pair(pair(number(15), number(16)), pair(number(17), number(18)))};
+        QCOMPARE(list, std::optional<Value>(expected));
+        Dictionary changed = *list->array()->at(0).dictionary();
+        changed.insert(u"b"_s, number(99));
+        changed.insert(u"new"_s, number(100));
+        QCOMPARE(list, std::optional<Value>(expected));
+    }
+
+    void nesting()
+    {
+        const auto nested = [](int depth, const QByteArray &open, const QByteArray &close) {
+            return open.repeated(depth) + close.repeated(depth);
+        };
+        QVERIFY(parsed(nested(512, "[", "]")));
+        QVERIFY(!parsed(nested(513, "[", "]")));
+        QVERIFY(parsed("{\"x\":" + nested(511, "[", "]") + "}"));
+        QVERIFY(!parsed("{\"x\":" + nested(512, "[", "]") + "}"));
+        QVERIFY(!parsed(nested(1'000'000, "[", "")));
+        QVERIFY(!parsed(nested(1'000'000, "{\"a\":", "")));
+        // Neighbours do not add up.
+        QVERIFY(parsed("[" + QByteArray("[[]],").repeated(2000) + "0]"));
+        const std::optional<QByteArray> written = toJSON(*parsed(nested(512, "[", "]")));
+        QCOMPARE(written, std::optional(nested(512, "[", "]")));
+    }
+
+    void broken_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        const char *const rows[] = {"",
+                                    " ",
+                                    "{",
+                                    "[1,]",
+                                    "{\"a\":1,}",
+                                    "{\"a\"}",
+                                    "{a:1}",
+                                    "'a'",
+                                    "nul",
+                                    "01",
+                                    "1 2",
+                                    "[1]x",
+                                    "+1",
+                                    "NaN",
+                                    "1e400",
+                                    "\"a",
+                                    "\"\\ud800\"",
+                                    "\"\\udc00\"",
+                                    "\"\\ud800x\"",
+                                    "\"\\x\"",
+                                    "\"\n\"",
+                                    "\"\xFF\"",
+                                    "\"\xED\xA0\x80\"",
+                                    "/**/1"};
+        for (const char *text : rows)
+            QTest::newRow(text) << QByteArray(text);
+    }
+    void broken()
+    {
+        QFETCH(const QByteArray, text);
+        JSONError error;
+        QVERIFY(!valueFromJSON(text, error));
+        QVERIFY(!error.message.isEmpty() && error.line >= 1);
+    }
+
+    void tellsWhere()
+    {
+        JSONError error;
+        QVERIFY(!valueFromJSON("[1,\r\n 2 x]", error));
+        QCOMPARE(error.line, 2);
+        QCOMPARE(error.column, 4);
+    }
+
+    void cutAnywhere()
+    {
+        const QByteArray whole = longList();
+        QVERIFY(parsed(whole));
+        int tried = 0;
+        for (qsizetype size = 0; size < whole.size(); size += 997, ++tried) {
+            const QByteArray cut = whole.first(size);
+            JSONError error;
+            QVERIFY(!valueFromJSON(cut, error));
+            QCOMPARE(error.line, cut.count('\n') + 1); // where the text ends
+        }
+        QVERIFY(tried > 200);
+    }
+
+    void brokenAnywhere()
+    {
+        const QByteArray whole = longList();
+        for (qsizetype at = 500; at < whole.size(); at += 997) {
+            QByteArray text = whole;
+            text[at] = '\x01'; // may stand nowhere
+            JSONError error;
+            QVERIFY(!valueFromJSON(text, error));
+            const QByteArray before = text.first(at);
+            QCOMPARE(error.line, before.count('\n') + 1);
+            QCOMPARE(error.column, at - before.lastIndexOf('\n'));
+        }
+    }
+};
+
+QUILLET_TEST(JSONTest)
+
+#include "JSONTest.moc"

@@ -144,9 +144,11 @@ bool EventParser::parse(EventHandler &handler)
     sax.getEntity = Callbacks::getEntity;
     sax.reference = Callbacks::reference;
     context->userData = this;
-    // "Huge" lifts the limit on the length of a text node; entities, which it would also let grow
-    // without limit, are never expanded here.
-    xmlCtxtUseOptions(context.get(), XML_PARSE_HUGE | XML_PARSE_NONET | XML_PARSE_IGNORE_ENC);
+    // "Huge" lifts the limit on the length of a text node; declared entities, which it would also
+    // let grow without limit, are never expanded here. "No entities" is needed all the same:
+    // without it an ampersand in an attribute's value is reported as "&#38;".
+    xmlCtxtUseOptions(context.get(),
+                      XML_PARSE_HUGE | XML_PARSE_NONET | XML_PARSE_IGNORE_ENC | XML_PARSE_NOENT);
     *context->sax = sax;
     context->encoding = xmlStrdup(reinterpret_cast<const xmlChar *>("UTF-8"));
     m_context = context.get();

@@ -31,7 +31,7 @@ bool FileLayout::locateSection(const FileText &text, QLatin1String openTag, QLat
     const FileText::Place firstItem = text.find(QLatin1String("<ITEM>"), section);
     if (!firstItem.isValid())
         return true;
-    if (text.lengthBefore(firstItem) - text.lengthBefore(section) > longestDistance)
+    if (text.lengthBetween(section, firstItem) > longestDistance)
         return false;
     headerLength = text.lengthBefore(firstItem);
     const FileText::Place end = text.find(closeTag, firstItem);

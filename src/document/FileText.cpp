@@ -1,6 +1,7 @@
 #include "document/FileText.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace quillet {
 
@@ -10,9 +11,23 @@ namespace {
 int unitsOf(char byte)
 {
     const auto b = static_cast<unsigned char>(byte);
-    if ((b & 0xC0) == 0x80)
-        return 0;
-    return b >= 0xF0 ? 2 : 1;
+    return ((b & 0xC0) != 0x80) + (b >= 0xF0);
+}
+
+/// The number of UTF-16 units in valid UTF-8.
+qsizetype unitsIn(QByteArrayView utf8)
+{
+    constexpr qsizetype blockSize = 4096; // counted in an int, which compilers do many at a time
+    qsizetype units = 0;
+    while (!utf8.isEmpty()) {
+        const QByteArrayView block = utf8.first(std::min(blockSize, utf8.size()));
+        int unitsInBlock = 0;
+        for (const char byte : block)
+            unitsInBlock += unitsOf(byte);
+        units += unitsInBlock;
+        utf8 = utf8.sliced(block.size());
+    }
+    return units;
 }
 
 /// The number of bytes that so many UTF-16 units take, at most all.
@@ -25,6 +40,25 @@ qsizetype bytesOf(const QByteArray &utf8, qsizetype units)
             break;
     }
     return i;
+}
+
+/// The first place of a tag at or after a position; -1 when there is none. The tags looked for
+/// stand at the far end of a long text, so it is skimmed for the character before the tag's last:
+/// most have a capital there, which is rare in a file, and "<" and ">" are all over it.
+qsizetype indexOf(QByteArrayView utf8, QByteArrayView tag, qsizetype from)
+{
+    const qsizetype toMark = tag.size() - 2;
+    const char *const end = utf8.data() + utf8.size();
+    for (const char *start = utf8.data() + from; end - start >= tag.size(); ++start) {
+        const auto room = static_cast<std::size_t>(end - start - toMark);
+        const void *mark = std::memchr(start + toMark, tag[toMark], room);
+        if (!mark)
+            break;
+        start = static_cast<const char *>(mark) - toMark;
+        if (end - start >= tag.size() && QByteArrayView(start, tag.size()) == tag)
+            return start - utf8.data();
+    }
+    return -1;
 }
 
 } // namespace
@@ -52,19 +86,16 @@ QString FileText::toString() const
 
 FileText::Place FileText::find(QLatin1String ascii, Place from) const
 {
-    if (m_encoding == TextEncoding::Utf8)
-        return {m_utf8.indexOf(QByteArrayView(ascii.data(), ascii.size()), from.offset)};
-    return {m_text.indexOf(ascii, from.offset)};
+    if (m_encoding != TextEncoding::Utf8)
+        return {m_text.indexOf(ascii, from.offset)};
+    return {indexOf(m_utf8, {ascii.data(), ascii.size()}, from.offset)};
 }
 
-qsizetype FileText::lengthBefore(Place place) const
+qsizetype FileText::lengthBetween(Place from, Place to) const
 {
     if (m_encoding != TextEncoding::Utf8)
-        return place.offset;
-    qsizetype length = 0;
-    std::for_each(m_utf8.begin(), m_utf8.begin() + place.offset,
-                  [&length](char byte) { length += unitsOf(byte); });
-    return length;
+        return to.offset - from.offset;
+    return unitsIn(QByteArrayView(m_utf8).sliced(from.offset, to.offset - from.offset));
 }
 
 QString FileText::textFrom(Place place) const

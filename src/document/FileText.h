@@ -33,8 +33,9 @@ public:
     };
     /// The first occurrence of an ASCII text at or after a place, by default the start.
     [[nodiscard]] Place find(QLatin1String ascii, Place from = {0}) const;
-    /// How many UTF-16 units stand before the place.
-    [[nodiscard]] qsizetype lengthBefore(Place place) const;
+    /// How many UTF-16 units stand before the place, or from one place to a later one.
+    [[nodiscard]] qsizetype lengthBefore(Place place) const { return lengthBetween({0}, place); }
+    [[nodiscard]] qsizetype lengthBetween(Place from, Place to) const;
     [[nodiscard]] QString textFrom(Place place) const;
 
     /// Appends the first `length` UTF-16 units, or all when there are fewer.

@@ -19,7 +19,14 @@ StationList extract(const StationList &list, Matches matches)
 
 QString withoutCase(const QString &name)
 {
-    return name.toCaseFolded();
+    QString folded(name.size(), Qt::Uninitialized);
+    QChar *out = folded.data();
+    for (const QChar c : name) {
+        if (c.unicode() >= 0x80)
+            return name.toCaseFolded();
+        *out++ = c >= u'A' && c <= u'Z' ? QChar(c.unicode() | 0x20) : c;
+    }
+    return folded;
 }
 
 /// One text for several that no other texts give.

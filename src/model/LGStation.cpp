@@ -6,6 +6,8 @@
 #include "model/StationSource.h"
 #include "support/Utf8Builder.h"
 
+#include <QStringBuilder>
+
 #include <algorithm>
 #include <array>
 #include <limits>
@@ -72,8 +74,9 @@ LGStation::LGStation(Dictionary entry, qint64 origIndex)
     : m_keys(&itemKeys()), m_entry(std::move(entry)), m_origPos(origIndex)
 {
     // Deliberately the base class's reading: a subclass brings its own keys afterwards.
-    const std::optional<qint64> number = LGStation::getIntValue(m_keys->keyProgNum);
-    m_isRadio = number && (*number & radioMark) != 0;
+    m_rawNumber = LGStation::getIntValue(m_keys->keyProgNum);
+    m_knowsRawNumber = true;
+    m_isRadio = m_rawNumber && (*m_rawNumber & radioMark) != 0;
 }
 
 std::optional<qint64> LGStation::getIntValue(const QString &key) const
@@ -283,10 +286,9 @@ void LGStation::appendXMLItem(Utf8Builder &output) const
 
 QString LGStation::describedAs(QLatin1String className) const
 {
-    return QStringLiteral("%1 [Index = %2, dirty = %3] #%4 %5")
-        .arg(className, QString::number(m_origPos),
-             m_isDirty ? QStringLiteral("true") : QStringLiteral("false"), progNumString(),
-             stationName());
+    return className % QLatin1String(" [Index = ") % QString::number(m_origPos) %
+           QLatin1String(m_isDirty ? ", dirty = true] #" : ", dirty = false] #") % progNumString() %
+           u' ' % stationName();
 }
 
 QString LGStation::description() const

@@ -83,24 +83,40 @@ QString KXFileLog::getBundleName()
     return name.isEmpty() ? QCoreApplication::applicationName() : name;
 }
 
+void KXFileLog::setDateTimeFormat(const QString &pattern)
+{
+    m_dateTimeFormat = pattern;
+    m_lastTime = -1;
+}
+
 QString KXFileLog::formattedTime() const
 {
     if (m_dateTimeFormat.isEmpty())
         return {};
-    // QDateTime writes milliseconds as "zzz".
-    QString pattern = m_dateTimeFormat;
-    return QDateTime::currentDateTime().toString(
-        pattern.replace(QStringLiteral("SSS"), QStringLiteral("zzz")));
+    const qint64 now = QDateTime::currentMSecsSinceEpoch();
+    if (now != m_lastTime) {
+        // QDateTime writes milliseconds as "zzz".
+        QString pattern = m_dateTimeFormat;
+        m_lastTimeFormatted = QDateTime::fromMSecsSinceEpoch(now).toString(
+            pattern.replace(QStringLiteral("SSS"), QStringLiteral("zzz")));
+        m_lastTime = now;
+    }
+    return m_lastTimeFormatted;
 }
 
 bool KXFileLog::writeString(const QString &text)
+{
+    return writeUtf8(text.toUtf8());
+}
+
+bool KXFileLog::writeUtf8(QByteArrayView utf8)
 {
     if (m_filename.isEmpty())
         return false;
     QFile file(m_filename);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered))
         return false;
-    return file.write(text.toUtf8()) != 0; // -1, a failed write, counts as written
+    return file.write(utf8.data(), utf8.size()) != 0; // -1, a failed write, counts as written
 }
 
 void KXFileLog::dumpAll() const
@@ -142,7 +158,7 @@ int KXFileLog::createDirectoryIfNecessary(const QString &path)
 void KXFileLog::tearDown()
 {
     m_filename.clear();
-    m_dateTimeFormat.clear();
+    setDateTimeFormat({});
     KXObject::tearDown();
 }
 

@@ -30,12 +30,13 @@ public:
     [[nodiscard]] bool isPrivate() const { return m_isPrivate; }
     void setPrivate(bool isPrivate) { m_isPrivate = isPrivate; }
     /// The pattern of the time stamp; an empty one means no time stamp.
-    void setDateTimeFormat(const QString &pattern) { m_dateTimeFormat = pattern; }
+    void setDateTimeFormat(const QString &pattern);
     /// The current local time in that format.
     [[nodiscard]] QString formattedTime() const;
     /// Appends the text to the file. False when the log is torn down or the file cannot be opened;
     /// a failed write is not noticed.
     bool writeString(const QString &text);
+    bool writeUtf8(QByteArrayView utf8);
     /// The path of the current file; empty after tearDown.
     [[nodiscard]] const QString &pathToLogFile() const { return m_filename; }
     /// Prints the whole log on the system console.
@@ -52,6 +53,8 @@ private:
 
     QString m_filename;
     QString m_dateTimeFormat;
+    mutable qint64 m_lastTime = -1; ///< many lines are written in one millisecond
+    mutable QString m_lastTimeFormatted;
     bool m_isPrivate = false;
 };
 

@@ -20,6 +20,18 @@ void Utf8Builder::append(QStringView text)
     const auto *const end = in + text.size();
     char *const start = room(text.size());
     char *out = start;
+    constexpr int block = 16; // loops of a fixed length, of which compilers make one step
+    while (end - in >= block) {
+        char16_t all = 0;
+        for (int i = 0; i < block; ++i)
+            all |= in[i];
+        if (all >= 0x80)
+            break;
+        for (int i = 0; i < block; ++i)
+            out[i] = static_cast<char>(in[i]);
+        in += block;
+        out += block;
+    }
     for (; in != end && *in < 0x80; ++in)
         *out++ = static_cast<char>(*in);
     m_size += out - start;

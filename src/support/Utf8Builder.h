@@ -23,6 +23,12 @@ public:
     }
     void append(QLatin1String ascii) { append(QByteArrayView(ascii.data(), ascii.size())); }
 
+    [[nodiscard]] qsizetype size() const { return m_size; }
+    /// What was collected. Valid until something is added.
+    [[nodiscard]] QByteArrayView text() const { return {m_data, m_size}; }
+    /// Forgets it and keeps the room for more.
+    void clear() { m_size = 0; }
+
     /// Whether some text could not be encoded: it held half a surrogate pair.
     [[nodiscard]] bool hasError() const { return m_hasError; }
     /// Hands out what was collected and is empty afterwards.

@@ -2,22 +2,46 @@
 
 #include "xml/Value.h"
 
+#include <algorithm>
+#include <memory>
+
 namespace quillet {
 
+/// The content. One that was changed while others shared it holds the changed values alone, over
+/// the content that they still share: of a station's thirty fields an edit changes one.
 struct Dictionary::Data : QSharedData
 {
+    struct Changes
+    {
+        QExplicitlySharedDataPointer<Data> base; ///< has no changes itself
+        std::vector<qsizetype> positions;        ///< which values are changed, in no order
+    };
+    static constexpr std::size_t mostChanges = 4;
+
     Keys keys{new KeyTable};
-    std::vector<Value> values;
+    std::vector<Value> values; ///< all, or those that are changed
+    std::unique_ptr<Changes> changes;
 
     Data() = default;
     Data(Keys sharedKeys, std::vector<Value> ownValues)
         : keys(std::move(sharedKeys)), values(std::move(ownValues))
     {
     }
-
-    [[nodiscard]] Value &value(qsizetype position)
+    Data(const Data &other) : QSharedData(other), keys(other.keys), values(other.values)
     {
-        return values[static_cast<std::size_t>(position)];
+        if (other.changes)
+            changes = std::make_unique<Changes>(*other.changes);
+    }
+
+    [[nodiscard]] const Value &value(qsizetype position) const
+    {
+        if (!changes)
+            return values[static_cast<std::size_t>(position)];
+        const auto changed =
+            std::find(changes->positions.begin(), changes->positions.end(), position);
+        return changed == changes->positions.end()
+                   ? changes->base->values[static_cast<std::size_t>(position)]
+                   : values[static_cast<std::size_t>(changed - changes->positions.begin())];
     }
 };
 
@@ -40,18 +64,50 @@ Dictionary::Dictionary(Keys keys, std::vector<Value> values)
     Q_ASSERT(d->keys->count() == static_cast<qsizetype>(d->values.size()));
 }
 
+/// The content with all its values, for no other dictionary.
 Dictionary::Data &Dictionary::detached()
 {
-    if (d)
-        d.detach();
-    else
+    if (!d) {
         d.reset(new Data);
+    } else if (d->changes) {
+        std::vector<Value> values;
+        values.reserve(static_cast<std::size_t>(count()));
+        for (qsizetype position = 0; position < count(); ++position)
+            values.push_back(d->value(position));
+        d.reset(new Data(d->keys, std::move(values)));
+    } else {
+        d.detach();
+    }
     return *d;
+}
+
+/// The value at a position, for no other dictionary.
+Value &Dictionary::detachedValue(qsizetype position)
+{
+    const bool isShared = d->ref.loadRelaxed() != 1;
+    if (!d->changes && !isShared)
+        return d->values[static_cast<std::size_t>(position)];
+    if (!d->changes) {
+        auto changes = std::make_unique<Data::Changes>();
+        changes->base = d;
+        d.reset(new Data(d->keys, {}));
+        d->changes = std::move(changes);
+    } else if (isShared) {
+        d.detach();
+    }
+    std::vector<qsizetype> &positions = d->changes->positions;
+    const auto changed = std::find(positions.begin(), positions.end(), position);
+    if (changed != positions.end())
+        return d->values[static_cast<std::size_t>(changed - positions.begin())];
+    if (positions.size() == Data::mostChanges)
+        return detached().values[static_cast<std::size_t>(position)];
+    positions.push_back(position);
+    return d->values.emplace_back(d->changes->base->values[static_cast<std::size_t>(position)]);
 }
 
 qsizetype Dictionary::count() const
 {
-    return d ? static_cast<qsizetype>(d->values.size()) : 0;
+    return d ? d->keys->count() : 0;
 }
 
 const Value *Dictionary::find(QStringView key) const
@@ -63,7 +119,7 @@ const Value *Dictionary::find(QStringView key) const
 Value *Dictionary::find(QStringView key)
 {
     const qsizetype position = d ? d->keys->indexOf(key) : KeyTable::none;
-    return position == KeyTable::none ? nullptr : &detached().value(position);
+    return position == KeyTable::none ? nullptr : &detachedValue(position);
 }
 
 const QString *Dictionary::string(QStringView key) const

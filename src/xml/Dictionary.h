@@ -87,6 +87,7 @@ public:
 private:
     struct Data;
     Data &detached();
+    Value &detachedValue(qsizetype position);
 
     QExplicitlySharedDataPointer<Data> d;
 };

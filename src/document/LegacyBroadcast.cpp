@@ -10,7 +10,9 @@
 #include <QSet>
 
 #include <algorithm>
+#include <array>
 #include <limits>
+#include <utility>
 
 namespace quillet {
 
@@ -24,6 +26,21 @@ constexpr qint32 firstRadioNumber = 16384;
 
 constexpr QStringView numberKey = u"majorNumber";
 constexpr QStringView channelListKey = u"channelList";
+
+/// Replaces what most texts do not hold: looking for it is far quicker than replacing.
+QByteArray replaced(QByteArray text, QByteArrayView before, QByteArrayView after)
+{
+    return text.contains(before) ? text.replace(before, after) : text;
+}
+
+/// In compact JSON these stand inside strings only, where their escapes mean the same. XML text
+/// must not hold them: a ">" could end in "]]>", and the last two are no characters.
+constexpr std::array<std::array<QByteArrayView, 2>, 4> escapesForXML{{
+    {"<", "\\u003c"},
+    {">", "\\u003e"},
+    {"\xEF\xBF\xBE", "\\ufffe"},
+    {"\xEF\xBF\xBF", "\\uffff"},
+}};
 
 /// A channel with its number, 0 when it has none.
 struct NumberedChannel
@@ -94,7 +111,7 @@ std::optional<Value> objectFromJSONData(QByteArrayView data, JSONError &error)
 
 QByteArray replaceBadChars(QByteArray text)
 {
-    return text.replace('&', "&amp;");
+    return replaced(std::move(text), "&", "&amp;");
 }
 
 qsizetype LegacyBroadcast::extractLegacyStations(QByteArrayView json, StationLists &lists)
@@ -148,9 +165,10 @@ QByteArray LegacyBroadcast::json(const StationList &current) const
     }
     Dictionary whole = *m_legacyDict;
     whole.insert(channelListKey.toString(), Array(std::move(written)));
-    // In compact JSON these stand inside strings only, where their escapes mean the same. A ">"
-    // could end in "]]>", which XML text must not hold.
-    return toJSON(whole).value_or(QByteArray()).replace('<', "\\u003c").replace('>', "\\u003e");
+    QByteArray json = toJSON(whole).value_or(QByteArray());
+    for (const auto &[character, escape] : escapesForXML)
+        json = replaced(std::move(json), character, escape);
+    return json;
 }
 
 } // namespace quillet

@@ -28,6 +28,16 @@ void appendItem(const LGStation &station, QString &output)
     output.append(station.getXMLItem());
 }
 
+void appendUtf8(const QByteArray &utf8, Utf8Builder &output)
+{
+    output.append(QByteArrayView(utf8));
+}
+
+void appendUtf8(const QByteArray &utf8, QString &output)
+{
+    output.append(QString::fromUtf8(utf8));
+}
+
 template<typename Output>
 void appendStations(const StationListPtr &stations, Output &output)
 {
@@ -62,9 +72,8 @@ void writeLegacy(const TLLDocument &document, Output &output)
     const FileLayout &layout = document.layout();
     const StationList none;
     const StationList &current = document.stations() ? *document.stations() : none;
-    const QByteArray json = replaceBadChars(document.legacyBroadcast().json(current));
     document.text().appendFirst(layout.headerLenLegacy(), output);
-    output.append(QStringView(QString::fromUtf8(json)));
+    appendUtf8(replaceBadChars(document.legacyBroadcast().json(current)), output);
     if (layout.footer())
         output.append(QStringView(*layout.footer()));
 }

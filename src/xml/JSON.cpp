@@ -16,7 +16,22 @@ std::string utf8(const QString &text)
     return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
 }
 
-ordered_json fromValue(const Value &value)
+bool isContainer(const Value &value)
+{
+    return value.dictionary() || value.array();
+}
+
+bool hasContainers(const Dictionary &dictionary)
+{
+    for (const auto &[key, member] : dictionary) {
+        if (isContainer(member))
+            return true;
+    }
+    return false;
+}
+
+/// Of anything but a container.
+ordered_json fromPlain(const Value &value)
 {
     struct Convert
     {
@@ -26,25 +41,51 @@ ordered_json fromValue(const Value &value)
         ordered_json operator()(qint64 number) const { return number; }
         ordered_json operator()(quint64 number) const { return number; }
         ordered_json operator()(double number) const { return number; }
-        ordered_json operator()(const Dictionary &dictionary) const
-        {
-            // A dictionary's keys are unique, so the members are added without looking for them.
-            ordered_json::object_t object;
-            object.reserve(static_cast<std::size_t>(dictionary.count()));
-            for (const auto &[key, member] : dictionary)
-                object.emplace_back(utf8(key), fromValue(member));
-            return object;
-        }
-        ordered_json operator()(const Array &array) const
-        {
-            ordered_json::array_t elements;
-            elements.reserve(static_cast<std::size_t>(array.count()));
-            for (const Value &element : array)
-                elements.push_back(fromValue(element));
-            return elements;
-        }
+        ordered_json operator()(const Dictionary &) const { Q_UNREACHABLE(); }
+        ordered_json operator()(const Array &) const { Q_UNREACHABLE(); }
     };
     return value.visit(Convert{});
+}
+
+/// Of a dictionary without containers. Its keys are unique, so the members are added without
+/// looking for them.
+ordered_json fromFlat(const Dictionary &dictionary)
+{
+    ordered_json::object_t object;
+    object.reserve(static_cast<std::size_t>(dictionary.count()));
+    for (const auto &[key, member] : dictionary)
+        object.emplace_back(utf8(key), fromPlain(member));
+    return object;
+}
+
+/// Hands the library one flat dictionary after another: a tree of its own kind for a whole list
+/// would take more room and time than the list.
+void append(const Value &value, std::string &json)
+{
+    if (const Array *array = value.array()) {
+        json += '[';
+        for (const Value &element : *array) {
+            append(element, json);
+            json += ',';
+        }
+        json.resize(json.size() - (array->isEmpty() ? 0 : 1));
+        json += ']';
+        return;
+    }
+    const Dictionary *dictionary = value.dictionary();
+    if (!dictionary) {
+        json += fromPlain(value).dump();
+    } else if (!hasContainers(*dictionary)) {
+        json += fromFlat(*dictionary).dump();
+    } else {
+        json += '{';
+        for (const auto &[key, member] : *dictionary) {
+            json += ordered_json(utf8(key)).dump() + ':';
+            append(member, json);
+            json += ',';
+        }
+        json.back() = '}';
+    }
 }
 
 /// Line and column of a position that counts bytes from 1.
@@ -77,7 +118,9 @@ std::optional<Value> valueFromJSON(QByteArrayView text, JSONError &error)
 std::optional<QByteArray> toJSON(const Value &value)
 {
     try {
-        return QByteArray::fromStdString(fromValue(value).dump());
+        std::string json;
+        append(value, json);
+        return QByteArray::fromStdString(json);
     } catch (const ordered_json::exception &) {
         return {};
     }

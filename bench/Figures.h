@@ -15,5 +15,11 @@ inline constexpr char firstSearch[] = "search/first";
 inline constexpr char move[] = "move";
 inline constexpr char firstMove[] = "move/first";
 inline constexpr char moveFillingGaps[] = "move/fill gaps";
+inline constexpr char orderByIdentifiers[] = "order/identifiers";
+inline constexpr char orderByName[] = "order/names";
+inline constexpr char orderOfStrangers[] = "order/strangers";
+inline constexpr char bareJSON[] = "json/bare"; ///< the bare parse that others are compared with
+inline constexpr char loadJSON[] = "json/load";
+inline constexpr char saveJSON[] = "json/save";
 
 } // namespace quillet::bench::figure

@@ -5,7 +5,8 @@
 
 namespace quillet::bench {
 
-void RatioTable::add(std::string title, std::optional<double> measured, double wanted)
+void RatioTable::add(std::string title, std::optional<double> measured,
+                     std::optional<double> wanted)
 {
     m_rows.push_back({std::move(title), measured, wanted});
 }
@@ -20,10 +21,15 @@ void RatioTable::print() const
     for (const Row &row : m_rows) {
         std::printf("%-*s", width, row.title.c_str());
         if (row.measured)
-            std::printf("  %8.3f  %6.2f  %s\n", *row.measured, row.wanted,
-                        row.isGood() ? "ok" : "OVER");
+            std::printf("  %8.3f", *row.measured);
         else
-            std::printf("  %8s  %6.2f  not measured\n", "-", row.wanted);
+            std::printf("  %8s", "-");
+        if (row.wanted)
+            std::printf("  %6.2f", *row.wanted);
+        else
+            std::printf("  %6s", "-");
+        const char *verdict = row.isGood() ? "ok" : "OVER";
+        std::printf("  %s\n", !row.measured ? "not measured" : row.wanted ? verdict : "");
     }
 }
 

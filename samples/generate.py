@@ -6,6 +6,8 @@ Python: the only source of chance is random.Random(seed).random(), whose sequenc
 """
 
 import argparse
+import base64
+import json
 import pathlib
 import random
 
@@ -184,6 +186,73 @@ def write(path, model, analogue, digital, line_end):
     path.write_bytes(line_end.join(lines).encode("utf-8"))
 
 
+def channel(fields, hd):
+    """A station as the sets write it that keep their list as JSON: other names, real booleans."""
+    name = bytes.fromhex(fields["hexVchName"])
+    return {
+        "disabled": False,
+        "videoStreamType": fields["videoStreamType"],
+        "specialData": fields["special_data"],
+        "sourceIndex": "SATELLITE DIGITAL",
+        "audioDesc": False,
+        "signalLossDay": 0,
+        "userSelCHNo": False,
+        "altPhysicalNum": 0,
+        "userSubtitleLangCode": 0,
+        "virtualChannel": False,
+        "majorNumber": fields["prNum"],
+        "physicalNumber": fields["physicalNum"],
+        "skipped": fields["isSkipped"] == 1,
+        "minorNumber": 0,
+        "transSystem": "DVBS",
+        "deleted": False,
+        "conflict": False,
+        "factoryDefault": True,
+        "Invisible": fields["isInvisable"] == 1,
+        "networkId": fields["network_id"],
+        "locked": fields["isBlocked"] == 1,
+        "satelliteId": "3192",
+        "hdStatus": hd,
+        "chNameByte": False,
+        "chNameBase64": base64.b64encode(name.ljust(40, b"\0")).decode("ascii"),
+        "nitVersion": fields["nitVersion"],
+        "frequency": fields["frequency"],
+        "channelName": name.decode("utf-8"),
+        "mapType": "CUSTOMIZED",
+        "programNum": fields["service_id"],
+        "userEditChNumber": False,
+        "bandwidth": "BW_8M",
+        "userAudio": 8191,
+        "SVCID": fields["service_id"],
+        "TSID": fields["transport_id"],
+        "ONID": fields["original_network_id"],
+        "scrambled": fields["serviceType"] in (4, 26),
+        "tpId": "3192%d" % fields["frequency"],
+        "serviceType": fields["serviceType"],
+        "userSubtitle": 8191,
+        "profileV2": 0,
+    }
+
+
+def write_json(path, stations):
+    """The variant of the file that keeps the list as JSON, in the order found, not of the numbers."""
+    whole = {
+        "modelInfo": {"country": "DEU"},
+        "settingIdList": [{"opId": 2, "settingId": [0, -1, 18446744073709551615]}],
+        "channelList": [channel(fields, int(fields["serviceType"] in (25, 31))) for fields in stations],
+        "satelliteList": [{"satelliteId": "3192", "satelliteName": "Example 19.2E", "angle": 19.2}],
+        "lcnStoreObj": {"lcnOn": False, "providers": None},
+    }
+    text = json.dumps(whole, ensure_ascii=False, separators=(",", ":"))
+    text = text.replace("&", "&amp;").replace("<", "\\u003c").replace(">", "\\u003e")
+    lines = ['<?xml version="1.0"?>', "<TLLDATA>", "\t<ModelInfo>",
+             '\t\t<ModelName type="0">75VV44444XX</ModelName>', '\t\t<DTVInfo type="0">DTV_DVB</DTVInfo>',
+             '\t\t<country type="0">EU</country>', "\t</ModelInfo>", "\t<CHANNEL>",
+             '\t\t<iepg>{"favoriteChList":[]}</iepg>',
+             "\t\t<legacybroadcast>%s</legacybroadcast>" % text, "\t</CHANNEL>", "</TLLDATA>", ""]
+    path.write_bytes("\n".join(lines).encode("utf-8"))
+
+
 def cable(path):
     """Sorted, numbered without collisions, no empty field: saving it unchanged gives the same bytes."""
     chance = random.Random(4101)
@@ -218,6 +287,18 @@ def antenna(path):
     write(path, "43ZZ2222", analogue, digital, "\r\n")
 
 
+def legacy(path, count=180):
+    """A JSON list in the order of the transponders; some channels without a number."""
+    chance = random.Random(4105)
+    television = min(count * 8 // 10, LAST_NUMBER)
+    stations = blocks(chance, Names(chance), "satellite", [
+        (1, television, ["sd", "sd-avc", "hd", "hd", "uhd"]),
+        (1, count - television, ["radio", "radio-aac"])])
+    for fields in stations[7::23]:
+        fields["prNum"] = 0
+    write_json(path, sorted(stations, key=lambda fields: fields["frequency"]))
+
+
 def large(path, count, line_end):
     """count stations in the order in which they are saved; all in one source while they fit."""
     chance = random.Random(4104)
@@ -243,6 +324,7 @@ def main():
     parser.add_argument("--stations", type=int, metavar="N",
                         help="write one list of N stations to --output instead of the samples")
     parser.add_argument("--output", type=pathlib.Path, metavar="FILE")
+    parser.add_argument("--json", action="store_true", help="write the list of N stations as JSON")
     parser.add_argument("--line-end", choices=["crlf", "lf"], default="crlf",
                         help="of the list of N stations")
     options = parser.parse_args()
@@ -251,11 +333,15 @@ def main():
     if options.stations is not None:
         if options.stations < 1:
             parser.error("--stations takes a number from 1 on")
+        if options.json:
+            legacy(options.output, options.stations)
+            return
         large(options.output, options.stations, "\r\n" if options.line_end == "crlf" else "\n")
         return
     cable(options.into / "cable.tll")
     satellite(options.into / "satellite.tll")
     antenna(options.into / "antenna.tll")
+    legacy(options.into / "satellite-json.tll")
 
 
 if __name__ == "__main__":

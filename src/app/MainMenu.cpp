@@ -81,7 +81,7 @@ void MainMenu::makeFileMenu(QMenuBar &bar)
     connect(recentFiles, &RecentFilesMenu::fileChosen, this,
             [this](const QString &path) { m_documents.openDocument(QUrl::fromLocalFile(path)); });
     menu.addSeparator();
-    add(menu, {"kMenuClose", "performClose", QKeySequence::Close},
+    add(menu, {"kMenuClose", "performClose", Qt::CTRL | Qt::Key_W},
         [this] { emit m_window.closeRequested(); });
     m_save = add(menu, {"kMenuSave", "saveDocument", QKeySequence::Save}, [this] { save(); });
     m_documentItems.push_back(m_save);
@@ -94,8 +94,8 @@ void MainMenu::makeFileMenu(QMenuBar &bar)
     m_print = add(menu, {"kMenuPrint", "printDocument", QKeySequence::Print},
                   [this] { m_editor.printList(); });
     menu.addSeparator();
-    QAction *quit =
-        add(menu, {"kMenuQuit", "terminate", QKeySequence::Quit}, [this] { emit quitRequested(); });
+    QAction *quit = add(menu, {"kMenuQuit", "terminate", Qt::CTRL | Qt::Key_Q},
+                        [this] { emit quitRequested(); });
     quit->setMenuRole(QAction::QuitRole);
 }
 

@@ -88,14 +88,18 @@ void EditorView::updateFonts()
     const QFontMetrics metrics = fontMetrics();
     DarkModeTableView &list = *m_ui->list;
     list.verticalHeader()->setDefaultSectionSize(metrics.height() * 3 / 2 + 2);
+    list.setMinimumHeight(metrics.height() * 14); // with room for the hints in an empty list
     QHeaderView &header = *list.horizontalHeader();
     header.setMinimumHeight(metrics.height() * 3 / 2 + 4);
     for (std::size_t i = 0; i < stationColumns.size(); ++i) {
         const int width = stationColumns[i].width;
-        header.setSectionResizeMode(static_cast<int>(i),
+        const auto column = static_cast<int>(i);
+        header.setSectionResizeMode(column,
                                     width == 0 ? QHeaderView::Stretch : QHeaderView::Interactive);
-        if (width > 0)
-            header.resizeSection(static_cast<int>(i), width * metrics.averageCharWidth());
+        if (width > 0) {
+            header.resizeSection(
+                column, qMax(width * metrics.averageCharWidth(), header.sectionSizeHint(column)));
+        }
     }
     m_ui->searchText->setMinimumWidth(metrics.averageCharWidth() * 22);
 }

@@ -1,0 +1,607 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="Bad file format">
+        <source></source>
+        <translation>Ungültiges Dateiformat</translation>
+    </message>
+    <message id="HELP_TITLE">
+        <source></source>
+        <translation>Quillet-Hilfe</translation>
+    </message>
+    <message id="kAboutLibraries">
+        <source></source>
+        <translation>Erstellt mit %1.</translation>
+    </message>
+    <message id="kAboutLicence">
+        <source></source>
+        <translation>Copyright 2026 Die Autoren von Quillet. Freie Software unter der MIT-Lizenz.</translation>
+    </message>
+    <message id="kAboutPurpose">
+        <source></source>
+        <translation>Sortiert die Senderlisten von LG-Fernsehgeräten.</translation>
+    </message>
+    <message id="kAboutTitle">
+        <source></source>
+        <translation>Über Quillet</translation>
+    </message>
+    <message id="kAboutVersion">
+        <source></source>
+        <translation>Version %1</translation>
+    </message>
+    <message id="kAnalogue">
+        <source></source>
+        <translation>Analog</translation>
+    </message>
+    <message id="kAntenna">
+        <source></source>
+        <translation>Antenne</translation>
+    </message>
+    <message id="kApplyOrder">
+        <source></source>
+        <translation>Reihen&amp;folge übernehmen …</translation>
+    </message>
+    <message id="kApplyOrderTip">
+        <source></source>
+        <translation>Diese Liste in die Reihenfolge einer anderen bringen</translation>
+    </message>
+    <message id="kApplyOrderTitle">
+        <source></source>
+        <translation>Referenzliste wählen</translation>
+    </message>
+    <message id="kBad_file_type">
+        <source></source>
+        <translation>Dateien dieses Typs können nicht verwendet werden</translation>
+    </message>
+    <message id="kCable">
+        <source></source>
+        <translation>Kabel</translation>
+    </message>
+    <message id="kCancel">
+        <source></source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message id="kChangedOnDiskMessage">
+        <source></source>
+        <translation>„%1“ wurde von einem anderen Programm geändert.</translation>
+    </message>
+    <message id="kChangedOnDiskText">
+        <source></source>
+        <translation>Wenn Sie jetzt speichern, gehen die Änderungen des anderen Programms verloren.</translation>
+    </message>
+    <message id="kClearMenu">
+        <source></source>
+        <translation>Einträge löschen</translation>
+    </message>
+    <message id="kColumnBlocked">
+        <source></source>
+        <translation>Sperren</translation>
+    </message>
+    <message id="kColumnName">
+        <source></source>
+        <translation>Name</translation>
+    </message>
+    <message id="kColumnNumber">
+        <source></source>
+        <translation>Nr.</translation>
+    </message>
+    <message id="kColumnSkipped">
+        <source></source>
+        <translation>Überspringen</translation>
+    </message>
+    <message id="kColumnType">
+        <source></source>
+        <translation>Typ</translation>
+    </message>
+    <message id="kCompareFailedReason">
+        <source></source>
+        <translation>Der Datenträger hat nicht gespeichert, was geschrieben wurde. Er ist möglicherweise voll oder beschädigt.</translation>
+    </message>
+    <message id="kContentUnknownReason">
+        <source></source>
+        <translation>Die Datei ist leer oder keine Senderliste.</translation>
+    </message>
+    <message id="kCreateFailedReason">
+        <source></source>
+        <translation>Im Ordner „%1“ konnte keine neue Datei angelegt werden: %2</translation>
+    </message>
+    <message id="kDeviceTitle">
+        <source></source>
+        <translation>Fernseher:</translation>
+    </message>
+    <message id="kDontSave">
+        <source></source>
+        <translation>Nicht speichern</translation>
+    </message>
+    <message id="kExportTitle">
+        <source></source>
+        <translation>Als Referenzliste exportieren</translation>
+    </message>
+    <message id="kFileMissingReason">
+        <source></source>
+        <translation>Unter „%1“ gibt es keine Datei.</translation>
+    </message>
+    <message id="kFileName">
+        <source></source>
+        <translation>Datei</translation>
+    </message>
+    <message id="kFileTooLargeReason">
+        <source></source>
+        <translation>Die Datei ist für eine Senderliste viel zu groß.</translation>
+    </message>
+    <message id="kFileUnreadableReason">
+        <source></source>
+        <translation>Die Datei konnte nicht gelesen werden: %1</translation>
+    </message>
+    <message id="kFillGaps">
+        <source></source>
+        <translation>&amp;Lücken füllen</translation>
+    </message>
+    <message id="kFillGapsTip">
+        <source></source>
+        <translation>Die Liste lückenlos mit 1, 2, 3 … nummerieren, jetzt und nach jedem Verschieben</translation>
+    </message>
+    <message id="kFilterAll">
+        <source></source>
+        <translation>Alle Typen</translation>
+    </message>
+    <message id="kFilterAllFiles">
+        <source></source>
+        <translation>Alle Dateien</translation>
+    </message>
+    <message id="kFilterChannelLists">
+        <source></source>
+        <translation>Senderlisten</translation>
+    </message>
+    <message id="kFilterHD">
+        <source></source>
+        <translation>HD</translation>
+    </message>
+    <message id="kFilterOther">
+        <source></source>
+        <translation>Sonstige</translation>
+    </message>
+    <message id="kFilterReferenceLists">
+        <source></source>
+        <translation>Referenzlisten</translation>
+    </message>
+    <message id="kFilterSD">
+        <source></source>
+        <translation>SD</translation>
+    </message>
+    <message id="kFilterTextFiles">
+        <source></source>
+        <translation>Textdateien</translation>
+    </message>
+    <message id="kFilterTV">
+        <source></source>
+        <translation>TV</translation>
+    </message>
+    <message id="kFilterUHD">
+        <source></source>
+        <translation>UHD</translation>
+    </message>
+    <message id="kHelpBack">
+        <source></source>
+        <translation>Zurück</translation>
+    </message>
+    <message id="kHelpForward">
+        <source></source>
+        <translation>Vorwärts</translation>
+    </message>
+    <message id="kHelpHome">
+        <source></source>
+        <translation>Startseite</translation>
+    </message>
+    <message id="kHelpOpenInBrowser">
+        <source></source>
+        <translation>Im Browser öffnen</translation>
+    </message>
+    <message id="kHelpOpenInChrome">
+        <source></source>
+        <translation>In Chrome öffnen</translation>
+    </message>
+    <message id="kHelpToolbar">
+        <source></source>
+        <translation>Navigation</translation>
+    </message>
+    <message id="kHintNoFile">
+        <source></source>
+        <translation>Keine Senderliste geöffnet</translation>
+    </message>
+    <message id="kHintNoFileDetail">
+        <source></source>
+        <translation>Ziehen Sie eine TLL-Datei Ihres Fernsehers hierher oder wählen Sie eine aus.</translation>
+    </message>
+    <message id="kHintNoRadioStations">
+        <source></source>
+        <translation>Bei dieser Empfangsart gibt es keine Radiosender</translation>
+    </message>
+    <message id="kHintNoStations">
+        <source></source>
+        <translation>Keine Sender</translation>
+    </message>
+    <message id="kHintNoStationsDetail">
+        <source></source>
+        <translation>Diese Datei enthält keine Sender. Sie können eine andere TLL-Datei hierher ziehen.</translation>
+    </message>
+    <message id="kHintNoTVStations">
+        <source></source>
+        <translation>Bei dieser Empfangsart gibt es keine TV-Sender</translation>
+    </message>
+    <message id="kHintOpen">
+        <source></source>
+        <translation>Datei öffnen …</translation>
+    </message>
+    <message id="kHintShowRadio">
+        <source></source>
+        <translation>Radiosender dieser Empfangsart anzeigen</translation>
+    </message>
+    <message id="kHintShowTV">
+        <source></source>
+        <translation>TV-Sender dieser Empfangsart anzeigen</translation>
+    </message>
+    <message id="kInfo">
+        <source></source>
+        <translation>&amp;Info …</translation>
+    </message>
+    <message id="kInfoContent">
+        <source></source>
+        <translation>Inhalt</translation>
+    </message>
+    <message id="kInfoField">
+        <source></source>
+        <translation>Feld</translation>
+    </message>
+    <message id="kInfoTable">
+        <source></source>
+        <translation>Felder des Senders</translation>
+    </message>
+    <message id="kInfoTip">
+        <source></source>
+        <translation>Alle Felder des ausgewählten Senders anzeigen</translation>
+    </message>
+    <message id="kIsAFolderReason">
+        <source></source>
+        <translation>„%1“ ist ein Ordner.</translation>
+    </message>
+    <message id="kLinkCircleReason">
+        <source></source>
+        <translation>Die Verknüpfung zu der Datei führt zu sich selbst zurück.</translation>
+    </message>
+    <message id="kLoadingProblem">
+        <source></source>
+        <translation>Die Senderliste konnte nicht geöffnet werden.</translation>
+    </message>
+    <message id="kMenuAbout">
+        <source></source>
+        <translation>Ü&amp;ber Quillet</translation>
+    </message>
+    <message id="kMenuAnalogue">
+        <source></source>
+        <translation>Ana&amp;log</translation>
+    </message>
+    <message id="kMenuAntenna">
+        <source></source>
+        <translation>&amp;Antenne</translation>
+    </message>
+    <message id="kMenuApplyOrder">
+        <source></source>
+        <translation>Reihen&amp;folge übernehmen …</translation>
+    </message>
+    <message id="kMenuCable">
+        <source></source>
+        <translation>&amp;Kabel</translation>
+    </message>
+    <message id="kMenuClose">
+        <source></source>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message id="kMenuEdit">
+        <source></source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message id="kMenuExport">
+        <source></source>
+        <translation>Als Referenzliste &amp;exportieren …</translation>
+    </message>
+    <message id="kMenuFile">
+        <source></source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message id="kMenuFillGaps">
+        <source></source>
+        <translation>&amp;Lücken füllen</translation>
+    </message>
+    <message id="kMenuFilterAll">
+        <source></source>
+        <translation>Alle T&amp;ypen</translation>
+    </message>
+    <message id="kMenuFilterHD">
+        <source></source>
+        <translation>&amp;HD</translation>
+    </message>
+    <message id="kMenuFilterOther">
+        <source></source>
+        <translation>S&amp;onstige</translation>
+    </message>
+    <message id="kMenuFilterSD">
+        <source></source>
+        <translation>S&amp;D</translation>
+    </message>
+    <message id="kMenuFilterTV">
+        <source></source>
+        <translation>Nur T&amp;V</translation>
+    </message>
+    <message id="kMenuFilterUHD">
+        <source></source>
+        <translation>&amp;UHD</translation>
+    </message>
+    <message id="kMenuFind">
+        <source></source>
+        <translation>&amp;Suchen</translation>
+    </message>
+    <message id="kMenuGuide">
+        <source></source>
+        <translation>Quillet-&amp;Hilfe</translation>
+    </message>
+    <message id="kMenuHelp">
+        <source></source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message id="kMenuInfo">
+        <source></source>
+        <translation>Sender&amp;info</translation>
+    </message>
+    <message id="kMenuLock">
+        <source></source>
+        <translation>&amp;Kindersicherung</translation>
+    </message>
+    <message id="kMenuMoveTo">
+        <source></source>
+        <translation>&amp;Verschieben …</translation>
+    </message>
+    <message id="kMenuNew">
+        <source></source>
+        <translation>&amp;Neu</translation>
+    </message>
+    <message id="kMenuOpen">
+        <source></source>
+        <translation>Ö&amp;ffnen …</translation>
+    </message>
+    <message id="kMenuOpenRecent">
+        <source></source>
+        <translation>&amp;Zuletzt verwendete Dateien</translation>
+    </message>
+    <message id="kMenuPrint">
+        <source></source>
+        <translation>&amp;Drucken …</translation>
+    </message>
+    <message id="kMenuQuit">
+        <source></source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message id="kMenuRadio">
+        <source></source>
+        <translation>&amp;Radiosender</translation>
+    </message>
+    <message id="kMenuRevert">
+        <source></source>
+        <translation>Gespeicherte Version &amp;wiederherstellen</translation>
+    </message>
+    <message id="kMenuSatellite">
+        <source></source>
+        <translation>&amp;Satellit</translation>
+    </message>
+    <message id="kMenuSave">
+        <source></source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message id="kMenuSkip">
+        <source></source>
+        <translation>Ü&amp;berspringen</translation>
+    </message>
+    <message id="kMenuTV">
+        <source></source>
+        <translation>&amp;TV-Sender</translation>
+    </message>
+    <message id="kMenuView">
+        <source></source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message id="kMoveTo">
+        <source></source>
+        <translation>&amp;Verschieben …</translation>
+    </message>
+    <message id="kMoveToTip">
+        <source></source>
+        <translation>Den ausgewählten Sendern neue Nummern geben</translation>
+    </message>
+    <message id="kMovingMessage">
+        <source></source>
+        <translation>Ausgewählte Sender verschieben auf Nummer (1 bis 9999):</translation>
+    </message>
+    <message id="kMovingOK">
+        <source></source>
+        <translation>Verschieben</translation>
+    </message>
+    <message id="kNoMatches">
+        <source></source>
+        <translation>Kein Sender passt zur Suche und zum Typ.</translation>
+    </message>
+    <message id="kNotAFileReason">
+        <source></source>
+        <translation>„%1“ ist keine gewöhnliche Datei.</translation>
+    </message>
+    <message id="kNotALocalFileReason">
+        <source></source>
+        <translation>Es können nur Dateien auf diesem Computer geöffnet werden.</translation>
+    </message>
+    <message id="kOK">
+        <source></source>
+        <translation>OK</translation>
+    </message>
+    <message id="kOpenFailedMessage">
+        <source></source>
+        <translation>„%1“ konnte nicht geöffnet werden.</translation>
+    </message>
+    <message id="kOpenTitle">
+        <source></source>
+        <translation>Senderliste öffnen</translation>
+    </message>
+    <message id="kPageOf">
+        <source></source>
+        <translation>Seite %1 von %2</translation>
+    </message>
+    <message id="kPermissionsFailedReason">
+        <source></source>
+        <translation>Die Zugriffsrechte der Datei konnten nicht beibehalten werden: %1</translation>
+    </message>
+    <message id="kRadio">
+        <source></source>
+        <translation>&amp;Radio</translation>
+    </message>
+    <message id="kReadBackFailedReason">
+        <source></source>
+        <translation>Die neue Datei konnte nicht überprüft werden: %1</translation>
+    </message>
+    <message id="kRecentFileMissingMessage">
+        <source></source>
+        <translation>%1 ist nicht mehr vorhanden.</translation>
+    </message>
+    <message id="kReplace">
+        <source></source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message id="kReplaceDetail">
+        <source></source>
+        <translation>Sie enthält nicht gespeicherte Änderungen in Listen, die gerade nicht angezeigt werden. Wenn Sie die abgelegte Datei hier öffnen, gehen diese Änderungen verloren.</translation>
+    </message>
+    <message id="kReplaceFailedReason">
+        <source></source>
+        <translation>Die neue Datei konnte die alte nicht ersetzen: %1</translation>
+    </message>
+    <message id="kReplaceMessage">
+        <source></source>
+        <translation>Senderliste „%1“ ersetzen?</translation>
+    </message>
+    <message id="kRevert">
+        <source></source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message id="kRevertFailedMessage">
+        <source></source>
+        <translation>„%1“ konnte nicht erneut gelesen werden. Ihre Änderungen sind noch vorhanden.</translation>
+    </message>
+    <message id="kRevertMessage">
+        <source></source>
+        <translation>Möchten Sie die zuletzt gespeicherte Version von „%1“ wiederherstellen?</translation>
+    </message>
+    <message id="kRevertText">
+        <source></source>
+        <translation>Alle seitdem vorgenommenen Änderungen gehen verloren.</translation>
+    </message>
+    <message id="kSatellite">
+        <source></source>
+        <translation>Satellit</translation>
+    </message>
+    <message id="kSave">
+        <source></source>
+        <translation>Speichern</translation>
+    </message>
+    <message id="kSaveAnyway">
+        <source></source>
+        <translation>Trotzdem speichern</translation>
+    </message>
+    <message id="kSaveChangesMessage">
+        <source></source>
+        <translation>Möchten Sie die Änderungen an „%1“ speichern?</translation>
+    </message>
+    <message id="kSaveChangesText">
+        <source></source>
+        <translation>Ihre Änderungen gehen verloren, wenn Sie sie nicht speichern.</translation>
+    </message>
+    <message id="kSaveFailedMessage">
+        <source></source>
+        <translation>„%1“ konnte nicht gespeichert werden. Die Datei auf dem Datenträger wurde nicht verändert.</translation>
+    </message>
+    <message id="kSearchPlaceholder">
+        <source></source>
+        <translation>Sendername</translation>
+    </message>
+    <message id="kSearchTitle">
+        <source></source>
+        <translation>&amp;Suche:</translation>
+    </message>
+    <message id="kSortStatistics">
+        <source></source>
+        <translation>Zugeordnete Sender: %1
+Nicht zugeordnete Sender: %2
+Diese folgen ab Nummer: %3</translation>
+    </message>
+    <message id="kSortTitle">
+        <source></source>
+        <translation>Die Reihenfolge aus „%1“ wurde übernommen.</translation>
+    </message>
+    <message id="kSource">
+        <source></source>
+        <translation>Empfangsart</translation>
+    </message>
+    <message id="kStations" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Sender</numerusform>
+            <numerusform>Sender</numerusform>
+        </translation>
+    </message>
+    <message id="kStationTable">
+        <source></source>
+        <translation>Sender</translation>
+    </message>
+    <message id="kTipFilterTVOnly">
+        <source></source>
+        <translation>Typen können nur für TV-Sender ausgewählt werden</translation>
+    </message>
+    <message id="kTipNoStations">
+        <source></source>
+        <translation>Öffnen Sie eine Liste oder wählen Sie eine Empfangsart, die Sender enthält</translation>
+    </message>
+    <message id="kTipNoStationsInSource">
+        <source></source>
+        <translation>Nur für Dateien mit Sendern dieser Empfangsart</translation>
+    </message>
+    <message id="kTipSelectFirst">
+        <source></source>
+        <translation>Wählen Sie zuerst Sender in der Liste aus</translation>
+    </message>
+    <message id="kTV">
+        <source></source>
+        <translation>&amp;TV</translation>
+    </message>
+    <message id="kTypeFilter">
+        <source></source>
+        <translation>Typ</translation>
+    </message>
+    <message id="kUntitled">
+        <source></source>
+        <translation>Unbenannt</translation>
+    </message>
+    <message id="kWriteFailedReason">
+        <source></source>
+        <translation>Der Datenträger hat nicht die ganze Datei aufgenommen: %1</translation>
+    </message>
+    <message id="kWriteProtectedReason">
+        <source></source>
+        <translation>„%1“ ist schreibgeschützt.</translation>
+    </message>
+    <message id="matches" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Treffer</numerusform>
+            <numerusform>Treffer</numerusform>
+        </translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,607 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="Bad file format">
+        <source></source>
+        <translation>Formato de archivo no válido</translation>
+    </message>
+    <message id="HELP_TITLE">
+        <source></source>
+        <translation>Ayuda de Quillet</translation>
+    </message>
+    <message id="kAboutLibraries">
+        <source></source>
+        <translation>Creado con %1.</translation>
+    </message>
+    <message id="kAboutLicence">
+        <source></source>
+        <translation>Copyright 2026 Los autores de Quillet. Software libre bajo la licencia MIT.</translation>
+    </message>
+    <message id="kAboutPurpose">
+        <source></source>
+        <translation>Ordena las listas de canales de los televisores LG.</translation>
+    </message>
+    <message id="kAboutTitle">
+        <source></source>
+        <translation>Acerca de Quillet</translation>
+    </message>
+    <message id="kAboutVersion">
+        <source></source>
+        <translation>Versión %1</translation>
+    </message>
+    <message id="kAnalogue">
+        <source></source>
+        <translation>Analógico</translation>
+    </message>
+    <message id="kAntenna">
+        <source></source>
+        <translation>Antena</translation>
+    </message>
+    <message id="kApplyOrder">
+        <source></source>
+        <translation>Aplicar &amp;orden…</translation>
+    </message>
+    <message id="kApplyOrderTip">
+        <source></source>
+        <translation>Poner esta lista en el orden de otra</translation>
+    </message>
+    <message id="kApplyOrderTitle">
+        <source></source>
+        <translation>Elegir una lista de referencia</translation>
+    </message>
+    <message id="kBad_file_type">
+        <source></source>
+        <translation>No se pueden usar archivos de este tipo</translation>
+    </message>
+    <message id="kCable">
+        <source></source>
+        <translation>Cable</translation>
+    </message>
+    <message id="kCancel">
+        <source></source>
+        <translation>Cancelar</translation>
+    </message>
+    <message id="kChangedOnDiskMessage">
+        <source></source>
+        <translation>Otro programa ha modificado «%1».</translation>
+    </message>
+    <message id="kChangedOnDiskText">
+        <source></source>
+        <translation>Si guarda ahora, se perderán los cambios hechos por el otro programa.</translation>
+    </message>
+    <message id="kClearMenu">
+        <source></source>
+        <translation>Vaciar menú</translation>
+    </message>
+    <message id="kColumnBlocked">
+        <source></source>
+        <translation>Bloquear</translation>
+    </message>
+    <message id="kColumnName">
+        <source></source>
+        <translation>Nombre</translation>
+    </message>
+    <message id="kColumnNumber">
+        <source></source>
+        <translation>N.º</translation>
+    </message>
+    <message id="kColumnSkipped">
+        <source></source>
+        <translation>Omitir</translation>
+    </message>
+    <message id="kColumnType">
+        <source></source>
+        <translation>Tipo</translation>
+    </message>
+    <message id="kCompareFailedReason">
+        <source></source>
+        <translation>El disco no ha guardado lo que se escribió. Puede que esté lleno o dañado.</translation>
+    </message>
+    <message id="kContentUnknownReason">
+        <source></source>
+        <translation>El archivo está vacío o no es una lista de canales.</translation>
+    </message>
+    <message id="kCreateFailedReason">
+        <source></source>
+        <translation>No se ha podido crear un archivo nuevo en la carpeta «%1»: %2</translation>
+    </message>
+    <message id="kDeviceTitle">
+        <source></source>
+        <translation>Televisor:</translation>
+    </message>
+    <message id="kDontSave">
+        <source></source>
+        <translation>No guardar</translation>
+    </message>
+    <message id="kExportTitle">
+        <source></source>
+        <translation>Exportar como lista de referencia</translation>
+    </message>
+    <message id="kFileMissingReason">
+        <source></source>
+        <translation>No hay ningún archivo en «%1».</translation>
+    </message>
+    <message id="kFileName">
+        <source></source>
+        <translation>Archivo</translation>
+    </message>
+    <message id="kFileTooLargeReason">
+        <source></source>
+        <translation>El archivo es demasiado grande para ser una lista de canales.</translation>
+    </message>
+    <message id="kFileUnreadableReason">
+        <source></source>
+        <translation>No se ha podido leer el archivo: %1</translation>
+    </message>
+    <message id="kFillGaps">
+        <source></source>
+        <translation>Re&amp;llenar huecos</translation>
+    </message>
+    <message id="kFillGapsTip">
+        <source></source>
+        <translation>Numerar la lista 1, 2, 3… sin huecos, ahora y después de cada movimiento</translation>
+    </message>
+    <message id="kFilterAll">
+        <source></source>
+        <translation>Todos los tipos</translation>
+    </message>
+    <message id="kFilterAllFiles">
+        <source></source>
+        <translation>Todos los archivos</translation>
+    </message>
+    <message id="kFilterChannelLists">
+        <source></source>
+        <translation>Listas de canales</translation>
+    </message>
+    <message id="kFilterHD">
+        <source></source>
+        <translation>HD</translation>
+    </message>
+    <message id="kFilterOther">
+        <source></source>
+        <translation>Otros</translation>
+    </message>
+    <message id="kFilterReferenceLists">
+        <source></source>
+        <translation>Listas de referencia</translation>
+    </message>
+    <message id="kFilterSD">
+        <source></source>
+        <translation>SD</translation>
+    </message>
+    <message id="kFilterTextFiles">
+        <source></source>
+        <translation>Archivos de texto</translation>
+    </message>
+    <message id="kFilterTV">
+        <source></source>
+        <translation>TV</translation>
+    </message>
+    <message id="kFilterUHD">
+        <source></source>
+        <translation>UHD</translation>
+    </message>
+    <message id="kHelpBack">
+        <source></source>
+        <translation>Atrás</translation>
+    </message>
+    <message id="kHelpForward">
+        <source></source>
+        <translation>Adelante</translation>
+    </message>
+    <message id="kHelpHome">
+        <source></source>
+        <translation>Página de inicio</translation>
+    </message>
+    <message id="kHelpOpenInBrowser">
+        <source></source>
+        <translation>Abrir en el navegador</translation>
+    </message>
+    <message id="kHelpOpenInChrome">
+        <source></source>
+        <translation>Abrir en Chrome</translation>
+    </message>
+    <message id="kHelpToolbar">
+        <source></source>
+        <translation>Navegación</translation>
+    </message>
+    <message id="kHintNoFile">
+        <source></source>
+        <translation>No hay ninguna lista de canales abierta</translation>
+    </message>
+    <message id="kHintNoFileDetail">
+        <source></source>
+        <translation>Arrastre aquí un archivo TLL de su televisor o elija uno.</translation>
+    </message>
+    <message id="kHintNoRadioStations">
+        <source></source>
+        <translation>Este tipo de recepción no tiene emisoras de radio</translation>
+    </message>
+    <message id="kHintNoStations">
+        <source></source>
+        <translation>No hay canales</translation>
+    </message>
+    <message id="kHintNoStationsDetail">
+        <source></source>
+        <translation>Este archivo no contiene canales. Puede arrastrar aquí otro archivo TLL.</translation>
+    </message>
+    <message id="kHintNoTVStations">
+        <source></source>
+        <translation>Este tipo de recepción no tiene canales de TV</translation>
+    </message>
+    <message id="kHintOpen">
+        <source></source>
+        <translation>Abrir un archivo…</translation>
+    </message>
+    <message id="kHintShowRadio">
+        <source></source>
+        <translation>Mostrar sus emisoras de radio</translation>
+    </message>
+    <message id="kHintShowTV">
+        <source></source>
+        <translation>Mostrar sus canales de TV</translation>
+    </message>
+    <message id="kInfo">
+        <source></source>
+        <translation>&amp;Información…</translation>
+    </message>
+    <message id="kInfoContent">
+        <source></source>
+        <translation>Contenido</translation>
+    </message>
+    <message id="kInfoField">
+        <source></source>
+        <translation>Campo</translation>
+    </message>
+    <message id="kInfoTable">
+        <source></source>
+        <translation>Campos del canal</translation>
+    </message>
+    <message id="kInfoTip">
+        <source></source>
+        <translation>Mostrar todos los campos del canal seleccionado</translation>
+    </message>
+    <message id="kIsAFolderReason">
+        <source></source>
+        <translation>«%1» es una carpeta.</translation>
+    </message>
+    <message id="kLinkCircleReason">
+        <source></source>
+        <translation>El enlace al archivo apunta de vuelta a sí mismo.</translation>
+    </message>
+    <message id="kLoadingProblem">
+        <source></source>
+        <translation>No se ha podido abrir la lista de canales.</translation>
+    </message>
+    <message id="kMenuAbout">
+        <source></source>
+        <translation>&amp;Acerca de Quillet</translation>
+    </message>
+    <message id="kMenuAnalogue">
+        <source></source>
+        <translation>Ana&amp;lógico</translation>
+    </message>
+    <message id="kMenuAntenna">
+        <source></source>
+        <translation>&amp;Antena</translation>
+    </message>
+    <message id="kMenuApplyOrder">
+        <source></source>
+        <translation>&amp;Aplicar orden…</translation>
+    </message>
+    <message id="kMenuCable">
+        <source></source>
+        <translation>&amp;Cable</translation>
+    </message>
+    <message id="kMenuClose">
+        <source></source>
+        <translation>&amp;Cerrar</translation>
+    </message>
+    <message id="kMenuEdit">
+        <source></source>
+        <translation>&amp;Edición</translation>
+    </message>
+    <message id="kMenuExport">
+        <source></source>
+        <translation>&amp;Exportar como lista de referencia…</translation>
+    </message>
+    <message id="kMenuFile">
+        <source></source>
+        <translation>&amp;Archivo</translation>
+    </message>
+    <message id="kMenuFillGaps">
+        <source></source>
+        <translation>Re&amp;llenar huecos</translation>
+    </message>
+    <message id="kMenuFilterAll">
+        <source></source>
+        <translation>Todos los ti&amp;pos</translation>
+    </message>
+    <message id="kMenuFilterHD">
+        <source></source>
+        <translation>&amp;HD</translation>
+    </message>
+    <message id="kMenuFilterOther">
+        <source></source>
+        <translation>&amp;Otros</translation>
+    </message>
+    <message id="kMenuFilterSD">
+        <source></source>
+        <translation>S&amp;D</translation>
+    </message>
+    <message id="kMenuFilterTV">
+        <source></source>
+        <translation>Solo T&amp;V</translation>
+    </message>
+    <message id="kMenuFilterUHD">
+        <source></source>
+        <translation>&amp;UHD</translation>
+    </message>
+    <message id="kMenuFind">
+        <source></source>
+        <translation>Bus&amp;car</translation>
+    </message>
+    <message id="kMenuGuide">
+        <source></source>
+        <translation>A&amp;yuda de Quillet</translation>
+    </message>
+    <message id="kMenuHelp">
+        <source></source>
+        <translation>Ay&amp;uda</translation>
+    </message>
+    <message id="kMenuInfo">
+        <source></source>
+        <translation>&amp;Información del canal</translation>
+    </message>
+    <message id="kMenuLock">
+        <source></source>
+        <translation>&amp;Bloqueo infantil</translation>
+    </message>
+    <message id="kMenuMoveTo">
+        <source></source>
+        <translation>&amp;Mover a…</translation>
+    </message>
+    <message id="kMenuNew">
+        <source></source>
+        <translation>&amp;Nuevo</translation>
+    </message>
+    <message id="kMenuOpen">
+        <source></source>
+        <translation>&amp;Abrir…</translation>
+    </message>
+    <message id="kMenuOpenRecent">
+        <source></source>
+        <translation>Abrir &amp;reciente</translation>
+    </message>
+    <message id="kMenuPrint">
+        <source></source>
+        <translation>&amp;Imprimir…</translation>
+    </message>
+    <message id="kMenuQuit">
+        <source></source>
+        <translation>&amp;Salir</translation>
+    </message>
+    <message id="kMenuRadio">
+        <source></source>
+        <translation>Emisoras de &amp;radio</translation>
+    </message>
+    <message id="kMenuRevert">
+        <source></source>
+        <translation>&amp;Volver a la versión guardada</translation>
+    </message>
+    <message id="kMenuSatellite">
+        <source></source>
+        <translation>&amp;Satélite</translation>
+    </message>
+    <message id="kMenuSave">
+        <source></source>
+        <translation>&amp;Guardar</translation>
+    </message>
+    <message id="kMenuSkip">
+        <source></source>
+        <translation>&amp;Omitir</translation>
+    </message>
+    <message id="kMenuTV">
+        <source></source>
+        <translation>Canales de &amp;TV</translation>
+    </message>
+    <message id="kMenuView">
+        <source></source>
+        <translation>&amp;Ver</translation>
+    </message>
+    <message id="kMoveTo">
+        <source></source>
+        <translation>&amp;Mover a…</translation>
+    </message>
+    <message id="kMoveToTip">
+        <source></source>
+        <translation>Dar números nuevos a los canales seleccionados</translation>
+    </message>
+    <message id="kMovingMessage">
+        <source></source>
+        <translation>Mover los canales seleccionados al número (de 1 a 9999):</translation>
+    </message>
+    <message id="kMovingOK">
+        <source></source>
+        <translation>Mover</translation>
+    </message>
+    <message id="kNoMatches">
+        <source></source>
+        <translation>Ningún canal coincide con la búsqueda y el tipo.</translation>
+    </message>
+    <message id="kNotAFileReason">
+        <source></source>
+        <translation>«%1» no es un archivo normal.</translation>
+    </message>
+    <message id="kNotALocalFileReason">
+        <source></source>
+        <translation>Solo se pueden abrir archivos de este equipo.</translation>
+    </message>
+    <message id="kOK">
+        <source></source>
+        <translation>Aceptar</translation>
+    </message>
+    <message id="kOpenFailedMessage">
+        <source></source>
+        <translation>No se ha podido abrir «%1».</translation>
+    </message>
+    <message id="kOpenTitle">
+        <source></source>
+        <translation>Abrir lista de canales</translation>
+    </message>
+    <message id="kPageOf">
+        <source></source>
+        <translation>Página %1 de %2</translation>
+    </message>
+    <message id="kPermissionsFailedReason">
+        <source></source>
+        <translation>No se han podido conservar los permisos de acceso del archivo: %1</translation>
+    </message>
+    <message id="kRadio">
+        <source></source>
+        <translation>&amp;Radio</translation>
+    </message>
+    <message id="kReadBackFailedReason">
+        <source></source>
+        <translation>No se ha podido comprobar el archivo nuevo: %1</translation>
+    </message>
+    <message id="kRecentFileMissingMessage">
+        <source></source>
+        <translation>%1 ya no existe.</translation>
+    </message>
+    <message id="kReplace">
+        <source></source>
+        <translation>Reemplazar</translation>
+    </message>
+    <message id="kReplaceDetail">
+        <source></source>
+        <translation>Tiene cambios sin guardar en listas que no se están mostrando. Si abre aquí el archivo arrastrado, se perderán.</translation>
+    </message>
+    <message id="kReplaceFailedReason">
+        <source></source>
+        <translation>El archivo nuevo no ha podido sustituir al anterior: %1</translation>
+    </message>
+    <message id="kReplaceMessage">
+        <source></source>
+        <translation>¿Reemplazar la lista de canales «%1»?</translation>
+    </message>
+    <message id="kRevert">
+        <source></source>
+        <translation>Volver</translation>
+    </message>
+    <message id="kRevertFailedMessage">
+        <source></source>
+        <translation>No se ha podido volver a leer «%1». Sus cambios siguen aquí.</translation>
+    </message>
+    <message id="kRevertMessage">
+        <source></source>
+        <translation>¿Desea volver a la última versión guardada de «%1»?</translation>
+    </message>
+    <message id="kRevertText">
+        <source></source>
+        <translation>Se perderán todos los cambios hechos desde entonces.</translation>
+    </message>
+    <message id="kSatellite">
+        <source></source>
+        <translation>Satélite</translation>
+    </message>
+    <message id="kSave">
+        <source></source>
+        <translation>Guardar</translation>
+    </message>
+    <message id="kSaveAnyway">
+        <source></source>
+        <translation>Guardar de todos modos</translation>
+    </message>
+    <message id="kSaveChangesMessage">
+        <source></source>
+        <translation>¿Desea guardar los cambios hechos en «%1»?</translation>
+    </message>
+    <message id="kSaveChangesText">
+        <source></source>
+        <translation>Si no guarda los cambios, se perderán.</translation>
+    </message>
+    <message id="kSaveFailedMessage">
+        <source></source>
+        <translation>No se ha podido guardar «%1». El archivo del disco no se ha modificado.</translation>
+    </message>
+    <message id="kSearchPlaceholder">
+        <source></source>
+        <translation>Nombre del canal</translation>
+    </message>
+    <message id="kSearchTitle">
+        <source></source>
+        <translation>&amp;Buscar:</translation>
+    </message>
+    <message id="kSortStatistics">
+        <source></source>
+        <translation>Canales encontrados: %1
+Canales no encontrados: %2
+Estos continúan a partir del número: %3</translation>
+    </message>
+    <message id="kSortTitle">
+        <source></source>
+        <translation>Se ha aplicado el orden de «%1».</translation>
+    </message>
+    <message id="kSource">
+        <source></source>
+        <translation>Tipo de recepción</translation>
+    </message>
+    <message id="kStations" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>canal</numerusform>
+            <numerusform>canales</numerusform>
+        </translation>
+    </message>
+    <message id="kStationTable">
+        <source></source>
+        <translation>Canales</translation>
+    </message>
+    <message id="kTipFilterTVOnly">
+        <source></source>
+        <translation>Los tipos solo se pueden elegir para canales de TV</translation>
+    </message>
+    <message id="kTipNoStations">
+        <source></source>
+        <translation>Abra una lista, o elija un tipo de recepción, que tenga canales</translation>
+    </message>
+    <message id="kTipNoStationsInSource">
+        <source></source>
+        <translation>Para archivos que tienen canales de este tipo de recepción</translation>
+    </message>
+    <message id="kTipSelectFirst">
+        <source></source>
+        <translation>Seleccione primero canales en la lista</translation>
+    </message>
+    <message id="kTV">
+        <source></source>
+        <translation>&amp;TV</translation>
+    </message>
+    <message id="kTypeFilter">
+        <source></source>
+        <translation>Tipo</translation>
+    </message>
+    <message id="kUntitled">
+        <source></source>
+        <translation>Sin título</translation>
+    </message>
+    <message id="kWriteFailedReason">
+        <source></source>
+        <translation>El disco no ha admitido el archivo completo: %1</translation>
+    </message>
+    <message id="kWriteProtectedReason">
+        <source></source>
+        <translation>«%1» está protegido contra escritura.</translation>
+    </message>
+    <message id="matches" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>coincidencia</numerusform>
+            <numerusform>coincidencias</numerusform>
+        </translation>
+    </message>
+</context>
+</TS>

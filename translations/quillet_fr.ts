@@ -1,0 +1,607 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="Bad file format">
+        <source></source>
+        <translation>Format de fichier non valide</translation>
+    </message>
+    <message id="HELP_TITLE">
+        <source></source>
+        <translation>Aide de Quillet</translation>
+    </message>
+    <message id="kAboutLibraries">
+        <source></source>
+        <translation>Réalisé avec %1.</translation>
+    </message>
+    <message id="kAboutLicence">
+        <source></source>
+        <translation>Copyright 2026 Les auteurs de Quillet. Logiciel libre sous licence MIT.</translation>
+    </message>
+    <message id="kAboutPurpose">
+        <source></source>
+        <translation>Trie les listes de chaînes des téléviseurs LG.</translation>
+    </message>
+    <message id="kAboutTitle">
+        <source></source>
+        <translation>À propos de Quillet</translation>
+    </message>
+    <message id="kAboutVersion">
+        <source></source>
+        <translation>Version %1</translation>
+    </message>
+    <message id="kAnalogue">
+        <source></source>
+        <translation>Analogique</translation>
+    </message>
+    <message id="kAntenna">
+        <source></source>
+        <translation>Antenne</translation>
+    </message>
+    <message id="kApplyOrder">
+        <source></source>
+        <translation>Appliquer un &amp;ordre…</translation>
+    </message>
+    <message id="kApplyOrderTip">
+        <source></source>
+        <translation>Mettre cette liste dans l’ordre d’une autre</translation>
+    </message>
+    <message id="kApplyOrderTitle">
+        <source></source>
+        <translation>Choisir une liste de référence</translation>
+    </message>
+    <message id="kBad_file_type">
+        <source></source>
+        <translation>Les fichiers de ce type ne peuvent pas être utilisés</translation>
+    </message>
+    <message id="kCable">
+        <source></source>
+        <translation>Câble</translation>
+    </message>
+    <message id="kCancel">
+        <source></source>
+        <translation>Annuler</translation>
+    </message>
+    <message id="kChangedOnDiskMessage">
+        <source></source>
+        <translation>« %1 » a été modifié par un autre programme.</translation>
+    </message>
+    <message id="kChangedOnDiskText">
+        <source></source>
+        <translation>Si vous enregistrez maintenant, les modifications de l’autre programme seront perdues.</translation>
+    </message>
+    <message id="kClearMenu">
+        <source></source>
+        <translation>Effacer le menu</translation>
+    </message>
+    <message id="kColumnBlocked">
+        <source></source>
+        <translation>Verrouiller</translation>
+    </message>
+    <message id="kColumnName">
+        <source></source>
+        <translation>Nom</translation>
+    </message>
+    <message id="kColumnNumber">
+        <source></source>
+        <translation>N°</translation>
+    </message>
+    <message id="kColumnSkipped">
+        <source></source>
+        <translation>Ignorer</translation>
+    </message>
+    <message id="kColumnType">
+        <source></source>
+        <translation>Type</translation>
+    </message>
+    <message id="kCompareFailedReason">
+        <source></source>
+        <translation>Le disque n’a pas conservé ce qui a été écrit. Il est peut-être plein ou endommagé.</translation>
+    </message>
+    <message id="kContentUnknownReason">
+        <source></source>
+        <translation>Le fichier est vide ou n’est pas une liste de chaînes.</translation>
+    </message>
+    <message id="kCreateFailedReason">
+        <source></source>
+        <translation>Impossible de créer un fichier dans le dossier « %1 » : %2</translation>
+    </message>
+    <message id="kDeviceTitle">
+        <source></source>
+        <translation>Téléviseur :</translation>
+    </message>
+    <message id="kDontSave">
+        <source></source>
+        <translation>Ne pas enregistrer</translation>
+    </message>
+    <message id="kExportTitle">
+        <source></source>
+        <translation>Exporter comme liste de référence</translation>
+    </message>
+    <message id="kFileMissingReason">
+        <source></source>
+        <translation>Aucun fichier ne se trouve à l’emplacement « %1 ».</translation>
+    </message>
+    <message id="kFileName">
+        <source></source>
+        <translation>Fichier</translation>
+    </message>
+    <message id="kFileTooLargeReason">
+        <source></source>
+        <translation>Le fichier est beaucoup trop volumineux pour une liste de chaînes.</translation>
+    </message>
+    <message id="kFileUnreadableReason">
+        <source></source>
+        <translation>Impossible de lire le fichier : %1</translation>
+    </message>
+    <message id="kFillGaps">
+        <source></source>
+        <translation>Com&amp;bler les vides</translation>
+    </message>
+    <message id="kFillGapsTip">
+        <source></source>
+        <translation>Numéroter la liste 1, 2, 3 … sans vides, maintenant et après chaque déplacement</translation>
+    </message>
+    <message id="kFilterAll">
+        <source></source>
+        <translation>Tous les types</translation>
+    </message>
+    <message id="kFilterAllFiles">
+        <source></source>
+        <translation>Tous les fichiers</translation>
+    </message>
+    <message id="kFilterChannelLists">
+        <source></source>
+        <translation>Listes de chaînes</translation>
+    </message>
+    <message id="kFilterHD">
+        <source></source>
+        <translation>HD</translation>
+    </message>
+    <message id="kFilterOther">
+        <source></source>
+        <translation>Autres</translation>
+    </message>
+    <message id="kFilterReferenceLists">
+        <source></source>
+        <translation>Listes de référence</translation>
+    </message>
+    <message id="kFilterSD">
+        <source></source>
+        <translation>SD</translation>
+    </message>
+    <message id="kFilterTextFiles">
+        <source></source>
+        <translation>Fichiers texte</translation>
+    </message>
+    <message id="kFilterTV">
+        <source></source>
+        <translation>TV</translation>
+    </message>
+    <message id="kFilterUHD">
+        <source></source>
+        <translation>UHD</translation>
+    </message>
+    <message id="kHelpBack">
+        <source></source>
+        <translation>Précédent</translation>
+    </message>
+    <message id="kHelpForward">
+        <source></source>
+        <translation>Suivant</translation>
+    </message>
+    <message id="kHelpHome">
+        <source></source>
+        <translation>Page d’accueil</translation>
+    </message>
+    <message id="kHelpOpenInBrowser">
+        <source></source>
+        <translation>Ouvrir dans le navigateur</translation>
+    </message>
+    <message id="kHelpOpenInChrome">
+        <source></source>
+        <translation>Ouvrir dans Chrome</translation>
+    </message>
+    <message id="kHelpToolbar">
+        <source></source>
+        <translation>Navigation</translation>
+    </message>
+    <message id="kHintNoFile">
+        <source></source>
+        <translation>Aucune liste de chaînes ouverte</translation>
+    </message>
+    <message id="kHintNoFileDetail">
+        <source></source>
+        <translation>Déposez ici un fichier TLL de votre téléviseur ou choisissez-en un.</translation>
+    </message>
+    <message id="kHintNoRadioStations">
+        <source></source>
+        <translation>Aucune station de radio pour ce mode de réception</translation>
+    </message>
+    <message id="kHintNoStations">
+        <source></source>
+        <translation>Aucune chaîne</translation>
+    </message>
+    <message id="kHintNoStationsDetail">
+        <source></source>
+        <translation>Ce fichier ne contient aucune chaîne. Vous pouvez déposer ici un autre fichier TLL.</translation>
+    </message>
+    <message id="kHintNoTVStations">
+        <source></source>
+        <translation>Aucune chaîne TV pour ce mode de réception</translation>
+    </message>
+    <message id="kHintOpen">
+        <source></source>
+        <translation>Ouvrir un fichier…</translation>
+    </message>
+    <message id="kHintShowRadio">
+        <source></source>
+        <translation>Afficher ses stations de radio</translation>
+    </message>
+    <message id="kHintShowTV">
+        <source></source>
+        <translation>Afficher ses chaînes TV</translation>
+    </message>
+    <message id="kInfo">
+        <source></source>
+        <translation>&amp;Informations…</translation>
+    </message>
+    <message id="kInfoContent">
+        <source></source>
+        <translation>Contenu</translation>
+    </message>
+    <message id="kInfoField">
+        <source></source>
+        <translation>Champ</translation>
+    </message>
+    <message id="kInfoTable">
+        <source></source>
+        <translation>Champs de la chaîne</translation>
+    </message>
+    <message id="kInfoTip">
+        <source></source>
+        <translation>Afficher tous les champs de la chaîne sélectionnée</translation>
+    </message>
+    <message id="kIsAFolderReason">
+        <source></source>
+        <translation>« %1 » est un dossier.</translation>
+    </message>
+    <message id="kLinkCircleReason">
+        <source></source>
+        <translation>Le lien vers le fichier renvoie à lui-même.</translation>
+    </message>
+    <message id="kLoadingProblem">
+        <source></source>
+        <translation>Impossible d’ouvrir la liste de chaînes.</translation>
+    </message>
+    <message id="kMenuAbout">
+        <source></source>
+        <translation>À &amp;propos de Quillet</translation>
+    </message>
+    <message id="kMenuAnalogue">
+        <source></source>
+        <translation>Ana&amp;logique</translation>
+    </message>
+    <message id="kMenuAntenna">
+        <source></source>
+        <translation>&amp;Antenne</translation>
+    </message>
+    <message id="kMenuApplyOrder">
+        <source></source>
+        <translation>Appliquer un &amp;ordre…</translation>
+    </message>
+    <message id="kMenuCable">
+        <source></source>
+        <translation>&amp;Câble</translation>
+    </message>
+    <message id="kMenuClose">
+        <source></source>
+        <translation>&amp;Fermer</translation>
+    </message>
+    <message id="kMenuEdit">
+        <source></source>
+        <translation>É&amp;dition</translation>
+    </message>
+    <message id="kMenuExport">
+        <source></source>
+        <translation>E&amp;xporter comme liste de référence…</translation>
+    </message>
+    <message id="kMenuFile">
+        <source></source>
+        <translation>&amp;Fichier</translation>
+    </message>
+    <message id="kMenuFillGaps">
+        <source></source>
+        <translation>Com&amp;bler les vides</translation>
+    </message>
+    <message id="kMenuFilterAll">
+        <source></source>
+        <translation>Tous les t&amp;ypes</translation>
+    </message>
+    <message id="kMenuFilterHD">
+        <source></source>
+        <translation>&amp;HD</translation>
+    </message>
+    <message id="kMenuFilterOther">
+        <source></source>
+        <translation>Autr&amp;es</translation>
+    </message>
+    <message id="kMenuFilterSD">
+        <source></source>
+        <translation>S&amp;D</translation>
+    </message>
+    <message id="kMenuFilterTV">
+        <source></source>
+        <translation>Toute la T&amp;V</translation>
+    </message>
+    <message id="kMenuFilterUHD">
+        <source></source>
+        <translation>&amp;UHD</translation>
+    </message>
+    <message id="kMenuFind">
+        <source></source>
+        <translation>&amp;Rechercher</translation>
+    </message>
+    <message id="kMenuGuide">
+        <source></source>
+        <translation>&amp;Aide de Quillet</translation>
+    </message>
+    <message id="kMenuHelp">
+        <source></source>
+        <translation>Aid&amp;e</translation>
+    </message>
+    <message id="kMenuInfo">
+        <source></source>
+        <translation>I&amp;nformations sur la chaîne</translation>
+    </message>
+    <message id="kMenuLock">
+        <source></source>
+        <translation>&amp;Verrouillage parental</translation>
+    </message>
+    <message id="kMenuMoveTo">
+        <source></source>
+        <translation>Dé&amp;placer vers…</translation>
+    </message>
+    <message id="kMenuNew">
+        <source></source>
+        <translation>&amp;Nouveau</translation>
+    </message>
+    <message id="kMenuOpen">
+        <source></source>
+        <translation>&amp;Ouvrir…</translation>
+    </message>
+    <message id="kMenuOpenRecent">
+        <source></source>
+        <translation>Fichiers &amp;récents</translation>
+    </message>
+    <message id="kMenuPrint">
+        <source></source>
+        <translation>&amp;Imprimer…</translation>
+    </message>
+    <message id="kMenuQuit">
+        <source></source>
+        <translation>&amp;Quitter</translation>
+    </message>
+    <message id="kMenuRadio">
+        <source></source>
+        <translation>Stations de &amp;radio</translation>
+    </message>
+    <message id="kMenuRevert">
+        <source></source>
+        <translation>Re&amp;venir à la version enregistrée</translation>
+    </message>
+    <message id="kMenuSatellite">
+        <source></source>
+        <translation>&amp;Satellite</translation>
+    </message>
+    <message id="kMenuSave">
+        <source></source>
+        <translation>&amp;Enregistrer</translation>
+    </message>
+    <message id="kMenuSkip">
+        <source></source>
+        <translation>&amp;Ignorer</translation>
+    </message>
+    <message id="kMenuTV">
+        <source></source>
+        <translation>Chaînes &amp;TV</translation>
+    </message>
+    <message id="kMenuView">
+        <source></source>
+        <translation>&amp;Affichage</translation>
+    </message>
+    <message id="kMoveTo">
+        <source></source>
+        <translation>Dé&amp;placer vers…</translation>
+    </message>
+    <message id="kMoveToTip">
+        <source></source>
+        <translation>Donner de nouveaux numéros aux chaînes sélectionnées</translation>
+    </message>
+    <message id="kMovingMessage">
+        <source></source>
+        <translation>Déplacer les chaînes sélectionnées vers le numéro (1 à 9999) :</translation>
+    </message>
+    <message id="kMovingOK">
+        <source></source>
+        <translation>Déplacer</translation>
+    </message>
+    <message id="kNoMatches">
+        <source></source>
+        <translation>Aucune chaîne ne correspond à la recherche et au type.</translation>
+    </message>
+    <message id="kNotAFileReason">
+        <source></source>
+        <translation>« %1 » n’est pas un fichier ordinaire.</translation>
+    </message>
+    <message id="kNotALocalFileReason">
+        <source></source>
+        <translation>Seuls les fichiers de cet ordinateur peuvent être ouverts.</translation>
+    </message>
+    <message id="kOK">
+        <source></source>
+        <translation>OK</translation>
+    </message>
+    <message id="kOpenFailedMessage">
+        <source></source>
+        <translation>Impossible d’ouvrir « %1 ».</translation>
+    </message>
+    <message id="kOpenTitle">
+        <source></source>
+        <translation>Ouvrir une liste de chaînes</translation>
+    </message>
+    <message id="kPageOf">
+        <source></source>
+        <translation>Page %1 sur %2</translation>
+    </message>
+    <message id="kPermissionsFailedReason">
+        <source></source>
+        <translation>Impossible de conserver les droits d’accès du fichier : %1</translation>
+    </message>
+    <message id="kRadio">
+        <source></source>
+        <translation>&amp;Radio</translation>
+    </message>
+    <message id="kReadBackFailedReason">
+        <source></source>
+        <translation>Impossible de vérifier le nouveau fichier : %1</translation>
+    </message>
+    <message id="kRecentFileMissingMessage">
+        <source></source>
+        <translation>%1 n’existe plus.</translation>
+    </message>
+    <message id="kReplace">
+        <source></source>
+        <translation>Remplacer</translation>
+    </message>
+    <message id="kReplaceDetail">
+        <source></source>
+        <translation>Elle contient des modifications non enregistrées dans des listes qui ne sont pas affichées. Si vous ouvrez ici le fichier déposé, elles seront perdues.</translation>
+    </message>
+    <message id="kReplaceFailedReason">
+        <source></source>
+        <translation>Le nouveau fichier n’a pas pu remplacer l’ancien : %1</translation>
+    </message>
+    <message id="kReplaceMessage">
+        <source></source>
+        <translation>Remplacer la liste de chaînes « %1 » ?</translation>
+    </message>
+    <message id="kRevert">
+        <source></source>
+        <translation>Revenir</translation>
+    </message>
+    <message id="kRevertFailedMessage">
+        <source></source>
+        <translation>Impossible de relire « %1 ». Vos modifications sont toujours là.</translation>
+    </message>
+    <message id="kRevertMessage">
+        <source></source>
+        <translation>Voulez-vous revenir à la dernière version enregistrée de « %1 » ?</translation>
+    </message>
+    <message id="kRevertText">
+        <source></source>
+        <translation>Toutes les modifications faites depuis seront perdues.</translation>
+    </message>
+    <message id="kSatellite">
+        <source></source>
+        <translation>Satellite</translation>
+    </message>
+    <message id="kSave">
+        <source></source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message id="kSaveAnyway">
+        <source></source>
+        <translation>Enregistrer quand même</translation>
+    </message>
+    <message id="kSaveChangesMessage">
+        <source></source>
+        <translation>Voulez-vous enregistrer les modifications apportées à « %1 » ?</translation>
+    </message>
+    <message id="kSaveChangesText">
+        <source></source>
+        <translation>Vos modifications seront perdues si vous ne les enregistrez pas.</translation>
+    </message>
+    <message id="kSaveFailedMessage">
+        <source></source>
+        <translation>Impossible d’enregistrer « %1 ». Le fichier sur le disque n’a pas été modifié.</translation>
+    </message>
+    <message id="kSearchPlaceholder">
+        <source></source>
+        <translation>Nom de chaîne</translation>
+    </message>
+    <message id="kSearchTitle">
+        <source></source>
+        <translation>Re&amp;chercher :</translation>
+    </message>
+    <message id="kSortStatistics">
+        <source></source>
+        <translation>Chaînes trouvées : %1
+Chaînes non trouvées : %2
+Ces dernières suivent à partir du numéro : %3</translation>
+    </message>
+    <message id="kSortTitle">
+        <source></source>
+        <translation>L’ordre de « %1 » a été appliqué.</translation>
+    </message>
+    <message id="kSource">
+        <source></source>
+        <translation>Mode de réception</translation>
+    </message>
+    <message id="kStations" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>chaîne</numerusform>
+            <numerusform>chaînes</numerusform>
+        </translation>
+    </message>
+    <message id="kStationTable">
+        <source></source>
+        <translation>Chaînes</translation>
+    </message>
+    <message id="kTipFilterTVOnly">
+        <source></source>
+        <translation>Les types ne peuvent être choisis que pour les chaînes TV</translation>
+    </message>
+    <message id="kTipNoStations">
+        <source></source>
+        <translation>Ouvrez une liste, ou choisissez un mode de réception, qui contient des chaînes</translation>
+    </message>
+    <message id="kTipNoStationsInSource">
+        <source></source>
+        <translation>Pour les fichiers qui ont des chaînes de ce mode de réception</translation>
+    </message>
+    <message id="kTipSelectFirst">
+        <source></source>
+        <translation>Sélectionnez d’abord des chaînes dans la liste</translation>
+    </message>
+    <message id="kTV">
+        <source></source>
+        <translation>&amp;TV</translation>
+    </message>
+    <message id="kTypeFilter">
+        <source></source>
+        <translation>Type</translation>
+    </message>
+    <message id="kUntitled">
+        <source></source>
+        <translation>Sans titre</translation>
+    </message>
+    <message id="kWriteFailedReason">
+        <source></source>
+        <translation>Le disque n’a pas pu recevoir tout le fichier : %1</translation>
+    </message>
+    <message id="kWriteProtectedReason">
+        <source></source>
+        <translation>« %1 » est protégé en écriture.</translation>
+    </message>
+    <message id="matches" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>résultat</numerusform>
+            <numerusform>résultats</numerusform>
+        </translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,607 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="it" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="Bad file format">
+        <source></source>
+        <translation>Formato di file non valido</translation>
+    </message>
+    <message id="HELP_TITLE">
+        <source></source>
+        <translation>Guida di Quillet</translation>
+    </message>
+    <message id="kAboutLibraries">
+        <source></source>
+        <translation>Realizzato con %1.</translation>
+    </message>
+    <message id="kAboutLicence">
+        <source></source>
+        <translation>Copyright 2026 Gli autori di Quillet. Software libero con licenza MIT.</translation>
+    </message>
+    <message id="kAboutPurpose">
+        <source></source>
+        <translation>Ordina le liste dei canali dei televisori LG.</translation>
+    </message>
+    <message id="kAboutTitle">
+        <source></source>
+        <translation>Informazioni su Quillet</translation>
+    </message>
+    <message id="kAboutVersion">
+        <source></source>
+        <translation>Versione %1</translation>
+    </message>
+    <message id="kAnalogue">
+        <source></source>
+        <translation>Analogico</translation>
+    </message>
+    <message id="kAntenna">
+        <source></source>
+        <translation>Antenna</translation>
+    </message>
+    <message id="kApplyOrder">
+        <source></source>
+        <translation>Applica &amp;ordine…</translation>
+    </message>
+    <message id="kApplyOrderTip">
+        <source></source>
+        <translation>Disporre questa lista nell’ordine di un’altra</translation>
+    </message>
+    <message id="kApplyOrderTitle">
+        <source></source>
+        <translation>Scegli una lista di riferimento</translation>
+    </message>
+    <message id="kBad_file_type">
+        <source></source>
+        <translation>Non è possibile usare file di questo tipo</translation>
+    </message>
+    <message id="kCable">
+        <source></source>
+        <translation>Cavo</translation>
+    </message>
+    <message id="kCancel">
+        <source></source>
+        <translation>Annulla</translation>
+    </message>
+    <message id="kChangedOnDiskMessage">
+        <source></source>
+        <translation>“%1” è stato modificato da un altro programma.</translation>
+    </message>
+    <message id="kChangedOnDiskText">
+        <source></source>
+        <translation>Se salvi ora, le modifiche apportate dall’altro programma andranno perse.</translation>
+    </message>
+    <message id="kClearMenu">
+        <source></source>
+        <translation>Cancella menu</translation>
+    </message>
+    <message id="kColumnBlocked">
+        <source></source>
+        <translation>Blocca</translation>
+    </message>
+    <message id="kColumnName">
+        <source></source>
+        <translation>Nome</translation>
+    </message>
+    <message id="kColumnNumber">
+        <source></source>
+        <translation>N.</translation>
+    </message>
+    <message id="kColumnSkipped">
+        <source></source>
+        <translation>Salta</translation>
+    </message>
+    <message id="kColumnType">
+        <source></source>
+        <translation>Tipo</translation>
+    </message>
+    <message id="kCompareFailedReason">
+        <source></source>
+        <translation>Il disco non ha conservato quanto è stato scritto. Potrebbe essere pieno o danneggiato.</translation>
+    </message>
+    <message id="kContentUnknownReason">
+        <source></source>
+        <translation>Il file è vuoto o non è una lista di canali.</translation>
+    </message>
+    <message id="kCreateFailedReason">
+        <source></source>
+        <translation>Impossibile creare un nuovo file nella cartella “%1”: %2</translation>
+    </message>
+    <message id="kDeviceTitle">
+        <source></source>
+        <translation>Televisore:</translation>
+    </message>
+    <message id="kDontSave">
+        <source></source>
+        <translation>Non salvare</translation>
+    </message>
+    <message id="kExportTitle">
+        <source></source>
+        <translation>Esporta come lista di riferimento</translation>
+    </message>
+    <message id="kFileMissingReason">
+        <source></source>
+        <translation>Non c’è alcun file in “%1”.</translation>
+    </message>
+    <message id="kFileName">
+        <source></source>
+        <translation>File</translation>
+    </message>
+    <message id="kFileTooLargeReason">
+        <source></source>
+        <translation>Il file è decisamente troppo grande per essere una lista di canali.</translation>
+    </message>
+    <message id="kFileUnreadableReason">
+        <source></source>
+        <translation>Impossibile leggere il file: %1</translation>
+    </message>
+    <message id="kFillGaps">
+        <source></source>
+        <translation>Riempi i v&amp;uoti</translation>
+    </message>
+    <message id="kFillGapsTip">
+        <source></source>
+        <translation>Numera la lista 1, 2, 3… senza vuoti, ora e dopo ogni spostamento</translation>
+    </message>
+    <message id="kFilterAll">
+        <source></source>
+        <translation>Tutti i tipi</translation>
+    </message>
+    <message id="kFilterAllFiles">
+        <source></source>
+        <translation>Tutti i file</translation>
+    </message>
+    <message id="kFilterChannelLists">
+        <source></source>
+        <translation>Liste di canali</translation>
+    </message>
+    <message id="kFilterHD">
+        <source></source>
+        <translation>HD</translation>
+    </message>
+    <message id="kFilterOther">
+        <source></source>
+        <translation>Altro</translation>
+    </message>
+    <message id="kFilterReferenceLists">
+        <source></source>
+        <translation>Liste di riferimento</translation>
+    </message>
+    <message id="kFilterSD">
+        <source></source>
+        <translation>SD</translation>
+    </message>
+    <message id="kFilterTextFiles">
+        <source></source>
+        <translation>File di testo</translation>
+    </message>
+    <message id="kFilterTV">
+        <source></source>
+        <translation>TV</translation>
+    </message>
+    <message id="kFilterUHD">
+        <source></source>
+        <translation>UHD</translation>
+    </message>
+    <message id="kHelpBack">
+        <source></source>
+        <translation>Indietro</translation>
+    </message>
+    <message id="kHelpForward">
+        <source></source>
+        <translation>Avanti</translation>
+    </message>
+    <message id="kHelpHome">
+        <source></source>
+        <translation>Pagina iniziale</translation>
+    </message>
+    <message id="kHelpOpenInBrowser">
+        <source></source>
+        <translation>Apri nel browser</translation>
+    </message>
+    <message id="kHelpOpenInChrome">
+        <source></source>
+        <translation>Apri in Chrome</translation>
+    </message>
+    <message id="kHelpToolbar">
+        <source></source>
+        <translation>Navigazione</translation>
+    </message>
+    <message id="kHintNoFile">
+        <source></source>
+        <translation>Nessuna lista di canali aperta</translation>
+    </message>
+    <message id="kHintNoFileDetail">
+        <source></source>
+        <translation>Trascina qui un file TLL del tuo televisore o scegline uno.</translation>
+    </message>
+    <message id="kHintNoRadioStations">
+        <source></source>
+        <translation>Questo tipo di ricezione non ha stazioni radio</translation>
+    </message>
+    <message id="kHintNoStations">
+        <source></source>
+        <translation>Nessun canale</translation>
+    </message>
+    <message id="kHintNoStationsDetail">
+        <source></source>
+        <translation>Questo file non contiene canali. Puoi trascinare qui un altro file TLL.</translation>
+    </message>
+    <message id="kHintNoTVStations">
+        <source></source>
+        <translation>Questo tipo di ricezione non ha canali TV</translation>
+    </message>
+    <message id="kHintOpen">
+        <source></source>
+        <translation>Apri un file…</translation>
+    </message>
+    <message id="kHintShowRadio">
+        <source></source>
+        <translation>Mostra le sue stazioni radio</translation>
+    </message>
+    <message id="kHintShowTV">
+        <source></source>
+        <translation>Mostra i suoi canali TV</translation>
+    </message>
+    <message id="kInfo">
+        <source></source>
+        <translation>&amp;Info…</translation>
+    </message>
+    <message id="kInfoContent">
+        <source></source>
+        <translation>Contenuto</translation>
+    </message>
+    <message id="kInfoField">
+        <source></source>
+        <translation>Campo</translation>
+    </message>
+    <message id="kInfoTable">
+        <source></source>
+        <translation>Campi del canale</translation>
+    </message>
+    <message id="kInfoTip">
+        <source></source>
+        <translation>Mostra tutti i campi del canale selezionato</translation>
+    </message>
+    <message id="kIsAFolderReason">
+        <source></source>
+        <translation>“%1” è una cartella.</translation>
+    </message>
+    <message id="kLinkCircleReason">
+        <source></source>
+        <translation>Il collegamento al file rimanda a se stesso.</translation>
+    </message>
+    <message id="kLoadingProblem">
+        <source></source>
+        <translation>Impossibile aprire la lista di canali.</translation>
+    </message>
+    <message id="kMenuAbout">
+        <source></source>
+        <translation>&amp;Informazioni su Quillet</translation>
+    </message>
+    <message id="kMenuAnalogue">
+        <source></source>
+        <translation>Ana&amp;logico</translation>
+    </message>
+    <message id="kMenuAntenna">
+        <source></source>
+        <translation>&amp;Antenna</translation>
+    </message>
+    <message id="kMenuApplyOrder">
+        <source></source>
+        <translation>Applica &amp;ordine…</translation>
+    </message>
+    <message id="kMenuCable">
+        <source></source>
+        <translation>&amp;Cavo</translation>
+    </message>
+    <message id="kMenuClose">
+        <source></source>
+        <translation>&amp;Chiudi</translation>
+    </message>
+    <message id="kMenuEdit">
+        <source></source>
+        <translation>&amp;Modifica</translation>
+    </message>
+    <message id="kMenuExport">
+        <source></source>
+        <translation>&amp;Esporta come lista di riferimento…</translation>
+    </message>
+    <message id="kMenuFile">
+        <source></source>
+        <translation>&amp;File</translation>
+    </message>
+    <message id="kMenuFillGaps">
+        <source></source>
+        <translation>Riempi i v&amp;uoti</translation>
+    </message>
+    <message id="kMenuFilterAll">
+        <source></source>
+        <translation>Tutti i ti&amp;pi</translation>
+    </message>
+    <message id="kMenuFilterHD">
+        <source></source>
+        <translation>&amp;HD</translation>
+    </message>
+    <message id="kMenuFilterOther">
+        <source></source>
+        <translation>Altr&amp;o</translation>
+    </message>
+    <message id="kMenuFilterSD">
+        <source></source>
+        <translation>S&amp;D</translation>
+    </message>
+    <message id="kMenuFilterTV">
+        <source></source>
+        <translation>Solo T&amp;V</translation>
+    </message>
+    <message id="kMenuFilterUHD">
+        <source></source>
+        <translation>&amp;UHD</translation>
+    </message>
+    <message id="kMenuFind">
+        <source></source>
+        <translation>&amp;Cerca</translation>
+    </message>
+    <message id="kMenuGuide">
+        <source></source>
+        <translation>&amp;Guida di Quillet</translation>
+    </message>
+    <message id="kMenuHelp">
+        <source></source>
+        <translation>&amp;Aiuto</translation>
+    </message>
+    <message id="kMenuInfo">
+        <source></source>
+        <translation>&amp;Info canale</translation>
+    </message>
+    <message id="kMenuLock">
+        <source></source>
+        <translation>&amp;Blocco bambini</translation>
+    </message>
+    <message id="kMenuMoveTo">
+        <source></source>
+        <translation>&amp;Sposta a…</translation>
+    </message>
+    <message id="kMenuNew">
+        <source></source>
+        <translation>&amp;Nuovo</translation>
+    </message>
+    <message id="kMenuOpen">
+        <source></source>
+        <translation>&amp;Apri…</translation>
+    </message>
+    <message id="kMenuOpenRecent">
+        <source></source>
+        <translation>Apri &amp;recenti</translation>
+    </message>
+    <message id="kMenuPrint">
+        <source></source>
+        <translation>S&amp;tampa…</translation>
+    </message>
+    <message id="kMenuQuit">
+        <source></source>
+        <translation>Esc&amp;i</translation>
+    </message>
+    <message id="kMenuRadio">
+        <source></source>
+        <translation>Stazioni &amp;radio</translation>
+    </message>
+    <message id="kMenuRevert">
+        <source></source>
+        <translation>Ripristina &amp;versione salvata</translation>
+    </message>
+    <message id="kMenuSatellite">
+        <source></source>
+        <translation>&amp;Satellite</translation>
+    </message>
+    <message id="kMenuSave">
+        <source></source>
+        <translation>&amp;Salva</translation>
+    </message>
+    <message id="kMenuSkip">
+        <source></source>
+        <translation>S&amp;alta</translation>
+    </message>
+    <message id="kMenuTV">
+        <source></source>
+        <translation>Canali &amp;TV</translation>
+    </message>
+    <message id="kMenuView">
+        <source></source>
+        <translation>&amp;Visualizza</translation>
+    </message>
+    <message id="kMoveTo">
+        <source></source>
+        <translation>&amp;Sposta a…</translation>
+    </message>
+    <message id="kMoveToTip">
+        <source></source>
+        <translation>Assegna nuovi numeri ai canali selezionati</translation>
+    </message>
+    <message id="kMovingMessage">
+        <source></source>
+        <translation>Sposta i canali selezionati al numero (da 1 a 9999):</translation>
+    </message>
+    <message id="kMovingOK">
+        <source></source>
+        <translation>Sposta</translation>
+    </message>
+    <message id="kNoMatches">
+        <source></source>
+        <translation>Nessun canale corrisponde alla ricerca e al tipo.</translation>
+    </message>
+    <message id="kNotAFileReason">
+        <source></source>
+        <translation>“%1” non è un file ordinario.</translation>
+    </message>
+    <message id="kNotALocalFileReason">
+        <source></source>
+        <translation>È possibile aprire solo file di questo computer.</translation>
+    </message>
+    <message id="kOK">
+        <source></source>
+        <translation>OK</translation>
+    </message>
+    <message id="kOpenFailedMessage">
+        <source></source>
+        <translation>Impossibile aprire “%1”.</translation>
+    </message>
+    <message id="kOpenTitle">
+        <source></source>
+        <translation>Apri lista di canali</translation>
+    </message>
+    <message id="kPageOf">
+        <source></source>
+        <translation>Pagina %1 di %2</translation>
+    </message>
+    <message id="kPermissionsFailedReason">
+        <source></source>
+        <translation>Impossibile mantenere i permessi di accesso del file: %1</translation>
+    </message>
+    <message id="kRadio">
+        <source></source>
+        <translation>&amp;Radio</translation>
+    </message>
+    <message id="kReadBackFailedReason">
+        <source></source>
+        <translation>Impossibile verificare il nuovo file: %1</translation>
+    </message>
+    <message id="kRecentFileMissingMessage">
+        <source></source>
+        <translation>%1 non esiste più.</translation>
+    </message>
+    <message id="kReplace">
+        <source></source>
+        <translation>Sostituisci</translation>
+    </message>
+    <message id="kReplaceDetail">
+        <source></source>
+        <translation>Contiene modifiche non salvate in liste che non sono visualizzate. Se apri qui il file trascinato, andranno perse.</translation>
+    </message>
+    <message id="kReplaceFailedReason">
+        <source></source>
+        <translation>Il nuovo file non ha potuto sostituire quello vecchio: %1</translation>
+    </message>
+    <message id="kReplaceMessage">
+        <source></source>
+        <translation>Sostituire la lista di canali “%1”?</translation>
+    </message>
+    <message id="kRevert">
+        <source></source>
+        <translation>Ripristina</translation>
+    </message>
+    <message id="kRevertFailedMessage">
+        <source></source>
+        <translation>Impossibile rileggere “%1”. Le tue modifiche sono ancora presenti.</translation>
+    </message>
+    <message id="kRevertMessage">
+        <source></source>
+        <translation>Vuoi ripristinare l’ultima versione salvata di “%1”?</translation>
+    </message>
+    <message id="kRevertText">
+        <source></source>
+        <translation>Tutte le modifiche fatte da allora andranno perse.</translation>
+    </message>
+    <message id="kSatellite">
+        <source></source>
+        <translation>Satellite</translation>
+    </message>
+    <message id="kSave">
+        <source></source>
+        <translation>Salva</translation>
+    </message>
+    <message id="kSaveAnyway">
+        <source></source>
+        <translation>Salva comunque</translation>
+    </message>
+    <message id="kSaveChangesMessage">
+        <source></source>
+        <translation>Vuoi salvare le modifiche apportate a “%1”?</translation>
+    </message>
+    <message id="kSaveChangesText">
+        <source></source>
+        <translation>Se non salvi le modifiche, andranno perse.</translation>
+    </message>
+    <message id="kSaveFailedMessage">
+        <source></source>
+        <translation>Impossibile salvare “%1”. Il file sul disco non è stato modificato.</translation>
+    </message>
+    <message id="kSearchPlaceholder">
+        <source></source>
+        <translation>Nome del canale</translation>
+    </message>
+    <message id="kSearchTitle">
+        <source></source>
+        <translation>&amp;Cerca:</translation>
+    </message>
+    <message id="kSortStatistics">
+        <source></source>
+        <translation>Canali abbinati: %1
+Canali non abbinati: %2
+Questi proseguono dal numero: %3</translation>
+    </message>
+    <message id="kSortTitle">
+        <source></source>
+        <translation>L’ordine di “%1” è stato applicato.</translation>
+    </message>
+    <message id="kSource">
+        <source></source>
+        <translation>Tipo di ricezione</translation>
+    </message>
+    <message id="kStations" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>canale</numerusform>
+            <numerusform>canali</numerusform>
+        </translation>
+    </message>
+    <message id="kStationTable">
+        <source></source>
+        <translation>Canali</translation>
+    </message>
+    <message id="kTipFilterTVOnly">
+        <source></source>
+        <translation>I tipi si possono scegliere solo per i canali TV</translation>
+    </message>
+    <message id="kTipNoStations">
+        <source></source>
+        <translation>Apri una lista, o scegli un tipo di ricezione, che contenga canali</translation>
+    </message>
+    <message id="kTipNoStationsInSource">
+        <source></source>
+        <translation>Per i file che hanno canali di questo tipo di ricezione</translation>
+    </message>
+    <message id="kTipSelectFirst">
+        <source></source>
+        <translation>Seleziona prima dei canali nella lista</translation>
+    </message>
+    <message id="kTV">
+        <source></source>
+        <translation>&amp;TV</translation>
+    </message>
+    <message id="kTypeFilter">
+        <source></source>
+        <translation>Tipo</translation>
+    </message>
+    <message id="kUntitled">
+        <source></source>
+        <translation>Senza titolo</translation>
+    </message>
+    <message id="kWriteFailedReason">
+        <source></source>
+        <translation>Il disco non ha accettato l’intero file: %1</translation>
+    </message>
+    <message id="kWriteProtectedReason">
+        <source></source>
+        <translation>“%1” è protetto da scrittura.</translation>
+    </message>
+    <message id="matches" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>corrispondenza</numerusform>
+            <numerusform>corrispondenze</numerusform>
+        </translation>
+    </message>
+</context>
+</TS>

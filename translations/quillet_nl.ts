@@ -1,0 +1,607 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="nl" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="Bad file format">
+        <source></source>
+        <translation>Ongeldige bestandsindeling</translation>
+    </message>
+    <message id="HELP_TITLE">
+        <source></source>
+        <translation>Quillet-help</translation>
+    </message>
+    <message id="kAboutLibraries">
+        <source></source>
+        <translation>Gemaakt met %1.</translation>
+    </message>
+    <message id="kAboutLicence">
+        <source></source>
+        <translation>Copyright 2026 De auteurs van Quillet. Vrije software onder de MIT-licentie.</translation>
+    </message>
+    <message id="kAboutPurpose">
+        <source></source>
+        <translation>Sorteert de zenderlijsten van LG-televisies.</translation>
+    </message>
+    <message id="kAboutTitle">
+        <source></source>
+        <translation>Over Quillet</translation>
+    </message>
+    <message id="kAboutVersion">
+        <source></source>
+        <translation>Versie %1</translation>
+    </message>
+    <message id="kAnalogue">
+        <source></source>
+        <translation>Analoog</translation>
+    </message>
+    <message id="kAntenna">
+        <source></source>
+        <translation>Antenne</translation>
+    </message>
+    <message id="kApplyOrder">
+        <source></source>
+        <translation>Volgorde toe&amp;passen…</translation>
+    </message>
+    <message id="kApplyOrderTip">
+        <source></source>
+        <translation>Deze lijst in de volgorde van een andere zetten</translation>
+    </message>
+    <message id="kApplyOrderTitle">
+        <source></source>
+        <translation>Kies een referentielijst</translation>
+    </message>
+    <message id="kBad_file_type">
+        <source></source>
+        <translation>Bestanden van dit type kunnen niet worden gebruikt</translation>
+    </message>
+    <message id="kCable">
+        <source></source>
+        <translation>Kabel</translation>
+    </message>
+    <message id="kCancel">
+        <source></source>
+        <translation>Annuleren</translation>
+    </message>
+    <message id="kChangedOnDiskMessage">
+        <source></source>
+        <translation>“%1” is door een ander programma gewijzigd.</translation>
+    </message>
+    <message id="kChangedOnDiskText">
+        <source></source>
+        <translation>Als u nu opslaat, gaan de wijzigingen van het andere programma verloren.</translation>
+    </message>
+    <message id="kClearMenu">
+        <source></source>
+        <translation>Menu wissen</translation>
+    </message>
+    <message id="kColumnBlocked">
+        <source></source>
+        <translation>Slot</translation>
+    </message>
+    <message id="kColumnName">
+        <source></source>
+        <translation>Naam</translation>
+    </message>
+    <message id="kColumnNumber">
+        <source></source>
+        <translation>Nr.</translation>
+    </message>
+    <message id="kColumnSkipped">
+        <source></source>
+        <translation>Overslaan</translation>
+    </message>
+    <message id="kColumnType">
+        <source></source>
+        <translation>Type</translation>
+    </message>
+    <message id="kCompareFailedReason">
+        <source></source>
+        <translation>De schijf heeft niet bewaard wat er is geschreven. Mogelijk is de schijf vol of beschadigd.</translation>
+    </message>
+    <message id="kContentUnknownReason">
+        <source></source>
+        <translation>Het bestand is leeg of geen zenderlijst.</translation>
+    </message>
+    <message id="kCreateFailedReason">
+        <source></source>
+        <translation>In de map “%1” kon geen nieuw bestand worden gemaakt: %2</translation>
+    </message>
+    <message id="kDeviceTitle">
+        <source></source>
+        <translation>Televisie:</translation>
+    </message>
+    <message id="kDontSave">
+        <source></source>
+        <translation>Niet opslaan</translation>
+    </message>
+    <message id="kExportTitle">
+        <source></source>
+        <translation>Exporteren als referentielijst</translation>
+    </message>
+    <message id="kFileMissingReason">
+        <source></source>
+        <translation>Er staat geen bestand op “%1”.</translation>
+    </message>
+    <message id="kFileName">
+        <source></source>
+        <translation>Bestand</translation>
+    </message>
+    <message id="kFileTooLargeReason">
+        <source></source>
+        <translation>Het bestand is veel te groot voor een zenderlijst.</translation>
+    </message>
+    <message id="kFileUnreadableReason">
+        <source></source>
+        <translation>Het bestand kon niet worden gelezen: %1</translation>
+    </message>
+    <message id="kFillGaps">
+        <source></source>
+        <translation>&amp;Gaten vullen</translation>
+    </message>
+    <message id="kFillGapsTip">
+        <source></source>
+        <translation>De lijst zonder gaten 1, 2, 3… nummeren, nu en na elke verplaatsing</translation>
+    </message>
+    <message id="kFilterAll">
+        <source></source>
+        <translation>Alle typen</translation>
+    </message>
+    <message id="kFilterAllFiles">
+        <source></source>
+        <translation>Alle bestanden</translation>
+    </message>
+    <message id="kFilterChannelLists">
+        <source></source>
+        <translation>Zenderlijsten</translation>
+    </message>
+    <message id="kFilterHD">
+        <source></source>
+        <translation>HD</translation>
+    </message>
+    <message id="kFilterOther">
+        <source></source>
+        <translation>Overige</translation>
+    </message>
+    <message id="kFilterReferenceLists">
+        <source></source>
+        <translation>Referentielijsten</translation>
+    </message>
+    <message id="kFilterSD">
+        <source></source>
+        <translation>SD</translation>
+    </message>
+    <message id="kFilterTextFiles">
+        <source></source>
+        <translation>Tekstbestanden</translation>
+    </message>
+    <message id="kFilterTV">
+        <source></source>
+        <translation>Tv</translation>
+    </message>
+    <message id="kFilterUHD">
+        <source></source>
+        <translation>UHD</translation>
+    </message>
+    <message id="kHelpBack">
+        <source></source>
+        <translation>Terug</translation>
+    </message>
+    <message id="kHelpForward">
+        <source></source>
+        <translation>Vooruit</translation>
+    </message>
+    <message id="kHelpHome">
+        <source></source>
+        <translation>Startpagina</translation>
+    </message>
+    <message id="kHelpOpenInBrowser">
+        <source></source>
+        <translation>Openen in browser</translation>
+    </message>
+    <message id="kHelpOpenInChrome">
+        <source></source>
+        <translation>Openen in Chrome</translation>
+    </message>
+    <message id="kHelpToolbar">
+        <source></source>
+        <translation>Navigatie</translation>
+    </message>
+    <message id="kHintNoFile">
+        <source></source>
+        <translation>Er is geen zenderlijst geopend</translation>
+    </message>
+    <message id="kHintNoFileDetail">
+        <source></source>
+        <translation>Sleep een TLL-bestand van uw televisie hierheen of kies er een.</translation>
+    </message>
+    <message id="kHintNoRadioStations">
+        <source></source>
+        <translation>Deze ontvangstbron heeft geen radiozenders</translation>
+    </message>
+    <message id="kHintNoStations">
+        <source></source>
+        <translation>Geen zenders</translation>
+    </message>
+    <message id="kHintNoStationsDetail">
+        <source></source>
+        <translation>Dit bestand bevat geen zenders. U kunt een ander TLL-bestand hierheen slepen.</translation>
+    </message>
+    <message id="kHintNoTVStations">
+        <source></source>
+        <translation>Deze ontvangstbron heeft geen tv-zenders</translation>
+    </message>
+    <message id="kHintOpen">
+        <source></source>
+        <translation>Bestand openen…</translation>
+    </message>
+    <message id="kHintShowRadio">
+        <source></source>
+        <translation>De radiozenders ervan tonen</translation>
+    </message>
+    <message id="kHintShowTV">
+        <source></source>
+        <translation>De tv-zenders ervan tonen</translation>
+    </message>
+    <message id="kInfo">
+        <source></source>
+        <translation>&amp;Info…</translation>
+    </message>
+    <message id="kInfoContent">
+        <source></source>
+        <translation>Inhoud</translation>
+    </message>
+    <message id="kInfoField">
+        <source></source>
+        <translation>Veld</translation>
+    </message>
+    <message id="kInfoTable">
+        <source></source>
+        <translation>Velden van de zender</translation>
+    </message>
+    <message id="kInfoTip">
+        <source></source>
+        <translation>Alle velden van de geselecteerde zender tonen</translation>
+    </message>
+    <message id="kIsAFolderReason">
+        <source></source>
+        <translation>“%1” is een map.</translation>
+    </message>
+    <message id="kLinkCircleReason">
+        <source></source>
+        <translation>De koppeling naar het bestand verwijst terug naar zichzelf.</translation>
+    </message>
+    <message id="kLoadingProblem">
+        <source></source>
+        <translation>De zenderlijst kon niet worden geopend.</translation>
+    </message>
+    <message id="kMenuAbout">
+        <source></source>
+        <translation>&amp;Over Quillet</translation>
+    </message>
+    <message id="kMenuAnalogue">
+        <source></source>
+        <translation>Ana&amp;loog</translation>
+    </message>
+    <message id="kMenuAntenna">
+        <source></source>
+        <translation>&amp;Antenne</translation>
+    </message>
+    <message id="kMenuApplyOrder">
+        <source></source>
+        <translation>Volgorde toe&amp;passen…</translation>
+    </message>
+    <message id="kMenuCable">
+        <source></source>
+        <translation>&amp;Kabel</translation>
+    </message>
+    <message id="kMenuClose">
+        <source></source>
+        <translation>Sl&amp;uiten</translation>
+    </message>
+    <message id="kMenuEdit">
+        <source></source>
+        <translation>Be&amp;werken</translation>
+    </message>
+    <message id="kMenuExport">
+        <source></source>
+        <translation>&amp;Exporteren als referentielijst…</translation>
+    </message>
+    <message id="kMenuFile">
+        <source></source>
+        <translation>&amp;Bestand</translation>
+    </message>
+    <message id="kMenuFillGaps">
+        <source></source>
+        <translation>&amp;Gaten vullen</translation>
+    </message>
+    <message id="kMenuFilterAll">
+        <source></source>
+        <translation>Alle t&amp;ypen</translation>
+    </message>
+    <message id="kMenuFilterHD">
+        <source></source>
+        <translation>&amp;HD</translation>
+    </message>
+    <message id="kMenuFilterOther">
+        <source></source>
+        <translation>&amp;Overige</translation>
+    </message>
+    <message id="kMenuFilterSD">
+        <source></source>
+        <translation>S&amp;D</translation>
+    </message>
+    <message id="kMenuFilterTV">
+        <source></source>
+        <translation>Alleen t&amp;v</translation>
+    </message>
+    <message id="kMenuFilterUHD">
+        <source></source>
+        <translation>&amp;UHD</translation>
+    </message>
+    <message id="kMenuFind">
+        <source></source>
+        <translation>&amp;Zoeken</translation>
+    </message>
+    <message id="kMenuGuide">
+        <source></source>
+        <translation>Quillet-&amp;help</translation>
+    </message>
+    <message id="kMenuHelp">
+        <source></source>
+        <translation>&amp;Help</translation>
+    </message>
+    <message id="kMenuInfo">
+        <source></source>
+        <translation>Zender&amp;info</translation>
+    </message>
+    <message id="kMenuLock">
+        <source></source>
+        <translation>&amp;Kinderslot</translation>
+    </message>
+    <message id="kMenuMoveTo">
+        <source></source>
+        <translation>&amp;Verplaatsen naar…</translation>
+    </message>
+    <message id="kMenuNew">
+        <source></source>
+        <translation>&amp;Nieuw</translation>
+    </message>
+    <message id="kMenuOpen">
+        <source></source>
+        <translation>&amp;Openen…</translation>
+    </message>
+    <message id="kMenuOpenRecent">
+        <source></source>
+        <translation>&amp;Recent geopend</translation>
+    </message>
+    <message id="kMenuPrint">
+        <source></source>
+        <translation>Af&amp;drukken…</translation>
+    </message>
+    <message id="kMenuQuit">
+        <source></source>
+        <translation>&amp;Afsluiten</translation>
+    </message>
+    <message id="kMenuRadio">
+        <source></source>
+        <translation>&amp;Radiozenders</translation>
+    </message>
+    <message id="kMenuRevert">
+        <source></source>
+        <translation>&amp;Terug naar opgeslagen versie</translation>
+    </message>
+    <message id="kMenuSatellite">
+        <source></source>
+        <translation>&amp;Satelliet</translation>
+    </message>
+    <message id="kMenuSave">
+        <source></source>
+        <translation>Op&amp;slaan</translation>
+    </message>
+    <message id="kMenuSkip">
+        <source></source>
+        <translation>&amp;Overslaan</translation>
+    </message>
+    <message id="kMenuTV">
+        <source></source>
+        <translation>&amp;Tv-zenders</translation>
+    </message>
+    <message id="kMenuView">
+        <source></source>
+        <translation>Bee&amp;ld</translation>
+    </message>
+    <message id="kMoveTo">
+        <source></source>
+        <translation>&amp;Verplaatsen naar…</translation>
+    </message>
+    <message id="kMoveToTip">
+        <source></source>
+        <translation>De geselecteerde zenders nieuwe nummers geven</translation>
+    </message>
+    <message id="kMovingMessage">
+        <source></source>
+        <translation>De geselecteerde zenders verplaatsen naar nummer (1 tot en met 9999):</translation>
+    </message>
+    <message id="kMovingOK">
+        <source></source>
+        <translation>Verplaatsen</translation>
+    </message>
+    <message id="kNoMatches">
+        <source></source>
+        <translation>Geen enkele zender komt overeen met de zoekopdracht en het type.</translation>
+    </message>
+    <message id="kNotAFileReason">
+        <source></source>
+        <translation>“%1” is geen gewoon bestand.</translation>
+    </message>
+    <message id="kNotALocalFileReason">
+        <source></source>
+        <translation>Alleen bestanden op deze computer kunnen worden geopend.</translation>
+    </message>
+    <message id="kOK">
+        <source></source>
+        <translation>OK</translation>
+    </message>
+    <message id="kOpenFailedMessage">
+        <source></source>
+        <translation>“%1” kon niet worden geopend.</translation>
+    </message>
+    <message id="kOpenTitle">
+        <source></source>
+        <translation>Zenderlijst openen</translation>
+    </message>
+    <message id="kPageOf">
+        <source></source>
+        <translation>Pagina %1 van %2</translation>
+    </message>
+    <message id="kPermissionsFailedReason">
+        <source></source>
+        <translation>De toegangsrechten van het bestand konden niet worden behouden: %1</translation>
+    </message>
+    <message id="kRadio">
+        <source></source>
+        <translation>&amp;Radio</translation>
+    </message>
+    <message id="kReadBackFailedReason">
+        <source></source>
+        <translation>Het nieuwe bestand kon niet worden gecontroleerd: %1</translation>
+    </message>
+    <message id="kRecentFileMissingMessage">
+        <source></source>
+        <translation>%1 bestaat niet meer.</translation>
+    </message>
+    <message id="kReplace">
+        <source></source>
+        <translation>Vervangen</translation>
+    </message>
+    <message id="kReplaceDetail">
+        <source></source>
+        <translation>Deze bevat niet-opgeslagen wijzigingen in lijsten die niet worden getoond. Als u het neergezette bestand hier opent, gaan die verloren.</translation>
+    </message>
+    <message id="kReplaceFailedReason">
+        <source></source>
+        <translation>Het nieuwe bestand kon het oude niet vervangen: %1</translation>
+    </message>
+    <message id="kReplaceMessage">
+        <source></source>
+        <translation>Zenderlijst “%1” vervangen?</translation>
+    </message>
+    <message id="kRevert">
+        <source></source>
+        <translation>Teruggaan</translation>
+    </message>
+    <message id="kRevertFailedMessage">
+        <source></source>
+        <translation>“%1” kon niet opnieuw worden gelezen. Uw wijzigingen zijn er nog.</translation>
+    </message>
+    <message id="kRevertMessage">
+        <source></source>
+        <translation>Wilt u teruggaan naar de laatst opgeslagen versie van “%1”?</translation>
+    </message>
+    <message id="kRevertText">
+        <source></source>
+        <translation>Alle wijzigingen die u sindsdien hebt aangebracht, gaan verloren.</translation>
+    </message>
+    <message id="kSatellite">
+        <source></source>
+        <translation>Satelliet</translation>
+    </message>
+    <message id="kSave">
+        <source></source>
+        <translation>Opslaan</translation>
+    </message>
+    <message id="kSaveAnyway">
+        <source></source>
+        <translation>Toch opslaan</translation>
+    </message>
+    <message id="kSaveChangesMessage">
+        <source></source>
+        <translation>Wilt u de wijzigingen in “%1” opslaan?</translation>
+    </message>
+    <message id="kSaveChangesText">
+        <source></source>
+        <translation>Uw wijzigingen gaan verloren als u ze niet opslaat.</translation>
+    </message>
+    <message id="kSaveFailedMessage">
+        <source></source>
+        <translation>“%1” kon niet worden opgeslagen. Het bestand op de schijf is niet gewijzigd.</translation>
+    </message>
+    <message id="kSearchPlaceholder">
+        <source></source>
+        <translation>Zendernaam</translation>
+    </message>
+    <message id="kSearchTitle">
+        <source></source>
+        <translation>&amp;Zoeken:</translation>
+    </message>
+    <message id="kSortStatistics">
+        <source></source>
+        <translation>Gevonden zenders: %1
+Niet gevonden zenders: %2
+Deze gaan verder vanaf nummer: %3</translation>
+    </message>
+    <message id="kSortTitle">
+        <source></source>
+        <translation>De volgorde van “%1” is toegepast.</translation>
+    </message>
+    <message id="kSource">
+        <source></source>
+        <translation>Ontvangstbron</translation>
+    </message>
+    <message id="kStations" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>zender</numerusform>
+            <numerusform>zenders</numerusform>
+        </translation>
+    </message>
+    <message id="kStationTable">
+        <source></source>
+        <translation>Zenders</translation>
+    </message>
+    <message id="kTipFilterTVOnly">
+        <source></source>
+        <translation>Typen kunnen alleen voor tv-zenders worden gekozen</translation>
+    </message>
+    <message id="kTipNoStations">
+        <source></source>
+        <translation>Open een lijst of kies een ontvangstbron die zenders bevat</translation>
+    </message>
+    <message id="kTipNoStationsInSource">
+        <source></source>
+        <translation>Voor bestanden met zenders van deze ontvangstbron</translation>
+    </message>
+    <message id="kTipSelectFirst">
+        <source></source>
+        <translation>Selecteer eerst zenders in de lijst</translation>
+    </message>
+    <message id="kTV">
+        <source></source>
+        <translation>&amp;Tv</translation>
+    </message>
+    <message id="kTypeFilter">
+        <source></source>
+        <translation>Type</translation>
+    </message>
+    <message id="kUntitled">
+        <source></source>
+        <translation>Naamloos</translation>
+    </message>
+    <message id="kWriteFailedReason">
+        <source></source>
+        <translation>De schijf heeft niet het hele bestand opgenomen: %1</translation>
+    </message>
+    <message id="kWriteProtectedReason">
+        <source></source>
+        <translation>“%1” is tegen schrijven beveiligd.</translation>
+    </message>
+    <message id="matches" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>resultaat</numerusform>
+            <numerusform>resultaten</numerusform>
+        </translation>
+    </message>
+</context>
+</TS>

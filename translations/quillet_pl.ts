@@ -1,0 +1,609 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pl" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="Bad file format">
+        <source></source>
+        <translation>Nieprawidłowy format pliku</translation>
+    </message>
+    <message id="HELP_TITLE">
+        <source></source>
+        <translation>Pomoc programu Quillet</translation>
+    </message>
+    <message id="kAboutLibraries">
+        <source></source>
+        <translation>Wykorzystuje: %1.</translation>
+    </message>
+    <message id="kAboutLicence">
+        <source></source>
+        <translation>Copyright 2026 Autorzy programu Quillet. Wolne oprogramowanie na licencji MIT.</translation>
+    </message>
+    <message id="kAboutPurpose">
+        <source></source>
+        <translation>Porządkuje listy kanałów telewizorów LG.</translation>
+    </message>
+    <message id="kAboutTitle">
+        <source></source>
+        <translation>O programie Quillet</translation>
+    </message>
+    <message id="kAboutVersion">
+        <source></source>
+        <translation>Wersja %1</translation>
+    </message>
+    <message id="kAnalogue">
+        <source></source>
+        <translation>Analogowe</translation>
+    </message>
+    <message id="kAntenna">
+        <source></source>
+        <translation>Antena</translation>
+    </message>
+    <message id="kApplyOrder">
+        <source></source>
+        <translation>Zastosuj &amp;kolejność…</translation>
+    </message>
+    <message id="kApplyOrderTip">
+        <source></source>
+        <translation>Ułóż tę listę w kolejności innej listy</translation>
+    </message>
+    <message id="kApplyOrderTitle">
+        <source></source>
+        <translation>Wybierz listę wzorcową</translation>
+    </message>
+    <message id="kBad_file_type">
+        <source></source>
+        <translation>Nie można użyć plików tego typu</translation>
+    </message>
+    <message id="kCable">
+        <source></source>
+        <translation>Kabel</translation>
+    </message>
+    <message id="kCancel">
+        <source></source>
+        <translation>Anuluj</translation>
+    </message>
+    <message id="kChangedOnDiskMessage">
+        <source></source>
+        <translation>Plik „%1” został zmieniony przez inny program.</translation>
+    </message>
+    <message id="kChangedOnDiskText">
+        <source></source>
+        <translation>Jeśli teraz zapiszesz, zmiany wprowadzone przez inny program zostaną utracone.</translation>
+    </message>
+    <message id="kClearMenu">
+        <source></source>
+        <translation>Wyczyść menu</translation>
+    </message>
+    <message id="kColumnBlocked">
+        <source></source>
+        <translation>Blokada</translation>
+    </message>
+    <message id="kColumnName">
+        <source></source>
+        <translation>Nazwa</translation>
+    </message>
+    <message id="kColumnNumber">
+        <source></source>
+        <translation>Nr</translation>
+    </message>
+    <message id="kColumnSkipped">
+        <source></source>
+        <translation>Pomijaj</translation>
+    </message>
+    <message id="kColumnType">
+        <source></source>
+        <translation>Typ</translation>
+    </message>
+    <message id="kCompareFailedReason">
+        <source></source>
+        <translation>Dysk nie zachował tego, co zostało zapisane. Może być pełny lub uszkodzony.</translation>
+    </message>
+    <message id="kContentUnknownReason">
+        <source></source>
+        <translation>Plik jest pusty lub nie jest listą kanałów.</translation>
+    </message>
+    <message id="kCreateFailedReason">
+        <source></source>
+        <translation>Nie można utworzyć nowego pliku w folderze „%1”: %2</translation>
+    </message>
+    <message id="kDeviceTitle">
+        <source></source>
+        <translation>Telewizor:</translation>
+    </message>
+    <message id="kDontSave">
+        <source></source>
+        <translation>Nie zapisuj</translation>
+    </message>
+    <message id="kExportTitle">
+        <source></source>
+        <translation>Eksportuj jako listę wzorcową</translation>
+    </message>
+    <message id="kFileMissingReason">
+        <source></source>
+        <translation>Nie ma pliku w miejscu „%1”.</translation>
+    </message>
+    <message id="kFileName">
+        <source></source>
+        <translation>Plik</translation>
+    </message>
+    <message id="kFileTooLargeReason">
+        <source></source>
+        <translation>Plik jest o wiele za duży jak na listę kanałów.</translation>
+    </message>
+    <message id="kFileUnreadableReason">
+        <source></source>
+        <translation>Nie można odczytać pliku: %1</translation>
+    </message>
+    <message id="kFillGaps">
+        <source></source>
+        <translation>Wypełniaj &amp;luki</translation>
+    </message>
+    <message id="kFillGapsTip">
+        <source></source>
+        <translation>Numeruj listę 1, 2, 3… bez luk, teraz i po każdym przeniesieniu</translation>
+    </message>
+    <message id="kFilterAll">
+        <source></source>
+        <translation>Wszystkie typy</translation>
+    </message>
+    <message id="kFilterAllFiles">
+        <source></source>
+        <translation>Wszystkie pliki</translation>
+    </message>
+    <message id="kFilterChannelLists">
+        <source></source>
+        <translation>Listy kanałów</translation>
+    </message>
+    <message id="kFilterHD">
+        <source></source>
+        <translation>HD</translation>
+    </message>
+    <message id="kFilterOther">
+        <source></source>
+        <translation>Inne</translation>
+    </message>
+    <message id="kFilterReferenceLists">
+        <source></source>
+        <translation>Listy wzorcowe</translation>
+    </message>
+    <message id="kFilterSD">
+        <source></source>
+        <translation>SD</translation>
+    </message>
+    <message id="kFilterTextFiles">
+        <source></source>
+        <translation>Pliki tekstowe</translation>
+    </message>
+    <message id="kFilterTV">
+        <source></source>
+        <translation>TV</translation>
+    </message>
+    <message id="kFilterUHD">
+        <source></source>
+        <translation>UHD</translation>
+    </message>
+    <message id="kHelpBack">
+        <source></source>
+        <translation>Wstecz</translation>
+    </message>
+    <message id="kHelpForward">
+        <source></source>
+        <translation>Dalej</translation>
+    </message>
+    <message id="kHelpHome">
+        <source></source>
+        <translation>Strona początkowa</translation>
+    </message>
+    <message id="kHelpOpenInBrowser">
+        <source></source>
+        <translation>Otwórz w przeglądarce</translation>
+    </message>
+    <message id="kHelpOpenInChrome">
+        <source></source>
+        <translation>Otwórz w Chrome</translation>
+    </message>
+    <message id="kHelpToolbar">
+        <source></source>
+        <translation>Nawigacja</translation>
+    </message>
+    <message id="kHintNoFile">
+        <source></source>
+        <translation>Nie otwarto listy kanałów</translation>
+    </message>
+    <message id="kHintNoFileDetail">
+        <source></source>
+        <translation>Upuść tutaj plik TLL z telewizora lub wybierz go.</translation>
+    </message>
+    <message id="kHintNoRadioStations">
+        <source></source>
+        <translation>To źródło nie zawiera stacji radiowych</translation>
+    </message>
+    <message id="kHintNoStations">
+        <source></source>
+        <translation>Brak kanałów</translation>
+    </message>
+    <message id="kHintNoStationsDetail">
+        <source></source>
+        <translation>Ten plik nie zawiera kanałów. Możesz upuścić tutaj inny plik TLL.</translation>
+    </message>
+    <message id="kHintNoTVStations">
+        <source></source>
+        <translation>To źródło nie zawiera kanałów TV</translation>
+    </message>
+    <message id="kHintOpen">
+        <source></source>
+        <translation>Otwórz plik…</translation>
+    </message>
+    <message id="kHintShowRadio">
+        <source></source>
+        <translation>Pokaż jego stacje radiowe</translation>
+    </message>
+    <message id="kHintShowTV">
+        <source></source>
+        <translation>Pokaż jego kanały TV</translation>
+    </message>
+    <message id="kInfo">
+        <source></source>
+        <translation>&amp;Informacje…</translation>
+    </message>
+    <message id="kInfoContent">
+        <source></source>
+        <translation>Zawartość</translation>
+    </message>
+    <message id="kInfoField">
+        <source></source>
+        <translation>Pole</translation>
+    </message>
+    <message id="kInfoTable">
+        <source></source>
+        <translation>Pola kanału</translation>
+    </message>
+    <message id="kInfoTip">
+        <source></source>
+        <translation>Pokaż wszystkie pola wybranego kanału</translation>
+    </message>
+    <message id="kIsAFolderReason">
+        <source></source>
+        <translation>„%1” jest folderem.</translation>
+    </message>
+    <message id="kLinkCircleReason">
+        <source></source>
+        <translation>Dowiązanie do pliku prowadzi z powrotem do siebie.</translation>
+    </message>
+    <message id="kLoadingProblem">
+        <source></source>
+        <translation>Nie można otworzyć listy kanałów.</translation>
+    </message>
+    <message id="kMenuAbout">
+        <source></source>
+        <translation>&amp;O programie Quillet</translation>
+    </message>
+    <message id="kMenuAnalogue">
+        <source></source>
+        <translation>Ana&amp;logowe</translation>
+    </message>
+    <message id="kMenuAntenna">
+        <source></source>
+        <translation>&amp;Antena</translation>
+    </message>
+    <message id="kMenuApplyOrder">
+        <source></source>
+        <translation>Zastosuj &amp;kolejność…</translation>
+    </message>
+    <message id="kMenuCable">
+        <source></source>
+        <translation>&amp;Kabel</translation>
+    </message>
+    <message id="kMenuClose">
+        <source></source>
+        <translation>Za&amp;mknij</translation>
+    </message>
+    <message id="kMenuEdit">
+        <source></source>
+        <translation>&amp;Edycja</translation>
+    </message>
+    <message id="kMenuExport">
+        <source></source>
+        <translation>&amp;Eksportuj jako listę wzorcową…</translation>
+    </message>
+    <message id="kMenuFile">
+        <source></source>
+        <translation>&amp;Plik</translation>
+    </message>
+    <message id="kMenuFillGaps">
+        <source></source>
+        <translation>Wypełniaj &amp;luki</translation>
+    </message>
+    <message id="kMenuFilterAll">
+        <source></source>
+        <translation>Wszystkie t&amp;ypy</translation>
+    </message>
+    <message id="kMenuFilterHD">
+        <source></source>
+        <translation>&amp;HD</translation>
+    </message>
+    <message id="kMenuFilterOther">
+        <source></source>
+        <translation>I&amp;nne</translation>
+    </message>
+    <message id="kMenuFilterSD">
+        <source></source>
+        <translation>S&amp;D</translation>
+    </message>
+    <message id="kMenuFilterTV">
+        <source></source>
+        <translation>Tylko T&amp;V</translation>
+    </message>
+    <message id="kMenuFilterUHD">
+        <source></source>
+        <translation>&amp;UHD</translation>
+    </message>
+    <message id="kMenuFind">
+        <source></source>
+        <translation>&amp;Znajdź</translation>
+    </message>
+    <message id="kMenuGuide">
+        <source></source>
+        <translation>&amp;Pomoc programu Quillet</translation>
+    </message>
+    <message id="kMenuHelp">
+        <source></source>
+        <translation>Pomo&amp;c</translation>
+    </message>
+    <message id="kMenuInfo">
+        <source></source>
+        <translation>&amp;Informacje o kanale</translation>
+    </message>
+    <message id="kMenuLock">
+        <source></source>
+        <translation>&amp;Blokada rodzicielska</translation>
+    </message>
+    <message id="kMenuMoveTo">
+        <source></source>
+        <translation>Prze&amp;nieś do…</translation>
+    </message>
+    <message id="kMenuNew">
+        <source></source>
+        <translation>&amp;Nowy</translation>
+    </message>
+    <message id="kMenuOpen">
+        <source></source>
+        <translation>&amp;Otwórz…</translation>
+    </message>
+    <message id="kMenuOpenRecent">
+        <source></source>
+        <translation>Ostatnio &amp;używane</translation>
+    </message>
+    <message id="kMenuPrint">
+        <source></source>
+        <translation>&amp;Drukuj…</translation>
+    </message>
+    <message id="kMenuQuit">
+        <source></source>
+        <translation>Za&amp;kończ</translation>
+    </message>
+    <message id="kMenuRadio">
+        <source></source>
+        <translation>Stacje &amp;radiowe</translation>
+    </message>
+    <message id="kMenuRevert">
+        <source></source>
+        <translation>P&amp;rzywróć zapisaną wersję</translation>
+    </message>
+    <message id="kMenuSatellite">
+        <source></source>
+        <translation>&amp;Satelita</translation>
+    </message>
+    <message id="kMenuSave">
+        <source></source>
+        <translation>&amp;Zapisz</translation>
+    </message>
+    <message id="kMenuSkip">
+        <source></source>
+        <translation>&amp;Pomijaj</translation>
+    </message>
+    <message id="kMenuTV">
+        <source></source>
+        <translation>Kanały &amp;TV</translation>
+    </message>
+    <message id="kMenuView">
+        <source></source>
+        <translation>&amp;Widok</translation>
+    </message>
+    <message id="kMoveTo">
+        <source></source>
+        <translation>Prze&amp;nieś do…</translation>
+    </message>
+    <message id="kMoveToTip">
+        <source></source>
+        <translation>Nadaj wybranym kanałom nowe numery</translation>
+    </message>
+    <message id="kMovingMessage">
+        <source></source>
+        <translation>Przenieś wybrane kanały na numer (od 1 do 9999):</translation>
+    </message>
+    <message id="kMovingOK">
+        <source></source>
+        <translation>Przenieś</translation>
+    </message>
+    <message id="kNoMatches">
+        <source></source>
+        <translation>Żaden kanał nie pasuje do wyszukiwania i typu.</translation>
+    </message>
+    <message id="kNotAFileReason">
+        <source></source>
+        <translation>„%1” nie jest zwykłym plikiem.</translation>
+    </message>
+    <message id="kNotALocalFileReason">
+        <source></source>
+        <translation>Można otwierać tylko pliki z tego komputera.</translation>
+    </message>
+    <message id="kOK">
+        <source></source>
+        <translation>OK</translation>
+    </message>
+    <message id="kOpenFailedMessage">
+        <source></source>
+        <translation>Nie można otworzyć pliku „%1”.</translation>
+    </message>
+    <message id="kOpenTitle">
+        <source></source>
+        <translation>Otwórz listę kanałów</translation>
+    </message>
+    <message id="kPageOf">
+        <source></source>
+        <translation>Strona %1 z %2</translation>
+    </message>
+    <message id="kPermissionsFailedReason">
+        <source></source>
+        <translation>Nie można zachować uprawnień dostępu do pliku: %1</translation>
+    </message>
+    <message id="kRadio">
+        <source></source>
+        <translation>&amp;Radio</translation>
+    </message>
+    <message id="kReadBackFailedReason">
+        <source></source>
+        <translation>Nie można sprawdzić nowego pliku: %1</translation>
+    </message>
+    <message id="kRecentFileMissingMessage">
+        <source></source>
+        <translation>%1 już nie istnieje.</translation>
+    </message>
+    <message id="kReplace">
+        <source></source>
+        <translation>Zastąp</translation>
+    </message>
+    <message id="kReplaceDetail">
+        <source></source>
+        <translation>Zawiera niezapisane zmiany na listach, które nie są teraz wyświetlane. Otwarcie upuszczonego pliku spowoduje ich utratę.</translation>
+    </message>
+    <message id="kReplaceFailedReason">
+        <source></source>
+        <translation>Nowy plik nie mógł zastąpić starego: %1</translation>
+    </message>
+    <message id="kReplaceMessage">
+        <source></source>
+        <translation>Zastąpić listę kanałów „%1”?</translation>
+    </message>
+    <message id="kRevert">
+        <source></source>
+        <translation>Przywróć</translation>
+    </message>
+    <message id="kRevertFailedMessage">
+        <source></source>
+        <translation>Nie można ponownie odczytać pliku „%1”. Twoje zmiany nadal tu są.</translation>
+    </message>
+    <message id="kRevertMessage">
+        <source></source>
+        <translation>Czy chcesz przywrócić ostatnio zapisaną wersję pliku „%1”?</translation>
+    </message>
+    <message id="kRevertText">
+        <source></source>
+        <translation>Wszystkie zmiany wprowadzone od tego czasu zostaną utracone.</translation>
+    </message>
+    <message id="kSatellite">
+        <source></source>
+        <translation>Satelita</translation>
+    </message>
+    <message id="kSave">
+        <source></source>
+        <translation>Zapisz</translation>
+    </message>
+    <message id="kSaveAnyway">
+        <source></source>
+        <translation>Zapisz mimo to</translation>
+    </message>
+    <message id="kSaveChangesMessage">
+        <source></source>
+        <translation>Czy chcesz zapisać zmiany w pliku „%1”?</translation>
+    </message>
+    <message id="kSaveChangesText">
+        <source></source>
+        <translation>Jeśli nie zapiszesz zmian, zostaną utracone.</translation>
+    </message>
+    <message id="kSaveFailedMessage">
+        <source></source>
+        <translation>Nie można zapisać pliku „%1”. Plik na dysku nie został zmieniony.</translation>
+    </message>
+    <message id="kSearchPlaceholder">
+        <source></source>
+        <translation>Nazwa kanału</translation>
+    </message>
+    <message id="kSearchTitle">
+        <source></source>
+        <translation>&amp;Szukaj:</translation>
+    </message>
+    <message id="kSortStatistics">
+        <source></source>
+        <translation>Kanały dopasowane: %1
+Kanały niedopasowane: %2
+Te następują od numeru: %3</translation>
+    </message>
+    <message id="kSortTitle">
+        <source></source>
+        <translation>Zastosowano kolejność z pliku „%1”.</translation>
+    </message>
+    <message id="kSource">
+        <source></source>
+        <translation>Źródło</translation>
+    </message>
+    <message id="kStations" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>kanał</numerusform>
+            <numerusform>kanały</numerusform>
+            <numerusform>kanałów</numerusform>
+        </translation>
+    </message>
+    <message id="kStationTable">
+        <source></source>
+        <translation>Kanały</translation>
+    </message>
+    <message id="kTipFilterTVOnly">
+        <source></source>
+        <translation>Typy można wybierać tylko dla kanałów TV</translation>
+    </message>
+    <message id="kTipNoStations">
+        <source></source>
+        <translation>Otwórz listę lub wybierz źródło, które zawiera kanały</translation>
+    </message>
+    <message id="kTipNoStationsInSource">
+        <source></source>
+        <translation>Dla plików, które zawierają kanały z tego źródła</translation>
+    </message>
+    <message id="kTipSelectFirst">
+        <source></source>
+        <translation>Najpierw wybierz kanały na liście</translation>
+    </message>
+    <message id="kTV">
+        <source></source>
+        <translation>&amp;TV</translation>
+    </message>
+    <message id="kTypeFilter">
+        <source></source>
+        <translation>Typ</translation>
+    </message>
+    <message id="kUntitled">
+        <source></source>
+        <translation>Bez nazwy</translation>
+    </message>
+    <message id="kWriteFailedReason">
+        <source></source>
+        <translation>Dysk nie przyjął całego pliku: %1</translation>
+    </message>
+    <message id="kWriteProtectedReason">
+        <source></source>
+        <translation>Plik „%1” jest chroniony przed zapisem.</translation>
+    </message>
+    <message id="matches" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>wynik</numerusform>
+            <numerusform>wyniki</numerusform>
+            <numerusform>wyników</numerusform>
+        </translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,605 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="tr" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="Bad file format">
+        <source></source>
+        <translation>Geçersiz dosya biçimi</translation>
+    </message>
+    <message id="HELP_TITLE">
+        <source></source>
+        <translation>Quillet Yardımı</translation>
+    </message>
+    <message id="kAboutLibraries">
+        <source></source>
+        <translation>%1 ile geliştirildi.</translation>
+    </message>
+    <message id="kAboutLicence">
+        <source></source>
+        <translation>Telif hakkı 2026 Quillet yazarları. MIT lisansı ile dağıtılan özgür yazılım.</translation>
+    </message>
+    <message id="kAboutPurpose">
+        <source></source>
+        <translation>LG televizyonların kanal listelerini sıralar.</translation>
+    </message>
+    <message id="kAboutTitle">
+        <source></source>
+        <translation>Quillet Hakkında</translation>
+    </message>
+    <message id="kAboutVersion">
+        <source></source>
+        <translation>Sürüm %1</translation>
+    </message>
+    <message id="kAnalogue">
+        <source></source>
+        <translation>Analog</translation>
+    </message>
+    <message id="kAntenna">
+        <source></source>
+        <translation>Anten</translation>
+    </message>
+    <message id="kApplyOrder">
+        <source></source>
+        <translation>&amp;Sırayı Uygula…</translation>
+    </message>
+    <message id="kApplyOrderTip">
+        <source></source>
+        <translation>Bu listeyi başka bir listenin sırasına koy</translation>
+    </message>
+    <message id="kApplyOrderTitle">
+        <source></source>
+        <translation>Referans Listesi Seç</translation>
+    </message>
+    <message id="kBad_file_type">
+        <source></source>
+        <translation>Bu türdeki dosyalar kullanılamaz</translation>
+    </message>
+    <message id="kCable">
+        <source></source>
+        <translation>Kablo</translation>
+    </message>
+    <message id="kCancel">
+        <source></source>
+        <translation>İptal</translation>
+    </message>
+    <message id="kChangedOnDiskMessage">
+        <source></source>
+        <translation>“%1” başka bir program tarafından değiştirildi.</translation>
+    </message>
+    <message id="kChangedOnDiskText">
+        <source></source>
+        <translation>Şimdi kaydederseniz diğer programın yaptığı değişiklikler kaybolur.</translation>
+    </message>
+    <message id="kClearMenu">
+        <source></source>
+        <translation>Menüyü Temizle</translation>
+    </message>
+    <message id="kColumnBlocked">
+        <source></source>
+        <translation>Kilit</translation>
+    </message>
+    <message id="kColumnName">
+        <source></source>
+        <translation>Ad</translation>
+    </message>
+    <message id="kColumnNumber">
+        <source></source>
+        <translation>No.</translation>
+    </message>
+    <message id="kColumnSkipped">
+        <source></source>
+        <translation>Atla</translation>
+    </message>
+    <message id="kColumnType">
+        <source></source>
+        <translation>Tür</translation>
+    </message>
+    <message id="kCompareFailedReason">
+        <source></source>
+        <translation>Disk, yazılanı saklamadı. Dolu veya hasarlı olabilir.</translation>
+    </message>
+    <message id="kContentUnknownReason">
+        <source></source>
+        <translation>Dosya boş ya da bir kanal listesi değil.</translation>
+    </message>
+    <message id="kCreateFailedReason">
+        <source></source>
+        <translation>“%1” klasöründe yeni dosya oluşturulamadı: %2</translation>
+    </message>
+    <message id="kDeviceTitle">
+        <source></source>
+        <translation>Televizyon:</translation>
+    </message>
+    <message id="kDontSave">
+        <source></source>
+        <translation>Kaydetme</translation>
+    </message>
+    <message id="kExportTitle">
+        <source></source>
+        <translation>Referans Listesi Olarak Dışa Aktar</translation>
+    </message>
+    <message id="kFileMissingReason">
+        <source></source>
+        <translation>“%1” konumunda dosya yok.</translation>
+    </message>
+    <message id="kFileName">
+        <source></source>
+        <translation>Dosya</translation>
+    </message>
+    <message id="kFileTooLargeReason">
+        <source></source>
+        <translation>Dosya, kanal listesi olamayacak kadar büyük.</translation>
+    </message>
+    <message id="kFileUnreadableReason">
+        <source></source>
+        <translation>Dosya okunamadı: %1</translation>
+    </message>
+    <message id="kFillGaps">
+        <source></source>
+        <translation>Boş&amp;lukları doldur</translation>
+    </message>
+    <message id="kFillGapsTip">
+        <source></source>
+        <translation>Listeyi şimdi ve her taşımadan sonra boşluksuz olarak 1, 2, 3… diye numarala</translation>
+    </message>
+    <message id="kFilterAll">
+        <source></source>
+        <translation>Tüm türler</translation>
+    </message>
+    <message id="kFilterAllFiles">
+        <source></source>
+        <translation>Tüm dosyalar</translation>
+    </message>
+    <message id="kFilterChannelLists">
+        <source></source>
+        <translation>Kanal listeleri</translation>
+    </message>
+    <message id="kFilterHD">
+        <source></source>
+        <translation>HD</translation>
+    </message>
+    <message id="kFilterOther">
+        <source></source>
+        <translation>Diğer</translation>
+    </message>
+    <message id="kFilterReferenceLists">
+        <source></source>
+        <translation>Referans listeleri</translation>
+    </message>
+    <message id="kFilterSD">
+        <source></source>
+        <translation>SD</translation>
+    </message>
+    <message id="kFilterTextFiles">
+        <source></source>
+        <translation>Metin dosyaları</translation>
+    </message>
+    <message id="kFilterTV">
+        <source></source>
+        <translation>TV</translation>
+    </message>
+    <message id="kFilterUHD">
+        <source></source>
+        <translation>UHD</translation>
+    </message>
+    <message id="kHelpBack">
+        <source></source>
+        <translation>Geri</translation>
+    </message>
+    <message id="kHelpForward">
+        <source></source>
+        <translation>İleri</translation>
+    </message>
+    <message id="kHelpHome">
+        <source></source>
+        <translation>Başlangıç Sayfası</translation>
+    </message>
+    <message id="kHelpOpenInBrowser">
+        <source></source>
+        <translation>Tarayıcıda Aç</translation>
+    </message>
+    <message id="kHelpOpenInChrome">
+        <source></source>
+        <translation>Chrome’da Aç</translation>
+    </message>
+    <message id="kHelpToolbar">
+        <source></source>
+        <translation>Gezinme</translation>
+    </message>
+    <message id="kHintNoFile">
+        <source></source>
+        <translation>Açık kanal listesi yok</translation>
+    </message>
+    <message id="kHintNoFileDetail">
+        <source></source>
+        <translation>Televizyonunuzdan bir TLL dosyasını buraya bırakın veya bir dosya seçin.</translation>
+    </message>
+    <message id="kHintNoRadioStations">
+        <source></source>
+        <translation>Bu kaynakta radyo kanalı yok</translation>
+    </message>
+    <message id="kHintNoStations">
+        <source></source>
+        <translation>Kanal yok</translation>
+    </message>
+    <message id="kHintNoStationsDetail">
+        <source></source>
+        <translation>Bu dosyada kanal yok. Buraya başka bir TLL dosyası bırakabilirsiniz.</translation>
+    </message>
+    <message id="kHintNoTVStations">
+        <source></source>
+        <translation>Bu kaynakta TV kanalı yok</translation>
+    </message>
+    <message id="kHintOpen">
+        <source></source>
+        <translation>Dosya aç…</translation>
+    </message>
+    <message id="kHintShowRadio">
+        <source></source>
+        <translation>Radyo kanallarını göster</translation>
+    </message>
+    <message id="kHintShowTV">
+        <source></source>
+        <translation>TV kanallarını göster</translation>
+    </message>
+    <message id="kInfo">
+        <source></source>
+        <translation>&amp;Bilgi…</translation>
+    </message>
+    <message id="kInfoContent">
+        <source></source>
+        <translation>İçerik</translation>
+    </message>
+    <message id="kInfoField">
+        <source></source>
+        <translation>Alan</translation>
+    </message>
+    <message id="kInfoTable">
+        <source></source>
+        <translation>Kanalın alanları</translation>
+    </message>
+    <message id="kInfoTip">
+        <source></source>
+        <translation>Seçili kanalın tüm alanlarını göster</translation>
+    </message>
+    <message id="kIsAFolderReason">
+        <source></source>
+        <translation>“%1” bir klasör.</translation>
+    </message>
+    <message id="kLinkCircleReason">
+        <source></source>
+        <translation>Dosya bağlantısı kendisine geri dönüyor.</translation>
+    </message>
+    <message id="kLoadingProblem">
+        <source></source>
+        <translation>Kanal listesi açılamadı.</translation>
+    </message>
+    <message id="kMenuAbout">
+        <source></source>
+        <translation>Quillet &amp;Hakkında</translation>
+    </message>
+    <message id="kMenuAnalogue">
+        <source></source>
+        <translation>Ana&amp;log</translation>
+    </message>
+    <message id="kMenuAntenna">
+        <source></source>
+        <translation>&amp;Anten</translation>
+    </message>
+    <message id="kMenuApplyOrder">
+        <source></source>
+        <translation>&amp;Sırayı Uygula…</translation>
+    </message>
+    <message id="kMenuCable">
+        <source></source>
+        <translation>&amp;Kablo</translation>
+    </message>
+    <message id="kMenuClose">
+        <source></source>
+        <translation>Ka&amp;pat</translation>
+    </message>
+    <message id="kMenuEdit">
+        <source></source>
+        <translation>Dü&amp;zen</translation>
+    </message>
+    <message id="kMenuExport">
+        <source></source>
+        <translation>Referans Listesi Olarak Dışa Akta&amp;r…</translation>
+    </message>
+    <message id="kMenuFile">
+        <source></source>
+        <translation>&amp;Dosya</translation>
+    </message>
+    <message id="kMenuFillGaps">
+        <source></source>
+        <translation>Boş&amp;lukları Doldur</translation>
+    </message>
+    <message id="kMenuFilterAll">
+        <source></source>
+        <translation>Tü&amp;m Türler</translation>
+    </message>
+    <message id="kMenuFilterHD">
+        <source></source>
+        <translation>&amp;HD</translation>
+    </message>
+    <message id="kMenuFilterOther">
+        <source></source>
+        <translation>Diğ&amp;er</translation>
+    </message>
+    <message id="kMenuFilterSD">
+        <source></source>
+        <translation>S&amp;D</translation>
+    </message>
+    <message id="kMenuFilterTV">
+        <source></source>
+        <translation>Yalnızca T&amp;V</translation>
+    </message>
+    <message id="kMenuFilterUHD">
+        <source></source>
+        <translation>&amp;UHD</translation>
+    </message>
+    <message id="kMenuFind">
+        <source></source>
+        <translation>B&amp;ul</translation>
+    </message>
+    <message id="kMenuGuide">
+        <source></source>
+        <translation>Quillet &amp;Yardımı</translation>
+    </message>
+    <message id="kMenuHelp">
+        <source></source>
+        <translation>&amp;Yardım</translation>
+    </message>
+    <message id="kMenuInfo">
+        <source></source>
+        <translation>Kanal &amp;Bilgisi</translation>
+    </message>
+    <message id="kMenuLock">
+        <source></source>
+        <translation>Çocuk &amp;Kilidi</translation>
+    </message>
+    <message id="kMenuMoveTo">
+        <source></source>
+        <translation>&amp;Numaraya Taşı…</translation>
+    </message>
+    <message id="kMenuNew">
+        <source></source>
+        <translation>&amp;Yeni</translation>
+    </message>
+    <message id="kMenuOpen">
+        <source></source>
+        <translation>&amp;Aç…</translation>
+    </message>
+    <message id="kMenuOpenRecent">
+        <source></source>
+        <translation>&amp;Son Kullanılanlar</translation>
+    </message>
+    <message id="kMenuPrint">
+        <source></source>
+        <translation>Ya&amp;zdır…</translation>
+    </message>
+    <message id="kMenuQuit">
+        <source></source>
+        <translation>Çı&amp;kış</translation>
+    </message>
+    <message id="kMenuRadio">
+        <source></source>
+        <translation>&amp;Radyo Kanalları</translation>
+    </message>
+    <message id="kMenuRevert">
+        <source></source>
+        <translation>Kaydedilmiş Sürüme Dö&amp;n</translation>
+    </message>
+    <message id="kMenuSatellite">
+        <source></source>
+        <translation>U&amp;ydu</translation>
+    </message>
+    <message id="kMenuSave">
+        <source></source>
+        <translation>Kay&amp;det</translation>
+    </message>
+    <message id="kMenuSkip">
+        <source></source>
+        <translation>&amp;Atla</translation>
+    </message>
+    <message id="kMenuTV">
+        <source></source>
+        <translation>&amp;TV Kanalları</translation>
+    </message>
+    <message id="kMenuView">
+        <source></source>
+        <translation>&amp;Görünüm</translation>
+    </message>
+    <message id="kMoveTo">
+        <source></source>
+        <translation>&amp;Numaraya Taşı…</translation>
+    </message>
+    <message id="kMoveToTip">
+        <source></source>
+        <translation>Seçili kanallara yeni numaralar ver</translation>
+    </message>
+    <message id="kMovingMessage">
+        <source></source>
+        <translation>Seçili kanalların taşınacağı numara (1–9999):</translation>
+    </message>
+    <message id="kMovingOK">
+        <source></source>
+        <translation>Taşı</translation>
+    </message>
+    <message id="kNoMatches">
+        <source></source>
+        <translation>Aramaya ve türe uyan kanal yok.</translation>
+    </message>
+    <message id="kNotAFileReason">
+        <source></source>
+        <translation>“%1” sıradan bir dosya değil.</translation>
+    </message>
+    <message id="kNotALocalFileReason">
+        <source></source>
+        <translation>Yalnızca bu bilgisayardaki dosyalar açılabilir.</translation>
+    </message>
+    <message id="kOK">
+        <source></source>
+        <translation>Tamam</translation>
+    </message>
+    <message id="kOpenFailedMessage">
+        <source></source>
+        <translation>“%1” açılamadı.</translation>
+    </message>
+    <message id="kOpenTitle">
+        <source></source>
+        <translation>Kanal Listesi Aç</translation>
+    </message>
+    <message id="kPageOf">
+        <source></source>
+        <translation>Sayfa %1 / %2</translation>
+    </message>
+    <message id="kPermissionsFailedReason">
+        <source></source>
+        <translation>Dosyanın erişim izinleri korunamadı: %1</translation>
+    </message>
+    <message id="kRadio">
+        <source></source>
+        <translation>&amp;Radyo</translation>
+    </message>
+    <message id="kReadBackFailedReason">
+        <source></source>
+        <translation>Yeni dosya denetlenemedi: %1</translation>
+    </message>
+    <message id="kRecentFileMissingMessage">
+        <source></source>
+        <translation>%1 artık yerinde değil.</translation>
+    </message>
+    <message id="kReplace">
+        <source></source>
+        <translation>Değiştir</translation>
+    </message>
+    <message id="kReplaceDetail">
+        <source></source>
+        <translation>Gösterilmeyen listelerde kaydedilmemiş değişiklikler var. Bırakılan dosya burada açılırsa bu değişiklikler kaybolur.</translation>
+    </message>
+    <message id="kReplaceFailedReason">
+        <source></source>
+        <translation>Yeni dosya eskisinin yerini alamadı: %1</translation>
+    </message>
+    <message id="kReplaceMessage">
+        <source></source>
+        <translation>“%1” kanal listesi değiştirilsin mi?</translation>
+    </message>
+    <message id="kRevert">
+        <source></source>
+        <translation>Geri Dön</translation>
+    </message>
+    <message id="kRevertFailedMessage">
+        <source></source>
+        <translation>“%1” yeniden okunamadı. Değişiklikleriniz hâlâ duruyor.</translation>
+    </message>
+    <message id="kRevertMessage">
+        <source></source>
+        <translation>“%1” dosyasının son kaydedilen sürümüne dönmek istiyor musunuz?</translation>
+    </message>
+    <message id="kRevertText">
+        <source></source>
+        <translation>O zamandan beri yaptığınız tüm değişiklikler kaybolur.</translation>
+    </message>
+    <message id="kSatellite">
+        <source></source>
+        <translation>Uydu</translation>
+    </message>
+    <message id="kSave">
+        <source></source>
+        <translation>Kaydet</translation>
+    </message>
+    <message id="kSaveAnyway">
+        <source></source>
+        <translation>Yine de Kaydet</translation>
+    </message>
+    <message id="kSaveChangesMessage">
+        <source></source>
+        <translation>“%1” dosyasındaki değişiklikleri kaydetmek istiyor musunuz?</translation>
+    </message>
+    <message id="kSaveChangesText">
+        <source></source>
+        <translation>Kaydetmezseniz değişiklikleriniz kaybolur.</translation>
+    </message>
+    <message id="kSaveFailedMessage">
+        <source></source>
+        <translation>“%1” kaydedilemedi. Diskteki dosya değiştirilmedi.</translation>
+    </message>
+    <message id="kSearchPlaceholder">
+        <source></source>
+        <translation>Kanal adı</translation>
+    </message>
+    <message id="kSearchTitle">
+        <source></source>
+        <translation>&amp;Ara:</translation>
+    </message>
+    <message id="kSortStatistics">
+        <source></source>
+        <translation>Eşleşen kanal: %1
+Eşleşmeyen kanal: %2
+Bunların devam ettiği numara: %3</translation>
+    </message>
+    <message id="kSortTitle">
+        <source></source>
+        <translation>“%1” dosyasının sırası uygulandı.</translation>
+    </message>
+    <message id="kSource">
+        <source></source>
+        <translation>Kaynak</translation>
+    </message>
+    <message id="kStations" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>kanal</numerusform>
+        </translation>
+    </message>
+    <message id="kStationTable">
+        <source></source>
+        <translation>Kanallar</translation>
+    </message>
+    <message id="kTipFilterTVOnly">
+        <source></source>
+        <translation>Türler yalnızca TV kanalları için seçilebilir</translation>
+    </message>
+    <message id="kTipNoStations">
+        <source></source>
+        <translation>Kanal içeren bir liste açın veya kanal içeren bir kaynak seçin</translation>
+    </message>
+    <message id="kTipNoStationsInSource">
+        <source></source>
+        <translation>Bu kaynaktan kanalları olan dosyalar için</translation>
+    </message>
+    <message id="kTipSelectFirst">
+        <source></source>
+        <translation>Önce listeden kanal seçin</translation>
+    </message>
+    <message id="kTV">
+        <source></source>
+        <translation>&amp;TV</translation>
+    </message>
+    <message id="kTypeFilter">
+        <source></source>
+        <translation>Tür</translation>
+    </message>
+    <message id="kUntitled">
+        <source></source>
+        <translation>Adsız</translation>
+    </message>
+    <message id="kWriteFailedReason">
+        <source></source>
+        <translation>Disk, dosyanın tamamını almadı: %1</translation>
+    </message>
+    <message id="kWriteProtectedReason">
+        <source></source>
+        <translation>“%1” yazmaya karşı korumalı.</translation>
+    </message>
+    <message id="matches" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>eşleşme</numerusform>
+        </translation>
+    </message>
+</context>
+</TS>

@@ -15,6 +15,8 @@ namespace quillet {
 
 namespace {
 
+constexpr int iconSize = 64; // one that the icon was drawn for, so that it stays sharp
+
 QString paragraph(const QString &text)
 {
     return QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped());
@@ -42,7 +44,7 @@ AboutWindow::AboutWindow(QWidget *parent) : QDialog(parent)
     setWindowTitle(qtTrId("kAboutTitle"));
 
     auto *picture = new QLabel;
-    picture->setPixmap(QApplication::windowIcon().pixmap(fontMetrics().height() * 5));
+    picture->setPixmap(QApplication::windowIcon().pixmap(iconSize));
     picture->setAlignment(Qt::AlignCenter);
     auto *text = new QLabel;
     text->setAlignment(Qt::AlignCenter);
@@ -58,6 +60,7 @@ AboutWindow::AboutWindow(QWidget *parent) : QDialog(parent)
             this, &QDialog::accept);
 
     auto *rows = new QVBoxLayout(this);
+    rows->setSizeConstraint(QLayout::SetFixedSize); // the text is always shown whole
     rows->setSpacing(12);
     rows->addWidget(picture);
     rows->addWidget(text);

@@ -12,6 +12,18 @@
 
 using namespace quillet;
 
+namespace {
+
+QIcon applicationIcon()
+{
+    QIcon icon;
+    for (const int size : {16, 24, 32, 48, 64, 128, 256})
+        icon.addFile(QStringLiteral(":/icons/quillet-%1.png").arg(size));
+    return icon;
+}
+
+} // namespace
+
 int main(int argc, char *argv[])
 {
     QCoreApplication::setApplicationName(QStringLiteral("Quillet"));
@@ -43,7 +55,7 @@ int main(int argc, char *argv[])
     }
     QApplication::setApplicationDisplayName(QStringLiteral("Quillet"));
     QApplication::setDesktopFileName(QStringLiteral("quillet"));
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/quillet.png")));
+    QApplication::setWindowIcon(applicationIcon());
     installTranslations(line.language);
     if (!line.snapshot.isEmpty()) {
         if (line.isDark)

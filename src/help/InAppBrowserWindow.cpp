@@ -4,9 +4,11 @@
 #include "help/SystemServices.h"
 
 #include <QAction>
+#include <QIcon>
+#include <QPalette>
 #include <QSettings>
-#include <QStyle>
 #include <QToolBar>
+#include <QWebEnginePage>
 #include <QWebEngineView>
 
 #include <array>
@@ -24,23 +26,34 @@ struct ToolbarItem
 {
     const char *name;
     const char *title; ///< id of the localized text
-    QStyle::StandardPixmap icon;
-    Qt::Key key; ///< with Alt; Key_unknown: none
+    const char *icon;  ///< its name in the desktop's icon theme; null: none
+    Qt::Key key;       ///< with Alt; Key_unknown: none
     void (InAppBrowserWindow::*perform)();
 };
 
 constexpr std::array toolbarItems{
-    ToolbarItem{"goBack", "kHelpBack", QStyle::SP_ArrowBack, Qt::Key_Left,
-                &InAppBrowserWindow::goBack},
-    ToolbarItem{"goForward", "kHelpForward", QStyle::SP_ArrowForward, Qt::Key_Right,
+    ToolbarItem{"goBack", "kHelpBack", "go-previous", Qt::Key_Left, &InAppBrowserWindow::goBack},
+    ToolbarItem{"goForward", "kHelpForward", "go-next", Qt::Key_Right,
                 &InAppBrowserWindow::goForward},
-    ToolbarItem{"goHome", "kHelpHome", QStyle::SP_DirHomeIcon, Qt::Key_Home,
-                &InAppBrowserWindow::goHome},
-    ToolbarItem{"openInBrowser", "kHelpOpenInBrowser", QStyle::SP_DesktopIcon, Qt::Key_unknown,
+    ToolbarItem{"goHome", "kHelpHome", "go-home", Qt::Key_Home, &InAppBrowserWindow::goHome},
+    ToolbarItem{"openInBrowser", "kHelpOpenInBrowser", nullptr, Qt::Key_unknown,
                 &InAppBrowserWindow::openInBrowser},
-    ToolbarItem{"chrome", "kHelpOpenInChrome", QStyle::SP_ComputerIcon, Qt::Key_unknown,
+    ToolbarItem{"chrome", "kHelpOpenInChrome", nullptr, Qt::Key_unknown,
                 &InAppBrowserWindow::openInChrome},
 };
+
+/// Has the engine show pages dark where the desktop is dark, which Qt 6.4 does not tell it. It
+/// reads this once, before its first page.
+void followColours(const QPalette &palette)
+{
+    const bool isDark = palette.color(QPalette::Window).lightness() <
+                        palette.color(QPalette::WindowText).lightness();
+    const char *const variable = "QTWEBENGINE_CHROMIUM_FLAGS";
+    const QByteArray flag = "--force-dark-mode";
+    const QByteArray flags = qgetenv(variable);
+    if (isDark && !flags.contains(flag))
+        qputenv(variable, flags + ' ' + flag);
+}
 
 } // namespace
 
@@ -48,9 +61,12 @@ InAppBrowserWindow::InAppBrowserWindow(SystemServices &services)
     : m_services(services), m_controller(nullptr), m_toolbar(addToolBar(qtTrId("kHelpToolbar")))
 {
     setObjectName(QStringLiteral("helpWindow"));
+    followColours(palette());
     auto *container = new QWidget;
     setCentralWidget(container);
     m_controller = new InAppBrowserController(*container, services, this);
+    // No flash of white before the first page of a dark window.
+    m_controller->webView().page()->setBackgroundColor(palette().color(QPalette::Base));
     makeToolbar();
     connect(m_controller, &InAppBrowserController::historyChanged, this,
             &InAppBrowserWindow::validateToolbar);
@@ -68,14 +84,15 @@ void InAppBrowserWindow::makeToolbar()
     m_toolbar->setMovable(false);
     m_toolbar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     for (const ToolbarItem &item : toolbarItems) {
-        QAction *action = m_toolbar->addAction(style()->standardIcon(item.icon), qtTrId(item.title),
-                                               this, item.perform);
+        QAction *action = m_toolbar->addAction(qtTrId(item.title), this, item.perform);
+        if (item.icon)
+            action->setIcon(QIcon::fromTheme(QLatin1String(item.icon)));
         action->setObjectName(QLatin1String(item.name));
         if (item.key != Qt::Key_unknown)
             action->setShortcut(Qt::ALT | item.key);
     }
     auto *close = new QAction(this);
-    close->setShortcut(QKeySequence::Close);
+    close->setShortcut(Qt::CTRL | Qt::Key_W);
     connect(close, &QAction::triggered, this, &QWidget::close);
     addAction(close);
 }
@@ -138,7 +155,7 @@ void InAppBrowserWindow::restoreFrame()
 {
     const int line = fontMetrics().height();
     if (!restoreGeometry(QSettings().value(frameKey()).toByteArray()))
-        resize(56 * line, 44 * line);
+        resize(66 * line, 48 * line);
 }
 
 void InAppBrowserWindow::closeEvent(QCloseEvent *event)

@@ -1,0 +1,414 @@
+#include "help/InAppBrowserController.h"
+#include "help/InAppBrowserWindow.h"
+#include "help/SystemServices.h"
+#include "testing/TestMain.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QMessageBox>
+#include <QPointer>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <QWebEnginePage>
+#include <QWebEngineView>
+#include <qtwebenginequickglobal.h>
+
+#include <memory>
+#include <utility>
+
+using namespace quillet;
+
+namespace {
+
+constexpr int patience = 15'000; // milliseconds; the engine's first page takes a while
+
+const QString givenTitle = QStringLiteral("The Guide");
+
+class FakeServices : public SystemServices
+{
+public:
+    void openUrl(const QUrl &url) override { opened.append(url); }
+    void openUrlWith(const QUrl &url, const QString &application) override
+    {
+        openedWith.append({url, application});
+    }
+    [[nodiscard]] std::optional<QString> findChrome() const override { return chrome; }
+
+    std::optional<QString> chrome;
+    QList<QUrl> opened;
+    QList<std::pair<QUrl, QString>> openedWith;
+};
+
+QUrl guidePage(const QString &name)
+{
+    return QUrl::fromLocalFile(QStringLiteral(QUILLET_GUIDE "/") + name);
+}
+
+void write(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("no file could be made for the test");
+}
+
+/// A folder with a guide of its own, and something beside it that is none of the guide's business.
+class SmallGuide
+{
+public:
+    SmallGuide() { QDir(m_folder.path()).mkpath(QStringLiteral("guide")); }
+
+    [[nodiscard]] QString path(const char *name) const
+    {
+        return QDir(m_folder.path()).canonicalPath() + QLatin1Char('/') + QLatin1String(name);
+    }
+    [[nodiscard]] QUrl url(const char *name) const { return QUrl::fromLocalFile(path(name)); }
+    [[nodiscard]] QUrl writePage(const char *name, const QByteArray &body) const
+    {
+        write(path(name), "<!DOCTYPE html><html><body>" + body + "</body></html>");
+        return url(name);
+    }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+class Window : public InAppBrowserWindow
+{
+public:
+    using InAppBrowserWindow::InAppBrowserWindow;
+
+    [[nodiscard]] QWebEngineView &view() const { return controller().webView(); }
+
+    /// Whether the page was loaded.
+    bool show(const QUrl &page)
+    {
+        return loads([this, &page] { showPage(page, givenTitle); });
+    }
+    bool load(const QUrl &page)
+    {
+        return loads([this, &page] { view().load(page); });
+    }
+    /// With the mouse: the engine does not go back to pages that a script alone has left.
+    void click(const char *selector)
+    {
+        const QString place = QStringLiteral("var r = document.querySelector('%1')"
+                                             ".getBoundingClientRect(); [r.x + 5, r.y + 5]");
+        const QVariantList found = run(place.arg(QLatin1String(selector))).toList();
+        QCOMPARE(found.size(), 2);
+        QVERIFY(view().focusProxy());
+        QTest::mouseClick(view().focusProxy(), Qt::LeftButton, {},
+                          QPoint(found[0].toInt(), found[1].toInt()));
+    }
+    QVariant run(const QString &script)
+    {
+        const auto result = std::make_shared<std::optional<QVariant>>();
+        view().page()->runJavaScript(script, [result](const QVariant &value) { *result = value; });
+        if (!QTest::qWaitFor([&result] { return result->has_value(); }, patience))
+            return {};
+        return **result;
+    }
+    [[nodiscard]] QAction &item(const char *name) const
+    {
+        auto *action = findChild<QAction *>(QLatin1String(name));
+        if (!action)
+            qFatal("the toolbar has no %s", name);
+        return *action;
+    }
+    [[nodiscard]] bool isEnabled(const char *name) const { return item(name).isEnabled(); }
+
+private:
+    template<typename Action>
+    bool loads(Action action)
+    {
+        QSignalSpy finished(&view(), &QWebEngineView::loadFinished);
+        action();
+        return finished.wait(patience) && finished.constLast().constFirst().toBool();
+    }
+};
+
+} // namespace
+
+/// The real help window with the web engine in it; only the desktop around it is not real.
+class HelpWindowTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QtWebEngineQuick::initialize(); }
+    void init() { QSettings().clear(); }
+
+    void loadsEveryPage_data()
+    {
+        QTest::addColumn<QString>("name");
+        const QStringList names =
+            QDir(QStringLiteral(QUILLET_GUIDE)).entryList({QStringLiteral("*.html")}, QDir::Files);
+        QVERIFY(!names.isEmpty());
+        for (const QString &name : names)
+            QTest::newRow(qPrintable(name)) << name;
+    }
+    void loadsEveryPage()
+    {
+        QFETCH(QString, name);
+        FakeServices services;
+        Window window(services);
+        window.resize(1000, 700);
+        QVERIFY(window.show(guidePage(QStringLiteral("index.html"))));
+        QVERIFY(window.load(guidePage(name)));
+
+        QCOMPARE(window.windowTitle(), givenTitle);
+        QVERIFY(window.view().title().endsWith(QLatin1String("Quillet Guide")));
+        QVERIFY(window.run(QStringLiteral("document.images.length")).toInt() > 0);
+        const QString missing = QStringLiteral("Array.from(document.images).filter(picture => "
+                                               "!picture.naturalWidth).map(picture => "
+                                               "picture.src).join()");
+        QCOMPARE(window.run(missing).toString(), QString());
+        // The style sheet has been read.
+        const QString layout = QStringLiteral("getComputedStyle(document.body).display");
+        QCOMPARE(window.run(layout).toString(), QStringLiteral("grid"));
+        QVERIFY(services.opened.isEmpty());
+    }
+
+    void enablesTheToolbar()
+    {
+        FakeServices services;
+        Window window(services);
+        const QUrl start = guidePage(QStringLiteral("index.html"));
+        const QUrl moving = guidePage(QStringLiteral("moving.html"));
+        QVERIFY(!window.isEnabled("goBack"));
+        QVERIFY(!window.isEnabled("goForward"));
+        QVERIFY(window.isEnabled("goHome"));
+        QVERIFY(window.isEnabled("openInBrowser"));
+
+        QVERIFY(window.show(start));
+        QVERIFY(!window.isEnabled("goBack"));
+        QVERIFY(!window.isEnabled("goForward"));
+
+        window.click("a[href=\"moving.html\"]");
+        QTRY_COMPARE_WITH_TIMEOUT(window.view().url(), moving, patience);
+        QTRY_VERIFY_WITH_TIMEOUT(window.isEnabled("goBack"), patience);
+        QVERIFY(!window.isEnabled("goForward"));
+
+        window.item("goBack").trigger();
+        QTRY_COMPARE_WITH_TIMEOUT(window.view().url(), start, patience);
+        QTRY_VERIFY_WITH_TIMEOUT(window.isEnabled("goForward"), patience);
+        QVERIFY(!window.isEnabled("goBack"));
+    }
+
+    void goesBackWithForward()
+    {
+        FakeServices services;
+        Window window(services);
+        const QUrl start = guidePage(QStringLiteral("index.html"));
+        const QUrl moving = guidePage(QStringLiteral("moving.html"));
+        QVERIFY(window.show(start));
+        QVERIFY(window.load(moving));
+        QVERIFY(window.load(guidePage(QStringLiteral("log.html"))));
+        window.item("goBack").trigger();
+        QTRY_COMPARE_WITH_TIMEOUT(window.view().url(), moving, patience);
+        QTRY_VERIFY_WITH_TIMEOUT(window.isEnabled("goForward"), patience);
+
+        window.item("goForward").trigger();
+        QTRY_COMPARE_WITH_TIMEOUT(window.view().url(), start, patience);
+    }
+
+    void returnsToTheStartPage()
+    {
+        FakeServices services;
+        Window window(services);
+        const QUrl start = guidePage(QStringLiteral("index.html"));
+        QVERIFY(window.show(start));
+        QVERIFY(window.load(guidePage(QStringLiteral("log.html"))));
+        window.item("goHome").trigger();
+        QTRY_COMPARE_WITH_TIMEOUT(window.view().url(), start, patience);
+
+        QVERIFY(window.load(guidePage(QStringLiteral("log.html"))));
+        window.close();
+        QVERIFY(!window.isVisible());
+        QVERIFY(window.show(start));
+        QVERIFY(window.isVisible());
+        QCOMPARE(window.view().url(), start);
+    }
+
+    void remembersItsSize()
+    {
+        FakeServices services;
+        {
+            Window window(services);
+            QVERIFY(window.show(guidePage(QStringLiteral("index.html"))));
+            window.resize(512, 384);
+            window.close();
+        }
+        const Window again(services);
+        QCOMPARE(again.size(), QSize(512, 384));
+    }
+
+    void handsLinksToTheDesktop_data()
+    {
+        QTest::addColumn<QString>("address");
+        QTest::addColumn<bool>("localInApp");
+        QTest::newRow("web") << "https://example.org/page" << true;
+        QTest::newRow("capitals") << "HTTPS://example.org/page" << true;
+        QTest::newRow("mail") << "mailto:owner@example.org" << true;
+        QTest::newRow("device, securely") << "https://192.168.1.1/" << true;
+        QTest::newRow("device, by the desktop") << "http://192.168.1.1/" << false;
+    }
+    void handsLinksToTheDesktop()
+    {
+        QFETCH(QString, address);
+        QFETCH(bool, localInApp);
+        const SmallGuide guide;
+        const QUrl start =
+            guide.writePage("guide/index.html", "<a href='" + address.toLatin1() + "'>away</a>");
+        FakeServices services;
+        Window window(services);
+        window.controller().setHandleLocalURLsInApp(localInApp);
+        QVERIFY(window.show(start));
+        window.click("a");
+        QTRY_COMPARE_WITH_TIMEOUT(services.opened, QList<QUrl>{QUrl(address)}, patience);
+        QCOMPARE(window.view().url(), start);
+        QCOMPARE(window.run(QStringLiteral("document.body.innerText")).toString(),
+                 QStringLiteral("away"));
+        QVERIFY(!window.isEnabled("goBack"));
+    }
+
+    void opensTheGuideElsewhere()
+    {
+        FakeServices services;
+        const QUrl start = guidePage(QStringLiteral("index.html"));
+        const QString chrome = QStringLiteral("a-browser");
+        Window without(services);
+        QVERIFY(!without.isEnabled("chrome"));
+        without.openInChrome();
+        QVERIFY(services.openedWith.isEmpty());
+
+        services.chrome = chrome;
+        Window window(services);
+        QVERIFY(window.isEnabled("chrome"));
+        window.item("chrome").trigger(); // there is no start page yet
+        QVERIFY(services.openedWith.isEmpty());
+
+        QVERIFY(window.show(start));
+        QVERIFY(window.load(guidePage(QStringLiteral("log.html"))));
+        window.item("openInBrowser").trigger();
+        QCOMPARE(services.opened, QList<QUrl>{start});
+        window.item("chrome").trigger();
+        QCOMPARE(services.openedWith, (QList<std::pair<QUrl, QString>>{{start, chrome}}));
+
+        services.chrome.reset(); // taken off the computer since
+        window.item("chrome").trigger();
+        QCOMPARE(services.openedWith.size(), 1);
+    }
+
+    void keepsPagesFromOtherFiles()
+    {
+        const SmallGuide guide;
+        QImage picture(4, 4, QImage::Format_RGB32);
+        picture.fill(Qt::red);
+        // The same content inside the folder, which shows that the page would notice, and outside.
+        for (const char *place : {"guide/", ""}) {
+            const QByteArray folder(place);
+            QVERIFY(picture.save(guide.path((folder + "picture.png").constData())));
+            write(guide.path((folder + "text.txt").constData()), "words");
+            (void)guide.writePage((folder + "frame.html").constData(),
+                                  "<script>parent.postMessage(location.href, '*')</script>");
+        }
+        const QUrl start = guide.writePage("guide/index.html", R"(<script>
+            var seen = [], failed = [], framesLoaded = 0;
+            addEventListener('message', event => seen.push('frame ' + event.data));
+            function tryPlace(place) {
+                const picture = new Image();
+                picture.onload = () => seen.push('picture ' + place);
+                picture.onerror = () => failed.push('picture ' + place);
+                picture.src = place + 'picture.png';
+                const request = new XMLHttpRequest();
+                request.onload = () => seen.push('text ' + place + request.responseText);
+                request.onerror = () => failed.push('text ' + place);
+                request.open('GET', place + 'text.txt');
+                request.send();
+                const frame = document.createElement('iframe');
+                frame.onload = () => ++framesLoaded;
+                frame.src = place + 'frame.html';
+                document.body.appendChild(frame);
+            }
+            addEventListener('load', () => { tryPlace('./'); tryPlace('../'); });
+            </script>)");
+        FakeServices services;
+        Window window(services);
+        QVERIFY(window.show(start));
+
+        const QString isDone =
+            QStringLiteral("seen.length + failed.length >= 5 && framesLoaded >= 2");
+        QTRY_VERIFY_WITH_TIMEOUT(window.run(isDone).toBool(), patience);
+        const QString seen = window.run(QStringLiteral("seen.sort().join()")).toString();
+        QCOMPARE(seen, QStringLiteral("frame %1,picture ./,text ./words")
+                           .arg(guide.url("guide/frame.html").toString()));
+        QCOMPARE(window.run(QStringLiteral("failed.sort().join()")).toString(),
+                 QStringLiteral("picture ../,text ../"));
+    }
+
+    void refusesPagesOutsideTheGuide_data()
+    {
+        QTest::addColumn<QString>("address");
+        QTest::newRow("beside the folder") << "../secret.html";
+        QTest::newRow("through a link in it") << "link.html";
+        QTest::newRow("of the system") << "file:///etc/passwd";
+    }
+    void refusesPagesOutsideTheGuide()
+    {
+        QFETCH(QString, address);
+        const SmallGuide guide;
+        const QUrl start = guide.writePage("guide/index.html", "start");
+        (void)guide.writePage("secret.html", "secret");
+        QVERIFY(QFile::link(guide.path("secret.html"), guide.path("guide/link.html")));
+        FakeServices services;
+        Window window(services);
+        QVERIFY(window.show(start));
+
+        QVERIFY(!window.load(start.resolved(QUrl(address))));
+        const QString text = window.run(QStringLiteral("document.body.innerText")).toString();
+        QVERIFY2(!text.contains(QLatin1String("secret")), qPrintable(text));
+        QVERIFY2(!text.contains(QLatin1String("root:")), qPrintable(text));
+        QVERIFY(window.load(start)); // and works on
+    }
+
+    void showsTheAlertOfAPage()
+    {
+        const SmallGuide guide;
+        const QUrl start = guide.writePage("guide/index.html", "start");
+        FakeServices services;
+        Window window(services);
+        QVERIFY(window.show(start));
+
+        QString message;
+        QString detail;
+        QStringList buttons;
+        QTimer answer;
+        connect(&answer, &QTimer::timeout, this, [&] {
+            auto *alert = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            if (!alert)
+                return;
+            answer.stop();
+            message = alert->text();
+            detail = alert->informativeText();
+            for (const QAbstractButton *button : alert->buttons())
+                buttons.append(button->text());
+            alert->buttons().constFirst()->click();
+        });
+        answer.start(20);
+        const QVariant after = window.run(QStringLiteral("alert('Careful <b>now</b>'); 'went on'"));
+        QCOMPARE(message, QStringLiteral("Notification!"));
+        QCOMPARE(detail, QStringLiteral("Careful <b>now</b>"));
+        QCOMPARE(buttons, QStringList{QStringLiteral("OK")});
+        QCOMPARE(after.toString(), QStringLiteral("went on"));
+    }
+};
+
+QUILLET_TEST(HelpWindowTest)
+#include "HelpWindowTest.moc"

@@ -162,15 +162,38 @@ DictionaryEntry Dictionary::at(qsizetype position) const
     return {d->keys->at(position), d->value(position)};
 }
 
+Dictionary::Keys Dictionary::keys() const
+{
+    return d ? d->keys : Keys();
+}
+
+bool Dictionary::hasEqualValues(const Dictionary &other) const
+{
+    if (d == other.d)
+        return true;
+    if (count() != other.count())
+        return false;
+    if (!d->changes && !other.d->changes)
+        return d->values == other.d->values;
+    for (qsizetype position = 0; position < count(); ++position) {
+        if (!(d->value(position) == other.d->value(position)))
+            return false;
+    }
+    return true;
+}
+
 bool Dictionary::operator==(const Dictionary &other) const
 {
     if (d == other.d)
         return true;
     if (count() != other.count())
         return false;
-    for (const auto &[key, value] : *this) {
-        const Value *theirs = other.find(key);
-        if (!theirs || !(*theirs == value))
+    for (qsizetype position = 0; position < count(); ++position) {
+        const QString &key = d->keys->at(position);
+        // Keys mostly stand in the same order.
+        const Value *theirs =
+            other.d->keys->at(position) == key ? &other.d->value(position) : other.find(key);
+        if (!theirs || !(*theirs == d->value(position)))
             return false;
     }
     return true;

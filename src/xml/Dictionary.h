@@ -84,6 +84,12 @@ public:
 
     [[nodiscard]] bool operator==(const Dictionary &other) const;
 
+    /// The table of the keys, which may be shared with other dictionaries; null when there are
+    /// none.
+    [[nodiscard]] Keys keys() const;
+    /// Whether the values are equal one by one, in order, whatever their keys.
+    [[nodiscard]] bool hasEqualValues(const Dictionary &other) const;
+
 private:
     struct Data;
     Data &detached();

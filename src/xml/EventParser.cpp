@@ -61,7 +61,8 @@ struct EventParser::Callbacks
     {
         auto *context = static_cast<xmlParserCtxt *>(self.m_context);
         if (!self.m_error)
-            self.m_error = ParseError{context->input->line, context->input->col, message};
+            self.m_error =
+                ParseError{context->input->line, context->input->col, message, self.position()};
         xmlStopParser(context);
     }
 
@@ -114,8 +115,8 @@ struct EventParser::Callbacks
         EventParser &self = parser(data);
         if (self.m_error || error->domain != XML_FROM_PARSER || error->level < XML_ERR_ERROR)
             return;
-        self.m_error =
-            ParseError{error->line, error->int2, QString::fromUtf8(error->message).trimmed()};
+        self.m_error = ParseError{error->line, error->int2,
+                                  QString::fromUtf8(error->message).trimmed(), self.position()};
     }
 };
 
@@ -169,6 +170,14 @@ bool EventParser::parse(EventHandler &handler)
     if (!m_error && !context->wellFormed)
         m_error = ParseError{1, 0, QStringLiteral("The text is not well-formed XML")};
     return !m_error;
+}
+
+qsizetype EventParser::position() const
+{
+    const auto *context = static_cast<const xmlParserCtxt *>(m_context);
+    if (!context || !context->input)
+        return 0;
+    return reinterpret_cast<const char *>(context->input->cur) - m_bytes.constData();
 }
 
 } // namespace quillet

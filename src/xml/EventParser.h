@@ -13,6 +13,7 @@ struct ParseError
     int line = 0;
     int column = 0;
     QString message;
+    qsizetype offset = 0; ///< in bytes of the text that was parsed; about where the fault was seen
 };
 
 /// What an EventParser reports, in document order. All text is UTF-8. One run of characters may
@@ -48,6 +49,11 @@ public:
 
     /// Runs the whole parse. Returns whether it came to the end without an error.
     bool parse(EventHandler &handler);
+
+    /// How many bytes the parse has consumed, for a handler to ask: at the end of an element those
+    /// up to and including its end tag, at its start those inside its start tag, behind all
+    /// attributes.
+    [[nodiscard]] qsizetype position() const;
 
     /// The error that stopped the last parse; none when there was none.
     [[nodiscard]] const std::optional<ParseError> &error() const { return m_error; }

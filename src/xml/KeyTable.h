@@ -23,6 +23,8 @@ public:
     /// The position of a key; none when it is absent.
     [[nodiscard]] qsizetype indexOf(QStringView key) const;
 
+    [[nodiscard]] bool hasSameOrder(const KeyTable &other) const { return m_keys == other.m_keys; }
+
     /// Adds a key that must be absent.
     void append(const QString &key);
     void removeAt(qsizetype position);

@@ -4,6 +4,8 @@
 
 #include <QLocale>
 
+#include <cstring>
+
 namespace quillet {
 
 bool Value::isNumber() const
@@ -39,7 +41,13 @@ QString Value::description() const
 
 bool Value::operator==(const Value &other) const
 {
-    return m_data == other.m_data;
+    const QString *text = string(); // nearly all values are texts
+    if (!text)
+        return m_data == other.m_data;
+    const QString *others = other.string();
+    return others && text->size() == others->size() &&
+           std::memcmp(text->constData(), others->constData(),
+                       static_cast<std::size_t>(text->size()) * sizeof(QChar)) == 0;
 }
 
 } // namespace quillet

@@ -2,6 +2,8 @@
 
 #include "bench/Failure.h"
 #include "bench/Figures.h"
+#include "document/Rehearsal.h"
+#include "document/RepairedWriter.h"
 #include "document/TLLDocument.h"
 
 #include <libxml/parser.h>
@@ -102,6 +104,20 @@ void saving(benchmark::State &state, const QByteArray &bytes, bool isSorted)
     }
 }
 
+/// What a save does before it replaces the file: the bytes are read and compared.
+void rehearsing(benchmark::State &state, const QByteArray &bytes)
+{
+    TLLDocument document;
+    if (!load(document, bytes))
+        return fail(state, "The file was not read");
+    const QByteArray repaired = repairedTLL(document);
+    for ([[maybe_unused]] auto _ : state) {
+        emptyHeap(state);
+        if (!rehearse(document, repaired).isClean())
+            return fail(state, "The file would lose something");
+    }
+}
+
 } // namespace
 
 void registerDocumentBenchmarks(const Files &files)
@@ -112,6 +128,9 @@ void registerDocumentBenchmarks(const Files &files)
     benchmark::RegisterBenchmark(figure::load100k, loading, files.stations100k);
     benchmark::RegisterBenchmark(figure::save10k, saving, files.stations10k, true);
     benchmark::RegisterBenchmark(figure::save100k, saving, files.stations100k, true);
+    benchmark::RegisterBenchmark(figure::rehearse10k, rehearsing, files.stations10k);
+    benchmark::RegisterBenchmark(figure::rehearse100k, rehearsing, files.stations100k);
+    benchmark::RegisterBenchmark(figure::rehearseJSON, rehearsing, files.channels10k);
     benchmark::RegisterBenchmark(figure::bareJSON, bareJSON, files.channels10k);
     benchmark::RegisterBenchmark(figure::loadJSON, loading, files.channels10k);
     benchmark::RegisterBenchmark(figure::saveJSON, saving, files.channels10k, false);

@@ -10,6 +10,8 @@ inline constexpr char load10k[] = "load/10000";
 inline constexpr char load100k[] = "load/100000";
 inline constexpr char save10k[] = "save/10000";
 inline constexpr char save100k[] = "save/100000";
+inline constexpr char rehearse10k[] = "rehearse/10000";
+inline constexpr char rehearse100k[] = "rehearse/100000";
 inline constexpr char search[] = "search";
 inline constexpr char firstSearch[] = "search/first";
 inline constexpr char move[] = "move";
@@ -21,5 +23,6 @@ inline constexpr char orderOfStrangers[] = "order/strangers";
 inline constexpr char bareJSON[] = "json/bare"; ///< the bare parse that others are compared with
 inline constexpr char loadJSON[] = "json/load";
 inline constexpr char saveJSON[] = "json/save";
+inline constexpr char rehearseJSON[] = "json/rehearse";
 
 } // namespace quillet::bench::figure

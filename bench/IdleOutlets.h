@@ -26,6 +26,7 @@ public:
     void scrollRowToVisible(qsizetype) override {}
     void setNameColumnEditable(bool) override {}
     void showEmptyHint(EmptyHint) override {}
+    void showNotice(const Notice &) override {}
     [[nodiscard]] QWidget *sheetWindow() const override { return nullptr; }
 };
 

@@ -50,6 +50,10 @@ constexpr std::array ratios{
     Ratio{"the same, of other stations / B", figure::orderOfStrangers, figure::bare10k, 1, 0.5},
     Ratio{"load 10,000 JSON channels / J", figure::loadJSON, figure::bareJSON, 1, 2.5},
     Ratio{"save 10,000 JSON channels / J", figure::saveJSON, figure::bareJSON, 1, 1.5},
+    Ratio{"rehearse saving 10,000 stations / load", figure::rehearse10k, figure::load10k, 1, 1.2},
+    Ratio{"rehearse saving 100,000 stations / load", figure::rehearse100k, figure::load100k, 1,
+          1.2},
+    Ratio{"rehearse saving 10,000 channels / load", figure::rehearseJSON, figure::loadJSON, 1, 1.2},
     Ratio{"load a station of 100,000 / of 10,000", figure::load100k, figure::load10k, 0.1, 1.2},
     Ratio{"save a station of 100,000 / of 10,000", figure::save100k, figure::save10k, 0.1, 1.2},
 };

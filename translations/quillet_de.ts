@@ -55,6 +55,17 @@
         <source></source>
         <translation>Dateien dieses Typs können nicht verwendet werden</translation>
     </message>
+    <message id="kBadSectionContent">
+        <source></source>
+        <translation>Der Abschnitt %1 enthält keine Liste von Sendern.</translation>
+    </message>
+    <message id="kBadSectionDistance" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Der erste Sender des Abschnitts %1 steht %n Zeichen hinter dem Anfang des Abschnitts; erlaubt sind höchstens %2.</numerusform>
+            <numerusform>Der erste Sender des Abschnitts %1 steht %n Zeichen hinter dem Anfang des Abschnitts; erlaubt sind höchstens %2.</numerusform>
+        </translation>
+    </message>
     <message id="kCable">
         <source></source>
         <translation>Kabel</translation>
@@ -275,6 +286,57 @@
         <source></source>
         <translation>Die Senderliste konnte nicht geöffnet werden.</translation>
     </message>
+    <message id="kMendedAmpersands" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n einzelnes „&amp;“ wurde gültig gemacht.</numerusform>
+            <numerusform>%n einzelne „&amp;“ wurden gültig gemacht.</numerusform>
+        </translation>
+    </message>
+    <message id="kMendedBrackets" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n einzelnes „&lt;“ wurde gültig gemacht.</numerusform>
+            <numerusform>%n einzelne „&lt;“ wurden gültig gemacht.</numerusform>
+        </translation>
+    </message>
+    <message id="kMendedControls" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n Steuerzeichen wurde entfernt.</numerusform>
+            <numerusform>%n Steuerzeichen wurden entfernt.</numerusform>
+        </translation>
+    </message>
+    <message id="kMendedCut">
+        <source></source>
+        <translation>Der letzte Sender war abgeschnitten; was von ihm vollständig ist, wurde behalten.</translation>
+    </message>
+    <message id="kMendedDropped">
+        <source></source>
+        <translation>Der letzte Sender war abgeschnitten und musste weggelassen werden.</translation>
+    </message>
+    <message id="kMendedEnd">
+        <source></source>
+        <translation>Das Ende der Datei fehlte und wurde ergänzt.</translation>
+    </message>
+    <message id="kMendedStrays" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n Textstück außerhalb der Liste wurde entfernt.</numerusform>
+            <numerusform>%n Textstücke außerhalb der Liste wurden entfernt.</numerusform>
+        </translation>
+    </message>
+    <message id="kMendedTags" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n fehlendes oder falsches Tag wurde berichtigt.</numerusform>
+            <numerusform>%n fehlende oder falsche Tags wurden berichtigt.</numerusform>
+        </translation>
+    </message>
+    <message id="kMendedTitle">
+        <source></source>
+        <translation>Dies ist eine reparierte Kopie von „%1“. Jene Datei bleibt, wie sie ist.</translation>
+    </message>
     <message id="kMenuAbout">
         <source></source>
         <translation>Ü&amp;ber Quillet</translation>
@@ -439,6 +501,53 @@
         <source></source>
         <translation>Es können nur Dateien auf diesem Computer geöffnet werden.</translation>
     </message>
+    <message id="kNoticeBinary">
+        <source></source>
+        <translation>Es wurden keine Sender gefunden, denn dies sieht nach einer binären Liste aus und nicht nach einer TLL-Textdatei.</translation>
+    </message>
+    <message id="kNoticeClose">
+        <source></source>
+        <translation>Diesen Hinweis schließen</translation>
+    </message>
+    <message id="kNoticeDamaged">
+        <source></source>
+        <translation>Die Datei ist in Zeile %1 beschädigt, hinter dem Sender „%2“.</translation>
+    </message>
+    <message id="kNoticeDamagedFirst">
+        <source></source>
+        <translation>Die Datei ist in Zeile %1 beschädigt, noch vor dem ersten vollständigen Sender.</translation>
+    </message>
+    <message id="kNoticeDamagedLine">
+        <source></source>
+        <translation>Die Datei ist in Zeile %1 beschädigt.</translation>
+    </message>
+    <message id="kNoticeJSON">
+        <source></source>
+        <translation>Es wurden keine Sender gefunden, denn der JSON-Text, der sie enthält, konnte nicht dekodiert werden (Zeile %1, Spalte %2).</translation>
+    </message>
+    <message id="kNoticeJSONCut">
+        <source></source>
+        <translation>Es wurden keine Sender gefunden, denn der JSON-Text, der sie enthält, ist nicht vollständig.</translation>
+    </message>
+    <message id="kNoticeLatin1">
+        <source></source>
+        <translation>Die Datei ist kein gültiges UTF-8 und wurde als Latin-1 dekodiert. Beim Speichern wird UTF-8 geschrieben, was in der ganzen Datei jeden Buchstaben mit Akzent oder Umlaut ändert.</translation>
+    </message>
+    <message id="kNoticeNoXML">
+        <source></source>
+        <translation>Es wurden keine Sender gefunden, denn dies ist ein Text anderer Art und keine TLL-Datei.</translation>
+    </message>
+    <message id="kNoticeUnread" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n folgender Sender (&lt;ITEM&gt;) wurde nicht gelesen und ginge verloren, wenn Sie diese Liste speichern.</numerusform>
+            <numerusform>%n folgende Sender (&lt;ITEM&gt;) wurden nicht gelesen und gingen verloren, wenn Sie diese Liste speichern.</numerusform>
+        </translation>
+    </message>
+    <message id="kNoticeUnreadEnd">
+        <source></source>
+        <translation>Was folgt, wurde nicht gelesen.</translation>
+    </message>
     <message id="kOK">
         <source></source>
         <translation>OK</translation>
@@ -446,6 +555,10 @@
     <message id="kOpenFailedMessage">
         <source></source>
         <translation>„%1“ konnte nicht geöffnet werden.</translation>
+    </message>
+    <message id="kOpenRepairedCopy">
+        <source></source>
+        <translation>Reparierte Kopie öffnen</translation>
     </message>
     <message id="kOpenTitle">
         <source></source>
@@ -503,6 +616,73 @@
         <source></source>
         <translation>Alle seitdem vorgenommenen Änderungen gehen verloren.</translation>
     </message>
+    <message id="kReviewChanged" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n Sender verlöre einen Teil seiner Angaben: %1</numerusform>
+            <numerusform>%n Sender verlören einen Teil ihrer Angaben: %1</numerusform>
+        </translation>
+    </message>
+    <message id="kReviewDoubled" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n Sender stünde doppelt darin: %1</numerusform>
+            <numerusform>%n Sender stünden doppelt darin: %1</numerusform>
+        </translation>
+    </message>
+    <message id="kReviewExtras">
+        <source></source>
+        <translation>Anmerkungen oder zusätzliche Angaben zwischen den Sendern gingen verloren.</translation>
+    </message>
+    <message id="kReviewMessage">
+        <source></source>
+        <translation>Beim Speichern von „%1“ ginge etwas verloren.</translation>
+    </message>
+    <message id="kReviewMissing" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n Sender würde fehlen: %1</numerusform>
+            <numerusform>%n Sender würden fehlen: %1</numerusform>
+        </translation>
+    </message>
+    <message id="kReviewNoRepair">
+        <source></source>
+        <translation>Es gibt keinen Weg, diese Datei mit weniger Verlust zu schreiben. Heben Sie eine Kopie der alten Datei auf, bevor Sie speichern.</translation>
+    </message>
+    <message id="kReviewRefused">
+        <source></source>
+        <translation>Die gespeicherte Datei ließe sich nicht wieder öffnen.</translation>
+    </message>
+    <message id="kReviewRenumbered" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n Sender bekäme eine andere Nummer: %1</numerusform>
+            <numerusform>%n Sender bekämen eine andere Nummer: %1</numerusform>
+        </translation>
+    </message>
+    <message id="kReviewRepair">
+        <source></source>
+        <translation>Mit „Repariert speichern“ geht nichts verloren: Ihre Änderungen werden geschrieben, alles andere bleibt, wie es gelesen wurde.</translation>
+    </message>
+    <message id="kReviewRepairPartly">
+        <source></source>
+        <translation>„Repariert speichern“ schreibt Ihre Änderungen und lässt alles andere, wie es gelesen wurde. Dennoch:</translation>
+    </message>
+    <message id="kReviewSurroundings">
+        <source></source>
+        <translation>Was der Fernseher vor oder nach den Sendern ablegt, ginge verloren.</translation>
+    </message>
+    <message id="kReviewTail">
+        <source></source>
+        <translation>Was hinter einer beschädigten Stelle der Datei steht, wäre verloren.</translation>
+    </message>
+    <message id="kReviewUnread" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n Sender hinter einer beschädigten Stelle der Datei wurde nie gelesen und wäre verloren.</numerusform>
+            <numerusform>%n Sender hinter einer beschädigten Stelle der Datei wurden nie gelesen und wären verloren.</numerusform>
+        </translation>
+    </message>
     <message id="kSatellite">
         <source></source>
         <translation>Satellit</translation>
@@ -526,6 +706,14 @@
     <message id="kSaveFailedMessage">
         <source></source>
         <translation>„%1“ konnte nicht gespeichert werden. Die Datei auf dem Datenträger wurde nicht verändert.</translation>
+    </message>
+    <message id="kSaveRepaired">
+        <source></source>
+        <translation>Repariert speichern</translation>
+    </message>
+    <message id="kSaveTitle">
+        <source></source>
+        <translation>Senderliste speichern</translation>
     </message>
     <message id="kSearchPlaceholder">
         <source></source>
@@ -587,6 +775,10 @@ Diese folgen ab Nummer: %3</translation>
     <message id="kUntitled">
         <source></source>
         <translation>Unbenannt</translation>
+    </message>
+    <message id="kUntouchedReason">
+        <source></source>
+        <translation>Die beschädigte Datei bleibt, wie sie ist. Wählen Sie einen anderen Namen oder einen anderen Ordner.</translation>
     </message>
     <message id="kWriteFailedReason">
         <source></source>

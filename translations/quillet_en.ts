@@ -55,6 +55,17 @@
         <source></source>
         <translation>Files of this type cannot be used</translation>
     </message>
+    <message id="kBadSectionContent">
+        <source></source>
+        <translation>The section %1 holds no list of stations.</translation>
+    </message>
+    <message id="kBadSectionDistance" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>The first station of the section %1 stands %n character behind the start of the section; at most %2 are allowed.</numerusform>
+            <numerusform>The first station of the section %1 stands %n characters behind the start of the section; at most %2 are allowed.</numerusform>
+        </translation>
+    </message>
     <message id="kCable">
         <source></source>
         <translation>Cable</translation>
@@ -275,6 +286,57 @@
         <source></source>
         <translation>The channel list could not be opened.</translation>
     </message>
+    <message id="kMendedAmpersands" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n lone “&amp;” was made valid.</numerusform>
+            <numerusform>%n lone “&amp;” were made valid.</numerusform>
+        </translation>
+    </message>
+    <message id="kMendedBrackets" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n lone “&lt;” was made valid.</numerusform>
+            <numerusform>%n lone “&lt;” were made valid.</numerusform>
+        </translation>
+    </message>
+    <message id="kMendedControls" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n control character was removed.</numerusform>
+            <numerusform>%n control characters were removed.</numerusform>
+        </translation>
+    </message>
+    <message id="kMendedCut">
+        <source></source>
+        <translation>The last station was cut off; what is whole of it was kept.</translation>
+    </message>
+    <message id="kMendedDropped">
+        <source></source>
+        <translation>The last station was cut off and had to be left out.</translation>
+    </message>
+    <message id="kMendedEnd">
+        <source></source>
+        <translation>The end of the file was missing and was added.</translation>
+    </message>
+    <message id="kMendedStrays" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n piece of text outside the list was removed.</numerusform>
+            <numerusform>%n pieces of text outside the list were removed.</numerusform>
+        </translation>
+    </message>
+    <message id="kMendedTags" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n tag that was missing or wrong was put right.</numerusform>
+            <numerusform>%n tags that were missing or wrong were put right.</numerusform>
+        </translation>
+    </message>
+    <message id="kMendedTitle">
+        <source></source>
+        <translation>This is a repaired copy of “%1”. That file stays as it is.</translation>
+    </message>
     <message id="kMenuAbout">
         <source></source>
         <translation>&amp;About Quillet</translation>
@@ -439,6 +501,53 @@
         <source></source>
         <translation>Only files on this computer can be opened.</translation>
     </message>
+    <message id="kNoticeBinary">
+        <source></source>
+        <translation>No stations were found, because this looks like a binary list and not like a TLL text file.</translation>
+    </message>
+    <message id="kNoticeClose">
+        <source></source>
+        <translation>Close this notice</translation>
+    </message>
+    <message id="kNoticeDamaged">
+        <source></source>
+        <translation>The file is damaged at line %1, after the station “%2”.</translation>
+    </message>
+    <message id="kNoticeDamagedFirst">
+        <source></source>
+        <translation>The file is damaged at line %1, before the first whole station.</translation>
+    </message>
+    <message id="kNoticeDamagedLine">
+        <source></source>
+        <translation>The file is damaged at line %1.</translation>
+    </message>
+    <message id="kNoticeJSON">
+        <source></source>
+        <translation>No stations were found, because the JSON text that holds them could not be decoded (line %1, column %2).</translation>
+    </message>
+    <message id="kNoticeJSONCut">
+        <source></source>
+        <translation>No stations were found, because the JSON text that holds them is not whole.</translation>
+    </message>
+    <message id="kNoticeLatin1">
+        <source></source>
+        <translation>The file is not valid UTF-8 and was decoded as Latin-1. Saving writes UTF-8 and so changes every letter with an accent throughout the file.</translation>
+    </message>
+    <message id="kNoticeNoXML">
+        <source></source>
+        <translation>No stations were found, because this is a text of another kind and not a TLL file.</translation>
+    </message>
+    <message id="kNoticeUnread" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n station (&lt;ITEM&gt;) that follows was not read, and saving this list would lose it.</numerusform>
+            <numerusform>%n stations (&lt;ITEM&gt;) that follow were not read, and saving this list would lose them.</numerusform>
+        </translation>
+    </message>
+    <message id="kNoticeUnreadEnd">
+        <source></source>
+        <translation>What follows was not read.</translation>
+    </message>
     <message id="kOK">
         <source></source>
         <translation>OK</translation>
@@ -446,6 +555,10 @@
     <message id="kOpenFailedMessage">
         <source></source>
         <translation>“%1” could not be opened.</translation>
+    </message>
+    <message id="kOpenRepairedCopy">
+        <source></source>
+        <translation>Open Repaired Copy</translation>
     </message>
     <message id="kOpenTitle">
         <source></source>
@@ -503,6 +616,73 @@
         <source></source>
         <translation>All changes you made since then will be lost.</translation>
     </message>
+    <message id="kReviewChanged" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n station would lose part of its content: %1</numerusform>
+            <numerusform>%n stations would lose part of their content: %1</numerusform>
+        </translation>
+    </message>
+    <message id="kReviewDoubled" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n station would be in it twice: %1</numerusform>
+            <numerusform>%n stations would be in it twice: %1</numerusform>
+        </translation>
+    </message>
+    <message id="kReviewExtras">
+        <source></source>
+        <translation>Remarks or additional details among the stations would be lost.</translation>
+    </message>
+    <message id="kReviewMessage">
+        <source></source>
+        <translation>Saving “%1” would lose something.</translation>
+    </message>
+    <message id="kReviewMissing" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n station would be missing: %1</numerusform>
+            <numerusform>%n stations would be missing: %1</numerusform>
+        </translation>
+    </message>
+    <message id="kReviewNoRepair">
+        <source></source>
+        <translation>There is no way to write this file that loses less. Keep a copy of the old file before you save.</translation>
+    </message>
+    <message id="kReviewRefused">
+        <source></source>
+        <translation>The saved file could not be opened again.</translation>
+    </message>
+    <message id="kReviewRenumbered" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n station would get another number: %1</numerusform>
+            <numerusform>%n stations would get another number: %1</numerusform>
+        </translation>
+    </message>
+    <message id="kReviewRepair">
+        <source></source>
+        <translation>“Save Repaired” loses nothing: it writes your changes and leaves everything else as it was read.</translation>
+    </message>
+    <message id="kReviewRepairPartly">
+        <source></source>
+        <translation>“Save Repaired” writes your changes and leaves everything else as it was read, but even then:</translation>
+    </message>
+    <message id="kReviewSurroundings">
+        <source></source>
+        <translation>What the TV set keeps before or after the stations would be lost.</translation>
+    </message>
+    <message id="kReviewTail">
+        <source></source>
+        <translation>What stands behind a damaged place of the file would be gone.</translation>
+    </message>
+    <message id="kReviewUnread" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n station behind a damaged place of the file was never read and would be gone.</numerusform>
+            <numerusform>%n stations behind a damaged place of the file were never read and would be gone.</numerusform>
+        </translation>
+    </message>
     <message id="kSatellite">
         <source></source>
         <translation>Satellite</translation>
@@ -526,6 +706,14 @@
     <message id="kSaveFailedMessage">
         <source></source>
         <translation>“%1” could not be saved. The file on the disk was not changed.</translation>
+    </message>
+    <message id="kSaveRepaired">
+        <source></source>
+        <translation>Save Repaired</translation>
+    </message>
+    <message id="kSaveTitle">
+        <source></source>
+        <translation>Save Channel List</translation>
     </message>
     <message id="kSearchPlaceholder">
         <source></source>
@@ -587,6 +775,10 @@ These go on from number: %3</translation>
     <message id="kUntitled">
         <source></source>
         <translation>Untitled</translation>
+    </message>
+    <message id="kUntouchedReason">
+        <source></source>
+        <translation>The damaged file is kept as it is. Choose another name or another folder.</translation>
     </message>
     <message id="kWriteFailedReason">
         <source></source>

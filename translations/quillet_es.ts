@@ -55,6 +55,17 @@
         <source></source>
         <translation>No se pueden usar archivos de este tipo</translation>
     </message>
+    <message id="kBadSectionContent">
+        <source></source>
+        <translation>La sección %1 no contiene una lista de canales.</translation>
+    </message>
+    <message id="kBadSectionDistance" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>El primer canal de la sección %1 está a %n carácter del principio de la sección; se admiten %2 como máximo.</numerusform>
+            <numerusform>El primer canal de la sección %1 está a %n caracteres del principio de la sección; se admiten %2 como máximo.</numerusform>
+        </translation>
+    </message>
     <message id="kCable">
         <source></source>
         <translation>Cable</translation>
@@ -275,6 +286,57 @@
         <source></source>
         <translation>No se ha podido abrir la lista de canales.</translation>
     </message>
+    <message id="kMendedAmpersands" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Se ha hecho válido %n «&amp;» suelto.</numerusform>
+            <numerusform>Se han hecho válidos %n «&amp;» sueltos.</numerusform>
+        </translation>
+    </message>
+    <message id="kMendedBrackets" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Se ha hecho válido %n «&lt;» suelto.</numerusform>
+            <numerusform>Se han hecho válidos %n «&lt;» sueltos.</numerusform>
+        </translation>
+    </message>
+    <message id="kMendedControls" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Se ha eliminado %n carácter de control.</numerusform>
+            <numerusform>Se han eliminado %n caracteres de control.</numerusform>
+        </translation>
+    </message>
+    <message id="kMendedCut">
+        <source></source>
+        <translation>El último canal estaba cortado; se ha conservado lo que está completo.</translation>
+    </message>
+    <message id="kMendedDropped">
+        <source></source>
+        <translation>El último canal estaba cortado y se ha tenido que omitir.</translation>
+    </message>
+    <message id="kMendedEnd">
+        <source></source>
+        <translation>Faltaba el final del archivo y se ha añadido.</translation>
+    </message>
+    <message id="kMendedStrays" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Se ha eliminado %n fragmento de texto fuera de la lista.</numerusform>
+            <numerusform>Se han eliminado %n fragmentos de texto fuera de la lista.</numerusform>
+        </translation>
+    </message>
+    <message id="kMendedTags" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Se ha corregido %n etiqueta que faltaba o era errónea.</numerusform>
+            <numerusform>Se han corregido %n etiquetas que faltaban o eran erróneas.</numerusform>
+        </translation>
+    </message>
+    <message id="kMendedTitle">
+        <source></source>
+        <translation>Esta es una copia reparada de «%1». Ese archivo queda como está.</translation>
+    </message>
     <message id="kMenuAbout">
         <source></source>
         <translation>&amp;Acerca de Quillet</translation>
@@ -439,6 +501,53 @@
         <source></source>
         <translation>Solo se pueden abrir archivos de este equipo.</translation>
     </message>
+    <message id="kNoticeBinary">
+        <source></source>
+        <translation>No se ha encontrado ningún canal, porque esto parece una lista binaria y no un archivo de texto TLL.</translation>
+    </message>
+    <message id="kNoticeClose">
+        <source></source>
+        <translation>Cerrar este aviso</translation>
+    </message>
+    <message id="kNoticeDamaged">
+        <source></source>
+        <translation>El archivo está dañado en la línea %1, después del canal «%2».</translation>
+    </message>
+    <message id="kNoticeDamagedFirst">
+        <source></source>
+        <translation>El archivo está dañado en la línea %1, antes del primer canal completo.</translation>
+    </message>
+    <message id="kNoticeDamagedLine">
+        <source></source>
+        <translation>El archivo está dañado en la línea %1.</translation>
+    </message>
+    <message id="kNoticeJSON">
+        <source></source>
+        <translation>No se ha encontrado ningún canal, porque no se ha podido descodificar el texto JSON que los contiene (línea %1, columna %2).</translation>
+    </message>
+    <message id="kNoticeJSONCut">
+        <source></source>
+        <translation>No se ha encontrado ningún canal, porque el texto JSON que los contiene no está completo.</translation>
+    </message>
+    <message id="kNoticeLatin1">
+        <source></source>
+        <translation>El archivo no es UTF-8 válido y se ha descodificado como Latin-1. Al guardar se escribe en UTF-8, lo que cambia todas las letras acentuadas del archivo.</translation>
+    </message>
+    <message id="kNoticeNoXML">
+        <source></source>
+        <translation>No se ha encontrado ningún canal, porque este es un texto de otro tipo y no un archivo TLL.</translation>
+    </message>
+    <message id="kNoticeUnread" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>No se ha leído %n canal (&lt;ITEM&gt;) posterior, que se perdería al guardar esta lista.</numerusform>
+            <numerusform>No se han leído %n canales (&lt;ITEM&gt;) posteriores, que se perderían al guardar esta lista.</numerusform>
+        </translation>
+    </message>
+    <message id="kNoticeUnreadEnd">
+        <source></source>
+        <translation>Lo que sigue no se ha leído.</translation>
+    </message>
     <message id="kOK">
         <source></source>
         <translation>Aceptar</translation>
@@ -446,6 +555,10 @@
     <message id="kOpenFailedMessage">
         <source></source>
         <translation>No se ha podido abrir «%1».</translation>
+    </message>
+    <message id="kOpenRepairedCopy">
+        <source></source>
+        <translation>Abrir una copia reparada</translation>
     </message>
     <message id="kOpenTitle">
         <source></source>
@@ -503,6 +616,73 @@
         <source></source>
         <translation>Se perderán todos los cambios hechos desde entonces.</translation>
     </message>
+    <message id="kReviewChanged" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canal perdería parte de sus datos: %1</numerusform>
+            <numerusform>%n canales perderían parte de sus datos: %1</numerusform>
+        </translation>
+    </message>
+    <message id="kReviewDoubled" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canal aparecería dos veces: %1</numerusform>
+            <numerusform>%n canales aparecerían dos veces: %1</numerusform>
+        </translation>
+    </message>
+    <message id="kReviewExtras">
+        <source></source>
+        <translation>Se perderían comentarios o datos adicionales entre los canales.</translation>
+    </message>
+    <message id="kReviewMessage">
+        <source></source>
+        <translation>Al guardar «%1» se perdería algo.</translation>
+    </message>
+    <message id="kReviewMissing" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Faltaría %n canal: %1</numerusform>
+            <numerusform>Faltarían %n canales: %1</numerusform>
+        </translation>
+    </message>
+    <message id="kReviewNoRepair">
+        <source></source>
+        <translation>No hay forma de escribir este archivo con menos pérdidas. Conserve una copia del archivo anterior antes de guardar.</translation>
+    </message>
+    <message id="kReviewRefused">
+        <source></source>
+        <translation>El archivo guardado no podría volver a abrirse.</translation>
+    </message>
+    <message id="kReviewRenumbered" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canal recibiría otro número: %1</numerusform>
+            <numerusform>%n canales recibirían otro número: %1</numerusform>
+        </translation>
+    </message>
+    <message id="kReviewRepair">
+        <source></source>
+        <translation>Con «Guardar reparado» no se pierde nada: se escriben sus cambios y todo lo demás queda como se leyó.</translation>
+    </message>
+    <message id="kReviewRepairPartly">
+        <source></source>
+        <translation>«Guardar reparado» escribe sus cambios y deja todo lo demás como se leyó, pero aun así:</translation>
+    </message>
+    <message id="kReviewSurroundings">
+        <source></source>
+        <translation>Se perdería lo que el televisor guarda antes o después de los canales.</translation>
+    </message>
+    <message id="kReviewTail">
+        <source></source>
+        <translation>Lo que sigue a un punto dañado del archivo desaparecería.</translation>
+    </message>
+    <message id="kReviewUnread" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canal situado tras un punto dañado del archivo nunca se leyó y desaparecería.</numerusform>
+            <numerusform>%n canales situados tras un punto dañado del archivo nunca se leyeron y desaparecerían.</numerusform>
+        </translation>
+    </message>
     <message id="kSatellite">
         <source></source>
         <translation>Satélite</translation>
@@ -526,6 +706,14 @@
     <message id="kSaveFailedMessage">
         <source></source>
         <translation>No se ha podido guardar «%1». El archivo del disco no se ha modificado.</translation>
+    </message>
+    <message id="kSaveRepaired">
+        <source></source>
+        <translation>Guardar reparado</translation>
+    </message>
+    <message id="kSaveTitle">
+        <source></source>
+        <translation>Guardar la lista de canales</translation>
     </message>
     <message id="kSearchPlaceholder">
         <source></source>
@@ -587,6 +775,10 @@ Estos continúan a partir del número: %3</translation>
     <message id="kUntitled">
         <source></source>
         <translation>Sin título</translation>
+    </message>
+    <message id="kUntouchedReason">
+        <source></source>
+        <translation>El archivo dañado se conserva como está. Elija otro nombre u otra carpeta.</translation>
     </message>
     <message id="kWriteFailedReason">
         <source></source>

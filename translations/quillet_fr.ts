@@ -55,6 +55,17 @@
         <source></source>
         <translation>Les fichiers de ce type ne peuvent pas être utilisés</translation>
     </message>
+    <message id="kBadSectionContent">
+        <source></source>
+        <translation>La section %1 ne contient pas de liste de chaînes.</translation>
+    </message>
+    <message id="kBadSectionDistance" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>La première chaîne de la section %1 se trouve à %n caractère du début de la section ; %2 au plus sont admis.</numerusform>
+            <numerusform>La première chaîne de la section %1 se trouve à %n caractères du début de la section ; %2 au plus sont admis.</numerusform>
+        </translation>
+    </message>
     <message id="kCable">
         <source></source>
         <translation>Câble</translation>
@@ -275,6 +286,57 @@
         <source></source>
         <translation>Impossible d’ouvrir la liste de chaînes.</translation>
     </message>
+    <message id="kMendedAmpersands" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n « &amp; » isolé a été rendu valide.</numerusform>
+            <numerusform>%n « &amp; » isolés ont été rendus valides.</numerusform>
+        </translation>
+    </message>
+    <message id="kMendedBrackets" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n « &lt; » isolé a été rendu valide.</numerusform>
+            <numerusform>%n « &lt; » isolés ont été rendus valides.</numerusform>
+        </translation>
+    </message>
+    <message id="kMendedControls" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n caractère de contrôle a été supprimé.</numerusform>
+            <numerusform>%n caractères de contrôle ont été supprimés.</numerusform>
+        </translation>
+    </message>
+    <message id="kMendedCut">
+        <source></source>
+        <translation>La dernière chaîne était tronquée ; ce qui en est intact a été conservé.</translation>
+    </message>
+    <message id="kMendedDropped">
+        <source></source>
+        <translation>La dernière chaîne était tronquée et a dû être omise.</translation>
+    </message>
+    <message id="kMendedEnd">
+        <source></source>
+        <translation>La fin du fichier manquait et a été ajoutée.</translation>
+    </message>
+    <message id="kMendedStrays" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n morceau de texte hors de la liste a été supprimé.</numerusform>
+            <numerusform>%n morceaux de texte hors de la liste ont été supprimés.</numerusform>
+        </translation>
+    </message>
+    <message id="kMendedTags" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n balise absente ou fausse a été corrigée.</numerusform>
+            <numerusform>%n balises absentes ou fausses ont été corrigées.</numerusform>
+        </translation>
+    </message>
+    <message id="kMendedTitle">
+        <source></source>
+        <translation>Ceci est une copie réparée de « %1 ». Ce fichier reste tel quel.</translation>
+    </message>
     <message id="kMenuAbout">
         <source></source>
         <translation>À &amp;propos de Quillet</translation>
@@ -439,6 +501,53 @@
         <source></source>
         <translation>Seuls les fichiers de cet ordinateur peuvent être ouverts.</translation>
     </message>
+    <message id="kNoticeBinary">
+        <source></source>
+        <translation>Aucune chaîne n’a été trouvée : ceci ressemble à une liste binaire et non à un fichier texte TLL.</translation>
+    </message>
+    <message id="kNoticeClose">
+        <source></source>
+        <translation>Fermer cet avis</translation>
+    </message>
+    <message id="kNoticeDamaged">
+        <source></source>
+        <translation>Le fichier est endommagé à la ligne %1, après la chaîne « %2 ».</translation>
+    </message>
+    <message id="kNoticeDamagedFirst">
+        <source></source>
+        <translation>Le fichier est endommagé à la ligne %1, avant la première chaîne complète.</translation>
+    </message>
+    <message id="kNoticeDamagedLine">
+        <source></source>
+        <translation>Le fichier est endommagé à la ligne %1.</translation>
+    </message>
+    <message id="kNoticeJSON">
+        <source></source>
+        <translation>Aucune chaîne n’a été trouvée, car le texte JSON qui les contient n’a pas pu être décodé (ligne %1, colonne %2).</translation>
+    </message>
+    <message id="kNoticeJSONCut">
+        <source></source>
+        <translation>Aucune chaîne n’a été trouvée, car le texte JSON qui les contient n’est pas complet.</translation>
+    </message>
+    <message id="kNoticeLatin1">
+        <source></source>
+        <translation>Le fichier n’est pas de l’UTF-8 valide et a été décodé en Latin-1. L’enregistrement écrit en UTF-8 et modifie donc chaque lettre accentuée dans tout le fichier.</translation>
+    </message>
+    <message id="kNoticeNoXML">
+        <source></source>
+        <translation>Aucune chaîne n’a été trouvée, car ceci est un autre type de texte et non un fichier TLL.</translation>
+    </message>
+    <message id="kNoticeUnread" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n chaîne (&lt;ITEM&gt;) qui suit n’a pas été lue et serait perdue si vous enregistriez cette liste.</numerusform>
+            <numerusform>%n chaînes (&lt;ITEM&gt;) qui suivent n’ont pas été lues et seraient perdues si vous enregistriez cette liste.</numerusform>
+        </translation>
+    </message>
+    <message id="kNoticeUnreadEnd">
+        <source></source>
+        <translation>La suite n’a pas été lue.</translation>
+    </message>
     <message id="kOK">
         <source></source>
         <translation>OK</translation>
@@ -446,6 +555,10 @@
     <message id="kOpenFailedMessage">
         <source></source>
         <translation>Impossible d’ouvrir « %1 ».</translation>
+    </message>
+    <message id="kOpenRepairedCopy">
+        <source></source>
+        <translation>Ouvrir une copie réparée</translation>
     </message>
     <message id="kOpenTitle">
         <source></source>
@@ -503,6 +616,73 @@
         <source></source>
         <translation>Toutes les modifications faites depuis seront perdues.</translation>
     </message>
+    <message id="kReviewChanged" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n chaîne perdrait une partie de ses données : %1</numerusform>
+            <numerusform>%n chaînes perdraient une partie de leurs données : %1</numerusform>
+        </translation>
+    </message>
+    <message id="kReviewDoubled" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n chaîne y figurerait deux fois : %1</numerusform>
+            <numerusform>%n chaînes y figureraient deux fois : %1</numerusform>
+        </translation>
+    </message>
+    <message id="kReviewExtras">
+        <source></source>
+        <translation>Des remarques ou des détails supplémentaires entre les chaînes seraient perdus.</translation>
+    </message>
+    <message id="kReviewMessage">
+        <source></source>
+        <translation>L’enregistrement de « %1 » ferait perdre des données.</translation>
+    </message>
+    <message id="kReviewMissing" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n chaîne manquerait : %1</numerusform>
+            <numerusform>%n chaînes manqueraient : %1</numerusform>
+        </translation>
+    </message>
+    <message id="kReviewNoRepair">
+        <source></source>
+        <translation>Il n’existe pas de façon d’écrire ce fichier avec moins de pertes. Gardez une copie de l’ancien fichier avant d’enregistrer.</translation>
+    </message>
+    <message id="kReviewRefused">
+        <source></source>
+        <translation>Le fichier enregistré ne pourrait plus être ouvert.</translation>
+    </message>
+    <message id="kReviewRenumbered" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n chaîne recevrait un autre numéro : %1</numerusform>
+            <numerusform>%n chaînes recevraient un autre numéro : %1</numerusform>
+        </translation>
+    </message>
+    <message id="kReviewRepair">
+        <source></source>
+        <translation>« Enregistrer réparé » ne fait rien perdre : vos modifications sont écrites, tout le reste demeure tel qu’il a été lu.</translation>
+    </message>
+    <message id="kReviewRepairPartly">
+        <source></source>
+        <translation>« Enregistrer réparé » écrit vos modifications et laisse tout le reste tel qu’il a été lu, mais même ainsi :</translation>
+    </message>
+    <message id="kReviewSurroundings">
+        <source></source>
+        <translation>Ce que le téléviseur conserve avant ou après les chaînes serait perdu.</translation>
+    </message>
+    <message id="kReviewTail">
+        <source></source>
+        <translation>Ce qui suit un endroit endommagé du fichier disparaîtrait.</translation>
+    </message>
+    <message id="kReviewUnread" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n chaîne située après un endroit endommagé du fichier n’a jamais été lue et disparaîtrait.</numerusform>
+            <numerusform>%n chaînes situées après un endroit endommagé du fichier n’ont jamais été lues et disparaîtraient.</numerusform>
+        </translation>
+    </message>
     <message id="kSatellite">
         <source></source>
         <translation>Satellite</translation>
@@ -526,6 +706,14 @@
     <message id="kSaveFailedMessage">
         <source></source>
         <translation>Impossible d’enregistrer « %1 ». Le fichier sur le disque n’a pas été modifié.</translation>
+    </message>
+    <message id="kSaveRepaired">
+        <source></source>
+        <translation>Enregistrer réparé</translation>
+    </message>
+    <message id="kSaveTitle">
+        <source></source>
+        <translation>Enregistrer la liste de chaînes</translation>
     </message>
     <message id="kSearchPlaceholder">
         <source></source>
@@ -587,6 +775,10 @@ Ces dernières suivent à partir du numéro : %3</translation>
     <message id="kUntitled">
         <source></source>
         <translation>Sans titre</translation>
+    </message>
+    <message id="kUntouchedReason">
+        <source></source>
+        <translation>Le fichier endommagé est conservé tel quel. Choisissez un autre nom ou un autre dossier.</translation>
     </message>
     <message id="kWriteFailedReason">
         <source></source>

@@ -55,6 +55,17 @@
         <source></source>
         <translation>Non è possibile usare file di questo tipo</translation>
     </message>
+    <message id="kBadSectionContent">
+        <source></source>
+        <translation>La sezione %1 non contiene una lista di canali.</translation>
+    </message>
+    <message id="kBadSectionDistance" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Il primo canale della sezione %1 si trova a %n carattere dall’inizio della sezione; ne sono ammessi al massimo %2.</numerusform>
+            <numerusform>Il primo canale della sezione %1 si trova a %n caratteri dall’inizio della sezione; ne sono ammessi al massimo %2.</numerusform>
+        </translation>
+    </message>
     <message id="kCable">
         <source></source>
         <translation>Cavo</translation>
@@ -275,6 +286,57 @@
         <source></source>
         <translation>Impossibile aprire la lista di canali.</translation>
     </message>
+    <message id="kMendedAmpersands" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n “&amp;” isolato è stato reso valido.</numerusform>
+            <numerusform>%n “&amp;” isolati sono stati resi validi.</numerusform>
+        </translation>
+    </message>
+    <message id="kMendedBrackets" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n “&lt;” isolato è stato reso valido.</numerusform>
+            <numerusform>%n “&lt;” isolati sono stati resi validi.</numerusform>
+        </translation>
+    </message>
+    <message id="kMendedControls" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n carattere di controllo è stato rimosso.</numerusform>
+            <numerusform>%n caratteri di controllo sono stati rimossi.</numerusform>
+        </translation>
+    </message>
+    <message id="kMendedCut">
+        <source></source>
+        <translation>L’ultimo canale era troncato; ciò che ne è intatto è stato conservato.</translation>
+    </message>
+    <message id="kMendedDropped">
+        <source></source>
+        <translation>L’ultimo canale era troncato e si è dovuto tralasciarlo.</translation>
+    </message>
+    <message id="kMendedEnd">
+        <source></source>
+        <translation>Mancava la fine del file ed è stata aggiunta.</translation>
+    </message>
+    <message id="kMendedStrays" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n frammento di testo fuori dalla lista è stato rimosso.</numerusform>
+            <numerusform>%n frammenti di testo fuori dalla lista sono stati rimossi.</numerusform>
+        </translation>
+    </message>
+    <message id="kMendedTags" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>È stato corretto %n tag mancante o errato.</numerusform>
+            <numerusform>Sono stati corretti %n tag mancanti o errati.</numerusform>
+        </translation>
+    </message>
+    <message id="kMendedTitle">
+        <source></source>
+        <translation>Questa è una copia riparata di “%1”. Quel file resta com’è.</translation>
+    </message>
     <message id="kMenuAbout">
         <source></source>
         <translation>&amp;Informazioni su Quillet</translation>
@@ -439,6 +501,53 @@
         <source></source>
         <translation>È possibile aprire solo file di questo computer.</translation>
     </message>
+    <message id="kNoticeBinary">
+        <source></source>
+        <translation>Non è stato trovato alcun canale, perché questo sembra una lista binaria e non un file di testo TLL.</translation>
+    </message>
+    <message id="kNoticeClose">
+        <source></source>
+        <translation>Chiudi questo avviso</translation>
+    </message>
+    <message id="kNoticeDamaged">
+        <source></source>
+        <translation>Il file è danneggiato alla riga %1, dopo il canale “%2”.</translation>
+    </message>
+    <message id="kNoticeDamagedFirst">
+        <source></source>
+        <translation>Il file è danneggiato alla riga %1, prima del primo canale completo.</translation>
+    </message>
+    <message id="kNoticeDamagedLine">
+        <source></source>
+        <translation>Il file è danneggiato alla riga %1.</translation>
+    </message>
+    <message id="kNoticeJSON">
+        <source></source>
+        <translation>Non è stato trovato alcun canale, perché non è stato possibile decodificare il testo JSON che li contiene (riga %1, colonna %2).</translation>
+    </message>
+    <message id="kNoticeJSONCut">
+        <source></source>
+        <translation>Non è stato trovato alcun canale, perché il testo JSON che li contiene non è completo.</translation>
+    </message>
+    <message id="kNoticeLatin1">
+        <source></source>
+        <translation>Il file non è UTF-8 valido ed è stato decodificato come Latin-1. Il salvataggio scrive in UTF-8 e quindi cambia ogni lettera accentata in tutto il file.</translation>
+    </message>
+    <message id="kNoticeNoXML">
+        <source></source>
+        <translation>Non è stato trovato alcun canale, perché questo è un testo di altro tipo e non un file TLL.</translation>
+    </message>
+    <message id="kNoticeUnread" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canale (&lt;ITEM&gt;) che segue non è stato letto e andrebbe perso salvando questa lista.</numerusform>
+            <numerusform>%n canali (&lt;ITEM&gt;) che seguono non sono stati letti e andrebbero persi salvando questa lista.</numerusform>
+        </translation>
+    </message>
+    <message id="kNoticeUnreadEnd">
+        <source></source>
+        <translation>Il seguito non è stato letto.</translation>
+    </message>
     <message id="kOK">
         <source></source>
         <translation>OK</translation>
@@ -446,6 +555,10 @@
     <message id="kOpenFailedMessage">
         <source></source>
         <translation>Impossibile aprire “%1”.</translation>
+    </message>
+    <message id="kOpenRepairedCopy">
+        <source></source>
+        <translation>Apri una copia riparata</translation>
     </message>
     <message id="kOpenTitle">
         <source></source>
@@ -503,6 +616,73 @@
         <source></source>
         <translation>Tutte le modifiche fatte da allora andranno perse.</translation>
     </message>
+    <message id="kReviewChanged" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canale perderebbe parte dei suoi dati: %1</numerusform>
+            <numerusform>%n canali perderebbero parte dei loro dati: %1</numerusform>
+        </translation>
+    </message>
+    <message id="kReviewDoubled" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canale comparirebbe due volte: %1</numerusform>
+            <numerusform>%n canali comparirebbero due volte: %1</numerusform>
+        </translation>
+    </message>
+    <message id="kReviewExtras">
+        <source></source>
+        <translation>Andrebbero persi commenti o dettagli aggiuntivi tra i canali.</translation>
+    </message>
+    <message id="kReviewMessage">
+        <source></source>
+        <translation>Salvando “%1” qualcosa andrebbe perso.</translation>
+    </message>
+    <message id="kReviewMissing" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Mancherebbe %n canale: %1</numerusform>
+            <numerusform>Mancherebbero %n canali: %1</numerusform>
+        </translation>
+    </message>
+    <message id="kReviewNoRepair">
+        <source></source>
+        <translation>Non c’è modo di scrivere questo file perdendo di meno. Conservare una copia del vecchio file prima di salvare.</translation>
+    </message>
+    <message id="kReviewRefused">
+        <source></source>
+        <translation>Il file salvato non potrebbe più essere aperto.</translation>
+    </message>
+    <message id="kReviewRenumbered" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canale riceverebbe un altro numero: %1</numerusform>
+            <numerusform>%n canali riceverebbero un altro numero: %1</numerusform>
+        </translation>
+    </message>
+    <message id="kReviewRepair">
+        <source></source>
+        <translation>Con “Salva riparato” non va perso nulla: vengono scritte le modifiche e tutto il resto rimane com’è stato letto.</translation>
+    </message>
+    <message id="kReviewRepairPartly">
+        <source></source>
+        <translation>“Salva riparato” scrive le modifiche e lascia tutto il resto com’è stato letto, ma anche così:</translation>
+    </message>
+    <message id="kReviewSurroundings">
+        <source></source>
+        <translation>Andrebbe perso ciò che il televisore conserva prima o dopo i canali.</translation>
+    </message>
+    <message id="kReviewTail">
+        <source></source>
+        <translation>Ciò che segue un punto danneggiato del file scomparirebbe.</translation>
+    </message>
+    <message id="kReviewUnread" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canale dopo un punto danneggiato del file non è mai stato letto e scomparirebbe.</numerusform>
+            <numerusform>%n canali dopo un punto danneggiato del file non sono mai stati letti e scomparirebbero.</numerusform>
+        </translation>
+    </message>
     <message id="kSatellite">
         <source></source>
         <translation>Satellite</translation>
@@ -526,6 +706,14 @@
     <message id="kSaveFailedMessage">
         <source></source>
         <translation>Impossibile salvare “%1”. Il file sul disco non è stato modificato.</translation>
+    </message>
+    <message id="kSaveRepaired">
+        <source></source>
+        <translation>Salva riparato</translation>
+    </message>
+    <message id="kSaveTitle">
+        <source></source>
+        <translation>Salva lista di canali</translation>
     </message>
     <message id="kSearchPlaceholder">
         <source></source>
@@ -587,6 +775,10 @@ Questi proseguono dal numero: %3</translation>
     <message id="kUntitled">
         <source></source>
         <translation>Senza titolo</translation>
+    </message>
+    <message id="kUntouchedReason">
+        <source></source>
+        <translation>Il file danneggiato viene lasciato com’è. Scegli un altro nome o un’altra cartella.</translation>
     </message>
     <message id="kWriteFailedReason">
         <source></source>

@@ -55,6 +55,17 @@
         <source></source>
         <translation>Bestanden van dit type kunnen niet worden gebruikt</translation>
     </message>
+    <message id="kBadSectionContent">
+        <source></source>
+        <translation>De sectie %1 bevat geen lijst met zenders.</translation>
+    </message>
+    <message id="kBadSectionDistance" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>De eerste zender van de sectie %1 staat %n teken na het begin van de sectie; er zijn er hoogstens %2 toegestaan.</numerusform>
+            <numerusform>De eerste zender van de sectie %1 staat %n tekens na het begin van de sectie; er zijn er hoogstens %2 toegestaan.</numerusform>
+        </translation>
+    </message>
     <message id="kCable">
         <source></source>
         <translation>Kabel</translation>
@@ -275,6 +286,57 @@
         <source></source>
         <translation>De zenderlijst kon niet worden geopend.</translation>
     </message>
+    <message id="kMendedAmpersands" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n losse “&amp;” is geldig gemaakt.</numerusform>
+            <numerusform>%n losse “&amp;”-tekens zijn geldig gemaakt.</numerusform>
+        </translation>
+    </message>
+    <message id="kMendedBrackets" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n losse “&lt;” is geldig gemaakt.</numerusform>
+            <numerusform>%n losse “&lt;”-tekens zijn geldig gemaakt.</numerusform>
+        </translation>
+    </message>
+    <message id="kMendedControls" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n stuurteken is verwijderd.</numerusform>
+            <numerusform>%n stuurtekens zijn verwijderd.</numerusform>
+        </translation>
+    </message>
+    <message id="kMendedCut">
+        <source></source>
+        <translation>De laatste zender was afgekapt; wat ervan volledig is, is behouden.</translation>
+    </message>
+    <message id="kMendedDropped">
+        <source></source>
+        <translation>De laatste zender was afgekapt en moest worden weggelaten.</translation>
+    </message>
+    <message id="kMendedEnd">
+        <source></source>
+        <translation>Het einde van het bestand ontbrak en is toegevoegd.</translation>
+    </message>
+    <message id="kMendedStrays" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n stuk tekst buiten de lijst is verwijderd.</numerusform>
+            <numerusform>%n stukken tekst buiten de lijst zijn verwijderd.</numerusform>
+        </translation>
+    </message>
+    <message id="kMendedTags" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n ontbrekende of verkeerde tag is hersteld.</numerusform>
+            <numerusform>%n ontbrekende of verkeerde tags zijn hersteld.</numerusform>
+        </translation>
+    </message>
+    <message id="kMendedTitle">
+        <source></source>
+        <translation>Dit is een herstelde kopie van “%1”. Dat bestand blijft zoals het is.</translation>
+    </message>
     <message id="kMenuAbout">
         <source></source>
         <translation>&amp;Over Quillet</translation>
@@ -439,6 +501,53 @@
         <source></source>
         <translation>Alleen bestanden op deze computer kunnen worden geopend.</translation>
     </message>
+    <message id="kNoticeBinary">
+        <source></source>
+        <translation>Er zijn geen zenders gevonden, want dit lijkt een binaire lijst en geen TLL-tekstbestand.</translation>
+    </message>
+    <message id="kNoticeClose">
+        <source></source>
+        <translation>Deze melding sluiten</translation>
+    </message>
+    <message id="kNoticeDamaged">
+        <source></source>
+        <translation>Het bestand is beschadigd op regel %1, na de zender “%2”.</translation>
+    </message>
+    <message id="kNoticeDamagedFirst">
+        <source></source>
+        <translation>Het bestand is beschadigd op regel %1, vóór de eerste volledige zender.</translation>
+    </message>
+    <message id="kNoticeDamagedLine">
+        <source></source>
+        <translation>Het bestand is beschadigd op regel %1.</translation>
+    </message>
+    <message id="kNoticeJSON">
+        <source></source>
+        <translation>Er zijn geen zenders gevonden, want de JSON-tekst waarin ze staan kon niet worden gedecodeerd (regel %1, kolom %2).</translation>
+    </message>
+    <message id="kNoticeJSONCut">
+        <source></source>
+        <translation>Er zijn geen zenders gevonden, want de JSON-tekst waarin ze staan is niet volledig.</translation>
+    </message>
+    <message id="kNoticeLatin1">
+        <source></source>
+        <translation>Het bestand is geen geldige UTF-8 en is als Latin-1 gedecodeerd. Bij het opslaan wordt UTF-8 geschreven, wat in het hele bestand elke letter met een accent verandert.</translation>
+    </message>
+    <message id="kNoticeNoXML">
+        <source></source>
+        <translation>Er zijn geen zenders gevonden, want dit is een ander soort tekst en geen TLL-bestand.</translation>
+    </message>
+    <message id="kNoticeUnread" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n volgende zender (&lt;ITEM&gt;) is niet gelezen en gaat verloren als u deze lijst opslaat.</numerusform>
+            <numerusform>%n volgende zenders (&lt;ITEM&gt;) zijn niet gelezen en gaan verloren als u deze lijst opslaat.</numerusform>
+        </translation>
+    </message>
+    <message id="kNoticeUnreadEnd">
+        <source></source>
+        <translation>Wat volgt is niet gelezen.</translation>
+    </message>
     <message id="kOK">
         <source></source>
         <translation>OK</translation>
@@ -446,6 +555,10 @@
     <message id="kOpenFailedMessage">
         <source></source>
         <translation>“%1” kon niet worden geopend.</translation>
+    </message>
+    <message id="kOpenRepairedCopy">
+        <source></source>
+        <translation>Herstelde kopie openen</translation>
     </message>
     <message id="kOpenTitle">
         <source></source>
@@ -503,6 +616,73 @@
         <source></source>
         <translation>Alle wijzigingen die u sindsdien hebt aangebracht, gaan verloren.</translation>
     </message>
+    <message id="kReviewChanged" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n zender zou een deel van zijn gegevens verliezen: %1</numerusform>
+            <numerusform>%n zenders zouden een deel van hun gegevens verliezen: %1</numerusform>
+        </translation>
+    </message>
+    <message id="kReviewDoubled" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n zender zou er dubbel in staan: %1</numerusform>
+            <numerusform>%n zenders zouden er dubbel in staan: %1</numerusform>
+        </translation>
+    </message>
+    <message id="kReviewExtras">
+        <source></source>
+        <translation>Opmerkingen of extra gegevens tussen de zenders zouden verloren gaan.</translation>
+    </message>
+    <message id="kReviewMessage">
+        <source></source>
+        <translation>Bij het opslaan van “%1” zou iets verloren gaan.</translation>
+    </message>
+    <message id="kReviewMissing" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n zender zou ontbreken: %1</numerusform>
+            <numerusform>%n zenders zouden ontbreken: %1</numerusform>
+        </translation>
+    </message>
+    <message id="kReviewNoRepair">
+        <source></source>
+        <translation>Dit bestand kan niet met minder verlies worden geschreven. Bewaar een kopie van het oude bestand voordat u opslaat.</translation>
+    </message>
+    <message id="kReviewRefused">
+        <source></source>
+        <translation>Het opgeslagen bestand zou niet meer te openen zijn.</translation>
+    </message>
+    <message id="kReviewRenumbered" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n zender zou een ander nummer krijgen: %1</numerusform>
+            <numerusform>%n zenders zouden een ander nummer krijgen: %1</numerusform>
+        </translation>
+    </message>
+    <message id="kReviewRepair">
+        <source></source>
+        <translation>Met “Hersteld opslaan” gaat niets verloren: uw wijzigingen worden geschreven en al het andere blijft zoals het is gelezen.</translation>
+    </message>
+    <message id="kReviewRepairPartly">
+        <source></source>
+        <translation>“Hersteld opslaan” schrijft uw wijzigingen en laat al het andere zoals het is gelezen, maar ook dan:</translation>
+    </message>
+    <message id="kReviewSurroundings">
+        <source></source>
+        <translation>Wat het televisietoestel vóór of na de zenders bewaart, zou verloren gaan.</translation>
+    </message>
+    <message id="kReviewTail">
+        <source></source>
+        <translation>Wat achter een beschadigde plek in het bestand staat, zou verdwijnen.</translation>
+    </message>
+    <message id="kReviewUnread" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n zender achter een beschadigde plek in het bestand is nooit gelezen en zou verdwijnen.</numerusform>
+            <numerusform>%n zenders achter een beschadigde plek in het bestand zijn nooit gelezen en zouden verdwijnen.</numerusform>
+        </translation>
+    </message>
     <message id="kSatellite">
         <source></source>
         <translation>Satelliet</translation>
@@ -526,6 +706,14 @@
     <message id="kSaveFailedMessage">
         <source></source>
         <translation>“%1” kon niet worden opgeslagen. Het bestand op de schijf is niet gewijzigd.</translation>
+    </message>
+    <message id="kSaveRepaired">
+        <source></source>
+        <translation>Hersteld opslaan</translation>
+    </message>
+    <message id="kSaveTitle">
+        <source></source>
+        <translation>Zenderlijst opslaan</translation>
     </message>
     <message id="kSearchPlaceholder">
         <source></source>
@@ -587,6 +775,10 @@ Deze gaan verder vanaf nummer: %3</translation>
     <message id="kUntitled">
         <source></source>
         <translation>Naamloos</translation>
+    </message>
+    <message id="kUntouchedReason">
+        <source></source>
+        <translation>Het beschadigde bestand blijft zoals het is. Kies een andere naam of een andere map.</translation>
     </message>
     <message id="kWriteFailedReason">
         <source></source>

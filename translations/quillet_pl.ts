@@ -55,6 +55,18 @@
         <source></source>
         <translation>Nie można użyć plików tego typu</translation>
     </message>
+    <message id="kBadSectionContent">
+        <source></source>
+        <translation>Sekcja %1 nie zawiera listy kanałów.</translation>
+    </message>
+    <message id="kBadSectionDistance" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Pierwszy kanał sekcji %1 znajduje się %n znak za początkiem sekcji; dozwolonych jest najwyżej %2.</numerusform>
+            <numerusform>Pierwszy kanał sekcji %1 znajduje się %n znaki za początkiem sekcji; dozwolonych jest najwyżej %2.</numerusform>
+            <numerusform>Pierwszy kanał sekcji %1 znajduje się %n znaków za początkiem sekcji; dozwolonych jest najwyżej %2.</numerusform>
+        </translation>
+    </message>
     <message id="kCable">
         <source></source>
         <translation>Kabel</translation>
@@ -275,6 +287,62 @@
         <source></source>
         <translation>Nie można otworzyć listy kanałów.</translation>
     </message>
+    <message id="kMendedAmpersands" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Poprawiono %n pojedynczy znak „&amp;”.</numerusform>
+            <numerusform>Poprawiono %n pojedyncze znaki „&amp;”.</numerusform>
+            <numerusform>Poprawiono %n pojedynczych znaków „&amp;”.</numerusform>
+        </translation>
+    </message>
+    <message id="kMendedBrackets" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Poprawiono %n pojedynczy znak „&lt;”.</numerusform>
+            <numerusform>Poprawiono %n pojedyncze znaki „&lt;”.</numerusform>
+            <numerusform>Poprawiono %n pojedynczych znaków „&lt;”.</numerusform>
+        </translation>
+    </message>
+    <message id="kMendedControls" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Usunięto %n znak sterujący.</numerusform>
+            <numerusform>Usunięto %n znaki sterujące.</numerusform>
+            <numerusform>Usunięto %n znaków sterujących.</numerusform>
+        </translation>
+    </message>
+    <message id="kMendedCut">
+        <source></source>
+        <translation>Ostatni kanał był ucięty; zachowano to, co pozostało z niego w całości.</translation>
+    </message>
+    <message id="kMendedDropped">
+        <source></source>
+        <translation>Ostatni kanał był ucięty i trzeba było go pominąć.</translation>
+    </message>
+    <message id="kMendedEnd">
+        <source></source>
+        <translation>Brakowało końca pliku; został dodany.</translation>
+    </message>
+    <message id="kMendedStrays" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Usunięto %n fragment tekstu spoza listy.</numerusform>
+            <numerusform>Usunięto %n fragmenty tekstu spoza listy.</numerusform>
+            <numerusform>Usunięto %n fragmentów tekstu spoza listy.</numerusform>
+        </translation>
+    </message>
+    <message id="kMendedTags" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Poprawiono %n brakujący lub błędny znacznik.</numerusform>
+            <numerusform>Poprawiono %n brakujące lub błędne znaczniki.</numerusform>
+            <numerusform>Poprawiono %n brakujących lub błędnych znaczników.</numerusform>
+        </translation>
+    </message>
+    <message id="kMendedTitle">
+        <source></source>
+        <translation>To jest naprawiona kopia pliku „%1”. Tamten plik pozostaje bez zmian.</translation>
+    </message>
     <message id="kMenuAbout">
         <source></source>
         <translation>&amp;O programie Quillet</translation>
@@ -439,6 +507,54 @@
         <source></source>
         <translation>Można otwierać tylko pliki z tego komputera.</translation>
     </message>
+    <message id="kNoticeBinary">
+        <source></source>
+        <translation>Nie znaleziono kanałów, ponieważ wygląda to na listę binarną, a nie na plik tekstowy TLL.</translation>
+    </message>
+    <message id="kNoticeClose">
+        <source></source>
+        <translation>Zamknij ten komunikat</translation>
+    </message>
+    <message id="kNoticeDamaged">
+        <source></source>
+        <translation>Plik jest uszkodzony w wierszu %1, za kanałem „%2”.</translation>
+    </message>
+    <message id="kNoticeDamagedFirst">
+        <source></source>
+        <translation>Plik jest uszkodzony w wierszu %1, przed pierwszym pełnym kanałem.</translation>
+    </message>
+    <message id="kNoticeDamagedLine">
+        <source></source>
+        <translation>Plik jest uszkodzony w wierszu %1.</translation>
+    </message>
+    <message id="kNoticeJSON">
+        <source></source>
+        <translation>Nie znaleziono kanałów, ponieważ nie udało się zdekodować tekstu JSON, który je zawiera (wiersz %1, kolumna %2).</translation>
+    </message>
+    <message id="kNoticeJSONCut">
+        <source></source>
+        <translation>Nie znaleziono kanałów, ponieważ tekst JSON, który je zawiera, nie jest kompletny.</translation>
+    </message>
+    <message id="kNoticeLatin1">
+        <source></source>
+        <translation>Plik nie jest poprawnym UTF-8 i został zdekodowany jako Latin-1. Zapis odbywa się w UTF-8, co zmieni w całym pliku każdą literę ze znakiem diakrytycznym.</translation>
+    </message>
+    <message id="kNoticeNoXML">
+        <source></source>
+        <translation>Nie znaleziono kanałów, ponieważ jest to tekst innego rodzaju, a nie plik TLL.</translation>
+    </message>
+    <message id="kNoticeUnread" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Nie odczytano %n następnego kanału (&lt;ITEM&gt;); zapisanie tej listy spowodowałoby jego utratę.</numerusform>
+            <numerusform>Nie odczytano %n następnych kanałów (&lt;ITEM&gt;); zapisanie tej listy spowodowałoby ich utratę.</numerusform>
+            <numerusform>Nie odczytano %n następnych kanałów (&lt;ITEM&gt;); zapisanie tej listy spowodowałoby ich utratę.</numerusform>
+        </translation>
+    </message>
+    <message id="kNoticeUnreadEnd">
+        <source></source>
+        <translation>Dalszej części nie odczytano.</translation>
+    </message>
     <message id="kOK">
         <source></source>
         <translation>OK</translation>
@@ -446,6 +562,10 @@
     <message id="kOpenFailedMessage">
         <source></source>
         <translation>Nie można otworzyć pliku „%1”.</translation>
+    </message>
+    <message id="kOpenRepairedCopy">
+        <source></source>
+        <translation>Otwórz naprawioną kopię</translation>
     </message>
     <message id="kOpenTitle">
         <source></source>
@@ -503,6 +623,78 @@
         <source></source>
         <translation>Wszystkie zmiany wprowadzone od tego czasu zostaną utracone.</translation>
     </message>
+    <message id="kReviewChanged" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n kanał straciłby część danych: %1</numerusform>
+            <numerusform>%n kanały straciłyby część danych: %1</numerusform>
+            <numerusform>%n kanałów straciłoby część danych: %1</numerusform>
+        </translation>
+    </message>
+    <message id="kReviewDoubled" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n kanał wystąpiłby dwukrotnie: %1</numerusform>
+            <numerusform>%n kanały wystąpiłyby dwukrotnie: %1</numerusform>
+            <numerusform>%n kanałów wystąpiłoby dwukrotnie: %1</numerusform>
+        </translation>
+    </message>
+    <message id="kReviewExtras">
+        <source></source>
+        <translation>Utracone zostałyby uwagi lub dodatkowe dane między kanałami.</translation>
+    </message>
+    <message id="kReviewMessage">
+        <source></source>
+        <translation>Zapisanie „%1” spowodowałoby utratę danych.</translation>
+    </message>
+    <message id="kReviewMissing" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Zabrakłoby %n kanału: %1</numerusform>
+            <numerusform>Zabrakłoby %n kanałów: %1</numerusform>
+            <numerusform>Zabrakłoby %n kanałów: %1</numerusform>
+        </translation>
+    </message>
+    <message id="kReviewNoRepair">
+        <source></source>
+        <translation>Nie da się zapisać tego pliku z mniejszą stratą. Przed zapisem zachowaj kopię starego pliku.</translation>
+    </message>
+    <message id="kReviewRefused">
+        <source></source>
+        <translation>Zapisanego pliku nie dałoby się ponownie otworzyć.</translation>
+    </message>
+    <message id="kReviewRenumbered" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n kanał otrzymałby inny numer: %1</numerusform>
+            <numerusform>%n kanały otrzymałyby inny numer: %1</numerusform>
+            <numerusform>%n kanałów otrzymałoby inny numer: %1</numerusform>
+        </translation>
+    </message>
+    <message id="kReviewRepair">
+        <source></source>
+        <translation>„Zapisz naprawiony” niczego nie traci: zapisuje Twoje zmiany, a całą resztę pozostawia tak, jak została odczytana.</translation>
+    </message>
+    <message id="kReviewRepairPartly">
+        <source></source>
+        <translation>„Zapisz naprawiony” zapisuje Twoje zmiany, a resztę pozostawia tak, jak została odczytana, ale nawet wtedy:</translation>
+    </message>
+    <message id="kReviewSurroundings">
+        <source></source>
+        <translation>Utracone zostałyby dane, które telewizor przechowuje przed kanałami lub za nimi.</translation>
+    </message>
+    <message id="kReviewTail">
+        <source></source>
+        <translation>To, co znajduje się za uszkodzonym miejscem pliku, zniknęłoby.</translation>
+    </message>
+    <message id="kReviewUnread" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n kanał za uszkodzonym miejscem pliku nie został odczytany i zniknąłby.</numerusform>
+            <numerusform>%n kanały za uszkodzonym miejscem pliku nie zostały odczytane i zniknęłyby.</numerusform>
+            <numerusform>%n kanałów za uszkodzonym miejscem pliku nie zostało odczytanych i zniknęłoby.</numerusform>
+        </translation>
+    </message>
     <message id="kSatellite">
         <source></source>
         <translation>Satelita</translation>
@@ -526,6 +718,14 @@
     <message id="kSaveFailedMessage">
         <source></source>
         <translation>Nie można zapisać pliku „%1”. Plik na dysku nie został zmieniony.</translation>
+    </message>
+    <message id="kSaveRepaired">
+        <source></source>
+        <translation>Zapisz naprawiony</translation>
+    </message>
+    <message id="kSaveTitle">
+        <source></source>
+        <translation>Zapisz listę kanałów</translation>
     </message>
     <message id="kSearchPlaceholder">
         <source></source>
@@ -588,6 +788,10 @@ Te następują od numeru: %3</translation>
     <message id="kUntitled">
         <source></source>
         <translation>Bez nazwy</translation>
+    </message>
+    <message id="kUntouchedReason">
+        <source></source>
+        <translation>Uszkodzony plik pozostaje bez zmian. Wybierz inną nazwę lub inny folder.</translation>
     </message>
     <message id="kWriteFailedReason">
         <source></source>

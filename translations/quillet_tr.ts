@@ -55,6 +55,16 @@
         <source></source>
         <translation>Bu türdeki dosyalar kullanılamaz</translation>
     </message>
+    <message id="kBadSectionContent">
+        <source></source>
+        <translation>%1 bölümünde kanal listesi yok.</translation>
+    </message>
+    <message id="kBadSectionDistance" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%1 bölümünün ilk kanalı bölümün başından %n karakter sonra geliyor; en çok %2 karaktere izin verilir.</numerusform>
+        </translation>
+    </message>
     <message id="kCable">
         <source></source>
         <translation>Kablo</translation>
@@ -275,6 +285,52 @@
         <source></source>
         <translation>Kanal listesi açılamadı.</translation>
     </message>
+    <message id="kMendedAmpersands" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Tek başına duran %n “&amp;” geçerli hale getirildi.</numerusform>
+        </translation>
+    </message>
+    <message id="kMendedBrackets" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Tek başına duran %n “&lt;” geçerli hale getirildi.</numerusform>
+        </translation>
+    </message>
+    <message id="kMendedControls" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n denetim karakteri kaldırıldı.</numerusform>
+        </translation>
+    </message>
+    <message id="kMendedCut">
+        <source></source>
+        <translation>Son kanal yarım kalmıştı; ondan sağlam kalanlar korundu.</translation>
+    </message>
+    <message id="kMendedDropped">
+        <source></source>
+        <translation>Son kanal yarım kalmıştı ve dışarıda bırakılması gerekti.</translation>
+    </message>
+    <message id="kMendedEnd">
+        <source></source>
+        <translation>Dosyanın sonu eksikti ve eklendi.</translation>
+    </message>
+    <message id="kMendedStrays" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Listenin dışındaki %n metin parçası kaldırıldı.</numerusform>
+        </translation>
+    </message>
+    <message id="kMendedTags" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Eksik veya yanlış %n etiket düzeltildi.</numerusform>
+        </translation>
+    </message>
+    <message id="kMendedTitle">
+        <source></source>
+        <translation>Bu, “%1” dosyasının onarılmış bir kopyasıdır. O dosya olduğu gibi kalır.</translation>
+    </message>
     <message id="kMenuAbout">
         <source></source>
         <translation>Quillet &amp;Hakkında</translation>
@@ -439,6 +495,52 @@
         <source></source>
         <translation>Yalnızca bu bilgisayardaki dosyalar açılabilir.</translation>
     </message>
+    <message id="kNoticeBinary">
+        <source></source>
+        <translation>Kanal bulunamadı, çünkü bu bir TLL metin dosyasına değil, ikili bir listeye benziyor.</translation>
+    </message>
+    <message id="kNoticeClose">
+        <source></source>
+        <translation>Bu bildirimi kapat</translation>
+    </message>
+    <message id="kNoticeDamaged">
+        <source></source>
+        <translation>Dosya %1. satırda, “%2” kanalından sonra bozuk.</translation>
+    </message>
+    <message id="kNoticeDamagedFirst">
+        <source></source>
+        <translation>Dosya %1. satırda, ilk tam kanaldan önce bozuk.</translation>
+    </message>
+    <message id="kNoticeDamagedLine">
+        <source></source>
+        <translation>Dosya %1. satırda bozuk.</translation>
+    </message>
+    <message id="kNoticeJSON">
+        <source></source>
+        <translation>Kanal bulunamadı, çünkü kanalları içeren JSON metninin kodu çözülemedi (satır %1, sütun %2).</translation>
+    </message>
+    <message id="kNoticeJSONCut">
+        <source></source>
+        <translation>Kanal bulunamadı, çünkü kanalları içeren JSON metni tam değil.</translation>
+    </message>
+    <message id="kNoticeLatin1">
+        <source></source>
+        <translation>Dosya geçerli UTF-8 değil ve Latin-1 olarak çözüldü. Kaydetme UTF-8 yazar ve böylece dosyanın tamamındaki aksanlı harflerin hepsini değiştirir.</translation>
+    </message>
+    <message id="kNoticeNoXML">
+        <source></source>
+        <translation>Kanal bulunamadı, çünkü bu başka türden bir metin; bir TLL dosyası değil.</translation>
+    </message>
+    <message id="kNoticeUnread" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Bundan sonraki %n kanal (&lt;ITEM&gt;) okunmadı; bu listeyi kaydetmek onların kaybına yol açar.</numerusform>
+        </translation>
+    </message>
+    <message id="kNoticeUnreadEnd">
+        <source></source>
+        <translation>Devamı okunmadı.</translation>
+    </message>
     <message id="kOK">
         <source></source>
         <translation>Tamam</translation>
@@ -446,6 +548,10 @@
     <message id="kOpenFailedMessage">
         <source></source>
         <translation>“%1” açılamadı.</translation>
+    </message>
+    <message id="kOpenRepairedCopy">
+        <source></source>
+        <translation>Onarılmış Kopyayı Aç</translation>
     </message>
     <message id="kOpenTitle">
         <source></source>
@@ -503,6 +609,68 @@
         <source></source>
         <translation>O zamandan beri yaptığınız tüm değişiklikler kaybolur.</translation>
     </message>
+    <message id="kReviewChanged" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n kanal verilerinin bir bölümünü yitirir: %1</numerusform>
+        </translation>
+    </message>
+    <message id="kReviewDoubled" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n kanal iki kez yer alır: %1</numerusform>
+        </translation>
+    </message>
+    <message id="kReviewExtras">
+        <source></source>
+        <translation>Kanallar arasındaki notlar veya ek bilgiler kaybolur.</translation>
+    </message>
+    <message id="kReviewMessage">
+        <source></source>
+        <translation>“%1” kaydedilirse bir şeyler kaybolur.</translation>
+    </message>
+    <message id="kReviewMissing" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n kanal eksik olur: %1</numerusform>
+        </translation>
+    </message>
+    <message id="kReviewNoRepair">
+        <source></source>
+        <translation>Bu dosyayı daha az kayıpla yazmanın yolu yok. Kaydetmeden önce eski dosyanın bir kopyasını saklayın.</translation>
+    </message>
+    <message id="kReviewRefused">
+        <source></source>
+        <translation>Kaydedilen dosya yeniden açılamaz.</translation>
+    </message>
+    <message id="kReviewRenumbered" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n kanal başka bir numara alır: %1</numerusform>
+        </translation>
+    </message>
+    <message id="kReviewRepair">
+        <source></source>
+        <translation>“Onarılmış Kaydet” hiçbir şey kaybettirmez: değişiklikleriniz yazılır, geri kalan her şey okunduğu gibi kalır.</translation>
+    </message>
+    <message id="kReviewRepairPartly">
+        <source></source>
+        <translation>“Onarılmış Kaydet” değişikliklerinizi yazar ve geri kalan her şeyi okunduğu gibi bırakır; yine de:</translation>
+    </message>
+    <message id="kReviewSurroundings">
+        <source></source>
+        <translation>Televizyonun kanallardan önce veya sonra sakladıkları kaybolur.</translation>
+    </message>
+    <message id="kReviewTail">
+        <source></source>
+        <translation>Dosyanın hasarlı bir yerinden sonra gelenler kaybolur.</translation>
+    </message>
+    <message id="kReviewUnread" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Dosyanın hasarlı bir yerinden sonra gelen %n kanal hiç okunmadı ve kaybolur.</numerusform>
+        </translation>
+    </message>
     <message id="kSatellite">
         <source></source>
         <translation>Uydu</translation>
@@ -526,6 +694,14 @@
     <message id="kSaveFailedMessage">
         <source></source>
         <translation>“%1” kaydedilemedi. Diskteki dosya değiştirilmedi.</translation>
+    </message>
+    <message id="kSaveRepaired">
+        <source></source>
+        <translation>Onarılmış Kaydet</translation>
+    </message>
+    <message id="kSaveTitle">
+        <source></source>
+        <translation>Kanal Listesini Kaydet</translation>
     </message>
     <message id="kSearchPlaceholder">
         <source></source>
@@ -586,6 +762,10 @@ Bunların devam ettiği numara: %3</translation>
     <message id="kUntitled">
         <source></source>
         <translation>Adsız</translation>
+    </message>
+    <message id="kUntouchedReason">
+        <source></source>
+        <translation>Bozuk dosya olduğu gibi bırakılır. Başka bir ad veya klasör seçin.</translation>
     </message>
     <message id="kWriteFailedReason">
         <source></source>

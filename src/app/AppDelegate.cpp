@@ -3,6 +3,7 @@
 #include "app/HelpLoader.h"
 #include "app/LGWindowController.h"
 #include "app/MainMenu.h"
+#include "document/FileDiagnosis.h"
 #include "document/TLLDocument.h"
 #include "editor/EditorView.h"
 
@@ -36,7 +37,7 @@ QStringList AppDelegate::nameFilters()
             qtTrId("kFilterAllFiles") + QStringLiteral(" (*)")};
 }
 
-std::unique_ptr<Document> AppDelegate::makeDocument()
+std::unique_ptr<TLLDocument> AppDelegate::makeDocument()
 {
     auto document = std::make_unique<TLLDocument>();
     document->setWindowFactory([this] {
@@ -44,9 +45,29 @@ std::unique_ptr<Document> AppDelegate::makeDocument()
         auto *menu = new MainMenu(*controller, m_documents, controller->window());
         connect(menu, &MainMenu::quitRequested, this, &AppDelegate::terminate);
         connect(menu, &MainMenu::helpRequested, this, &AppDelegate::showHelpWindow);
+        connect(&controller->editor().controller(), &ViewController::repairedCopyRequested, this,
+                [this, window = controller.get()] {
+                    if (const TLLDocument *damaged = window->tlldoc())
+                        openRepairedCopy(*damaged);
+                });
         return controller;
     });
     return document;
+}
+
+void AppDelegate::openRepairedCopy(const TLLDocument &damaged)
+{
+    const QFileInfo file(damaged.fileUrl().toLocalFile());
+    const std::optional<MendedText> mended = repairedText(damaged);
+    std::unique_ptr<TLLDocument> copy = makeDocument();
+    TLLDocument &opened = *copy;
+    if (!mended || !copy->readRepaired(*mended, file.fileName()))
+        return;
+    const QString suffix = file.suffix().isEmpty() ? QString() : u'.' + file.suffix();
+    const QString name = file.completeBaseName() + QLatin1String("-repaired") + suffix;
+    m_documents.openUntitled(std::move(copy), QUrl::fromLocalFile(file.path() + u'/' + name),
+                             damaged.fileUrl());
+    opened.setDirtyFlag(true); // showing a document makes it unchanged
 }
 
 void AppDelegate::applicationDidFinishLaunching(const QStringList &paths)

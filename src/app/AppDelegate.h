@@ -12,6 +12,8 @@
 
 namespace quillet {
 
+class TLLDocument;
+
 /// The running application: owns the document controller, gives every document its window and ends
 /// the program. Made by main, or by a test with prompts of its own.
 class AppDelegate : public QObject
@@ -29,6 +31,8 @@ public:
 
     /// Opens the files the program was started with; without any, an empty window.
     void applicationDidFinishLaunching(const QStringList &paths);
+    /// Opens what can be mended of a damaged file as an untitled document.
+    void openRepairedCopy(const TLLDocument &damaged);
     /// What is used instead of the desktop's own services; must outlive the delegate.
     void setSystemServices(SystemServices &services) { m_services = &services; }
     /// Shows the start page of the user guide, in the help window or, when the program came without
@@ -44,7 +48,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    [[nodiscard]] std::unique_ptr<Document> makeDocument();
+    [[nodiscard]] std::unique_ptr<TLLDocument> makeDocument();
 
     DesktopServices m_desktop;
     SystemServices *m_services = &m_desktop;

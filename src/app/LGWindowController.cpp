@@ -29,6 +29,8 @@ bool LGWindowController::populateFromTLLDoc(TLLDocument &document, const Error &
 {
     connect(&document, &Document::documentEditedChanged, m_editor, &EditorView::stateChanged,
             Qt::UniqueConnection);
+    connect(&document, &Document::fileUrlChanged, &m_editor->controller(),
+            &ViewController::showFileName, Qt::UniqueConnection);
     const bool succeeded = m_editor->controller().populateFromTLLDoc(document, error);
     synchronizeWindowTitleWithDocumentName();
     return succeeded;

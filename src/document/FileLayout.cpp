@@ -2,16 +2,10 @@
 
 namespace quillet {
 
-namespace {
-
-/// How far the first ITEM may start from the start of its section's tag, in characters.
-constexpr qsizetype longestDistance = 9;
-
-} // namespace
-
 bool FileLayout::locate(const FileText &text, bool hasAnalogue, bool hasDigital)
 {
     FileText::Place footer;
+    m_distantItem.reset();
     const bool isWellFormed =
         (!hasAnalogue || locateSection(text, QLatin1String("<ATV>"), QLatin1String("</ATV>"),
                                        m_headerLenATV, footer)) &&
@@ -31,8 +25,11 @@ bool FileLayout::locateSection(const FileText &text, QLatin1String openTag, QLat
     const FileText::Place firstItem = text.find(QLatin1String("<ITEM>"), section);
     if (!firstItem.isValid())
         return true;
-    if (text.lengthBetween(section, firstItem) > longestDistance)
+    if (const qsizetype distance = text.lengthBetween(section, firstItem);
+        distance > longestDistance) {
+        m_distantItem = {openTag.sliced(1).chopped(1), distance};
         return false;
+    }
     headerLength = text.lengthBefore(firstItem);
     const FileText::Place end = text.find(closeTag, firstItem);
     if (end.isValid())

@@ -23,6 +23,17 @@ public:
     /// The text from the closing tag of the last section to the end; none when none was found.
     [[nodiscard]] const std::optional<QString> &footer() const { return m_footer; }
 
+    /// How far the first ITEM may start from the start of its section's tag, in characters.
+    static constexpr qsizetype longestDistance = 9;
+    /// A section whose first ITEM is too far from its tag.
+    struct DistantItem
+    {
+        QLatin1String section;
+        qsizetype distance = 0; ///< from the start of the tag, in characters
+    };
+    /// What made the last locate() fail; none when it did not.
+    [[nodiscard]] const std::optional<DistantItem> &distantItem() const { return m_distantItem; }
+
     void clear() { *this = {}; }
 
     /// Looks for the sections that have stations and notes where the first ITEM of each and the
@@ -33,14 +44,15 @@ public:
     void locateLegacy(const FileText &text);
 
 private:
-    [[nodiscard]] static bool locateSection(const FileText &text, QLatin1String openTag,
-                                            QLatin1String closeTag, qsizetype &headerLength,
-                                            FileText::Place &footer);
+    [[nodiscard]] bool locateSection(const FileText &text, QLatin1String openTag,
+                                     QLatin1String closeTag, qsizetype &headerLength,
+                                     FileText::Place &footer);
 
     qsizetype m_headerLenATV = 0;
     qsizetype m_headerLenDTV = 0;
     qsizetype m_headerLenLegacy = 0;
     std::optional<QString> m_footer;
+    std::optional<DistantItem> m_distantItem;
 };
 
 } // namespace quillet

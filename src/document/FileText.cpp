@@ -70,13 +70,19 @@ std::optional<FileText> FileText::decode(const QByteArray &bytes)
     FileText text;
     const auto first = static_cast<unsigned char>(bytes.front());
     if (first != 0xFF && first != 0x00 && bytes.isValidUtf8()) {
-        text.m_utf8 = bytes;
+        text.m_bytes = bytes;
         return text;
     }
     std::optional<DecodedText> decoded = decodeText(bytes);
     text.m_encoding = decoded->encoding;
+    text.m_bytes = bytes;
     text.m_text = std::move(decoded->text);
     return text;
+}
+
+QByteArray FileText::utf8() const
+{
+    return m_encoding == TextEncoding::Utf8 ? m_bytes : m_text.toUtf8();
 }
 
 QString FileText::toString() const
@@ -88,14 +94,14 @@ FileText::Place FileText::find(QLatin1String ascii, Place from) const
 {
     if (m_encoding != TextEncoding::Utf8)
         return {m_text.indexOf(ascii, from.offset)};
-    return {indexOf(m_utf8, {ascii.data(), ascii.size()}, from.offset)};
+    return {indexOf(m_bytes, {ascii.data(), ascii.size()}, from.offset)};
 }
 
 qsizetype FileText::lengthBetween(Place from, Place to) const
 {
     if (m_encoding != TextEncoding::Utf8)
         return to.offset - from.offset;
-    return unitsIn(QByteArrayView(m_utf8).sliced(from.offset, to.offset - from.offset));
+    return unitsIn(QByteArrayView(m_bytes).sliced(from.offset, to.offset - from.offset));
 }
 
 QString FileText::textFrom(Place place) const
@@ -103,13 +109,13 @@ QString FileText::textFrom(Place place) const
     if (m_encoding != TextEncoding::Utf8)
         return m_text.sliced(place.offset);
     // A byte-order mark at the start is part of the text, which QString::fromUtf8 would drop.
-    return decodeText(QByteArrayView(m_utf8).sliced(place.offset)).value_or(DecodedText()).text;
+    return decodeText(QByteArrayView(m_bytes).sliced(place.offset)).value_or(DecodedText()).text;
 }
 
 void FileText::appendFirst(qsizetype length, Utf8Builder &output) const
 {
     if (m_encoding == TextEncoding::Utf8)
-        output.append(QByteArrayView(m_utf8).first(bytesOf(m_utf8, length)));
+        output.append(QByteArrayView(m_bytes).first(bytesOf(m_bytes, length)));
     else
         output.append(QStringView(m_text).first(std::min(length, m_text.size())));
 }
@@ -122,7 +128,7 @@ void FileText::appendFirst(qsizetype length, QString &output) const
 
 qsizetype FileText::size() const
 {
-    return m_utf8.size() + m_text.size();
+    return m_encoding == TextEncoding::Utf8 ? m_bytes.size() : m_text.size();
 }
 
 } // namespace quillet

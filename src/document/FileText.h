@@ -22,8 +22,8 @@ public:
 
     [[nodiscard]] TextEncoding encoding() const { return m_encoding; }
     [[nodiscard]] QString toString() const;
-    /// The bytes of a text in UTF-8; empty for any other.
-    [[nodiscard]] const QByteArray &utf8() const { return m_utf8; }
+    /// The text in UTF-8: the bytes themselves when they came in it.
+    [[nodiscard]] QByteArray utf8() const;
 
     /// A place in the text, which means something to this text alone.
     struct Place
@@ -41,13 +41,15 @@ public:
     /// Appends the first `length` UTF-16 units, or all when there are fewer.
     void appendFirst(qsizetype length, Utf8Builder &output) const;
     void appendFirst(qsizetype length, QString &output) const;
+    /// The bytes that were decoded.
+    [[nodiscard]] const QByteArray &bytes() const { return m_bytes; }
     /// About as many bytes as the text takes in UTF-8.
     [[nodiscard]] qsizetype size() const;
 
 private:
     TextEncoding m_encoding = TextEncoding::Utf8;
-    QByteArray m_utf8; ///< the text, when it came in UTF-8
-    QString m_text;    ///< the text, when it came otherwise
+    QByteArray m_bytes; ///< the text itself, when it came in UTF-8
+    QString m_text;     ///< the text, when it came otherwise
 };
 
 } // namespace quillet

@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <array>
 #include <limits>
+#include <unordered_map>
 #include <utility>
 
 namespace quillet {
@@ -42,11 +43,20 @@ constexpr std::array<std::array<QByteArrayView, 2>, 4> escapesForXML{{
     {"\xEF\xBF\xBF", "\\uffff"},
 }};
 
-/// A channel with its number, 0 when it has none.
+QByteArray jsonForXML(const Dictionary &object)
+{
+    QByteArray json = toJSON(object).value_or(QByteArray());
+    for (const auto &[character, escape] : escapesForXML)
+        json = replaced(std::move(json), character, escape);
+    return json;
+}
+
+/// A channel with its number, 0 when it has none, and its index in the file.
 struct NumberedChannel
 {
     qint32 number;
     Dictionary channel;
+    qint64 fileIndex;
 };
 
 /// The number as a 32-bit integer, however it is given.
@@ -79,15 +89,17 @@ std::vector<NumberedChannel> sortedChannels(const Array &list)
 {
     std::vector<NumberedChannel> channels;
     qint32 highest = 0;
+    qint64 next = 0;
     for (const Value &element : list) {
+        const qint64 fileIndex = next++;
         if (!element.dictionary())
             continue;
         const qint32 number = majorNumber(*element.dictionary());
         if (number < firstRadioNumber)
             highest = std::max(highest, number);
-        channels.push_back({number, *element.dictionary()});
+        channels.push_back({number, *element.dictionary(), fileIndex});
     }
-    for (auto &[number, channel] : channels) {
+    for (auto &[number, channel, fileIndex] : channels) {
         if (number != 0)
             continue;
         number = ++highest;
@@ -127,13 +139,13 @@ qsizetype LegacyBroadcast::extractLegacyStations(QByteArrayView json, StationLis
                            << formattedDescription(m_legacyDict.value_or(Dictionary()));
 
     qint64 position = 0;
-    for (const auto &[number, channel] : sortedChannels(channelList())) {
+    for (const auto &[number, channel, fileIndex] : sortedChannels(channelList())) {
         const auto station = std::make_shared<LGLegacyStation>(channel, position++);
         const QString *name = channel.string(u"channelName");
         qCDebug(log).noquote() << QString::asprintf("[%03lld] %d - %ls", position, number,
                                                     qUtf16Printable(name ? *name : QString()));
         if (station->isTVStation())
-            lists.fileStation(station);
+            lists.fileStation(station, {FilePlace::Section::JSON, fileIndex});
     }
     return static_cast<qsizetype>(lists.list(true, 0)->size());
 }
@@ -163,12 +175,45 @@ QByteArray LegacyBroadcast::json(const StationList &current) const
         else if (next < current.size())
             written.push_back(current[next++]->entry());
     }
+    return withChannels(std::move(written));
+}
+
+QByteArray LegacyBroadcast::repairedJSON(const std::vector<FiledStation> &roll,
+                                         const StationListPtr &current) const
+{
+    if (!m_legacyDict)
+        return {};
+    const Array channels = channelList();
+    if (channels.isEmpty())
+        return jsonForXML(*m_legacyDict);
+    std::vector<Value> written(channels.begin(), channels.end());
+    std::unordered_map<const LGStation *, std::size_t> places;
+    for (const auto &[station, place] : roll) {
+        const auto index = static_cast<std::size_t>(place.index);
+        written[index] = station->entry();
+        places.emplace(station.get(), index);
+    }
+    std::vector<const LGStation *> shown;
+    std::vector<std::size_t> placesOfShown;
+    for (std::size_t i = 0; current && i < current->size(); ++i) {
+        const auto place = places.find((*current)[i].get());
+        if (place == places.end())
+            continue; // twice in the list
+        shown.push_back(place->first);
+        placesOfShown.push_back(place->second);
+        places.erase(place);
+    }
+    std::sort(placesOfShown.begin(), placesOfShown.end());
+    for (std::size_t i = 0; i < shown.size(); ++i)
+        written[placesOfShown[i]] = shown[i]->entry();
+    return withChannels(std::move(written));
+}
+
+QByteArray LegacyBroadcast::withChannels(std::vector<Value> channels) const
+{
     Dictionary whole = *m_legacyDict;
-    whole.insert(channelListKey.toString(), Array(std::move(written)));
-    QByteArray json = toJSON(whole).value_or(QByteArray());
-    for (const auto &[character, escape] : escapesForXML)
-        json = replaced(std::move(json), character, escape);
-    return json;
+    whole.insert(channelListKey.toString(), Array(std::move(channels)));
+    return jsonForXML(whole);
 }
 
 } // namespace quillet

@@ -9,6 +9,7 @@
 
 namespace quillet {
 
+struct FiledStation;
 class StationLists;
 
 /// Decodes JSON; a problem is written to the log and gives none.
@@ -32,13 +33,22 @@ public:
     /// it. Empty when nothing could be decoded.
     [[nodiscard]] QByteArray json(const StationList &current) const;
 
+    /// The JSON with every channel once and with all edits: the stations of the given list, which
+    /// may be null, in its order in the places of their channels, all other stations in their own.
+    /// Compact, with no "<" in it. Empty when nothing could be decoded.
+    [[nodiscard]] QByteArray repairedJSON(const std::vector<FiledStation> &roll,
+                                          const StationListPtr &current) const;
+
     /// The decoded JSON; none when it could not be decoded or is no object.
     [[nodiscard]] const std::optional<Dictionary> &legacyDict() const { return m_legacyDict; }
     /// Where and why decoding failed; none when it did not.
     [[nodiscard]] const std::optional<JSONError> &error() const { return m_error; }
 
-private:
+    /// The channels as they were read, in the file's order; empty when there are none.
     [[nodiscard]] Array channelList() const;
+
+private:
+    [[nodiscard]] QByteArray withChannels(std::vector<Value> channels) const;
 
     std::optional<Dictionary> m_legacyDict;
     std::optional<JSONError> m_error;

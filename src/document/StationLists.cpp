@@ -24,13 +24,15 @@ void StationLists::setupLists()
         list = makeList(usualTVStations);
     for (StationListPtr &list : m_radioStations)
         list = makeList(usualRadioStations);
+    m_roll.clear();
 }
 
-bool StationLists::fileStation(StationPtr station)
+bool StationLists::fileStation(StationPtr station, FilePlace place)
 {
     const int source = station->mappedSourceIndex();
     if (source < 0)
         return false;
+    m_roll.push_back({station, place});
     list(station->isTVStation(), source)->push_back(std::move(station));
     return true;
 }

@@ -4,8 +4,24 @@
 #include "model/StationSource.h"
 
 #include <array>
+#include <vector>
 
 namespace quillet {
+
+/// Where a station stood in the file it was read from.
+struct FilePlace
+{
+    enum class Section { None, ATV, DTV, JSON };
+    Section section = Section::None;
+    qint64 index = 0; ///< among the section's ITEM elements that hold something, or the channels
+};
+
+/// A station as it was filed.
+struct FiledStation
+{
+    StationPtr station;
+    FilePlace place;
+};
 
 /// The eight station lists of a document: one for each source and mode. Owned by the document.
 class StationLists
@@ -25,7 +41,9 @@ public:
     [[nodiscard]] const Lists &radioStations() const { return m_radioStations; }
 
     /// Appends the station to the list of its source and mode; false when it names no source.
-    bool fileStation(StationPtr station);
+    bool fileStation(StationPtr station, FilePlace place = {});
+    /// Every station ever filed, in that order: what the lists should hold, each once.
+    [[nodiscard]] const std::vector<FiledStation> &roll() const { return m_roll; }
 
     /// Stations of a source, TV and radio together.
     [[nodiscard]] qsizetype stationCount(int source) const;
@@ -41,6 +59,7 @@ public:
 private:
     Lists m_tvStations;
     Lists m_radioStations;
+    std::vector<FiledStation> m_roll;
 };
 
 } // namespace quillet

@@ -1,6 +1,9 @@
 #include "document/TLLDocument.h"
 
 #include "document/ReferenceOrder.h"
+#include "document/Rehearsal.h"
+#include "document/RepairedWriter.h"
+#include "document/SaveReview.h"
 #include "document/TLLWindowController.h"
 #include "document/TLLWriter.h"
 #include "framework/Prompts.h"
@@ -12,6 +15,7 @@
 #include <QFileInfo>
 #include <QLoggingCategory>
 
+#include <algorithm>
 #include <array>
 
 namespace quillet {
@@ -71,6 +75,7 @@ bool TLLDocument::readFromData(const QByteArray &data, const QString &typeName, 
             : parser.dictionaryWithString(m_text.toString());
     m_xmlDictionary = std::move(tree).value_or(Dictionary());
     m_parseError = parser.firstError();
+    m_repair.reset();
 
     m_isLegacyFormat = isFormatWithLegacybroadcast();
     if (m_isLegacyFormat) {
@@ -79,12 +84,42 @@ bool TLLDocument::readFromData(const QByteArray &data, const QString &typeName, 
     }
     if (extractStations() < 0 ||
         !m_layout.locate(m_text, m_analogStations >= 1, m_digitalStations >= 1)) {
-        error = createBadFileFormatError(typeName);
+        error = createBadFileFormatError(typeName, badFormatDetail());
         return false;
     }
     if (m_lgWindowController)
         m_lgWindowController->populateFromTLLDoc(*this, {});
     return true;
+}
+
+bool TLLDocument::readRepaired(const MendedText &mended, const QString &fileName)
+{
+    Error unused;
+    if (!readFromData(mended.utf8, typeName(), unused))
+        return false;
+    m_repair = Repair{mended.mending, fileName};
+    return true;
+}
+
+/// Which section made the file one of a bad format, and why.
+QString TLLDocument::badFormatDetail() const
+{
+    QStringList lines;
+    const Dictionary *channel = m_xmlDictionary.dictionary(u"CHANNEL");
+    const auto isMalformed = [channel](QStringView name) {
+        const Value *section = channel ? channel->find(name) : nullptr;
+        return section && !section->dictionary();
+    };
+    const auto malformed = std::find_if(sections.begin(), sections.end(), isMalformed);
+    if (malformed != sections.end())
+        lines.append(qtTrId("kBadSectionContent").arg(*malformed));
+    else if (const auto &item = m_layout.distantItem())
+        lines.append(qtTrId("kBadSectionDistance", static_cast<int>(item->distance))
+                         .arg(item->section)
+                         .arg(FileLayout::longestDistance));
+    if (m_parseError)
+        lines.append(qtTrId("kNoticeDamagedLine").arg(m_parseError->line));
+    return lines.join(u'\n');
 }
 
 bool TLLDocument::isFormatWithLegacybroadcast() const
@@ -141,6 +176,8 @@ bool TLLDocument::extractSection(const Dictionary &channel, QStringView name)
     const Value *items = section->dictionary()->find(u"ITEM");
     if (!items)
         return true;
+    using Section = FilePlace::Section;
+    const Section place = name == u"ATV" ? Section::ATV : Section::DTV;
     // A section with one station holds it alone, not in a list.
     const Array list = items->array() ? *items->array() : Array{*items};
     qint64 index = 0;
@@ -149,7 +186,7 @@ bool TLLDocument::extractSection(const Dictionary &channel, QStringView name)
         if (!item.dictionary())
             continue;
         auto station = std::make_shared<LGStation>(*item.dictionary(), position);
-        if (!m_lists.fileStation(station)) {
+        if (!m_lists.fileStation(station, {place, position})) {
             const QString message =
                 QStringLiteral("\n### Unknown station source: %1").arg(station->description());
             qCWarning(log).noquote() << message;
@@ -193,9 +230,9 @@ std::optional<QString> TLLDocument::modelName() const
     return name.isEmpty() ? std::nullopt : std::optional(name);
 }
 
-Error TLLDocument::createBadFileFormatError(const QString &path)
+Error TLLDocument::createBadFileFormatError(const QString &path, const QString &detail)
 {
-    return {errorDomain, -1, qtTrId("Bad file format"), path};
+    return {errorDomain, -1, qtTrId("Bad file format"), path, detail};
 }
 
 Error TLLDocument::createBadFileTypeError(const QString &detail)
@@ -255,7 +292,7 @@ void TLLDocument::exportAsReferenceList()
 {
     if (!prompts())
         return;
-    const QFileInfo file(fileUrl().toLocalFile());
+    const QFileInfo file((fileUrl().isEmpty() ? suggestedUrl() : fileUrl()).toLocalFile());
     const SavePanel panel{.title = qtTrId("kExportTitle"),
                           .suggestedPath =
                               file.path() + u'/' + file.completeBaseName() + QLatin1String(".txt"),
@@ -287,8 +324,10 @@ void TLLDocument::setDirtyFlag(bool dirty)
 
 bool TLLDocument::validateUserInterfaceItem(const QString &action) const
 {
-    if (action == QLatin1String("revertDocumentToSaved") || action == QLatin1String("saveDocument"))
+    if (action == QLatin1String("saveDocument"))
         return m_dirty;
+    if (action == QLatin1String("revertDocumentToSaved"))
+        return m_dirty && suggestedUrl().isEmpty();
     if (action == QLatin1String("exportAsReferenceList"))
         return hasData();
     return false;
@@ -304,8 +343,37 @@ void TLLDocument::makeWindowControllers()
     m_lgWindowController->populateFromTLLDoc(*this, {});
 }
 
+void TLLDocument::reviewSave(const QByteArray &bytes,
+                             const std::function<void(const std::optional<QByteArray> &)> &decided)
+{
+    const Rehearsal plain = rehearse(*this, bytes);
+    if (plain.isClean())
+        return decided(bytes);
+    const QByteArray repaired = repairedTLL(*this);
+    const Rehearsal ofRepaired = rehearse(*this, repaired);
+    if (m_repair && ofRepaired.isClean())
+        return decided(repaired); // a repaired copy was asked for
+    const bool isBetter = ofRepaired.weight() < plain.weight();
+    const SaveReview review =
+        reviewOfSave(displayName(), plain, isBetter ? std::optional(ofRepaired) : std::nullopt);
+    ask(review.alert, [bytes, repaired, decided, answers = review.answers](int button) {
+        using Answer = SaveReview::Answer;
+        const Answer answer =
+            button < 0 ? Answer::Cancel : answers.at(static_cast<std::size_t>(button));
+        switch (answer) {
+        case Answer::SaveRepaired:
+            return decided(repaired);
+        case Answer::SaveAnyway:
+            return decided(bytes);
+        case Answer::Cancel:
+            return decided({});
+        }
+    });
+}
+
 void TLLDocument::documentWasSaved()
 {
+    m_repair.reset();
     setDirtyFlag(false);
     Document::documentWasSaved();
 }

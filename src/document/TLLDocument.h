@@ -5,6 +5,7 @@
 #include "document/LegacyBroadcast.h"
 #include "document/ReferenceList.h"
 #include "document/StationLists.h"
+#include "document/TextMending.h"
 #include "framework/Document.h"
 #include "xml/EventParser.h"
 #include "xml/Value.h"
@@ -46,6 +47,15 @@ public:
     [[nodiscard]] QByteArray dataOfType(const QString &typeName, Error &error) override;
     [[nodiscard]] bool canRead(const QByteArray &data, const QString &typeName,
                                Error &error) const override;
+    /// Reads the mended text of the file with that name.
+    [[nodiscard]] bool readRepaired(const MendedText &mended, const QString &fileName);
+    /// What was mended in the text that was read, until it is saved; none when nothing was.
+    struct Repair
+    {
+        Mending mending;
+        QString fileName; ///< of the damaged file
+    };
+    [[nodiscard]] const std::optional<Repair> &repair() const { return m_repair; }
     /// Empties the lists and forgets what was remembered of the text.
     void clearVars();
     /// Makes the URL that of this document; always true.
@@ -67,7 +77,9 @@ public:
     /// The model name of the set; none when the file does not tell.
     [[nodiscard]] std::optional<QString> modelName() const;
 
-    [[nodiscard]] static Error createBadFileFormatError(const QString &path);
+    /// The detail says why, and is for people.
+    [[nodiscard]] static Error createBadFileFormatError(const QString &path,
+                                                        const QString &detail = {});
     [[nodiscard]] static Error createBadFileTypeError(const QString &detail);
 
     // The lists
@@ -113,12 +125,16 @@ public:
     void setIsInvisbleDocument(bool invisible) { m_isInvisbleDocument = invisible; }
 
 protected:
+    /// Asks when the bytes would lose something of what was read or edited.
+    void reviewSave(const QByteArray &bytes,
+                    const std::function<void(const std::optional<QByteArray> &)> &decided) override;
     void documentWasSaved() override;
 
 private:
     void readLegacyBroadcast();
     [[nodiscard]] qsizetype extractStations();
     [[nodiscard]] bool extractSection(const Dictionary &channel, QStringView name);
+    [[nodiscard]] QString badFormatDetail() const;
     void updateStationPointer();
 
     WindowFactory m_makeWindow;
@@ -126,6 +142,7 @@ private:
     FileText m_text;
     Dictionary m_xmlDictionary;
     std::optional<ParseError> m_parseError;
+    std::optional<Repair> m_repair;
     FileLayout m_layout;
     LegacyBroadcast m_legacyBroadcast;
     StationLists m_lists;

@@ -4,6 +4,7 @@
 #include "support/TextConversion.h"
 #include "support/Utf8Builder.h"
 
+#include <algorithm>
 #include <array>
 
 namespace quillet {
@@ -38,22 +39,24 @@ void appendUtf8(const QByteArray &utf8, QString &output)
     output.append(QString::fromUtf8(utf8));
 }
 
-template<typename Output>
-void appendStations(const StationListPtr &stations, Output &output)
+template<typename Sources>
+void forEachStation(const StationLists &lists, const Sources &sources,
+                    const std::function<void(const StationPtr &)> &visit)
 {
-    if (!stations)
-        return;
-    for (const StationPtr &station : *stations)
-        appendItem(*station, output);
+    for (const StationSource source : sources) {
+        for (const bool isTV : {true, false}) {
+            const StationListPtr &list = lists.list(isTV, static_cast<int>(source));
+            if (list)
+                std::for_each(list->begin(), list->end(), visit);
+        }
+    }
 }
 
 template<typename Sources, typename Output>
 void appendSources(const StationLists &lists, const Sources &sources, Output &output)
 {
-    for (const StationSource source : sources) {
-        appendStations(lists.list(true, static_cast<int>(source)), output);
-        appendStations(lists.list(false, static_cast<int>(source)), output);
-    }
+    forEachStation(lists, sources,
+                   [&output](const StationPtr &station) { appendItem(*station, output); });
 }
 
 template<typename Output>
@@ -107,6 +110,13 @@ void write(const TLLDocument &document, Output &output)
 }
 
 } // namespace
+
+void forEachStationAsWritten(const StationLists &lists,
+                             const std::function<void(const StationPtr &)> &visit)
+{
+    forEachStation(lists, analogueSources, visit);
+    forEachStation(lists, digitalSources, visit);
+}
 
 QByteArray writeTLL(const TLLDocument &document)
 {

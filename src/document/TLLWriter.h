@@ -1,9 +1,14 @@
 #pragma once
 
+#include "model/LGStation.h"
+
 #include <QByteArray>
+
+#include <functional>
 
 namespace quillet {
 
+class StationLists;
 class TLLDocument;
 
 /// The bytes of a document's file: the text before the first station as it was read, every station
@@ -12,5 +17,9 @@ class TLLDocument;
 /// makes itself end lines in CR LF. A file that keeps its stations as JSON is written with its text
 /// around the JSON as it was read, and the current list's stations in their channels' places.
 [[nodiscard]] QByteArray writeTLL(const TLLDocument &document);
+
+/// Calls the function for every station of the lists in the order in which they are written.
+void forEachStationAsWritten(const StationLists &lists,
+                             const std::function<void(const StationPtr &)> &visit);
 
 } // namespace quillet

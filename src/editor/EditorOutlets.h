@@ -16,6 +16,14 @@ enum class EmptyHint {
     NoTVStations,    ///< TV mode, and this source has radio stations only
 };
 
+/// What the bar above the table says.
+struct Notice
+{
+    QString text;              ///< in lines; empty: there is no bar
+    bool isWarning = false;    ///< something is wrong, not just worth knowing
+    bool offersRepair = false; ///< with a button that opens a repaired copy
+};
+
 /// The controls of the editor's window, as far as its logic reads and sets them. The window
 /// implements it; so do the tests, which need none.
 class EditorOutlets
@@ -54,6 +62,8 @@ public:
     virtual void scrollRowToVisible(qsizetype row) = 0;
     virtual void setNameColumnEditable(bool editable) = 0;
     virtual void showEmptyHint(EmptyHint hint) = 0;
+    /// In the place of an earlier one, also one that was closed.
+    virtual void showNotice(const Notice &notice) = 0;
 
     /// The window that questions belong to.
     [[nodiscard]] virtual QWidget *sheetWindow() const = 0;

@@ -54,6 +54,7 @@ void EditorView::setUpControls()
         setTabOrder(before, m_ui->sourceSegmentControl->segment(i));
         before = m_ui->sourceSegmentControl->segment(i);
     }
+    m_ui->noticeBar->setTabOrderAfter(*m_ui->filterPop);
     for (std::size_t i = 0; i < filterTitles.size(); ++i)
         m_ui->filterPop->addItem(qtTrId(filterTitles[i]), static_cast<int>(i));
 }
@@ -125,6 +126,8 @@ void EditorView::connectControls()
             &ViewController::fillGapsClicked);
     connect(m_ui->list->selectionModel(), &QItemSelectionModel::selectionChanged, &m_controller,
             &ViewController::tableViewSelectionDidChange);
+    connect(m_ui->noticeBar, &NoticeBar::actionTriggered, &m_controller,
+            &ViewController::repairedCopyRequested);
     connect(m_ui->list, &DarkModeTableView::editingChanged, this, &EditorView::stateChanged);
     connect(m_emptyDocText, &EmptyDocText::openRequested, this, &EditorView::openRequested);
     connect(m_emptyDocText, &EmptyDocText::tvRequested, &m_controller,
@@ -383,6 +386,16 @@ void EditorView::setNameColumnEditable(bool editable)
 void EditorView::showEmptyHint(EmptyHint hint)
 {
     m_emptyDocText->showHint(hint);
+}
+
+void EditorView::showNotice(const Notice &notice)
+{
+    if (notice.text.isEmpty())
+        m_ui->noticeBar->dismiss();
+    else
+        m_ui->noticeBar->showNotice(
+            notice.isWarning ? NoticeBar::Kind::Warning : NoticeBar::Kind::Information, notice.text,
+            notice.offersRepair ? qtTrId("kOpenRepairedCopy") : QString());
 }
 
 QWidget *EditorView::sheetWindow() const

@@ -67,6 +67,7 @@ public:
     void scrollRowToVisible(qsizetype row) override;
     void setNameColumnEditable(bool editable) override;
     void showEmptyHint(EmptyHint hint) override;
+    void showNotice(const Notice &notice) override;
     [[nodiscard]] QWidget *sheetWindow() const override;
     using QWidget::setEnabled;
 

@@ -2,6 +2,7 @@
 
 #include "document/ReferenceListFile.h"
 #include "editor/EditorQuestions.h"
+#include "editor/NoticeTexts.h"
 #include "editor/Renumbering.h"
 #include "editor/StationColumns.h"
 #include "framework/FileReading.h"
@@ -40,10 +41,11 @@ bool ViewController::populateFromTLLDoc(TLLDocument &document, const Error &erro
     m_loadFailed = !error.isEmpty();
     if (m_loadFailed) {
         m_outlets.setText(EditorOutlets::Field::FileName, QStringLiteral("--"));
-        showError(error.localizedDescription, qtTrId("kLoadingProblem"));
+        showError(error.text(), qtTrId("kLoadingProblem"));
     } else {
-        displayFileName(document.fileUrl().toLocalFile());
+        showFileName();
     }
+    showNotice();
     switchToMode(isModeTV());
 
     bool isShown = false;
@@ -73,6 +75,17 @@ void ViewController::displayFileName(const QString &path)
     const bool isInHome = path.startsWith(home + QLatin1Char('/'));
     m_outlets.setText(EditorOutlets::Field::FileName,
                       isInHome ? QLatin1Char('~') + path.sliced(home.size()) : path);
+}
+
+void ViewController::showFileName()
+{
+    if (m_document && !m_loadFailed)
+        displayFileName(m_document->fileUrl().toLocalFile());
+}
+
+void ViewController::showNotice()
+{
+    m_outlets.showNotice(m_loadFailed ? Notice() : noticeFor(*m_document));
 }
 
 void ViewController::showDeviceInfo()
@@ -418,7 +431,7 @@ void ViewController::readDroppedFile(const QString &path)
             return m_document->hasDataForSource(static_cast<int>(source));
         });
     if (!error.isEmpty() && holdsStations) {
-        showError(error.localizedDescription, qtTrId("kLoadingProblem"));
+        showError(error.text(), qtTrId("kLoadingProblem"));
         return;
     }
     populateFromTLLDoc(*m_document, error);
@@ -476,7 +489,8 @@ EmptyHint ViewController::emptyHint() const
 {
     if (hasData())
         return EmptyHint::None;
-    if (!m_document || m_loadFailed || m_document->fileUrl().isEmpty())
+    if (!m_document || m_loadFailed ||
+        (m_document->fileUrl().isEmpty() && m_document->suggestedUrl().isEmpty()))
         return EmptyHint::NoFile;
     // The current list is empty, so whatever its source has is in the other mode's list.
     if (!m_document->hasDataForSource(m_document->curSource()))

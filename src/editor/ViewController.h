@@ -109,10 +109,17 @@ public:
     /// Whether the command with that name, one of the editor's own, is enabled.
     [[nodiscard]] bool validateUserInterfaceItem(const QString &action) const;
     void showError(const QString &detail, const QString &message);
+    /// Shows where the document's file is.
+    void showFileName();
+
+signals:
+    /// The person wants a repaired copy of the document's file.
+    void repairedCopyRequested();
 
 private:
     void displayFileName(const QString &path);
     void showDeviceInfo();
+    void showNotice();
     void updateStationCountDisplay();
     void switchToMode(bool isTV);
     void switchSource(int source);

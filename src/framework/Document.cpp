@@ -51,9 +51,16 @@ void Document::setFileUrl(const QUrl &url)
     emit fileUrlChanged();
 }
 
+void Document::suggestSaving(const QUrl &suggested, const QUrl &untouched)
+{
+    m_suggestedUrl = suggested;
+    m_untouchedUrl = untouched;
+}
+
 QString Document::displayName() const
 {
-    return m_fileUrl.isEmpty() ? qtTrId("kUntitled") : m_fileUrl.fileName();
+    const QUrl &url = m_fileUrl.isEmpty() ? m_suggestedUrl : m_fileUrl;
+    return url.isEmpty() ? qtTrId("kUntitled") : url.fileName();
 }
 
 bool Document::readFromUrl(const QUrl &url, const QString &typeName, Error &error)
@@ -71,6 +78,7 @@ bool Document::takeData(const QByteArray &bytes, const QUrl &url, const QString 
         return false;
     }
     setFileType(typeName);
+    suggestSaving({}, {});
     setFileUrl(url);
     m_diskDigest = digest(bytes);
     updateChangeCount(Change::Cleared);
@@ -148,7 +156,7 @@ void Document::presentError(const QString &message, const Error &error)
         return;
     Alert alert;
     alert.message = message;
-    alert.informativeText = error.localizedDescription;
+    alert.informativeText = error.text();
     alert.buttons = {qtTrId("kOK")};
     m_prompts->showAlert(sheetWindow(), alert, [](const AlertAnswer &) {});
 }
@@ -167,8 +175,10 @@ void Document::saveDocument(std::function<void(bool)> done)
 {
     if (!done)
         done = [](bool) {};
-    if (m_fileUrl.isEmpty() || m_isAsking)
+    if (m_isAsking)
         return done(false);
+    if (m_fileUrl.isEmpty())
+        return saveToChosenPlace(done);
     if (!wasChangedOnDisk())
         return write(done);
     enum { Cancel, SaveAnyway };
@@ -186,20 +196,85 @@ void Document::saveDocument(std::function<void(bool)> done)
     });
 }
 
+void Document::saveToChosenPlace(const std::function<void(bool)> &done)
+{
+    if (m_suggestedUrl.isEmpty() || !m_prompts)
+        return done(false);
+    SavePanel panel;
+    panel.title = qtTrId("kSaveTitle");
+    panel.suggestedPath = m_suggestedUrl.toLocalFile();
+    m_isAsking = true;
+    const QPointer<Document> guard(this);
+    m_prompts->showSavePanel(sheetWindow(), panel, [guard, done](const QString &path) {
+        if (!guard)
+            return;
+        guard->m_isAsking = false;
+        if (path.isEmpty())
+            done(false);
+        else
+            guard->saveToPlace(path, done);
+    });
+}
+
+void Document::saveToPlace(const QString &path, const std::function<void(bool)> &done)
+{
+    if (QFileInfo(path) == QFileInfo(m_untouchedUrl.toLocalFile())) {
+        Error error;
+        error.localizedDescription = qtTrId("kUntouchedReason");
+        presentError(qtTrId("kSaveFailedMessage").arg(m_untouchedUrl.fileName()), error);
+        return done(false);
+    }
+    setFileUrl(QUrl::fromLocalFile(path));
+    write([this, done](bool isWritten) {
+        if (isWritten) {
+            suggestSaving({}, {});
+            emit placeWasChosen();
+        } else {
+            setFileUrl({});
+        }
+        done(isWritten);
+    });
+}
+
+void Document::reviewSave(const QByteArray &bytes,
+                          const std::function<void(const std::optional<QByteArray> &)> &decided)
+{
+    decided(bytes);
+}
+
 void Document::write(const std::function<void(bool)> &done)
 {
     Error error;
     const QByteArray bytes = dataOfType(m_fileType, error);
+    if (!error.isEmpty()) {
+        presentSaveError(error);
+        return done(false);
+    }
+    reviewSave(bytes, [this, done](const std::optional<QByteArray> &reviewed) {
+        if (reviewed)
+            replaceFile(*reviewed, done);
+        else
+            done(false);
+    });
+}
+
+void Document::replaceFile(const QByteArray &bytes, const std::function<void(bool)> &done)
+{
+    Error error;
     const bool isWritten =
-        error.isEmpty() &&
         FileReplacement(*m_fileOperations).replace(m_fileUrl.toLocalFile(), bytes, error);
     if (isWritten) {
         m_diskDigest = digest(bytes);
         documentWasSaved();
     } else {
-        presentError(qtTrId("kSaveFailedMessage").arg(displayName()), error);
+        presentSaveError(error);
     }
     done(isWritten);
+}
+
+void Document::presentSaveError(const Error &error)
+{
+    presentError(qtTrId("kSaveFailedMessage").arg(displayName()), error);
 }
 
 bool Document::saveCopy(const QString &path, const QString &typeName, Error &error)

@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace quillet {
@@ -36,7 +37,12 @@ public:
     void setFileUrl(const QUrl &url);
     [[nodiscard]] const QString &fileType() const { return m_fileType; }
     void setFileType(const QString &typeName) { m_fileType = typeName; }
-    /// The file's name, or the localized word for an untitled document.
+    /// Makes saving an untitled document ask for a place, starting with the suggested one. The file
+    /// at the other URL is never written to.
+    void suggestSaving(const QUrl &suggested, const QUrl &untouched);
+    /// Where saving an untitled document suggests to; empty when it cannot be saved.
+    [[nodiscard]] const QUrl &suggestedUrl() const { return m_suggestedUrl; }
+    /// The file's name, the one suggested, or the localized word for an untitled document.
     [[nodiscard]] QString displayName() const;
     /// Where questions and failures of this document are shown; none: they are dropped.
     void setPrompts(Prompts *prompts) { m_prompts = prompts; }
@@ -76,10 +82,11 @@ public:
     /// Whether closing must ask first.
     [[nodiscard]] virtual bool hasUnautosavedChanges() const { return isDocumentEdited(); }
 
-    /// Writes the document to its file. A file changed by somebody else since it was read is only
+    /// Writes the document to its file, or asks for a place when it is untitled and one was
+    /// suggested. A file changed by somebody else since it was read is only
     /// overwritten after asking; a failure is shown in a sheet and leaves the old file whole and
     /// the document changed. `done` (may be empty) gets whether the file was written: false at
-    /// once without a file and while another question of this document is open.
+    /// once when there is no place to write to and while another question of this document is open.
     void saveDocument(std::function<void(bool)> done = {});
     /// Writes the document's bytes of that type to another place, as safely as a save does. The
     /// document's own file and its changes stay as they are.
@@ -97,8 +104,16 @@ public:
 signals:
     void fileUrlChanged();
     void documentEditedChanged();
+    /// An untitled document was saved and has a URL from here on.
+    void placeWasChosen();
 
 protected:
+    /// Called with the bytes of a save before they replace the file. `decided` must be called once:
+    /// with what to write, or with none to give the save up. The base has them written.
+    virtual void reviewSave(const QByteArray &bytes,
+                            const std::function<void(const std::optional<QByteArray> &)> &decided);
+    /// Shows the alert; `answered` gets the button, or -1 when nobody can be asked.
+    void ask(const Alert &alert, const std::function<void(int)> &answered);
     /// Called after the file was written; the base clears the change count.
     virtual void documentWasSaved();
     /// Deleting later takes the windows away first.
@@ -108,15 +123,19 @@ protected:
     [[nodiscard]] QWidget *sheetWindow() const;
 
 private:
-    /// Shows the alert; `answered` gets the button, or -1 when nobody can be asked.
-    void ask(const Alert &alert, const std::function<void(int)> &answered);
+    void saveToChosenPlace(const std::function<void(bool)> &done);
+    void saveToPlace(const QString &path, const std::function<void(bool)> &done);
     [[nodiscard]] bool wasChangedOnDisk() const;
     void write(const std::function<void(bool)> &done);
+    void replaceFile(const QByteArray &bytes, const std::function<void(bool)> &done);
+    void presentSaveError(const Error &error);
     void revert();
     [[nodiscard]] bool takeData(const QByteArray &bytes, const QUrl &url, const QString &typeName,
                                 Error &error);
 
     QUrl m_fileUrl;
+    QUrl m_suggestedUrl;
+    QUrl m_untouchedUrl; ///< of the file that saving must not write to
     QString m_fileType;
     Prompts *m_prompts = nullptr;
     FileOperations *m_fileOperations;

@@ -82,6 +82,18 @@ Document *DocumentController::newDocument()
     return adopt(std::move(document), nullptr);
 }
 
+Document *DocumentController::openUntitled(std::unique_ptr<Document> document,
+                                           const QUrl &suggested, const QUrl &untouched)
+{
+    document->setPrompts(&m_prompts);
+    document->setFileType(m_typeName);
+    document->suggestSaving(suggested, untouched);
+    Document *added = document.get();
+    connect(added, &Document::placeWasChosen, this,
+            [this, added] { m_recentFiles->add(added->fileUrl().toLocalFile()); });
+    return adopt(std::move(document), nullptr);
+}
+
 Document *DocumentController::openDocument(const QUrl &url)
 {
     Error error;
@@ -144,7 +156,7 @@ void DocumentController::presentOpenError(const QUrl &url, const Error &error)
 {
     Alert alert;
     alert.message = qtTrId("kOpenFailedMessage").arg(url.fileName());
-    alert.informativeText = error.localizedDescription;
+    alert.informativeText = error.text();
     alert.buttons = {qtTrId("kOK")};
     m_prompts.showAlert(currentWindow(), alert, [](const AlertAnswer &) {});
 }

@@ -43,6 +43,10 @@ public:
 
     /// Opens an empty document in a window of its own.
     Document *newDocument();
+    /// Opens a document that was filled already as an untitled one. Saving it suggests a place; the
+    /// other file is never written to.
+    Document *openUntitled(std::unique_ptr<Document> document, const QUrl &suggested,
+                           const QUrl &untouched);
     /// Opens a file in a window and puts it first among the recent files. Returns none after
     /// showing what was wrong.
     Document *openDocument(const QUrl &url);

@@ -13,7 +13,14 @@ struct Error
     int code = 0;
     QString localizedDescription;
     QString filePath;
+    QString detail = {}; ///< more than the description, shown below it; may be empty
 
+    /// The description and, on lines of their own, the details.
+    [[nodiscard]] QString text() const
+    {
+        return detail.isEmpty() ? localizedDescription
+                                : localizedDescription + QLatin1Char('\n') + detail;
+    }
     [[nodiscard]] bool isEmpty() const { return domain.isEmpty() && code == 0; }
 };
 

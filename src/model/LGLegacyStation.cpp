@@ -49,6 +49,11 @@ LGLegacyStation::LGLegacyStation(Dictionary entry, qint64 origIndex)
     setKeys(legacyKeys());
 }
 
+QStringList LGLegacyStation::numberMarks()
+{
+    return {QStringLiteral("userEditChNumber"), QStringLiteral("userSelCHNo")};
+}
+
 QString LGLegacyStation::stationName() const
 {
     if (name().isEmpty()) {
@@ -70,8 +75,8 @@ int LGLegacyStation::mappedSourceIndex() const
 void LGLegacyStation::setProgramNum(qint64 number)
 {
     setValue(keys().keyProgNum, Value(number));
-    setValue(QStringLiteral("userEditChNumber"), Value(qint64(1)));
-    setValue(QStringLiteral("userSelCHNo"), Value(qint64(1)));
+    for (const QString &mark : numberMarks())
+        setValue(mark, Value(qint64(1)));
 }
 
 std::optional<bool> LGLegacyStation::getBoolValue(const QString &key) const

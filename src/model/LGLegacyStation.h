@@ -2,6 +2,8 @@
 
 #include "model/LGStation.h"
 
+#include <QStringList>
+
 namespace quillet {
 
 /// A station of the file variant that keeps its stations as JSON: other field names, real numbers
@@ -9,6 +11,9 @@ namespace quillet {
 class LGLegacyStation : public LGStation
 {
 public:
+    /// The fields that mark a number as given by the user.
+    [[nodiscard]] static QStringList numberMarks();
+
     /// `origIndex` is the station's index in the channel list sorted by number.
     LGLegacyStation(Dictionary entry, qint64 origIndex);
 

@@ -27,6 +27,7 @@ public:
     qsizetype scrolledTo = -1;
     bool nameIsEditable = false;
     EmptyHint hint = EmptyHint::None;
+    Notice notice;
     std::function<void()> selectionChanged = [] {};
     std::function<qsizetype()> rowCount = [] { return 0; };
     std::function<void()> reloaded = [] {};
@@ -62,6 +63,7 @@ public:
     void scrollRowToVisible(qsizetype row) override { scrolledTo = row; }
     void setNameColumnEditable(bool editable) override { nameIsEditable = editable; }
     void showEmptyHint(EmptyHint shown) override { hint = shown; }
+    void showNotice(const Notice &shown) override { notice = shown; }
     [[nodiscard]] QWidget *sheetWindow() const override { return nullptr; }
 };
 

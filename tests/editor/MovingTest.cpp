@@ -149,7 +149,7 @@ private slots:
         QTest::newRow("a list") << fileOf(lettered({1, 3})) << QString();
         QTest::newRow("malformed section")
             << QByteArray("<TLLDATA><CHANNEL><ATV>text</ATV></CHANNEL></TLLDATA>")
-            << QStringLiteral("Bad file format");
+            << QStringLiteral("Bad file format\nkBadSectionContent");
         QTest::newRow("no bytes") << QByteArray() << QStringLiteral("kContentUnknownReason");
     }
     void droppedFile()

@@ -290,6 +290,26 @@ private slots:
         QCOMPARE(clippedAtAnySize(*empty), QString());
     }
 
+    void noticesAreNotClipped_data() { hintsAreNotClipped_data(); }
+    void noticesAreNotClipped()
+    {
+        QFETCH(QString, language);
+        App app;
+        const Locale locale(language, Qt::LeftToRight);
+        // With accents in Latin-1, and damaged in the first and the last station.
+        QByteArray list = listOf(3).replace("Station", "\xC9mission");
+        list.replace("1</vchName>", "& 1</vchName>");
+        QMainWindow *window = app.open("a.tll", list.first(list.lastIndexOf("</vchName>")));
+        QVERIFY(window && part<QWidget>(*window, "noticeAction").isVisible());
+        QCOMPARE(part<QLabel>(*window, "noticeText").text().count(u'\n'), 1);
+        QCOMPARE(clippedAtAnySize(*window), QString());
+
+        part<QAbstractButton>(*window, "noticeAction").click();
+        QMainWindow *copy = app.window(2);
+        QVERIFY(copy && part<QLabel>(*copy, "noticeText").isVisible());
+        QCOMPARE(clippedAtAnySize(*copy), QString());
+    }
+
     void formIsTranslated()
     {
         App app;

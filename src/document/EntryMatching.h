@@ -1,0 +1,38 @@
+#pragma once
+
+#include "xml/Value.h"
+
+#include <QStringList>
+
+#include <vector>
+
+namespace quillet {
+
+/// How the entries of stations that are expected are found again among others.
+struct EntryMatches
+{
+    std::vector<std::size_t> missing; ///< indexes of those expected
+    std::vector<std::size_t> changed; ///< the same: there, but not as expected
+    std::vector<std::size_t> doubled; ///< the same: there once more, perhaps not as expected
+
+    [[nodiscard]] bool areAll() const
+    {
+        return missing.empty() && changed.empty() && doubled.empty();
+    }
+};
+
+/// Which fields tell stations apart.
+struct EntryKeys
+{
+    QStringList
+        edited;     ///< fields that editing changes; entries that differ in these only are alike
+    QString number; ///< its text tells which station a mutilated entry is of; empty: nothing does
+};
+
+/// Compares entries as the file's texts: a text is the same without the blanks around it, and an
+/// empty one is as good as none. Fast when both lists are equal.
+[[nodiscard]] EntryMatches matchEntries(const std::vector<Dictionary> &expected,
+                                        const std::vector<Dictionary> &actual,
+                                        const EntryKeys &keys);
+
+} // namespace quillet

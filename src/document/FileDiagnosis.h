@@ -1,0 +1,40 @@
+#pragma once
+
+#include "document/TextMending.h"
+
+#include <QList>
+#include <QString>
+
+#include <optional>
+
+namespace quillet {
+
+class TLLDocument;
+
+/// One thing that is wrong with a file that was read all the same.
+struct FileFinding
+{
+    enum class Kind {
+        Damaged,    ///< reading stopped before the end, at a line
+        Latin1,     ///< the bytes are no UTF-8
+        BinaryList, ///< no text at all, let alone XML
+        NoXML,      ///< text of another kind
+        BadJSON,    ///< the JSON station list could not be decoded
+    };
+    Kind kind = Kind::Damaged;
+    int line = 0; ///< in the file, or of the JSON text
+    int column = 0;
+    std::optional<QString> lastStation = {}; ///< the last one that was read whole, if any
+    qsizetype unread = 0;                    ///< stations that begin behind the damage
+    bool isJSONList = false;                 ///< damaged, and the stations are kept as JSON
+};
+
+/// What is wrong with the file that the document was read from, at most one finding of a kind. A
+/// file that is as it should be is not looked through again.
+[[nodiscard]] QList<FileFinding> diagnose(const TLLDocument &document);
+
+/// The mended text of a damaged file; none when it is not damaged or the mended text would not give
+/// all its stations back.
+[[nodiscard]] std::optional<MendedText> repairedText(const TLLDocument &document);
+
+} // namespace quillet

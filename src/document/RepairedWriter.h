@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QByteArray>
+
+namespace quillet {
+
+class TLLDocument;
+
+/// The document's file with nothing rewritten but what was changed: every byte that was read stays,
+/// stations stand in the places of stations of their section, in the order in which a save writes
+/// them, and of an edited one only the edited fields are new, escaped as XML text. Each station
+/// that was read is in it once, whatever the lists hold. In the JSON variant every channel is in it
+/// once, with the edits of all lists: the shown list's stations in their order in the places of
+/// these, all others where they were. What stands behind a fault of the file is kept as it is. In
+/// UTF-8.
+[[nodiscard]] QByteArray repairedTLL(const TLLDocument &document);
+
+} // namespace quillet

@@ -1,0 +1,81 @@
+#include "document/SaveReview.h"
+
+#include <QStringList>
+
+namespace quillet {
+
+namespace {
+
+QString withNames(const char *id, const Rehearsal::Stations &stations)
+{
+    QString names = stations.names.join(QLatin1String(", "));
+    if (stations.count > stations.names.size())
+        names += QStringLiteral(" …");
+    return qtTrId(id, static_cast<int>(stations.count)).arg(names);
+}
+
+QStringList findings(const Rehearsal &rehearsal)
+{
+    QStringList lines;
+    const auto add = [&lines](const char *id, const Rehearsal::Stations &stations) {
+        if (stations.count > 0)
+            lines.append(withNames(id, stations));
+    };
+    if (rehearsal.isRefused)
+        lines.append(qtTrId("kReviewRefused"));
+    add("kReviewMissing", rehearsal.missing);
+    add("kReviewDoubled", rehearsal.doubled);
+    add("kReviewChanged", rehearsal.changed);
+    add("kReviewRenumbered", rehearsal.renumbered);
+    if (rehearsal.unread > 0)
+        lines.append(qtTrId("kReviewUnread", static_cast<int>(rehearsal.unread)));
+    else if (rehearsal.losesTail)
+        lines.append(qtTrId("kReviewTail"));
+    if (rehearsal.losesSurroundings)
+        lines.append(qtTrId("kReviewSurroundings"));
+    if (rehearsal.losesExtras)
+        lines.append(qtTrId("kReviewExtras"));
+    for (QString &line : lines)
+        line.prepend(QStringLiteral("• "));
+    return lines;
+}
+
+} // namespace
+
+SaveReview reviewOfSave(const QString &fileName, const Rehearsal &plain,
+                        const std::optional<Rehearsal> &repaired)
+{
+    using Answer = SaveReview::Answer;
+    SaveReview review;
+    review.alert.message = qtTrId("kReviewMessage").arg(fileName);
+    QStringList lines = findings(plain);
+    lines.append(QString());
+    if (!repaired) {
+        lines.append(qtTrId("kReviewNoRepair"));
+        review.answers = {Answer::Cancel, Answer::SaveAnyway};
+    } else {
+        lines.append(qtTrId(repaired->isClean() ? "kReviewRepair" : "kReviewRepairPartly"));
+        lines.append(findings(*repaired));
+        review.answers = {Answer::SaveRepaired, Answer::SaveAnyway, Answer::Cancel};
+    }
+    review.alert.informativeText = lines.join(u'\n');
+    for (const Answer answer : review.answers) {
+        const auto index = static_cast<int>(review.alert.buttons.size());
+        switch (answer) {
+        case Answer::SaveRepaired:
+            review.alert.buttons.append(qtTrId("kSaveRepaired"));
+            break;
+        case Answer::SaveAnyway:
+            review.alert.buttons.append(qtTrId("kSaveAnyway"));
+            review.alert.destructiveButton = index;
+            break;
+        case Answer::Cancel:
+            review.alert.buttons.append(qtTrId("kCancel"));
+            review.alert.cancelButton = index;
+            break;
+        }
+    }
+    return review;
+}
+
+} // namespace quillet

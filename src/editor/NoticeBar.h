@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QWidget>
+
+class QLabel;
+class QPushButton;
+class QToolButton;
+
+namespace quillet {
+
+/// A bar that says something without stopping anybody: an icon, a text of one or more lines, a
+/// button if there is something to be done about it, and one that closes the bar. Screen readers
+/// are told when it appears. Hidden at first.
+class NoticeBar : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit NoticeBar(QWidget *parent = nullptr);
+
+    enum class Kind { Information, Warning };
+    /// Shows the text, in the place of an earlier one. Without a title there is no button.
+    void showNotice(Kind kind, const QString &text, const QString &actionTitle = {});
+    void dismiss() { hide(); }
+    [[nodiscard]] QString text() const;
+    /// Puts its buttons behind a widget in the order of the Tab key.
+    void setTabOrderAfter(QWidget &widget);
+
+signals:
+    /// The button was pressed.
+    void actionTriggered();
+    /// Screen readers were told of a bar that appeared or has a new text.
+    void announced(const QString &text);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void updateIcon();
+    [[nodiscard]] QColor tinted(qreal share) const;
+
+    Kind m_kind = Kind::Information;
+    QLabel *m_icon;
+    QLabel *m_text;
+    QPushButton *m_action;
+    QToolButton *m_close;
+};
+
+} // namespace quillet

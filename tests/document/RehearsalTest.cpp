@@ -1,0 +1,360 @@
+#include "ListText.h"
+
+#include "document/Rehearsal.h"
+#include "document/RepairedWriter.h"
+#include "testing/PresetPrompts.h"
+#include "testing/TLLText.h"
+#include "testing/TestMain.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <functional>
+
+using namespace quillet;
+using namespace quillet::testing;
+using namespace Qt::Literals::StringLiterals;
+
+using Edit = std::function<void(TLLDocument &)>;
+Q_DECLARE_METATYPE(Edit)
+
+namespace {
+
+const auto Analogue = FileSource::Analogue, Cable = FileSource::Cable;
+const auto Satellite = FileSource::Satellite;
+
+/// What is lost, as "missing 2: A B, tail".
+QString described(const Rehearsal &rehearsal)
+{
+    QStringList texts;
+    const auto stations = [&texts](const char *what, const Rehearsal::Stations &found) {
+        if (found.count > 0)
+            texts.append(QStringLiteral("%1 %2: %3")
+                             .arg(QLatin1String(what), QString::number(found.count),
+                                  found.names.join(u' ')));
+    };
+    const auto flag = [&texts](const char *what, bool isSet) {
+        if (isSet)
+            texts.append(QLatin1String(what));
+    };
+    flag("refused", rehearsal.isRefused);
+    stations("missing", rehearsal.missing);
+    stations("doubled", rehearsal.doubled);
+    stations("changed", rehearsal.changed);
+    stations("renumbered", rehearsal.renumbered);
+    flag("unread", rehearsal.unread > 0);
+    flag("tail", rehearsal.losesTail);
+    flag("surroundings", rehearsal.losesSurroundings);
+    flag("extras", rehearsal.losesExtras);
+    return texts.join(u", "_s);
+}
+
+QString items(const QStringList &names)
+{
+    QString text;
+    for (qsizetype i = 0; i < names.size(); ++i)
+        text += makeItem(makeStation(static_cast<int>(i) + 1, names[i]));
+    return text;
+}
+
+/// A file whose text between the tags of CHANNEL is given.
+QString file(const QString &channel)
+{
+    return u"<?xml version=\"1.0\"?>\r\n<TLLDATA>\r\n<ModelInfo><ModelName>X</ModelName>"
+           "</ModelInfo>\r\n<CHANNEL>"_s +
+           channel + u"</CHANNEL>\r\n<rest>1</rest>\r\n</TLLDATA>\r\n"_s;
+}
+
+QString digital(const QString &stations)
+{
+    return file(u"<DTV>\r\n"_s + stations + u"</DTV>\r\n"_s);
+}
+
+/// A channel of the JSON variant.
+QString channel(const QString &name, int number, const char *source = "CABLE DIGITAL", int type = 1)
+{
+    return QStringLiteral("{\"channelName\":\"%1\",\"majorNumber\":%2,\"sourceIndex\":\"%3\","
+                          "\"serviceType\":%4,\"skipped\":false,\"SVCID\":\"%1\"}")
+        .arg(name, QString::number(number), QLatin1String(source), QString::number(type));
+}
+
+QString legacy(const QStringList &channels, const QString &tag = u"legacybroadcast"_s)
+{
+    return file(QStringLiteral("<%1>{\"a\":1.0,\"channelList\":[%2],\"z\":null}"
+                               "</legacybroadcast>")
+                    .arg(tag, channels.join(u',')));
+}
+
+StationPtr station(const TLLDocument &document, bool isTV, int source, std::size_t row)
+{
+    return document.lists().list(isTV, source)->at(row);
+}
+
+Edit rename(const QString &name)
+{
+    return [name](TLLDocument &document) { station(document, true, 0, 1)->setStationName(name); };
+}
+
+} // namespace
+
+class RehearsalTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void healthyFilesAreClean_data()
+    {
+        QTest::addColumn<QString>("sample");
+        for (const char *name : {"cable.tll", "antenna.tll", "satellite.tll"})
+            QTest::newRow(name) << QString::fromLatin1(name);
+    }
+    void healthyFilesAreClean()
+    {
+        QFETCH(const QString, sample);
+        TLLDocument document;
+        QVERIFY(read(document, readSample(sample)));
+        QCOMPARE(described(rehearse(document, written(document))), QString());
+        for (const FiledStation &filed : document.lists().roll()) {
+            if (filed.place.index % 7 == 0)
+                filed.station->setSkipped(!filed.station->isSkipped());
+            else if (filed.place.index % 11 == 0)
+                filed.station->setStationName(u" Ünï "_s);
+        }
+        QCOMPARE(described(rehearse(document, written(document))), QString());
+        for (const FiledStation &filed : document.lists().roll())
+            QCOMPARE(filed.station->name(), QString()); // none was decoded
+    }
+
+    void cases_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<Edit>("edit");
+        QTest::addColumn<QString>("lost");
+        QTest::addColumn<QString>("lostAfterRepair");
+        const Edit none = [](TLLDocument &) {};
+        const auto row = [](const char *name, const QString &text, const Edit &edit,
+                            const QString &lost, const QString &lostAfterRepair = {}) {
+            QTest::newRow(name) << text << edit << lost << lostAfterRepair;
+        };
+        const QString abc = digital(items({u"A"_s, u"B"_s, u"C"_s}));
+        const QString everything = u"missing 3: A B C, surroundings, extras"_s;
+        row("nothing", abc, none, {});
+
+        row("renamed with &", abc, rename(u"R&B"_s), u"missing 1: C, changed 1: R&B"_s);
+        row("renamed with <", abc, rename(u"1<2"_s), u"missing 1: C, changed 1: 1<2"_s);
+        row("escaped name", digital(items({u"A"_s, u"R&amp;B"_s, u"C"_s})), none,
+            u"missing 1: C, changed 1: R&B"_s);
+        row("escaped twice", digital(items({u"A"_s, u"R&amp;lt;"_s, u"C"_s})), none,
+            u"changed 1: R&lt;"_s);
+        row("control character", digital(items({u"A"_s, u"B\x01"_s, u"C"_s})), none,
+            u"unread, tail"_s);
+        row("bare &", digital(items({u"A & B"_s, u"B"_s, u"C"_s})), none, u"unread, tail"_s);
+
+        const Item strange{{u"prNum"_s, u"2"_s},
+                           {u"sourceIndex"_s, u"9"_s},
+                           {u"serviceType"_s, u"1"_s},
+                           {u"vchName"_s, u"B"_s}};
+        row("unknown source",
+            digital(items({u"A"_s}) + makeItem(strange) + makeItem(makeStation(3, u"C"_s))), none,
+            u"missing 3: B A C, surroundings, extras"_s);
+        row("digital station among analogue ones",
+            file(u"<ATV>\r\n"_s + items({u"A"_s, u"B"_s, u"C"_s}) + u"</ATV>"_s), none, everything);
+
+        row("attribute of the section", QString(abc).replace(u"<DTV>"_s, u"<DTV n='1'>"_s), none,
+            everything);
+        row("attributes of all stations", QString(abc).replace(u"<ITEM>"_s, u"<ITEM n='1'>"_s),
+            none, everything);
+        row("attribute of one station",
+            QString(abc).replace(abc.lastIndexOf(u"<ITEM>"_s), 6, u"<ITEM n='1'>"_s), none,
+            u"extras"_s);
+        row("attribute of a field, repeated fields",
+            QString(abc).replace(u"<vchName>B"_s, u"<x a='&amp;'>1</x><x>2</x>\r\n<vchName>B"_s),
+            none, {});
+        row("digital before analogue",
+            file(u"<DTV>\r\n"_s + items({u"A"_s}) + u"</DTV><ATV>\r\n"_s +
+                 makeItem(makeStation(1, u"Old"_s, Analogue)) + u"</ATV>"_s),
+            none, u"refused, missing 2: Old A"_s);
+        row("end tag in a comment",
+            QString(abc).replace(abc.lastIndexOf(u"<ITEM>"_s), 0, u"<!-- </DTV> -->"_s), none,
+            u"extras"_s);
+        row("comment among stations",
+            QString(abc).replace(abc.lastIndexOf(u"<ITEM>"_s), 0, u"<!-- C -->"_s), none,
+            u"extras"_s);
+        row("element among stations",
+            QString(abc).replace(abc.lastIndexOf(u"<ITEM>"_s), 0, u"<more>1</more>"_s), none,
+            u"extras"_s);
+        row("behind the last station", QString(abc).replace(u"</DTV>"_s, u"<!-- end --></DTV>"_s),
+            none, u"surroundings, extras"_s);
+
+        row(
+            "one moved over another of its number", abc,
+            [](TLLDocument &document) {
+                StationList &list = *document.lists().list(true, 0);
+                list[0] = list[1];
+            },
+            u"missing 1: A, doubled 1: B"_s);
+        row(
+            "number beyond the highest", abc,
+            [](TLLDocument &document) { station(document, true, 0, 2)->setProgramNum(16385); },
+            u"renumbered 2: B C"_s, u"renumbered 2: B C"_s); // reads as A 1, C 1, B 2
+        row(
+            "equal numbers", abc,
+            [](TLLDocument &document) { station(document, true, 0, 1)->setProgramNum(1); },
+            u"renumbered 1: B"_s, u"renumbered 1: B"_s);
+        row("name that XML cannot hold", abc, rename(u"\x01X"_s),
+            u"missing 1: C, changed 1: \x01X"_s, u"changed 1: \x01X"_s);
+        row("no stations", u"\x01 This is no channel list"_s, none, u"refused"_s);
+
+        const QString a = channel(u"A"_s, 3), b = channel(u"B"_s, 5);
+        const QString r = channel(u"R"_s, 16385, "CABLE DIGITAL", 2);
+        const QString s = channel(u"S"_s, 4, "SATELLITE DIGITAL");
+        const Edit showCable = [](TLLDocument &document) { document.switchToSource(0); };
+        row("JSON in order", legacy({a, b, r}), showCable, {});
+        row("JSON out of order", legacy({r, b, a}), showCable, u"missing 1: R, doubled 1: A"_s);
+        row(
+            "JSON, another source shown", legacy({a, s, b}),
+            [](TLLDocument &document) {
+                station(document, true, 0, 1)->setSkipped(true);
+                document.switchToSource(1);
+            },
+            u"changed 1: B"_s);
+        row(
+            "JSON, radio shown", legacy({a, s, b}),
+            [](TLLDocument &document) {
+                station(document, true, 1, 0)->setSkipped(true);
+                document.switchToMode(false);
+            },
+            u"changed 1: S"_s);
+        row("JSON, odd elements", legacy({b, u"null"_s, a}), showCable,
+            u"missing 1: ??, doubled 1: A"_s);
+        row("JSON element with attribute", legacy({a, b}, u"legacybroadcast n='1'"_s), showCable,
+            u"missing 2: A B, surroundings, extras"_s);
+        row("broken JSON", legacy({a, u"}"_s}), showCable, u"surroundings"_s);
+    }
+    void cases()
+    {
+        QFETCH(const QString, text);
+        QFETCH(const Edit, edit);
+        TLLDocument document;
+        QVERIFY(read(document, text));
+        QVERIFY(repairedTLL(document) == text.toUtf8()); // nothing was edited yet
+        edit(document);
+        QTEST(described(rehearse(document, written(document))), "lost");
+        QTEST(described(rehearse(document, repairedTLL(document))), "lostAfterRepair");
+    }
+
+    void repairsKeepTheBytes()
+    {
+        const QString a =
+            u"<ITEM>\n  <prNum> 1 </prNum><isSkipped/><!-- one --><x n='1'>1</x><sourceIndex>3"
+            "</sourceIndex><serviceType>1</serviceType><vchName>&#65;</vchName></ITEM>"_s;
+        const QString b =
+            u"<ITEM><prNum>2</prNum><isBlocked>0</isBlocked><sourceIndex>3</sourceIndex>"
+            "<serviceType>1</serviceType><x>2</x><x>3</x><vchName>B</vchName></ITEM>"_s;
+        const QString between = u"\n<ITEM/><ITEM> </ITEM>\n  <more/><!-- <ITEM> -->"_s;
+        const QString end = u"\n<!-- & -->\n"_s;
+        TLLDocument document;
+        QVERIFY(read(document, digital(a + between + b + end)));
+        StationList &list = *document.lists().list(true, 0);
+        QCOMPARE(list.size(), std::size_t(2));
+        list[0]->setSkipped(true);
+        list[0]->setBlocked(true);
+        list[1]->setStationName(u"<B> & \"C\""_s);
+        std::swap(list[0], list[1]);
+        list[0]->setProgramNum(1);
+        list[1]->setProgramNum(2);
+        const QString newA =
+            QString(a)
+                .replace(u" 1 "_s, u"2"_s)
+                .replace(u"</ITEM>"_s, u"<isSkipped>1</isSkipped>\n<isBlocked>1</isBlocked>\n"
+                                       "</ITEM>"_s)
+                .replace(u"<isSkipped/>"_s, u"<isSkipped>1</isSkipped>"_s)
+                .replace(u"</vchName><isSkipped>1</isSkipped>\n"_s, u"</vchName>"_s);
+        const QString newB = QString(b)
+                                 .replace(u"<prNum>2"_s, u"<prNum>1"_s)
+                                 .replace(u">B<"_s, u">&lt;B&gt; &amp; &quot;C&quot;<"_s);
+        const QString expected = digital(newB + between + newA + end);
+        QCOMPARE(QString::fromUtf8(repairedTLL(document)), expected);
+    }
+
+    void repairsInTheFilesEncoding()
+    {
+        const QByteArray latin1 = digital(items({u"Ä"_s, u"B"_s})).toLatin1();
+        TLLDocument document;
+        QVERIFY(read(document, latin1));
+        QVERIFY(repairedTLL(document) == latin1);
+        rename(u"Ö"_s)(document);
+        QVERIFY(repairedTLL(document) == QByteArray(latin1).replace("B</", "\xD6</"));
+        rename(u"Ж"_s)(document);
+        QVERIFY(repairedTLL(document) == digital(items({u"Ä"_s, u"Ж"_s})).toUtf8());
+    }
+
+    void repairsTheJSONList()
+    {
+        const QString a = channel(u"A"_s, 3), b = channel(u"B"_s, 5), c = channel(u"C"_s, 7);
+        const QString r = channel(u"R"_s, 16385, "CABLE DIGITAL", 2);
+        const QString s = channel(u"S"_s, 4, "SATELLITE DIGITAL");
+        TLLDocument document;
+        QVERIFY(read(document, legacy({c, r, b, s, a})));
+        StationList &list = *document.lists().list(true, 0);
+        std::rotate(list.begin(), list.begin() + 1, list.end()); // B, C, A
+        station(document, true, 1, 0)->setSkipped(true);
+        document.switchToSource(0);
+        QCOMPARE(QString::fromUtf8(repairedTLL(document)),
+                 legacy({b, r, c, QString(s).replace(u"false"_s, u"true"_s), a}));
+    }
+
+    void asksBeforeSaving_data()
+    {
+        QTest::addColumn<QString>("name"); // given to the second of three stations
+        QTest::addColumn<QStringList>("buttons");
+        QTest::addColumn<QString>("answer");
+        QTest::addColumn<QString>("writing");
+        const QStringList all{u"kSaveRepaired"_s, u"kSaveAnyway"_s, u"kCancel"_s};
+        QTest::newRow("nothing lost") << u"Bravo"_s << QStringList() << QString() << u"plain"_s;
+        QTest::newRow("repaired") << u"R&B"_s << all << all[0] << u"repaired"_s;
+        QTest::newRow("anyway") << u"R&B"_s << all << all[1] << u"plain"_s;
+        QTest::newRow("cancelled") << u"R&B"_s << all << all[2] << QString();
+    }
+    void asksBeforeSaving()
+    {
+        QFETCH(const QString, name);
+        QFETCH(const QStringList, buttons);
+        QFETCH(const QString, answer);
+        QFETCH(const QString, writing);
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"list.tll"_s);
+        const QByteArray before = digital(items({u"A"_s, u"B"_s, u"C"_s})).toUtf8();
+        QFile target(path);
+        QVERIFY(target.open(QIODevice::WriteOnly) && target.write(before) == before.size());
+        target.close();
+
+        PresetPrompts prompts(PresetPrompts::Arrival::AtOnce);
+        TLLDocument document;
+        document.setPrompts(&prompts);
+        Error error;
+        QVERIFY(document.readFromUrl(QUrl::fromLocalFile(path), TLLDocument::typeName(), error));
+        rename(name)(document);
+        document.setDirtyFlag(true);
+        if (!answer.isEmpty())
+            prompts.answerAlert(answer); // without translations the title is the id
+        std::optional<bool> isSaved;
+        document.saveDocument([&isSaved](bool saved) { isSaved = saved; });
+
+        QCOMPARE(isSaved, std::optional(!writing.isEmpty()));
+        QCOMPARE(document.isDirty(), writing.isEmpty());
+        QCOMPARE(prompts.alerts().empty(), buttons.isEmpty());
+        if (!buttons.isEmpty())
+            QCOMPARE(prompts.alerts().front().alert.buttons, buttons);
+        QVERIFY(prompts.isSettled());
+        const QByteArray expected = writing == u"repaired"_s ? repairedTLL(document)
+                                    : writing == u"plain"_s  ? written(document)
+                                                             : before;
+        QVERIFY(target.open(QIODevice::ReadOnly) && target.readAll() == expected);
+    }
+};
+
+QUILLET_TEST(RehearsalTest)
+
+#include "RehearsalTest.moc"

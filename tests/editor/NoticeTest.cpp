@@ -1,0 +1,110 @@
+#include "EditorFixture.h"
+
+#include "testing/TestMain.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace quillet;
+using namespace quillet::testing;
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// Three stations, the second with that name.
+QByteArray listWith(const QString &name)
+{
+    return fileOf({makeStation(1, u"A"_s), makeStation(2, name), makeStation(3, u"C"_s)});
+}
+
+void show(Editor &editor, const QByteArray &bytes)
+{
+    Error error;
+    if (!editor.document.readFromData(bytes, TLLDocument::typeName(), error))
+        qFatal("the list of the test is not one");
+    editor.controller.populateFromTLLDoc(editor.document, {});
+}
+
+} // namespace
+
+/// What the bar above the table says; texts are the ids here.
+class NoticeTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void notices_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("offersRepair");
+        const QByteArray whole = listWith(u"B"_s);
+        QTest::newRow("healthy") << whole << QString() << false;
+        QTest::newRow("damaged") << listWith(u"R & B"_s) << u"kNoticeDamaged kNoticeUnread"_s
+                                 << true;
+        QTest::newRow("damaged in the first") << QByteArray(whole).replace(">A<", ">A & <")
+                                              << u"kNoticeDamagedFirst kNoticeUnread"_s << true;
+        QTest::newRow("cut") << whole.chopped(5) << u"kNoticeDamaged kNoticeUnreadEnd"_s << true;
+        QTest::newRow("beyond repair") << QByteArray(whole).replace("<vchName>B", "<vchNameB")
+                                       << u"kNoticeDamaged kNoticeUnread"_s << false;
+        QTest::newRow("two at once") << listWith(u"Té & lé"_s).replace("\xC3\xA9", "\xE9")
+                                     << u"kNoticeDamaged kNoticeUnread\nkNoticeLatin1"_s << true;
+        QTest::newRow("binary") << QByteArray("\x01\0\x02", 3) << u"kNoticeBinary"_s << false;
+        QTest::newRow("text") << "1;A;B\n"_ba << u"kNoticeNoXML"_s << false;
+        const QByteArray json = "<TLLDATA><CHANNEL><legacybroadcast>{x}</legacybroadcast>"
+                                "</CHANNEL></TLLDATA>";
+        QTest::newRow("JSON") << json << u"kNoticeJSON"_s << false;
+        QTest::newRow("JSON, cut")
+            << json.first(json.indexOf("}")) << u"kNoticeDamagedLine\nkNoticeJSONCut"_s << false;
+    }
+    void notices()
+    {
+        QFETCH(const QByteArray, bytes);
+        QFETCH(const QString, text);
+        QFETCH(const bool, offersRepair);
+        Editor editor({makeStation(1, u"A"_s)});
+        QCOMPARE(editor.outlets.notice.text, QString());
+        show(editor, bytes);
+        QCOMPARE(editor.outlets.notice.text, text);
+        QCOMPARE(editor.outlets.notice.offersRepair, offersRepair);
+        QVERIFY(editor.outlets.notice.isWarning || text.isEmpty());
+        show(editor, listWith(u"B"_s));
+        QCOMPARE(editor.outlets.notice.text, QString());
+    }
+
+    void droppedFile()
+    {
+        const QTemporaryDir folder;
+        QFile file(folder.filePath(u"a.tll"_s));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(listWith(u"R & B"_s)) > 0);
+        file.close();
+        Editor editor({});
+        editor.controller.loadTLLFile(file.fileName());
+        QCOMPARE(editor.outlets.notice.text, u"kNoticeDamaged kNoticeUnread"_s);
+        // One that cannot be read takes nothing away from what is shown.
+        QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        file.close();
+        editor.prompts.answerAlert(u"kOK"_s);
+        editor.controller.loadTLLFile(file.fileName());
+        QVERIFY(editor.prompts.isSettled());
+        QCOMPARE(editor.outlets.notice.text, u"kNoticeDamaged kNoticeUnread"_s);
+    }
+
+    void mendings()
+    {
+        const Mending mending{.ampersands = 1, .controls = 2, .endWasMissing = true};
+        Editor editor({makeStation(1, u"A"_s)});
+        QVERIFY(editor.document.readRepaired({listWith(u"B"_s), mending}, u"a.tll"_s));
+        editor.controller.populateFromTLLDoc(editor.document, {});
+        QCOMPARE(editor.outlets.notice.text,
+                 u"kMendedTitle\nkMendedAmpersands kMendedControls kMendedEnd"_s);
+        QVERIFY(!editor.outlets.notice.offersRepair && !editor.outlets.notice.isWarning);
+        show(editor, listWith(u"B"_s));
+        QCOMPARE(editor.outlets.notice.text, QString());
+    }
+};
+
+QUILLET_TEST(NoticeTest)
+
+#include "NoticeTest.moc"

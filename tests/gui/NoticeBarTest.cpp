@@ -1,0 +1,241 @@
+#include "AppFixture.h"
+
+#include "document/TLLDocument.h"
+#include "editor/NoticeBar.h"
+#include "framework/RecentFiles.h"
+#include "testing/TLLText.h"
+#include "testing/TestMain.h"
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QAction>
+#include <QFile>
+#include <QLabel>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace quillet;
+using namespace quillet::testing;
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// Five stations, the third with a lone ampersand in its name.
+QByteArray damagedList()
+{
+    std::vector<Item> stations;
+    for (const QString &name : {u"A"_s, u"B"_s, u"R & B"_s, u"D"_s, u"E"_s})
+        stations.push_back(makeStation(static_cast<int>(stations.size()) + 1, name));
+    return makeTLL({}, stations).toUtf8();
+}
+
+NoticeBar &barOf(const QMainWindow &window)
+{
+    return part<NoticeBar>(window, "noticeBar");
+}
+
+QAbstractButton &button(const QMainWindow &window, const char *name)
+{
+    return part<QAbstractButton>(window, name);
+}
+
+/// Presses the button of the damaged list's bar and gives the window of the copy.
+QMainWindow *openRepairedCopy(const App &app, const QMainWindow &window)
+{
+    QTest::mouseClick(&button(window, "noticeAction"), Qt::LeftButton);
+    return app.window(2);
+}
+
+Document &documentOf(App &app, std::size_t index)
+{
+    return *app.delegate.documents().documents().at(index);
+}
+
+} // namespace
+
+/// The bar above the table and the repaired copy that its button opens.
+class NoticeBarTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void healthyListHasNone()
+    {
+        App app;
+        const QMainWindow *window = app.open("a.tll", listOf(3));
+        QVERIFY(window);
+        QVERIFY(!barOf(*window).isVisible());
+    }
+
+    void saysWhatIsWrong()
+    {
+        App app;
+        QMainWindow *window = app.open("a.tll", damagedList());
+        QVERIFY(window);
+        const NoticeBar &bar = barOf(*window);
+        QVERIFY(bar.isVisible());
+        const int line = static_cast<int>(damagedList().split('&').front().count('\n')) + 1;
+        QCOMPARE(bar.text(), qtTrId("kNoticeDamaged").arg(line).arg(u"B"_s) + u' ' +
+                                 qtTrId("kNoticeUnread", 2));
+        QCOMPARE(part<QLabel>(*window, "noticeText").textFormat(), Qt::PlainText);
+        const QAccessibleInterface *alert = QAccessible::queryAccessibleInterface(&barOf(*window));
+        QCOMPARE(alert->role(), QAccessible::AlertMessage);
+        QCOMPARE(alert->text(QAccessible::Name), bar.text());
+        // Above the table, and next on the way there by keyboard.
+        QVERIFY(bar.geometry().bottom() < tableOf(*window).geometry().top());
+        part<QWidget>(*window, "filterPop").setFocus();
+        for (const char *next : {"noticeAction", "noticeClose", "list"}) {
+            QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
+            QCOMPARE(window->focusWidget()->objectName(), QLatin1String(next));
+        }
+        QCOMPARE(button(*window, "noticeAction").text(), label("kOpenRepairedCopy"));
+        const QAccessibleInterface *close =
+            QAccessible::queryAccessibleInterface(&button(*window, "noticeClose"));
+        QCOMPARE(close->text(QAccessible::Name), label("kNoticeClose"));
+        QTest::keyClick(&button(*window, "noticeClose"), Qt::Key_Space);
+        QVERIFY(!bar.isVisible());
+    }
+
+    void readingAgainSetsItAnew()
+    {
+        App app;
+        const QMainWindow *window = app.open("a.tll", damagedList());
+        QVERIFY(window);
+        const NoticeBar &bar = barOf(*window);
+        const QSignalSpy announced(&bar, &NoticeBar::announced);
+        button(*window, "noticeClose").click();
+        documentOf(app, 0).revertDocumentToSaved();
+        QVERIFY(bar.isVisible());
+        QCOMPARE(announced.size(), 1);
+        QCOMPARE(announced.front().front().toString(), bar.text());
+        QVERIFY(!app.write("a.tll", listOf(4)).isEmpty());
+        documentOf(app, 0).revertDocumentToSaved();
+        QVERIFY(!bar.isVisible());
+        QCOMPARE(tableOf(*window).model()->rowCount(), 4);
+    }
+
+    void repairedCopy()
+    {
+        App app;
+        const QMainWindow *damaged = app.open("a.b.TLL", damagedList());
+        QVERIFY(damaged);
+        QCOMPARE(tableOf(*damaged).model()->rowCount(), 3);
+        const QMainWindow *window = openRepairedCopy(app, *damaged);
+        QVERIFY(window);
+        QCOMPARE(barOf(*window).text(),
+                 qtTrId("kMendedTitle").arg(u"a.b.TLL"_s) + u'\n' + qtTrId("kMendedAmpersands", 1));
+        QVERIFY(button(*window, "noticeAction").isHidden());
+        QCOMPARE(tableOf(*window).model()->rowCount(), 5);
+        QCOMPARE(cell(*window, 2, 1), u"R & B"_s);
+        QVERIFY(window->windowTitle().startsWith(u"a.b-repaired.TLL"_s));
+        QVERIFY(window->isWindowModified() && documentOf(app, 1).isDocumentEdited());
+        QVERIFY(documentOf(app, 1).fileUrl().isEmpty());
+        QVERIFY(!menuItem(*window, "revertDocumentToSaved").isEnabled());
+        QVERIFY(menuItem(*window, "saveDocument").isEnabled());
+
+        const QString place = app.folder.filePath(u"other.tll"_s);
+        app.preset.answerSavePanel(place);
+        menuItem(*window, "saveDocument").trigger();
+        QTRY_VERIFY(app.preset.isSettled());
+        QCOMPARE(app.preset.savePanels().front().suggestedPath,
+                 app.folder.filePath(u"a.b-repaired.TLL"_s));
+        QCOMPARE(app.preset.alerts().size(), std::size_t(0));
+        TLLDocument saved;
+        Error error;
+        QVERIFY(saved.readFromData(bytesOf(place), TLLDocument::typeName(), error));
+        QVERIFY(!saved.parseError());
+        QCOMPARE(saved.lists().list(true, 0)->size(), std::size_t(5));
+        QCOMPARE(saved.lists().list(true, 0)->at(2)->stationName(), u"R & B"_s);
+        QCOMPARE(bytesOf(app.folder.filePath(u"a.b.TLL"_s)), damagedList());
+
+        // From here on it is a document like any other.
+        QVERIFY(!window->isWindowModified());
+        QCOMPARE(documentOf(app, 1).fileUrl(), QUrl::fromLocalFile(place));
+        QVERIFY(window->windowTitle().startsWith(u"other.tll"_s));
+        QVERIFY(part<QWidget>(*window, "fileName").toolTip().endsWith(u"other.tll"_s));
+        QCOMPARE(app.delegate.documents().recentFiles().paths().front(), place);
+        selectRows(*window, {0});
+        menuItem(*window, "skipSelectedItems").trigger();
+        QVERIFY(menuItem(*window, "revertDocumentToSaved").isEnabled());
+        QCOMPARE(app.preset.savePanels().size(), std::size_t(1));
+    }
+
+    void closingARepairedCopy()
+    {
+        App app;
+        const QMainWindow *damaged = app.open("a.tll", damagedList());
+        QVERIFY(damaged);
+        QMainWindow *window = openRepairedCopy(app, *damaged);
+        QVERIFY(window);
+        const QString original = app.folder.filePath(u"a.tll"_s);
+        // No place, and then the one that is not to be touched.
+        for (const QString &place : {QString(), original}) {
+            app.preset.answerAlert(label("kSave"));
+            app.preset.answerSavePanel(place);
+            if (!place.isEmpty())
+                app.preset.answerAlert(label("kOK"));
+            window->close();
+            QTRY_VERIFY(app.preset.isSettled());
+            QVERIFY(window->isVisible() && window->isWindowModified());
+            QVERIFY(documentOf(app, 1).fileUrl().isEmpty());
+        }
+        QVERIFY(app.preset.lastText().contains(label("kUntouchedReason")));
+        QCOMPARE(bytesOf(original), damagedList());
+        // A place that takes no file.
+        app.preset.answerSavePanel(app.folder.filePath(u"none/b.tll"_s));
+        app.preset.answerAlert(label("kOK"));
+        menuItem(*window, "saveDocument").trigger();
+        QTRY_VERIFY(app.preset.isSettled());
+        QVERIFY(documentOf(app, 1).fileUrl().isEmpty() && window->isWindowModified());
+
+        app.preset.answerAlert(label("kDontSave"));
+        window->close();
+        QTRY_COMPARE(app.delegate.documents().documents().size(), std::size_t(1));
+        QCOMPARE(bytesOf(original), damagedList());
+    }
+
+    void badFileFormat_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("detail");
+        TLLOptions wide;
+        wide.beforeFirstItem = u"\r\n      \r\n"_s;
+        const Item item = makeStation(1, u"A"_s);
+        const Item analogue = makeStation(1, u"A"_s, FileSource::Analogue);
+        installTexts();
+        const auto distance = [](const QString &section, int characters) {
+            return qtTrId("kBadSectionDistance", characters).arg(section).arg(9);
+        };
+        const int between = static_cast<int>(wide.beforeFirstItem.size() + 5); // and "<DTV>"
+        QTest::newRow("digital, far")
+            << makeTLL({}, {item}, wide).toUtf8() << distance(u"DTV"_s, between);
+        QTest::newRow("analogue, far")
+            << makeTLL({analogue}, {item}, wide).toUtf8() << distance(u"ATV"_s, between);
+        QTest::newRow("digital, text") << "<TLLDATA><CHANNEL><DTV>text</DTV></CHANNEL></TLLDATA>"_ba
+                                       << qtTrId("kBadSectionContent").arg(u"DTV"_s);
+        QTest::newRow("analogue, text")
+            << "<TLLDATA><CHANNEL><ATV>x</ATV><DTV>x</DTV></CHANNEL></TLLDATA>"_ba
+            << qtTrId("kBadSectionContent").arg(u"ATV"_s);
+        QTest::newRow("damaged as well") << "<TLLDATA>\n<CHANNEL>\n<ATV>x</ATV>\n & "_ba
+                                         << qtTrId("kBadSectionContent").arg(u"ATV"_s) + u'\n' +
+                                                qtTrId("kNoticeDamagedLine").arg(4);
+    }
+    void badFileFormat()
+    {
+        QFETCH(const QByteArray, bytes);
+        QFETCH(const QString, detail);
+        App app;
+        app.preset.answerAlert(label("kOK"));
+        app.delegate.applicationDidFinishLaunching({app.write("a.tll", bytes)});
+        QTRY_VERIFY(app.preset.isSettled());
+        QCOMPARE(app.preset.lastText(), label("kOpenFailedMessage").arg(u"a.tll"_s) + u'\n' +
+                                            label("Bad file format") + u'\n' + detail);
+    }
+
+private:
+    static void installTexts() { const App texts; }
+};
+
+QUILLET_TEST(NoticeBarTest)
+
+#include "NoticeBarTest.moc"

@@ -2,6 +2,8 @@
 
 #include "framework/FileOperations.h"
 
+#include <QDateTime>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 #include <QRandomGenerator>
@@ -51,6 +53,21 @@ QString unusedPath(const QString &folder)
     return path;
 }
 
+/// Removes the new files that crashes left in the folder. Those of the last day may be of somebody
+/// who is writing right now, or be wanted back.
+void removeLeftovers(const QString &folder)
+{
+    const QString pattern = QStringLiteral(".quillet-") + QStringLiteral("[0-9a-f]").repeated(8);
+    const QDateTime yesterday = QDateTime::currentDateTimeUtc().addDays(-1);
+    QDirIterator files(folder, {pattern},
+                       QDir::Files | QDir::Hidden | QDir::NoSymLinks | QDir::CaseSensitive);
+    while (files.hasNext()) {
+        const QFileInfo file = files.nextFileInfo();
+        if (file.lastModified() < yesterday)
+            QFile::remove(file.filePath());
+    }
+}
+
 } // namespace
 
 bool FileReplacement::replace(const QString &path, const QByteArray &bytes, Error &error)
@@ -73,6 +90,7 @@ Error FileReplacement::replaceTarget(const QString &target, const QByteArray &by
     if (hasOldFile && !info.isWritable())
         return failure(Failure::Target, qtTrId("kWriteProtectedReason").arg(info.fileName()));
 
+    removeLeftovers(info.path());
     QFile file(unusedPath(info.path()));
     QString reason;
     if (!m_operations.create(file, hasOldFile, reason))

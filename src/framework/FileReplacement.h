@@ -17,7 +17,8 @@ class FileOperations;
 ///   3. it is read back and compared, because a full disk may take a write without complaint;
 ///   4. it takes the old file's place in one step;
 ///   5. the folder is brought onto the disk (a crash before that may bring the old file back).
-/// Any failure removes the new file. A symbolic link stays; the file it points to is replaced.
+/// Any failure removes the new file. A symbolic link stays; the file it points to is replaced. What
+/// a crash left behind is removed by the next replacement in that folder that is a day later.
 class FileReplacement
 {
 public:

@@ -5,6 +5,7 @@
 #include "testing/PresetPrompts.h"
 #include "testing/TestMain.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -19,6 +20,8 @@
 #include <optional>
 
 #ifndef Q_OS_WIN
+#include "OrdinaryUser.h"
+
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -162,6 +165,20 @@ private slots:
         QVERIFY(document.isDocumentEdited());
         QVERIFY(prompts.lastText().contains(QLatin1String("kSaveFailedMessage list.tll")));
         QVERIFY(prompts.lastText().contains(error.localizedDescription));
+
+        if (fault != Fault::Permissions) { // a new file takes nobody's
+            const QString fresh = m_folder->filePath(QStringLiteral("fresh.tll"));
+            QVERIFY(!FileReplacement(operations).replace(fresh, "new content", error));
+            QCOMPARE(error.code, static_cast<int>(failure));
+        }
+#ifndef Q_OS_WIN
+        const QTemporaryDir links;
+        const QString link = links.filePath(QStringLiteral("link.tll"));
+        QVERIFY(QFile::link(m_path, link));
+        QVERIFY(!FileReplacement(operations).replace(link, "new content", error));
+        QCOMPARE(QFileInfo(link).symLinkTarget(), m_path);
+        QCOMPARE(namesIn(links.path()), QStringList{QStringLiteral("link.tll")});
+#endif
         QCOMPARE(contentOf(m_path), QByteArray("old"));
         QCOMPARE(namesIn(m_folder->path()), QStringList{QStringLiteral("list.tll")});
     }
@@ -174,7 +191,9 @@ private slots:
         QTest::newRow("longer") << plain << QByteArray("something longer");
         QTest::newRow("empty") << plain << QByteArray();
         QTest::newRow("large") << plain << QByteArray(3'000'000, 'x');
-        QTest::newRow("longest name") << QString(250, QLatin1Char('n')) << QByteArray("new");
+        QTest::newRow("long name") << QString(250, QLatin1Char('n')) << QByteArray("new");
+        QTest::newRow("longest name in bytes")
+            << QString(127, QChar(u'ü')) + QLatin1Char('n') << QByteArray("new");
         QTest::newRow("new file") << QStringLiteral("other.tll") << QByteArray("new");
         QTest::newRow("other script") << QStringLiteral("Über список %1.tll") << QByteArray("new");
     }
@@ -183,7 +202,7 @@ private slots:
         QFETCH(QString, name);
         QFETCH(QByteArray, bytes);
         const QString path = m_folder->filePath(name);
-        if (name.size() == 250)
+        if (name.size() > 100)
             writeFile(path, "old");
         const QStringList before = namesIn(m_folder->path()) + QStringList{name};
         FileOperations operations;
@@ -195,6 +214,38 @@ private slots:
         const QStringList after = namesIn(m_folder->path());
         QCOMPARE(QSet<QString>(after.begin(), after.end()),
                  QSet<QString>(before.begin(), before.end()));
+    }
+
+    void leftoversOfCrashesAreRemovedAfterADay_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<int>("hours");
+        QTest::addColumn<bool>("isRemoved");
+        const QString leftover = QStringLiteral(".quillet-0123abcf");
+        QTest::newRow("old") << leftover << 25 << true;
+        QTest::newRow("perhaps being written") << leftover << 23 << false;
+        QTest::newRow("another's name") << QStringLiteral(".quillet-0123abcg") << 25 << false;
+        QTest::newRow("capitals") << QStringLiteral(".quillet-0123ABCF") << 25 << false;
+        QTest::newRow("longer name") << QStringLiteral(".quillet-0123abcf.tll") << 25 << false;
+        QTest::newRow("other start") << QStringLiteral("x.quillet-0123abcf") << 25 << false;
+    }
+    void leftoversOfCrashesAreRemovedAfterADay()
+    {
+        QFETCH(QString, name);
+        QFETCH(int, hours);
+        QFETCH(bool, isRemoved);
+        const QString path = m_folder->filePath(name);
+        const QDateTime time = QDateTime::currentDateTime().addSecs(-3600 * hours);
+        writeFile(path, "half");
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        QVERIFY(file.setFileTime(time, QFileDevice::FileModificationTime));
+        file.close();
+        FileOperations operations;
+        Error error;
+        QVERIFY(FileReplacement(operations).replace(m_path, "new", error));
+        QCOMPARE(QFileInfo::exists(path), !isRemoved);
+        QCOMPARE(contentOf(m_path), QByteArray("new"));
     }
 
 #ifndef Q_OS_WIN
@@ -297,7 +348,9 @@ private slots:
         QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("folder")));
         writeFile(m_folder->filePath(QStringLiteral("protected")), "old");
         QCOMPARE(::chmod((root + "protected").constData(), 0400), 0);
-        if (::access((root + "protected").constData(), W_OK) == 0 && name == u"protected")
+        QVERIFY(OrdinaryUser::own(m_folder->path()));
+        const OrdinaryUser user;
+        if (!OrdinaryUser::isOne())
             QSKIP("the superuser may write everything");
         const QStringList before = namesIn(m_folder->path());
         FileOperations operations;

@@ -1,0 +1,214 @@
+#include "BytesDocument.h"
+
+#include "testing/PresetPrompts.h"
+#include "testing/TestMain.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <cerrno>
+#include <cstring>
+#include <optional>
+
+#ifndef Q_OS_WIN
+#include "OrdinaryUser.h"
+
+#include <sys/stat.h>
+#endif
+#ifdef Q_OS_LINUX
+#include <sys/mount.h>
+#endif
+
+using namespace quillet;
+using namespace quillet::testing;
+
+namespace {
+
+#ifdef Q_OS_LINUX
+/// A disk of 64 kB, mounted in a folder; only some users may do that.
+class SmallDisk
+{
+public:
+    explicit SmallDisk(const char *options)
+        : m_path(QFile::encodeName(m_folder.path())),
+          m_isMounted(::mount("tmpfs", m_path.constData(), "tmpfs", 0, options) == 0),
+          m_errorNumber(errno)
+    {
+    }
+    ~SmallDisk()
+    {
+        if (m_isMounted)
+            ::umount2(m_path.constData(), MNT_DETACH);
+    }
+    Q_DISABLE_COPY_MOVE(SmallDisk)
+
+    [[nodiscard]] bool isMounted() const { return m_isMounted; }
+    [[nodiscard]] const char *reason() const { return std::strerror(m_errorNumber); }
+    [[nodiscard]] QString filePath(const char *name) const
+    {
+        return m_folder.filePath(QString::fromLatin1(name));
+    }
+
+private:
+    QTemporaryDir m_folder;
+    QByteArray m_path;
+    bool m_isMounted;
+    int m_errorNumber;
+};
+
+/// Makes a file that leaves so many bytes of its disk free.
+bool fillUp(const QString &path, qint64 free)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+        return false;
+    while (file.write(QByteArray(1024, 'f')) > 0) {
+    }
+    return file.size() > free && file.resize(file.size() - free);
+}
+#endif
+
+} // namespace
+
+/// Saving on real disks that refuse it.
+class SavingFaultsTest : public QObject
+{
+    Q_OBJECT
+
+#ifndef Q_OS_WIN
+private slots:
+#ifdef Q_OS_LINUX
+    void fullDiskKeepsTheOldFile_data()
+    {
+        QTest::addColumn<QByteArray>("options");
+        QTest::addColumn<qint64>("free");
+        QTest::newRow("no byte left") << QByteArray("size=64k") << qint64{0};
+        QTest::newRow("room for a part") << QByteArray("size=64k") << qint64{4096};
+        // For the folder itself, the list and the file that fills the disk.
+        QTest::newRow("no further file") << QByteArray("size=64k,nr_inodes=3") << qint64{32768};
+    }
+    void fullDiskKeepsTheOldFile()
+    {
+        QFETCH(QByteArray, options);
+        QFETCH(qint64, free);
+        const SmallDisk disk(options.constData());
+        if (!disk.isMounted())
+            QSKIP(disk.reason());
+        const QString path = disk.filePath("list.tll");
+        const QString filler = disk.filePath("filler");
+        const QByteArray before(10'000, 'o');
+        const QByteArray after(10'001, 'n');
+        writeFile(path, before);
+        QVERIFY(fillUp(filler, free));
+        open(path, after);
+
+        QVERIFY(!save());
+        expectRefusal(ENOSPC);
+        QCOMPARE(contentOf(path), before);
+        QCOMPARE(QDir(QFileInfo(path).path())
+                     .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+                 (QStringList{QStringLiteral("filler"), QStringLiteral("list.tll")}));
+
+        QVERIFY(QFile::remove(filler));
+        QVERIFY(save());
+        QCOMPARE(contentOf(path), after);
+    }
+#endif
+
+    void readOnlyFolderRefusesItsFiles_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("written"); // the file that the name stands for
+        QTest::addColumn<bool>("isWritten");
+        const QString inOpen = QStringLiteral("open/list.tll");
+        const QString inClosed = QStringLiteral("closed/list.tll");
+        QTest::newRow("open folder") << inOpen << inOpen << true;
+        QTest::newRow("read-only folder") << inClosed << inClosed << false;
+        QTest::newRow("link into it") << QStringLiteral("open/link.tll") << inClosed << false;
+        QTest::newRow("link out of it") << QStringLiteral("closed/link.tll") << inOpen << true;
+    }
+    void readOnlyFolderRefusesItsFiles()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, written);
+        QFETCH(bool, isWritten);
+        const QTemporaryDir folder;
+        for (const char *each : {"open", "closed"}) {
+            const QString path = folder.filePath(QString::fromLatin1(each));
+            const bool isOpen = qstrcmp(each, "open") == 0;
+            QVERIFY(QDir().mkdir(path));
+            writeFile(path + QStringLiteral("/list.tll"), "old");
+            QVERIFY(OrdinaryUser::own(path + QStringLiteral("/list.tll")));
+            QVERIFY(QFile::link(isOpen ? QStringLiteral("../closed/list.tll")
+                                       : QStringLiteral("../open/list.tll"),
+                                path + QStringLiteral("/link.tll")));
+            QVERIFY(OrdinaryUser::own(path));
+            QCOMPARE(::chmod(QFile::encodeName(path).constData(), isOpen ? 0755 : 0555), 0);
+        }
+        QVERIFY(OrdinaryUser::own(folder.path()));
+        const OrdinaryUser user;
+        if (!OrdinaryUser::isOne())
+            QSKIP("the superuser may write everything");
+        if (::access(QFile::encodeName(folder.path()).constData(), X_OK) != 0)
+            QSKIP("the folder of temporary files is for one user only");
+
+        const QString path = folder.filePath(name);
+        open(path, "new");
+        QCOMPARE(save(), isWritten);
+        if (!isWritten)
+            expectRefusal(EACCES);
+        QCOMPARE(m_document->isDocumentEdited(), !isWritten);
+        QCOMPARE(contentOf(folder.filePath(written)), QByteArray(isWritten ? "new" : "old"));
+        QCOMPARE(QFileInfo(path).isSymLink(), name != written);
+        for (const char *each : {"open", "closed"}) {
+            QCOMPARE(QDir(folder.filePath(QString::fromLatin1(each)))
+                         .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+                     (QStringList{QStringLiteral("link.tll"), QStringLiteral("list.tll")}));
+        }
+    }
+
+private:
+    /// Opens the file and changes its content.
+    void open(const QString &path, const QByteArray &content)
+    {
+        m_prompts.emplace(PresetPrompts::Arrival::AtOnce);
+        m_document.emplace();
+        m_document->setPrompts(&*m_prompts);
+        Error error;
+        QVERIFY2(m_document->readFromUrl(QUrl::fromLocalFile(path), {}, error),
+                 qPrintable(error.localizedDescription));
+        m_document->edit(content);
+    }
+
+    [[nodiscard]] bool save()
+    {
+        std::optional<bool> isSaved;
+        m_document->saveDocument([&isSaved](bool saved) { isSaved = saved; });
+        [&isSaved] { QVERIFY(isSaved.has_value()); }();
+        return isSaved.value_or(false);
+    }
+
+    /// Checks that the one sheet names the file and the system's reason, and that the changes are
+    /// still there to be saved.
+    void expectRefusal(int errorNumber) const
+    {
+        const QString reason = QString::fromLocal8Bit(std::strerror(errorNumber));
+        const QString text = m_prompts->lastText();
+        QCOMPARE(m_prompts->alerts().size(), std::size_t{1});
+        QVERIFY2(text.contains(QLatin1String("kSaveFailedMessage")), qPrintable(text));
+        QVERIFY2(text.contains(reason), qPrintable(text));
+        QVERIFY(m_document->isDocumentEdited());
+    }
+
+    const ParameterTexts m_texts;
+    std::optional<PresetPrompts> m_prompts;
+    std::optional<BytesDocument> m_document;
+#endif
+};
+
+QUILLET_TEST(SavingFaultsTest)
+
+#include "SavingFaultsTest.moc"

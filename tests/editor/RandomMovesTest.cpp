@@ -42,6 +42,42 @@ private slots:
         }
     }
 
+    /// A selection means numbers: whatever is searched or filtered, it is the shown stations that
+    /// carry them.
+    void selectionIsByNumber()
+    {
+        QRandomGenerator random(5);
+        Editor editor(randomStations(random));
+        for (int step = 0; step < 300; ++step) {
+            editor.search({});
+            editor.controller.typeFilterClicked(static_cast<int>(TypeFilter::All));
+            QStringList numbers;
+            QList<qsizetype> rows;
+            const StationList &all = editor.controller.currentList();
+            for (std::size_t row = 0; row < all.size(); ++row) {
+                if (random.bounded(4) == 0) {
+                    rows.append(static_cast<qsizetype>(row));
+                    numbers.append(all[row]->progNumString());
+                }
+            }
+            editor.outlets.selectRows(rows);
+            editor.controller.tableViewSelectionDidChange();
+            for (int change = random.bounded(4); change >= 0; --change) {
+                if (random.bounded(2) == 0)
+                    editor.search(QString(QChar(u'a' + random.bounded(9))));
+                else
+                    editor.controller.typeFilterClicked(random.bounded(typeFilterCount));
+                QList<qsizetype> expected;
+                const StationList &shown = editor.controller.currentList();
+                for (std::size_t row = 0; row < shown.size(); ++row) {
+                    if (numbers.contains(shown[row]->progNumString()))
+                        expected.append(static_cast<qsizetype>(row));
+                }
+                QCOMPARE(editor.outlets.selectedRows(), expected);
+            }
+        }
+    }
+
 private:
     /// Every station with the list it stands in.
     using Members = QMultiHash<const LGStation *, int>;
@@ -92,7 +128,7 @@ private:
                 rows.append(row);
         }
         const int target = random.bounded(20) == 0 ? 12000 : random.bounded(-3, 120);
-        switch (random.bounded(9)) {
+        switch (random.bounded(11)) {
         case 0:
             editor.search(random.bounded(2) == 0 ? QString()
                                                  : QString(QChar(u'a' + random.bounded(9))));
@@ -117,6 +153,17 @@ private:
         case 6:
             if (count > 0)
                 editor.controller.moveElements(random.bounded(count), 1, target);
+            break;
+        case 7:
+            editor.outlets.selectRows(rows);
+            (editor.controller.*(random.bounded(2) == 0
+                                     ? &ViewController::skipSelectedItems
+                                     : &ViewController::changeChildLockForSelectedItems))();
+            break;
+        case 8:
+            if (count > 0)
+                editor.controller.setObjectValue(QString::number(target), QStringLiteral("progNum"),
+                                                 random.bounded(count));
             break;
         default:
             editor.outlets.selectRows(rows);

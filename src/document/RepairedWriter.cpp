@@ -227,9 +227,15 @@ QByteArray repairedChannels(const TLLDocument &document, const QByteArray &text)
     const std::vector<ElementSpan> spans = elementSpans(text, {{}, "CHANNEL", "legacybroadcast"});
     if (!broadcast.legacyDict() || spans.empty())
         return text;
-    return replaced(text,
-                    {{spans.front().content, replaceBadChars(broadcast.repairedJSON(
-                                                 document.lists().roll(), document.stations()))}});
+    TextSpan json = spans.front().content;
+    if (!spans.front().isClosed) { // then it ended at whatever tag came next
+        const qsizetype tag = text.indexOf('<', json.start);
+        json.end = tag < 0 ? text.size() : tag;
+        if (json.in(text).trimmed().isEmpty())
+            return text; // a CDATA block without an end
+    }
+    return replaced(text, {{json, replaceBadChars(broadcast.repairedJSON(document.lists().roll(),
+                                                                         document.stations()))}});
 }
 
 /// In the encoding of the file that was read, if it can be told in it, else in UTF-8.

@@ -230,6 +230,9 @@ private slots:
             u"missing 1: ??, doubled 1: A"_s);
         row("JSON element with attribute", legacy({a, b}, u"legacybroadcast n='1'"_s), showCable,
             u"missing 2: A B, surroundings, extras"_s);
+        row("JSON element with a wrong end", // the list is not read when nothing follows it
+            legacy({a, b}).replace(u"</legacy"_s, u"<legacy"_s), showCable,
+            u"missing 2: A B, tail, surroundings"_s);
         row("broken JSON", legacy({a, u"}"_s}), showCable, u"surroundings"_s);
     }
     void cases()

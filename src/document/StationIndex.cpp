@@ -10,13 +10,12 @@ StationIndex::StationIndex(const StationList &stations, const Key &key)
         const std::optional<QString> text = stations[i] ? key(*stations[i]) : std::nullopt;
         if (!text)
             continue;
-        const auto chain = m_chains.find(*text);
-        if (chain == m_chains.end()) {
-            m_chains.insert(*text, {i, i});
-        } else {
-            m_next[chain->last] = i;
-            chain->last = i;
-        }
+        Chain &chain = m_chains[*text];
+        if (chain.first == none)
+            chain.first = i;
+        else
+            m_next[chain.last] = i;
+        chain.last = i;
     }
 }
 

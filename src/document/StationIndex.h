@@ -35,8 +35,8 @@ private:
     static constexpr std::size_t none = std::numeric_limits<std::size_t>::max();
     struct Chain
     {
-        std::size_t first;
-        std::size_t last;
+        std::size_t first = none;
+        std::size_t last = none;
     };
 
     [[nodiscard]] std::size_t firstHeld(std::size_t index, const StationList &stations) const;

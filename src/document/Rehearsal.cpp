@@ -184,8 +184,8 @@ Dictionary surroundings(const TLLDocument &document)
     return tree;
 }
 
-/// How often a text occurs that has a character at the given place which is rare in a
-/// file: only that character is looked for.
+/// How often a text occurs. Its character at the given place must be rare in a file: only that one
+/// is looked for.
 qsizetype occurrences(const QByteArray &text, QByteArrayView wanted, qsizetype mark)
 {
     qsizetype found = 0;
@@ -229,8 +229,7 @@ bool losesMarkup(const QByteArray &before, const QByteArray &after,
     });
 }
 
-/// Whether the text before the first and after the last station is the same; `stations` is what
-/// these stand in.
+/// Whether the text before the first of these tags or, if it has an end, after the last differs.
 bool losesSurroundingText(const QByteArray &before, const QByteArray &after,
                           const QByteArray &openTag, const QByteArray &closeTag, bool hasEnd)
 {

@@ -54,26 +54,6 @@ private slots:
         QVERIFY(document.isLegacyFormat());
     }
 
-    void unchangedListComesBack()
-    {
-        const QByteArray bytes = file({channel("A", "1"), channel("R", "2", 2), channel("B", "3")});
-        TLLDocument document;
-        QVERIFY(read(document, bytes));
-        document.switchToSource(1);
-        QCOMPARE(written(document), bytes);
-    }
-
-    void positionsAreComparedAsTheyAre()
-    {
-        // Sorted by number: A 1 (position 0), radio 2 (1), B 3 (2). In the file: B, A, radio.
-        // Positions 0 and 2 belong to stations; position 1 keeps the file's channel, which is A.
-        TLLDocument document;
-        QVERIFY(read(document, file({channel("B", "3"), channel("A", "1"), channel("R", "2", 2)})));
-        document.switchToSource(1);
-        QCOMPARE(written(document),
-                 file({channel("A", "1"), channel("A", "1"), channel("B", "3")}));
-    }
-
     void editsBecomeNumbersAndBooleans()
     {
         TLLDocument document;
@@ -88,30 +68,6 @@ private slots:
         QVERIFY(saved.contains("\"skipped\":true,"));
         QVERIFY(saved.contains("\"userEditChNumber\":1,\"userSelCHNo\":1,\"optrBlocked\":true}"));
         QVERIFY(station.isSkipped() && station.isBlocked());
-    }
-
-    void namesSurviveXML_data()
-    {
-        QTest::addColumn<QByteArray>("name"); // as it stands in the file
-        QTest::addColumn<QString>("text");
-        QTest::newRow("ampersand") << QByteArray("R&amp;B") << QStringLiteral("R&B");
-        QTest::newRow("less than") << QByteArray("a&lt;b") << QStringLiteral("a<b");
-        QTest::newRow("end of a CDATA block") << QByteArray("a]]&gt;b") << QStringLiteral("a]]>b");
-        QTest::newRow("quote") << QByteArray("a\\\"b") << QStringLiteral("a\"b");
-        QTest::newRow("beyond ASCII")
-            << QByteArray("Ö\\u00e4\\ud83d\\udcfa") << QStringLiteral("Öä📺");
-    }
-    void namesSurviveXML()
-    {
-        QFETCH(QByteArray, name);
-        QFETCH(QString, text);
-        TLLDocument document;
-        QVERIFY(read(document, file({channel(name, "1")})));
-        QCOMPARE(shown(document), QStringList{QStringLiteral("1 ") + text});
-        document.switchToSource(1);
-        TLLDocument again;
-        QVERIFY(read(again, written(document)));
-        QCOMPARE(shown(again), shown(document));
     }
 
     void oddContent_data()
@@ -144,20 +100,9 @@ private slots:
         QVERIFY(written(document).startsWith(head) && written(document).endsWith(tail));
     }
 
-    void frameOfTheElement()
+    void cutAnywhere()
     {
         const QByteArray json = "{\"channelList\":[" + channel("A", "1") + "]}";
-        TLLDocument cdata;
-        QVERIFY(read(cdata, head + "<![CDATA[" + json + "]]>" + tail));
-        QCOMPARE(shown(cdata), QStringList{QStringLiteral("1 A")});
-        cdata.switchToSource(1);
-        QCOMPARE(written(cdata), head + json + tail);
-
-        TLLDocument cut;
-        QVERIFY(read(cut, head + json));
-        cut.switchToSource(1);
-        QVERIFY(written(cut).startsWith(head));
-
         for (qsizetype length = 0; length < json.size(); length += 17) {
             TLLDocument broken;
             QVERIFY(read(broken, head + json.first(length) + tail));

@@ -1,6 +1,7 @@
 #include "document/Rehearsal.h"
 
 #include "document/EntryMatching.h"
+#include "document/SectionItems.h"
 #include "document/TLLDocument.h"
 #include "document/TLLWriter.h"
 #include "model/LGLegacyStation.h"
@@ -59,22 +60,6 @@ void count(Rehearsal::Stations &stations, const std::vector<std::size_t> &indexe
         count(stations, entries[index], isLegacy);
 }
 
-const Dictionary *section(const TLLDocument &document, QStringView name)
-{
-    const Dictionary *channel = document.xmlDictionary().dictionary(u"CHANNEL");
-    return channel ? channel->dictionary(name) : nullptr;
-}
-
-/// The ITEM elements of a section as they were read.
-Array items(const TLLDocument &document, QStringView sectionName)
-{
-    const Dictionary *stations = section(document, sectionName);
-    const Value *list = stations ? stations->find(itemKey) : nullptr;
-    if (!list)
-        return {};
-    return list->array() ? *list->array() : Array{*list};
-}
-
 /// The entry with the attributes that fields had before they were edited; editing knows none.
 Dictionary withAttributes(const Dictionary &entry, const Dictionary &original)
 {
@@ -94,7 +79,8 @@ Dictionary withAttributes(const Dictionary &entry, const Dictionary &original)
 /// What the entries of stations with edited attributes' fields should be written as.
 std::unordered_map<const LGStation *, Dictionary> entriesWithAttributes(const TLLDocument &document)
 {
-    const Array analogue = items(document, u"ATV"), digital = items(document, u"DTV");
+    const Array analogue = sectionItems(document.xmlDictionary(), u"ATV");
+    const Array digital = sectionItems(document.xmlDictionary(), u"DTV");
     std::unordered_map<const LGStation *, Dictionary> entries;
     for (const auto &[station, place] : document.lists().roll()) {
         const Array &originals = place.section == FilePlace::Section::ATV ? analogue : digital;
@@ -152,7 +138,7 @@ std::vector<Dictionary> writtenStations(const TLLDocument &document)
     std::vector<Dictionary> entries;
     entries.reserve(document.lists().roll().size());
     for (const QStringView name : {u"ATV", u"DTV"}) {
-        for (const Value &item : items(document, name)) {
+        for (const Value &item : sectionItems(document.xmlDictionary(), name)) {
             if (item.dictionary())
                 entries.push_back(*item.dictionary());
         }

@@ -1,5 +1,6 @@
 #include "document/RepairedWriter.h"
 
+#include "document/SectionItems.h"
 #include "document/StationSpans.h"
 #include "document/TLLDocument.h"
 #include "xml/XMLDictionaryParser.h"
@@ -89,7 +90,7 @@ public:
         : m_section(section)
     {
         const QByteArray name = section == Section::ATV ? "ATV" : "DTV";
-        readOriginals(document, QString::fromLatin1(name));
+        m_originals = sectionItems(document.xmlDictionary(), QString::fromLatin1(name));
         findItems(text, name);
     }
 
@@ -113,15 +114,6 @@ public:
     }
 
 private:
-    void readOriginals(const TLLDocument &document, const QString &name)
-    {
-        const Dictionary *channel = document.xmlDictionary().dictionary(u"CHANNEL");
-        const Dictionary *section = channel ? channel->dictionary(name) : nullptr;
-        const Value *items = section ? section->find(u"ITEM") : nullptr;
-        if (items)
-            m_originals = items->array() ? *items->array() : Array{*items};
-    }
-
     /// Elements that hold nothing were not read, so they are told from the others by what they
     /// hold. One that was broken off is not moved.
     void findItems(const QByteArray &text, const QByteArray &name)

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "app/DesktopServices.h"
+#include "app/help/HelpBrowser.h"
 #include "framework/DocumentController.h"
 #include "framework/Prompts.h"
-#include "help/HelpBrowser.h"
 
 #include <QObject>
 #include <QStringList>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "help/SystemServices.h"
+#include "app/help/SystemServices.h"
 
 namespace quillet {
 

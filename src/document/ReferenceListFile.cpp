@@ -1,7 +1,7 @@
 #include "document/ReferenceListFile.h"
 
 #include "document/TLLDocument.h"
-#include "framework/FileReading.h"
+#include "files/FileReading.h"
 
 #include <QFileInfo>
 #include <QUrl>

@@ -5,7 +5,7 @@
 #include "editor/NoticeTexts.h"
 #include "editor/Renumbering.h"
 #include "editor/StationColumns.h"
-#include "framework/FileReading.h"
+#include "files/FileReading.h"
 #include "support/KXFileLog.h"
 #include "support/LenientNumber.h"
 

@@ -1,8 +1,8 @@
 #include "framework/Document.h"
 
-#include "framework/FileOperations.h"
-#include "framework/FileReading.h"
-#include "framework/FileReplacement.h"
+#include "files/FileOperations.h"
+#include "files/FileReading.h"
+#include "files/FileReplacement.h"
 #include "framework/Prompts.h"
 #include "framework/WindowController.h"
 

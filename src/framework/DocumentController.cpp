@@ -1,6 +1,6 @@
 #include "framework/DocumentController.h"
 
-#include "framework/Error.h"
+#include "files/Error.h"
 #include "framework/Prompts.h"
 #include "framework/RecentFiles.h"
 #include "framework/WindowController.h"

@@ -2,10 +2,7 @@
 
 #include "framework/Document.h"
 #include "framework/WindowController.h"
-
-#include <memory>
-
-class QTranslator;
+#include "testing/TestFiles.h"
 
 namespace quillet::testing {
 
@@ -37,22 +34,6 @@ public:
 
     QByteArray content;
     bool isUnwritable = false; ///< dataOfType fails
-};
-
-[[nodiscard]] QByteArray contentOf(const QString &path);
-void writeFile(const QString &path, const QByteArray &bytes);
-
-/// Texts that name a file or a reason show their id alone without a translation, so for the
-/// lifetime of this object every "...Message" and "...Reason" also shows what is put into it.
-class ParameterTexts
-{
-public:
-    ParameterTexts();
-    ~ParameterTexts();
-    Q_DISABLE_COPY_MOVE(ParameterTexts)
-
-private:
-    std::unique_ptr<QTranslator> m_translator;
 };
 
 } // namespace quillet::testing

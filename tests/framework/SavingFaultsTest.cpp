@@ -14,7 +14,7 @@
 #include <optional>
 
 #ifndef Q_OS_WIN
-#include "OrdinaryUser.h"
+#include "files/OrdinaryUser.h"
 
 #include <sys/stat.h>
 #endif

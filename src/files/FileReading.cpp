@@ -1,4 +1,4 @@
-#include "framework/FileReading.h"
+#include "files/FileReading.h"
 
 #include <QFile>
 #include <QFileInfo>

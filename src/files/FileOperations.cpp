@@ -1,4 +1,4 @@
-#include "framework/FileOperations.h"
+#include "files/FileOperations.h"
 
 #include <QFile>
 #include <QFileInfo>

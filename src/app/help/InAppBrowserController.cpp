@@ -1,8 +1,8 @@
-#include "help/InAppBrowserController.h"
+#include "app/help/InAppBrowserController.h"
 
-#include "help/GuideAccess.h"
-#include "help/GuidePage.h"
-#include "help/SystemServices.h"
+#include "app/help/GuideAccess.h"
+#include "app/help/GuidePage.h"
+#include "app/help/SystemServices.h"
 
 #include <QFileInfo>
 #include <QTimer>

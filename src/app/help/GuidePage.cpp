@@ -1,7 +1,7 @@
-#include "help/GuidePage.h"
+#include "app/help/GuidePage.h"
 
-#include "help/NavigationPolicy.h"
-#include "help/SystemServices.h"
+#include "app/help/NavigationPolicy.h"
+#include "app/help/SystemServices.h"
 
 #include <QMessageBox>
 #include <QWebEngineView>

@@ -1,6 +1,6 @@
-#include "help/InAppBrowserController.h"
-#include "help/InAppBrowserWindow.h"
-#include "help/SystemServices.h"
+#include "app/help/InAppBrowserController.h"
+#include "app/help/InAppBrowserWindow.h"
+#include "app/help/SystemServices.h"
 #include "testing/TestMain.h"
 
 #include <QAbstractButton>

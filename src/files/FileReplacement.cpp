@@ -1,6 +1,6 @@
-#include "framework/FileReplacement.h"
+#include "files/FileReplacement.h"
 
-#include "framework/FileOperations.h"
+#include "files/FileOperations.h"
 
 #include <QDateTime>
 #include <QDirIterator>

@@ -1,6 +1,6 @@
-#include "help/WebEngineHelpModule.h"
+#include "app/help/WebEngineHelpModule.h"
 
-#include "help/InAppBrowserWindow.h"
+#include "app/help/InAppBrowserWindow.h"
 
 #include <qtwebenginequickglobal.h>
 

@@ -1,7 +1,7 @@
 // Replaces a file with the contents of two others in turn until it is killed.
 
-#include "framework/FileOperations.h"
-#include "framework/FileReplacement.h"
+#include "files/FileOperations.h"
+#include "files/FileReplacement.h"
 
 #include <QFile>
 

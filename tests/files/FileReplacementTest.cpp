@@ -1,7 +1,7 @@
-#include "BytesDocument.h"
+#include "framework/BytesDocument.h"
 
-#include "framework/FileOperations.h"
-#include "framework/FileReplacement.h"
+#include "files/FileOperations.h"
+#include "files/FileReplacement.h"
 #include "testing/PresetPrompts.h"
 #include "testing/TestMain.h"
 
@@ -20,7 +20,7 @@
 #include <optional>
 
 #ifndef Q_OS_WIN
-#include "OrdinaryUser.h"
+#include "files/OrdinaryUser.h"
 
 #include <sys/resource.h>
 #include <sys/stat.h>

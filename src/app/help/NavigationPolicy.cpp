@@ -1,4 +1,4 @@
-#include "help/NavigationPolicy.h"
+#include "app/help/NavigationPolicy.h"
 
 #include <QFileInfo>
 #include <QRegularExpression>

@@ -1,7 +1,7 @@
-#include "help/InAppBrowserWindow.h"
+#include "app/help/InAppBrowserWindow.h"
 
-#include "help/InAppBrowserController.h"
-#include "help/SystemServices.h"
+#include "app/help/InAppBrowserController.h"
+#include "app/help/SystemServices.h"
 
 #include <QAction>
 #include <QIcon>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "framework/Error.h"
+#include "files/Error.h"
 
 #include <QByteArray>
 #include <QString>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "help/HelpBrowser.h"
+#include "app/help/HelpBrowser.h"
 
 #include <QMainWindow>
 

@@ -1,7 +1,7 @@
-#include "BytesDocument.h"
+#include "framework/BytesDocument.h"
 
-#include "framework/FileOperations.h"
-#include "framework/FileReplacement.h"
+#include "files/FileOperations.h"
+#include "files/FileReplacement.h"
 #include "testing/TestMain.h"
 
 #include <QDateTime>

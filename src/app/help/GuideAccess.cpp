@@ -1,6 +1,6 @@
-#include "help/GuideAccess.h"
+#include "app/help/GuideAccess.h"
 
-#include "help/NavigationPolicy.h"
+#include "app/help/NavigationPolicy.h"
 
 namespace quillet {
 

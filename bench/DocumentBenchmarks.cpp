@@ -2,9 +2,9 @@
 
 #include "bench/Failure.h"
 #include "bench/Figures.h"
-#include "document/Rehearsal.h"
-#include "document/RepairedWriter.h"
 #include "document/TLLDocument.h"
+#include "document/repair/RepairedWriter.h"
+#include "document/review/Rehearsal.h"
 
 #include <libxml/parser.h>
 #include <nlohmann/json.hpp>
@@ -67,7 +67,8 @@ void bareJSON(benchmark::State &state, const QByteArray &file)
 bool load(TLLDocument &document, const QByteArray &bytes)
 {
     Error error;
-    return document.readFromData(bytes, TLLDocument::typeName(), error) && !document.parseError();
+    return document.readFromData(bytes, TLLDocument::typeName(), error) &&
+           !document.list().parseError;
 }
 
 /// From bytes in memory to sorted lists in a new document. Reading the file is not in it, nor is
@@ -110,10 +111,10 @@ void rehearsing(benchmark::State &state, const QByteArray &bytes)
     TLLDocument document;
     if (!load(document, bytes))
         return fail(state, "The file was not read");
-    const QByteArray repaired = repairedTLL(document);
+    const QByteArray repaired = repairedTLL(document.list());
     for ([[maybe_unused]] auto _ : state) {
         emptyHeap(state);
-        if (!rehearse(document, repaired).isClean())
+        if (!rehearse(document.list(), repaired).isClean())
             return fail(state, "The file would lose something");
     }
 }

@@ -2,8 +2,8 @@
 
 #include "bench/Failure.h"
 #include "bench/Figures.h"
-#include "document/ReferenceOrder.h"
 #include "document/TLLDocument.h"
+#include "document/order/ReferenceOrder.h"
 #include "support/KXFileLog.h"
 
 #include <QTemporaryDir>

@@ -2,11 +2,11 @@
 
 #include "FuzzTarget.h"
 
-#include "document/FileDiagnosis.h"
-#include "document/RepairedWriter.h"
 #include "document/SaveReview.h"
 #include "document/TLLDocument.h"
-#include "document/TextMending.h"
+#include "document/repair/FileDiagnosis.h"
+#include "document/repair/RepairedWriter.h"
+#include "document/repair/TextMending.h"
 #include "support/TextConversion.h"
 
 #include <algorithm>
@@ -25,7 +25,7 @@ namespace {
         require(bytes.isEmpty() == error.isEmpty(), "a refusal says why");
         return false;
     }
-    require(document.text().bytes() == bytes, "the bytes that were read are kept");
+    require(document.list().text.bytes() == bytes, "the bytes that were read are kept");
     int longest = 0;
     for (int source = 1; source < stationSourceCount; ++source) {
         if (document.lists().stationCount(source) > document.lists().stationCount(longest))
@@ -69,7 +69,7 @@ void checkLists(const TLLDocument &document)
 /// How much of the text is written before the stations.
 [[nodiscard]] qsizetype headerLength(const TLLDocument &document)
 {
-    const FileLayout &layout = document.layout();
+    const FileLayout &layout = document.list().layout;
     if (document.isLegacyFormat())
         return layout.headerLenLegacy();
     return document.analogStations() >= 1 ? layout.headerLenATV() : layout.headerLenDTV();
@@ -86,7 +86,7 @@ void checkSurroundings(const TLLDocument &document, const QByteArray &saved)
     const bool isFooterWritten =
         document.isLegacyFormat() || document.analogStations() + document.digitalStations() >= 1;
     const QString after =
-        isFooterWritten ? document.layout().footer().value_or(QString()) : QString();
+        isFooterWritten ? document.list().layout.footer().value_or(QString()) : QString();
     if (saved.isValidUtf8()) {
         require(saved.startsWith(before.toUtf8()), "the text before the stations is kept");
         require(saved.endsWith(after.toUtf8()), "the text behind the stations is kept");
@@ -103,9 +103,9 @@ void checkSurroundings(const TLLDocument &document, const QByteArray &saved)
 [[nodiscard]] bool isSame(const TLLDocument &a, const TLLDocument &b)
 {
     if (a.isLegacyFormat() != b.isLegacyFormat() || header(a) != header(b) ||
-        a.layout().footer().value_or(QString()).isEmpty() ||
-        a.layout().footer() != b.layout().footer() ||
-        a.legacyBroadcast().legacyDict() != b.legacyBroadcast().legacyDict())
+        a.list().layout.footer().value_or(QString()).isEmpty() ||
+        a.list().layout.footer() != b.list().layout.footer() ||
+        a.list().broadcast.legacyDict != b.list().broadcast.legacyDict)
         return false;
     const std::vector<StationListPtr> listsOfA = listsOf(a);
     const std::vector<StationListPtr> listsOfB = listsOf(b);
@@ -121,15 +121,15 @@ void checkSurroundings(const TLLDocument &document, const QByteArray &saved)
 
 void checkMending(const TLLDocument &document)
 {
-    for (const FileFinding &finding : diagnose(document))
+    for (const FileFinding &finding : diagnose(document.list()))
         require(finding.line >= 0 && finding.column >= 0 && finding.unread >= 0,
                 "a finding has a place");
-    const std::optional<MendedText> mended = repairedText(document);
+    const std::optional<MendedText> mended = repairedText(document.list());
     if (!mended)
         return;
     TLLDocument repaired;
     require(repaired.readRepaired(*mended, {}), "a mended text can be read");
-    require(!repaired.parseError(), "a mended text parses to its end");
+    require(!repaired.list().parseError, "a mended text parses to its end");
     const std::size_t dropped = mended->mending.droppedStation ? 1 : 0;
     require(repaired.lists().roll().size() + dropped >= document.lists().roll().size(),
             "mending loses no station that was read whole");
@@ -144,24 +144,25 @@ void checkMending(const TLLDocument &document)
 /// What a save rehearses, and the writing that it offers where something would be lost.
 void checkRehearsal(const TLLDocument &document, const QByteArray &saved)
 {
-    const Rehearsal rehearsal = rehearse(document, saved);
+    const Rehearsal rehearsal = rehearse(document.list(), saved);
     require(rehearsal.isClean() || !reviewOfSave({}, rehearsal, {}).alert.buttons.isEmpty(),
             "a loss is told");
     TLLDocument again;
     Error error;
     // Of a damaged file a save may bring stations back that were not read.
-    if (rehearsal.isClean() && !document.parseError() &&
+    if (rehearsal.isClean() && !document.list().parseError &&
         again.readFromData(saved, TLLDocument::typeName(), error))
         require(again.lists().roll().size() == document.lists().roll().size(),
                 "a clean save keeps the number of stations");
 
-    require(keepsStations(rehearse(document, repairedTLL(document))),
+    require(keepsStations(rehearse(document.list(), repairedTLL(document.list()))),
             "a repaired writing keeps every station");
     for (const FiledStation &filed : document.lists().roll()) {
         filed.station->setSkipped(true);
         filed.station->setStationName(QStringLiteral("R&B <1>"));
     }
-    require(document.parseError() || keepsStations(rehearse(document, repairedTLL(document))),
+    require(document.list().parseError ||
+                keepsStations(rehearse(document.list(), repairedTLL(document.list()))),
             "a repaired writing keeps every edited station");
 }
 

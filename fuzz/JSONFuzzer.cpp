@@ -2,8 +2,10 @@
 
 #include "FuzzTarget.h"
 
-#include "document/LegacyBroadcast.h"
-#include "document/StationLists.h"
+#include "document/list/ChannelList.h"
+#include "document/read/ChannelFiling.h"
+#include "document/repair/RepairedBroadcast.h"
+#include "document/write/BroadcastWriting.h"
 #include "xml/JSON.h"
 
 using namespace quillet;
@@ -30,32 +32,32 @@ void checkJSON(const QByteArray &text)
 
 [[nodiscard]] qsizetype channelsIn(const QByteArray &json)
 {
-    StationLists lists;
-    LegacyBroadcast broadcast;
-    broadcast.extractLegacyStations(json, lists);
-    return broadcast.channelList().count();
+    ChannelList list;
+    extractLegacyStations(list.broadcast, json, list.lists);
+    return list.broadcast.channelList().count();
 }
 
 void checkBroadcast(const QByteArray &text)
 {
-    StationLists lists;
-    LegacyBroadcast broadcast;
-    const qsizetype count = broadcast.extractLegacyStations(text, lists);
-    require(broadcast.legacyDict() || lists.roll().empty(), "stations come from an object");
-    require(count == static_cast<qsizetype>(lists.list(true, 0)->size()), "the count is right");
-    if (!broadcast.legacyDict())
+    ChannelList list;
+    const LegacyBroadcast &broadcast = list.broadcast;
+    const qsizetype count = extractLegacyStations(list.broadcast, text, list.lists);
+    const std::vector<FiledStation> &roll = list.lists.roll();
+    require(broadcast.legacyDict || roll.empty(), "stations come from an object");
+    require(count == static_cast<qsizetype>(list.lists.list(true, 0)->size()),
+            "the count is right");
+    if (!broadcast.legacyDict)
         return;
     const qsizetype channels = broadcast.channelList().count();
-    require(static_cast<qsizetype>(lists.roll().size()) <= channels, "a station has a channel");
-    require(channelsIn(broadcast.json({})) == channels, "channels that are not shown are kept");
+    require(static_cast<qsizetype>(roll.size()) <= channels, "a station has a channel");
+    require(channelsIn(broadcastJSON(broadcast, {})) == channels,
+            "channels that are not shown are kept");
     for (int source = 0; source < stationSourceCount; ++source) {
-        const StationListPtr &list = lists.list(true, source);
-        const QByteArray json = broadcast.json(*list);
+        const QByteArray json = broadcastJSON(broadcast, *list.lists.list(true, source));
         require(!json.isEmpty() && !json.contains('<'), "the JSON can stand in XML");
         require(channelsIn(json) == channels, "no list changes the number of channels");
-        require(channelsIn(broadcast.repairedJSON(lists.roll(), list)) == channels,
-                "every channel is written once");
     }
+    require(channelsIn(repairedJSON(list)) == channels, "every channel is written once");
 }
 
 } // namespace

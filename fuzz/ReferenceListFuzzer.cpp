@@ -2,8 +2,8 @@
 
 #include "FuzzTarget.h"
 
-#include "document/ReferenceList.h"
-#include "document/ReferenceOrder.h"
+#include "document/order/ReferenceList.h"
+#include "document/order/ReferenceOrder.h"
 
 #include <algorithm>
 #include <array>

@@ -521,6 +521,10 @@
         <source></source>
         <translation>Die Datei ist in Zeile %1 beschädigt.</translation>
     </message>
+    <message id="kNoticeDeclaration">
+        <source></source>
+        <translation>Die Datei gibt die Codierung %1 an, aber ihre Buchstaben sind UTF-8. Quillet lässt beides, wie es ist; ein Fernseher, der der Angabe glaubt, zeigt Buchstaben mit Akzent falsch an.</translation>
+    </message>
     <message id="kNoticeJSON">
         <source></source>
         <translation>Es wurden keine Sender gefunden, denn der JSON-Text, der sie enthält, konnte nicht dekodiert werden (Zeile %1, Spalte %2).</translation>
@@ -630,6 +634,10 @@
             <numerusform>%n Sender stünden doppelt darin: %1</numerusform>
         </translation>
     </message>
+    <message id="kReviewEncoding">
+        <source></source>
+        <translation>Die Buchstaben mit Akzent würden als UTF-8 geschrieben, was nicht die Codierung ist, die die Datei angibt.</translation>
+    </message>
     <message id="kReviewExtras">
         <source></source>
         <translation>Anmerkungen oder zusätzliche Angaben zwischen den Sendern gingen verloren.</translation>
@@ -648,6 +656,13 @@
     <message id="kReviewNoRepair">
         <source></source>
         <translation>Es gibt keinen Weg, diese Datei mit weniger Verlust zu schreiben. Heben Sie eine Kopie der alten Datei auf, bevor Sie speichern.</translation>
+    </message>
+    <message id="kReviewNumbers" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n lange Zahl würde gerundet.</numerusform>
+            <numerusform>%n lange Zahlen würden gerundet.</numerusform>
+        </translation>
     </message>
     <message id="kReviewRefused">
         <source></source>

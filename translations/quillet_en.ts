@@ -521,6 +521,10 @@
         <source></source>
         <translation>The file is damaged at line %1.</translation>
     </message>
+    <message id="kNoticeDeclaration">
+        <source></source>
+        <translation>The file declares the encoding %1, but its letters are UTF-8. Quillet keeps both as they are; a television that believes the declaration shows accented letters wrongly.</translation>
+    </message>
     <message id="kNoticeJSON">
         <source></source>
         <translation>No stations were found, because the JSON text that holds them could not be decoded (line %1, column %2).</translation>
@@ -630,6 +634,10 @@
             <numerusform>%n stations would be in it twice: %1</numerusform>
         </translation>
     </message>
+    <message id="kReviewEncoding">
+        <source></source>
+        <translation>The accented letters would be written as UTF-8, which is not the encoding that the file declares.</translation>
+    </message>
     <message id="kReviewExtras">
         <source></source>
         <translation>Remarks or additional details among the stations would be lost.</translation>
@@ -648,6 +656,13 @@
     <message id="kReviewNoRepair">
         <source></source>
         <translation>There is no way to write this file that loses less. Keep a copy of the old file before you save.</translation>
+    </message>
+    <message id="kReviewNumbers" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n long number would be rounded.</numerusform>
+            <numerusform>%n long numbers would be rounded.</numerusform>
+        </translation>
     </message>
     <message id="kReviewRefused">
         <source></source>

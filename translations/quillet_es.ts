@@ -521,6 +521,10 @@
         <source></source>
         <translation>El archivo está dañado en la línea %1.</translation>
     </message>
+    <message id="kNoticeDeclaration">
+        <source></source>
+        <translation>El archivo declara la codificación %1, pero sus letras están en UTF-8. Quillet deja ambas cosas como están; un televisor que se fíe de la declaración muestra mal las letras con acento.</translation>
+    </message>
     <message id="kNoticeJSON">
         <source></source>
         <translation>No se ha encontrado ningún canal, porque no se ha podido descodificar el texto JSON que los contiene (línea %1, columna %2).</translation>
@@ -630,6 +634,10 @@
             <numerusform>%n canales aparecerían dos veces: %1</numerusform>
         </translation>
     </message>
+    <message id="kReviewEncoding">
+        <source></source>
+        <translation>Las letras con acento se escribirían en UTF-8, que no es la codificación que declara el archivo.</translation>
+    </message>
     <message id="kReviewExtras">
         <source></source>
         <translation>Se perderían comentarios o datos adicionales entre los canales.</translation>
@@ -648,6 +656,13 @@
     <message id="kReviewNoRepair">
         <source></source>
         <translation>No hay forma de escribir este archivo con menos pérdidas. Conserve una copia del archivo anterior antes de guardar.</translation>
+    </message>
+    <message id="kReviewNumbers" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Se redondearía %n número largo.</numerusform>
+            <numerusform>Se redondearían %n números largos.</numerusform>
+        </translation>
     </message>
     <message id="kReviewRefused">
         <source></source>

@@ -521,6 +521,10 @@
         <source></source>
         <translation>Le fichier est endommagé à la ligne %1.</translation>
     </message>
+    <message id="kNoticeDeclaration">
+        <source></source>
+        <translation>Le fichier déclare l’encodage %1, mais ses lettres sont en UTF-8. Quillet garde les deux tels quels ; un téléviseur qui se fie à la déclaration affiche mal les lettres accentuées.</translation>
+    </message>
     <message id="kNoticeJSON">
         <source></source>
         <translation>Aucune chaîne n’a été trouvée, car le texte JSON qui les contient n’a pas pu être décodé (ligne %1, colonne %2).</translation>
@@ -630,6 +634,10 @@
             <numerusform>%n chaînes y figureraient deux fois : %1</numerusform>
         </translation>
     </message>
+    <message id="kReviewEncoding">
+        <source></source>
+        <translation>Les lettres accentuées seraient écrites en UTF-8, qui n’est pas l’encodage déclaré par le fichier.</translation>
+    </message>
     <message id="kReviewExtras">
         <source></source>
         <translation>Des remarques ou des détails supplémentaires entre les chaînes seraient perdus.</translation>
@@ -648,6 +656,13 @@
     <message id="kReviewNoRepair">
         <source></source>
         <translation>Il n’existe pas de façon d’écrire ce fichier avec moins de pertes. Gardez une copie de l’ancien fichier avant d’enregistrer.</translation>
+    </message>
+    <message id="kReviewNumbers" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n long nombre serait arrondi.</numerusform>
+            <numerusform>%n longs nombres seraient arrondis.</numerusform>
+        </translation>
     </message>
     <message id="kReviewRefused">
         <source></source>

@@ -521,6 +521,10 @@
         <source></source>
         <translation>Il file è danneggiato alla riga %1.</translation>
     </message>
+    <message id="kNoticeDeclaration">
+        <source></source>
+        <translation>Il file dichiara la codifica %1, ma le sue lettere sono in UTF-8. Quillet lascia entrambe come sono; un televisore che si fida della dichiarazione mostra male le lettere accentate.</translation>
+    </message>
     <message id="kNoticeJSON">
         <source></source>
         <translation>Non è stato trovato alcun canale, perché non è stato possibile decodificare il testo JSON che li contiene (riga %1, colonna %2).</translation>
@@ -630,6 +634,10 @@
             <numerusform>%n canali comparirebbero due volte: %1</numerusform>
         </translation>
     </message>
+    <message id="kReviewEncoding">
+        <source></source>
+        <translation>Le lettere accentate verrebbero scritte in UTF-8, che non è la codifica dichiarata dal file.</translation>
+    </message>
     <message id="kReviewExtras">
         <source></source>
         <translation>Andrebbero persi commenti o dettagli aggiuntivi tra i canali.</translation>
@@ -648,6 +656,13 @@
     <message id="kReviewNoRepair">
         <source></source>
         <translation>Non c’è modo di scrivere questo file perdendo di meno. Conservare una copia del vecchio file prima di salvare.</translation>
+    </message>
+    <message id="kReviewNumbers" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n numero lungo verrebbe arrotondato.</numerusform>
+            <numerusform>%n numeri lunghi verrebbero arrotondati.</numerusform>
+        </translation>
     </message>
     <message id="kReviewRefused">
         <source></source>

@@ -521,6 +521,10 @@
         <source></source>
         <translation>Het bestand is beschadigd op regel %1.</translation>
     </message>
+    <message id="kNoticeDeclaration">
+        <source></source>
+        <translation>Het bestand geeft de codering %1 op, maar de letters zijn UTF-8. Quillet laat beide zoals ze zijn; een televisie die de opgave gelooft, toont letters met accenten verkeerd.</translation>
+    </message>
     <message id="kNoticeJSON">
         <source></source>
         <translation>Er zijn geen zenders gevonden, want de JSON-tekst waarin ze staan kon niet worden gedecodeerd (regel %1, kolom %2).</translation>
@@ -630,6 +634,10 @@
             <numerusform>%n zenders zouden er dubbel in staan: %1</numerusform>
         </translation>
     </message>
+    <message id="kReviewEncoding">
+        <source></source>
+        <translation>De letters met accenten zouden als UTF-8 worden geschreven, wat niet de codering is die het bestand opgeeft.</translation>
+    </message>
     <message id="kReviewExtras">
         <source></source>
         <translation>Opmerkingen of extra gegevens tussen de zenders zouden verloren gaan.</translation>
@@ -648,6 +656,13 @@
     <message id="kReviewNoRepair">
         <source></source>
         <translation>Dit bestand kan niet met minder verlies worden geschreven. Bewaar een kopie van het oude bestand voordat u opslaat.</translation>
+    </message>
+    <message id="kReviewNumbers" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n lang getal zou worden afgerond.</numerusform>
+            <numerusform>%n lange getallen zouden worden afgerond.</numerusform>
+        </translation>
     </message>
     <message id="kReviewRefused">
         <source></source>

@@ -527,6 +527,10 @@
         <source></source>
         <translation>Plik jest uszkodzony w wierszu %1.</translation>
     </message>
+    <message id="kNoticeDeclaration">
+        <source></source>
+        <translation>Plik deklaruje kodowanie %1, ale jego litery są w UTF-8. Quillet pozostawia jedno i drugie bez zmian; telewizor, który zaufa deklaracji, źle pokaże litery ze znakami diakrytycznymi.</translation>
+    </message>
     <message id="kNoticeJSON">
         <source></source>
         <translation>Nie znaleziono kanałów, ponieważ nie udało się zdekodować tekstu JSON, który je zawiera (wiersz %1, kolumna %2).</translation>
@@ -639,6 +643,10 @@
             <numerusform>%n kanałów wystąpiłoby dwukrotnie: %1</numerusform>
         </translation>
     </message>
+    <message id="kReviewEncoding">
+        <source></source>
+        <translation>Litery ze znakami diakrytycznymi zostałyby zapisane w UTF-8, a plik deklaruje inne kodowanie.</translation>
+    </message>
     <message id="kReviewExtras">
         <source></source>
         <translation>Utracone zostałyby uwagi lub dodatkowe dane między kanałami.</translation>
@@ -658,6 +666,14 @@
     <message id="kReviewNoRepair">
         <source></source>
         <translation>Nie da się zapisać tego pliku z mniejszą stratą. Przed zapisem zachowaj kopię starego pliku.</translation>
+    </message>
+    <message id="kReviewNumbers" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n długa liczba zostałaby zaokrąglona.</numerusform>
+            <numerusform>%n długie liczby zostałyby zaokrąglone.</numerusform>
+            <numerusform>%n długich liczb zostałoby zaokrąglonych.</numerusform>
+        </translation>
     </message>
     <message id="kReviewRefused">
         <source></source>

@@ -515,6 +515,10 @@
         <source></source>
         <translation>Dosya %1. satırda bozuk.</translation>
     </message>
+    <message id="kNoticeDeclaration">
+        <source></source>
+        <translation>Dosya %1 kodlamasını bildiriyor, ama harfleri UTF-8. Quillet ikisini de olduğu gibi bırakır; bildirime güvenen bir televizyon aksanlı harfleri yanlış gösterir.</translation>
+    </message>
     <message id="kNoticeJSON">
         <source></source>
         <translation>Kanal bulunamadı, çünkü kanalları içeren JSON metninin kodu çözülemedi (satır %1, sütun %2).</translation>
@@ -621,6 +625,10 @@
             <numerusform>%n kanal iki kez yer alır: %1</numerusform>
         </translation>
     </message>
+    <message id="kReviewEncoding">
+        <source></source>
+        <translation>Aksanlı harfler UTF-8 olarak yazılır; dosyanın bildirdiği kodlama ise bu değil.</translation>
+    </message>
     <message id="kReviewExtras">
         <source></source>
         <translation>Kanallar arasındaki notlar veya ek bilgiler kaybolur.</translation>
@@ -638,6 +646,12 @@
     <message id="kReviewNoRepair">
         <source></source>
         <translation>Bu dosyayı daha az kayıpla yazmanın yolu yok. Kaydetmeden önce eski dosyanın bir kopyasını saklayın.</translation>
+    </message>
+    <message id="kReviewNumbers" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n uzun sayı yuvarlanır.</numerusform>
+        </translation>
     </message>
     <message id="kReviewRefused">
         <source></source>

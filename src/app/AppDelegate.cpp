@@ -3,8 +3,8 @@
 #include "app/HelpLoader.h"
 #include "app/LGWindowController.h"
 #include "app/MainMenu.h"
-#include "document/FileDiagnosis.h"
 #include "document/TLLDocument.h"
+#include "document/repair/FileDiagnosis.h"
 #include "editor/EditorView.h"
 
 #include <QFileInfo>
@@ -58,7 +58,7 @@ std::unique_ptr<TLLDocument> AppDelegate::makeDocument()
 void AppDelegate::openRepairedCopy(const TLLDocument &damaged)
 {
     const QFileInfo file(damaged.fileUrl().toLocalFile());
-    const std::optional<MendedText> mended = repairedText(damaged);
+    const std::optional<MendedText> mended = repairedText(damaged.list());
     std::unique_ptr<TLLDocument> copy = makeDocument();
     TLLDocument &opened = *copy;
     if (!mended || !copy->readRepaired(*mended, file.fileName()))

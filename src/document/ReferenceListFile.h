@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/ReferenceList.h"
+#include "document/order/ReferenceList.h"
 
 namespace quillet {
 

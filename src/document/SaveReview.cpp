@@ -35,6 +35,10 @@ QStringList findings(const Rehearsal &rehearsal)
         lines.append(qtTrId("kReviewSurroundings"));
     if (rehearsal.losesExtras)
         lines.append(qtTrId("kReviewExtras"));
+    if (rehearsal.mixesEncodings)
+        lines.append(qtTrId("kReviewEncoding"));
+    if (rehearsal.inexactNumbers > 0)
+        lines.append(qtTrId("kReviewNumbers", static_cast<int>(rehearsal.inexactNumbers)));
     for (QString &line : lines)
         line.prepend(QStringLiteral("• "));
     return lines;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/Rehearsal.h"
+#include "document/review/Rehearsal.h"
 #include "framework/Prompts.h"
 
 #include <optional>

@@ -1,22 +1,16 @@
 #include "document/TLLDocument.h"
 
-#include "document/ReferenceOrder.h"
-#include "document/Rehearsal.h"
-#include "document/RepairedWriter.h"
+#include "document/LoadingLog.h"
 #include "document/SaveReview.h"
 #include "document/TLLWindowController.h"
-#include "document/TLLWriter.h"
+#include "document/order/ReferenceOrder.h"
+#include "document/repair/RepairedWriter.h"
+#include "document/review/Rehearsal.h"
+#include "document/write/TLLWriter.h"
 #include "framework/Prompts.h"
-#include "support/KXFileLog.h"
-#include "support/TextConversion.h"
-#include "xml/NodeViews.h"
-#include "xml/XMLDictionaryParser.h"
 
 #include <QFileInfo>
 #include <QLoggingCategory>
-
-#include <algorithm>
-#include <array>
 
 namespace quillet {
 
@@ -25,25 +19,6 @@ namespace {
 Q_LOGGING_CATEGORY(log, "quillet.document")
 
 constexpr QLatin1String errorDomain("org.quillet.Quillet");
-
-/// In the order in which they are read and written.
-constexpr std::array<QStringView, 2> sections{u"ATV", u"DTV"};
-
-QString logName()
-{
-    return QStringLiteral("XT");
-}
-
-/// The text of an element, which the parser made a dictionary or, without attributes, a string.
-QString elementText(const Value *element)
-{
-    if (!element)
-        return {};
-    if (const QString *text = element->string())
-        return *text;
-    const Dictionary *node = element->dictionary();
-    return node ? innerText(*node).value_or(QString()) : QString();
-}
 
 } // namespace
 
@@ -63,31 +38,17 @@ TLLDocument::~TLLDocument() = default;
 
 bool TLLDocument::readFromData(const QByteArray &data, const QString &typeName, Error &error)
 {
-    std::optional<FileText> text = FileText::decode(data);
-    if (!text)
+    const Reading reading = readInto(m_list, data);
+    logLoading(m_list, reading);
+    if (reading == Reading::NoText)
         return false;
-    m_text = *std::move(text);
-
-    XMLDictionaryParser parser(XMLDictionaryParser::sharedInstance());
-    std::optional<Dictionary> tree =
-        m_text.encoding() == TextEncoding::Utf8
-            ? parser.dictionaryWithData(m_text.utf8()) // the very bytes that the text is encoded to
-            : parser.dictionaryWithString(m_text.toString());
-    m_xmlDictionary = std::move(tree).value_or(Dictionary());
-    m_parseError = parser.firstError();
     m_repair.reset();
-
-    m_isLegacyFormat = isFormatWithLegacybroadcast();
-    if (m_isLegacyFormat) {
-        readLegacyBroadcast();
-        return true;
-    }
-    if (extractStations() < 0 ||
-        !m_layout.locate(m_text, m_analogStations >= 1, m_digitalStations >= 1)) {
-        error = createBadFileFormatError(typeName, badFormatDetail());
+    if (reading == Reading::BadFormat) {
+        error = createBadFileFormatError(typeName, badFormatDetail(m_list));
         return false;
     }
-    if (m_lgWindowController)
+    // The editor is not refreshed when the stations are kept as JSON.
+    if (m_lgWindowController && !m_list.isLegacyFormat)
         m_lgWindowController->populateFromTLLDoc(*this, {});
     return true;
 }
@@ -102,132 +63,45 @@ bool TLLDocument::readRepaired(const MendedText &mended, const QString &fileName
 }
 
 /// Which section made the file one of a bad format, and why.
-QString TLLDocument::badFormatDetail() const
+QString TLLDocument::badFormatDetail(const ChannelList &list)
 {
     QStringList lines;
-    const Dictionary *channel = m_xmlDictionary.dictionary(u"CHANNEL");
-    const auto isMalformed = [channel](QStringView name) {
-        const Value *section = channel ? channel->find(name) : nullptr;
-        return section && !section->dictionary();
-    };
-    const auto malformed = std::find_if(sections.begin(), sections.end(), isMalformed);
-    if (malformed != sections.end())
-        lines.append(qtTrId("kBadSectionContent").arg(*malformed));
-    else if (const auto &item = m_layout.distantItem())
-        lines.append(qtTrId("kBadSectionDistance", static_cast<int>(item->distance))
-                         .arg(item->section)
-                         .arg(FileLayout::longestDistance));
-    if (m_parseError)
-        lines.append(qtTrId("kNoticeDamagedLine").arg(m_parseError->line));
+    if (const auto &fault = list.formatFault)
+        lines.append(fault->distance == 0
+                         ? qtTrId("kBadSectionContent").arg(fault->section)
+                         : qtTrId("kBadSectionDistance", static_cast<int>(fault->distance))
+                               .arg(fault->section)
+                               .arg(FileLayout::longestDistance));
+    if (list.parseError)
+        lines.append(qtTrId("kNoticeDamagedLine").arg(list.parseError->line));
     return lines.join(u'\n');
-}
-
-bool TLLDocument::isFormatWithLegacybroadcast() const
-{
-    const Dictionary *channel = m_xmlDictionary.dictionary(u"CHANNEL");
-    return channel && channel->contains(u"legacybroadcast");
-}
-
-void TLLDocument::readLegacyBroadcast()
-{
-    const Dictionary *channel = m_xmlDictionary.dictionary(u"CHANNEL");
-    const QByteArray json = getAsData(elementText(channel->find(u"legacybroadcast")));
-    const qsizetype count = m_legacyBroadcast.extractLegacyStations(json, m_lists);
-    qCInfo(log, "Found legacy stations: %d", static_cast<int>(count));
-    m_layout.locateLegacy(m_text);
-}
-
-/// Files every ITEM into the lists. Returns the number of stations, or -1 when a section is
-/// malformed.
-qsizetype TLLDocument::extractStations()
-{
-    m_lists.setupLists();
-    if (const Dictionary *channel = m_xmlDictionary.dictionary(u"CHANNEL")) {
-        for (const QStringView section : sections) {
-            if (!extractSection(*channel, section))
-                return -1;
-        }
-    }
-    qsizetype total = 0;
-    for (const StationSource source : stationSources) {
-        const int index = static_cast<int>(source);
-        StationList &tv = *m_lists.list(true, index);
-        StationList &radio = *m_lists.list(false, index);
-        StationLists::sortAndValidateStations(tv);
-        StationLists::sortAndValidateStations(radio);
-        total += m_lists.stationCount(index);
-        if (source == StationSource::Antenna)
-            m_digitalStations = total;
-        else if (source == StationSource::Analogue)
-            m_analogStations = total - m_digitalStations;
-        LogToFile(logName(), "TV[%i] = %ld", index, static_cast<long>(tv.size()));
-        LogToFile(logName(), "Radio[%i] = %ld", index, static_cast<long>(radio.size()));
-    }
-    return total;
-}
-
-bool TLLDocument::extractSection(const Dictionary &channel, QStringView name)
-{
-    const Value *section = channel.find(name);
-    if (!section)
-        return true;
-    if (!section->dictionary())
-        return false;
-    const Value *items = section->dictionary()->find(u"ITEM");
-    if (!items)
-        return true;
-    using Section = FilePlace::Section;
-    const Section place = name == u"ATV" ? Section::ATV : Section::DTV;
-    // A section with one station holds it alone, not in a list.
-    const Array list = items->array() ? *items->array() : Array{*items};
-    qint64 index = 0;
-    for (const Value &item : list) {
-        const qint64 position = index++;
-        if (!item.dictionary())
-            continue;
-        auto station = std::make_shared<LGStation>(*item.dictionary(), position);
-        if (!m_lists.fileStation(station, {place, position})) {
-            const QString message =
-                QStringLiteral("\n### Unknown station source: %1").arg(station->description());
-            qCWarning(log).noquote() << message;
-            LogToFile(logName(), "%ls", qUtf16Printable(message));
-        }
-    }
-    return true;
 }
 
 QByteArray TLLDocument::dataOfType(const QString &, Error &)
 {
-    return writeTLL(*this);
+    return writeTLL(m_list, m_stations);
 }
 
 bool TLLDocument::canRead(const QByteArray &data, const QString &typeName, Error &error) const
 {
-    TLLDocument probe;
-    return probe.readFromData(data, typeName, error);
+    ChannelList probe;
+    const Reading reading = readInto(probe, data);
+    if (reading == Reading::BadFormat)
+        error = createBadFileFormatError(typeName, badFormatDetail(probe));
+    return reading == Reading::Done;
 }
 
 void TLLDocument::clearVars()
 {
     m_stations.reset();
-    m_lists.setupLists();
-    m_layout.clear();
+    m_list.lists.setupLists();
+    m_list.layout.clear();
 }
 
 bool TLLDocument::useFileURL(const QUrl &url)
 {
     setFileUrl(url);
     return true;
-}
-
-std::optional<QString> TLLDocument::modelName() const
-{
-    const Value *modelInfo = m_xmlDictionary.find(u"ModelInfo");
-    if (!modelInfo)
-        return {};
-    const Dictionary *info = modelInfo->dictionary();
-    const QString name = elementText(info ? info->find(u"ModelName") : modelInfo);
-    return name.isEmpty() ? std::nullopt : std::optional(name);
 }
 
 Error TLLDocument::createBadFileFormatError(const QString &path, const QString &detail)
@@ -242,7 +116,7 @@ Error TLLDocument::createBadFileTypeError(const QString &detail)
 
 void TLLDocument::updateStationPointer()
 {
-    m_stations = m_lists.list(m_usesTV, m_curSource);
+    m_stations = m_list.lists.list(m_usesTV, m_curSource);
 }
 
 void TLLDocument::switchToMode(bool isTV)
@@ -264,12 +138,12 @@ qsizetype TLLDocument::stationCount() const
 
 bool TLLDocument::hasDataForSource(int source) const
 {
-    return m_lists.stationCount(source) > 0;
+    return m_list.lists.stationCount(source) > 0;
 }
 
 StationListPtr TLLDocument::listWithMostEntries(bool isTV) const
 {
-    return m_lists.listWithMostEntries(isTV);
+    return m_list.lists.listWithMostEntries(isTV);
 }
 
 void TLLDocument::applyOrderFromRefList(const ReferenceList &entries, const QString &fileName)
@@ -346,11 +220,11 @@ void TLLDocument::makeWindowControllers()
 void TLLDocument::reviewSave(const QByteArray &bytes,
                              const std::function<void(const std::optional<QByteArray> &)> &decided)
 {
-    const Rehearsal plain = rehearse(*this, bytes);
+    const Rehearsal plain = rehearse(m_list, bytes);
     if (plain.isClean())
         return decided(bytes);
-    const QByteArray repaired = repairedTLL(*this);
-    const Rehearsal ofRepaired = rehearse(*this, repaired);
+    const QByteArray repaired = repairedTLL(m_list);
+    const Rehearsal ofRepaired = rehearse(m_list, repaired);
     if (m_repair && ofRepaired.isClean())
         return decided(repaired); // a repaired copy was asked for
     const bool isBetter = ofRepaired.weight() < plain.weight();

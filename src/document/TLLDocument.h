@@ -1,14 +1,9 @@
 #pragma once
 
-#include "document/FileLayout.h"
-#include "document/FileText.h"
-#include "document/LegacyBroadcast.h"
-#include "document/ReferenceList.h"
-#include "document/StationLists.h"
-#include "document/TextMending.h"
+#include "document/list/ChannelList.h"
+#include "document/order/ReferenceList.h"
+#include "document/repair/TextMending.h"
 #include "framework/Document.h"
-#include "xml/EventParser.h"
-#include "xml/Value.h"
 
 #include <QPointer>
 #include <QString>
@@ -21,8 +16,8 @@ namespace quillet {
 
 class TLLWindowController;
 
-/// One channel list: the text of its file, the parsed tree, the eight station lists and which of
-/// them is the current one. Reads and writes the file. Owned by the document controller.
+/// A channel list as a document: where it came from, which of its lists is the current one, whether
+/// it has changes, its window, and what is asked before a save. Owned by the document controller.
 class TLLDocument : public Document
 {
     Q_OBJECT
@@ -61,21 +56,21 @@ public:
     /// Makes the URL that of this document; always true.
     bool useFileURL(const QUrl &url);
 
+    /// The list itself, of which these are the parts by their names.
+    [[nodiscard]] const ChannelList &list() const { return m_list; }
     /// The whole text of the file as it was decoded, which takes a while to make.
-    [[nodiscard]] QString xmlString() const { return m_text.toString(); }
-    [[nodiscard]] const FileText &text() const { return m_text; }
+    [[nodiscard]] QString xmlString() const { return m_list.text.toString(); }
     /// The tree of the text; empty when nothing was parsed.
-    [[nodiscard]] const Dictionary &xmlDictionary() const { return m_xmlDictionary; }
-    /// Where and why reading the text stopped early; none when it was read to its end.
-    [[nodiscard]] const std::optional<ParseError> &parseError() const { return m_parseError; }
-    [[nodiscard]] const FileLayout &layout() const { return m_layout; }
+    [[nodiscard]] const Dictionary &xmlDictionary() const { return m_list.tree; }
     /// Whether the file keeps its stations as JSON.
-    [[nodiscard]] bool isLegacyFormat() const { return m_isLegacyFormat; }
-    [[nodiscard]] bool isFormatWithLegacybroadcast() const;
-    [[nodiscard]] const LegacyBroadcast &legacyBroadcast() const { return m_legacyBroadcast; }
+    [[nodiscard]] bool isLegacyFormat() const { return m_list.isLegacyFormat; }
+    [[nodiscard]] bool isFormatWithLegacybroadcast() const
+    {
+        return m_list.isFormatWithLegacybroadcast();
+    }
     [[nodiscard]] bool docUsesCRLF() const { return m_docUsesCRLF; }
     /// The model name of the set; none when the file does not tell.
-    [[nodiscard]] std::optional<QString> modelName() const;
+    [[nodiscard]] std::optional<QString> modelName() const { return m_list.modelName(); }
 
     /// The detail says why, and is for people.
     [[nodiscard]] static Error createBadFileFormatError(const QString &path,
@@ -84,10 +79,10 @@ public:
 
     // The lists
 
-    [[nodiscard]] const StationLists &lists() const { return m_lists; }
+    [[nodiscard]] const StationLists &lists() const { return m_list.lists; }
     /// How many stations were filed under sources 0 to 2 and under source 3 when the file was read.
-    [[nodiscard]] qsizetype digitalStations() const { return m_digitalStations; }
-    [[nodiscard]] qsizetype analogStations() const { return m_analogStations; }
+    [[nodiscard]] qsizetype digitalStations() const { return m_list.digitalStations; }
+    [[nodiscard]] qsizetype analogStations() const { return m_list.analogStations; }
     /// The list of the current source and mode, shared with lists(); null before one was chosen.
     [[nodiscard]] const StationListPtr &stations() const { return m_stations; }
     [[nodiscard]] int curSource() const { return m_curSource; }
@@ -131,28 +126,17 @@ protected:
     void documentWasSaved() override;
 
 private:
-    void readLegacyBroadcast();
-    [[nodiscard]] qsizetype extractStations();
-    [[nodiscard]] bool extractSection(const Dictionary &channel, QStringView name);
-    [[nodiscard]] QString badFormatDetail() const;
+    [[nodiscard]] static QString badFormatDetail(const ChannelList &list);
     void updateStationPointer();
 
     WindowFactory m_makeWindow;
     QPointer<TLLWindowController> m_lgWindowController;
-    FileText m_text;
-    Dictionary m_xmlDictionary;
-    std::optional<ParseError> m_parseError;
+    ChannelList m_list;
     std::optional<Repair> m_repair;
-    FileLayout m_layout;
-    LegacyBroadcast m_legacyBroadcast;
-    StationLists m_lists;
     StationListPtr m_stations;
-    qsizetype m_digitalStations = 0;
-    qsizetype m_analogStations = 0;
     int m_curSource = 0;
     bool m_usesTV = true;
     bool m_dirty = false;
-    bool m_isLegacyFormat = false;
     bool m_docUsesCRLF = false;
     bool m_isInvisbleDocument = false;
 };

@@ -1,7 +1,7 @@
 #include "editor/NoticeTexts.h"
 
-#include "document/FileDiagnosis.h"
 #include "document/TLLDocument.h"
+#include "document/repair/FileDiagnosis.h"
 
 #include <QStringList>
 
@@ -33,6 +33,8 @@ QString textOf(const FileFinding &finding)
         return damageText(finding);
     case Kind::Latin1:
         return qtTrId("kNoticeLatin1");
+    case Kind::Declaration:
+        return qtTrId("kNoticeDeclaration").arg(finding.declared);
     case Kind::BinaryList:
         return qtTrId("kNoticeBinary");
     case Kind::NoXML:
@@ -86,9 +88,9 @@ Notice noticeFor(const TLLDocument &document)
         lines.append(textOf(*repair));
     } else {
         notice.isWarning = true;
-        notice.offersRepair = repairedText(document).has_value();
+        notice.offersRepair = repairedText(document.list()).has_value();
     }
-    for (const FileFinding &finding : diagnose(document))
+    for (const FileFinding &finding : diagnose(document.list()))
         lines.append(textOf(finding));
     notice.text = lines.join(u'\n');
     return notice;

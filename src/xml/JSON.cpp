@@ -106,10 +106,13 @@ JSONError errorAt(QByteArrayView text, std::size_t position, const QString &mess
 
 } // namespace
 
-std::optional<Value> valueFromJSON(QByteArrayView text, JSONError &error)
+std::optional<Value> valueFromJSON(QByteArrayView text, JSONError &error, qsizetype *inexact)
 {
     JSONBuilder builder(deepestJSON);
-    if (ordered_json::sax_parse(text.begin(), text.end(), &builder))
+    const bool isDecoded = ordered_json::sax_parse(text.begin(), text.end(), &builder);
+    if (inexact)
+        *inexact = builder.inexactIntegers();
+    if (isDecoded)
         return builder.takeValue();
     error = errorAt(text, builder.errorPosition(), builder.errorMessage());
     return {};

@@ -23,8 +23,10 @@ struct JSONError
 inline constexpr int deepestJSON = 512;
 
 /// None, with the error set, when the text is not JSON or is nested too deep. Of two members of one
-/// name the later counts, in the place of the earlier.
-[[nodiscard]] std::optional<Value> valueFromJSON(QByteArrayView text, JSONError &error);
+/// name the later counts, in the place of the earlier. An integer of more than 64 bits gives the
+/// nearest double; `inexact`, if given, gets how many there were.
+[[nodiscard]] std::optional<Value> valueFromJSON(QByteArrayView text, JSONError &error,
+                                                 qsizetype *inexact = nullptr);
 
 /// Compact JSON in UTF-8; none when the value cannot be expressed in it.
 [[nodiscard]] std::optional<QByteArray> toJSON(const Value &value);

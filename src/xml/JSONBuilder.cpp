@@ -26,6 +26,13 @@ bool JSONBuilder::number_unsigned(std::uint64_t value)
                                                                           : Value(quint64(value)));
 }
 
+bool JSONBuilder::number_float(double value, const std::string &digits)
+{
+    if (digits.find_first_of(".eE") == std::string::npos)
+        ++m_inexactIntegers;
+    return add(Value(value));
+}
+
 bool JSONBuilder::key(std::string &value)
 {
     m_stack[m_depth - 1].keys.push_back(m_texts.text(value));

@@ -22,12 +22,15 @@ public:
     [[nodiscard]] std::size_t errorPosition() const { return m_errorPosition; }
     [[nodiscard]] const QString &errorMessage() const { return m_errorMessage; }
 
+    /// Integers that did not fit into 64 bits.
+    [[nodiscard]] qsizetype inexactIntegers() const { return m_inexactIntegers; }
+
     // What the parser calls; false ends the parse.
     bool null() { return add(Value()); }
     bool boolean(bool value) { return add(Value(value)); }
     bool number_integer(std::int64_t value) { return add(Value(qint64(value))); }
     bool number_unsigned(std::uint64_t value);
-    bool number_float(double value, const std::string &) { return add(Value(value)); }
+    bool number_float(double value, const std::string &digits);
     bool string(std::string &value) { return add(m_texts.text(value)); }
     bool binary(nlohmann::ordered_json::binary_t &) { return false; }
     bool start_object(std::size_t) { return open(); }
@@ -55,6 +58,7 @@ private:
     std::size_t m_depth = 0;
     Value m_root;
     TextCache m_texts;
+    qsizetype m_inexactIntegers = 0;
     std::size_t m_errorPosition = 0;
     QString m_errorMessage;
 };

@@ -47,7 +47,7 @@ private slots:
     {
         QFETCH(const QByteArray, bytes);
         TLLDocument document;
-        QVERIFY(read(document, bytes) && document.parseError());
+        QVERIFY(read(document, bytes) && document.list().parseError);
         QCOMPARE(listText(document), QStringList());
         QCOMPARE(document.modelName(), std::nullopt);
         QCOMPARE(written(document), QByteArray());
@@ -74,7 +74,7 @@ private slots:
             const QByteArray cut = whole.first(size);
             TLLDocument document, again;
             const bool isReadable = read(document, cut);
-            QVERIFY(document.parseError());
+            QVERIFY(document.list().parseError);
             QCOMPARE(listText(document).size(), cut.count("<ITEM"));
             if (!isReadable) {
                 // The cut station has lost its source, which makes it analogue, and the empty

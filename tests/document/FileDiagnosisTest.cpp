@@ -1,6 +1,6 @@
 #include "ListText.h"
 
-#include "document/FileDiagnosis.h"
+#include "document/repair/FileDiagnosis.h"
 #include "testing/TLLText.h"
 #include "testing/TestMain.h"
 
@@ -47,6 +47,8 @@ QString text(const FileFinding &finding)
                (finding.isJSONList ? u" of JSON"_s : QString());
     case Kind::Latin1:
         return u"Latin-1"_s;
+    case Kind::Declaration:
+        return u"declared "_s + finding.declared;
     case Kind::BinaryList:
         return u"binary"_s;
     case Kind::NoXML:
@@ -103,6 +105,12 @@ private slots:
         row("UTF-16", QByteArray(reinterpret_cast<const char *>(marked.utf16()), 2 * marked.size()),
             {});
         row("Latin-1", listWith(u"Télé"_s).toLatin1(), {u"Latin-1"_s});
+        const auto declaring = [](const QString &encoding) {
+            return listWith(u"Télé"_s).replace(u"UTF-8"_s, encoding);
+        };
+        row("Latin-1 declared over UTF-8", declaring(u"ISO-8859-1"_s).toUtf8(),
+            {u"declared ISO-8859-1"_s});
+        row("UTF-8 declared in small letters", declaring(u"utf-8"_s).toUtf8(), {});
         row("Latin-1, damaged", listWith(u"Télé & co"_s).toLatin1(),
             {damagedText(lineOf(u"Télé"_s, listWith(u"Télé"_s)), u"C"_s, 2), u"Latin-1"_s}, true);
         row("binary", QByteArray("TLL\x02\0\0\x10\xFF<ITEM>\0", 16), {u"binary"_s});
@@ -127,11 +135,11 @@ private slots:
         QFETCH(const bool, isRepairable);
         TLLDocument document;
         QVERIFY(read(document, bytes));
-        const QList<FileFinding> found = diagnose(document);
+        const QList<FileFinding> found = diagnose(document.list());
         QCOMPARE(found.size(), findings.size());
         for (qsizetype i = 0; i < found.size(); ++i)
             QVERIFY2(text(found[i]).startsWith(findings[i]), qPrintable(text(found[i])));
-        QCOMPARE(repairedText(document).has_value(), isRepairable);
+        QCOMPARE(repairedText(document.list()).has_value(), isRepairable);
     }
 
     /// A file that is cut within a character is no UTF-8 any more, but its names still are.
@@ -143,10 +151,10 @@ private slots:
         bytes = bytes.first(bytes.indexOf(">x<") + 1) + "\xC4";
         TLLDocument document, repaired;
         QVERIFY(read(document, bytes));
-        const QList<FileFinding> found = diagnose(document);
+        const QList<FileFinding> found = diagnose(document.list());
         QCOMPARE(found.size(), 2);
         QCOMPARE(text(found[1]), u"Latin-1"_s);
-        const auto mended = repairedText(document);
+        const auto mended = repairedText(document.list());
         QVERIFY(mended && read(repaired, mended->utf8));
         QStringList expected = listText(whole);
         expected.replaceInStrings(u"TV0 3 x"_s, u"TV0 3 "_s);

@@ -159,8 +159,8 @@ private slots:
         const QByteArray bytes = saved(document);
         QVERIFY(bytes.startsWith(head) && bytes.endsWith(tail));
         QVERIFY(read(again, bytes));
-        QVERIFY(!again.parseError());
-        QCOMPARE(again.legacyBroadcast().legacyDict(), document.legacyBroadcast().legacyDict());
+        QVERIFY(!again.list().parseError);
+        QCOMPARE(again.list().broadcast.legacyDict, document.list().broadcast.legacyDict);
         QCOMPARE(saved(again), bytes);
     }
 

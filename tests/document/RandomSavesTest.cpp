@@ -1,8 +1,8 @@
 #include "ListText.h"
 
-#include "document/ReferenceOrder.h"
-#include "document/Rehearsal.h"
-#include "document/RepairedWriter.h"
+#include "document/order/ReferenceOrder.h"
+#include "document/repair/RepairedWriter.h"
+#include "document/review/Rehearsal.h"
 #include "testing/TestMain.h"
 #include "xml/NodeViews.h"
 
@@ -143,7 +143,7 @@ QStringList services(const TLLDocument &document)
 {
     QStringList ids;
     if (document.isLegacyFormat()) {
-        for (const Value &channel : document.legacyBroadcast().channelList())
+        for (const Value &channel : document.list().broadcast.channelList())
             ids.append(*channel.dictionary()->string(u"SVCID"));
     } else {
         for (const FiledStation &filed : document.lists().roll()) {
@@ -194,7 +194,7 @@ private slots:
                 const QByteArray context =
                     u"seed %1, round %2:\n%3"_s.arg(seed).arg(round).arg(text).toUtf8();
                 const QByteArray plain = written(document);
-                const Rehearsal rehearsal = rehearse(document, plain);
+                const Rehearsal rehearsal = rehearse(document.list(), plain);
                 const std::optional<QStringList> after = servicesIn(plain);
                 const bool isLost = after != before;
                 losses += isLost;
@@ -203,14 +203,14 @@ private slots:
                                     rehearsal.losesSurroundings || rehearsal.losesTail;
                 QVERIFY2(isSaid || !isLost, context.constData());
 
-                const QByteArray repaired = repairedTLL(document);
-                const Rehearsal ofRepaired = rehearse(document, repaired);
+                const QByteArray repaired = repairedTLL(document.list());
+                const Rehearsal ofRepaired = rehearse(document.list(), repaired);
                 QVERIFY2(servicesIn(repaired) == before, context.constData());
                 QVERIFY2(!ofRepaired.isRefused && ofRepaired.missing.count == 0 &&
                              ofRepaired.doubled.count == 0 && !ofRepaired.losesTail &&
                              !ofRepaired.losesSurroundings && !ofRepaired.losesExtras,
                          context.constData());
-                QVERIFY2(ofRepaired.changed.count == 0 || document.parseError(),
+                QVERIFY2(ofRepaired.changed.count == 0 || document.list().parseError,
                          context.constData());
                 for (int i = chance.below(6); i > 0; --i)
                     chance.edit(document);

@@ -1,7 +1,7 @@
 #include "ListText.h"
 
-#include "document/ReferenceOrder.h"
-#include "document/StationPool.h"
+#include "document/order/ReferenceOrder.h"
+#include "document/order/StationPool.h"
 #include "model/LGLegacyStation.h"
 #include "testing/PresetPrompts.h"
 #include "testing/TLLText.h"

@@ -1,5 +1,5 @@
-#include "document/ReferenceOrder.h"
-#include "document/StationPool.h"
+#include "document/order/ReferenceOrder.h"
+#include "document/order/StationPool.h"
 #include "support/LenientNumber.h"
 #include "testing/TestMain.h"
 

@@ -1,4 +1,4 @@
-#include "document/StationLists.h"
+#include "document/list/StationLists.h"
 #include "testing/TestMain.h"
 
 #include <QTest>

@@ -70,7 +70,7 @@ private slots:
         // Each section counts its stations from 0.
         QCOMPARE(document.lists().list(true, 0)->front()->origPos(), 7);
         QCOMPARE(document.lists().list(false, 3)->front()->origPos(), 1);
-        QVERIFY(!document.docUsesCRLF() && !document.parseError() && !document.isDirty());
+        QVERIFY(!document.docUsesCRLF() && !document.list().parseError && !document.isDirty());
     }
 
     void acceptsAndRejects_data()
@@ -177,8 +177,8 @@ private slots:
         QVERIFY(document.isDocumentEdited()); // clearing tells the framework nothing
 
         document.clearVars();
-        QVERIFY(!document.stations() && document.layout().headerLenDTV() == 0);
-        QVERIFY(!document.layout().footer() && listText(document).isEmpty());
+        QVERIFY(!document.stations() && document.list().layout.headerLenDTV() == 0);
+        QVERIFY(!document.list().layout.footer() && listText(document).isEmpty());
     }
 
     void fieldContent()

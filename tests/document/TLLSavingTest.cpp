@@ -52,9 +52,9 @@ private slots:
         QVERIFY(read(again, saved));
         QCOMPARE(listText(again), listText(document));
         QVERIFY(written(again) == saved);
-        const qsizetype header = document.layout().headerLenDTV();
+        const qsizetype header = document.list().layout.headerLenDTV();
         QCOMPARE(again.xmlString().first(header), document.xmlString().first(header));
-        QCOMPARE(again.layout().footer(), document.layout().footer());
+        QCOMPARE(again.list().layout.footer(), document.list().layout.footer());
     }
 
     void keepsWhatIsAroundTheStations_data()
@@ -138,7 +138,7 @@ private slots:
     {
         QFETCH(const QByteArray, bytes);
         TLLDocument document;
-        QVERIFY(read(document, bytes) && !document.parseError());
+        QVERIFY(read(document, bytes) && !document.list().parseError);
         QTEST(written(document), "saved");
     }
 

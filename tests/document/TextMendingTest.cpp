@@ -1,7 +1,7 @@
 #include "ListText.h"
 
-#include "document/FileDiagnosis.h"
-#include "document/TextMending.h"
+#include "document/repair/FileDiagnosis.h"
+#include "document/repair/TextMending.h"
 #include "testing/TLLText.h"
 #include "testing/TestMain.h"
 
@@ -289,13 +289,13 @@ private slots:
                     damaged[at] = marks[random.bounded(static_cast<int>(marks.size()))];
             }
             TLLDocument document, again;
-            if (!read(document, damaged) || !document.parseError())
+            if (!read(document, damaged) || !document.list().parseError)
                 continue;
-            const auto mended = repairedText(document);
+            const auto mended = repairedText(document.list());
             if (!mended)
                 continue;
             ++repaired;
-            QVERIFY(read(again, mended->utf8) && !again.parseError());
+            QVERIFY(read(again, mended->utf8) && !again.list().parseError);
             QVERIFY(listText(again).size() + 1 >= listText(document).size());
         }
         QVERIFY(repaired > 50);

@@ -143,7 +143,7 @@ private slots:
         TLLDocument saved;
         Error error;
         QVERIFY(saved.readFromData(bytesOf(place), TLLDocument::typeName(), error));
-        QVERIFY(!saved.parseError());
+        QVERIFY(!saved.list().parseError);
         QCOMPARE(saved.lists().list(true, 0)->size(), std::size_t(5));
         QCOMPARE(saved.lists().list(true, 0)->at(2)->stationName(), u"R & B"_s);
         QCOMPARE(bytesOf(app.folder.filePath(u"a.b.TLL"_s)), damagedList());

@@ -1,0 +1,54 @@
+#include "document/list/ChannelList.h"
+
+#include "document/list/FileWords.h"
+#include "support/TextConversion.h"
+#include "xml/NodeViews.h"
+
+namespace quillet {
+
+namespace {
+
+/// The text of an element, which the parser made a dictionary or, without attributes, a string.
+QString elementText(const Value *element)
+{
+    if (!element)
+        return {};
+    if (const QString *text = element->string())
+        return *text;
+    const Dictionary *node = element->dictionary();
+    return node ? innerText(*node).value_or(QString()) : QString();
+}
+
+} // namespace
+
+std::optional<QString> ChannelList::modelName() const
+{
+    const Value *modelInfo = tree.find(fileword::modelInfo);
+    if (!modelInfo)
+        return {};
+    const Dictionary *info = modelInfo->dictionary();
+    const QString name = elementText(info ? info->find(fileword::modelName) : modelInfo);
+    return name.isEmpty() ? std::nullopt : std::optional(name);
+}
+
+bool ChannelList::isFormatWithLegacybroadcast() const
+{
+    const Dictionary *channel = tree.dictionary(fileword::channel);
+    return channel && channel->contains(fileword::legacyBroadcast);
+}
+
+QByteArray ChannelList::legacyText() const
+{
+    const Dictionary *channel = tree.dictionary(fileword::channel);
+    return getAsData(elementText(channel ? channel->find(fileword::legacyBroadcast) : nullptr));
+}
+
+qsizetype ChannelList::stationCount() const
+{
+    qsizetype count = 0;
+    for (const StationSource source : stationSources)
+        count += lists.stationCount(static_cast<int>(source));
+    return count;
+}
+
+} // namespace quillet

@@ -1,0 +1,164 @@
+#include "document/list/FileText.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <cstring>
+
+namespace quillet {
+
+namespace {
+
+/// How many UTF-16 units the character beginning with this byte takes; 0 for a continuation byte.
+int unitsOf(char byte)
+{
+    const auto b = static_cast<unsigned char>(byte);
+    return ((b & 0xC0) != 0x80) + (b >= 0xF0);
+}
+
+/// The number of UTF-16 units in valid UTF-8.
+qsizetype unitsIn(QByteArrayView utf8)
+{
+    constexpr qsizetype blockSize = 4096; // counted in an int, which compilers do many at a time
+    qsizetype units = 0;
+    while (!utf8.isEmpty()) {
+        const QByteArrayView block = utf8.first(std::min(blockSize, utf8.size()));
+        int unitsInBlock = 0;
+        for (const char byte : block)
+            unitsInBlock += unitsOf(byte);
+        units += unitsInBlock;
+        utf8 = utf8.sliced(block.size());
+    }
+    return units;
+}
+
+/// The number of bytes that so many UTF-16 units take, at most all.
+qsizetype bytesOf(const QByteArray &utf8, qsizetype units)
+{
+    qsizetype i = 0;
+    for (; i < utf8.size(); ++i) {
+        units -= unitsOf(utf8[i]);
+        if (units < 0)
+            break;
+    }
+    return i;
+}
+
+/// The first place of a tag at or after a position; -1 when there is none. The tags looked for
+/// stand at the far end of a long text, so it is skimmed for the character before the tag's last:
+/// most have a capital there, which is rare in a file, and "<" and ">" are all over it.
+qsizetype indexOf(QByteArrayView utf8, QByteArrayView tag, qsizetype from)
+{
+    const qsizetype toMark = tag.size() - 2;
+    const char *const end = utf8.data() + utf8.size();
+    for (const char *start = utf8.data() + from; end - start >= tag.size(); ++start) {
+        const auto room = static_cast<std::size_t>(end - start - toMark);
+        const void *mark = std::memchr(start + toMark, tag[toMark], room);
+        if (!mark)
+            break;
+        start = static_cast<const char *>(mark) - toMark;
+        if (end - start >= tag.size() && QByteArrayView(start, tag.size()) == tag)
+            return start - utf8.data();
+    }
+    return -1;
+}
+
+} // namespace
+
+std::optional<FileText> FileText::decode(const QByteArray &bytes)
+{
+    if (bytes.isEmpty())
+        return {};
+    FileText text;
+    const auto first = static_cast<unsigned char>(bytes.front());
+    if (first != 0xFF && first != 0x00 && bytes.isValidUtf8()) {
+        text.m_bytes = bytes;
+        return text;
+    }
+    std::optional<DecodedText> decoded = decodeText(bytes);
+    text.m_encoding = decoded->encoding;
+    text.m_bytes = bytes;
+    text.m_text = std::move(decoded->text);
+    return text;
+}
+
+QByteArray FileText::utf8() const
+{
+    return m_encoding == TextEncoding::Utf8 ? m_bytes : m_text.toUtf8();
+}
+
+QString FileText::toString() const
+{
+    return m_encoding == TextEncoding::Utf8 ? textFrom({0}) : m_text;
+}
+
+FileText::Place FileText::find(QLatin1String ascii, Place from) const
+{
+    if (m_encoding != TextEncoding::Utf8)
+        return {m_text.indexOf(ascii, from.offset)};
+    return {indexOf(m_bytes, {ascii.data(), ascii.size()}, from.offset)};
+}
+
+qsizetype FileText::lengthBetween(Place from, Place to) const
+{
+    if (m_encoding != TextEncoding::Utf8)
+        return to.offset - from.offset;
+    return unitsIn(QByteArrayView(m_bytes).sliced(from.offset, to.offset - from.offset));
+}
+
+QString FileText::textFrom(Place place) const
+{
+    if (m_encoding != TextEncoding::Utf8)
+        return m_text.sliced(place.offset);
+    // A byte-order mark at the start is part of the text, which QString::fromUtf8 would drop.
+    return decodeText(QByteArrayView(m_bytes).sliced(place.offset)).value_or(DecodedText()).text;
+}
+
+void FileText::appendFirst(qsizetype length, Utf8Builder &output) const
+{
+    if (m_encoding == TextEncoding::Utf8)
+        output.append(QByteArrayView(m_bytes).first(bytesOf(m_bytes, length)));
+    else
+        output.append(QStringView(m_text).first(std::min(length, m_text.size())));
+}
+
+void FileText::appendFirst(qsizetype length, QString &output) const
+{
+    const QString text = toString();
+    output.append(QStringView(text).first(std::min(length, text.size())));
+}
+
+qsizetype FileText::size() const
+{
+    return m_encoding == TextEncoding::Utf8 ? m_bytes.size() : m_text.size();
+}
+
+QString FileText::start(qsizetype length) const
+{
+    return m_encoding == TextEncoding::Utf8
+               ? QString::fromUtf8(m_bytes.first(qMin(length, m_bytes.size())))
+               : m_text.left(length);
+}
+
+std::optional<QString> declaredEncoding(const FileText &text)
+{
+    constexpr qsizetype longestDeclaration = 200;
+    static const QRegularExpression declaration(
+        QStringLiteral("^\\x{FEFF}?<\\?xml\\s[^>]*\\bencoding\\s*=\\s*[\"']([\\w.-]+)[\"']"));
+    const QRegularExpressionMatch match = declaration.match(text.start(longestDeclaration));
+    return match.hasMatch() ? std::optional(match.captured(1)) : std::nullopt;
+}
+
+bool contradictsDeclaration(const FileText &text)
+{
+    if (text.encoding() != TextEncoding::Utf8)
+        return false;
+    const std::optional<QString> declared = declaredEncoding(text);
+    if (!declared || declared->compare(QLatin1String("utf-8"), Qt::CaseInsensitive) == 0)
+        return false;
+    const auto isBeyondASCII = [](char c) { return static_cast<unsigned char>(c) >= 0x80; };
+    const QByteArray &bytes = text.bytes();
+    return std::any_of(bytes.begin(), bytes.end(), isBeyondASCII);
+}
+
+} // namespace quillet

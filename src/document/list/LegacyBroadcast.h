@@ -1,0 +1,24 @@
+#pragma once
+
+#include "xml/JSON.h"
+#include "xml/Value.h"
+
+#include <optional>
+
+namespace quillet {
+
+/// The station list of the file variant that keeps it as JSON, as it was decoded.
+struct LegacyBroadcast
+{
+    /// The decoded JSON; none when it could not be decoded or is no object.
+    std::optional<Dictionary> legacyDict;
+    /// Where and why decoding failed; none when it did not.
+    std::optional<JSONError> error;
+    /// Integers of more than 64 bits among it, which were decoded as the nearest double.
+    qsizetype inexactNumbers = 0;
+
+    /// The channels as they were read, in the file's order; empty when there are none.
+    [[nodiscard]] Array channelList() const;
+};
+
+} // namespace quillet

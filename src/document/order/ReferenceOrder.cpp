@@ -1,0 +1,133 @@
+#include "document/order/ReferenceOrder.h"
+
+#include "document/order/StationPool.h"
+#include "support/LenientNumber.h"
+#include "support/LogLines.h"
+
+#include <algorithm>
+#include <limits>
+#include <optional>
+#include <utility>
+
+namespace quillet {
+
+namespace {
+
+using Found = StationPool::Found;
+
+/// Numbers in a list beyond these count as these.
+constexpr qint64 lowestNumber = std::numeric_limits<qint32>::min();
+constexpr qint64 highestNumber = std::numeric_limits<qint32>::max();
+
+struct MatchedStation
+{
+    StationPtr station;        ///< null: no match
+    QLatin1String by;          ///< how it was found, in the words of its log line
+    QLatin1String mark{"+++"}; ///< what that line begins with
+};
+
+/// The parts of a service identifier. Valid as long as the identifier.
+struct Identifiers
+{
+    QString network;
+    QString transport;
+    QString service;
+};
+
+/// None when the identifier does not have three parts.
+std::optional<Identifiers> identifiersOf(const QString &serviceID)
+{
+    const qsizetype first = serviceID.indexOf(u'-');
+    const qsizetype second = first < 0 ? -1 : serviceID.indexOf(u'-', first + 1);
+    if (second < 0 || serviceID.indexOf(u'-', second + 1) >= 0)
+        return {};
+    const auto part = [&serviceID](qsizetype from, qsizetype end) {
+        return QString::fromRawData(serviceID.constData() + from, end - from);
+    };
+    return Identifiers{part(0, first), part(first + 1, second), part(second + 1, serviceID.size())};
+}
+
+/// By identifiers alone; several stations may agree in some of them.
+MatchedStation takeByIdentifiers(StationPool &pool, const Identifiers &ids)
+{
+    StationPool::Match match = pool.find(ids.service);
+    if (match.found == Found::One)
+        return {pool.take(match.index), QLatin1String("serviceID")};
+    if (match.found == Found::None)
+        return {};
+    match = pool.find(ids.service, ids.transport);
+    if (match.found == Found::One)
+        return {pool.take(match.index), QLatin1String("serviceID/TransportID"),
+                QLatin1String("+++2")};
+    if (match.found == Found::None)
+        return {};
+    match = pool.find(ids.service, ids.transport, ids.network);
+    if (match.found == Found::None)
+        return {};
+    return {pool.take(match.index), QLatin1String("serviceID/TransportID/originalNetworkID"),
+            QLatin1String("+++3")};
+}
+
+MatchedStation takeStation(StationPool &pool, const ReferenceEntry &entry)
+{
+    const std::optional<Identifiers> ids = identifiersOf(entry.serviceID);
+    if (!ids)
+        return {};
+    MatchedStation matched = takeByIdentifiers(pool, *ids);
+    if (matched.station)
+        return matched;
+    const StationPool::Match match = pool.findName(entry.name);
+    if (match.found == Found::None)
+        return {};
+    return {pool.take(match.index), QLatin1String("name"), QLatin1String("---")};
+}
+
+void addListing(QLatin1String title, const StationList &stations, LogLines &log)
+{
+    if (!log.isWanted())
+        return;
+    log.beginLine();
+    log.append(title);
+    for (const StationPtr &station : stations) {
+        log.append(QLatin1String("    "));
+        log.append(QStringView(station->description()));
+        log.append(QLatin1String("\n"));
+    }
+    log.append(QLatin1String("\n"));
+}
+
+} // namespace
+
+ReferenceOrderResult applyReferenceOrder(StationList &stations, const ReferenceList &entries)
+{
+    LogLines log(QStringLiteral("XT"));
+    log.add(QStringView(QString::asprintf(
+        "\n========= Begin applying external sort order (%ld items) to %ld stations =========",
+        static_cast<long>(entries.size()), static_cast<long>(stations.size()))));
+    StationPool pool(std::exchange(stations, {}));
+    qint64 last = 0;
+    for (const ReferenceEntry &entry : entries) {
+        if (pool.isEmpty())
+            break;
+        const MatchedStation matched = takeStation(pool, entry);
+        if (!matched.station)
+            continue;
+        log.add(matched.mark, QLatin1String(" Found Elem ("),
+                QStringView(matched.station->stationName()), QLatin1String(") by "), matched.by);
+        last = std::clamp<qint64>(lenientInteger(entry.num), lowestNumber, highestNumber);
+        matched.station->setProgramNum(last);
+        stations.push_back(matched.station);
+    }
+
+    const StationList remaining = pool.takeAll();
+    addListing(QLatin1String("\n========= List of matched stations:\n"), stations, log);
+    addListing(QLatin1String("========= List of remaining items:\n"), remaining, log);
+    const ReferenceOrderResult result{stations.size(), remaining.size(), last};
+    for (const StationPtr &station : remaining) {
+        station->setProgramNum(++last);
+        stations.push_back(station);
+    }
+    return result;
+}
+
+} // namespace quillet

@@ -1,0 +1,125 @@
+#include "document/order/StationPool.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+namespace quillet {
+
+namespace {
+
+template<typename Matches>
+StationList extract(const StationList &list, Matches matches)
+{
+    StationList found;
+    std::copy_if(list.begin(), list.end(), std::back_inserter(found),
+                 [&matches](const StationPtr &station) { return matches(*station); });
+    return found;
+}
+
+QString withoutCase(const QString &name)
+{
+    QString folded(name.size(), Qt::Uninitialized);
+    QChar *out = folded.data();
+    for (const QChar c : name) {
+        if (c.unicode() >= 0x80)
+            return name.toCaseFolded();
+        *out++ = c >= u'A' && c <= u'Z' ? QChar(c.unicode() | 0x20) : c;
+    }
+    return folded;
+}
+
+/// One text for several that no other texts give.
+std::optional<QString> joined(std::initializer_list<std::optional<QString>> texts)
+{
+    QString all;
+    for (const std::optional<QString> &text : texts) {
+        if (!text)
+            return {};
+        all += QString::number(text->size()) + u':' + *text;
+    }
+    return all;
+}
+
+} // namespace
+
+StationList extractElemsWithServiceID(const QString &id, const StationList &list)
+{
+    return extract(list, [&id](const LGStation &station) { return station.service_id() == id; });
+}
+
+StationList extractElemsWithTransportID(const QString &id, const StationList &list)
+{
+    return extract(list, [&id](const LGStation &station) { return station.transport_id() == id; });
+}
+
+StationList extractElemsWithOnID(const QString &id, const StationList &list)
+{
+    return extract(list,
+                   [&id](const LGStation &station) { return station.originalNetwork_id() == id; });
+}
+
+StationList extractElemsWithName(const QString &name, const StationList &list)
+{
+    const QString wanted = withoutCase(name);
+    return extract(list, [&wanted](const LGStation &station) {
+        return withoutCase(station.name()) == wanted;
+    });
+}
+
+StationPool::StationPool(StationList stations)
+    : m_stations(std::move(stations)), m_left(m_stations.size())
+{
+}
+
+StationIndex &StationPool::index(std::optional<StationIndex> &made,
+                                 const StationIndex::Key &key) const
+{
+    return made ? *made : made.emplace(m_stations, key);
+}
+
+StationPool::Match StationPool::find(const QString &service)
+{
+    const auto key = [](const LGStation &station) { return station.service_id(); };
+    return index(m_byService, key).find(service, m_stations);
+}
+
+StationPool::Match StationPool::find(const QString &service, const QString &transport)
+{
+    const auto key = [](const LGStation &station) {
+        return joined({station.service_id(), station.transport_id()});
+    };
+    return index(m_byTransport, key).find(*joined({service, transport}), m_stations);
+}
+
+StationPool::Match StationPool::find(const QString &service, const QString &transport,
+                                     const QString &network)
+{
+    const auto key = [](const LGStation &station) {
+        return joined({station.service_id(), station.transport_id(), station.originalNetwork_id()});
+    };
+    return index(m_byNetwork, key).find(*joined({service, transport, network}), m_stations);
+}
+
+StationPool::Match StationPool::findName(const QString &name)
+{
+    const auto key = [](const LGStation &station) {
+        return std::optional(withoutCase(station.name()));
+    };
+    return index(m_byName, key).find(withoutCase(name), m_stations);
+}
+
+StationPtr StationPool::take(std::size_t index)
+{
+    --m_left;
+    return std::exchange(m_stations[index], nullptr);
+}
+
+StationList StationPool::takeAll()
+{
+    std::erase(m_stations, nullptr);
+    m_left = 0;
+    return std::exchange(m_stations, {});
+}
+
+} // namespace quillet

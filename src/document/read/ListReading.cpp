@@ -1,0 +1,107 @@
+#include "document/read/ListReading.h"
+
+#include "document/list/FileWords.h"
+#include "document/list/SectionItems.h"
+#include "document/read/ChannelFiling.h"
+#include "xml/XMLDictionaryParser.h"
+
+#include <memory>
+#include <utility>
+
+namespace quillet {
+
+namespace {
+
+/// Files the stations of a section in the file's order; false when it holds no elements.
+bool fileSection(ChannelList &list, QStringView name)
+{
+    const Dictionary *channel = list.tree.dictionary(fileword::channel);
+    const Value *section = channel ? channel->find(name) : nullptr;
+    if (!section)
+        return true;
+    if (!section->dictionary()) {
+        const bool isAnalogue = name == fileword::atv;
+        list.formatFault = {isAnalogue ? fileword::atv.latin1() : fileword::dtv.latin1(), 0};
+        return false;
+    }
+    const FilePlace::Section place =
+        name == fileword::atv ? FilePlace::Section::ATV : FilePlace::Section::DTV;
+    qint64 index = 0;
+    for (const Value &item : sectionItems(list.tree, name)) {
+        const qint64 position = index++;
+        if (!item.dictionary())
+            continue;
+        const auto station = std::make_shared<LGStation>(*item.dictionary(), position);
+        if (!list.lists.fileStation(station, {place, position}))
+            list.unfiled.push_back(station);
+    }
+    return true;
+}
+
+/// Files every ITEM, then sorts, numbers and counts; false when a section is malformed.
+bool fileStations(ChannelList &list)
+{
+    list.lists.setupLists();
+    list.unfiled.clear();
+    for (const QStringView section : fileword::sections) {
+        if (!fileSection(list, section))
+            return false;
+    }
+    qsizetype total = 0;
+    for (const StationSource source : stationSources) {
+        const int index = static_cast<int>(source);
+        StationLists::sortAndValidateStations(*list.lists.list(true, index));
+        StationLists::sortAndValidateStations(*list.lists.list(false, index));
+        total += list.lists.stationCount(index);
+        if (source == StationSource::Antenna)
+            list.digitalStations = total;
+        else if (source == StationSource::Analogue)
+            list.analogStations = total - list.digitalStations;
+    }
+    return true;
+}
+
+bool locateStations(ChannelList &list)
+{
+    if (list.layout.locate(list.text, list.analogStations >= 1, list.digitalStations >= 1))
+        return true;
+    if (const auto &item = list.layout.distantItem())
+        list.formatFault = {item->section, item->distance};
+    return false;
+}
+
+} // namespace
+
+Reading readInto(ChannelList &list, const QByteArray &bytes)
+{
+    std::optional<FileText> text = FileText::decode(bytes);
+    if (!text)
+        return Reading::NoText;
+    list.text = *std::move(text);
+
+    XMLDictionaryParser parser(XMLDictionaryParser::sharedInstance());
+    std::optional<Dictionary> tree =
+        list.text.encoding() == TextEncoding::Utf8
+            ? parser.dictionaryWithData(list.text.utf8()) // the bytes that the text is encoded to
+            : parser.dictionaryWithString(list.text.toString());
+    list.tree = std::move(tree).value_or(Dictionary());
+    list.parseError = parser.firstError();
+    list.formatFault.reset();
+    list.isLegacyFormat = list.isFormatWithLegacybroadcast();
+    if (list.isLegacyFormat) {
+        extractLegacyStations(list.broadcast, list.legacyText(), list.lists);
+        list.layout.locateLegacy(list.text);
+        return Reading::Done;
+    }
+    return fileStations(list) && locateStations(list) ? Reading::Done : Reading::BadFormat;
+}
+
+std::optional<ChannelList> channelListFromBytes(const QByteArray &bytes)
+{
+    ChannelList list;
+    if (readInto(list, bytes) != Reading::Done)
+        return {};
+    return list;
+}
+
+} // namespace quillet

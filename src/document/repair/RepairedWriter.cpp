@@ -1,0 +1,267 @@
+#include "document/repair/RepairedWriter.h"
+
+#include "document/list/ChannelList.h"
+#include "document/list/FileWords.h"
+#include "document/list/SectionItems.h"
+#include "document/repair/RepairedBroadcast.h"
+#include "document/repair/StationSpans.h"
+#include "document/write/BroadcastWriting.h"
+#include "xml/XMLCharacters.h"
+#include "xml/XMLDictionaryParser.h"
+#include "xml/XMLWriter.h"
+
+#include <algorithm>
+#include <iterator>
+#include <unordered_map>
+
+namespace quillet {
+
+namespace {
+
+using Section = FilePlace::Section;
+
+constexpr auto itemStart = fileword::startTag(fileword::item);
+
+/// A stretch of the text and what takes its place.
+struct Replacement
+{
+    TextSpan span;
+    QByteArray text;
+};
+
+/// The text with the replacements, which do not overlap.
+QByteArray replaced(const QByteArray &text, std::vector<Replacement> replacements)
+{
+    std::sort(replacements.begin(), replacements.end(),
+              [](const auto &a, const auto &b) { return a.span.start < b.span.start; });
+    QByteArray result;
+    result.reserve(text.size() + text.size() / 8);
+    qsizetype next = 0;
+    for (const auto &[span, replacement] : replacements) {
+        result.append(QByteArrayView(text).sliced(next, span.start - next));
+        result.append(replacement);
+        next = span.end;
+    }
+    return result.append(QByteArrayView(text).sliced(next));
+}
+
+/// Text for the content of an element: escaped, without the characters that XML cannot hold.
+QByteArray escaped(QString text)
+{
+    text.removeIf([](QChar c) { return !c.isSurrogate() && !isXMLCharacter(c.unicode()); });
+    return XMLEncodedString(text).toUtf8();
+}
+
+/// An ITEM element, as it was read, with the fields of the entry that differ from the original's.
+QByteArray editedItem(const QByteArray &item, const Dictionary &original, const Dictionary &entry)
+{
+    const std::vector<ElementSpan> fields = elementSpans(item, {{}, {}});
+    std::vector<Replacement> replacements;
+    QByteArray added;
+    for (const auto &[key, value] : entry) {
+        const Value *before = original.find(key);
+        const QString *text = value.string();
+        if (!text || (before && *before == value))
+            continue;
+        const QByteArray name = key.toUtf8();
+        const QByteArray element = '<' + name + '>' + escaped(*text) + "</" + name + '>';
+        bool isWritten = false;
+        for (const ElementSpan &field : fields) {
+            if (field.name != name)
+                continue;
+            if (isWritten) // one value takes the place of several
+                replacements.push_back({field.whole, {}});
+            else if (field.content.start == field.whole.end)
+                replacements.push_back({field.whole, element});
+            else
+                replacements.push_back({field.content, escaped(*text)});
+            isWritten = true;
+        }
+        if (!isWritten)
+            added += element + (item.contains("\r\n") ? "\r\n" : "\n");
+    }
+    if (const qsizetype end = item.lastIndexOf("</"); end >= 0 && !added.isEmpty())
+        replacements.push_back({{end, end}, added});
+    return replaced(item, std::move(replacements));
+}
+
+/// The ITEM elements of one section and the stations that were made of them.
+class StationSection
+{
+public:
+    StationSection(const ChannelList &list, const QByteArray &text, Section section)
+        : m_section(section)
+    {
+        const QStringView name = section == Section::ATV ? fileword::atv : fileword::dtv;
+        m_originals = sectionItems(list.tree, name);
+        findItems(text, name.toUtf8());
+    }
+
+    [[nodiscard]] bool holds(const FiledStation &filed) const
+    {
+        return filed.place.section == m_section &&
+               m_items.contains(static_cast<std::size_t>(filed.place.index));
+    }
+
+    /// Puts the stations, all of this section, into their own places, one after another.
+    void replace(const QByteArray &text, const std::vector<FiledStation> &stations,
+                 std::vector<Replacement> &replacements) const
+    {
+        std::vector<TextSpan> places;
+        for (const FiledStation &filed : stations)
+            places.push_back(span(filed));
+        std::sort(places.begin(), places.end(),
+                  [](const TextSpan &a, const TextSpan &b) { return a.start < b.start; });
+        for (std::size_t i = 0; i < stations.size(); ++i)
+            replacements.push_back({places[i], itemText(text, stations[i])});
+    }
+
+private:
+    /// Elements that hold nothing were not read, so they are told from the others by what they
+    /// hold. One that was broken off is not moved.
+    void findItems(const QByteArray &text, const QByteArray &name)
+    {
+        XMLDictionaryParser parser(XMLDictionaryParser::sharedInstance());
+        parser.settings.nodeNameMode = XMLDictionaryParser::NodeNameMode::NameNever;
+        qsizetype next = 0;
+        for (const ElementSpan &span : elementSpans(text, {{},
+                                                           fileword::channel.bytes().toByteArray(),
+                                                           name,
+                                                           fileword::item.bytes().toByteArray()})) {
+            if (!span.isClosed || next == m_originals.count())
+                break;
+            const std::optional<Dictionary> entry =
+                parser.dictionaryWithData(span.whole.in(text).toByteArray());
+            const Dictionary *original = m_originals.at(next).dictionary();
+            if (!entry || entry->isEmpty() || (original && !(*entry == *original)))
+                continue;
+            m_items.emplace(static_cast<std::size_t>(next++), span.whole);
+        }
+    }
+
+    [[nodiscard]] TextSpan span(const FiledStation &filed) const
+    {
+        return m_items.at(static_cast<std::size_t>(filed.place.index));
+    }
+
+    [[nodiscard]] QByteArray itemText(const QByteArray &text, const FiledStation &filed) const
+    {
+        const QByteArray item = span(filed).in(text).toByteArray();
+        const Dictionary &original = *m_originals.at(filed.place.index).dictionary();
+        const Dictionary &entry = filed.station->entry();
+        return entry == original ? item : editedItem(item, original, entry);
+    }
+
+    Section m_section;
+    Array m_originals;                                 ///< the elements as they were read
+    std::unordered_map<std::size_t, TextSpan> m_items; ///< by their index there
+};
+
+/// All stations that were read, each once: list by list, and one by one those that no list holds
+/// any more.
+std::vector<std::vector<FiledStation>> stationsByList(const StationLists &lists)
+{
+    std::unordered_map<const LGStation *, FiledStation> left;
+    for (const FiledStation &filed : lists.roll())
+        left.emplace(filed.station.get(), filed);
+    std::vector<std::vector<FiledStation>> result;
+    for (const StationSource source : stationSources) {
+        for (const bool isTV : {true, false}) {
+            result.emplace_back();
+            for (const StationPtr &station : *lists.list(isTV, static_cast<int>(source))) {
+                const auto found = left.find(station.get());
+                if (found == left.end())
+                    continue; // there already
+                result.back().push_back(found->second);
+                left.erase(found);
+            }
+        }
+    }
+    for (const auto &[station, filed] : left)
+        result.push_back({filed});
+    return result;
+}
+
+/// A section is refused when its first ITEM element without attributes is far from its start: where
+/// that was not so before, the first element changes places with one that has none. The stations'
+/// numbers say in which order they are.
+void keepFirstPlain(QByteArrayView text, std::vector<Replacement> &items)
+{
+    const auto isPlain = [](QByteArrayView item) { return item.startsWith(itemStart.bytes()); };
+    const auto first =
+        std::min_element(items.begin(), items.end(),
+                         [](const auto &a, const auto &b) { return a.span.start < b.span.start; });
+    if (first == items.end() || isPlain(first->text) || !isPlain(first->span.in(text)))
+        return;
+    const auto plain = std::find_if(items.begin(), items.end(),
+                                    [&isPlain](const auto &item) { return isPlain(item.text); });
+    if (plain != items.end())
+        std::swap(first->text, plain->text);
+}
+
+QByteArray repairedStations(const ChannelList &list, const QByteArray &text)
+{
+    const std::vector<std::vector<FiledStation>> lists = stationsByList(list.lists);
+    std::vector<Replacement> replacements;
+    for (const Section section : {Section::ATV, Section::DTV}) {
+        const StationSection places(list, text, section);
+        std::vector<Replacement> ofThis;
+        for (const std::vector<FiledStation> &stations : lists) {
+            std::vector<FiledStation> ofSection;
+            std::copy_if(stations.begin(), stations.end(), std::back_inserter(ofSection),
+                         [&places](const FiledStation &filed) { return places.holds(filed); });
+            places.replace(text, ofSection, ofThis);
+        }
+        keepFirstPlain(text, ofThis);
+        replacements.insert(replacements.end(), ofThis.begin(), ofThis.end());
+    }
+    return replaced(text, std::move(replacements));
+}
+
+QByteArray repairedChannels(const ChannelList &list, const QByteArray &text)
+{
+    const std::vector<QByteArray> path{{},
+                                       fileword::channel.bytes().toByteArray(),
+                                       fileword::legacyBroadcast.bytes().toByteArray()};
+    const std::vector<ElementSpan> spans = elementSpans(text, path);
+    if (!list.broadcast.legacyDict || spans.empty())
+        return text;
+    TextSpan json = spans.front().content;
+    if (!spans.front().isClosed) { // then it ended at whatever tag came next
+        const qsizetype tag = text.indexOf('<', json.start);
+        json.end = tag < 0 ? text.size() : tag;
+        if (json.in(text).trimmed().isEmpty())
+            return text; // a CDATA block without an end
+    }
+    QByteArray content = replaceBadChars(repairedJSON(list));
+    std::vector<QByteArray> pathInside = path;
+    pathInside.emplace_back();
+    for (const ElementSpan &element : elementSpans(text, pathInside)) {
+        if (element.isClosed && element.whole.end <= json.end)
+            content += element.whole.in(text);
+    }
+    return replaced(text, {{json, content}});
+}
+
+/// In the encoding of the file that was read, if it can be told in it, else in UTF-8.
+QByteArray encodedAs(const FileText &file, const QByteArray &utf8)
+{
+    if (utf8 == file.utf8())
+        return file.bytes();
+    const QString text = QString::fromUtf8(utf8);
+    const QByteArray latin1 = text.toLatin1();
+    const bool isLatin1 = file.encoding() == TextEncoding::Latin1 && !latin1.isValidUtf8() &&
+                          QString::fromLatin1(latin1) == text;
+    return isLatin1 ? latin1 : utf8;
+}
+
+} // namespace
+
+QByteArray repairedTLL(const ChannelList &list)
+{
+    const QByteArray text = list.text.utf8();
+    return encodedAs(list.text, list.isLegacyFormat ? repairedChannels(list, text)
+                                                    : repairedStations(list, text));
+}
+
+} // namespace quillet

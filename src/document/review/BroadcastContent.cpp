@@ -1,0 +1,108 @@
+#include "document/review/BroadcastContent.h"
+
+#include "document/list/ChannelList.h"
+#include "document/list/FileWords.h"
+#include "model/LGLegacyStation.h"
+#include "xml/NodeViews.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace quillet {
+
+namespace {
+
+constexpr auto startTag = fileword::tagStart(fileword::legacyBroadcast);
+constexpr auto endTag = fileword::endTag(fileword::legacyBroadcast);
+
+/// An element of the channel list to compare; sets write channels only, but nothing may get lost.
+Dictionary channelEntry(const Value &element)
+{
+    return element.dictionary() ? *element.dictionary() : Dictionary{{QString(), element}};
+}
+
+std::vector<Dictionary> channelsOf(const ChannelList &list)
+{
+    const Array channels = list.broadcast.channelList();
+    std::vector<Dictionary> entries;
+    entries.reserve(static_cast<std::size_t>(channels.count()));
+    std::transform(channels.begin(), channels.end(), std::back_inserter(entries), channelEntry);
+    return entries;
+}
+
+/// What the JSON holds besides the channels, with an empty list in the place of theirs; none when
+/// it was not decoded.
+std::optional<Dictionary> otherMembers(const ChannelList &list)
+{
+    std::optional<Dictionary> members = list.broadcast.legacyDict;
+    const Value *channels = members ? members->find(fileword::channelList) : nullptr;
+    if (channels && channels->array())
+        members->insert(fileword::channelList.toString(), Array());
+    return members;
+}
+
+} // namespace
+
+BroadcastContent::BroadcastContent(const ChannelList &list) : ListContent(list)
+{
+    m_expected = channelsOf(list);
+    for (const auto &[station, place] : list.lists.roll())
+        m_expected.at(static_cast<std::size_t>(place.index)) = station->entry();
+}
+
+std::vector<Dictionary> BroadcastContent::foundIn(const ChannelList &again) const
+{
+    return channelsOf(again);
+}
+
+EntryKeys BroadcastContent::keys() const
+{
+    const StationKeys keys = LGLegacyStation({}, 0).keys();
+    QStringList edited{keys.keyProgNum, keys.keyStationName, keys.keySkipped, keys.keyBlocked};
+    return {.edited = edited + LGLegacyStation::numberMarks(), .number = {}};
+}
+
+QString BroadcastContent::nameOf(const Dictionary &entry) const
+{
+    const LGLegacyStation station(entry, 0);
+    const QString name = station.stationName();
+    return name.isEmpty() ? station.progNumString() : name;
+}
+
+ListContent::Enclosure BroadcastContent::enclosure() const
+{
+    return {startTag.bytes(), endTag.bytes()};
+}
+
+/// Of the element that holds the JSON everything but its text stays.
+Dictionary BroadcastContent::surroundings(const Dictionary &tree) const
+{
+    Dictionary result = tree;
+    Value *channel = result.find(fileword::channel);
+    const Dictionary *found = channel ? channel->dictionary() : nullptr;
+    if (!found)
+        return result;
+    Dictionary rest = *found;
+    const Dictionary *broadcast = rest.dictionary(fileword::legacyBroadcast);
+    if (broadcast && (hasAttributes(*broadcast) || hasChildNodes(*broadcast))) {
+        Dictionary node = *broadcast;
+        node.remove(nodekey::text);
+        rest.insert(fileword::legacyBroadcast.toString(), node);
+    } else {
+        rest.remove(fileword::legacyBroadcast);
+    }
+    *channel = rest;
+    return result;
+}
+
+bool BroadcastContent::losesMembers(const ChannelList &again) const
+{
+    return otherMembers(list()) != otherMembers(again);
+}
+
+qsizetype BroadcastContent::inexactNumbers() const
+{
+    return list().broadcast.inexactNumbers;
+}
+
+} // namespace quillet

@@ -1,0 +1,206 @@
+#include "document/review/EntryMatching.h"
+
+#include "xml/NodeViews.h"
+
+#include <QHash>
+
+#include <algorithm>
+#include <optional>
+
+namespace quillet {
+
+namespace {
+
+/// Of a plain element; one that the text broke off in is a dictionary. None for anything else, and
+/// for one that broke off before any text.
+std::optional<QString> textOf(const Value &value)
+{
+    if (const QString *text = value.string())
+        return *text;
+    const Dictionary *node = value.dictionary();
+    if (!node || hasAttributes(*node) || hasChildNodes(*node))
+        return {};
+    return innerText(*node);
+}
+
+/// The entry as it is after being written and read, without the fields of those names.
+Dictionary normalized(const Dictionary &entry, const QStringList &without = {})
+{
+    Dictionary result;
+    for (const auto &[key, value] : entry) {
+        if (without.contains(key))
+            continue;
+        const std::optional<QString> text = textOf(value);
+        if (!text)
+            result.insert(key, value);
+        else if (const QString trimmed = text->trimmed(); !trimmed.isEmpty())
+            result.insert(key, trimmed);
+    }
+    return result;
+}
+
+/// Equal for equal entries, in whatever order their fields stand.
+std::size_t hashOf(const Dictionary &entry)
+{
+    std::size_t sum = 0;
+    for (const auto &[key, value] : entry) {
+        const QString *text = value.string();
+        sum += qHashMulti(0, key, text ? *text : value.description());
+    }
+    return sum;
+}
+
+/// Compares entries of which most have their keys from one table.
+class Comparison
+{
+public:
+    [[nodiscard]] bool areSame(const Dictionary &a, const Dictionary &b)
+    {
+        const Dictionary::Keys keysOfA = a.keys(), keysOfB = b.keys();
+        if (keysOfA == m_keysOfA && keysOfB == m_keysOfB && a.hasEqualValues(b))
+            return true;
+        if (a == b) {
+            const bool areInOrder =
+                keysOfA && keysOfB && a.hasEqualValues(b) && keysOfA->hasSameOrder(*keysOfB);
+            m_keysOfA = areInOrder ? keysOfA : Dictionary::Keys();
+            m_keysOfB = areInOrder ? keysOfB : Dictionary::Keys();
+            return true;
+        }
+        return normalized(a) == normalized(b);
+    }
+
+private:
+    Dictionary::Keys m_keysOfA; ///< two tables with the same keys in the same order
+    Dictionary::Keys m_keysOfB;
+};
+
+/// Entries to be taken one by one, found by what they hold.
+class EntryPool
+{
+public:
+    void add(std::size_t index, Dictionary entry)
+    {
+        const std::size_t hash = hashOf(entry);
+        m_entries.insert(hash, {index, std::move(entry)});
+    }
+
+    /// Takes out one that is equal, passing over for good those that are gone; none when there is
+    /// none.
+    std::optional<std::size_t> take(const Dictionary &entry, const std::vector<bool> &areGone)
+    {
+        const std::size_t hash = hashOf(entry);
+        for (auto i = m_entries.find(hash); i != m_entries.end() && i.key() == hash;) {
+            if (!(i->second == entry)) {
+                ++i;
+                continue;
+            }
+            const std::size_t index = i->first;
+            i = m_entries.erase(i);
+            if (!areGone[index])
+                return index;
+        }
+        return {};
+    }
+
+private:
+    QMultiHash<std::size_t, std::pair<std::size_t, Dictionary>> m_entries;
+};
+
+/// The same for entries whose texts broke off, by their numbers.
+class NumberPool
+{
+public:
+    explicit NumberPool(QString key) : m_key(std::move(key)) {}
+
+    void add(const Dictionary &entry) { ++m_counts[number(entry)]; }
+    bool take(const Dictionary &entry)
+    {
+        const QString wanted = number(entry);
+        const auto found = m_counts.find(wanted);
+        if (wanted.isEmpty() || found == m_counts.end() || *found == 0)
+            return false;
+        --*found;
+        return true;
+    }
+
+private:
+    [[nodiscard]] QString number(const Dictionary &entry) const
+    {
+        const Value *value = m_key.isEmpty() ? nullptr : entry.find(m_key);
+        return value ? value->description() : QString();
+    }
+
+    QString m_key;
+    QHash<QString, int> m_counts;
+};
+
+} // namespace
+
+EntryMatches matchEntries(const std::vector<Dictionary> &expected,
+                          const std::vector<Dictionary> &actual, const EntryKeys &keys)
+{
+    Comparison comparison;
+    const auto areSame = [&comparison](const Dictionary &a, const Dictionary &b) {
+        return comparison.areSame(a, b);
+    };
+    if (std::equal(expected.begin(), expected.end(), actual.begin(), actual.end(), areSame))
+        return {};
+
+    // First what is as expected, then what is alike, then what only has the number.
+    EntryPool wanted;
+    for (std::size_t i = expected.size(); i-- > 0;) // the last one added is found first
+        wanted.add(i, normalized(expected[i]));
+    std::vector<bool> isFound(expected.size(), false);
+    std::vector<const Dictionary *> others;
+    for (const Dictionary &entry : actual) {
+        if (const auto index = wanted.take(normalized(entry), isFound))
+            isFound[*index] = true;
+        else
+            others.push_back(&entry);
+    }
+
+    QStringList editedButNumber = keys.edited;
+    editedButNumber.removeOne(keys.number);
+    EntryPool foundSame, foundAlike, missingOfNumber, missingAlike;
+    for (std::size_t i = expected.size(); i-- > 0;) {
+        const Dictionary alike = normalized(expected[i], keys.edited);
+        if (isFound[i]) {
+            foundSame.add(i, normalized(expected[i]));
+            foundAlike.add(i, alike);
+        } else {
+            missingOfNumber.add(i, normalized(expected[i], editedButNumber));
+            missingAlike.add(i, alike);
+        }
+    }
+    EntryMatches matches;
+    NumberPool mutilated(keys.number);
+    std::vector<bool> isDoubled(expected.size(), false);
+    for (const Dictionary *entry : others) {
+        const Dictionary alike = normalized(*entry, keys.edited);
+        std::optional<std::size_t> changed =
+            missingOfNumber.take(normalized(*entry, editedButNumber), isFound);
+        std::optional<std::size_t> doubled;
+        if (!changed)
+            doubled = foundSame.take(normalized(*entry), isDoubled);
+        if (!changed && !doubled)
+            changed = missingAlike.take(alike, isFound);
+        if (!changed && !doubled)
+            doubled = foundAlike.take(alike, isDoubled);
+        if (changed) {
+            isFound[*changed] = true;
+            matches.changed.push_back(*changed);
+        } else if (doubled) {
+            isDoubled[*doubled] = true;
+            matches.doubled.push_back(*doubled);
+        } else {
+            mutilated.add(*entry);
+        }
+    }
+    for (std::size_t i = 0; i < expected.size(); ++i) {
+        if (!isFound[i])
+            (mutilated.take(expected[i]) ? matches.changed : matches.missing).push_back(i);
+    }
+    return matches;
+}
+
+} // namespace quillet

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "xml/Value.h"
+
+#include <QByteArray>
+
+#include <vector>
+
+/// What can be told of a text that cannot be parsed to its end.
+namespace quillet {
+
+class FileText;
+
+/// How many stations begin in the text. Elements without content do not count.
+[[nodiscard]] qsizetype stationsBegunIn(QByteArrayView utf8);
+
+/// How many station sections begin in the text.
+[[nodiscard]] qsizetype sectionsBegunIn(QByteArrayView utf8);
+
+/// The first so many stations that stand whole at or behind a place of the text.
+[[nodiscard]] std::vector<Dictionary> stationsBehind(const QByteArray &utf8, qsizetype from,
+                                                     qsizetype most);
+
+} // namespace quillet

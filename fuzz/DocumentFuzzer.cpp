@@ -6,7 +6,7 @@
 #include "document/RepairedWriter.h"
 #include "document/SaveReview.h"
 #include "document/TLLDocument.h"
-#include "document/TextMending.h"
+#include "document/repair/Mending.h"
 #include "support/TextConversion.h"
 
 #include <algorithm>

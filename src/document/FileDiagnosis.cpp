@@ -1,6 +1,8 @@
 #include "document/FileDiagnosis.h"
 
 #include "document/TLLDocument.h"
+#include "document/repair/MixedEncoding.h"
+#include "document/repair/TextMending.h"
 
 #include <algorithm>
 

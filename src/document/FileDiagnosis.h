@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/TextMending.h"
+#include "document/repair/Mending.h"
 
 #include <QList>
 #include <QString>

@@ -5,7 +5,7 @@
 #include "document/LegacyBroadcast.h"
 #include "document/ReferenceList.h"
 #include "document/StationLists.h"
-#include "document/TextMending.h"
+#include "document/repair/Mending.h"
 #include "framework/Document.h"
 #include "xml/EventParser.h"
 #include "xml/Value.h"

@@ -1,7 +1,8 @@
 #include "ListText.h"
 
 #include "document/FileDiagnosis.h"
-#include "document/TextMending.h"
+#include "document/repair/MixedEncoding.h"
+#include "document/repair/TextMending.h"
 #include "testing/TLLText.h"
 #include "testing/TestMain.h"
 

@@ -189,6 +189,9 @@ private slots:
         QTest::newRow("right after a station without its end")
             << cutBefore(u"</ITEM>\r\n<ITEM>\r\n<prNum>3"_s) + "<ITEM>" << QStringList()
             << u"tags 1, end 1, dropped 1"_s;
+        QTest::newRow("after a station's tag that is text")
+            << cutBefore(u"<ITEM>\r\n<prNum>3"_s) + "<x>A<ITEM></x>" << QStringList()
+            << u"brackets 1, end 1"_s;
     }
     void cutStation()
     {

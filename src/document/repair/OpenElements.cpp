@@ -61,8 +61,13 @@ void OpenElements::pop()
         if (contains(filingFields, last().name))
             ++m_filingFields;
     }
+    discard();
+}
+
+void OpenElements::discard()
+{
     m_open.pop_back();
-    if (m_station && index == *m_station)
+    if (m_station && m_open.size() <= *m_station)
         m_station.reset();
 }
 

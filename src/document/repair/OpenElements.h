@@ -40,7 +40,7 @@ public:
     /// Takes out the last one; whatever it held counts.
     void pop();
     /// Takes out the last one as if it had never been one.
-    void discard() { m_open.pop_back(); }
+    void discard();
 
     /// Whether an element holds others and no text.
     [[nodiscard]] bool isContainer(std::size_t index) const;

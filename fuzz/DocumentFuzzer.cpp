@@ -6,7 +6,7 @@
 #include "document/TLLDocument.h"
 #include "document/repair/FileDiagnosis.h"
 #include "document/repair/RepairedWriter.h"
-#include "document/repair/TextMending.h"
+#include "document/repair/Mending.h"
 #include "support/TextConversion.h"
 
 #include <algorithm>

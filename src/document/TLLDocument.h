@@ -2,7 +2,7 @@
 
 #include "document/list/ChannelList.h"
 #include "document/order/ReferenceList.h"
-#include "document/repair/TextMending.h"
+#include "document/repair/Mending.h"
 #include "framework/Document.h"
 
 #include <QPointer>

@@ -1,5 +1,8 @@
 #include "files/FileOperations.h"
 
+#include "files/ExtendedAttributes.h"
+#include "files/FileRights.h"
+
 #include <QFile>
 #include <QFileInfo>
 
@@ -65,31 +68,78 @@ qint64 FileOperations::write(QFile &file, const QByteArray &bytes, QString &reas
     return count;
 }
 
-bool FileOperations::copyPermissions(const QString &path, QFile &file, QString &reason)
-{
 #ifdef Q_OS_WIN
-    Q_UNUSED(path);
-    Q_UNUSED(file);
-    Q_UNUSED(reason);
+
+bool FileOperations::readRights(const QString &, FileRights &, QString &)
+{
     return true;
-#else
-    struct stat wanted = {};
-    struct stat made = {};
-    if (!succeeded(::stat(QFile::encodeName(path).constData(), &wanted), reason) ||
-        !succeeded(::fstat(file.handle(), &made), reason))
-        return false;
-    const bool isSameOwner = wanted.st_uid == made.st_uid && wanted.st_gid == made.st_gid;
-    if (!isSameOwner && ::fchown(file.handle(), wanted.st_uid, wanted.st_gid) != 0) {
-        // Only the superuser gives files away; the group can often be kept all the same.
-        [[maybe_unused]] const int result =
-            ::fchown(file.handle(), static_cast<uid_t>(-1), wanted.st_gid);
-    }
-    // A file system without permissions gives every file the same ones and may refuse to set them.
-    const mode_t all = S_ISUID | S_ISGID | S_ISVTX | S_IRWXU | S_IRWXG | S_IRWXO;
-    const mode_t mode = wanted.st_mode & all;
-    return mode == (made.st_mode & all) || succeeded(::fchmod(file.handle(), mode), reason);
-#endif
 }
+
+bool FileOperations::copyAttributes(const QString &, QFile &)
+{
+    return true;
+}
+
+bool FileOperations::setOwner(QFile &, const FileRights &)
+{
+    return true;
+}
+
+bool FileOperations::setAccessList(QFile &, const QByteArray &)
+{
+    return true;
+}
+
+bool FileOperations::setMode(QFile &, quint32, QString &)
+{
+    return true;
+}
+
+#else
+
+bool FileOperations::readRights(const QString &path, FileRights &rights, QString &reason)
+{
+    struct stat found = {};
+    if (!succeeded(::stat(QFile::encodeName(path).constData(), &found), reason))
+        return false;
+    const std::optional<QByteArray> list = accessListOf(path);
+    if (!succeeded(list ? 0 : -1, reason))
+        return false;
+    constexpr mode_t all = S_ISUID | S_ISGID | S_ISVTX | S_IRWXU | S_IRWXG | S_IRWXO;
+    rights = {found.st_uid, found.st_gid, found.st_mode & all, found.st_nlink, *list};
+    return true;
+}
+
+bool FileOperations::copyAttributes(const QString &path, QFile &file)
+{
+    return copyExtendedAttributes(path, file.handle());
+}
+
+bool FileOperations::setOwner(QFile &file, const FileRights &wanted)
+{
+    struct stat made = {};
+    if (::fstat(file.handle(), &made) == 0 && made.st_uid == wanted.owner &&
+        made.st_gid == wanted.group)
+        return true;
+    if (::fchown(file.handle(), wanted.owner, wanted.group) == 0)
+        return true;
+    // Only the superuser gives files away.
+    [[maybe_unused]] const int result =
+        ::fchown(file.handle(), static_cast<uid_t>(-1), wanted.group);
+    return false;
+}
+
+bool FileOperations::setAccessList(QFile &file, const QByteArray &list)
+{
+    return setAccessListOf(file.handle(), list);
+}
+
+bool FileOperations::setMode(QFile &file, quint32 mode, QString &reason)
+{
+    return succeeded(::fchmod(file.handle(), mode), reason);
+}
+
+#endif
 
 bool FileOperations::sync(QFile &file, QString &reason)
 {

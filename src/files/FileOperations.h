@@ -7,6 +7,8 @@ class QFile;
 
 namespace quillet {
 
+struct FileRights;
+
 /// The single steps of replacing a file that touch the disk. The program uses this class as it is;
 /// the steps are virtual so that each can be made to fail, or to lie, on its own. A step that fails
 /// says why in `reason`, in the system's words.
@@ -20,9 +22,15 @@ public:
     virtual bool create(QFile &file, bool isPrivate, QString &reason);
     /// Answers how many bytes were written; fewer than given is a failure.
     virtual qint64 write(QFile &file, const QByteArray &bytes, QString &reason);
-    /// Gives the open file the permissions of the one at `path` and, where the system lets us, its
-    /// owner and group.
-    virtual bool copyPermissions(const QString &path, QFile &file, QString &reason);
+    virtual bool readRights(const QString &path, FileRights &rights, QString &reason);
+    /// The next four change the open file. The mode is that of a system with permissions; elsewhere
+    /// they do nothing and succeed. False also when only a part was done.
+    virtual bool copyAttributes(const QString &path, QFile &file);
+    /// The group can often be given where the owner cannot.
+    virtual bool setOwner(QFile &file, const FileRights &wanted);
+    /// An empty list takes away the one there is.
+    virtual bool setAccessList(QFile &file, const QByteArray &list);
+    virtual bool setMode(QFile &file, quint32 mode, QString &reason);
     /// Returns when the open file's bytes have reached the disk.
     virtual bool sync(QFile &file, QString &reason);
     virtual bool readBack(const QString &path, QByteArray &bytes, QString &reason);

@@ -72,12 +72,15 @@ void removeLeftovers(const QString &folder)
 
 bool FileReplacement::replace(const QString &path, const QByteArray &bytes, Error &error)
 {
+    m_notKept.clear();
     const std::optional<QString> target = resolveLinks(path);
     error = target ? replaceTarget(*target, bytes)
                    : failure(Failure::Target, qtTrId("kLinkCircleReason"));
-    if (!error.isEmpty())
-        error.filePath = path;
-    return error.isEmpty();
+    if (error.isEmpty())
+        return true;
+    m_notKept.clear();
+    error.filePath = path;
+    return false;
 }
 
 Error FileReplacement::replaceTarget(const QString &target, const QByteArray &bytes)
@@ -98,7 +101,7 @@ Error FileReplacement::replaceTarget(const QString &target, const QByteArray &by
     auto removeNewFile = qScopeGuard([&file] { file.remove(); });
     if (m_operations.write(file, bytes, reason) != bytes.size())
         return failure(Failure::Write, qtTrId("kWriteFailedReason").arg(reason));
-    if (hasOldFile && !m_operations.copyPermissions(target, file, reason))
+    if (hasOldFile && !keepRights(m_operations, target, file, m_notKept, reason))
         return failure(Failure::Permissions, qtTrId("kPermissionsFailedReason").arg(reason));
     if (!m_operations.sync(file, reason))
         return failure(Failure::Sync, qtTrId("kWriteFailedReason").arg(reason));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "files/Error.h"
+#include "files/FileRights.h"
 
 #include <QByteArray>
 #include <QString>
@@ -13,12 +14,16 @@ class FileOperations;
 /// the whole new one:
 ///   1. the bytes go to a new file in the same folder, whose short name has nothing to do with the
 ///      target's (a crash up to step 4 leaves that file behind and the old one whole);
-///   2. it gets the old file's permissions and is brought onto the disk;
+///   2. it gets what the old file had (see keepRights()) and is brought onto the disk; until then
+///      nobody but its owner can read it;
 ///   3. it is read back and compared, because a full disk may take a write without complaint;
 ///   4. it takes the old file's place in one step;
 ///   5. the folder is brought onto the disk (a crash before that may bring the old file back).
-/// Any failure removes the new file. A symbolic link stays; the file it points to is replaced. What
-/// a crash left behind is removed by the next replacement in that folder that is a day later.
+/// Any failure removes the new file. A symbolic link stays; the file it points to is replaced. Of a
+/// file with several names only this one gets the new content, because there is no single step for
+/// all: writing the file itself would have moments in which neither content is whole, and would
+/// also change the backups of those who make them with hard links. What a crash left behind is
+/// removed by the next replacement in that folder that is a day later.
 class FileReplacement
 {
 public:
@@ -29,11 +34,15 @@ public:
     explicit FileReplacement(FileOperations &operations) : m_operations(operations) {}
 
     [[nodiscard]] bool replace(const QString &path, const QByteArray &bytes, Error &error);
+    /// What the file has lost by the last replacement, which its owner should be told; empty when
+    /// that failed.
+    [[nodiscard]] const std::vector<NotKept> &notKept() const { return m_notKept; }
 
 private:
     [[nodiscard]] Error replaceTarget(const QString &target, const QByteArray &bytes);
 
     FileOperations &m_operations;
+    std::vector<NotKept> m_notKept;
 };
 
 } // namespace quillet

@@ -1,14 +1,34 @@
 #pragma once
 
+#include <QtGlobal>
+
 namespace quillet {
 
-/// Whether XML 1.0 text may hold the character with that code point, be it escaped or not (XML 1.0,
-/// production 2).
-[[nodiscard]] constexpr bool isXMLCharacter(char32_t c)
+/// The kinds of characters that the XML grammar tells apart, of text in UTF-8: every byte of a
+/// character beyond ASCII counts as part of a name. Whether char has a sign makes no difference.
+constexpr bool isXMLBlank(char c)
 {
-    if (c < 0x20)
-        return c == U'\t' || c == U'\n' || c == U'\r';
-    return c < 0xD800 || (c > 0xDFFF && c < 0xFFFE) || (c > 0xFFFF && c < 0x110000);
+    return c == ' ' || c == '\t' || c == '\r' || c == '\n';
+}
+
+constexpr bool isXMLNameStart(char c)
+{
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' || c == ':' ||
+           static_cast<unsigned char>(c) >= 0x80;
+}
+
+constexpr bool isXMLNamePart(char c)
+{
+    return isXMLNameStart(c) || (c >= '0' && c <= '9') || c == '-' || c == '.';
+}
+
+/// A code point that XML text may hold.
+constexpr bool isXMLCharacter(uint character)
+{
+    if (character < 0x20)
+        return character == '\t' || character == '\n' || character == '\r';
+    return character < 0xD800 || (character > 0xDFFF && character < 0xFFFE) ||
+           (character > 0xFFFF && character < 0x110000);
 }
 
 } // namespace quillet

@@ -1,6 +1,7 @@
 #include "ListText.h"
 
 #include "document/repair/FileDiagnosis.h"
+#include "document/repair/MixedEncoding.h"
 #include "document/repair/TextMending.h"
 #include "testing/TLLText.h"
 #include "testing/TestMain.h"

@@ -1,10 +1,6 @@
-#include "framework/BytesDocument.h"
-
-#include "files/FileOperations.h"
-#include "files/FileReplacement.h"
+#include "testing/TestFiles.h"
 #include "testing/TestMain.h"
 
-#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QProcess>
@@ -67,23 +63,6 @@ private slots:
         QVERIFY(timesOther > 0);
         QVERIFY(interrupted > 0);
         qInfo("%d of %d kills interrupted a writing", interrupted, kills);
-
-        // What is left of them is in nobody's way, and is cleared away when it is old.
-        FileOperations operations;
-        Error error;
-        QVERIFY(FileReplacement(operations).replace(path, "new", error));
-        QCOMPARE(contentOf(path), QByteArray("new"));
-        const QStringList left = leftovers(folder.path());
-        QVERIFY(!left.isEmpty());
-        for (const QString &leftover : left) {
-            QFile file(leftover);
-            QVERIFY(file.open(QIODevice::ReadWrite));
-            QVERIFY(file.setFileTime(QDateTime::currentDateTime().addDays(-2),
-                                     QFileDevice::FileModificationTime));
-        }
-        QVERIFY(FileReplacement(operations).replace(path, "newer", error));
-        QCOMPARE(leftovers(folder.path()), QStringList());
-        QCOMPARE(contentOf(path), QByteArray("newer"));
     }
 
 private:

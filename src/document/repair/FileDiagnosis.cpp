@@ -4,6 +4,8 @@
 #include "document/list/FileWords.h"
 #include "document/list/SectionItems.h"
 #include "document/read/ListReading.h"
+#include "document/repair/MixedEncoding.h"
+#include "document/repair/TextMending.h"
 
 #include <algorithm>
 

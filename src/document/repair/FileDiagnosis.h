@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/repair/TextMending.h"
+#include "document/repair/Mending.h"
 
 #include <QList>
 #include <QString>

@@ -217,6 +217,13 @@ private slots:
             u"renumbered 1: B"_s, u"renumbered 1: B"_s);
         row("name that XML cannot hold", abc, rename(u"\x01X"_s),
             u"missing 1: C, changed 1: \x01X"_s, u"changed 1: \x01X"_s);
+        row(
+            "cut station edited", digital(items({u"A"_s, u"B"_s, u"C & D"_s})),
+            [](TLLDocument &document) {
+                station(document, true, 0, 2)->setProgramNum(9);
+                station(document, true, 0, 2)->setSkipped(true);
+            },
+            u"changed 1: 9, tail"_s);
         row("no stations", u"\x01 This is no channel list"_s, none, u"refused"_s);
 
         const QString a = channel(u"A"_s, 3), b = channel(u"B"_s, 5);

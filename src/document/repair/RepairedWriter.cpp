@@ -12,7 +12,9 @@
 
 #include <algorithm>
 #include <iterator>
+#include <optional>
 #include <unordered_map>
+#include <utility>
 
 namespace quillet {
 
@@ -52,8 +54,22 @@ QByteArray escaped(QString text)
     return XMLEncodedString(text).toUtf8();
 }
 
+/// Where fields may be added to an ITEM element, whose fields are given: at its end or, where the
+/// text breaks off in it, behind its last whole field; negative when it has none.
+qsizetype placeForFields(const QByteArray &item, const std::vector<ElementSpan> &fields,
+                         bool isWhole)
+{
+    if (isWhole)
+        return item.lastIndexOf("</");
+    const auto last = std::find_if(fields.rbegin(), fields.rend(),
+                                   [](const ElementSpan &field) { return field.isClosed; });
+    return last == fields.rend() ? -1 : last->whole.end;
+}
+
 /// An ITEM element, as it was read, with the fields of the entry that differ from the original's.
-QByteArray editedItem(const QByteArray &item, const Dictionary &original, const Dictionary &entry)
+/// One that is not whole ends with the text; a field that is not, stays.
+QByteArray editedItem(const QByteArray &item, const Dictionary &original, const Dictionary &entry,
+                      bool isWhole)
 {
     const std::vector<ElementSpan> fields = elementSpans(item, {{}, {}});
     std::vector<Replacement> replacements;
@@ -69,18 +85,21 @@ QByteArray editedItem(const QByteArray &item, const Dictionary &original, const 
         for (const ElementSpan &field : fields) {
             if (field.name != name)
                 continue;
-            if (isWritten) // one value takes the place of several
+            const bool isFirst = !std::exchange(isWritten, true);
+            if (!field.isClosed)
+                continue; // where it ends is not known
+            if (!isFirst) // one value takes the place of several
                 replacements.push_back({field.whole, {}});
             else if (field.content.start == field.whole.end)
                 replacements.push_back({field.whole, element});
             else
                 replacements.push_back({field.content, escaped(*text)});
-            isWritten = true;
         }
         if (!isWritten)
             added += element + (item.contains("\r\n") ? "\r\n" : "\n");
     }
-    if (const qsizetype end = item.lastIndexOf("</"); end >= 0 && !added.isEmpty())
+    const qsizetype end = placeForFields(item, fields, isWhole);
+    if (end >= 0 && !added.isEmpty())
         replacements.push_back({{end, end}, added});
     return replaced(item, std::move(replacements));
 }
@@ -116,6 +135,23 @@ public:
             replacements.push_back({places[i], itemText(text, stations[i])});
     }
 
+    /// Writes the edits of the one that the text breaks off in, if it is of this section.
+    void replaceBroken(const QByteArray &text, const std::vector<FiledStation> &roll,
+                       std::vector<Replacement> &replacements) const
+    {
+        const qsizetype index = m_originals.count() - 1;
+        const Dictionary *original = m_broken ? m_originals.at(index).dictionary() : nullptr;
+        const auto filed =
+            std::find_if(roll.begin(), roll.end(), [this, index](const FiledStation &each) {
+                return each.place.section == m_section && each.place.index == index;
+            });
+        if (!original || filed == roll.end() || filed->station->entry() == *original)
+            return;
+        const QByteArray item = m_broken->in(text).toByteArray();
+        replacements.push_back(
+            {*m_broken, editedItem(item, *original, filed->station->entry(), false)});
+    }
+
 private:
     /// Elements that hold nothing were not read, so they are told from the others by what they
     /// hold. One that was broken off is not moved.
@@ -128,8 +164,13 @@ private:
                                                            fileword::channel.bytes().toByteArray(),
                                                            name,
                                                            fileword::item.bytes().toByteArray()})) {
-            if (!span.isClosed || next == m_originals.count())
+            if (next == m_originals.count())
                 break;
+            if (!span.isClosed) { // the last one, if it was read at all
+                if (next + 1 == m_originals.count())
+                    m_broken = span.whole;
+                break;
+            }
             const std::optional<Dictionary> entry =
                 parser.dictionaryWithData(span.whole.in(text).toByteArray());
             const Dictionary *original = m_originals.at(next).dictionary();
@@ -149,12 +190,13 @@ private:
         const QByteArray item = span(filed).in(text).toByteArray();
         const Dictionary &original = *m_originals.at(filed.place.index).dictionary();
         const Dictionary &entry = filed.station->entry();
-        return entry == original ? item : editedItem(item, original, entry);
+        return entry == original ? item : editedItem(item, original, entry, true);
     }
 
     Section m_section;
     Array m_originals;                                 ///< the elements as they were read
     std::unordered_map<std::size_t, TextSpan> m_items; ///< by their index there
+    std::optional<TextSpan> m_broken; ///< the last of them, when the text breaks off in it
 };
 
 /// All stations that were read, each once: list by list, and one by one those that no list holds
@@ -213,6 +255,7 @@ QByteArray repairedStations(const ChannelList &list, const QByteArray &text)
             places.replace(text, ofSection, ofThis);
         }
         keepFirstPlain(text, ofThis);
+        places.replaceBroken(text, list.lists.roll(), ofThis);
         replacements.insert(replacements.end(), ofThis.begin(), ofThis.end());
     }
     return replaced(text, std::move(replacements));

@@ -161,7 +161,9 @@ EntryMatches matchEntries(const std::vector<Dictionary> &expected,
 
     QStringList editedButNumber = keys.edited;
     editedButNumber.removeOne(keys.number);
-    EntryPool foundSame, foundAlike, missingOfNumber, missingAlike;
+    // One that has all but its number is there; that it then looks like another is no second one.
+    const QStringList number = keys.number.isEmpty() ? QStringList() : QStringList(keys.number);
+    EntryPool foundSame, foundAlike, missingOfNumber, missingButNumber, missingAlike;
     for (std::size_t i = expected.size(); i-- > 0;) {
         const Dictionary alike = normalized(expected[i], keys.edited);
         if (isFound[i]) {
@@ -169,6 +171,7 @@ EntryMatches matchEntries(const std::vector<Dictionary> &expected,
             foundAlike.add(i, alike);
         } else {
             missingOfNumber.add(i, normalized(expected[i], editedButNumber));
+            missingButNumber.add(i, normalized(expected[i], number));
             missingAlike.add(i, alike);
         }
     }
@@ -179,6 +182,8 @@ EntryMatches matchEntries(const std::vector<Dictionary> &expected,
         const Dictionary alike = normalized(*entry, keys.edited);
         std::optional<std::size_t> changed =
             missingOfNumber.take(normalized(*entry, editedButNumber), isFound);
+        if (!changed)
+            changed = missingButNumber.take(normalized(*entry, number), isFound);
         std::optional<std::size_t> doubled;
         if (!changed)
             doubled = foundSame.take(normalized(*entry), isDoubled);

@@ -82,6 +82,10 @@
         <source></source>
         <translation>If you save now, the changes made by the other program will be lost.</translation>
     </message>
+    <message id="kChoosePlace">
+        <source></source>
+        <translation>Choose Another Place…</translation>
+    </message>
     <message id="kClearMenu">
         <source></source>
         <translation>Clear Menu</translation>
@@ -114,6 +118,10 @@
         <source></source>
         <translation>The file is empty or not a channel list.</translation>
     </message>
+    <message id="kCopyBecomesText">
+        <source></source>
+        <translation>If you save a copy, this window goes on with the copy: “Save” writes to it from then on.</translation>
+    </message>
     <message id="kCreateFailedReason">
         <source></source>
         <translation>No new file could be made in the folder “%1”: %2</translation>
@@ -125,6 +133,10 @@
     <message id="kDontSave">
         <source></source>
         <translation>Don’t Save</translation>
+    </message>
+    <message id="kExportFailedMessage">
+        <source></source>
+        <translation>The list could not be exported as “%1”.</translation>
     </message>
     <message id="kExportTitle">
         <source></source>
@@ -193,6 +205,14 @@
     <message id="kFilterUHD">
         <source></source>
         <translation>UHD</translation>
+    </message>
+    <message id="kGoneMessage">
+        <source></source>
+        <translation>“%1” is no longer there.</translation>
+    </message>
+    <message id="kGoneText">
+        <source></source>
+        <translation>The file was moved or deleted, or the disk it was on was removed. Saving here makes a new file in that place; if you want it on a stick, put the stick in first.</translation>
     </message>
     <message id="kHelpBack">
         <source></source>
@@ -537,6 +557,10 @@
         <source></source>
         <translation>No stations were found, because this is a text of another kind and not a TLL file.</translation>
     </message>
+    <message id="kNoticeReadOnly">
+        <source></source>
+        <translation>This file cannot be changed: it, its folder or its disk is write-protected. To keep your changes, save a copy; “Save” offers it.</translation>
+    </message>
     <message id="kNoticeUnread" numerus="yes">
         <source></source>
         <translation>
@@ -552,6 +576,10 @@
         <source></source>
         <translation>OK</translation>
     </message>
+    <message id="kOpenElsewhereReason">
+        <source></source>
+        <translation>This file is open in another window. Choose another name or another folder.</translation>
+    </message>
     <message id="kOpenFailedMessage">
         <source></source>
         <translation>“%1” could not be opened.</translation>
@@ -563,6 +591,10 @@
     <message id="kOpenTitle">
         <source></source>
         <translation>Open Channel List</translation>
+    </message>
+    <message id="kOwnFileReason">
+        <source></source>
+        <translation>This is the file of the list itself, and an export never replaces it. Choose another name or another folder.</translation>
     </message>
     <message id="kPageOf">
         <source></source>
@@ -583,6 +615,10 @@
     <message id="kRecentFileMissingMessage">
         <source></source>
         <translation>%1 is no longer there.</translation>
+    </message>
+    <message id="kReload">
+        <source></source>
+        <translation>Reload</translation>
     </message>
     <message id="kReplace">
         <source></source>
@@ -616,6 +652,10 @@
         <source></source>
         <translation>All changes you made since then will be lost.</translation>
     </message>
+    <message id="kReviewAlways">
+        <source></source>
+        <translation>Save all lists of this kind (JSON) repaired, without asking</translation>
+    </message>
     <message id="kReviewChanged" numerus="yes">
         <source></source>
         <translation>
@@ -629,6 +669,10 @@
             <numerusform>%n station would be in it twice: %1</numerusform>
             <numerusform>%n stations would be in it twice: %1</numerusform>
         </translation>
+    </message>
+    <message id="kReviewExport">
+        <source></source>
+        <translation>An export has this one form. Your own file stays as it is.</translation>
     </message>
     <message id="kReviewExtras">
         <source></source>
@@ -703,9 +747,21 @@
         <source></source>
         <translation>Your changes will be lost if you don’t save them.</translation>
     </message>
+    <message id="kSaveCopy">
+        <source></source>
+        <translation>Save a Copy…</translation>
+    </message>
+    <message id="kSaveCopyTitle">
+        <source></source>
+        <translation>Save a Copy</translation>
+    </message>
     <message id="kSaveFailedMessage">
         <source></source>
         <translation>“%1” could not be saved. The file on the disk was not changed.</translation>
+    </message>
+    <message id="kSaveHereAnyway">
+        <source></source>
+        <translation>Save Here Anyway</translation>
     </message>
     <message id="kSaveRepaired">
         <source></source>
@@ -714,6 +770,13 @@
     <message id="kSaveTitle">
         <source></source>
         <translation>Save Channel List</translation>
+    </message>
+    <message id="kSaveWithout" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Save Without %n Station</numerusform>
+            <numerusform>Save Without %n Stations</numerusform>
+        </translation>
     </message>
     <message id="kSearchPlaceholder">
         <source></source>
@@ -763,6 +826,10 @@ These go on from number: %3</translation>
     <message id="kTipSelectFirst">
         <source></source>
         <translation>Select stations in the list first</translation>
+    </message>
+    <message id="kToldRepaired">
+        <source></source>
+        <translation>Saved repaired, as you chose: nothing was lost.</translation>
     </message>
     <message id="kTV">
         <source></source>

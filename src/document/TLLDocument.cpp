@@ -14,9 +14,11 @@
 
 #include <QFileInfo>
 #include <QLoggingCategory>
+#include <QSettings>
 
 #include <algorithm>
 #include <array>
+#include <tuple>
 
 namespace quillet {
 
@@ -201,10 +203,19 @@ QByteArray TLLDocument::dataOfType(const QString &, Error &)
     return writeTLL(*this);
 }
 
-bool TLLDocument::canRead(const QByteArray &data, const QString &typeName, Error &error) const
+bool TLLDocument::replaceContent(const QByteArray &data, const QString &typeName, Error &error)
 {
-    TLLDocument probe;
-    return probe.readFromData(data, typeName, error);
+    TLLDocument fresh;
+    fresh.m_layout = m_layout; // lengths that a file does not give stay those of the one before
+    if (!fresh.readFromData(data, typeName, error))
+        return false;
+    const auto content = [](TLLDocument &of) {
+        return std::tie(of.m_text, of.m_xmlDictionary, of.m_parseError, of.m_repair, of.m_layout,
+                        of.m_legacyBroadcast, of.m_lists, of.m_digitalStations,
+                        of.m_analogStations, of.m_isLegacyFormat, of.m_savesRepaired);
+    };
+    content(*this) = content(fresh);
+    return true;
 }
 
 void TLLDocument::clearVars()
@@ -290,21 +301,15 @@ void TLLDocument::applyOrderFromRefList(const ReferenceList &entries, const QStr
 
 void TLLDocument::exportAsReferenceList()
 {
-    if (!prompts())
-        return;
     const QFileInfo file((fileUrl().isEmpty() ? suggestedUrl() : fileUrl()).toLocalFile());
     const SavePanel panel{.title = qtTrId("kExportTitle"),
                           .suggestedPath =
                               file.path() + u'/' + file.completeBaseName() + QLatin1String(".txt"),
                           .nameFilters = {qtTrId("kFilterTextFiles") + QLatin1String(" (*.txt)")}};
-    const QPointer guard(this);
-    prompts()->showSavePanel(sheetWindow(), panel, [this, guard](const QString &path) {
-        if (!guard || path.isEmpty())
-            return;
-        Error error;
-        if (saveCopy(path, QStringLiteral("Reference list"), error))
+    exportDocument(panel, QStringLiteral("Reference list"), [](bool isWritten, const Error &error) {
+        if (isWritten)
             qCInfo(log, "File export succeeded!");
-        else
+        else if (!error.isEmpty())
             qCWarning(log).noquote()
                 << QStringLiteral("File export failed: %1").arg(error.localizedDescription);
     });
@@ -343,25 +348,44 @@ void TLLDocument::makeWindowControllers()
     m_lgWindowController->populateFromTLLDoc(*this, {});
 }
 
-void TLLDocument::reviewSave(const QByteArray &bytes,
-                             const std::function<void(const std::optional<QByteArray> &)> &decided)
+bool TLLDocument::savesRepairedUnasked() const
 {
+    return m_repair || m_savesRepaired ||
+           (m_isLegacyFormat && QSettings().value(SaveReview::alwaysKey).toBool());
+}
+
+void TLLDocument::reviewSave(const QByteArray &bytes, SavePurpose purpose,
+                             const SaveJob::Client::Decided &decided)
+{
+    m_wasUnasked = false;
     const Rehearsal plain = rehearse(*this, bytes);
     if (plain.isClean())
         return decided(bytes);
-    const QByteArray repaired = repairedTLL(*this);
-    const Rehearsal ofRepaired = rehearse(*this, repaired);
-    if (m_repair && ofRepaired.isClean())
-        return decided(repaired); // a repaired copy was asked for
-    const bool isBetter = ofRepaired.weight() < plain.weight();
-    const SaveReview review =
-        reviewOfSave(displayName(), plain, isBetter ? std::optional(ofRepaired) : std::nullopt);
-    ask(review.alert, [bytes, repaired, decided, answers = review.answers](int button) {
+    QByteArray repaired;
+    std::optional<Rehearsal> ofRepaired; // of a better writing than the plain one
+    if (purpose == SavePurpose::Save) {
+        repaired = repairedTLL(*this);
+        ofRepaired = rehearse(*this, repaired);
+        if (savesRepairedUnasked() && ofRepaired->isClean()) {
+            m_wasUnasked = !m_repair; // what a copy was repaired for needs no word
+            return decided(repaired);
+        }
+        if (ofRepaired->weight() >= plain.weight())
+            ofRepaired.reset();
+    }
+    const SaveReview review = reviewOfSave(
+        displayName(), plain, ofRepaired,
+        purpose == SavePurpose::Export ? SaveReview::Kind::Export
+        : m_isLegacyFormat             ? SaveReview::Kind::JSONList
+                                       : SaveReview::Kind::List);
+    ask(review.alert, [=, this, answers = review.answers](const AlertAnswer &answer) {
         using Answer = SaveReview::Answer;
-        const Answer answer =
-            button < 0 ? Answer::Cancel : answers.at(static_cast<std::size_t>(button));
-        switch (answer) {
+        const auto button = static_cast<std::size_t>(answer.button);
+        switch (button < answers.size() ? answers[button] : Answer::Cancel) {
         case Answer::SaveRepaired:
+            m_savesRepaired = true;
+            if (answer.isChecked)
+                QSettings().setValue(SaveReview::alwaysKey, true);
             return decided(repaired);
         case Answer::SaveAnyway:
             return decided(bytes);
@@ -373,9 +397,12 @@ void TLLDocument::reviewSave(const QByteArray &bytes,
 
 void TLLDocument::documentWasSaved()
 {
+    m_savesRepaired = m_savesRepaired || m_repair;
     m_repair.reset();
     setDirtyFlag(false);
     Document::documentWasSaved();
+    if (m_wasUnasked)
+        emit told(qtTrId("kToldRepaired"));
 }
 
 } // namespace quillet

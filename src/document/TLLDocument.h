@@ -45,8 +45,7 @@ public:
 
     bool readFromData(const QByteArray &data, const QString &typeName, Error &error) override;
     [[nodiscard]] QByteArray dataOfType(const QString &typeName, Error &error) override;
-    [[nodiscard]] bool canRead(const QByteArray &data, const QString &typeName,
-                               Error &error) const override;
+    bool replaceContent(const QByteArray &data, const QString &typeName, Error &error) override;
     /// Reads the mended text of the file with that name.
     [[nodiscard]] bool readRepaired(const MendedText &mended, const QString &fileName);
     /// What was mended in the text that was read, until it is saved; none when nothing was.
@@ -125,9 +124,10 @@ public:
     void setIsInvisbleDocument(bool invisible) { m_isInvisbleDocument = invisible; }
 
 protected:
-    /// Asks when the bytes would lose something of what was read or edited.
-    void reviewSave(const QByteArray &bytes,
-                    const std::function<void(const std::optional<QByteArray> &)> &decided) override;
+    /// Asks when the bytes would lose something of what was read or edited, unless the person
+    /// chose before to have such a save repaired.
+    void reviewSave(const QByteArray &bytes, SavePurpose purpose,
+                    const SaveJob::Client::Decided &decided) override;
     void documentWasSaved() override;
 
 private:
@@ -136,6 +136,7 @@ private:
     [[nodiscard]] bool extractSection(const Dictionary &channel, QStringView name);
     [[nodiscard]] QString badFormatDetail() const;
     void updateStationPointer();
+    [[nodiscard]] bool savesRepairedUnasked() const;
 
     WindowFactory m_makeWindow;
     QPointer<TLLWindowController> m_lgWindowController;
@@ -143,6 +144,8 @@ private:
     Dictionary m_xmlDictionary;
     std::optional<ParseError> m_parseError;
     std::optional<Repair> m_repair;
+    bool m_savesRepaired = false; ///< a save in the repaired form was chosen once
+    bool m_wasUnasked = false;    ///< the save under way is repaired without a question
     FileLayout m_layout;
     LegacyBroadcast m_legacyBroadcast;
     StationLists m_lists;

@@ -9,19 +9,14 @@ CountingWindow::CountingWindow()
 {
 }
 
-bool BytesDocument::readFromData(const QByteArray &data, const QString &typeName, Error &error)
-{
-    if (!canRead(data, typeName, error))
-        return false;
-    content = data;
-    return true;
-}
-
-bool BytesDocument::canRead(const QByteArray &data, const QString &, Error &error) const
+bool BytesDocument::readFromData(const QByteArray &data, const QString &, Error &error)
 {
     if (data.startsWith("bad"))
         error = {QStringLiteral("BytesDocument"), -1, QStringLiteral("bad bytes"), {}};
-    return !data.isEmpty() && error.isEmpty();
+    const bool isReadable = !data.isEmpty() && error.isEmpty();
+    if (isReadable)
+        content = data;
+    return isReadable;
 }
 
 QByteArray BytesDocument::dataOfType(const QString &, Error &error)

@@ -24,8 +24,6 @@ class BytesDocument : public Document
 public:
     bool readFromData(const QByteArray &data, const QString &typeName, Error &error) override;
     [[nodiscard]] QByteArray dataOfType(const QString &typeName, Error &error) override;
-    [[nodiscard]] bool canRead(const QByteArray &data, const QString &typeName,
-                               Error &error) const override;
     void makeWindowControllers() override;
 
     /// A change by the user.

@@ -160,6 +160,7 @@ private slots:
         QCOMPARE(error.localizedDescription.contains(QLatin1String("fault")), hasSystemReason);
 
         std::optional<bool> isSaved;
+        prompts.answerAlert(QStringLiteral("kCancel"));
         document.saveDocument([&isSaved](bool saved) { isSaved = saved; });
         QCOMPARE(isSaved, std::optional<bool>(false));
         QVERIFY(document.isDocumentEdited());

@@ -2,6 +2,8 @@
 
 #include <QMainWindow>
 
+#include <utility>
+
 namespace quillet::testing {
 
 CountingWindow::CountingWindow()
@@ -29,6 +31,14 @@ QByteArray BytesDocument::dataOfType(const QString &, Error &error)
 void BytesDocument::makeWindowControllers()
 {
     addWindowController(std::make_unique<CountingWindow>());
+}
+
+void BytesDocument::reviewSave(const QByteArray &bytes, SavePurpose,
+                               const SaveJob::Client::Decided &decided)
+{
+    if (const auto happening = std::exchange(duringReview, {}))
+        happening();
+    decided(bytes);
 }
 
 void BytesDocument::edit(const QByteArray &bytes)

@@ -26,11 +26,15 @@ public:
     [[nodiscard]] QByteArray dataOfType(const QString &typeName, Error &error) override;
     void makeWindowControllers() override;
 
+    void reviewSave(const QByteArray &bytes, SavePurpose purpose,
+                    const SaveJob::Client::Decided &decided) override;
+
     /// A change by the user.
     void edit(const QByteArray &bytes);
     [[nodiscard]] CountingWindow &countingWindow() const;
 
     QByteArray content;
+    std::function<void()> duringReview; ///< what happens while a save is reviewed
     bool isUnwritable = false; ///< dataOfType fails
 };
 

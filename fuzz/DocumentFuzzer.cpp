@@ -145,7 +145,7 @@ void checkMending(const TLLDocument &document)
 void checkRehearsal(const TLLDocument &document, const QByteArray &saved)
 {
     const Rehearsal rehearsal = rehearse(document, saved);
-    require(rehearsal.isClean() || !reviewOfSave({}, rehearsal, {}).alert.buttons.isEmpty(),
+    require(rehearsal.isClean() || !reviewOfSave({}, rehearsal, {}, {}).alert.buttons.isEmpty(),
             "a loss is told");
     TLLDocument again;
     Error error;

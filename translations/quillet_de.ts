@@ -361,6 +361,10 @@
         <source></source>
         <translation>Ü&amp;ber Quillet</translation>
     </message>
+    <message id="kMenuAlwaysRepair">
+        <source></source>
+        <translation>JSON-Listen repariert speichern</translation>
+    </message>
     <message id="kMenuAnalogue">
         <source></source>
         <translation>Ana&amp;log</translation>

@@ -361,6 +361,10 @@
         <source></source>
         <translation>&amp;About Quillet</translation>
     </message>
+    <message id="kMenuAlwaysRepair">
+        <source></source>
+        <translation>Save JSON Lists Repaired</translation>
+    </message>
     <message id="kMenuAnalogue">
         <source></source>
         <translation>Ana&amp;logue</translation>

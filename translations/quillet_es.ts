@@ -361,6 +361,10 @@
         <source></source>
         <translation>&amp;Acerca de Quillet</translation>
     </message>
+    <message id="kMenuAlwaysRepair">
+        <source></source>
+        <translation>Guardar reparadas las listas JSON</translation>
+    </message>
     <message id="kMenuAnalogue">
         <source></source>
         <translation>Ana&amp;lógico</translation>

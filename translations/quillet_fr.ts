@@ -361,6 +361,10 @@
         <source></source>
         <translation>À &amp;propos de Quillet</translation>
     </message>
+    <message id="kMenuAlwaysRepair">
+        <source></source>
+        <translation>Enregistrer les listes JSON réparées</translation>
+    </message>
     <message id="kMenuAnalogue">
         <source></source>
         <translation>Ana&amp;logique</translation>

@@ -361,6 +361,10 @@
         <source></source>
         <translation>&amp;Informazioni su Quillet</translation>
     </message>
+    <message id="kMenuAlwaysRepair">
+        <source></source>
+        <translation>Salva riparate le liste JSON</translation>
+    </message>
     <message id="kMenuAnalogue">
         <source></source>
         <translation>Ana&amp;logico</translation>

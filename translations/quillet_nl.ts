@@ -361,6 +361,10 @@
         <source></source>
         <translation>&amp;Over Quillet</translation>
     </message>
+    <message id="kMenuAlwaysRepair">
+        <source></source>
+        <translation>JSON-lijsten hersteld opslaan</translation>
+    </message>
     <message id="kMenuAnalogue">
         <source></source>
         <translation>Ana&amp;loog</translation>

@@ -367,6 +367,10 @@
         <source></source>
         <translation>&amp;O programie Quillet</translation>
     </message>
+    <message id="kMenuAlwaysRepair">
+        <source></source>
+        <translation>Zapisuj listy JSON naprawione</translation>
+    </message>
     <message id="kMenuAnalogue">
         <source></source>
         <translation>Ana&amp;logowe</translation>

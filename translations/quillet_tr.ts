@@ -355,6 +355,10 @@
         <source></source>
         <translation>Quillet &amp;Hakkında</translation>
     </message>
+    <message id="kMenuAlwaysRepair">
+        <source></source>
+        <translation>JSON Listelerini Onarılmış Kaydet</translation>
+    </message>
     <message id="kMenuAnalogue">
         <source></source>
         <translation>Ana&amp;log</translation>

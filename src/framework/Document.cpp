@@ -2,6 +2,7 @@
 
 #include "files/FileOperations.h"
 #include "files/FileReading.h"
+#include "framework/WaitCursor.h"
 #include "framework/WindowController.h"
 
 #include <QEvent>
@@ -59,6 +60,7 @@ bool Document::readFromUrl(const QUrl &url, const QString &typeName, Error &erro
     QByteArray bytes;
     if (!readFile(url, bytes, error))
         return false;
+    const WaitCursor wait(bytes.size());
     if (!replaceContent(bytes, typeName, error)) {
         if (error.isEmpty())
             error = {QStringLiteral("Document"), 1, qtTrId("kContentUnknownReason"), path};

@@ -4,9 +4,11 @@
 #include "files/FilePlace.h"
 #include "framework/Prompts.h"
 #include "framework/RecentFiles.h"
+#include "framework/WaitCursor.h"
 #include "framework/WindowController.h"
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QMainWindow>
 #include <QPointer>
 
@@ -105,6 +107,7 @@ Document *DocumentController::open(const QUrl &url, Error &error)
     if (document) {
         document->raiseWindows();
     } else {
+        const WaitCursor wait(QFileInfo(url.toLocalFile()).size()); // until the window shows it
         auto made = m_makeDocument();
         made->setPrompts(&m_prompts);
         made->setFileUrl(url);

@@ -2,6 +2,7 @@
 
 #include "files/FilePlace.h"
 #include "framework/Document.h"
+#include "framework/WaitCursor.h"
 
 #include <QFileInfo>
 #include <QStandardPaths>
@@ -53,6 +54,7 @@ QByteArray DocumentSaving::makeBytes(Error &error)
 
 void DocumentSaving::review(const QByteArray &bytes, const Decided &decided)
 {
+    const WaitCursor wait(bytes.size());
     m_document.reviewSave(bytes, m_purpose, decided);
 }
 

@@ -60,7 +60,7 @@ bool Document::readFromUrl(const QUrl &url, const QString &typeName, Error &erro
     QByteArray bytes;
     if (!readFile(url, bytes, error))
         return false;
-    const WaitCursor wait(bytes.size());
+    const WaitCursor wait(WaitCursor::Work::Opening, bytes.size());
     if (!replaceContent(bytes, typeName, error)) {
         if (error.isEmpty())
             error = {QStringLiteral("Document"), 1, qtTrId("kContentUnknownReason"), path};

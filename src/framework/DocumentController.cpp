@@ -107,7 +107,7 @@ Document *DocumentController::open(const QUrl &url, Error &error)
     if (document) {
         document->raiseWindows();
     } else {
-        const WaitCursor wait(QFileInfo(url.toLocalFile()).size()); // until the window shows it
+        const WaitCursor wait(WaitCursor::Work::Opening, QFileInfo(url.toLocalFile()).size());
         auto made = m_makeDocument();
         made->setPrompts(&m_prompts);
         made->setFileUrl(url);

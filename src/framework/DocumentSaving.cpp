@@ -54,7 +54,7 @@ QByteArray DocumentSaving::makeBytes(Error &error)
 
 void DocumentSaving::review(const QByteArray &bytes, const Decided &decided)
 {
-    const WaitCursor wait(bytes.size());
+    const WaitCursor wait(WaitCursor::Work::Reviewing, bytes.size());
     m_document.reviewSave(bytes, m_purpose, decided);
 }
 

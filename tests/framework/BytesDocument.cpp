@@ -1,5 +1,6 @@
 #include "BytesDocument.h"
 
+#include <QGuiApplication>
 #include <QMainWindow>
 
 #include <utility>
@@ -15,6 +16,7 @@ bool BytesDocument::readFromData(const QByteArray &data, const QString &, Error 
 {
     if (data.startsWith("bad"))
         error = {QStringLiteral("BytesDocument"), -1, QStringLiteral("bad bytes"), {}};
+    hadWaitCursor = QGuiApplication::overrideCursor() != nullptr;
     const bool isReadable = !data.isEmpty() && error.isEmpty();
     if (isReadable)
         content = data;

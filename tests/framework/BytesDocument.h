@@ -35,6 +35,7 @@ public:
 
     QByteArray content;
     std::function<void()> duringReview; ///< what happens while a save is reviewed
+    bool hadWaitCursor = false; ///< when it was read last
     bool isUnwritable = false; ///< dataOfType fails
 };
 

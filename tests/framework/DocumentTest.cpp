@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QGuiApplication>
 #include <QMainWindow>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -97,6 +98,19 @@ private slots:
         QVERIFY(!error.isEmpty());
         QCOMPARE(document.content, QByteArray("before"));
         QVERIFY(document.isDocumentEdited());
+    }
+
+    void longWorkShowsAWaitCursor()
+    {
+        QVERIFY(!m_document->hadWaitCursor);
+        const auto isShown = [] { return QGuiApplication::overrideCursor() != nullptr; };
+        bool wasShown = false;
+        m_document->duringReview = [&] { wasShown = isShown(); };
+        m_document->edit(QByteArray(4'000'000, 'x'));
+        QCOMPARE(save(), std::optional<bool>(true));
+        QVERIFY(wasShown && !isShown());
+        m_document->revertDocumentToSaved();
+        QVERIFY(m_document->hadWaitCursor && !isShown());
     }
 
     void savingWritesAndClearsTheChanges()

@@ -5,8 +5,8 @@
 #include "document/SaveReview.h"
 #include "document/TLLDocument.h"
 #include "document/repair/FileDiagnosis.h"
-#include "document/repair/RepairedWriter.h"
 #include "document/repair/Mending.h"
+#include "document/repair/RepairedWriter.h"
 #include "support/TextConversion.h"
 
 #include <algorithm>
@@ -145,7 +145,7 @@ void checkMending(const TLLDocument &document)
 void checkRehearsal(const TLLDocument &document, const QByteArray &saved)
 {
     const Rehearsal rehearsal = rehearse(document.list(), saved);
-    require(rehearsal.isClean() || !reviewOfSave({}, rehearsal, {}).alert.buttons.isEmpty(),
+    require(rehearsal.isClean() || !reviewOfSave({}, rehearsal, {}, {}).alert.buttons.isEmpty(),
             "a loss is told");
     TLLDocument again;
     Error error;

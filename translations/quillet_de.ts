@@ -82,6 +82,10 @@
         <source></source>
         <translation>Wenn Sie jetzt speichern, gehen die Änderungen des anderen Programms verloren.</translation>
     </message>
+    <message id="kChoosePlace">
+        <source></source>
+        <translation>Anderen Ort wählen …</translation>
+    </message>
     <message id="kClearMenu">
         <source></source>
         <translation>Einträge löschen</translation>
@@ -114,6 +118,10 @@
         <source></source>
         <translation>Die Datei ist leer oder keine Senderliste.</translation>
     </message>
+    <message id="kCopyBecomesText">
+        <source></source>
+        <translation>Wenn Sie eine Kopie speichern, arbeitet dieses Fenster mit der Kopie weiter: „Speichern“ schreibt dann in sie.</translation>
+    </message>
     <message id="kCreateFailedReason">
         <source></source>
         <translation>Im Ordner „%1“ konnte keine neue Datei angelegt werden: %2</translation>
@@ -125,6 +133,10 @@
     <message id="kDontSave">
         <source></source>
         <translation>Nicht speichern</translation>
+    </message>
+    <message id="kExportFailedMessage">
+        <source></source>
+        <translation>Die Liste konnte nicht als „%1“ exportiert werden.</translation>
     </message>
     <message id="kExportTitle">
         <source></source>
@@ -193,6 +205,14 @@
     <message id="kFilterUHD">
         <source></source>
         <translation>UHD</translation>
+    </message>
+    <message id="kGoneMessage">
+        <source></source>
+        <translation>„%1“ ist nicht mehr da.</translation>
+    </message>
+    <message id="kGoneText">
+        <source></source>
+        <translation>Die Datei wurde verschoben oder gelöscht, oder der Datenträger, auf dem sie lag, wurde entfernt. Wenn Sie hier speichern, entsteht an dieser Stelle eine neue Datei; soll sie auf einen Stick, stecken Sie ihn zuerst ein.</translation>
     </message>
     <message id="kHelpBack">
         <source></source>
@@ -340,6 +360,10 @@
     <message id="kMenuAbout">
         <source></source>
         <translation>Ü&amp;ber Quillet</translation>
+    </message>
+    <message id="kMenuAlwaysRepair">
+        <source></source>
+        <translation>JSON-Listen repariert speichern</translation>
     </message>
     <message id="kMenuAnalogue">
         <source></source>
@@ -541,6 +565,10 @@
         <source></source>
         <translation>Es wurden keine Sender gefunden, denn dies ist ein Text anderer Art und keine TLL-Datei.</translation>
     </message>
+    <message id="kNoticeReadOnly">
+        <source></source>
+        <translation>Diese Datei kann nicht geändert werden: Sie selbst, ihr Ordner oder ihr Datenträger ist schreibgeschützt. Um Ihre Änderungen zu behalten, speichern Sie eine Kopie; „Speichern“ bietet das an.</translation>
+    </message>
     <message id="kNoticeUnread" numerus="yes">
         <source></source>
         <translation>
@@ -556,6 +584,10 @@
         <source></source>
         <translation>OK</translation>
     </message>
+    <message id="kOpenElsewhereReason">
+        <source></source>
+        <translation>Diese Datei ist in einem anderen Fenster geöffnet. Wählen Sie einen anderen Namen oder einen anderen Ordner.</translation>
+    </message>
     <message id="kOpenFailedMessage">
         <source></source>
         <translation>„%1“ konnte nicht geöffnet werden.</translation>
@@ -567,6 +599,10 @@
     <message id="kOpenTitle">
         <source></source>
         <translation>Senderliste öffnen</translation>
+    </message>
+    <message id="kOwnFileReason">
+        <source></source>
+        <translation>Das ist die Datei der Liste selbst, die ein Export nie ersetzt. Wählen Sie einen anderen Namen oder einen anderen Ordner.</translation>
     </message>
     <message id="kPageOf">
         <source></source>
@@ -587,6 +623,10 @@
     <message id="kRecentFileMissingMessage">
         <source></source>
         <translation>%1 ist nicht mehr vorhanden.</translation>
+    </message>
+    <message id="kReload">
+        <source></source>
+        <translation>Neu laden</translation>
     </message>
     <message id="kReplace">
         <source></source>
@@ -620,6 +660,10 @@
         <source></source>
         <translation>Alle seitdem vorgenommenen Änderungen gehen verloren.</translation>
     </message>
+    <message id="kReviewAlways">
+        <source></source>
+        <translation>Alle Listen dieser Art (JSON) ohne Rückfrage repariert speichern</translation>
+    </message>
     <message id="kReviewChanged" numerus="yes">
         <source></source>
         <translation>
@@ -637,6 +681,10 @@
     <message id="kReviewEncoding">
         <source></source>
         <translation>Die Buchstaben mit Akzent würden als UTF-8 geschrieben, was nicht die Codierung ist, die die Datei angibt.</translation>
+    </message>
+    <message id="kReviewExport">
+        <source></source>
+        <translation>Ein Export hat nur diese eine Form. Ihre eigene Datei bleibt, wie sie ist.</translation>
     </message>
     <message id="kReviewExtras">
         <source></source>
@@ -718,9 +766,21 @@
         <source></source>
         <translation>Ihre Änderungen gehen verloren, wenn Sie sie nicht speichern.</translation>
     </message>
+    <message id="kSaveCopy">
+        <source></source>
+        <translation>Kopie speichern …</translation>
+    </message>
+    <message id="kSaveCopyTitle">
+        <source></source>
+        <translation>Kopie speichern</translation>
+    </message>
     <message id="kSaveFailedMessage">
         <source></source>
         <translation>„%1“ konnte nicht gespeichert werden. Die Datei auf dem Datenträger wurde nicht verändert.</translation>
+    </message>
+    <message id="kSaveHereAnyway">
+        <source></source>
+        <translation>Trotzdem hier speichern</translation>
     </message>
     <message id="kSaveRepaired">
         <source></source>
@@ -729,6 +789,13 @@
     <message id="kSaveTitle">
         <source></source>
         <translation>Senderliste speichern</translation>
+    </message>
+    <message id="kSaveWithout" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Ohne %n Sender speichern</numerusform>
+            <numerusform>Ohne %n Sender speichern</numerusform>
+        </translation>
     </message>
     <message id="kSearchPlaceholder">
         <source></source>
@@ -778,6 +845,10 @@ Diese folgen ab Nummer: %3</translation>
     <message id="kTipSelectFirst">
         <source></source>
         <translation>Wählen Sie zuerst Sender in der Liste aus</translation>
+    </message>
+    <message id="kToldRepaired">
+        <source></source>
+        <translation>Repariert gespeichert, wie Sie es gewählt haben: Es ging nichts verloren.</translation>
     </message>
     <message id="kTV">
         <source></source>

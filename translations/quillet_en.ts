@@ -82,6 +82,10 @@
         <source></source>
         <translation>If you save now, the changes made by the other program will be lost.</translation>
     </message>
+    <message id="kChoosePlace">
+        <source></source>
+        <translation>Choose Another Place…</translation>
+    </message>
     <message id="kClearMenu">
         <source></source>
         <translation>Clear Menu</translation>
@@ -114,6 +118,10 @@
         <source></source>
         <translation>The file is empty or not a channel list.</translation>
     </message>
+    <message id="kCopyBecomesText">
+        <source></source>
+        <translation>If you save a copy, this window goes on with the copy: “Save” writes to it from then on.</translation>
+    </message>
     <message id="kCreateFailedReason">
         <source></source>
         <translation>No new file could be made in the folder “%1”: %2</translation>
@@ -125,6 +133,10 @@
     <message id="kDontSave">
         <source></source>
         <translation>Don’t Save</translation>
+    </message>
+    <message id="kExportFailedMessage">
+        <source></source>
+        <translation>The list could not be exported as “%1”.</translation>
     </message>
     <message id="kExportTitle">
         <source></source>
@@ -193,6 +205,14 @@
     <message id="kFilterUHD">
         <source></source>
         <translation>UHD</translation>
+    </message>
+    <message id="kGoneMessage">
+        <source></source>
+        <translation>“%1” is no longer there.</translation>
+    </message>
+    <message id="kGoneText">
+        <source></source>
+        <translation>The file was moved or deleted, or the disk it was on was removed. Saving here makes a new file in that place; if you want it on a stick, put the stick in first.</translation>
     </message>
     <message id="kHelpBack">
         <source></source>
@@ -340,6 +360,10 @@
     <message id="kMenuAbout">
         <source></source>
         <translation>&amp;About Quillet</translation>
+    </message>
+    <message id="kMenuAlwaysRepair">
+        <source></source>
+        <translation>Save JSON Lists Repaired</translation>
     </message>
     <message id="kMenuAnalogue">
         <source></source>
@@ -541,6 +565,10 @@
         <source></source>
         <translation>No stations were found, because this is a text of another kind and not a TLL file.</translation>
     </message>
+    <message id="kNoticeReadOnly">
+        <source></source>
+        <translation>This file cannot be changed: it, its folder or its disk is write-protected. To keep your changes, save a copy; “Save” offers it.</translation>
+    </message>
     <message id="kNoticeUnread" numerus="yes">
         <source></source>
         <translation>
@@ -556,6 +584,10 @@
         <source></source>
         <translation>OK</translation>
     </message>
+    <message id="kOpenElsewhereReason">
+        <source></source>
+        <translation>This file is open in another window. Choose another name or another folder.</translation>
+    </message>
     <message id="kOpenFailedMessage">
         <source></source>
         <translation>“%1” could not be opened.</translation>
@@ -567,6 +599,10 @@
     <message id="kOpenTitle">
         <source></source>
         <translation>Open Channel List</translation>
+    </message>
+    <message id="kOwnFileReason">
+        <source></source>
+        <translation>This is the file of the list itself, and an export never replaces it. Choose another name or another folder.</translation>
     </message>
     <message id="kPageOf">
         <source></source>
@@ -587,6 +623,10 @@
     <message id="kRecentFileMissingMessage">
         <source></source>
         <translation>%1 is no longer there.</translation>
+    </message>
+    <message id="kReload">
+        <source></source>
+        <translation>Reload</translation>
     </message>
     <message id="kReplace">
         <source></source>
@@ -620,6 +660,10 @@
         <source></source>
         <translation>All changes you made since then will be lost.</translation>
     </message>
+    <message id="kReviewAlways">
+        <source></source>
+        <translation>Save all lists of this kind (JSON) repaired, without asking</translation>
+    </message>
     <message id="kReviewChanged" numerus="yes">
         <source></source>
         <translation>
@@ -637,6 +681,10 @@
     <message id="kReviewEncoding">
         <source></source>
         <translation>The accented letters would be written as UTF-8, which is not the encoding that the file declares.</translation>
+    </message>
+    <message id="kReviewExport">
+        <source></source>
+        <translation>An export has this one form. Your own file stays as it is.</translation>
     </message>
     <message id="kReviewExtras">
         <source></source>
@@ -718,9 +766,21 @@
         <source></source>
         <translation>Your changes will be lost if you don’t save them.</translation>
     </message>
+    <message id="kSaveCopy">
+        <source></source>
+        <translation>Save a Copy…</translation>
+    </message>
+    <message id="kSaveCopyTitle">
+        <source></source>
+        <translation>Save a Copy</translation>
+    </message>
     <message id="kSaveFailedMessage">
         <source></source>
         <translation>“%1” could not be saved. The file on the disk was not changed.</translation>
+    </message>
+    <message id="kSaveHereAnyway">
+        <source></source>
+        <translation>Save Here Anyway</translation>
     </message>
     <message id="kSaveRepaired">
         <source></source>
@@ -729,6 +789,13 @@
     <message id="kSaveTitle">
         <source></source>
         <translation>Save Channel List</translation>
+    </message>
+    <message id="kSaveWithout" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Save Without %n Station</numerusform>
+            <numerusform>Save Without %n Stations</numerusform>
+        </translation>
     </message>
     <message id="kSearchPlaceholder">
         <source></source>
@@ -778,6 +845,10 @@ These go on from number: %3</translation>
     <message id="kTipSelectFirst">
         <source></source>
         <translation>Select stations in the list first</translation>
+    </message>
+    <message id="kToldRepaired">
+        <source></source>
+        <translation>Saved repaired, as you chose: nothing was lost.</translation>
     </message>
     <message id="kTV">
         <source></source>

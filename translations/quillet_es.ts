@@ -82,6 +82,10 @@
         <source></source>
         <translation>Si guarda ahora, se perderán los cambios hechos por el otro programa.</translation>
     </message>
+    <message id="kChoosePlace">
+        <source></source>
+        <translation>Elegir otro lugar…</translation>
+    </message>
     <message id="kClearMenu">
         <source></source>
         <translation>Vaciar menú</translation>
@@ -114,6 +118,10 @@
         <source></source>
         <translation>El archivo está vacío o no es una lista de canales.</translation>
     </message>
+    <message id="kCopyBecomesText">
+        <source></source>
+        <translation>Si guarda una copia, esta ventana continúa con ella: a partir de entonces, «Guardar» escribe en la copia.</translation>
+    </message>
     <message id="kCreateFailedReason">
         <source></source>
         <translation>No se ha podido crear un archivo nuevo en la carpeta «%1»: %2</translation>
@@ -125,6 +133,10 @@
     <message id="kDontSave">
         <source></source>
         <translation>No guardar</translation>
+    </message>
+    <message id="kExportFailedMessage">
+        <source></source>
+        <translation>No se ha podido exportar la lista como «%1».</translation>
     </message>
     <message id="kExportTitle">
         <source></source>
@@ -193,6 +205,14 @@
     <message id="kFilterUHD">
         <source></source>
         <translation>UHD</translation>
+    </message>
+    <message id="kGoneMessage">
+        <source></source>
+        <translation>«%1» ya no está.</translation>
+    </message>
+    <message id="kGoneText">
+        <source></source>
+        <translation>El archivo se ha movido o eliminado, o se ha retirado la unidad en la que estaba. Si guarda aquí, se creará un archivo nuevo en ese lugar; si lo quiere en una memoria USB, conéctela antes.</translation>
     </message>
     <message id="kHelpBack">
         <source></source>
@@ -340,6 +360,10 @@
     <message id="kMenuAbout">
         <source></source>
         <translation>&amp;Acerca de Quillet</translation>
+    </message>
+    <message id="kMenuAlwaysRepair">
+        <source></source>
+        <translation>Guardar reparadas las listas JSON</translation>
     </message>
     <message id="kMenuAnalogue">
         <source></source>
@@ -541,6 +565,10 @@
         <source></source>
         <translation>No se ha encontrado ningún canal, porque este es un texto de otro tipo y no un archivo TLL.</translation>
     </message>
+    <message id="kNoticeReadOnly">
+        <source></source>
+        <translation>Este archivo no se puede modificar: el archivo, su carpeta o su unidad están protegidos contra escritura. Para conservar sus cambios, guarde una copia; «Guardar» lo ofrece.</translation>
+    </message>
     <message id="kNoticeUnread" numerus="yes">
         <source></source>
         <translation>
@@ -556,6 +584,10 @@
         <source></source>
         <translation>Aceptar</translation>
     </message>
+    <message id="kOpenElsewhereReason">
+        <source></source>
+        <translation>Este archivo está abierto en otra ventana. Elija otro nombre u otra carpeta.</translation>
+    </message>
     <message id="kOpenFailedMessage">
         <source></source>
         <translation>No se ha podido abrir «%1».</translation>
@@ -567,6 +599,10 @@
     <message id="kOpenTitle">
         <source></source>
         <translation>Abrir lista de canales</translation>
+    </message>
+    <message id="kOwnFileReason">
+        <source></source>
+        <translation>Es el archivo de la propia lista, que una exportación nunca sustituye. Elija otro nombre u otra carpeta.</translation>
     </message>
     <message id="kPageOf">
         <source></source>
@@ -587,6 +623,10 @@
     <message id="kRecentFileMissingMessage">
         <source></source>
         <translation>%1 ya no existe.</translation>
+    </message>
+    <message id="kReload">
+        <source></source>
+        <translation>Volver a cargar</translation>
     </message>
     <message id="kReplace">
         <source></source>
@@ -620,6 +660,10 @@
         <source></source>
         <translation>Se perderán todos los cambios hechos desde entonces.</translation>
     </message>
+    <message id="kReviewAlways">
+        <source></source>
+        <translation>Guardar reparadas todas las listas de este tipo (JSON), sin preguntar</translation>
+    </message>
     <message id="kReviewChanged" numerus="yes">
         <source></source>
         <translation>
@@ -637,6 +681,10 @@
     <message id="kReviewEncoding">
         <source></source>
         <translation>Las letras con acento se escribirían en UTF-8, que no es la codificación que declara el archivo.</translation>
+    </message>
+    <message id="kReviewExport">
+        <source></source>
+        <translation>Una exportación solo tiene esta forma. Su propio archivo queda como está.</translation>
     </message>
     <message id="kReviewExtras">
         <source></source>
@@ -718,9 +766,21 @@
         <source></source>
         <translation>Si no guarda los cambios, se perderán.</translation>
     </message>
+    <message id="kSaveCopy">
+        <source></source>
+        <translation>Guardar una copia…</translation>
+    </message>
+    <message id="kSaveCopyTitle">
+        <source></source>
+        <translation>Guardar una copia</translation>
+    </message>
     <message id="kSaveFailedMessage">
         <source></source>
         <translation>No se ha podido guardar «%1». El archivo del disco no se ha modificado.</translation>
+    </message>
+    <message id="kSaveHereAnyway">
+        <source></source>
+        <translation>Guardar aquí de todos modos</translation>
     </message>
     <message id="kSaveRepaired">
         <source></source>
@@ -729,6 +789,13 @@
     <message id="kSaveTitle">
         <source></source>
         <translation>Guardar la lista de canales</translation>
+    </message>
+    <message id="kSaveWithout" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Guardar sin %n canal</numerusform>
+            <numerusform>Guardar sin %n canales</numerusform>
+        </translation>
     </message>
     <message id="kSearchPlaceholder">
         <source></source>
@@ -778,6 +845,10 @@ Estos continúan a partir del número: %3</translation>
     <message id="kTipSelectFirst">
         <source></source>
         <translation>Seleccione primero canales en la lista</translation>
+    </message>
+    <message id="kToldRepaired">
+        <source></source>
+        <translation>Guardado reparado, como eligió: no se ha perdido nada.</translation>
     </message>
     <message id="kTV">
         <source></source>

@@ -82,6 +82,10 @@
         <source></source>
         <translation>Si vous enregistrez maintenant, les modifications de l’autre programme seront perdues.</translation>
     </message>
+    <message id="kChoosePlace">
+        <source></source>
+        <translation>Choisir un autre emplacement…</translation>
+    </message>
     <message id="kClearMenu">
         <source></source>
         <translation>Effacer le menu</translation>
@@ -114,6 +118,10 @@
         <source></source>
         <translation>Le fichier est vide ou n’est pas une liste de chaînes.</translation>
     </message>
+    <message id="kCopyBecomesText">
+        <source></source>
+        <translation>Si vous enregistrez une copie, cette fenêtre continue avec elle : « Enregistrer » écrira désormais dans la copie.</translation>
+    </message>
     <message id="kCreateFailedReason">
         <source></source>
         <translation>Impossible de créer un fichier dans le dossier « %1 » : %2</translation>
@@ -125,6 +133,10 @@
     <message id="kDontSave">
         <source></source>
         <translation>Ne pas enregistrer</translation>
+    </message>
+    <message id="kExportFailedMessage">
+        <source></source>
+        <translation>Impossible d’exporter la liste sous le nom « %1 ».</translation>
     </message>
     <message id="kExportTitle">
         <source></source>
@@ -193,6 +205,14 @@
     <message id="kFilterUHD">
         <source></source>
         <translation>UHD</translation>
+    </message>
+    <message id="kGoneMessage">
+        <source></source>
+        <translation>« %1 » n’est plus là.</translation>
+    </message>
+    <message id="kGoneText">
+        <source></source>
+        <translation>Le fichier a été déplacé ou supprimé, ou le disque qui le contenait a été retiré. Enregistrer ici crée un nouveau fichier à cet endroit ; si vous le voulez sur une clé, branchez-la d’abord.</translation>
     </message>
     <message id="kHelpBack">
         <source></source>
@@ -340,6 +360,10 @@
     <message id="kMenuAbout">
         <source></source>
         <translation>À &amp;propos de Quillet</translation>
+    </message>
+    <message id="kMenuAlwaysRepair">
+        <source></source>
+        <translation>Enregistrer les listes JSON réparées</translation>
     </message>
     <message id="kMenuAnalogue">
         <source></source>
@@ -541,6 +565,10 @@
         <source></source>
         <translation>Aucune chaîne n’a été trouvée, car ceci est un autre type de texte et non un fichier TLL.</translation>
     </message>
+    <message id="kNoticeReadOnly">
+        <source></source>
+        <translation>Ce fichier ne peut pas être modifié : lui, son dossier ou son disque est protégé en écriture. Pour garder vos modifications, enregistrez une copie ; « Enregistrer » le propose.</translation>
+    </message>
     <message id="kNoticeUnread" numerus="yes">
         <source></source>
         <translation>
@@ -556,6 +584,10 @@
         <source></source>
         <translation>OK</translation>
     </message>
+    <message id="kOpenElsewhereReason">
+        <source></source>
+        <translation>Ce fichier est ouvert dans une autre fenêtre. Choisissez un autre nom ou un autre dossier.</translation>
+    </message>
     <message id="kOpenFailedMessage">
         <source></source>
         <translation>Impossible d’ouvrir « %1 ».</translation>
@@ -567,6 +599,10 @@
     <message id="kOpenTitle">
         <source></source>
         <translation>Ouvrir une liste de chaînes</translation>
+    </message>
+    <message id="kOwnFileReason">
+        <source></source>
+        <translation>C’est le fichier de la liste elle-même, qu’une exportation ne remplace jamais. Choisissez un autre nom ou un autre dossier.</translation>
     </message>
     <message id="kPageOf">
         <source></source>
@@ -587,6 +623,10 @@
     <message id="kRecentFileMissingMessage">
         <source></source>
         <translation>%1 n’existe plus.</translation>
+    </message>
+    <message id="kReload">
+        <source></source>
+        <translation>Recharger</translation>
     </message>
     <message id="kReplace">
         <source></source>
@@ -620,6 +660,10 @@
         <source></source>
         <translation>Toutes les modifications faites depuis seront perdues.</translation>
     </message>
+    <message id="kReviewAlways">
+        <source></source>
+        <translation>Enregistrer toutes les listes de ce type (JSON) réparées, sans demander</translation>
+    </message>
     <message id="kReviewChanged" numerus="yes">
         <source></source>
         <translation>
@@ -637,6 +681,10 @@
     <message id="kReviewEncoding">
         <source></source>
         <translation>Les lettres accentuées seraient écrites en UTF-8, qui n’est pas l’encodage déclaré par le fichier.</translation>
+    </message>
+    <message id="kReviewExport">
+        <source></source>
+        <translation>Une exportation n’a que cette forme. Votre propre fichier reste tel quel.</translation>
     </message>
     <message id="kReviewExtras">
         <source></source>
@@ -718,9 +766,21 @@
         <source></source>
         <translation>Vos modifications seront perdues si vous ne les enregistrez pas.</translation>
     </message>
+    <message id="kSaveCopy">
+        <source></source>
+        <translation>Enregistrer une copie…</translation>
+    </message>
+    <message id="kSaveCopyTitle">
+        <source></source>
+        <translation>Enregistrer une copie</translation>
+    </message>
     <message id="kSaveFailedMessage">
         <source></source>
         <translation>Impossible d’enregistrer « %1 ». Le fichier sur le disque n’a pas été modifié.</translation>
+    </message>
+    <message id="kSaveHereAnyway">
+        <source></source>
+        <translation>Enregistrer ici quand même</translation>
     </message>
     <message id="kSaveRepaired">
         <source></source>
@@ -729,6 +789,13 @@
     <message id="kSaveTitle">
         <source></source>
         <translation>Enregistrer la liste de chaînes</translation>
+    </message>
+    <message id="kSaveWithout" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Enregistrer sans %n chaîne</numerusform>
+            <numerusform>Enregistrer sans %n chaînes</numerusform>
+        </translation>
     </message>
     <message id="kSearchPlaceholder">
         <source></source>
@@ -778,6 +845,10 @@ Ces dernières suivent à partir du numéro : %3</translation>
     <message id="kTipSelectFirst">
         <source></source>
         <translation>Sélectionnez d’abord des chaînes dans la liste</translation>
+    </message>
+    <message id="kToldRepaired">
+        <source></source>
+        <translation>Version réparée enregistrée, selon votre choix : rien n’a été perdu.</translation>
     </message>
     <message id="kTV">
         <source></source>

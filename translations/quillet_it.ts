@@ -82,6 +82,10 @@
         <source></source>
         <translation>Se salvi ora, le modifiche apportate dall’altro programma andranno perse.</translation>
     </message>
+    <message id="kChoosePlace">
+        <source></source>
+        <translation>Scegli un’altra posizione…</translation>
+    </message>
     <message id="kClearMenu">
         <source></source>
         <translation>Cancella menu</translation>
@@ -114,6 +118,10 @@
         <source></source>
         <translation>Il file è vuoto o non è una lista di canali.</translation>
     </message>
+    <message id="kCopyBecomesText">
+        <source></source>
+        <translation>Se salvi una copia, questa finestra prosegue con la copia: da quel momento “Salva” scrive in essa.</translation>
+    </message>
     <message id="kCreateFailedReason">
         <source></source>
         <translation>Impossibile creare un nuovo file nella cartella “%1”: %2</translation>
@@ -125,6 +133,10 @@
     <message id="kDontSave">
         <source></source>
         <translation>Non salvare</translation>
+    </message>
+    <message id="kExportFailedMessage">
+        <source></source>
+        <translation>Impossibile esportare la lista come “%1”.</translation>
     </message>
     <message id="kExportTitle">
         <source></source>
@@ -193,6 +205,14 @@
     <message id="kFilterUHD">
         <source></source>
         <translation>UHD</translation>
+    </message>
+    <message id="kGoneMessage">
+        <source></source>
+        <translation>“%1” non c’è più.</translation>
+    </message>
+    <message id="kGoneText">
+        <source></source>
+        <translation>Il file è stato spostato o eliminato, oppure il disco su cui si trovava è stato rimosso. Salvando qui si crea un nuovo file in quel punto; se lo vuoi su una chiavetta, inseriscila prima.</translation>
     </message>
     <message id="kHelpBack">
         <source></source>
@@ -340,6 +360,10 @@
     <message id="kMenuAbout">
         <source></source>
         <translation>&amp;Informazioni su Quillet</translation>
+    </message>
+    <message id="kMenuAlwaysRepair">
+        <source></source>
+        <translation>Salva riparate le liste JSON</translation>
     </message>
     <message id="kMenuAnalogue">
         <source></source>
@@ -541,6 +565,10 @@
         <source></source>
         <translation>Non è stato trovato alcun canale, perché questo è un testo di altro tipo e non un file TLL.</translation>
     </message>
+    <message id="kNoticeReadOnly">
+        <source></source>
+        <translation>Questo file non può essere modificato: il file, la sua cartella o il suo disco è protetto da scrittura. Per conservare le modifiche, salva una copia; “Salva” lo propone.</translation>
+    </message>
     <message id="kNoticeUnread" numerus="yes">
         <source></source>
         <translation>
@@ -556,6 +584,10 @@
         <source></source>
         <translation>OK</translation>
     </message>
+    <message id="kOpenElsewhereReason">
+        <source></source>
+        <translation>Questo file è aperto in un’altra finestra. Scegli un altro nome o un’altra cartella.</translation>
+    </message>
     <message id="kOpenFailedMessage">
         <source></source>
         <translation>Impossibile aprire “%1”.</translation>
@@ -567,6 +599,10 @@
     <message id="kOpenTitle">
         <source></source>
         <translation>Apri lista di canali</translation>
+    </message>
+    <message id="kOwnFileReason">
+        <source></source>
+        <translation>Questo è il file della lista stessa, che un’esportazione non sostituisce mai. Scegli un altro nome o un’altra cartella.</translation>
     </message>
     <message id="kPageOf">
         <source></source>
@@ -587,6 +623,10 @@
     <message id="kRecentFileMissingMessage">
         <source></source>
         <translation>%1 non esiste più.</translation>
+    </message>
+    <message id="kReload">
+        <source></source>
+        <translation>Ricarica</translation>
     </message>
     <message id="kReplace">
         <source></source>
@@ -620,6 +660,10 @@
         <source></source>
         <translation>Tutte le modifiche fatte da allora andranno perse.</translation>
     </message>
+    <message id="kReviewAlways">
+        <source></source>
+        <translation>Salva riparate tutte le liste di questo tipo (JSON), senza chiedere</translation>
+    </message>
     <message id="kReviewChanged" numerus="yes">
         <source></source>
         <translation>
@@ -637,6 +681,10 @@
     <message id="kReviewEncoding">
         <source></source>
         <translation>Le lettere accentate verrebbero scritte in UTF-8, che non è la codifica dichiarata dal file.</translation>
+    </message>
+    <message id="kReviewExport">
+        <source></source>
+        <translation>Un’esportazione ha solo questa forma. Il tuo file resta com’è.</translation>
     </message>
     <message id="kReviewExtras">
         <source></source>
@@ -718,9 +766,21 @@
         <source></source>
         <translation>Se non salvi le modifiche, andranno perse.</translation>
     </message>
+    <message id="kSaveCopy">
+        <source></source>
+        <translation>Salva una copia…</translation>
+    </message>
+    <message id="kSaveCopyTitle">
+        <source></source>
+        <translation>Salva una copia</translation>
+    </message>
     <message id="kSaveFailedMessage">
         <source></source>
         <translation>Impossibile salvare “%1”. Il file sul disco non è stato modificato.</translation>
+    </message>
+    <message id="kSaveHereAnyway">
+        <source></source>
+        <translation>Salva qui comunque</translation>
     </message>
     <message id="kSaveRepaired">
         <source></source>
@@ -729,6 +789,13 @@
     <message id="kSaveTitle">
         <source></source>
         <translation>Salva lista di canali</translation>
+    </message>
+    <message id="kSaveWithout" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Salva senza %n canale</numerusform>
+            <numerusform>Salva senza %n canali</numerusform>
+        </translation>
     </message>
     <message id="kSearchPlaceholder">
         <source></source>
@@ -778,6 +845,10 @@ Questi proseguono dal numero: %3</translation>
     <message id="kTipSelectFirst">
         <source></source>
         <translation>Seleziona prima dei canali nella lista</translation>
+    </message>
+    <message id="kToldRepaired">
+        <source></source>
+        <translation>Salvato riparato, come hai scelto: non è andato perso nulla.</translation>
     </message>
     <message id="kTV">
         <source></source>

@@ -82,6 +82,10 @@
         <source></source>
         <translation>Als u nu opslaat, gaan de wijzigingen van het andere programma verloren.</translation>
     </message>
+    <message id="kChoosePlace">
+        <source></source>
+        <translation>Andere plaats kiezen…</translation>
+    </message>
     <message id="kClearMenu">
         <source></source>
         <translation>Menu wissen</translation>
@@ -114,6 +118,10 @@
         <source></source>
         <translation>Het bestand is leeg of geen zenderlijst.</translation>
     </message>
+    <message id="kCopyBecomesText">
+        <source></source>
+        <translation>Als u een kopie opslaat, gaat dit venster met de kopie verder: “Opslaan” schrijft voortaan daarin.</translation>
+    </message>
     <message id="kCreateFailedReason">
         <source></source>
         <translation>In de map “%1” kon geen nieuw bestand worden gemaakt: %2</translation>
@@ -125,6 +133,10 @@
     <message id="kDontSave">
         <source></source>
         <translation>Niet opslaan</translation>
+    </message>
+    <message id="kExportFailedMessage">
+        <source></source>
+        <translation>De lijst kon niet als “%1” worden geëxporteerd.</translation>
     </message>
     <message id="kExportTitle">
         <source></source>
@@ -193,6 +205,14 @@
     <message id="kFilterUHD">
         <source></source>
         <translation>UHD</translation>
+    </message>
+    <message id="kGoneMessage">
+        <source></source>
+        <translation>“%1” is er niet meer.</translation>
+    </message>
+    <message id="kGoneText">
+        <source></source>
+        <translation>Het bestand is verplaatst of verwijderd, of de schijf waarop het stond is losgekoppeld. Als u hier opslaat, ontstaat op die plek een nieuw bestand; wilt u het op een USB-stick, sluit die dan eerst aan.</translation>
     </message>
     <message id="kHelpBack">
         <source></source>
@@ -340,6 +360,10 @@
     <message id="kMenuAbout">
         <source></source>
         <translation>&amp;Over Quillet</translation>
+    </message>
+    <message id="kMenuAlwaysRepair">
+        <source></source>
+        <translation>JSON-lijsten hersteld opslaan</translation>
     </message>
     <message id="kMenuAnalogue">
         <source></source>
@@ -541,6 +565,10 @@
         <source></source>
         <translation>Er zijn geen zenders gevonden, want dit is een ander soort tekst en geen TLL-bestand.</translation>
     </message>
+    <message id="kNoticeReadOnly">
+        <source></source>
+        <translation>Dit bestand kan niet worden gewijzigd: het bestand, de map of de schijf is tegen schrijven beveiligd. Sla een kopie op om uw wijzigingen te bewaren; “Opslaan” biedt dat aan.</translation>
+    </message>
     <message id="kNoticeUnread" numerus="yes">
         <source></source>
         <translation>
@@ -556,6 +584,10 @@
         <source></source>
         <translation>OK</translation>
     </message>
+    <message id="kOpenElsewhereReason">
+        <source></source>
+        <translation>Dit bestand is in een ander venster geopend. Kies een andere naam of een andere map.</translation>
+    </message>
     <message id="kOpenFailedMessage">
         <source></source>
         <translation>“%1” kon niet worden geopend.</translation>
@@ -567,6 +599,10 @@
     <message id="kOpenTitle">
         <source></source>
         <translation>Zenderlijst openen</translation>
+    </message>
+    <message id="kOwnFileReason">
+        <source></source>
+        <translation>Dit is het bestand van de lijst zelf, dat door exporteren nooit wordt vervangen. Kies een andere naam of een andere map.</translation>
     </message>
     <message id="kPageOf">
         <source></source>
@@ -587,6 +623,10 @@
     <message id="kRecentFileMissingMessage">
         <source></source>
         <translation>%1 bestaat niet meer.</translation>
+    </message>
+    <message id="kReload">
+        <source></source>
+        <translation>Opnieuw laden</translation>
     </message>
     <message id="kReplace">
         <source></source>
@@ -620,6 +660,10 @@
         <source></source>
         <translation>Alle wijzigingen die u sindsdien hebt aangebracht, gaan verloren.</translation>
     </message>
+    <message id="kReviewAlways">
+        <source></source>
+        <translation>Alle lijsten van dit soort (JSON) hersteld opslaan, zonder te vragen</translation>
+    </message>
     <message id="kReviewChanged" numerus="yes">
         <source></source>
         <translation>
@@ -637,6 +681,10 @@
     <message id="kReviewEncoding">
         <source></source>
         <translation>De letters met accenten zouden als UTF-8 worden geschreven, wat niet de codering is die het bestand opgeeft.</translation>
+    </message>
+    <message id="kReviewExport">
+        <source></source>
+        <translation>Exporteren kan alleen in deze vorm. Uw eigen bestand blijft zoals het is.</translation>
     </message>
     <message id="kReviewExtras">
         <source></source>
@@ -718,9 +766,21 @@
         <source></source>
         <translation>Uw wijzigingen gaan verloren als u ze niet opslaat.</translation>
     </message>
+    <message id="kSaveCopy">
+        <source></source>
+        <translation>Kopie opslaan…</translation>
+    </message>
+    <message id="kSaveCopyTitle">
+        <source></source>
+        <translation>Kopie opslaan</translation>
+    </message>
     <message id="kSaveFailedMessage">
         <source></source>
         <translation>“%1” kon niet worden opgeslagen. Het bestand op de schijf is niet gewijzigd.</translation>
+    </message>
+    <message id="kSaveHereAnyway">
+        <source></source>
+        <translation>Toch hier opslaan</translation>
     </message>
     <message id="kSaveRepaired">
         <source></source>
@@ -729,6 +789,13 @@
     <message id="kSaveTitle">
         <source></source>
         <translation>Zenderlijst opslaan</translation>
+    </message>
+    <message id="kSaveWithout" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Opslaan zonder %n zender</numerusform>
+            <numerusform>Opslaan zonder %n zenders</numerusform>
+        </translation>
     </message>
     <message id="kSearchPlaceholder">
         <source></source>
@@ -778,6 +845,10 @@ Deze gaan verder vanaf nummer: %3</translation>
     <message id="kTipSelectFirst">
         <source></source>
         <translation>Selecteer eerst zenders in de lijst</translation>
+    </message>
+    <message id="kToldRepaired">
+        <source></source>
+        <translation>Hersteld opgeslagen, zoals u hebt gekozen: er is niets verloren gegaan.</translation>
     </message>
     <message id="kTV">
         <source></source>

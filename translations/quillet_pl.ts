@@ -83,6 +83,10 @@
         <source></source>
         <translation>Jeśli teraz zapiszesz, zmiany wprowadzone przez inny program zostaną utracone.</translation>
     </message>
+    <message id="kChoosePlace">
+        <source></source>
+        <translation>Wybierz inne miejsce…</translation>
+    </message>
     <message id="kClearMenu">
         <source></source>
         <translation>Wyczyść menu</translation>
@@ -115,6 +119,10 @@
         <source></source>
         <translation>Plik jest pusty lub nie jest listą kanałów.</translation>
     </message>
+    <message id="kCopyBecomesText">
+        <source></source>
+        <translation>Jeśli zapiszesz kopię, to okno będzie dalej pracować z kopią: odtąd „Zapisz” zapisuje właśnie do niej.</translation>
+    </message>
     <message id="kCreateFailedReason">
         <source></source>
         <translation>Nie można utworzyć nowego pliku w folderze „%1”: %2</translation>
@@ -126,6 +134,10 @@
     <message id="kDontSave">
         <source></source>
         <translation>Nie zapisuj</translation>
+    </message>
+    <message id="kExportFailedMessage">
+        <source></source>
+        <translation>Nie można wyeksportować listy jako „%1”.</translation>
     </message>
     <message id="kExportTitle">
         <source></source>
@@ -194,6 +206,14 @@
     <message id="kFilterUHD">
         <source></source>
         <translation>UHD</translation>
+    </message>
+    <message id="kGoneMessage">
+        <source></source>
+        <translation>Pliku „%1” już nie ma.</translation>
+    </message>
+    <message id="kGoneText">
+        <source></source>
+        <translation>Plik został przeniesiony lub usunięty albo odłączono dysk, na którym był. Zapis tutaj utworzy w tym miejscu nowy plik; jeśli ma trafić na pendrive, najpierw go podłącz.</translation>
     </message>
     <message id="kHelpBack">
         <source></source>
@@ -346,6 +366,10 @@
     <message id="kMenuAbout">
         <source></source>
         <translation>&amp;O programie Quillet</translation>
+    </message>
+    <message id="kMenuAlwaysRepair">
+        <source></source>
+        <translation>Zapisuj listy JSON naprawione</translation>
     </message>
     <message id="kMenuAnalogue">
         <source></source>
@@ -547,6 +571,10 @@
         <source></source>
         <translation>Nie znaleziono kanałów, ponieważ jest to tekst innego rodzaju, a nie plik TLL.</translation>
     </message>
+    <message id="kNoticeReadOnly">
+        <source></source>
+        <translation>Tego pliku nie można zmienić: on sam, jego folder lub dysk jest chroniony przed zapisem. Aby zachować zmiany, zapisz kopię; proponuje to „Zapisz”.</translation>
+    </message>
     <message id="kNoticeUnread" numerus="yes">
         <source></source>
         <translation>
@@ -563,6 +591,10 @@
         <source></source>
         <translation>OK</translation>
     </message>
+    <message id="kOpenElsewhereReason">
+        <source></source>
+        <translation>Ten plik jest otwarty w innym oknie. Wybierz inną nazwę lub inny folder.</translation>
+    </message>
     <message id="kOpenFailedMessage">
         <source></source>
         <translation>Nie można otworzyć pliku „%1”.</translation>
@@ -574,6 +606,10 @@
     <message id="kOpenTitle">
         <source></source>
         <translation>Otwórz listę kanałów</translation>
+    </message>
+    <message id="kOwnFileReason">
+        <source></source>
+        <translation>To jest plik samej listy, a eksport nigdy go nie zastępuje. Wybierz inną nazwę lub inny folder.</translation>
     </message>
     <message id="kPageOf">
         <source></source>
@@ -594,6 +630,10 @@
     <message id="kRecentFileMissingMessage">
         <source></source>
         <translation>%1 już nie istnieje.</translation>
+    </message>
+    <message id="kReload">
+        <source></source>
+        <translation>Wczytaj ponownie</translation>
     </message>
     <message id="kReplace">
         <source></source>
@@ -627,6 +667,10 @@
         <source></source>
         <translation>Wszystkie zmiany wprowadzone od tego czasu zostaną utracone.</translation>
     </message>
+    <message id="kReviewAlways">
+        <source></source>
+        <translation>Zapisuj wszystkie listy tego rodzaju (JSON) naprawione, bez pytania</translation>
+    </message>
     <message id="kReviewChanged" numerus="yes">
         <source></source>
         <translation>
@@ -646,6 +690,10 @@
     <message id="kReviewEncoding">
         <source></source>
         <translation>Litery ze znakami diakrytycznymi zostałyby zapisane w UTF-8, a plik deklaruje inne kodowanie.</translation>
+    </message>
+    <message id="kReviewExport">
+        <source></source>
+        <translation>Eksport ma tylko tę jedną postać. Twój własny plik pozostaje bez zmian.</translation>
     </message>
     <message id="kReviewExtras">
         <source></source>
@@ -731,9 +779,21 @@
         <source></source>
         <translation>Jeśli nie zapiszesz zmian, zostaną utracone.</translation>
     </message>
+    <message id="kSaveCopy">
+        <source></source>
+        <translation>Zapisz kopię…</translation>
+    </message>
+    <message id="kSaveCopyTitle">
+        <source></source>
+        <translation>Zapisz kopię</translation>
+    </message>
     <message id="kSaveFailedMessage">
         <source></source>
         <translation>Nie można zapisać pliku „%1”. Plik na dysku nie został zmieniony.</translation>
+    </message>
+    <message id="kSaveHereAnyway">
+        <source></source>
+        <translation>Zapisz tutaj mimo to</translation>
     </message>
     <message id="kSaveRepaired">
         <source></source>
@@ -742,6 +802,14 @@
     <message id="kSaveTitle">
         <source></source>
         <translation>Zapisz listę kanałów</translation>
+    </message>
+    <message id="kSaveWithout" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Zapisz bez %n kanału</numerusform>
+            <numerusform>Zapisz bez %n kanałów</numerusform>
+            <numerusform>Zapisz bez %n kanałów</numerusform>
+        </translation>
     </message>
     <message id="kSearchPlaceholder">
         <source></source>
@@ -792,6 +860,10 @@ Te następują od numeru: %3</translation>
     <message id="kTipSelectFirst">
         <source></source>
         <translation>Najpierw wybierz kanały na liście</translation>
+    </message>
+    <message id="kToldRepaired">
+        <source></source>
+        <translation>Zapisano naprawiony plik, zgodnie z Twoim wyborem: nic nie zostało utracone.</translation>
     </message>
     <message id="kTV">
         <source></source>

@@ -81,6 +81,10 @@
         <source></source>
         <translation>Şimdi kaydederseniz diğer programın yaptığı değişiklikler kaybolur.</translation>
     </message>
+    <message id="kChoosePlace">
+        <source></source>
+        <translation>Başka Bir Yer Seç…</translation>
+    </message>
     <message id="kClearMenu">
         <source></source>
         <translation>Menüyü Temizle</translation>
@@ -113,6 +117,10 @@
         <source></source>
         <translation>Dosya boş ya da bir kanal listesi değil.</translation>
     </message>
+    <message id="kCopyBecomesText">
+        <source></source>
+        <translation>Bir kopya kaydederseniz bu pencere kopyayla devam eder: “Kaydet” artık kopyaya yazar.</translation>
+    </message>
     <message id="kCreateFailedReason">
         <source></source>
         <translation>“%1” klasöründe yeni dosya oluşturulamadı: %2</translation>
@@ -124,6 +132,10 @@
     <message id="kDontSave">
         <source></source>
         <translation>Kaydetme</translation>
+    </message>
+    <message id="kExportFailedMessage">
+        <source></source>
+        <translation>Liste “%1” olarak dışa aktarılamadı.</translation>
     </message>
     <message id="kExportTitle">
         <source></source>
@@ -192,6 +204,14 @@
     <message id="kFilterUHD">
         <source></source>
         <translation>UHD</translation>
+    </message>
+    <message id="kGoneMessage">
+        <source></source>
+        <translation>“%1” artık yerinde değil.</translation>
+    </message>
+    <message id="kGoneText">
+        <source></source>
+        <translation>Dosya taşındı veya silindi ya da bulunduğu disk çıkarıldı. Buraya kaydederseniz orada yeni bir dosya oluşur; bir USB belleğe kaydetmek istiyorsanız önce belleği takın.</translation>
     </message>
     <message id="kHelpBack">
         <source></source>
@@ -334,6 +354,10 @@
     <message id="kMenuAbout">
         <source></source>
         <translation>Quillet &amp;Hakkında</translation>
+    </message>
+    <message id="kMenuAlwaysRepair">
+        <source></source>
+        <translation>JSON Listelerini Onarılmış Kaydet</translation>
     </message>
     <message id="kMenuAnalogue">
         <source></source>
@@ -535,6 +559,10 @@
         <source></source>
         <translation>Kanal bulunamadı, çünkü bu başka türden bir metin; bir TLL dosyası değil.</translation>
     </message>
+    <message id="kNoticeReadOnly">
+        <source></source>
+        <translation>Bu dosya değiştirilemez: kendisi, klasörü veya diski yazmaya karşı korumalı. Değişikliklerinizi korumak için bir kopyasını kaydedin; “Kaydet” bunu önerir.</translation>
+    </message>
     <message id="kNoticeUnread" numerus="yes">
         <source></source>
         <translation>
@@ -549,6 +577,10 @@
         <source></source>
         <translation>Tamam</translation>
     </message>
+    <message id="kOpenElsewhereReason">
+        <source></source>
+        <translation>Bu dosya başka bir pencerede açık. Başka bir ad veya klasör seçin.</translation>
+    </message>
     <message id="kOpenFailedMessage">
         <source></source>
         <translation>“%1” açılamadı.</translation>
@@ -560,6 +592,10 @@
     <message id="kOpenTitle">
         <source></source>
         <translation>Kanal Listesi Aç</translation>
+    </message>
+    <message id="kOwnFileReason">
+        <source></source>
+        <translation>Bu, listenin kendi dosyasıdır; dışa aktarma onun yerine asla yazmaz. Başka bir ad veya klasör seçin.</translation>
     </message>
     <message id="kPageOf">
         <source></source>
@@ -580,6 +616,10 @@
     <message id="kRecentFileMissingMessage">
         <source></source>
         <translation>%1 artık yerinde değil.</translation>
+    </message>
+    <message id="kReload">
+        <source></source>
+        <translation>Yeniden Yükle</translation>
     </message>
     <message id="kReplace">
         <source></source>
@@ -613,6 +653,10 @@
         <source></source>
         <translation>O zamandan beri yaptığınız tüm değişiklikler kaybolur.</translation>
     </message>
+    <message id="kReviewAlways">
+        <source></source>
+        <translation>Bu türdeki (JSON) tüm listeleri sormadan onarılmış olarak kaydet</translation>
+    </message>
     <message id="kReviewChanged" numerus="yes">
         <source></source>
         <translation>
@@ -628,6 +672,10 @@
     <message id="kReviewEncoding">
         <source></source>
         <translation>Aksanlı harfler UTF-8 olarak yazılır; dosyanın bildirdiği kodlama ise bu değil.</translation>
+    </message>
+    <message id="kReviewExport">
+        <source></source>
+        <translation>Dışa aktarmanın tek biçimi budur. Kendi dosyanız olduğu gibi kalır.</translation>
     </message>
     <message id="kReviewExtras">
         <source></source>
@@ -705,9 +753,21 @@
         <source></source>
         <translation>Kaydetmezseniz değişiklikleriniz kaybolur.</translation>
     </message>
+    <message id="kSaveCopy">
+        <source></source>
+        <translation>Kopyasını Kaydet…</translation>
+    </message>
+    <message id="kSaveCopyTitle">
+        <source></source>
+        <translation>Kopyasını Kaydet</translation>
+    </message>
     <message id="kSaveFailedMessage">
         <source></source>
         <translation>“%1” kaydedilemedi. Diskteki dosya değiştirilmedi.</translation>
+    </message>
+    <message id="kSaveHereAnyway">
+        <source></source>
+        <translation>Yine de Buraya Kaydet</translation>
     </message>
     <message id="kSaveRepaired">
         <source></source>
@@ -716,6 +776,12 @@
     <message id="kSaveTitle">
         <source></source>
         <translation>Kanal Listesini Kaydet</translation>
+    </message>
+    <message id="kSaveWithout" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n Kanal Olmadan Kaydet</numerusform>
+        </translation>
     </message>
     <message id="kSearchPlaceholder">
         <source></source>
@@ -764,6 +830,10 @@ Bunların devam ettiği numara: %3</translation>
     <message id="kTipSelectFirst">
         <source></source>
         <translation>Önce listeden kanal seçin</translation>
+    </message>
+    <message id="kToldRepaired">
+        <source></source>
+        <translation>Seçtiğiniz gibi onarılmış olarak kaydedildi: hiçbir şey kaybolmadı.</translation>
     </message>
     <message id="kTV">
         <source></source>

@@ -57,6 +57,8 @@ std::unique_ptr<TLLDocument> AppDelegate::makeDocument()
 
 void AppDelegate::openRepairedCopy(const TLLDocument &damaged)
 {
+    if (m_documents.raiseCopyOf(damaged.fileUrl()))
+        return;
     const QFileInfo file(damaged.fileUrl().toLocalFile());
     const std::optional<MendedText> mended = repairedText(damaged.list());
     std::unique_ptr<TLLDocument> copy = makeDocument();

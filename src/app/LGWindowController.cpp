@@ -4,6 +4,7 @@
 #include "editor/EditorView.h"
 
 #include <QMainWindow>
+#include <QStatusBar>
 
 namespace quillet {
 
@@ -20,6 +21,12 @@ void LGWindowController::windowDidLoad()
     m_editor->focusList();
     // Ahead of the question whether to save.
     connect(this, &WindowController::closeRequested, m_editor, &EditorView::commitEditing);
+    QStatusBar *told = window()->statusBar();
+    told->setObjectName(QStringLiteral("toldLine"));
+    told->setSizeGripEnabled(false);
+    told->hide();
+    connect(told, &QStatusBar::messageChanged, told,
+            [told](const QString &text) { told->setVisible(!text.isEmpty()); });
     const QSize wanted = m_editor->sizeHint();
     const int line = m_editor->fontMetrics().height();
     window()->resize(qMax(wanted.width() + 6 * line, 48 * line), 42 * line);
@@ -31,9 +38,16 @@ bool LGWindowController::populateFromTLLDoc(TLLDocument &document, const Error &
             Qt::UniqueConnection);
     connect(&document, &Document::fileUrlChanged, &m_editor->controller(),
             &ViewController::showFileName, Qt::UniqueConnection);
+    connect(&document, &Document::told, this, &LGWindowController::tell, Qt::UniqueConnection);
     const bool succeeded = m_editor->controller().populateFromTLLDoc(document, error);
     synchronizeWindowTitleWithDocumentName();
     return succeeded;
+}
+
+void LGWindowController::tell(const QString &text)
+{
+    constexpr int longEnoughToRead = 10000;
+    window()->statusBar()->showMessage(text, longEnoughToRead);
 }
 
 void LGWindowController::refill()

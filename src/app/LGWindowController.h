@@ -25,6 +25,8 @@ public:
 
 private:
     void windowDidLoad();
+    /// Says it in a line at the bottom, which goes by itself.
+    void tell(const QString &text);
 
     EditorView *m_editor;
 };

@@ -4,6 +4,7 @@
 #include "app/AppDelegate.h"
 #include "app/HelpLoader.h"
 #include "app/LGWindowController.h"
+#include "document/SaveReview.h"
 #include "document/TLLDocument.h"
 #include "editor/EditorView.h"
 #include "framework/DocumentController.h"
@@ -13,6 +14,7 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QSettings>
 
 #include <array>
 
@@ -90,6 +92,11 @@ void MainMenu::makeFileMenu(QMenuBar &bar)
     m_documentItems.push_back(add(menu,
                                   {"kMenuExport", "exportAsReferenceList", Qt::CTRL | Qt::Key_E},
                                   [this] { m_window.tlldoc()->exportAsReferenceList(); }));
+    m_alwaysRepair = add(menu, {"kMenuAlwaysRepair", "alwaysRepair", {}}, [this] {
+        QSettings().remove(SaveReview::alwaysKey);
+        validate();
+    });
+    m_alwaysRepair->setCheckable(true);
     menu.addSeparator();
     m_print = add(menu, {"kMenuPrint", "printDocument", QKeySequence::Print},
                   [this] { m_editor.printList(); });
@@ -206,6 +213,9 @@ void MainMenu::validate()
         action->setEnabled(m_window.validateUserInterfaceItem(action->objectName()));
     if (document && m_editor.isEditing())
         m_save->setEnabled(true); // for what is being typed
+    // Set in the sheet of a save, so there is nothing here to set it by.
+    m_alwaysRepair->setChecked(QSettings().value(SaveReview::alwaysKey).toBool());
+    m_alwaysRepair->setVisible(m_alwaysRepair->isChecked());
     m_print->setEnabled(m_editor.canPrint());
     m_moveTo->setEnabled(m_editor.canMove());
     m_info->setEnabled(m_editor.canShowInfo());

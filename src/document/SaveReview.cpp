@@ -44,10 +44,17 @@ QStringList findings(const Rehearsal &rehearsal)
     return lines;
 }
 
+/// What saving all the same is called: by the stations that it costs.
+QString titleOfPrice(const Rehearsal &plain)
+{
+    const int price = static_cast<int>(plain.missing.count + plain.unread);
+    return price > 0 ? qtTrId("kSaveWithout", price) : qtTrId("kSaveAnyway");
+}
+
 } // namespace
 
 SaveReview reviewOfSave(const QString &fileName, const Rehearsal &plain,
-                        const std::optional<Rehearsal> &repaired)
+                        const std::optional<Rehearsal> &repaired, SaveReview::Kind kind)
 {
     using Answer = SaveReview::Answer;
     SaveReview review;
@@ -55,12 +62,15 @@ SaveReview reviewOfSave(const QString &fileName, const Rehearsal &plain,
     QStringList lines = findings(plain);
     lines.append(QString());
     if (!repaired) {
-        lines.append(qtTrId("kReviewNoRepair"));
+        lines.append(
+            qtTrId(kind == SaveReview::Kind::Export ? "kReviewExport" : "kReviewNoRepair"));
         review.answers = {Answer::Cancel, Answer::SaveAnyway};
     } else {
         lines.append(qtTrId(repaired->isClean() ? "kReviewRepair" : "kReviewRepairPartly"));
         lines.append(findings(*repaired));
         review.answers = {Answer::SaveRepaired, Answer::SaveAnyway, Answer::Cancel};
+        if (kind == SaveReview::Kind::JSONList && repaired->isClean())
+            review.alert.checkBox = qtTrId("kReviewAlways");
     }
     review.alert.informativeText = lines.join(u'\n');
     for (const Answer answer : review.answers) {
@@ -70,7 +80,7 @@ SaveReview reviewOfSave(const QString &fileName, const Rehearsal &plain,
             review.alert.buttons.append(qtTrId("kSaveRepaired"));
             break;
         case Answer::SaveAnyway:
-            review.alert.buttons.append(qtTrId("kSaveAnyway"));
+            review.alert.buttons.append(titleOfPrice(plain));
             review.alert.destructiveButton = index;
             break;
         case Answer::Cancel:

@@ -3,6 +3,8 @@
 #include "document/review/Rehearsal.h"
 #include "framework/Prompts.h"
 
+#include <QLatin1String>
+
 #include <optional>
 #include <vector>
 
@@ -12,6 +14,13 @@ namespace quillet {
 struct SaveReview
 {
     enum class Answer { SaveRepaired, SaveAnyway, Cancel };
+    enum class Kind {
+        List,
+        JSONList, ///< also offers to have all of its kind repaired from then on
+        Export,   ///< which has one form only
+    };
+    /// The setting that has JSON lists repaired without asking.
+    static constexpr QLatin1String alwaysKey{"saving/repairsJSONLists"};
 
     Alert alert;
     std::vector<Answer> answers; ///< of the alert's buttons
@@ -20,6 +29,7 @@ struct SaveReview
 /// Says in plain words what the plain writing loses and offers the ways there are, the best one
 /// first. `repaired` is what a repaired writing would lose; none when there is no better one.
 [[nodiscard]] SaveReview reviewOfSave(const QString &fileName, const Rehearsal &plain,
-                                      const std::optional<Rehearsal> &repaired);
+                                      const std::optional<Rehearsal> &repaired,
+                                      SaveReview::Kind kind);
 
 } // namespace quillet

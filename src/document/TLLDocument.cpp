@@ -11,6 +11,7 @@
 
 #include <QFileInfo>
 #include <QLoggingCategory>
+#include <QSettings>
 
 namespace quillet {
 
@@ -82,13 +83,20 @@ QByteArray TLLDocument::dataOfType(const QString &, Error &)
     return writeTLL(m_list, m_stations);
 }
 
-bool TLLDocument::canRead(const QByteArray &data, const QString &typeName, Error &error) const
+bool TLLDocument::replaceContent(const QByteArray &data, const QString &typeName, Error &error)
 {
-    ChannelList probe;
-    const Reading reading = readInto(probe, data);
+    ChannelList fresh;
+    fresh.layout = m_list.layout; // what a file does not give stays that of the one before
+    const Reading reading = readInto(fresh, data);
+    logLoading(fresh, reading);
     if (reading == Reading::BadFormat)
-        error = createBadFileFormatError(typeName, badFormatDetail(probe));
-    return reading == Reading::Done;
+        error = createBadFileFormatError(typeName, badFormatDetail(fresh));
+    if (reading != Reading::Done)
+        return false;
+    m_list = std::move(fresh);
+    m_repair.reset();
+    m_savesRepaired = false;
+    return true;
 }
 
 void TLLDocument::clearVars()
@@ -164,21 +172,15 @@ void TLLDocument::applyOrderFromRefList(const ReferenceList &entries, const QStr
 
 void TLLDocument::exportAsReferenceList()
 {
-    if (!prompts())
-        return;
     const QFileInfo file((fileUrl().isEmpty() ? suggestedUrl() : fileUrl()).toLocalFile());
     const SavePanel panel{.title = qtTrId("kExportTitle"),
                           .suggestedPath =
                               file.path() + u'/' + file.completeBaseName() + QLatin1String(".txt"),
                           .nameFilters = {qtTrId("kFilterTextFiles") + QLatin1String(" (*.txt)")}};
-    const QPointer guard(this);
-    prompts()->showSavePanel(sheetWindow(), panel, [this, guard](const QString &path) {
-        if (!guard || path.isEmpty())
-            return;
-        Error error;
-        if (saveCopy(path, QStringLiteral("Reference list"), error))
+    exportDocument(panel, QStringLiteral("Reference list"), [](bool isWritten, const Error &error) {
+        if (isWritten)
             qCInfo(log, "File export succeeded!");
-        else
+        else if (!error.isEmpty())
             qCWarning(log).noquote()
                 << QStringLiteral("File export failed: %1").arg(error.localizedDescription);
     });
@@ -217,25 +219,43 @@ void TLLDocument::makeWindowControllers()
     m_lgWindowController->populateFromTLLDoc(*this, {});
 }
 
-void TLLDocument::reviewSave(const QByteArray &bytes,
-                             const std::function<void(const std::optional<QByteArray> &)> &decided)
+bool TLLDocument::savesRepairedUnasked() const
 {
+    return m_repair || m_savesRepaired ||
+           (m_list.isLegacyFormat && QSettings().value(SaveReview::alwaysKey).toBool());
+}
+
+void TLLDocument::reviewSave(const QByteArray &bytes, SavePurpose purpose,
+                             const SaveJob::Client::Decided &decided)
+{
+    m_wasUnasked = false;
     const Rehearsal plain = rehearse(m_list, bytes);
     if (plain.isClean())
         return decided(bytes);
-    const QByteArray repaired = repairedTLL(m_list);
-    const Rehearsal ofRepaired = rehearse(m_list, repaired);
-    if (m_repair && ofRepaired.isClean())
-        return decided(repaired); // a repaired copy was asked for
-    const bool isBetter = ofRepaired.weight() < plain.weight();
-    const SaveReview review =
-        reviewOfSave(displayName(), plain, isBetter ? std::optional(ofRepaired) : std::nullopt);
-    ask(review.alert, [bytes, repaired, decided, answers = review.answers](int button) {
+    QByteArray repaired;
+    std::optional<Rehearsal> ofRepaired; // of a better writing than the plain one
+    if (purpose == SavePurpose::Save) {
+        repaired = repairedTLL(m_list);
+        ofRepaired = rehearse(m_list, repaired);
+        if (savesRepairedUnasked() && ofRepaired->isClean()) {
+            m_wasUnasked = !m_repair; // what a copy was repaired for needs no word
+            return decided(repaired);
+        }
+        if (ofRepaired->weight() >= plain.weight())
+            ofRepaired.reset();
+    }
+    const SaveReview review = reviewOfSave(displayName(), plain, ofRepaired,
+                                           purpose == SavePurpose::Export ? SaveReview::Kind::Export
+                                           : m_list.isLegacyFormat ? SaveReview::Kind::JSONList
+                                                                   : SaveReview::Kind::List);
+    ask(review.alert, [=, this, answers = review.answers](const AlertAnswer &answer) {
         using Answer = SaveReview::Answer;
-        const Answer answer =
-            button < 0 ? Answer::Cancel : answers.at(static_cast<std::size_t>(button));
-        switch (answer) {
+        const auto button = static_cast<std::size_t>(answer.button);
+        switch (button < answers.size() ? answers[button] : Answer::Cancel) {
         case Answer::SaveRepaired:
+            m_savesRepaired = true;
+            if (answer.isChecked)
+                QSettings().setValue(SaveReview::alwaysKey, true);
             return decided(repaired);
         case Answer::SaveAnyway:
             return decided(bytes);
@@ -247,9 +267,12 @@ void TLLDocument::reviewSave(const QByteArray &bytes,
 
 void TLLDocument::documentWasSaved()
 {
+    m_savesRepaired = m_savesRepaired || m_repair;
     m_repair.reset();
     setDirtyFlag(false);
     Document::documentWasSaved();
+    if (m_wasUnasked)
+        emit told(qtTrId("kToldRepaired"));
 }
 
 } // namespace quillet

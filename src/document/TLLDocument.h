@@ -40,8 +40,7 @@ public:
 
     bool readFromData(const QByteArray &data, const QString &typeName, Error &error) override;
     [[nodiscard]] QByteArray dataOfType(const QString &typeName, Error &error) override;
-    [[nodiscard]] bool canRead(const QByteArray &data, const QString &typeName,
-                               Error &error) const override;
+    bool replaceContent(const QByteArray &data, const QString &typeName, Error &error) override;
     /// Reads the mended text of the file with that name.
     [[nodiscard]] bool readRepaired(const MendedText &mended, const QString &fileName);
     /// What was mended in the text that was read, until it is saved; none when nothing was.
@@ -120,19 +119,23 @@ public:
     void setIsInvisbleDocument(bool invisible) { m_isInvisbleDocument = invisible; }
 
 protected:
-    /// Asks when the bytes would lose something of what was read or edited.
-    void reviewSave(const QByteArray &bytes,
-                    const std::function<void(const std::optional<QByteArray> &)> &decided) override;
+    /// Asks when the bytes would lose something of what was read or edited, unless the person
+    /// chose before to have such a save repaired.
+    void reviewSave(const QByteArray &bytes, SavePurpose purpose,
+                    const SaveJob::Client::Decided &decided) override;
     void documentWasSaved() override;
 
 private:
     [[nodiscard]] static QString badFormatDetail(const ChannelList &list);
     void updateStationPointer();
+    [[nodiscard]] bool savesRepairedUnasked() const;
 
     WindowFactory m_makeWindow;
     QPointer<TLLWindowController> m_lgWindowController;
     ChannelList m_list;
     std::optional<Repair> m_repair;
+    bool m_savesRepaired = false; ///< a save in the repaired form was chosen once
+    bool m_wasUnasked = false;    ///< the save under way is repaired without a question
     StationListPtr m_stations;
     int m_curSource = 0;
     bool m_usesTV = true;

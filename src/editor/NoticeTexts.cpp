@@ -2,7 +2,9 @@
 
 #include "document/TLLDocument.h"
 #include "document/repair/FileDiagnosis.h"
+#include "files/FilePlace.h"
 
+#include <QFileInfo>
 #include <QStringList>
 
 #include <array>
@@ -87,11 +89,14 @@ Notice noticeFor(const TLLDocument &document)
     if (const auto &repair = document.repair()) {
         lines.append(textOf(*repair));
     } else {
-        notice.isWarning = true;
         notice.offersRepair = repairedText(document.list()).has_value();
     }
     for (const FileFinding &finding : diagnose(document.list()))
         lines.append(textOf(finding));
+    notice.isWarning = !lines.isEmpty() && !document.repair();
+    const QString path = document.fileUrl().toLocalFile();
+    if (QFileInfo::exists(path) && !canBeReplaced(path))
+        lines.append(qtTrId("kNoticeReadOnly"));
     notice.text = lines.join(u'\n');
     return notice;
 }

@@ -5,7 +5,6 @@
 #include "editor/NoticeTexts.h"
 #include "editor/Renumbering.h"
 #include "editor/StationColumns.h"
-#include "files/FileReading.h"
 #include "support/KXFileLog.h"
 #include "support/LenientNumber.h"
 
@@ -412,20 +411,14 @@ void ViewController::loadTLLFile(const QString &path)
         readDroppedFile(path);
 }
 
-/// The document changes only when the file can be read: half-read content could be saved over the
-/// file that could not.
+/// A file that another window has is shown there. The document changes only when the file can be
+/// read: half-read content could be saved over the file that could not.
 void ViewController::readDroppedFile(const QString &path)
 {
-    const QUrl url = QUrl::fromLocalFile(path);
+    if (const Document *other = m_document->otherDocumentAt(path))
+        return other->raiseWindows();
     Error error;
-    QByteArray bytes;
-    if (readFile(url, bytes, error) && m_document->canRead(bytes, TLLDocument::typeName(), error)) {
-        m_document->useFileURL(url);
-        m_document->readFromUrl(url, TLLDocument::typeName(), error);
-    } else if (error.isEmpty()) {
-        error.localizedDescription = qtTrId("kContentUnknownReason");
-        error.code = 1;
-    }
+    m_document->readFromUrl(QUrl::fromLocalFile(path), TLLDocument::typeName(), error);
     const bool holdsStations =
         std::any_of(stationSources.begin(), stationSources.end(), [this](StationSource source) {
             return m_document->hasDataForSource(static_cast<int>(source));

@@ -2,13 +2,10 @@
 
 #include "files/FileOperations.h"
 #include "files/FileReading.h"
-#include "files/FileReplacement.h"
-#include "framework/Prompts.h"
+#include "framework/WaitCursor.h"
 #include "framework/WindowController.h"
 
-#include <QCryptographicHash>
 #include <QEvent>
-#include <QFileInfo>
 #include <QMainWindow>
 #include <QPointer>
 
@@ -20,18 +17,6 @@ FileOperations &plainFileOperations()
 {
     static FileOperations operations; // has no state
     return operations;
-}
-
-QByteArray digest(const QByteArray &bytes)
-{
-    return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256);
-}
-
-/// Words a reason for a content that was refused without one.
-void completeContentError(Error &error, const QUrl &url)
-{
-    if (error.isEmpty())
-        error = {QStringLiteral("Document"), 1, qtTrId("kContentUnknownReason"), url.toLocalFile()};
 }
 
 } // namespace
@@ -63,26 +48,37 @@ QString Document::displayName() const
     return url.isEmpty() ? qtTrId("kUntitled") : url.fileName();
 }
 
+bool Document::replaceContent(const QByteArray &data, const QString &typeName, Error &error)
+{
+    return readFromData(data, typeName, error);
+}
+
 bool Document::readFromUrl(const QUrl &url, const QString &typeName, Error &error)
 {
     error = {};
+    const QString path = url.toLocalFile();
     QByteArray bytes;
-    return readFile(url, bytes, error) && takeData(bytes, url, typeName, error);
-}
-
-bool Document::takeData(const QByteArray &bytes, const QUrl &url, const QString &typeName,
-                        Error &error)
-{
-    if (!readFromData(bytes, typeName, error)) {
-        completeContentError(error, url);
+    if (!readFile(url, bytes, error))
+        return false;
+    const WaitCursor wait(WaitCursor::Work::Opening, bytes.size());
+    if (!replaceContent(bytes, typeName, error)) {
+        if (error.isEmpty())
+            error = {QStringLiteral("Document"), 1, qtTrId("kContentUnknownReason"), path};
         return false;
     }
     setFileType(typeName);
-    suggestSaving({}, {});
+    m_suggestedUrl.clear();
+    if (url != m_fileUrl)
+        m_untouchedUrl.clear();
     setFileUrl(url);
-    m_diskDigest = digest(bytes);
+    m_known = FileState::of(path, bytes);
     updateChangeCount(Change::Cleared);
     return true;
+}
+
+Document *Document::otherDocumentAt(const QString &path) const
+{
+    return m_lookup ? m_lookup(path, this) : nullptr;
 }
 
 void Document::makeWindowControllers() {}
@@ -91,6 +87,12 @@ void Document::addWindowController(std::unique_ptr<WindowController> controller)
 {
     controller->setDocument(this);
     m_windowControllers.push_back(std::move(controller));
+}
+
+void Document::raiseWindows() const
+{
+    for (const auto &controller : m_windowControllers)
+        controller->raiseWindow();
 }
 
 void Document::removeWindowControllers()
@@ -136,17 +138,17 @@ QWidget *Document::sheetWindow() const
     return window;
 }
 
-void Document::ask(const Alert &alert, const std::function<void(int)> &answered)
+void Document::ask(const Alert &alert, const std::function<void(const AlertAnswer &)> &answered)
 {
     if (!m_prompts)
-        return answered(-1);
+        return answered({});
     m_isAsking = true;
     const QPointer<Document> guard(this);
     m_prompts->showAlert(sheetWindow(), alert, [guard, answered](const AlertAnswer &answer) {
         if (!guard)
             return;
         guard->m_isAsking = false;
-        answered(answer.button);
+        answered(answer);
     });
 }
 
@@ -161,131 +163,69 @@ void Document::presentError(const QString &message, const Error &error)
     m_prompts->showAlert(sheetWindow(), alert, [](const AlertAnswer &) {});
 }
 
-bool Document::wasChangedOnDisk() const
+FileState Document::knownState() const
 {
-    // A file that is gone takes nothing with it when it is written again.
-    if (!QFileInfo::exists(m_fileUrl.toLocalFile()))
-        return false;
-    QByteArray bytes;
-    Error unused;
-    return !readFile(m_fileUrl, bytes, unused) || digest(bytes) != m_diskDigest;
+    const QString path = m_fileUrl.toLocalFile();
+    return m_known && m_known->path() == path ? *m_known : FileState::none(path);
 }
 
 void Document::saveDocument(std::function<void(bool)> done)
 {
     if (!done)
         done = [](bool) {};
-    if (m_isAsking)
+    if (m_isAsking || (m_fileUrl.isEmpty() && m_suggestedUrl.isEmpty()))
         return done(false);
+    const auto saving = std::make_shared<DocumentSaving>(
+        *this, SavePurpose::Save, m_fileType,
+        [done](bool isWritten, const Error &) { done(isWritten); });
     if (m_fileUrl.isEmpty())
-        return saveToChosenPlace(done);
-    if (!wasChangedOnDisk())
-        return write(done);
-    enum { Cancel, SaveAnyway };
-    Alert alert;
-    alert.message = qtTrId("kChangedOnDiskMessage").arg(displayName());
-    alert.informativeText = qtTrId("kChangedOnDiskText");
-    alert.buttons = {qtTrId("kCancel"), qtTrId("kSaveAnyway")};
-    alert.cancelButton = Cancel;
-    alert.destructiveButton = SaveAnyway;
-    ask(alert, [this, done](int button) {
-        if (button == SaveAnyway)
-            write(done);
-        else
-            done(false);
-    });
+        saving->writeToChosenPlace({.title = qtTrId("kSaveTitle"),
+                                    .suggestedPath = m_suggestedUrl.toLocalFile(),
+                                    .nameFilters = {}});
+    else
+        saving->writeToFile();
 }
 
-void Document::saveToChosenPlace(const std::function<void(bool)> &done)
+void Document::exportDocument(const SavePanel &panel, const QString &typeName,
+                              const DocumentSaving::Done &done)
 {
-    if (m_suggestedUrl.isEmpty() || !m_prompts)
-        return done(false);
-    SavePanel panel;
-    panel.title = qtTrId("kSaveTitle");
-    panel.suggestedPath = m_suggestedUrl.toLocalFile();
+    if (m_isAsking)
+        return done(false, {});
+    std::make_shared<DocumentSaving>(*this, SavePurpose::Export, typeName, done)
+        ->writeToChosenPlace(panel);
+}
+
+void Document::askForPlace(const SavePanel &panel,
+                           const std::function<void(const QString &)> &answered)
+{
+    if (!m_prompts)
+        return answered({});
     m_isAsking = true;
     const QPointer<Document> guard(this);
-    m_prompts->showSavePanel(sheetWindow(), panel, [guard, done](const QString &path) {
+    m_prompts->showSavePanel(sheetWindow(), panel, [guard, answered](const QString &path) {
         if (!guard)
             return;
         guard->m_isAsking = false;
-        if (path.isEmpty())
-            done(false);
-        else
-            guard->saveToPlace(path, done);
+        answered(path);
     });
 }
 
-void Document::saveToPlace(const QString &path, const std::function<void(bool)> &done)
-{
-    if (QFileInfo(path) == QFileInfo(m_untouchedUrl.toLocalFile())) {
-        Error error;
-        error.localizedDescription = qtTrId("kUntouchedReason");
-        presentError(qtTrId("kSaveFailedMessage").arg(m_untouchedUrl.fileName()), error);
-        return done(false);
-    }
-    setFileUrl(QUrl::fromLocalFile(path));
-    write([this, done](bool isWritten) {
-        if (isWritten) {
-            suggestSaving({}, {});
-            emit placeWasChosen();
-        } else {
-            setFileUrl({});
-        }
-        done(isWritten);
-    });
-}
-
-void Document::reviewSave(const QByteArray &bytes,
-                          const std::function<void(const std::optional<QByteArray> &)> &decided)
+void Document::reviewSave(const QByteArray &bytes, SavePurpose /*purpose*/,
+                          const SaveJob::Client::Decided &decided)
 {
     decided(bytes);
 }
 
-void Document::write(const std::function<void(bool)> &done)
+void Document::wasWritten(const FileState &written)
 {
-    Error error;
-    const QByteArray bytes = dataOfType(m_fileType, error);
-    if (!error.isEmpty()) {
-        presentSaveError(error);
-        return done(false);
-    }
-    reviewSave(bytes, [this, done](const std::optional<QByteArray> &reviewed) {
-        if (reviewed)
-            replaceFile(*reviewed, done);
-        else
-            done(false);
-    });
-}
-
-void Document::replaceFile(const QByteArray &bytes, const std::function<void(bool)> &done)
-{
-    Error error;
-    const bool isWritten =
-        FileReplacement(*m_fileOperations).replace(m_fileUrl.toLocalFile(), bytes, error);
-    if (isWritten) {
-        m_diskDigest = digest(bytes);
-        documentWasSaved();
-    } else {
-        presentSaveError(error);
-    }
-    done(isWritten);
-}
-
-void Document::presentSaveError(const Error &error)
-{
-    presentError(qtTrId("kSaveFailedMessage").arg(displayName()), error);
-}
-
-bool Document::saveCopy(const QString &path, const QString &typeName, Error &error)
-{
-    error = {};
-    const QByteArray bytes = dataOfType(typeName, error);
-    if (!error.isEmpty() || !FileReplacement(*m_fileOperations).replace(path, bytes, error))
-        return false;
-    if (QFileInfo(path) == QFileInfo(m_fileUrl.toLocalFile()))
-        m_diskDigest = digest(bytes); // the copy went over the document's own file
-    return true;
+    m_known = written;
+    m_suggestedUrl.clear();
+    const QUrl url = QUrl::fromLocalFile(written.path());
+    const bool isNewPlace = url != m_fileUrl;
+    setFileUrl(url);
+    documentWasSaved();
+    if (isNewPlace)
+        emit placeWasChosen();
 }
 
 void Document::revertDocumentToSaved()
@@ -301,8 +241,8 @@ void Document::revertDocumentToSaved()
     alert.buttons = {qtTrId("kRevert"), qtTrId("kCancel")};
     alert.cancelButton = Cancel;
     alert.destructiveButton = Revert;
-    ask(alert, [this](int button) {
-        if (button == Revert)
+    ask(alert, [this](const AlertAnswer &answer) {
+        if (answer.button == Revert)
             revert();
     });
 }
@@ -310,13 +250,7 @@ void Document::revertDocumentToSaved()
 void Document::revert()
 {
     Error error;
-    QByteArray bytes;
-    bool isRead = readFile(m_fileUrl, bytes, error);
-    if (isRead && !canRead(bytes, m_fileType, error)) {
-        completeContentError(error, m_fileUrl);
-        isRead = false;
-    }
-    if (!isRead || !takeData(bytes, m_fileUrl, m_fileType, error))
+    if (!readFromUrl(m_fileUrl, m_fileType, error))
         return presentError(qtTrId("kRevertFailedMessage").arg(displayName()), error);
     for (const auto &controller : m_windowControllers)
         controller->refill();
@@ -335,11 +269,11 @@ void Document::askToClose(std::function<void(bool)> done)
     alert.buttons = {qtTrId("kSave"), qtTrId("kDontSave"), qtTrId("kCancel")};
     alert.cancelButton = Cancel;
     alert.destructiveButton = DontSave;
-    ask(alert, [this, done](int button) {
-        if (button == Save)
+    ask(alert, [this, done](const AlertAnswer &answer) {
+        if (answer.button == Save)
             saveDocument(done);
         else
-            done(button == DontSave);
+            done(answer.button == DontSave);
     });
 }
 

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "files/Error.h"
+#include "files/FileState.h"
+#include "framework/DocumentSaving.h"
 
 #include <QByteArray>
 #include <QObject>
@@ -14,9 +16,7 @@
 namespace quillet {
 
 class FileOperations;
-class Prompts;
 class WindowController;
-struct Alert;
 
 /// One open file: its URL, whether it has changes, reading, safe writing and reverting. A subclass
 /// supplies the content (readFromData, dataOfType) and its windows (makeWindowControllers). Owned
@@ -38,10 +38,11 @@ public:
     [[nodiscard]] const QString &fileType() const { return m_fileType; }
     void setFileType(const QString &typeName) { m_fileType = typeName; }
     /// Makes saving an untitled document ask for a place, starting with the suggested one. The file
-    /// at the other URL is never written to.
+    /// at the other URL is never written to, neither then nor later.
     void suggestSaving(const QUrl &suggested, const QUrl &untouched);
     /// Where saving an untitled document suggests to; empty when it cannot be saved.
     [[nodiscard]] const QUrl &suggestedUrl() const { return m_suggestedUrl; }
+    [[nodiscard]] const QUrl &untouchedUrl() const { return m_untouchedUrl; }
     /// The file's name, the one suggested, or the localized word for an untitled document.
     [[nodiscard]] QString displayName() const;
     /// Where questions and failures of this document are shown; none: they are dropped.
@@ -49,18 +50,23 @@ public:
     [[nodiscard]] Prompts *prompts() const { return m_prompts; }
     /// What saving writes with, which must outlive the document; a plain one unless set.
     void setFileOperations(FileOperations &operations) { m_fileOperations = &operations; }
+    /// Finds the document, not that one, whose file a path leads to; the DocumentController sets
+    /// it.
+    using Lookup = std::function<Document *(const QString &path, const Document *except)>;
+    void setLookup(Lookup lookup) { m_lookup = std::move(lookup); }
+    /// Another open document with the file at the path; null when there is none.
+    [[nodiscard]] Document *otherDocumentAt(const QString &path) const;
 
     /// Fills the document from a file's bytes. A failure may leave `error` empty.
     virtual bool readFromData(const QByteArray &data, const QString &typeName, Error &error) = 0;
     /// The bytes to write to a file of that type.
     [[nodiscard]] virtual QByteArray dataOfType(const QString &typeName, Error &error) = 0;
-    /// Whether readFromData would succeed, found out without touching this document.
-    [[nodiscard]] virtual bool canRead(const QByteArray &data, const QString &typeName,
-                                       Error &error) const = 0;
-    /// Reads the file's bytes and hands them to readFromData. A success makes the document
-    /// unchanged, of that URL and type, and remembers the file's state for the next save. On
-    /// failure the error is always set; when the file itself could not be read, the document is
-    /// untouched.
+    /// The same, but a failure leaves the document untouched and no window is refilled. The base
+    /// hands on to readFromData, for a content that this is true of anyway.
+    virtual bool replaceContent(const QByteArray &data, const QString &typeName, Error &error);
+    /// Reads the file once and replaces the content with these very bytes. A success makes the
+    /// document unchanged, of that URL and type, and remembers the file's state for the next save.
+    /// On failure the error is always set and the document is untouched.
     bool readFromUrl(const QUrl &url, const QString &typeName, Error &error);
 
     /// Called once after the document was opened or made new. The base makes none.
@@ -70,6 +76,7 @@ public:
     {
         return m_windowControllers;
     }
+    void raiseWindows() const;
     /// Destroys the windows, while the whole document still exists.
     void removeWindowControllers();
 
@@ -83,14 +90,15 @@ public:
     [[nodiscard]] virtual bool hasUnautosavedChanges() const { return isDocumentEdited(); }
 
     /// Writes the document to its file, or asks for a place when it is untitled and one was
-    /// suggested. A file changed by somebody else since it was read is only
-    /// overwritten after asking; a failure is shown in a sheet and leaves the old file whole and
-    /// the document changed. `done` (may be empty) gets whether the file was written: false at
-    /// once when there is no place to write to and while another question of this document is open.
+    /// suggested. Whatever stands in the way is asked about or shown in a sheet and leaves the old
+    /// file whole and the document changed; a copy saved instead becomes the document's file.
+    /// `done` (may be empty) gets whether a file was written: false at once when there is no place
+    /// to write to and while another question of this document is open.
     void saveDocument(std::function<void(bool)> done = {});
-    /// Writes the document's bytes of that type to another place, as safely as a save does. The
-    /// document's own file and its changes stay as they are.
-    [[nodiscard]] bool saveCopy(const QString &path, const QString &typeName, Error &error);
+    /// Asks for a place and writes the document's bytes of that type there, by the same steps as a
+    /// save. The document's own file, which is not to be chosen, and its changes stay as they are.
+    void exportDocument(const SavePanel &panel, const QString &typeName,
+                        const DocumentSaving::Done &done);
     /// Asks, then reads the file again and refills every window. When it cannot be read any more,
     /// that is shown and the document stays as it is.
     void revertDocumentToSaved();
@@ -104,16 +112,18 @@ public:
 signals:
     void fileUrlChanged();
     void documentEditedChanged();
-    /// An untitled document was saved and has a URL from here on.
+    /// The document was saved to another place than before and has its URL from here on.
     void placeWasChosen();
+    /// Something was done without asking that a person should hear of.
+    void told(const QString &text);
 
 protected:
-    /// Called with the bytes of a save before they replace the file. `decided` must be called once:
-    /// with what to write, or with none to give the save up. The base has them written.
-    virtual void reviewSave(const QByteArray &bytes,
-                            const std::function<void(const std::optional<QByteArray> &)> &decided);
-    /// Shows the alert; `answered` gets the button, or -1 when nobody can be asked.
-    void ask(const Alert &alert, const std::function<void(int)> &answered);
+    /// Called with the bytes of a save or an export before they replace a file. `decided` must be
+    /// called once: with what to write, or with none to give it up. The base has them written.
+    virtual void reviewSave(const QByteArray &bytes, SavePurpose purpose,
+                            const SaveJob::Client::Decided &decided);
+    /// Shows the alert; `answered` gets the answer, with button -1 when nobody can be asked.
+    void ask(const Alert &alert, const std::function<void(const AlertAnswer &)> &answered);
     /// Called after the file was written; the base clears the change count.
     virtual void documentWasSaved();
     /// Deleting later takes the windows away first.
@@ -123,15 +133,15 @@ protected:
     [[nodiscard]] QWidget *sheetWindow() const;
 
 private:
-    void saveToChosenPlace(const std::function<void(bool)> &done);
-    void saveToPlace(const QString &path, const std::function<void(bool)> &done);
-    [[nodiscard]] bool wasChangedOnDisk() const;
-    void write(const std::function<void(bool)> &done);
-    void replaceFile(const QByteArray &bytes, const std::function<void(bool)> &done);
-    void presentSaveError(const Error &error);
+    friend class DocumentSaving;
+
+    /// What the document's own file is expected to be when it is saved.
+    [[nodiscard]] FileState knownState() const;
+    /// Answers an empty path when none was chosen or nobody can be asked.
+    void askForPlace(const SavePanel &panel, const std::function<void(const QString &)> &answered);
+    /// Makes the file just written the document's own.
+    void wasWritten(const FileState &written);
     void revert();
-    [[nodiscard]] bool takeData(const QByteArray &bytes, const QUrl &url, const QString &typeName,
-                                Error &error);
 
     QUrl m_fileUrl;
     QUrl m_suggestedUrl;
@@ -141,7 +151,8 @@ private:
     FileOperations *m_fileOperations;
     int m_changeCount = 0;
     bool m_isAsking = false;
-    QByteArray m_diskDigest; ///< of the bytes last read or written
+    Lookup m_lookup;
+    std::optional<FileState> m_known; ///< of the file last read or written
     std::vector<std::unique_ptr<WindowController>> m_windowControllers;
 };
 

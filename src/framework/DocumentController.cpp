@@ -1,8 +1,10 @@
 #include "framework/DocumentController.h"
 
 #include "files/Error.h"
+#include "files/FilePlace.h"
 #include "framework/Prompts.h"
 #include "framework/RecentFiles.h"
+#include "framework/WaitCursor.h"
 #include "framework/WindowController.h"
 
 #include <QApplication>
@@ -15,20 +17,6 @@
 namespace quillet {
 
 namespace {
-
-/// Where a file is, whatever links lead to it; a file that is not there keeps its own path.
-QString placeOf(const QUrl &url)
-{
-    const QFileInfo info(url.toLocalFile());
-    const QString canonical = info.canonicalFilePath();
-    return canonical.isEmpty() ? info.absoluteFilePath() : canonical;
-}
-
-void raise(const Document &document)
-{
-    for (const auto &controller : document.windowControllers())
-        controller->raiseWindow();
-}
 
 bool hasWindow(const Document &document, const QWidget *window)
 {
@@ -88,9 +76,6 @@ Document *DocumentController::openUntitled(std::unique_ptr<Document> document,
     document->setPrompts(&m_prompts);
     document->setFileType(m_typeName);
     document->suggestSaving(suggested, untouched);
-    Document *added = document.get();
-    connect(added, &Document::placeWasChosen, this,
-            [this, added] { m_recentFiles->add(added->fileUrl().toLocalFile()); });
     return adopt(std::move(document), nullptr);
 }
 
@@ -118,10 +103,11 @@ void DocumentController::openDocuments(const QList<QUrl> &urls)
 
 Document *DocumentController::open(const QUrl &url, Error &error)
 {
-    Document *document = documentForUrl(url);
+    Document *document = documentAt(url.toLocalFile());
     if (document) {
-        raise(*document);
+        document->raiseWindows();
     } else {
+        const WaitCursor wait(WaitCursor::Work::Opening, QFileInfo(url.toLocalFile()).size());
         auto made = m_makeDocument();
         made->setPrompts(&m_prompts);
         made->setFileUrl(url);
@@ -165,6 +151,10 @@ Document *DocumentController::adopt(std::unique_ptr<Document> document, Document
 {
     Document *added = document.get();
     m_documents.push_back(std::move(document));
+    added->setLookup(
+        [this](const QString &path, const Document *except) { return documentAt(path, except); });
+    connect(added, &Document::placeWasChosen, this,
+            [this, added] { m_recentFiles->add(added->fileUrl().toLocalFile()); });
     added->makeWindowControllers();
     for (const auto &controller : added->windowControllers()) {
         connect(controller.get(), &WindowController::closeRequested, this,
@@ -226,7 +216,7 @@ void DocumentController::reviewNext(std::vector<Document *> givenUp,
     if (next == m_documents.end())
         return closeAllReviewed(done);
     Document *document = next->get();
-    raise(*document);
+    document->raiseWindows();
     const QPointer<DocumentController> guard(this);
     document->askToClose([guard, givenUp, document, done](bool mayClose) mutable {
         if (!guard)
@@ -249,13 +239,24 @@ void DocumentController::closeAllReviewed(const std::function<void(bool)> &done)
     done(true);
 }
 
-Document *DocumentController::documentForUrl(const QUrl &url) const
+Document *DocumentController::documentAt(const QString &path, const Document *except) const
 {
-    const QString place = placeOf(url);
-    const auto found = std::find_if(m_documents.begin(), m_documents.end(), [&](const auto &each) {
-        return !each->fileUrl().isEmpty() && placeOf(each->fileUrl()) == place;
-    });
+    const auto isThere = [&](const auto &each) {
+        return each.get() != except && samePlace(each->fileUrl().toLocalFile(), path);
+    };
+    const auto found = std::find_if(m_documents.begin(), m_documents.end(), isThere);
     return found == m_documents.end() ? nullptr : found->get();
+}
+
+bool DocumentController::raiseCopyOf(const QUrl &untouched)
+{
+    const auto isCopy = [&](const auto &each) {
+        return samePlace(each->untouchedUrl().toLocalFile(), untouched.toLocalFile());
+    };
+    const auto found = std::find_if(m_documents.begin(), m_documents.end(), isCopy);
+    if (found != m_documents.end())
+        (*found)->raiseWindows();
+    return found != m_documents.end();
 }
 
 Document *DocumentController::untouchedDocument() const

@@ -47,6 +47,9 @@ public:
     /// other file is never written to.
     Document *openUntitled(std::unique_ptr<Document> document, const QUrl &suggested,
                            const QUrl &untouched);
+    /// Raises the window of an open document made from that file, which stays untouched. Returns
+    /// whether there is one.
+    bool raiseCopyOf(const QUrl &untouched);
     /// Opens a file in a window and puts it first among the recent files. Returns none after
     /// showing what was wrong.
     Document *openDocument(const QUrl &url);
@@ -74,7 +77,8 @@ private:
     void presentOpenError(const QUrl &url, const Error &error);
     void reviewNext(std::vector<Document *> givenUp, const std::function<void(bool)> &done);
     void closeAllReviewed(const std::function<void(bool)> &done);
-    [[nodiscard]] Document *documentForUrl(const QUrl &url) const;
+    /// The document, not the excepted one, whose file the path leads to.
+    [[nodiscard]] Document *documentAt(const QString &path, const Document *except = nullptr) const;
     [[nodiscard]] Document *untouchedDocument() const;
     [[nodiscard]] QWidget *currentWindow() const;
 

@@ -19,13 +19,16 @@ struct Alert
     int cancelButton = -1;      ///< index of the button that Escape presses; -1: the last one
     int destructiveButton = -1; ///< index of a button that throws changes away; -1: none
     bool asksForText = false;   ///< shows a single-line text field, empty and focused
+    QString checkBox = {};      ///< of a box to tick beside the buttons; empty: none
 };
 
-/// The button pressed (an index into Alert::buttons) and the field's text, if one was asked for.
+/// The button pressed (an index into Alert::buttons), the field's text, if one was asked for, and
+/// whether the box was ticked.
 struct AlertAnswer
 {
     int button = -1;
-    QString text;
+    QString text = {};
+    bool isChecked = false;
 };
 
 /// What a panel that asks for files to open offers.

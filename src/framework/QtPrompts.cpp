@@ -1,5 +1,6 @@
 #include "framework/QtPrompts.h"
 
+#include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -78,6 +79,14 @@ QLineEdit *addTextField(QMessageBox &box, const QString &name)
     return field;
 }
 
+QCheckBox *addCheckBox(QMessageBox &box, const QString &text)
+{
+    auto *check = new QCheckBox(text, &box);
+    check->setObjectName(QStringLiteral("alertCheckBox"));
+    box.setCheckBox(check);
+    return check;
+}
+
 /// Names of files are shown as they are, also when they look like markup.
 void showAsPlainText(QMessageBox &box)
 {
@@ -108,9 +117,11 @@ void QtPrompts::showAlert(QWidget *window, const Alert &alert,
     box->setInformativeText(alert.informativeText);
     showAsPlainText(*box);
     addButtons(*box, alert);
+    QCheckBox *check = alert.checkBox.isEmpty() ? nullptr : addCheckBox(*box, alert.checkBox);
     QLineEdit *field = alert.asksForText ? addTextField(*box, alert.message) : nullptr;
-    QObject::connect(box, &QDialog::finished, box, [box, field, alert, done] {
-        done({indexOfClickedButton(*box, alert), field ? field->text() : QString()});
+    QObject::connect(box, &QDialog::finished, box, [box, check, field, alert, done] {
+        done({indexOfClickedButton(*box, alert), field ? field->text() : QString(),
+              check && check->isChecked()});
     });
     present(*box, QStringLiteral("alert"));
 }

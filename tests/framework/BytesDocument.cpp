@@ -1,6 +1,9 @@
 #include "BytesDocument.h"
 
+#include <QGuiApplication>
 #include <QMainWindow>
+
+#include <utility>
 
 namespace quillet::testing {
 
@@ -9,19 +12,15 @@ CountingWindow::CountingWindow()
 {
 }
 
-bool BytesDocument::readFromData(const QByteArray &data, const QString &typeName, Error &error)
-{
-    if (!canRead(data, typeName, error))
-        return false;
-    content = data;
-    return true;
-}
-
-bool BytesDocument::canRead(const QByteArray &data, const QString &, Error &error) const
+bool BytesDocument::readFromData(const QByteArray &data, const QString &, Error &error)
 {
     if (data.startsWith("bad"))
         error = {QStringLiteral("BytesDocument"), -1, QStringLiteral("bad bytes"), {}};
-    return !data.isEmpty() && error.isEmpty();
+    hadWaitCursor = QGuiApplication::overrideCursor() != nullptr;
+    const bool isReadable = !data.isEmpty() && error.isEmpty();
+    if (isReadable)
+        content = data;
+    return isReadable;
 }
 
 QByteArray BytesDocument::dataOfType(const QString &, Error &error)
@@ -34,6 +33,14 @@ QByteArray BytesDocument::dataOfType(const QString &, Error &error)
 void BytesDocument::makeWindowControllers()
 {
     addWindowController(std::make_unique<CountingWindow>());
+}
+
+void BytesDocument::reviewSave(const QByteArray &bytes, SavePurpose,
+                               const SaveJob::Client::Decided &decided)
+{
+    if (const auto happening = std::exchange(duringReview, {}))
+        happening();
+    decided(bytes);
 }
 
 void BytesDocument::edit(const QByteArray &bytes)

@@ -24,16 +24,19 @@ class BytesDocument : public Document
 public:
     bool readFromData(const QByteArray &data, const QString &typeName, Error &error) override;
     [[nodiscard]] QByteArray dataOfType(const QString &typeName, Error &error) override;
-    [[nodiscard]] bool canRead(const QByteArray &data, const QString &typeName,
-                               Error &error) const override;
     void makeWindowControllers() override;
+
+    void reviewSave(const QByteArray &bytes, SavePurpose purpose,
+                    const SaveJob::Client::Decided &decided) override;
 
     /// A change by the user.
     void edit(const QByteArray &bytes);
     [[nodiscard]] CountingWindow &countingWindow() const;
 
     QByteArray content;
-    bool isUnwritable = false; ///< dataOfType fails
+    std::function<void()> duringReview; ///< what happens while a save is reviewed
+    bool hadWaitCursor = false;         ///< when it was read last
+    bool isUnwritable = false;          ///< dataOfType fails
 };
 
 } // namespace quillet::testing

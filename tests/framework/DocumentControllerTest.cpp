@@ -70,6 +70,36 @@ private slots:
         QCOMPARE(first->fileType(), id("bytes"));
     }
 
+    void fileOfOneWindowIsNotWrittenByAnother()
+    {
+        Document *first = open("a");
+        Document *second = open("b");
+        QCOMPARE(second->otherDocumentAt(path("a")), first);
+        QCOMPARE(first->otherDocumentAt(path("a")), nullptr);
+        // Nor by a copy that was made of it, of which there is one only.
+        auto made = std::make_unique<BytesDocument>();
+        Document *copy = m_controller->openUntitled(std::move(made), QUrl::fromLocalFile(path("c")),
+                                                    QUrl::fromLocalFile(path("a")));
+        windowOf(copy)->showMinimized();
+        QVERIFY(!m_controller->raiseCopyOf(QUrl::fromLocalFile(path("b"))));
+        QVERIFY(m_controller->raiseCopyOf(QUrl::fromLocalFile(path("a"))));
+        QVERIFY(!windowOf(copy)->isMinimized());
+        m_prompts->answerSavePanel(path("b"));
+        m_prompts->answerAlert(id("kChoosePlace"));
+        m_prompts->answerSavePanel(path("c"));
+        copy->saveDocument();
+        QTRY_COMPARE(copy->fileUrl(), QUrl::fromLocalFile(path("c")));
+        QVERIFY(m_prompts->lastText().contains(id("kOpenElsewhereReason")));
+        QCOMPARE(contentOf(path("b")), QByteArray("b"));
+        QCOMPARE(m_controller->recentFiles().paths().front(), path("c"));
+        // That it is saved makes the other file no less untouched.
+        m_prompts->answerSavePanel(path("a"));
+        m_prompts->answerAlert(id("kCancel"));
+        copy->exportDocument({}, {}, [](bool, const Error &) {});
+        QTRY_VERIFY(m_prompts->isSettled());
+        QVERIFY(m_prompts->lastText().contains(id("kUntouchedReason")));
+    }
+
     void untouchedWindowIsReplaced_data()
     {
         QTest::addColumn<bool>("isEdited");

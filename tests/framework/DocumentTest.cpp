@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QGuiApplication>
 #include <QMainWindow>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -99,6 +100,19 @@ private slots:
         QVERIFY(document.isDocumentEdited());
     }
 
+    void longWorkShowsAWaitCursor()
+    {
+        QVERIFY(!m_document->hadWaitCursor);
+        const auto isShown = [] { return QGuiApplication::overrideCursor() != nullptr; };
+        bool wasShown = false;
+        m_document->duringReview = [&] { wasShown = isShown(); };
+        m_document->edit(QByteArray(4'000'000, 'x'));
+        QCOMPARE(save(), std::optional<bool>(true));
+        QVERIFY(wasShown && !isShown());
+        m_document->revertDocumentToSaved();
+        QVERIFY(m_document->hadWaitCursor && !isShown());
+    }
+
     void savingWritesAndClearsTheChanges()
     {
         QSignalSpy edited(m_document.get(), &Document::documentEditedChanged);
@@ -126,73 +140,214 @@ private slots:
         QCOMPARE(document.displayName(), id("kUntitled"));
     }
 
-    void unwritableContentKeepsTheFile()
+    void failedSaveOffersACopy_data()
+    {
+        QTest::addColumn<QString>("place"); // of the copy; empty: none is chosen
+        QTest::addColumn<bool>("isClosing");
+        QTest::newRow("copy") << id("copy.tll") << false;
+        QTest::newRow("copy, then closed") << id("copy.tll") << true;
+        QTest::newRow("no place") << QString() << false;
+    }
+    void failedSaveOffersACopy()
+    {
+        QFETCH(QString, place);
+        QFETCH(bool, isClosing);
+        QVERIFY(QFile::remove(m_path) && QDir().mkdir(m_path)); // where no file can be written
+        m_document->edit("mine");
+        if (isClosing)
+            m_prompts->answerAlert(id("kSave"));
+        m_prompts->answerAlert(id("kSaveAnyway")); // although it was changed
+        m_prompts->answerAlert(id("kSaveCopy"));
+        const QString path = place.isEmpty() ? place : m_folder->filePath(place);
+        m_prompts->answerSavePanel(path);
+        QSignalSpy chosen(m_document.get(), &Document::placeWasChosen);
+        std::optional<bool> answer;
+        const auto done = [&answer](bool is) { answer = is; };
+        isClosing ? m_document->askToClose(done) : m_document->saveDocument(done);
+        QTRY_COMPARE(answer, std::optional<bool>(!place.isEmpty()));
+        QVERIFY(m_prompts->isSettled());
+        QVERIFY(m_prompts->lastText().contains(id("kNotAFileReason list.tll")));
+        QVERIFY(m_prompts->lastText().endsWith(id("kCopyBecomesText")));
+        QCOMPARE(m_prompts->alerts().back().window, m_document->countingWindow().window());
+        QCOMPARE(m_prompts->savePanels().front().suggestedPath,
+                 m_folder->filePath(id("list-copy.tll")));
+        QCOMPARE(m_document->isDocumentEdited(), place.isEmpty());
+        QCOMPARE(chosen.count(), place.isEmpty() ? 0 : 1);
+        if (place.isEmpty())
+            return;
+        // From here on the copy is the document's file.
+        QCOMPARE(m_document->fileUrl(), QUrl::fromLocalFile(path));
+        m_document->edit("more");
+        QCOMPARE(save(), std::optional<bool>(true));
+        QCOMPARE(contentOf(path), QByteArray("more"));
+    }
+
+    void contentThatCannotBeMadeIsNotWritten()
     {
         m_document->edit("new");
         m_document->isUnwritable = true;
+        m_prompts->answerAlert(id("kCancel"));
         QCOMPARE(save(), std::optional<bool>(false));
         QVERIFY(m_prompts->lastText().contains(id("no bytes")));
-        QCOMPARE(m_prompts->alerts().back().window, m_document->countingWindow().window());
         QCOMPARE(contentOf(m_path), QByteArray("old"));
         QVERIFY(m_document->isDocumentEdited());
     }
 
-    void asksBeforeOverwritingSomebodyElsesFile_data()
+    void looksAtTheDiskBeforeReplacing_data()
     {
-        QTest::addColumn<bool>("isMoved"); // the document was given another, existing file
+        QTest::addColumn<QByteArray>("onDisk"); // null: the file is gone
+        QTest::addColumn<bool>("isLate");       // not before all other questions were answered
         QTest::addColumn<QString>("button");
-        QTest::addColumn<bool>("isWritten");
-        QTest::newRow("changed, anyway") << false << id("kSaveAnyway") << true;
-        QTest::newRow("changed, cancel") << false << id("kCancel") << false;
-        QTest::newRow("never read, anyway") << true << id("kSaveAnyway") << true;
-        QTest::newRow("never read, cancel") << true << id("kCancel") << false;
+        QTest::addColumn<QByteArray>("left");
+        const QByteArray two("two"), none, mine("mine"), gone("<cannot be read>");
+        QTest::newRow("changed, anyway") << two << false << id("kSaveAnyway") << mine;
+        QTest::newRow("changed, cancel") << two << false << id("kCancel") << two;
+        QTest::newRow("changed, reload") << two << false << id("kReload") << two;
+        QTest::newRow("changed late") << two << true << id("kCancel") << two;
+        QTest::newRow("gone, anyway") << none << false << id("kSaveHereAnyway") << mine;
+        QTest::newRow("gone, cancel") << none << false << id("kCancel") << gone;
+        QTest::newRow("gone late") << none << true << id("kCancel") << gone;
     }
-    void asksBeforeOverwritingSomebodyElsesFile()
+    void looksAtTheDiskBeforeReplacing()
     {
-        QFETCH(bool, isMoved);
+        QFETCH(QByteArray, onDisk);
+        QFETCH(bool, isLate);
         QFETCH(QString, button);
-        QFETCH(bool, isWritten);
+        QFETCH(QByteArray, left);
+        const auto change = [&] {
+            QVERIFY(!onDisk.isNull() || QFile::remove(m_path));
+            if (!onDisk.isNull())
+                writeFile(m_path, onDisk); // as long as the old content
+        };
         m_document->edit("mine");
-        const QString path = isMoved ? m_folder->filePath(id("other.tll")) : m_path;
-        writeFile(path, "two"); // as long as the old content
-        m_document->setFileUrl(QUrl::fromLocalFile(path));
+        if (isLate)
+            m_document->duringReview = change;
+        else
+            change();
         m_prompts->answerAlert(button);
-        QCOMPARE(save(), std::optional<bool>(isWritten));
+        const bool reloads = button == id("kReload");
+        if (reloads)
+            m_prompts->answerAlert(id("kRevert"));
+        QCOMPARE(save(), std::optional<bool>(left == "mine"));
+        QTRY_VERIFY(m_prompts->isSettled());
         const Alert &alert = m_prompts->alerts().front().alert;
+        QCOMPARE(alert.message.section(u' ', 0, 0),
+                 id(onDisk.isNull() ? "kGoneMessage" : "kChangedOnDiskMessage"));
         QCOMPARE(alert.buttons.at(alert.cancelButton), id("kCancel"));
         QCOMPARE(alert.buttons.front(), id("kCancel"));
-        QCOMPARE(contentOf(path), isWritten ? QByteArray("mine") : QByteArray("two"));
-        QCOMPARE(m_document->isDocumentEdited(), !isWritten);
+        QCOMPARE(contentOf(m_path), left);
+        QCOMPARE(m_document->isDocumentEdited(), left != "mine" && !reloads);
+        QCOMPARE(m_document->content, reloads ? onDisk : QByteArray("mine"));
         // An answer holds for one save; a refusal is no reason to stop asking.
         m_document->edit("mine again");
-        if (!isWritten)
+        const bool isKnown = left == "mine" || reloads;
+        if (!isKnown)
             m_prompts->answerAlert(id("kCancel"));
-        QCOMPARE(save(), std::optional<bool>(isWritten));
+        QCOMPARE(save(), std::optional<bool>(isKnown));
         QVERIFY(m_prompts->isSettled());
     }
 
-    void vanishedFileIsWrittenAgain_data()
+    void looksAgainAfterItsOwnQuestion()
     {
-        QTest::addColumn<bool>("hasFolder");
-        QTest::newRow("folder is there") << true;
-        QTest::newRow("folder has gone too") << false;
+        m_document->edit("mine");
+        writeFile(m_path, "two");
+        std::optional<bool> isSaved;
+        m_document->saveDocument([&isSaved](bool saved) { isSaved = saved; });
+        writeFile(m_path, "three"); // while the question about "two" is open
+        m_prompts->answerAlert(id("kSaveAnyway"));
+        m_prompts->answerAlert(id("kCancel"));
+        QTRY_COMPARE(isSaved, std::optional<bool>(false));
+        QCOMPARE(contentOf(m_path), QByteArray("three"));
     }
-    void vanishedFileIsWrittenAgain()
+
+    void asksBeforeOverwritingAFileThatWasNeverRead()
     {
-        QFETCH(bool, hasFolder);
-        const QString path = m_folder->filePath(id("sub/list.tll"));
-        QVERIFY(QDir(m_folder->path()).mkdir(id("sub")));
-        writeFile(path, "old");
-        Error error;
-        QVERIFY(m_document->readFromUrl(QUrl::fromLocalFile(path), {}, error));
-        m_document->edit("new");
-        QVERIFY(QFile::remove(path));
-        if (!hasFolder)
-            QVERIFY(QDir(m_folder->path()).rmdir(id("sub")));
-        QCOMPARE(save(), std::optional<bool>(hasFolder));
-        QCOMPARE(m_prompts->alerts().empty(), hasFolder);
-        QCOMPARE(QFile::exists(path), hasFolder);
-        QCOMPARE(m_document->isDocumentEdited(), !hasFolder);
+        m_document->edit("mine");
+        const QString path = m_folder->filePath(id("other.tll"));
+        writeFile(path, "two");
+        m_document->setFileUrl(QUrl::fromLocalFile(path));
+        m_prompts->answerAlert(id("kCancel"));
+        QCOMPARE(save(), std::optional<bool>(false));
+        QCOMPARE(contentOf(path), QByteArray("two"));
+    }
+
+    void someFilesAreNeverWrittenTo_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("reason"); // of an export; empty: it is written
+        QTest::addColumn<bool>("isSavedTo"); // by the first save of an untitled document
+        const QString untouched = id("kUntouchedReason"), elsewhere = id("kOpenElsewhereReason");
+        QTest::newRow("new") << id("new.txt") << QString() << true;
+        QTest::newRow("own") << id("list.tll") << id("kOwnFileReason") << true;
+        QTest::newRow("own, by a link") << id("link") << id("kOwnFileReason") << true;
+        QTest::newRow("untouched") << id("damaged") << untouched << false;
+#ifndef Q_OS_WIN
+        QTest::newRow("untouched, by a hard link") << id("hard") << untouched << false;
+#endif
+        QTest::newRow("untouched that is gone") << id("gone") << untouched << false;
+        QTest::newRow("not there either") << id("nowhere") << QString() << true;
+        QTest::newRow("open elsewhere") << id("open") << elsewhere << false;
+        QTest::newRow("in a folder that is gone")
+            << id("none/new.txt") << id("kCreateFailedReason") << false;
+    }
+    void someFilesAreNeverWrittenTo()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, reason);
+        QFETCH(bool, isSavedTo);
+        const auto path = [this](const QString &of) { return m_folder->filePath(of); };
+        writeFile(path(id("damaged")), "damaged");
+        writeFile(path(id("open")), "open");
+        QVERIFY(QFile::link(m_path, path(id("link"))));
+#ifndef Q_OS_WIN
+        QCOMPARE(::link(QFile::encodeName(path(id("damaged"))).constData(),
+                        QFile::encodeName(path(id("hard"))).constData()),
+                 0);
+#endif
+        const QString untouched =
+            path(id(name == id("gone") || name == id("nowhere") ? "gone" : "damaged"));
+        const QByteArray before = contentOf(path(name));
+        BytesDocument other;
+        for (Document *document :
+             {static_cast<Document *>(m_document.get()), static_cast<Document *>(&other)}) {
+            document->suggestSaving(QUrl::fromLocalFile(path(id("suggested"))),
+                                    QUrl::fromLocalFile(untouched));
+            document->setPrompts(m_prompts.get());
+            document->setLookup([this](const QString &at, const Document *) {
+                return at.endsWith(id("/open")) ? m_document.get() : nullptr;
+            });
+        }
+        m_document->edit("mine");
+        int reviews = 0;
+        m_document->duringReview = [&reviews] { ++reviews; };
+        // A place that is refused is asked for again.
+        m_prompts->answerSavePanel(path(name));
+        if (!reason.isEmpty()) {
+            m_prompts->answerAlert(id("kChoosePlace"));
+            m_prompts->answerSavePanel(path(id("second.txt")));
+        }
+        std::optional<bool> isWritten;
+        m_document->exportDocument({}, {}, [&](bool is, const Error &) { isWritten = is; });
+        QTRY_COMPARE(isWritten, std::optional<bool>(true));
+        QVERIFY(m_prompts->isSettled());
+        QVERIFY(reviews >= 1);
+        QVERIFY2(m_prompts->lastText().section(u'\n', 1).startsWith(reason),
+                 qPrintable(m_prompts->lastText()));
+        QCOMPARE(contentOf(path(name)), reason.isEmpty() ? QByteArray("mine") : before);
+        QCOMPARE(contentOf(path(reason.isEmpty() ? name : id("second.txt"))), QByteArray("mine"));
+        QVERIFY(m_document->isDocumentEdited());
+        QCOMPARE(m_document->fileUrl(), QUrl::fromLocalFile(m_path));
+
+        other.edit("other");
+        m_prompts->answerSavePanel(path(name));
+        if (!isSavedTo)
+            m_prompts->answerAlert(id("kCancel"));
+        std::optional<bool> isSaved;
+        other.saveDocument([&isSaved](bool saved) { isSaved = saved; });
+        QTRY_COMPARE(isSaved, std::optional<bool>(isSavedTo));
+        QVERIFY(m_prompts->isSettled());
+        QCOMPARE(other.fileUrl().isEmpty(), !isSavedTo);
+        QCOMPARE(contentOf(path(name)), isSavedTo ? QByteArray("other") : before);
     }
 
     void revertReadsTheFileAgain_data()
@@ -232,17 +387,6 @@ private slots:
         QCOMPARE(m_document->countingWindow().refills, isReverted ? 1 : 0);
     }
 
-    void revertKnowsTheNewStateOnDisk()
-    {
-        m_document->edit("mine");
-        writeFile(m_path, "disk");
-        m_prompts->answerAlert(id("kRevert"));
-        m_document->revertDocumentToSaved();
-        QTRY_COMPARE(m_document->content, QByteArray("disk"));
-        m_document->edit("mine");
-        QCOMPARE(save(), std::optional<bool>(true));
-    }
-
     void askingToClose_data()
     {
         QTest::addColumn<QString>("button"); // empty: the document has no changes
@@ -267,6 +411,8 @@ private slots:
             m_document->edit("mine");
             m_prompts->answerAlert(button);
         }
+        if (!isWritable)
+            m_prompts->answerAlert(id("kCancel"));
         std::optional<bool> answer;
         m_document->askToClose([&answer](bool may) { answer = may; });
         QTRY_COMPARE(answer, std::optional<bool>(mayClose));
@@ -288,8 +434,10 @@ private slots:
         m_document->askToClose([&second](bool may) { second = may; });
         QCOMPARE(second, std::optional<bool>(false));
         m_document->revertDocumentToSaved();
+        m_document->exportDocument({}, {}, [](bool, const Error &) {});
         QCOMPARE(save(), std::optional<bool>(false));
         QCOMPARE(m_prompts->alerts().size(), size_t{1});
+        QVERIFY(m_prompts->savePanels().empty());
         QVERIFY(!first.has_value());
         m_prompts->answerAlert(id("kCancel"));
         QTRY_COMPARE(first, std::optional<bool>(false));

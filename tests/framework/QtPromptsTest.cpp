@@ -1,6 +1,7 @@
 #include "framework/QtPrompts.h"
 #include "testing/TestMain.h"
 
+#include <QCheckBox>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
@@ -96,6 +97,49 @@ private slots:
         QVERIFY(m_answer);
         QCOMPARE(m_answer->button, 0);
         QCOMPARE(m_answer->text, QStringLiteral("17"));
+    }
+
+    void checkBoxIsToldWithTheAnswer()
+    {
+        Alert alert;
+        alert.buttons = {QStringLiteral("A")};
+        alert.checkBox = QStringLiteral("Always");
+        const QMessageBox *box = show(alert);
+        auto *check = box->findChild<QCheckBox *>(QStringLiteral("alertCheckBox"));
+        QVERIFY(check && check->isVisible() && !check->isChecked());
+        QCOMPARE(check->text(), alert.checkBox);
+        check->click();
+        box->findChild<QPushButton *>(QStringLiteral("alertButton0"))->click();
+        QVERIFY(m_answer && m_answer->isChecked);
+    }
+
+    void savePanelStartsWhereItIsTold_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("chosen"); // empty: cancelled
+        QTest::newRow("as suggested") << QString() << QStringLiteral("list.txt");
+        QTest::newRow("another name") << QStringLiteral("other") << QStringLiteral("other.txt");
+        QTest::newRow("cancelled") << QString() << QString();
+    }
+    void savePanelStartsWhereItIsTold()
+    {
+        QFETCH(QString, typed);
+        QFETCH(QString, chosen);
+        const QTemporaryDir folder;
+        std::optional<QString> path;
+        m_prompts.showSavePanel(m_window.get(),
+                                {.title = QStringLiteral("Export"),
+                                 .suggestedPath = folder.filePath(QStringLiteral("list.txt")),
+                                 .nameFilters = {}},
+                                [&path](const QString &answer) { path = answer; });
+        const QPointer dialog(m_window->findChild<QFileDialog *>(QStringLiteral("savePanel")));
+        QVERIFY(dialog && dialog->isVisible());
+        QCOMPARE(dialog->windowModality(), Qt::WindowModal);
+        if (!typed.isEmpty())
+            dialog->selectFile(typed);
+        chosen.isEmpty() ? dialog->reject() : void(QMetaObject::invokeMethod(dialog, "accept"));
+        QCOMPARE(path, chosen.isEmpty() ? QString() : folder.filePath(chosen));
+        QTRY_VERIFY(!dialog);
     }
 
     void questionGoesUnansweredWithItsWindow()

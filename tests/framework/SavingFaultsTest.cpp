@@ -1,5 +1,6 @@
 #include "BytesDocument.h"
 
+#include "files/FilePlace.h"
 #include "testing/PresetPrompts.h"
 #include "testing/TestMain.h"
 
@@ -12,6 +13,7 @@
 #include <cerrno>
 #include <cstring>
 #include <optional>
+#include <utility>
 
 #ifndef Q_OS_WIN
 #include "files/OrdinaryUser.h"
@@ -32,15 +34,17 @@ namespace {
 class SmallDisk
 {
 public:
-    explicit SmallDisk(const char *options)
-        : m_path(QFile::encodeName(m_folder.path())),
+    /// A file "list.tll" may lie beneath it, which shows when it is taken out.
+    explicit SmallDisk(const char *options, const QByteArray &beneath = {})
+        : m_path(prepare(beneath)),
           m_isMounted(::mount("tmpfs", m_path.constData(), "tmpfs", 0, options) == 0),
           m_errorNumber(errno)
     {
     }
-    ~SmallDisk()
+    ~SmallDisk() { takeOut(); }
+    void takeOut()
     {
-        if (m_isMounted)
+        if (std::exchange(m_isMounted, false))
             ::umount2(m_path.constData(), MNT_DETACH);
     }
     Q_DISABLE_COPY_MOVE(SmallDisk)
@@ -53,6 +57,13 @@ public:
     }
 
 private:
+    QByteArray prepare(const QByteArray &beneath) const
+    {
+        if (!beneath.isNull())
+            writeFile(filePath("list.tll"), beneath);
+        return QFile::encodeName(m_folder.path());
+    }
+
     QTemporaryDir m_folder;
     QByteArray m_path;
     bool m_isMounted;
@@ -105,7 +116,6 @@ private slots:
         QVERIFY(fillUp(filler, free));
         open(path, after);
 
-        QVERIFY(!save());
         expectRefusal(ENOSPC);
         QCOMPARE(contentOf(path), before);
         QCOMPARE(QDir(QFileInfo(path).path())
@@ -115,6 +125,32 @@ private slots:
         QVERIFY(QFile::remove(filler));
         QVERIFY(save());
         QCOMPARE(contentOf(path), after);
+    }
+
+    void diskThatWasTakenOutIsMissed_data()
+    {
+        QTest::addColumn<QByteArray>("beneath"); // a file of that name in the folder of the mount
+        QTest::newRow("no such file") << QByteArray();
+        QTest::newRow("an equal file") << QByteArray("old");
+    }
+    void diskThatWasTakenOutIsMissed()
+    {
+        QFETCH(QByteArray, beneath);
+        std::optional<SmallDisk> disk(std::in_place, "size=64k", beneath);
+        if (!disk->isMounted())
+            QSKIP(disk->reason());
+        writeFile(disk->filePath("list.tll"), "old");
+        open(disk->filePath("list.tll"), "new");
+        disk->takeOut();
+        m_prompts->answerAlert(QStringLiteral("kCancel"));
+        QVERIFY(!save());
+        QVERIFY2(m_prompts->lastText().startsWith(QLatin1String("kGoneMessage list.tll")),
+                 qPrintable(m_prompts->lastText()));
+        QCOMPARE(contentOf(disk->filePath("list.tll")),
+                 beneath.isNull() ? QByteArray("<cannot be read>") : beneath);
+        m_prompts->answerAlert(QStringLiteral("kSaveHereAnyway"));
+        QVERIFY(save());
+        QVERIFY(m_prompts->isSettled());
     }
 #endif
 
@@ -157,9 +193,11 @@ private slots:
 
         const QString path = folder.filePath(name);
         open(path, "new");
-        QCOMPARE(save(), isWritten);
-        if (!isWritten)
+        if (isWritten)
+            QVERIFY(save());
+        else
             expectRefusal(EACCES);
+        QCOMPARE(canBeReplaced(path), isWritten);
         QCOMPARE(m_document->isDocumentEdited(), !isWritten);
         QCOMPARE(contentOf(folder.filePath(written)), QByteArray(isWritten ? "new" : "old"));
         QCOMPARE(QFileInfo(path).isSymLink(), name != written);
@@ -191,10 +229,12 @@ private:
         return isSaved.value_or(false);
     }
 
-    /// Checks that the one sheet names the file and the system's reason, and that the changes are
-    /// still there to be saved.
-    void expectRefusal(int errorNumber) const
+    /// Saves and checks that the one sheet names the file and the system's reason, and that the
+    /// changes are still there to be saved.
+    void expectRefusal(int errorNumber)
     {
+        m_prompts->answerAlert(QStringLiteral("kCancel"));
+        QVERIFY(!save());
         const QString reason = QString::fromLocal8Bit(std::strerror(errorNumber));
         const QString text = m_prompts->lastText();
         QCOMPARE(m_prompts->alerts().size(), std::size_t{1});

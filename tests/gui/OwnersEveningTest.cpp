@@ -173,7 +173,8 @@ private slots:
 
         window->activateWindow(); // as a window manager would
         QVERIFY(QTest::qWaitForWindowActive(window));
-        app.preset.answerAlert(label("kSaveAnyway")); // the new name cannot be read again
+        // The new name, and with it all that stands behind, cannot be read again.
+        app.preset.answerAlert(qtTrId("kSaveWithout", 8));
         shortcut(*window, Qt::Key_S);
         QTRY_VERIFY(!window->isWindowModified());
         const QString yes = u"1"_s, no = u"0"_s;

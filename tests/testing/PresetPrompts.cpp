@@ -44,6 +44,11 @@ void PresetPrompts::answerAlert(const QString &buttonTitle, const QString &text)
     answer(m_alertLine, {buttonTitle, text});
 }
 
+void PresetPrompts::answerAlertChecked(const QString &buttonTitle)
+{
+    answer(m_alertLine, {buttonTitle, {}, QStringLiteral("ticked")});
+}
+
 void PresetPrompts::answerOpenPanel(const QStringList &paths)
 {
     answer(m_openLine, paths);
@@ -89,7 +94,8 @@ void PresetPrompts::showAlert(QWidget *window, const Alert &alert,
             button = alert.cancelButton < 0 ? static_cast<int>(alert.buttons.size()) - 1
                                             : alert.cancelButton;
         }
-        done({button, alert.asksForText ? given.value(1) : QString()});
+        done({button, alert.asksForText ? given.value(1) : QString(),
+              !alert.checkBox.isEmpty() && given.size() > 2});
     });
 }
 

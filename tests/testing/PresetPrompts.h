@@ -26,6 +26,8 @@ public:
     /// Presses the button with that title in the next alert (or the one that is open); an alert
     /// without such a button gets its cancelling answer and counts as a mistake.
     void answerAlert(const QString &buttonTitle, const QString &text = {});
+    /// The same, with the alert's box ticked.
+    void answerAlertChecked(const QString &buttonTitle);
     /// Chooses files in the next open panel; none cancels it.
     void answerOpenPanel(const QStringList &paths);
     /// Chooses a place in the next save panel; an empty path cancels it.
@@ -57,7 +59,8 @@ public:
                         std::function<void(QPrinter &)> print) override;
 
 private:
-    /// What a test presets: a button or a path first, then the alert's text or more paths.
+    /// What a test presets: a button or a path first, then the alert's text and, if its box is
+    /// ticked, something third; or more paths.
     using Answer = QStringList;
     using Question = std::function<void(const Answer &)>;
     struct Line

@@ -35,8 +35,7 @@ std::vector<QStringView> sectionsInOrder(const Dictionary &tree)
     for (qsizetype i = 0; channel && i < channel->count(); ++i) {
         const QStringView key = channel->at(i).key;
         const auto isKey = [key](QStringView section) { return section == key; };
-        const auto name =
-            std::find_if(fileword::sections.begin(), fileword::sections.end(), isKey);
+        const auto name = std::find_if(fileword::sections.begin(), fileword::sections.end(), isKey);
         if (name != fileword::sections.end())
             names.push_back(*name);
     }

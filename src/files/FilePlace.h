@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+namespace quillet {
+
+// Where a file is, whatever it is called. The one place where two paths are compared.
+
+/// The path without links; of a file that is not there, where it would be.
+[[nodiscard]] QString placeOf(const QString &path);
+/// Whether two paths lead to one file: by what the system says of files that are there (links, hard
+/// links and the case of names included), by where they would be of those that are not. An empty
+/// path leads nowhere.
+[[nodiscard]] bool samePlace(const QString &a, const QString &b);
+/// A number of the device that the file's folder lies on, which is another one as soon as the
+/// device is gone; none when there is no such folder or the system does not tell.
+[[nodiscard]] std::optional<quint64> deviceOf(const QString &path);
+/// Whether the system lets us replace the file, so far as it tells before.
+[[nodiscard]] bool canBeReplaced(const QString &path);
+
+} // namespace quillet

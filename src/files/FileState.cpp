@@ -1,0 +1,44 @@
+#include "files/FileState.h"
+
+#include "files/FilePlace.h"
+#include "files/FileReading.h"
+
+#include <QFileInfo>
+
+namespace quillet {
+
+FileState FileState::none(const QString &path)
+{
+    FileState state;
+    state.m_path = path;
+    state.m_device = deviceOf(path);
+    return state;
+}
+
+FileState FileState::of(const QString &path, const QByteArray &bytes)
+{
+    FileState state = none(path);
+    state.m_exists = true;
+    state.m_bytes = bytes;
+    return state;
+}
+
+FileState FileState::at(const QString &path)
+{
+    FileState state = none(path);
+    state.m_exists = QFileInfo::exists(path);
+    Error unused;
+    if (state.m_exists && !readFile(QUrl::fromLocalFile(path), state.m_bytes, unused))
+        state.m_bytes.clear();
+    return state;
+}
+
+FileState::Change FileState::changeSince(const FileState &earlier) const
+{
+    if (m_device != earlier.m_device || (earlier.m_exists && !m_exists))
+        return Change::Gone;
+    const bool isSame = m_exists == earlier.m_exists && m_bytes == earlier.m_bytes;
+    return isSame ? Change::None : Change::Content;
+}
+
+} // namespace quillet

@@ -1,0 +1,77 @@
+#include "files/SaveJob.h"
+
+#include "files/FilePlace.h"
+#include "files/FileReplacement.h"
+
+namespace quillet {
+
+void SaveJob::start(const QString &path, const std::optional<FileState> &expected,
+                    std::shared_ptr<Client> client, FileOperations &operations)
+{
+    const std::shared_ptr<SaveJob> job(new SaveJob(path, expected ? *expected : FileState::at(path),
+                                                   std::move(client), operations));
+    job->make();
+}
+
+SaveJob::SaveJob(const QString &path, FileState expected, std::shared_ptr<Client> client,
+                 FileOperations &operations)
+    : m_path(path), m_expected(std::move(expected)), m_client(std::move(client)),
+      m_operations(operations)
+{
+}
+
+void SaveJob::make()
+{
+    if (isRefused())
+        return;
+    Error error;
+    const QByteArray bytes = m_client->makeBytes(error);
+    if (!error.isEmpty())
+        return finish(Outcome::Failed, error);
+    m_client->review(bytes, [job = shared_from_this()](const std::optional<QByteArray> &reviewed) {
+        if (reviewed)
+            job->lookAtTheDisk(*reviewed);
+        else
+            job->finish(Outcome::GivenUp);
+    });
+}
+
+bool SaveJob::isRefused()
+{
+    const QString reason = m_client->refusal(placeOf(m_path));
+    if (!reason.isEmpty())
+        finish(Outcome::Refused, {QStringLiteral("SaveJob"), 1, reason, m_path});
+    return !reason.isEmpty();
+}
+
+void SaveJob::lookAtTheDisk(const QByteArray &bytes)
+{
+    // Meanwhile a window may have opened the file, or a link have been put in its place.
+    if (isRefused())
+        return;
+    const FileState now = FileState::at(m_path);
+    const FileState::Change change = now.changeSince(m_expected);
+    if (change == FileState::Change::None)
+        return replace(bytes);
+    m_client->confirm(change, [job = shared_from_this(), now, bytes](bool mayWrite) {
+        if (!mayWrite)
+            return job->finish(Outcome::GivenUp);
+        job->m_expected = now;
+        job->lookAtTheDisk(bytes);
+    });
+}
+
+void SaveJob::replace(const QByteArray &bytes)
+{
+    Error error;
+    if (!FileReplacement(m_operations).replace(m_path, bytes, error))
+        return finish(Outcome::Failed, error);
+    m_client->finished({Outcome::Written, {}, FileState::of(m_path, bytes)});
+}
+
+void SaveJob::finish(Outcome outcome, const Error &error)
+{
+    m_client->finished({outcome, error, {}});
+}
+
+} // namespace quillet

@@ -1,0 +1,76 @@
+#pragma once
+
+#include "files/Error.h"
+#include "files/FileState.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace quillet {
+
+class FileOperations;
+
+/// One writing of an owner's file: a save, a copy, an export. Nothing else may write one. Whoever
+/// wants it written answers, now or later, and may drop an answer to end the job. The steps:
+///   1. the target is resolved: where its links lead, and what is there at the start;
+///   2. it is refused when it must not be written to;
+///   3. the bytes are made;
+///   4. they are rehearsed: what would be lost if they were opened again?
+///   5. if anything is, that is asked about, and other bytes may be given instead;
+///   6. the disk is looked at. Any answer so far may have taken an hour, so only now: whether what
+///      is there is still what was there, on the same device. If not, that is asked about, and then
+///      the disk is looked at again, until it is as it was agreed to be;
+///   7. the file is replaced.
+class SaveJob : public std::enable_shared_from_this<SaveJob>
+{
+public:
+    enum class Outcome { Written, Refused, GivenUp, Failed };
+    struct Result
+    {
+        Outcome outcome = Outcome::GivenUp;
+        Error error;                        ///< of one that was refused or has failed
+        std::optional<FileState> written{}; ///< what is there now
+    };
+
+    /// Whoever wants the file written, in the order in which it is asked.
+    class Client
+    {
+    public:
+        virtual ~Client() = default;
+        /// Why the file at that place (without links) must not be written to; empty when it may.
+        [[nodiscard]] virtual QString refusal(const QString &place) const = 0;
+        [[nodiscard]] virtual QByteArray makeBytes(Error &error) = 0;
+        using Decided = std::function<void(const std::optional<QByteArray> &)>;
+        /// Rehearses the bytes and asks if need be. Answers what to write; none gives the job up.
+        virtual void review(const QByteArray &bytes, const Decided &decided) = 0;
+        /// Whether to write all the same, after such a change on the disk.
+        virtual void confirm(FileState::Change change,
+                             const std::function<void(bool)> &answered) = 0;
+        virtual void finished(const Result &result) = 0;
+    };
+
+    /// Without an expected state the one at the start is. The operations must outlive the job,
+    /// which keeps the client and lives as long as an answer is awaited.
+    static void start(const QString &path, const std::optional<FileState> &expected,
+                      std::shared_ptr<Client> client, FileOperations &operations);
+
+private:
+    SaveJob(const QString &path, FileState expected, std::shared_ptr<Client> client,
+            FileOperations &operations);
+    void make();
+    [[nodiscard]] bool isRefused();
+    void lookAtTheDisk(const QByteArray &bytes);
+    void replace(const QByteArray &bytes);
+    void finish(Outcome outcome, const Error &error = {});
+
+    QString m_path;
+    FileState m_expected;
+    std::shared_ptr<Client> m_client;
+    FileOperations &m_operations;
+};
+
+} // namespace quillet

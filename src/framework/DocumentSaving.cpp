@@ -1,0 +1,168 @@
+#include "framework/DocumentSaving.h"
+
+#include "files/FilePlace.h"
+#include "framework/Document.h"
+#include "framework/WaitCursor.h"
+
+#include <QFileInfo>
+#include <QStandardPaths>
+
+namespace quillet {
+
+DocumentSaving::DocumentSaving(Document &document, SavePurpose purpose, const QString &typeName,
+                               Done done)
+    : m_document(document), m_purpose(purpose), m_typeName(typeName), m_done(std::move(done))
+{
+}
+
+void DocumentSaving::writeToFile()
+{
+    write(m_document.fileUrl().toLocalFile(), m_document.knownState());
+}
+
+void DocumentSaving::writeToChosenPlace(const SavePanel &panel)
+{
+    m_panel = panel;
+    m_document.askForPlace(panel, [self = shared_from_this()](const QString &path) {
+        if (path.isEmpty())
+            self->m_done(false, {});
+        else
+            self->write(path, {});
+    });
+}
+
+void DocumentSaving::write(const QString &path, const std::optional<FileState> &expected)
+{
+    m_path = path;
+    m_next = Choice::Cancel;
+    SaveJob::start(path, expected, shared_from_this(), *m_document.m_fileOperations);
+}
+
+QString DocumentSaving::refusal(const QString &place) const
+{
+    if (samePlace(place, m_document.untouchedUrl().toLocalFile()))
+        return qtTrId("kUntouchedReason");
+    if (m_purpose == SavePurpose::Export && samePlace(place, m_document.fileUrl().toLocalFile()))
+        return qtTrId("kOwnFileReason");
+    return m_document.otherDocumentAt(place) ? qtTrId("kOpenElsewhereReason") : QString();
+}
+
+QByteArray DocumentSaving::makeBytes(Error &error)
+{
+    return m_document.dataOfType(m_typeName, error);
+}
+
+void DocumentSaving::review(const QByteArray &bytes, const Decided &decided)
+{
+    const WaitCursor wait(WaitCursor::Work::Reviewing, bytes.size());
+    m_document.reviewSave(bytes, m_purpose, decided);
+}
+
+void DocumentSaving::confirm(FileState::Change change, const std::function<void(bool)> &answered)
+{
+    const bool isGone = change == FileState::Change::Gone;
+    Alert alert;
+    alert.message = qtTrId(isGone ? "kGoneMessage" : "kChangedOnDiskMessage").arg(targetName());
+    alert.informativeText = qtTrId(isGone ? "kGoneText" : "kChangedOnDiskText");
+    alert.buttons = {qtTrId("kCancel"), qtTrId(isGone ? "kSaveHereAnyway" : "kSaveAnyway")};
+    alert.cancelButton = 0;
+    alert.destructiveButton = 1;
+    std::vector<Choice> choices{Choice::Cancel, Choice::Write, Choice::OtherPlace};
+    if (isOwnFile() && !isGone)
+        choices.push_back(Choice::Reload);
+    offer(std::move(alert), choices, [self = shared_from_this(), answered](Choice choice) {
+        self->m_next = choice;
+        answered(choice == Choice::Write);
+    });
+}
+
+void DocumentSaving::finished(const SaveJob::Result &result)
+{
+    switch (result.outcome) {
+    case SaveJob::Outcome::Written:
+        if (m_purpose == SavePurpose::Save)
+            m_document.wasWritten(*result.written);
+        return m_done(true, {});
+    case SaveJob::Outcome::GivenUp:
+        return goOn(m_next, {});
+    case SaveJob::Outcome::Refused:
+    case SaveJob::Outcome::Failed:
+        return presentFailure(result.error);
+    }
+}
+
+void DocumentSaving::presentFailure(const Error &error)
+{
+    const bool isExport = m_purpose == SavePurpose::Export;
+    Alert alert;
+    alert.message =
+        qtTrId(isExport ? "kExportFailedMessage" : "kSaveFailedMessage").arg(targetName());
+    alert.informativeText = error.text();
+    alert.cancelButton = 1;
+    const auto goThere = [self = shared_from_this(), error](Choice choice) {
+        self->goOn(choice, error);
+    };
+    offer(std::move(alert), {Choice::OtherPlace, Choice::Cancel}, goThere);
+}
+
+void DocumentSaving::offer(Alert alert, const std::vector<Choice> &choices,
+                           const std::function<void(Choice)> &chosen)
+{
+    for (std::size_t i = static_cast<std::size_t>(alert.buttons.size()); i < choices.size(); ++i)
+        alert.buttons.append(titleOf(choices[i]));
+    if (isOwnFile())
+        alert.informativeText += QLatin1String("\n\n") + qtTrId("kCopyBecomesText");
+    m_document.ask(alert, [choices, chosen](const AlertAnswer &answer) {
+        const auto button = static_cast<std::size_t>(answer.button);
+        chosen(button < choices.size() ? choices[button] : Choice::Cancel);
+    });
+}
+
+QString DocumentSaving::titleOf(Choice choice) const
+{
+    switch (choice) {
+    case Choice::OtherPlace:
+        return qtTrId(isOwnFile() ? "kSaveCopy" : "kChoosePlace");
+    case Choice::Reload:
+        return qtTrId("kReload");
+    case Choice::Write:
+        return qtTrId("kSaveAnyway");
+    case Choice::Cancel:
+        return qtTrId("kCancel");
+    }
+    return {};
+}
+
+void DocumentSaving::goOn(Choice choice, const Error &error)
+{
+    if (choice == Choice::OtherPlace)
+        return writeToChosenPlace(m_panel ? *m_panel : panelForCopy());
+    m_done(false, error);
+    if (choice == Choice::Reload)
+        m_document.revertDocumentToSaved();
+}
+
+/// Suggests the file's own folder, or one of the user's when nothing can be written there.
+SavePanel DocumentSaving::panelForCopy() const
+{
+    const QFileInfo file(m_path);
+    QString suggested = file.path() + u'/' + file.completeBaseName() + QLatin1String("-copy");
+    if (!file.suffix().isEmpty())
+        suggested += u'.' + file.suffix();
+    if (!canBeReplaced(suggested))
+        suggested = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) + u'/' +
+                    file.fileName();
+    return {.title = qtTrId("kSaveCopyTitle"), .suggestedPath = suggested, .nameFilters = {}};
+}
+
+QString DocumentSaving::targetName() const
+{
+    return QFileInfo(m_path).fileName();
+}
+
+bool DocumentSaving::isOwnFile() const
+{
+    return !m_panel;
+}
+
+} // namespace quillet

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "files/SaveJob.h"
+#include "framework/Prompts.h"
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace quillet {
+
+class Document;
+
+/// What a document's bytes are written for.
+enum class SavePurpose {
+    Save,   ///< the file written is, or becomes, the document's own
+    Export, ///< a copy in the described form; the document stays as it is
+};
+
+/// One save or export of a document: asks for a place if need be, runs the job, shows what went
+/// wrong and offers another way. Lives as long as an answer is awaited and touches the document
+/// only in answers, which reach nobody once the document is gone.
+class DocumentSaving : public SaveJob::Client, public std::enable_shared_from_this<DocumentSaving>
+{
+public:
+    /// Gets whether a file was written, and if not why; the reason is empty when nobody wanted to.
+    using Done = std::function<void(bool, const Error &)>;
+
+    DocumentSaving(Document &document, SavePurpose purpose, const QString &typeName, Done done);
+
+    /// Writes to the document's own file.
+    void writeToFile();
+    /// Asks for a place and writes there.
+    void writeToChosenPlace(const SavePanel &panel);
+
+    [[nodiscard]] QString refusal(const QString &place) const override;
+    [[nodiscard]] QByteArray makeBytes(Error &error) override;
+    void review(const QByteArray &bytes, const Decided &decided) override;
+    void confirm(FileState::Change change, const std::function<void(bool)> &answered) override;
+    void finished(const SaveJob::Result &result) override;
+
+private:
+    enum class Choice { Cancel, Write, OtherPlace, Reload };
+    /// Shows the alert; the choices that it has no button for yet get one.
+    void offer(Alert alert, const std::vector<Choice> &choices,
+               const std::function<void(Choice)> &chosen);
+    [[nodiscard]] QString titleOf(Choice choice) const;
+    void goOn(Choice choice, const Error &error);
+    void write(const QString &path, const std::optional<FileState> &expected);
+    void presentFailure(const Error &error);
+    [[nodiscard]] SavePanel panelForCopy() const;
+    [[nodiscard]] QString targetName() const;
+    [[nodiscard]] bool isOwnFile() const;
+
+    Document &m_document;
+    SavePurpose m_purpose;
+    QString m_typeName;
+    Done m_done;
+    QString m_path;                   ///< of the file to write
+    std::optional<SavePanel> m_panel; ///< that the place was chosen in
+    Choice m_next = Choice::Cancel;   ///< what follows the job that ends
+};
+
+} // namespace quillet

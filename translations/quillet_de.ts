@@ -363,7 +363,7 @@
     </message>
     <message id="kMenuAlwaysRepair">
         <source></source>
-        <translation>JSON-Listen repariert speichern</translation>
+        <translation>&amp;JSON-Listen repariert speichern</translation>
     </message>
     <message id="kMenuAnalogue">
         <source></source>

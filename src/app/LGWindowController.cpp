@@ -21,12 +21,12 @@ void LGWindowController::windowDidLoad()
     m_editor->focusList();
     // Ahead of the question whether to save.
     connect(this, &WindowController::closeRequested, m_editor, &EditorView::commitEditing);
-    QStatusBar *line = window()->statusBar();
-    line->setObjectName(QStringLiteral("toldLine"));
-    line->setSizeGripEnabled(false);
-    line->hide();
-    connect(line, &QStatusBar::messageChanged, line,
-            [line](const QString &text) { line->setVisible(!text.isEmpty()); });
+    QStatusBar *told = window()->statusBar();
+    told->setObjectName(QStringLiteral("toldLine"));
+    told->setSizeGripEnabled(false);
+    told->hide();
+    connect(told, &QStatusBar::messageChanged, told,
+            [told](const QString &text) { told->setVisible(!text.isEmpty()); });
     const QSize wanted = m_editor->sizeHint();
     const int line = m_editor->fontMetrics().height();
     window()->resize(qMax(wanted.width() + 6 * line, 48 * line), 42 * line);
@@ -38,6 +38,8 @@ bool LGWindowController::populateFromTLLDoc(TLLDocument &document, const Error &
             Qt::UniqueConnection);
     connect(&document, &Document::fileUrlChanged, &m_editor->controller(),
             &ViewController::showFileName, Qt::UniqueConnection);
+    connect(&document, &Document::placeWasChosen, &m_editor->controller(),
+            &ViewController::showNotice, Qt::UniqueConnection);
     connect(&document, &Document::told, this, &LGWindowController::tell, Qt::UniqueConnection);
     const bool succeeded = m_editor->controller().populateFromTLLDoc(document, error);
     synchronizeWindowTitleWithDocumentName();

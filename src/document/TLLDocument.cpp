@@ -211,8 +211,8 @@ bool TLLDocument::replaceContent(const QByteArray &data, const QString &typeName
         return false;
     const auto content = [](TLLDocument &of) {
         return std::tie(of.m_text, of.m_xmlDictionary, of.m_parseError, of.m_repair, of.m_layout,
-                        of.m_legacyBroadcast, of.m_lists, of.m_digitalStations,
-                        of.m_analogStations, of.m_isLegacyFormat, of.m_savesRepaired);
+                        of.m_legacyBroadcast, of.m_lists, of.m_digitalStations, of.m_analogStations,
+                        of.m_isLegacyFormat, of.m_savesRepaired);
     };
     content(*this) = content(fresh);
     return true;
@@ -373,11 +373,10 @@ void TLLDocument::reviewSave(const QByteArray &bytes, SavePurpose purpose,
         if (ofRepaired->weight() >= plain.weight())
             ofRepaired.reset();
     }
-    const SaveReview review = reviewOfSave(
-        displayName(), plain, ofRepaired,
-        purpose == SavePurpose::Export ? SaveReview::Kind::Export
-        : m_isLegacyFormat             ? SaveReview::Kind::JSONList
-                                       : SaveReview::Kind::List);
+    const SaveReview review = reviewOfSave(displayName(), plain, ofRepaired,
+                                           purpose == SavePurpose::Export ? SaveReview::Kind::Export
+                                           : m_isLegacyFormat ? SaveReview::Kind::JSONList
+                                                              : SaveReview::Kind::List);
     ask(review.alert, [=, this, answers = review.answers](const AlertAnswer &answer) {
         using Answer = SaveReview::Answer;
         const auto button = static_cast<std::size_t>(answer.button);

@@ -8,8 +8,7 @@ namespace quillet {
 void SaveJob::start(const QString &path, const std::optional<FileState> &expected,
                     std::shared_ptr<Client> client, FileOperations &operations)
 {
-    const std::shared_ptr<SaveJob> job(new SaveJob(path,
-                                                   expected ? *expected : FileState::at(path),
+    const std::shared_ptr<SaveJob> job(new SaveJob(path, expected ? *expected : FileState::at(path),
                                                    std::move(client), operations));
     job->make();
 }

@@ -50,7 +50,8 @@ public:
     [[nodiscard]] Prompts *prompts() const { return m_prompts; }
     /// What saving writes with, which must outlive the document; a plain one unless set.
     void setFileOperations(FileOperations &operations) { m_fileOperations = &operations; }
-    /// Finds the document, not that one, whose file a path leads to; the DocumentController sets it.
+    /// Finds the document, not that one, whose file a path leads to; the DocumentController sets
+    /// it.
     using Lookup = std::function<Document *(const QString &path, const Document *except)>;
     void setLookup(Lookup lookup) { m_lookup = std::move(lookup); }
     /// Another open document with the file at the path; null when there is none.

@@ -151,9 +151,8 @@ Document *DocumentController::adopt(std::unique_ptr<Document> document, Document
 {
     Document *added = document.get();
     m_documents.push_back(std::move(document));
-    added->setLookup([this](const QString &path, const Document *except) {
-        return documentAt(path, except);
-    });
+    added->setLookup(
+        [this](const QString &path, const Document *except) { return documentAt(path, except); });
     connect(added, &Document::placeWasChosen, this,
             [this, added] { m_recentFiles->add(added->fileUrl().toLocalFile()); });
     added->makeWindowControllers();

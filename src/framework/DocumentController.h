@@ -78,8 +78,7 @@ private:
     void reviewNext(std::vector<Document *> givenUp, const std::function<void(bool)> &done);
     void closeAllReviewed(const std::function<void(bool)> &done);
     /// The document, not the excepted one, whose file the path leads to.
-    [[nodiscard]] Document *documentAt(const QString &path,
-                                       const Document *except = nullptr) const;
+    [[nodiscard]] Document *documentAt(const QString &path, const Document *except = nullptr) const;
     [[nodiscard]] Document *untouchedDocument() const;
     [[nodiscard]] QWidget *currentWindow() const;
 

@@ -95,7 +95,8 @@ void DocumentSaving::presentFailure(const Error &error)
 {
     const bool isExport = m_purpose == SavePurpose::Export;
     Alert alert;
-    alert.message = qtTrId(isExport ? "kExportFailedMessage" : "kSaveFailedMessage").arg(targetName());
+    alert.message =
+        qtTrId(isExport ? "kExportFailedMessage" : "kSaveFailedMessage").arg(targetName());
     alert.informativeText = error.text();
     alert.cancelButton = 1;
     const auto goThere = [self = shared_from_this(), error](Choice choice) {

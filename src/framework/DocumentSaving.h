@@ -57,9 +57,9 @@ private:
     SavePurpose m_purpose;
     QString m_typeName;
     Done m_done;
-    QString m_path;                    ///< of the file to write
+    QString m_path;                   ///< of the file to write
     std::optional<SavePanel> m_panel; ///< that the place was chosen in
-    Choice m_next = Choice::Cancel;    ///< what follows the job that ends
+    Choice m_next = Choice::Cancel;   ///< what follows the job that ends
 };
 
 } // namespace quillet

@@ -7,8 +7,8 @@ namespace quillet {
 /// The questions as the platform's own dialogs: message boxes, file dialogs and print dialogs,
 /// modal to their window and never run in an event loop of their own. A dialog belongs to its
 /// window and goes, unanswered, with it. Dialogs and their controls carry object names: "alert"
-/// with "alertButton0", "alertButton1" and so on, "alertTextField" and "alertCheckBox"; "openPanel";
-/// "savePanel"; "printPanel".
+/// with "alertButton0", "alertButton1" and so on, "alertTextField" and "alertCheckBox";
+/// "openPanel"; "savePanel"; "printPanel".
 class QtPrompts : public Prompts
 {
 public:

@@ -323,10 +323,10 @@ private slots:
         QTest::newRow("repaired") << u"R&B"_s << all << repaired << u"repaired"_s;
         QTest::newRow("anyway") << u"R&B"_s << all << without << u"plain"_s;
         QTest::newRow("cancelled") << u"R&B"_s << all << cancel << QString();
-        QTest::newRow("no station lost") << u"<x/>"_s << QStringList{repaired, anyway, cancel}
-                                         << anyway << u"plain"_s;
-        QTest::newRow("export")
-            << u"R&B"_s << QStringList{cancel, without} << without << u"export"_s;
+        QTest::newRow("no station lost")
+            << u"<x/>"_s << QStringList{repaired, anyway, cancel} << anyway << u"plain"_s;
+        QTest::newRow("export") << u"R&B"_s << QStringList{cancel, without} << without
+                                << u"export"_s;
         QTest::newRow("export, cancelled")
             << u"R&B"_s << QStringList{cancel, without} << cancel << QString();
     }

@@ -220,8 +220,7 @@ private slots:
         QVERIFY(OpenFileLog(u"XT"_s));
         TLLDocument document;
         QVERIFY(read(document, makeTLL({}, {makeStation(1, u"A"_s, Satellite)})));
-        const QByteArray log =
-            contentOf(KXFileLog::sharedLogWithName(u"XT"_s)->pathToLogFile());
+        const QByteArray log = contentOf(KXFileLog::sharedLogWithName(u"XT"_s)->pathToLogFile());
         QString counts;
         for (const QString &line : QString::fromUtf8(log).split(u'\n'))
             counts += line.section(u": "_s, 1) + u'|';

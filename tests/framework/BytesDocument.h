@@ -35,8 +35,8 @@ public:
 
     QByteArray content;
     std::function<void()> duringReview; ///< what happens while a save is reviewed
-    bool hadWaitCursor = false; ///< when it was read last
-    bool isUnwritable = false; ///< dataOfType fails
+    bool hadWaitCursor = false;         ///< when it was read last
+    bool isUnwritable = false;          ///< dataOfType fails
 };
 
 } // namespace quillet::testing

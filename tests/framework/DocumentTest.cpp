@@ -305,12 +305,12 @@ private slots:
                         QFile::encodeName(path(id("hard"))).constData()),
                  0);
 #endif
-        const QString untouched = path(id(name == id("gone") || name == id("nowhere") ? "gone"
-                                                                                        : "damaged"));
+        const QString untouched =
+            path(id(name == id("gone") || name == id("nowhere") ? "gone" : "damaged"));
         const QByteArray before = contentOf(path(name));
         BytesDocument other;
-        for (Document *document : {static_cast<Document *>(m_document.get()),
-                                   static_cast<Document *>(&other)}) {
+        for (Document *document :
+             {static_cast<Document *>(m_document.get()), static_cast<Document *>(&other)}) {
             document->suggestSaving(QUrl::fromLocalFile(path(id("suggested"))),
                                     QUrl::fromLocalFile(untouched));
             document->setPrompts(m_prompts.get());

@@ -229,8 +229,8 @@ private:
         return isSaved.value_or(false);
     }
 
-    /// Saves and checks that the one sheet names the file and the system's reason, and that the changes are
-    /// still there to be saved.
+    /// Saves and checks that the one sheet names the file and the system's reason, and that the
+    /// changes are still there to be saved.
     void expectRefusal(int errorNumber)
     {
         m_prompts->answerAlert(QStringLiteral("kCancel"));

@@ -43,7 +43,7 @@ private slots:
         const QTemporaryDir folder;
         testing::writeFile(folder.filePath(u"secret.txt"_s), "SECRET");
         testing::writeFile(folder.filePath(u"secret.dtd"_s),
-                  "<!ENTITY x 'SECRET'>\n<!ATTLIST r d CDATA 'SECRET'>");
+                           "<!ENTITY x 'SECRET'>\n<!ATTLIST r d CDATA 'SECRET'>");
         QFETCH(QString, doctype);
         QFETCH(const int, line);
         doctype.replace(u"%1"_s, QUrl::fromLocalFile(folder.path()).toString());

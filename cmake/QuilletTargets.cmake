@@ -35,7 +35,10 @@ endfunction()
 function(quillet_test folder)
     cmake_parse_arguments(arg "" "" "SOURCES;LINK" ${ARGN})
     set(target test_${folder})
-    add_executable(${target} ${PROJECT_SOURCE_DIR}/tests/testing/TestMain.cpp ${arg_SOURCES})
+    add_executable(${target}
+        ${PROJECT_SOURCE_DIR}/tests/testing/TestFiles.cpp
+        ${PROJECT_SOURCE_DIR}/tests/testing/TestMain.cpp
+        ${arg_SOURCES})
     target_include_directories(${target} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
     target_compile_definitions(${target} PRIVATE
         QUILLET_SAMPLES="${PROJECT_SOURCE_DIR}/samples"

@@ -363,7 +363,7 @@
     </message>
     <message id="kMenuAlwaysRepair">
         <source></source>
-        <translation>JSON-Listen repariert speichern</translation>
+        <translation>&amp;JSON-Listen repariert speichern</translation>
     </message>
     <message id="kMenuAnalogue">
         <source></source>
@@ -567,7 +567,7 @@
     </message>
     <message id="kNoticeReadOnly">
         <source></source>
-        <translation>Diese Datei kann nicht geändert werden: Sie selbst, ihr Ordner oder ihr Datenträger ist schreibgeschützt. Um Ihre Änderungen zu behalten, speichern Sie eine Kopie; „Speichern“ bietet das an.</translation>
+        <translation>Diese Datei kann nicht geändert werden: Die Datei selbst, ihr Ordner oder ihr Datenträger ist schreibgeschützt. Um Ihre Änderungen zu behalten, speichern Sie eine Kopie; „Speichern“ bietet das an.</translation>
     </message>
     <message id="kNoticeUnread" numerus="yes">
         <source></source>

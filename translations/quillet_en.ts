@@ -363,7 +363,7 @@
     </message>
     <message id="kMenuAlwaysRepair">
         <source></source>
-        <translation>Save JSON Lists Repaired</translation>
+        <translation>Save &amp;JSON Lists Repaired</translation>
     </message>
     <message id="kMenuAnalogue">
         <source></source>

@@ -363,7 +363,7 @@
     </message>
     <message id="kMenuAlwaysRepair">
         <source></source>
-        <translation>Guardar reparadas las listas JSON</translation>
+        <translation>Guardar reparadas las listas &amp;JSON</translation>
     </message>
     <message id="kMenuAnalogue">
         <source></source>

@@ -363,7 +363,7 @@
     </message>
     <message id="kMenuAlwaysRepair">
         <source></source>
-        <translation>Enregistrer les listes JSON réparées</translation>
+        <translation>Enregistrer les listes &amp;JSON réparées</translation>
     </message>
     <message id="kMenuAnalogue">
         <source></source>

@@ -363,7 +363,7 @@
     </message>
     <message id="kMenuAlwaysRepair">
         <source></source>
-        <translation>Salva riparate le liste JSON</translation>
+        <translation>Salva riparate le liste &amp;JSON</translation>
     </message>
     <message id="kMenuAnalogue">
         <source></source>

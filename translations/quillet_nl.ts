@@ -363,7 +363,7 @@
     </message>
     <message id="kMenuAlwaysRepair">
         <source></source>
-        <translation>JSON-lijsten hersteld opslaan</translation>
+        <translation>&amp;JSON-lijsten hersteld opslaan</translation>
     </message>
     <message id="kMenuAnalogue">
         <source></source>

@@ -369,7 +369,7 @@
     </message>
     <message id="kMenuAlwaysRepair">
         <source></source>
-        <translation>Zapisuj listy JSON naprawione</translation>
+        <translation>Zapisuj listy &amp;JSON naprawione</translation>
     </message>
     <message id="kMenuAnalogue">
         <source></source>

@@ -357,7 +357,7 @@
     </message>
     <message id="kMenuAlwaysRepair">
         <source></source>
-        <translation>JSON Listelerini Onarılmış Kaydet</translation>
+        <translation>&amp;JSON Listelerini Onarılmış Kaydet</translation>
     </message>
     <message id="kMenuAnalogue">
         <source></source>

@@ -3,6 +3,7 @@
 #include "document/TLLDocument.h"
 #include "editor/EditorView.h"
 
+#include <QLabel>
 #include <QMainWindow>
 #include <QStatusBar>
 
@@ -10,7 +11,7 @@ namespace quillet {
 
 LGWindowController::LGWindowController()
     : TLLWindowController(std::make_unique<QMainWindow>(), QStringLiteral("TLL Editor Window")),
-      m_editor(new EditorView)
+      m_editor(new EditorView), m_told(new QLabel)
 {
     windowDidLoad();
 }
@@ -21,12 +22,15 @@ void LGWindowController::windowDidLoad()
     m_editor->focusList();
     // Ahead of the question whether to save.
     connect(this, &WindowController::closeRequested, m_editor, &EditorView::commitEditing);
-    QStatusBar *told = window()->statusBar();
-    told->setObjectName(QStringLiteral("toldLine"));
-    told->setSizeGripEnabled(false);
-    told->hide();
-    connect(told, &QStatusBar::messageChanged, told,
-            [told](const QString &text) { told->setVisible(!text.isEmpty()); });
+    // A label, for messages of the bar itself go as soon as the pointer is over a menu.
+    QStatusBar *bar = window()->statusBar();
+    bar->setSizeGripEnabled(false);
+    bar->setContentsMargins(8, 0, 8, 4);
+    bar->addWidget(m_told);
+    bar->hide();
+    m_told->setObjectName(QStringLiteral("toldText"));
+    m_toldTimer.setSingleShot(true);
+    connect(&m_toldTimer, &QTimer::timeout, bar, &QWidget::hide);
     const QSize wanted = m_editor->sizeHint();
     const int line = m_editor->fontMetrics().height();
     window()->resize(qMax(wanted.width() + 6 * line, 48 * line), 42 * line);
@@ -38,6 +42,8 @@ bool LGWindowController::populateFromTLLDoc(TLLDocument &document, const Error &
             Qt::UniqueConnection);
     connect(&document, &Document::fileUrlChanged, &m_editor->controller(),
             &ViewController::showFileName, Qt::UniqueConnection);
+    connect(&document, &Document::placeWasChosen, &m_editor->controller(),
+            &ViewController::showNotice, Qt::UniqueConnection);
     connect(&document, &Document::told, this, &LGWindowController::tell, Qt::UniqueConnection);
     const bool succeeded = m_editor->controller().populateFromTLLDoc(document, error);
     synchronizeWindowTitleWithDocumentName();
@@ -47,7 +53,9 @@ bool LGWindowController::populateFromTLLDoc(TLLDocument &document, const Error &
 void LGWindowController::tell(const QString &text)
 {
     constexpr int longEnoughToRead = 10000;
-    window()->statusBar()->showMessage(text, longEnoughToRead);
+    m_told->setText(text);
+    window()->statusBar()->show();
+    m_toldTimer.start(longEnoughToRead);
 }
 
 void LGWindowController::refill()

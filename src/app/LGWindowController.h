@@ -2,6 +2,10 @@
 
 #include "document/TLLWindowController.h"
 
+#include <QTimer>
+
+class QLabel;
+
 namespace quillet {
 
 class EditorView;
@@ -29,6 +33,8 @@ private:
     void tell(const QString &text);
 
     EditorView *m_editor;
+    QLabel *m_told;
+    QTimer m_toldTimer;
 };
 
 } // namespace quillet

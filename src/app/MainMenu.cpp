@@ -71,6 +71,7 @@ QAction *MainMenu::add(QMenu &menu, const Item &item, Slot slot)
 void MainMenu::makeFileMenu(QMenuBar &bar)
 {
     QMenu &menu = *bar.addMenu(qtTrId("kMenuFile"));
+    menu.setObjectName(QStringLiteral("fileMenu"));
     connect(&menu, &QMenu::aboutToShow, this, &MainMenu::validate);
     add(menu, {"kMenuNew", "newDocument", QKeySequence::New},
         [this] { m_documents.newDocument(); });

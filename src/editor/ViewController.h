@@ -111,6 +111,8 @@ public:
     void showError(const QString &detail, const QString &message);
     /// Shows where the document's file is.
     void showFileName();
+    /// Shows in the bar what there is to say about the document's file now.
+    void showNotice();
 
 signals:
     /// The person wants a repaired copy of the document's file.
@@ -119,7 +121,6 @@ signals:
 private:
     void displayFileName(const QString &path);
     void showDeviceInfo();
-    void showNotice();
     void updateStationCountDisplay();
     void switchToMode(bool isTV);
     void switchSource(int source);

@@ -3,6 +3,7 @@
 #include "document/TLLWindowController.h"
 #include "support/KXFileLog.h"
 #include "testing/TLLText.h"
+#include "testing/TestFiles.h"
 #include "testing/TestMain.h"
 
 #include <QFile>
@@ -114,10 +115,17 @@ private slots:
         Error error;
         QCOMPARE(document.readFromData(text.toUtf8(), u"the type"_s, error), count >= 0);
         QCOMPARE(error.isEmpty(), count >= 0);
+        // Read in the place of another list, it leaves that one whole unless it can be read.
+        const QByteArray before = makeTLL({}, {makeStation(7, u"Before"_s)}).toUtf8();
+        TLLDocument shown;
+        QVERIFY(read(shown, before));
+        QCOMPARE(shown.replaceContent(text.toUtf8(), u"the type"_s, error), count >= 0);
         if (count >= 0) {
             QCOMPARE(listText(document).size(), count);
+            QCOMPARE(listText(shown), listText(document));
             return;
         }
+        QCOMPARE(written(shown), before);
         QVERIFY(error.code == -1 && !error.domain.isEmpty());
         QCOMPARE(error.localizedDescription, u"Bad file format"_s); // no translation is loaded
         QCOMPARE(error.filePath, u"the type"_s);
@@ -212,10 +220,9 @@ private slots:
         QVERIFY(OpenFileLog(u"XT"_s));
         TLLDocument document;
         QVERIFY(read(document, makeTLL({}, {makeStation(1, u"A"_s, Satellite)})));
-        QFile file(KXFileLog::sharedLogWithName(u"XT"_s)->pathToLogFile());
-        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray log = contentOf(KXFileLog::sharedLogWithName(u"XT"_s)->pathToLogFile());
         QString counts;
-        for (const QString &line : QString::fromUtf8(file.readAll()).split(u'\n'))
+        for (const QString &line : QString::fromUtf8(log).split(u'\n'))
             counts += line.section(u": "_s, 1) + u'|';
         QCOMPARE(counts, u"TV[0] = 0|Radio[0] = 0|TV[1] = 1|Radio[1] = 0|TV[2] = 0|Radio[2] = 0|"
                          "TV[3] = 0|Radio[3] = 0||"_s);

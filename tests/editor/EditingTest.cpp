@@ -3,6 +3,7 @@
 #include "editor/StationInfo.h"
 #include "editor/StationTableModel.h"
 #include "support/KXFileLog.h"
+#include "testing/TestFiles.h"
 #include "testing/TestMain.h"
 
 #include <QDir>
@@ -241,7 +242,7 @@ private slots:
         if (bytes == "a folder")
             QVERIFY(QDir().mkpath(path));
         else if (bytes != "missing")
-            write(path, bytes);
+            writeFile(path, bytes);
         Editor editor(identified({1, 2, 3}));
         QCOMPARE(editor.rows(), u"1 A, 2 B, 3 C"_s); // which decodes the names
         editor.outlets.selectRows({1});
@@ -263,7 +264,7 @@ private slots:
         const QTemporaryDir folder;
         const QString path = folder.filePath(u"list.tll"_s);
         const QByteArray bytes = fileOf(identified({1, 2, 3}));
-        write(path, bytes);
+        writeFile(path, bytes);
         Editor editor(identified({1, 2, 3}));
         editor.document.setFileUrl(QUrl::fromLocalFile(path));
         editor.controller.moveElements(2, 1, 1);
@@ -271,16 +272,14 @@ private slots:
         editor.prompts.answerAlert(u"kOK"_s);
         editor.controller.applyOrderFile(path);
         QCOMPARE(editor.rows(), u"1 A, 2 B, 3 C"_s);
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QCOMPARE(file.readAll(), bytes);
+        QCOMPARE(contentOf(path), bytes);
         QVERIFY(editor.document.isDirty());
     }
 
     void asksForTheOrder()
     {
         const QTemporaryDir folder;
-        write(folder.filePath(u"order.txt"_s), "3;x;1-10-101\n2;x;1-10-102\n1;x;1-10-103");
+        writeFile(folder.filePath(u"order.txt"_s), "3;x;1-10-101\n2;x;1-10-102\n1;x;1-10-103");
         Editor editor(identified({1, 2, 3}));
         editor.prompts.answerOpenPanel({});
         editor.controller.applyOrderClicked();
@@ -412,13 +411,6 @@ private:
                          (station->isBlocked() ? u"b"_s : QString()));
         }
         return texts.join(u", "_s);
-    }
-
-    static void write(const QString &path, const QByteArray &bytes)
-    {
-        QFile file(path);
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-            qFatal("no file could be made for the test");
     }
 };
 

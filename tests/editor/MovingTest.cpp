@@ -1,5 +1,6 @@
 #include "EditorFixture.h"
 
+#include "testing/TestFiles.h"
 #include "testing/TestMain.h"
 
 #include <QFile>
@@ -211,9 +212,7 @@ private:
     QString write(const QByteArray &bytes)
     {
         const QString path = m_folder.filePath(QStringLiteral("dropped.tll"));
-        QFile file(path);
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-            qFatal("no file could be made for the test");
+        writeFile(path, bytes);
         return path;
     }
 

@@ -1,10 +1,15 @@
 #include "EditorFixture.h"
 
+#include "testing/TestFiles.h"
 #include "testing/TestMain.h"
 
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
+
+#ifndef Q_OS_WIN
+#include "files/OrdinaryUser.h"
+#endif
 
 using namespace quillet;
 using namespace quillet::testing;
@@ -76,20 +81,39 @@ private slots:
     void droppedFile()
     {
         const QTemporaryDir folder;
-        QFile file(folder.filePath(u"a.tll"_s));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(listWith(u"R & B"_s)) > 0);
-        file.close();
+        const QString path = folder.filePath(u"a.tll"_s);
+        writeFile(path, listWith(u"R & B"_s));
         Editor editor({});
-        editor.controller.loadTLLFile(file.fileName());
+        editor.controller.loadTLLFile(path);
         QCOMPARE(editor.outlets.notice.text, u"kNoticeDamaged kNoticeUnread"_s);
         // One that cannot be read takes nothing away from what is shown.
-        QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        file.close();
+        writeFile(path, {});
         editor.prompts.answerAlert(u"kOK"_s);
-        editor.controller.loadTLLFile(file.fileName());
+        editor.controller.loadTLLFile(path);
         QVERIFY(editor.prompts.isSettled());
         QCOMPARE(editor.outlets.notice.text, u"kNoticeDamaged kNoticeUnread"_s);
     }
+
+#ifndef Q_OS_WIN
+    void writeProtectedFile()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"a.tll"_s);
+        writeFile(path, listWith(u"B"_s));
+        QVERIFY(OrdinaryUser::own(path) && OrdinaryUser::own(folder.path()));
+        QVERIFY(QFile::setPermissions(path, QFile::ReadOwner));
+        const OrdinaryUser user;
+        if (!OrdinaryUser::isOne())
+            QSKIP("the superuser may write everything");
+        Editor editor({});
+        editor.controller.loadTLLFile(path);
+        QCOMPARE(editor.outlets.notice.text, u"kNoticeReadOnly"_s);
+        QVERIFY(!editor.outlets.notice.isWarning);
+        editor.document.setFileUrl(QUrl::fromLocalFile(folder.filePath(u"copy.tll"_s)));
+        editor.controller.showNotice();
+        QCOMPARE(editor.outlets.notice.text, QString());
+    }
+#endif
 
     void mendings()
     {

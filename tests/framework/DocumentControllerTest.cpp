@@ -184,6 +184,12 @@ private slots:
         QCOMPARE(window.isNull(), isClosed);
         QVERIFY(wasWhole);
         QCOMPARE(contentOf(path("a")), onDisk);
+        if (button.isEmpty())
+            return;
+        const Alert &alert = m_prompts->alerts().front().alert;
+        QVERIFY(alert.message.contains(id("a")));
+        QCOMPARE(alert.buttons.front(), id("kSave"));
+        QCOMPARE(alert.buttons.at(alert.cancelButton), id("kCancel"));
     }
 
     void closingAllReviewsTheChanges_data()

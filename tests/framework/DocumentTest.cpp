@@ -147,6 +147,7 @@ private slots:
         QTest::newRow("copy") << id("copy.tll") << false;
         QTest::newRow("copy, then closed") << id("copy.tll") << true;
         QTest::newRow("no place") << QString() << false;
+        QTest::newRow("no place, not closed") << QString() << true;
     }
     void failedSaveOffersACopy()
     {
@@ -385,45 +386,6 @@ private slots:
         QCOMPARE(m_document->content, isReverted ? QByteArray("disk") : QByteArray("mine"));
         QCOMPARE(m_document->isDocumentEdited(), !isReverted);
         QCOMPARE(m_document->countingWindow().refills, isReverted ? 1 : 0);
-    }
-
-    void askingToClose_data()
-    {
-        QTest::addColumn<QString>("button"); // empty: the document has no changes
-        QTest::addColumn<bool>("isWritable");
-        QTest::addColumn<bool>("mayClose");
-        QTest::addColumn<QByteArray>("onDisk");
-        const QByteArray mine("mine"), old("old");
-        QTest::newRow("no changes") << QString() << true << true << old;
-        QTest::newRow("save") << id("kSave") << true << true << mine;
-        QTest::newRow("save fails") << id("kSave") << false << false << old;
-        QTest::newRow("give up") << id("kDontSave") << true << true << old;
-        QTest::newRow("cancel") << id("kCancel") << true << false << old;
-    }
-    void askingToClose()
-    {
-        QFETCH(QString, button);
-        QFETCH(bool, isWritable);
-        QFETCH(bool, mayClose);
-        QFETCH(QByteArray, onDisk);
-        m_document->isUnwritable = !isWritable;
-        if (!button.isEmpty()) {
-            m_document->edit("mine");
-            m_prompts->answerAlert(button);
-        }
-        if (!isWritable)
-            m_prompts->answerAlert(id("kCancel"));
-        std::optional<bool> answer;
-        m_document->askToClose([&answer](bool may) { answer = may; });
-        QTRY_COMPARE(answer, std::optional<bool>(mayClose));
-        QCOMPARE(contentOf(m_path), onDisk);
-        QCOMPARE(m_prompts->alerts().empty(), button.isEmpty());
-        if (button.isEmpty())
-            return;
-        const Alert &alert = m_prompts->alerts().front().alert;
-        QVERIFY(alert.message.contains(id("list.tll")));
-        QCOMPARE(alert.buttons.front(), id("kSave"));
-        QCOMPARE(alert.buttons.at(alert.cancelButton), id("kCancel"));
     }
 
     void oneQuestionAtATime()

@@ -1,9 +1,9 @@
 #include "framework/QtPrompts.h"
+#include "testing/TestFiles.h"
 #include "testing/TestMain.h"
 
 #include <QCheckBox>
 #include <QDir>
-#include <QFile>
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -169,8 +169,7 @@ private slots:
     {
         const QTemporaryDir folder;
         const QString path = folder.filePath(QStringLiteral("list.tll"));
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
+        testing::writeFile(path, {});
         OpenPanel panel;
         panel.title = QStringLiteral("Open");
         panel.directory = folder.path();

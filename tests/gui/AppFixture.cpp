@@ -6,7 +6,6 @@
 
 #include <QAction>
 #include <QDir>
-#include <QFile>
 #include <QSettings>
 #include <QTest>
 
@@ -21,10 +20,9 @@ App::App(Prompts *prompts) : delegate(prompts ? *prompts : preset)
 
 QString App::write(const char *name, const QByteArray &bytes) const
 {
-    QFile file(folder.filePath(QString::fromLatin1(name)));
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        qFatal("no file could be made for the test");
-    return file.fileName();
+    const QString path = folder.filePath(QString::fromLatin1(name));
+    writeFile(path, bytes);
+    return path;
 }
 
 QMainWindow *App::window(std::size_t documents) const
@@ -75,12 +73,6 @@ QByteArray listOf(int count)
     for (int number = 1; number <= count; ++number)
         stations.push_back(makeStation(number, QStringLiteral("Station %1").arg(number)));
     return makeTLL({}, stations).toUtf8();
-}
-
-QByteArray bytesOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 QString label(const char *id)

@@ -2,6 +2,7 @@
 
 #include "app/AppDelegate.h"
 #include "testing/PresetPrompts.h"
+#include "testing/TestFiles.h"
 
 #include <QMainWindow>
 #include <QStringList>
@@ -47,7 +48,6 @@ Part &part(const QWidget &window, const char *name)
 void selectRows(const QWidget &window, const QList<int> &rows);
 /// A file with that many cable stations, numbered from 1.
 [[nodiscard]] QByteArray listOf(int count);
-[[nodiscard]] QByteArray bytesOf(const QString &path);
 /// What a text button is labelled with, by its id.
 [[nodiscard]] QString label(const char *id);
 

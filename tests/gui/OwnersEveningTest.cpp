@@ -180,7 +180,7 @@ private slots:
         const QString yes = u"1"_s, no = u"0"_s;
         const auto cable = FileSource::Cable;
         QCOMPARE(
-            bytesOf(app.folder.filePath(u"evening.tll"_s)),
+            contentOf(app.folder.filePath(u"evening.tll"_s)),
             makeTLL({station(1, u"Old One"_s, 1, analogue), station(2, u"Neu <Ü>"_s, 2, analogue)},
                     {station(10, u"Delta"_s, 104), station(12, u"Bravo"_s, 102),
                      station(15, u"Alpha"_s, 101, cable, yes, yes),

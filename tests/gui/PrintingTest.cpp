@@ -81,7 +81,7 @@ private:
         QTest::keyClick(window, Qt::Key_P, Qt::ControlModifier);
         [&] { QTRY_VERIFY(app.preset.isSettled()); }();
         [&] { QCOMPARE(tableOf(*window).palette().color(QPalette::Base), base); }();
-        return pages(bytesOf(path));
+        return pages(contentOf(path));
     }
 
     QPalette m_light = QApplication::palette();

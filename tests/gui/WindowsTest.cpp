@@ -1,17 +1,20 @@
 #include "AppFixture.h"
 
+#include "document/SaveReview.h"
+#include "editor/EditorView.h"
 #include "testing/TLLText.h"
 #include "testing/TestMain.h"
 
 #include <QAccessible>
 #include <QAction>
 #include <QFile>
+#include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QRandomGenerator>
+#include <QSettings>
 #include <QTest>
 #include <QTimer>
-
-#include <unistd.h>
 
 using namespace quillet;
 using namespace quillet::testing;
@@ -34,10 +37,38 @@ private slots:
         QCOMPARE(tableOf(*first).model()->rowCount(), 3);
         QVERIFY(!tableOf(*first).selectionModel()->hasSelection());
         QVERIFY(!menuItem(*first, "fillGapsClicked").isChecked());
-        // A file that is open already only raises its window.
-        app.delegate.applicationDidFinishLaunching({app.folder.filePath(QStringLiteral("a.tll"))});
-        QCOMPARE(app.delegate.documents().documents().size(), std::size_t(2));
+    }
+
+    void droppedFileOfAnotherWindowIsRaised()
+    {
+        App app;
+        QMainWindow *first = app.open("a.tll", listOf(3));
+        app.delegate.documents().newDocument();
+        QMainWindow *second = app.window(2);
+        QVERIFY(first && second);
+        second->findChild<EditorView *>()->controller().loadTLLFile(
+            app.folder.filePath(QStringLiteral("a.tll")));
         QVERIFY(QTest::qWaitForWindowActive(first));
+        QCOMPARE(tableOf(*second).model()->rowCount(), 0);
+    }
+
+    void whatIsDoneSilentlyIsToldAndUndone()
+    {
+        App app;
+        QMainWindow *window = app.open("a.tll", listOf(3));
+        QVERIFY(window);
+        const auto &line = part<QLabel>(*window, "toldText");
+        QVERIFY(!line.isVisible());
+        emit app.delegate.documents().documents().front()->told(QStringLiteral("done"));
+        QVERIFY(line.isVisible() && line.text() == QLatin1String("done"));
+        // What was chosen in a sheet to be done silently is undone in the menu.
+        const QAction &always = menuItem(*window, "alwaysRepair");
+        QVERIFY(!always.isVisible());
+        QSettings().setValue(SaveReview::alwaysKey, true);
+        emit part<QMenu>(*window, "fileMenu").aboutToShow();
+        QVERIFY(always.isVisible() && always.isChecked());
+        menuItem(*window, "alwaysRepair").trigger();
+        QVERIFY(!always.isVisible() && !QSettings().value(SaveReview::alwaysKey).toBool());
     }
 
     void quitAsksAboutChanges()
@@ -59,7 +90,7 @@ private slots:
         QTimer::singleShot(30000, &app.delegate, [] { QCoreApplication::exit(1); });
         QCOMPARE(QApplication::exec(), 0);
         QVERIFY(app.preset.isSettled() && app.delegate.documents().documents().empty());
-        QCOMPARE(bytesOf(app.folder.filePath(QStringLiteral("a.tll"))), listOf(3));
+        QCOMPARE(contentOf(app.folder.filePath(QStringLiteral("a.tll"))), listOf(3));
     }
 
     void tabVisitsEveryControlOnce()
@@ -112,10 +143,7 @@ private slots:
         const auto row = [](const char *kind, const char *reason) {
             QTest::newRow(kind) << QString::fromLatin1(kind) << QString::fromLatin1(reason);
         };
-        row("empty", "kContentUnknownReason");
         row("random", "");
-        row("folder", "kIsAFolderReason");
-        row("unreadable", "kFileUnreadableReason");
         row("vanished", "kFileMissingReason");
         row("cut short", "");
     }
@@ -131,16 +159,9 @@ private slots:
         } else if (kind == QLatin1String("cut short")) {
             bytes = readSample(QStringLiteral("antenna.tll")).first(500);
         }
-        QString path = app.write("a.tll", bytes);
-        if (kind == QLatin1String("folder")) {
-            path = app.folder.path();
-        } else if (kind == QLatin1String("vanished")) {
+        const QString path = app.write("a.tll", bytes);
+        if (kind == QLatin1String("vanished"))
             QVERIFY(QFile::remove(path));
-        } else if (kind == QLatin1String("unreadable")) {
-            QFile::setPermissions(path, {});
-            if (geteuid() == 0)
-                QSKIP("root reads every file");
-        }
         if (!reason.isEmpty())
             app.preset.answerAlert(label("kOK"));
         app.delegate.applicationDidFinishLaunching({path});

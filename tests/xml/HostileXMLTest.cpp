@@ -1,5 +1,6 @@
 #include "TreeText.h"
 
+#include "testing/TestFiles.h"
 #include "testing/TestMain.h"
 #include "xml/XMLDictionaryParser.h"
 
@@ -40,12 +41,9 @@ private slots:
     void nothingIsReadOrExpanded()
     {
         const QTemporaryDir folder;
-        QFile secret(folder.filePath(u"secret.txt"_s)), dtd(folder.filePath(u"secret.dtd"_s));
-        QVERIFY(secret.open(QIODevice::WriteOnly) && secret.write("SECRET") > 0);
-        QVERIFY(dtd.open(QIODevice::WriteOnly));
-        QVERIFY(dtd.write("<!ENTITY x 'SECRET'>\n<!ATTLIST r d CDATA 'SECRET'>") > 0);
-        secret.close();
-        dtd.close();
+        testing::writeFile(folder.filePath(u"secret.txt"_s), "SECRET");
+        testing::writeFile(folder.filePath(u"secret.dtd"_s),
+                           "<!ENTITY x 'SECRET'>\n<!ATTLIST r d CDATA 'SECRET'>");
         QFETCH(QString, doctype);
         QFETCH(const int, line);
         doctype.replace(u"%1"_s, QUrl::fromLocalFile(folder.path()).toString());

@@ -1,6 +1,7 @@
 #include "app/help/InAppBrowserController.h"
 #include "app/help/InAppBrowserWindow.h"
 #include "app/help/SystemServices.h"
+#include "testing/TestFiles.h"
 #include "testing/TestMain.h"
 
 #include <QAbstractButton>
@@ -24,6 +25,7 @@
 #include <utility>
 
 using namespace quillet;
+using quillet::testing::writeFile;
 
 namespace {
 
@@ -51,13 +53,6 @@ QUrl guidePage(const QString &name)
     return QUrl::fromLocalFile(QStringLiteral(QUILLET_GUIDE "/") + name);
 }
 
-void write(const QString &path, const QByteArray &content)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-        qFatal("no file could be made for the test");
-}
-
 /// A folder with a guide of its own, and something beside it that is none of the guide's business.
 class SmallGuide
 {
@@ -71,7 +66,7 @@ public:
     [[nodiscard]] QUrl url(const char *name) const { return QUrl::fromLocalFile(path(name)); }
     [[nodiscard]] QUrl writePage(const char *name, const QByteArray &body) const
     {
-        write(path(name), "<!DOCTYPE html><html><body>" + body + "</body></html>");
+        writeFile(path(name), "<!DOCTYPE html><html><body>" + body + "</body></html>");
         return url(name);
     }
 
@@ -315,7 +310,7 @@ private slots:
         for (const char *place : {"guide/", ""}) {
             const QByteArray folder(place);
             QVERIFY(picture.save(guide.path((folder + "picture.png").constData())));
-            write(guide.path((folder + "text.txt").constData()), "words");
+            writeFile(guide.path((folder + "text.txt").constData()), "words");
             (void)guide.writePage((folder + "frame.html").constData(),
                                   "<script>parent.postMessage(location.href, '*')</script>");
         }

@@ -1,21 +1,12 @@
 #include "app/help/NavigationPolicy.h"
+#include "testing/TestFiles.h"
 #include "testing/TestMain.h"
 
 #include <QTemporaryDir>
 #include <QTest>
 
 using namespace quillet;
-
-namespace {
-
-void writeFile(const QString &path)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("x");
-}
-
-} // namespace
+using quillet::testing::writeFile;
 
 class NavigationPolicyTest : public QObject
 {
@@ -99,7 +90,7 @@ private slots:
         QVERIFY(folder.mkpath(QStringLiteral("guide2")));
         for (const char *name :
              {"guide/index.html", "guide/pictures/window.png", "guide2/index.html", "secret.txt"})
-            writeFile(folder.filePath(QLatin1String(name)));
+            writeFile(folder.filePath(QLatin1String(name)), "x");
         QVERIFY(QFile::link(folder.filePath(QStringLiteral("secret.txt")),
                             folder.filePath(QStringLiteral("guide/link.txt"))));
 

@@ -82,6 +82,10 @@
         <source></source>
         <translation>Wenn Sie jetzt speichern, gehen die Änderungen des anderen Programms verloren.</translation>
     </message>
+    <message id="kClearFilters">
+        <source></source>
+        <translation>Suche und Typ zurücksetzen</translation>
+    </message>
     <message id="kClearMenu">
         <source></source>
         <translation>Einträge löschen</translation>
@@ -193,6 +197,10 @@
     <message id="kFilterUHD">
         <source></source>
         <translation>UHD</translation>
+    </message>
+    <message id="kForeignRows">
+        <source></source>
+        <translation>Diese Sender gehören zu „%1“. Setzen Sie Suche und Typ zurück, um „%2“ zu sehen.</translation>
     </message>
     <message id="kHelpBack">
         <source></source>

@@ -82,6 +82,10 @@
         <source></source>
         <translation>If you save now, the changes made by the other program will be lost.</translation>
     </message>
+    <message id="kClearFilters">
+        <source></source>
+        <translation>Clear Search and Type</translation>
+    </message>
     <message id="kClearMenu">
         <source></source>
         <translation>Clear Menu</translation>
@@ -193,6 +197,10 @@
     <message id="kFilterUHD">
         <source></source>
         <translation>UHD</translation>
+    </message>
+    <message id="kForeignRows">
+        <source></source>
+        <translation>These stations are from “%1”. Clear the search and the type to see “%2”.</translation>
     </message>
     <message id="kHelpBack">
         <source></source>

@@ -82,6 +82,10 @@
         <source></source>
         <translation>Si guarda ahora, se perderán los cambios hechos por el otro programa.</translation>
     </message>
+    <message id="kClearFilters">
+        <source></source>
+        <translation>Borrar búsqueda y tipo</translation>
+    </message>
     <message id="kClearMenu">
         <source></source>
         <translation>Vaciar menú</translation>
@@ -193,6 +197,10 @@
     <message id="kFilterUHD">
         <source></source>
         <translation>UHD</translation>
+    </message>
+    <message id="kForeignRows">
+        <source></source>
+        <translation>Estos canales son de «%1». Borre la búsqueda y el tipo para ver «%2».</translation>
     </message>
     <message id="kHelpBack">
         <source></source>

@@ -82,6 +82,10 @@
         <source></source>
         <translation>Si vous enregistrez maintenant, les modifications de l’autre programme seront perdues.</translation>
     </message>
+    <message id="kClearFilters">
+        <source></source>
+        <translation>Effacer la recherche et le type</translation>
+    </message>
     <message id="kClearMenu">
         <source></source>
         <translation>Effacer le menu</translation>
@@ -193,6 +197,10 @@
     <message id="kFilterUHD">
         <source></source>
         <translation>UHD</translation>
+    </message>
+    <message id="kForeignRows">
+        <source></source>
+        <translation>Ces chaînes viennent de « %1 ». Effacez la recherche et le type pour voir « %2 ».</translation>
     </message>
     <message id="kHelpBack">
         <source></source>

@@ -82,6 +82,10 @@
         <source></source>
         <translation>Se salvi ora, le modifiche apportate dall’altro programma andranno perse.</translation>
     </message>
+    <message id="kClearFilters">
+        <source></source>
+        <translation>Azzera ricerca e tipo</translation>
+    </message>
     <message id="kClearMenu">
         <source></source>
         <translation>Cancella menu</translation>
@@ -193,6 +197,10 @@
     <message id="kFilterUHD">
         <source></source>
         <translation>UHD</translation>
+    </message>
+    <message id="kForeignRows">
+        <source></source>
+        <translation>Questi canali sono di “%1”. Azzera la ricerca e il tipo per vedere “%2”.</translation>
     </message>
     <message id="kHelpBack">
         <source></source>

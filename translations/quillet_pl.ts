@@ -83,6 +83,10 @@
         <source></source>
         <translation>Jeśli teraz zapiszesz, zmiany wprowadzone przez inny program zostaną utracone.</translation>
     </message>
+    <message id="kClearFilters">
+        <source></source>
+        <translation>Wyczyść wyszukiwanie i typ</translation>
+    </message>
     <message id="kClearMenu">
         <source></source>
         <translation>Wyczyść menu</translation>
@@ -194,6 +198,10 @@
     <message id="kFilterUHD">
         <source></source>
         <translation>UHD</translation>
+    </message>
+    <message id="kForeignRows">
+        <source></source>
+        <translation>Te kanały pochodzą ze źródła „%1”. Wyczyść wyszukiwanie i typ, aby zobaczyć źródło „%2”.</translation>
     </message>
     <message id="kHelpBack">
         <source></source>

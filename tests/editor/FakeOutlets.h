@@ -23,7 +23,7 @@ public:
     QString search;
     int filter = 0;
     QList<qsizetype> rows;
-    int reloads = 0;
+    int updates = 0; ///< of the rows
     qsizetype scrolledTo = -1;
     bool nameIsEditable = false;
     EmptyHint hint = EmptyHint::None;
@@ -31,6 +31,8 @@ public:
     std::function<void()> selectionChanged = [] {};
     std::function<qsizetype()> rowCount = [] { return 0; };
     std::function<void()> reloaded = [] {};
+    std::function<void(const ListChange &)> changed = [](const ListChange &) {};
+    std::optional<ForeignRows> foreignRows;
 
     void setText(Field field, const QString &text) override { texts[field] = text; }
     void setEnabled(Control control, bool on) override { enabled[control] = on; }
@@ -45,9 +47,16 @@ public:
     [[nodiscard]] QString searchText() const override { return search; }
     [[nodiscard]] int filterTag() const override { return filter; }
     void selectFilterItem(int index) override { filter = index; }
+    void clearSearchText() override { search.clear(); }
+    void showChange(const ListChange &change) override
+    {
+        ++updates;
+        changed(change);
+    }
+    void showForeignRows(const std::optional<ForeignRows> &shown) override { foreignRows = shown; }
     void reloadData() override
     {
-        ++reloads;
+        ++updates;
         rows.removeIf([count = rowCount()](qsizetype row) { return row >= count; });
         reloaded();
     }

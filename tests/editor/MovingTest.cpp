@@ -60,10 +60,10 @@ private slots:
         Editor editor(lettered({2, 4, 7}));
         editor.search(QStringLiteral("c"));
         editor.outlets.selectRows({0});
-        const int reloads = editor.outlets.reloads;
+        const int updates = editor.outlets.updates;
         editor.controller.fillGapsClicked(true);
         QVERIFY(editor.controller.fillGaps() && editor.document.isDirty());
-        QCOMPARE(editor.outlets.reloads, reloads + 1);
+        QCOMPARE(editor.outlets.updates, updates + 1);
         QCOMPARE(editor.rows(), QStringLiteral("3 C"));
         QCOMPARE(editor.list(0), QStringLiteral("1 A, 2 B, 3 C"));
         // Without a gap there is nothing to do; switched off, moving leaves them.

@@ -1,6 +1,6 @@
 #include "EditorFixture.h"
 
-#include "editor/Renumbering.h"
+#include "document/edit/Renumbering.h"
 #include "testing/TestMain.h"
 
 #include <QTest>
@@ -89,7 +89,7 @@ private slots:
         StationList wanted;
         for (const QChar letter : moved)
             wanted.push_back(stations.at(letter.unicode() - u'A'));
-        const QStringList selection = moveElemList(stations, wanted, target, fillGaps);
+        const QStringList selection = moveElemList(stations, wanted, target, fillGaps).selection;
         QTEST(numbersAndLetters(stations), "after");
         QTEST(selection.join(QLatin1Char(' ')), "selected");
     }

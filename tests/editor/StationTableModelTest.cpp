@@ -48,6 +48,7 @@ private slots:
         Editor editor(lettered({1, 2, 3, 4, 5}));
         StationTableModel model(editor.controller);
         editor.outlets.reloaded = [&model] { model.reload(); };
+        editor.outlets.changed = [&model](const ListChange &change) { model.show(change); };
         const QAbstractItemModelTester tester(
             &model, QAbstractItemModelTester::FailureReportingMode::QtTest);
         model.reload();

@@ -1,0 +1,48 @@
+#include "editor/DroppedFiles.h"
+
+#include "document/TLLDocument.h"
+#include "editor/EditorQuestions.h"
+#include "files/FileReading.h"
+
+#include <QPointer>
+
+#include <algorithm>
+
+namespace quillet {
+
+void DroppedFiles::load(TLLDocument &document, const EditorQuestions &questions,
+                        const QString &path)
+{
+    if (!document.isDirty())
+        return readDroppedFile(document, path);
+    questions.askToReplace([this, path, guard = QPointer(&document)] {
+        if (guard)
+            readDroppedFile(*guard, path);
+    });
+}
+
+/// The document changes only when the file can be read: half-read content could be saved over the
+/// file that could not.
+void DroppedFiles::readDroppedFile(TLLDocument &document, const QString &path)
+{
+    const QUrl url = QUrl::fromLocalFile(path);
+    Error error;
+    QByteArray bytes;
+    if (readFile(url, bytes, error) && document.canRead(bytes, TLLDocument::typeName(), error)) {
+        document.useFileURL(url);
+        document.readFromUrl(url, TLLDocument::typeName(), error);
+    } else if (error.isEmpty()) {
+        error.localizedDescription = qtTrId("kContentUnknownReason");
+        error.code = 1;
+    }
+    const bool holdsStations = std::any_of(
+        stationSources.begin(), stationSources.end(), [&document](StationSource source) {
+            return document.hasDataForSource(static_cast<int>(source));
+        });
+    if (!error.isEmpty() && holdsStations)
+        emit refused(error);
+    else
+        emit loaded(error);
+}
+
+} // namespace quillet

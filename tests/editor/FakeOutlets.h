@@ -10,8 +10,8 @@
 
 namespace quillet::testing {
 
-/// An editor's controls without a window. Like the real table, it reports every change of its
-/// selection, whoever made it, except by a reload.
+/// An editor's controls without a window. Like the real table, it reports every selection made,
+/// whoever makes it.
 class FakeOutlets : public EditorOutlets
 {
 public:
@@ -29,7 +29,6 @@ public:
     EmptyHint hint = EmptyHint::None;
     Notice notice;
     std::function<void()> selectionChanged = [] {};
-    std::function<qsizetype()> rowCount = [] { return 0; };
     std::function<void()> reloaded = [] {};
     std::function<void(const ListChange &)> changed = [](const ListChange &) {};
     std::optional<ForeignRows> foreignRows;
@@ -57,7 +56,6 @@ public:
     void reloadData() override
     {
         ++updates;
-        rows.removeIf([count = rowCount()](qsizetype row) { return row >= count; });
         reloaded();
     }
     [[nodiscard]] QList<qsizetype> selectedRows() const override { return rows; }

@@ -2,8 +2,6 @@
 
 #include "testing/TestMain.h"
 
-#include <QFile>
-#include <QTemporaryDir>
 #include <QTest>
 
 using namespace quillet;
@@ -16,14 +14,6 @@ namespace {
 QByteArray listWith(const QString &name)
 {
     return fileOf({makeStation(1, u"A"_s), makeStation(2, name), makeStation(3, u"C"_s)});
-}
-
-void show(Editor &editor, const QByteArray &bytes)
-{
-    Error error;
-    if (!editor.document.readFromData(bytes, TLLDocument::typeName(), error))
-        qFatal("the list of the test is not one");
-    editor.controller.populateFromTLLDoc(editor.document, {});
 }
 
 } // namespace
@@ -65,30 +55,12 @@ private slots:
         QFETCH(const bool, offersRepair);
         Editor editor({makeStation(1, u"A"_s)});
         QCOMPARE(editor.outlets.notice.text, QString());
-        show(editor, bytes);
+        editor.show(bytes);
         QCOMPARE(editor.outlets.notice.text, text);
         QCOMPARE(editor.outlets.notice.offersRepair, offersRepair);
         QVERIFY(editor.outlets.notice.isWarning || text.isEmpty());
-        show(editor, listWith(u"B"_s));
+        editor.show(listWith(u"B"_s));
         QCOMPARE(editor.outlets.notice.text, QString());
-    }
-
-    void droppedFile()
-    {
-        const QTemporaryDir folder;
-        QFile file(folder.filePath(u"a.tll"_s));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(listWith(u"R & B"_s)) > 0);
-        file.close();
-        Editor editor({});
-        editor.controller.loadTLLFile(file.fileName());
-        QCOMPARE(editor.outlets.notice.text, u"kNoticeDamaged kNoticeUnread"_s);
-        // One that cannot be read takes nothing away from what is shown.
-        QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        file.close();
-        editor.prompts.answerAlert(u"kOK"_s);
-        editor.controller.loadTLLFile(file.fileName());
-        QVERIFY(editor.prompts.isSettled());
-        QCOMPARE(editor.outlets.notice.text, u"kNoticeDamaged kNoticeUnread"_s);
     }
 
     void mendings()
@@ -100,7 +72,7 @@ private slots:
         QCOMPARE(editor.outlets.notice.text,
                  u"kMendedTitle\nkMendedAmpersands kMendedControls kMendedEnd"_s);
         QVERIFY(!editor.outlets.notice.offersRepair && !editor.outlets.notice.isWarning);
-        show(editor, listWith(u"B"_s));
+        editor.show(listWith(u"B"_s));
         QCOMPARE(editor.outlets.notice.text, QString());
     }
 };

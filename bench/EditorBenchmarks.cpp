@@ -4,7 +4,7 @@
 #include "bench/Figures.h"
 #include "bench/IdleOutlets.h"
 #include "document/TLLDocument.h"
-#include "editor/Renumbering.h"
+#include "document/edit/Renumbering.h"
 #include "editor/ViewController.h"
 
 #include <algorithm>

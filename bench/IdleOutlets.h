@@ -20,12 +20,15 @@ public:
     [[nodiscard]] QString searchText() const override { return search; }
     [[nodiscard]] int filterTag() const override { return 0; }
     void selectFilterItem(int) override {}
+    void clearSearchText() override { search.clear(); }
     void reloadData() override {}
+    void showChange(const ListChange &) override {}
     [[nodiscard]] QList<qsizetype> selectedRows() const override { return {}; }
     void selectRows(const QList<qsizetype> &) override {}
     void scrollRowToVisible(qsizetype) override {}
     void setNameColumnEditable(bool) override {}
     void showEmptyHint(EmptyHint) override {}
+    void showForeignRows(const std::optional<ForeignRows> &) override {}
     void showNotice(const Notice &) override {}
     [[nodiscard]] QWidget *sheetWindow() const override { return nullptr; }
 };

@@ -86,6 +86,10 @@
         <source></source>
         <translation>Anderen Ort wählen …</translation>
     </message>
+    <message id="kClearFilters">
+        <source></source>
+        <translation>Suche und Typ zurücksetzen</translation>
+    </message>
     <message id="kClearMenu">
         <source></source>
         <translation>Einträge löschen</translation>
@@ -205,6 +209,10 @@
     <message id="kFilterUHD">
         <source></source>
         <translation>UHD</translation>
+    </message>
+    <message id="kForeignRows">
+        <source></source>
+        <translation>Diese Sender gehören zu „%1“. Setzen Sie Suche und Typ zurück, um „%2“ zu sehen.</translation>
     </message>
     <message id="kGoneMessage">
         <source></source>

@@ -86,6 +86,10 @@
         <source></source>
         <translation>Choose Another Place…</translation>
     </message>
+    <message id="kClearFilters">
+        <source></source>
+        <translation>Clear Search and Type</translation>
+    </message>
     <message id="kClearMenu">
         <source></source>
         <translation>Clear Menu</translation>
@@ -205,6 +209,10 @@
     <message id="kFilterUHD">
         <source></source>
         <translation>UHD</translation>
+    </message>
+    <message id="kForeignRows">
+        <source></source>
+        <translation>These stations are from “%1”. Clear the search and the type to see “%2”.</translation>
     </message>
     <message id="kGoneMessage">
         <source></source>

@@ -86,6 +86,10 @@
         <source></source>
         <translation>Elegir otro lugar…</translation>
     </message>
+    <message id="kClearFilters">
+        <source></source>
+        <translation>Borrar búsqueda y tipo</translation>
+    </message>
     <message id="kClearMenu">
         <source></source>
         <translation>Vaciar menú</translation>
@@ -205,6 +209,10 @@
     <message id="kFilterUHD">
         <source></source>
         <translation>UHD</translation>
+    </message>
+    <message id="kForeignRows">
+        <source></source>
+        <translation>Estos canales son de «%1». Borre la búsqueda y el tipo para ver «%2».</translation>
     </message>
     <message id="kGoneMessage">
         <source></source>

@@ -86,6 +86,10 @@
         <source></source>
         <translation>Choisir un autre emplacement…</translation>
     </message>
+    <message id="kClearFilters">
+        <source></source>
+        <translation>Effacer la recherche et le type</translation>
+    </message>
     <message id="kClearMenu">
         <source></source>
         <translation>Effacer le menu</translation>
@@ -205,6 +209,10 @@
     <message id="kFilterUHD">
         <source></source>
         <translation>UHD</translation>
+    </message>
+    <message id="kForeignRows">
+        <source></source>
+        <translation>Ces chaînes viennent de « %1 ». Effacez la recherche et le type pour voir « %2 ».</translation>
     </message>
     <message id="kGoneMessage">
         <source></source>

@@ -86,6 +86,10 @@
         <source></source>
         <translation>Scegli un’altra posizione…</translation>
     </message>
+    <message id="kClearFilters">
+        <source></source>
+        <translation>Azzera ricerca e tipo</translation>
+    </message>
     <message id="kClearMenu">
         <source></source>
         <translation>Cancella menu</translation>
@@ -205,6 +209,10 @@
     <message id="kFilterUHD">
         <source></source>
         <translation>UHD</translation>
+    </message>
+    <message id="kForeignRows">
+        <source></source>
+        <translation>Questi canali sono di “%1”. Azzera la ricerca e il tipo per vedere “%2”.</translation>
     </message>
     <message id="kGoneMessage">
         <source></source>

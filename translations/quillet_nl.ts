@@ -86,6 +86,10 @@
         <source></source>
         <translation>Andere plaats kiezen…</translation>
     </message>
+    <message id="kClearFilters">
+        <source></source>
+        <translation>Zoekopdracht en type wissen</translation>
+    </message>
     <message id="kClearMenu">
         <source></source>
         <translation>Menu wissen</translation>
@@ -205,6 +209,10 @@
     <message id="kFilterUHD">
         <source></source>
         <translation>UHD</translation>
+    </message>
+    <message id="kForeignRows">
+        <source></source>
+        <translation>Deze zenders komen van “%1”. Wis de zoekopdracht en het type om “%2” te zien.</translation>
     </message>
     <message id="kGoneMessage">
         <source></source>

@@ -87,6 +87,10 @@
         <source></source>
         <translation>Wybierz inne miejsce…</translation>
     </message>
+    <message id="kClearFilters">
+        <source></source>
+        <translation>Wyczyść wyszukiwanie i typ</translation>
+    </message>
     <message id="kClearMenu">
         <source></source>
         <translation>Wyczyść menu</translation>
@@ -206,6 +210,10 @@
     <message id="kFilterUHD">
         <source></source>
         <translation>UHD</translation>
+    </message>
+    <message id="kForeignRows">
+        <source></source>
+        <translation>Te kanały pochodzą ze źródła „%1”. Wyczyść wyszukiwanie i typ, aby zobaczyć źródło „%2”.</translation>
     </message>
     <message id="kGoneMessage">
         <source></source>

@@ -85,6 +85,10 @@
         <source></source>
         <translation>Başka Bir Yer Seç…</translation>
     </message>
+    <message id="kClearFilters">
+        <source></source>
+        <translation>Aramayı ve Türü Temizle</translation>
+    </message>
     <message id="kClearMenu">
         <source></source>
         <translation>Menüyü Temizle</translation>
@@ -204,6 +208,10 @@
     <message id="kFilterUHD">
         <source></source>
         <translation>UHD</translation>
+    </message>
+    <message id="kForeignRows">
+        <source></source>
+        <translation>Bu kanallar “%1” kaynağından. “%2” kaynağını görmek için aramayı ve türü temizleyin.</translation>
     </message>
     <message id="kGoneMessage">
         <source></source>

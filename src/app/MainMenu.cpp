@@ -217,27 +217,23 @@ void MainMenu::validate()
     // Set in the sheet of a save, so there is nothing here to set it by.
     m_alwaysRepair->setChecked(QSettings().value(SaveReview::alwaysKey).toBool());
     m_alwaysRepair->setVisible(m_alwaysRepair->isChecked());
-    m_print->setEnabled(m_editor.canPrint());
-    m_moveTo->setEnabled(m_editor.canMove());
-    m_info->setEnabled(m_editor.canShowInfo());
-    m_applyOrder->setEnabled(m_editor.canApplyOrder());
-    m_fillGaps->setChecked(m_editor.controller().fillGaps());
-    validateView();
-}
-
-void MainMenu::validateView()
-{
-    const bool isTV = m_editor.tvButtonIsOn();
-    (isTV ? m_showTV : m_showRadio)->setChecked(true);
-    m_showTV->setEnabled(m_editor.canChangeMode());
-    m_showRadio->setEnabled(m_editor.canChangeMode());
+    using Control = EditorOutlets::Control;
+    const ViewController &editor = m_editor.controller();
+    m_print->setEnabled(!editor.currentList().empty());
+    m_moveTo->setEnabled(editor.isEnabled(Control::MoveToButton));
+    m_info->setEnabled(editor.isEnabled(Control::InfoButton));
+    m_applyOrder->setEnabled(editor.isEnabled(Control::ApplyButton));
+    m_fillGaps->setChecked(editor.fillGaps());
+    m_showTV->setEnabled(editor.isEnabled(Control::ModeButtons));
+    m_showRadio->setEnabled(editor.isEnabled(Control::ModeButtons));
+    (editor.isModeTV() ? m_showTV : m_showRadio)->setChecked(true);
     for (QAction *source : m_sources) {
-        const int segment = source->data().toInt();
-        source->setEnabled(m_editor.isSegmentEnabled(segment));
-        source->setChecked(m_editor.selectedSegment() == segment);
+        const int index = source->data().toInt();
+        source->setEnabled(editor.shown().hasDataForSource(index));
+        source->setChecked(editor.shown().shownSource() == index);
     }
     for (QAction *filter : m_filters)
-        filter->setChecked(m_editor.filterTag() == filter->data().toInt());
+        filter->setChecked(editor.filterTag() == filter->data().toInt());
 }
 
 } // namespace quillet

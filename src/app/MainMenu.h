@@ -48,7 +48,6 @@ private:
     void showAbout();
     void chooseSource(int source);
     void validate();
-    void validateView();
 
     LGWindowController &m_window;
     DocumentController &m_documents;

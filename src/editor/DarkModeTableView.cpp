@@ -102,11 +102,12 @@ void DarkModeTableView::paintEvent(QPaintEvent *event)
 
 /// The platform's own picture of a drag, all rows in full, would cover the place they are dropped
 /// at; this is one small label beside the pointer.
-QPixmap DarkModeTableView::dragPicture(int rows) const
+QPixmap DarkModeTableView::dragPicture(const QModelIndexList &rows) const
 {
-    const QString text =
-        rows == 1 ? currentIndex().siblingAtColumn(1).data().toString()
-                  : QStringLiteral("%1 %2").arg(QString::number(rows), qtTrId("kStations", rows));
+    const auto count = static_cast<int>(rows.size());
+    const QString text = count == 1 ? rows.front().siblingAtColumn(1).data().toString()
+                                    : QStringLiteral("%1 %2").arg(QString::number(count),
+                                                                  qtTrId("kStations", count));
     const QFontMetrics metrics = fontMetrics();
     const QSize size(metrics.horizontalAdvance(text) + 2 * metrics.height(),
                      metrics.height() * 3 / 2);
@@ -132,7 +133,7 @@ void DarkModeTableView::startDrag(Qt::DropActions)
         return;
     auto *drag = new QDrag(this); // which Qt deletes
     drag->setMimeData(model()->mimeData(indexes));
-    drag->setPixmap(dragPicture(static_cast<int>(indexes.size())));
+    drag->setPixmap(dragPicture(indexes));
     drag->setHotSpot({-12, -6});
     drag->exec(Qt::MoveAction);
 }

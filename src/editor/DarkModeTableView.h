@@ -55,7 +55,7 @@ protected:
     void dropEvent(QDropEvent *event) override;
 
 private:
-    [[nodiscard]] QPixmap dragPicture(int rows) const;
+    [[nodiscard]] QPixmap dragPicture(const QModelIndexList &rows) const;
     [[nodiscard]] TableDrag tableDrag(const QDropEvent &event) const;
     void answer(QDropEvent &event, DragOperation operation);
     void showDropLine(std::optional<qsizetype> row);

@@ -3,9 +3,13 @@
 #include <QList>
 #include <QString>
 
+#include <optional>
+
 class QWidget;
 
 namespace quillet {
+
+struct ListChange;
 
 /// Why no station is shown, and so what the hint in the table's place says.
 enum class EmptyHint {
@@ -22,6 +26,13 @@ struct Notice
     QString text;              ///< in lines; empty: there is no bar
     bool isWarning = false;    ///< something is wrong, not just worth knowing
     bool offersRepair = false; ///< with a button that opens a repaired copy
+};
+
+/// Rows that are of another list than the one that is chosen.
+struct ForeignRows
+{
+    int source = 0;        ///< theirs
+    int currentSource = 0; ///< the one chosen
 };
 
 /// The controls of the editor's window, as far as its logic reads and sets them. The window
@@ -51,10 +62,13 @@ public:
     /// The tag of the selected item of the type filter.
     [[nodiscard]] virtual int filterTag() const = 0;
     virtual void selectFilterItem(int index) = 0;
+    virtual void clearSearchText() = 0;
 
-    /// Reads all rows anew. Rows that are still there stay selected; no selection change is
-    /// reported.
+    /// Reads all rows anew. Which of them are selected afterwards is not said; no change of the
+    /// selection is reported.
     virtual void reloadData() = 0;
+    /// Shows what a change of the rows' list did to them. The stations that were selected stay so.
+    virtual void showChange(const ListChange &change) = 0;
     /// Ascending.
     [[nodiscard]] virtual QList<qsizetype> selectedRows() const = 0;
     /// Selects exactly these rows.
@@ -62,6 +76,8 @@ public:
     virtual void scrollRowToVisible(qsizetype row) = 0;
     virtual void setNameColumnEditable(bool editable) = 0;
     virtual void showEmptyHint(EmptyHint hint) = 0;
+    /// Says beside the rows whose they are; nothing for none.
+    virtual void showForeignRows(const std::optional<ForeignRows> &rows) = 0;
     /// In the place of an earlier one, also one that was closed.
     virtual void showNotice(const Notice &notice) = 0;
 

@@ -1,7 +1,7 @@
 #include "editor/EditorQuestions.h"
 
 #include "document/TLLDocument.h"
-#include "editor/Renumbering.h"
+#include "document/edit/Renumbering.h"
 #include "framework/Prompts.h"
 #include "support/LenientNumber.h"
 

@@ -5,15 +5,15 @@
 #include "editor/InfoViewController.h"
 #include "editor/NumberDelegate.h"
 #include "editor/StationColumns.h"
+#include "editor/TableSelection.h"
+#include "editor/TypedTextDelegate.h"
 #include "framework/Prompts.h"
 #include "ui_EditorView.h"
 
 #include <QDropEvent>
 #include <QHeaderView>
 #include <QItemSelectionModel>
-#include <QSignalBlocker>
 
-#include <algorithm>
 #include <array>
 
 namespace quillet {
@@ -54,6 +54,8 @@ void EditorView::setUpControls()
         setTabOrder(before, m_ui->sourceSegmentControl->segment(i));
         before = m_ui->sourceSegmentControl->segment(i);
     }
+    m_ui->foreignRowsBar->setClosable(false);
+    m_ui->foreignRowsBar->setTabOrderAfter(*m_ui->filterPop);
     m_ui->noticeBar->setTabOrderAfter(*m_ui->filterPop);
     for (std::size_t i = 0; i < filterTitles.size(); ++i)
         m_ui->filterPop->addItem(qtTrId(filterTitles[i]), static_cast<int>(i));
@@ -66,12 +68,15 @@ void EditorView::setUpTable()
     list.setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed);
     auto *marks = new CheckMarkDelegate(&list);
     auto *numbers = new NumberDelegate(&list);
+    auto *names = new TypedTextDelegate(&list);
     for (std::size_t i = 0; i < stationColumns.size(); ++i) {
         const ColumnContent content = stationColumns[i].content;
         if (content == ColumnContent::Skipped || content == ColumnContent::Blocked)
             list.setItemDelegateForColumn(static_cast<int>(i), marks);
         else if (content == ColumnContent::Number)
             list.setItemDelegateForColumn(static_cast<int>(i), numbers);
+        else if (content == ColumnContent::Name)
+            list.setItemDelegateForColumn(static_cast<int>(i), names);
     }
     list.setDropHandler([this](const TableDrag &drag) { return m_controller.validateDrop(drag); },
                         [this](const TableDrag &drag) { return m_controller.acceptDrop(drag); });
@@ -128,6 +133,9 @@ void EditorView::connectControls()
             &ViewController::tableViewSelectionDidChange);
     connect(m_ui->noticeBar, &NoticeBar::actionTriggered, &m_controller,
             &ViewController::repairedCopyRequested);
+    connect(m_ui->foreignRowsBar, &NoticeBar::actionTriggered, &m_controller,
+            &ViewController::clearFilters);
+    connect(&m_controller, &ViewController::stateChanged, this, &EditorView::stateChanged);
     connect(m_ui->list, &DarkModeTableView::editingChanged, this, &EditorView::stateChanged);
     connect(m_emptyDocText, &EmptyDocText::openRequested, this, &EditorView::openRequested);
     connect(m_emptyDocText, &EmptyDocText::tvRequested, &m_controller,
@@ -173,36 +181,6 @@ void EditorView::focusSearch()
     m_ui->searchText->selectAll();
 }
 
-bool EditorView::canPrint() const
-{
-    return m_model.rowCount() > 0;
-}
-
-bool EditorView::canMove() const
-{
-    return m_ui->moveToButton->isEnabled();
-}
-
-bool EditorView::canShowInfo() const
-{
-    return m_ui->infoButton->isEnabled();
-}
-
-bool EditorView::canApplyOrder() const
-{
-    return m_ui->applyButton->isEnabled();
-}
-
-bool EditorView::canChangeMode() const
-{
-    return m_ui->tvButton->isEnabled();
-}
-
-bool EditorView::isSegmentEnabled(int segment) const
-{
-    return m_ui->sourceSegmentControl->segment(segment)->isEnabled();
-}
-
 void EditorView::setFillGapsOn(bool on)
 {
     m_ui->fillGapsButton->setChecked(on);
@@ -229,7 +207,7 @@ void EditorView::setContextActions(const QList<QAction *> &actions)
 void EditorView::printList()
 {
     TLLDocument *document = m_controller.stationDoc();
-    if (!document || !document->prompts() || !canPrint())
+    if (!document || !document->prompts() || m_controller.currentList().empty())
         return;
     const QString title = document->displayName();
     document->prompts()->showPrintPanel(sheetWindow(), title, [this, title](QPrinter &printer) {
@@ -282,7 +260,6 @@ void EditorView::setEnabled(Control control, bool enabled)
         m_ui->filterPop->setToolTip(enabled ? QString() : qtTrId("kTipFilterTVOnly"));
         break;
     }
-    emit stateChanged();
 }
 
 bool EditorView::tvButtonIsOn() const
@@ -328,49 +305,31 @@ void EditorView::selectFilterItem(int index)
     m_ui->filterPop->setCurrentIndex(index);
 }
 
+void EditorView::clearSearchText()
+{
+    m_ui->searchText->clear();
+}
+
 void EditorView::reloadData()
 {
-    const QList<qsizetype> selected = selectedRows();
-    {
-        const QSignalBlocker quiet(m_ui->list->selectionModel());
-        m_model.reload();
-        selectRows(selected);
-    }
-    m_ui->list->viewport()->update();
-    m_ui->list->setPlaceholderText(m_controller.isFiltered() ? qtTrId("kNoMatches") : QString());
-    emit stateChanged();
+    m_model.reload();
+    m_ui->list->setPlaceholderText(m_controller.shown().isFiltered() ? qtTrId("kNoMatches")
+                                                                     : QString());
+}
+
+void EditorView::showChange(const ListChange &change)
+{
+    m_model.show(change);
 }
 
 QList<qsizetype> EditorView::selectedRows() const
 {
-    QList<qsizetype> rows;
-    for (const QItemSelectionRange &range : m_ui->list->selectionModel()->selection()) {
-        for (int row = range.top(); row <= range.bottom(); ++row)
-            rows.append(row);
-    }
-    std::sort(rows.begin(), rows.end());
-    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
-    return rows;
+    return quillet::selectedRows(*m_ui->list->selectionModel());
 }
 
 void EditorView::selectRows(const QList<qsizetype> &rows)
 {
-    // One range a run of neighbours: a range a row would make large selections slow.
-    QItemSelection selection;
-    const auto lastColumn = static_cast<int>(stationColumns.size()) - 1;
-    const int count = m_model.rowCount();
-    for (qsizetype i = 0; i < rows.size() && rows[i] < count;) {
-        qsizetype end = i;
-        while (end + 1 < rows.size() && rows[end + 1] == rows[end] + 1 && rows[end + 1] < count)
-            ++end;
-        selection.select(m_model.index(static_cast<int>(rows[i]), 0),
-                         m_model.index(static_cast<int>(rows[end]), lastColumn));
-        i = end + 1;
-    }
-    QItemSelectionModel &selected = *m_ui->list->selectionModel();
-    selected.select(selection, QItemSelectionModel::ClearAndSelect);
-    if (!selection.isEmpty() && !selected.isSelected(selected.currentIndex()))
-        selected.setCurrentIndex(selection.first().topLeft(), QItemSelectionModel::NoUpdate);
+    quillet::selectRows(*m_ui->list, rows);
 }
 
 void EditorView::scrollRowToVisible(qsizetype row)
@@ -386,6 +345,19 @@ void EditorView::setNameColumnEditable(bool editable)
 void EditorView::showEmptyHint(EmptyHint hint)
 {
     m_emptyDocText->showHint(hint);
+}
+
+void EditorView::showForeignRows(const std::optional<ForeignRows> &rows)
+{
+    if (!rows)
+        return m_ui->foreignRowsBar->dismiss();
+    const auto title = [](int source) {
+        return qtTrId(sourceTitles.at(static_cast<std::size_t>(source)));
+    };
+    m_ui->foreignRowsBar->showNotice(
+        NoticeBar::Kind::Information,
+        qtTrId("kForeignRows").arg(title(rows->source), title(rows->currentSource)),
+        qtTrId("kClearFilters"));
 }
 
 void EditorView::showNotice(const Notice &notice)

@@ -43,14 +43,6 @@ public:
     /// The commands of the table's context menu.
     void setContextActions(const QList<QAction *> &actions);
 
-    /// Whether the window's commands have something to work on.
-    [[nodiscard]] bool canPrint() const;
-    [[nodiscard]] bool canMove() const;
-    [[nodiscard]] bool canShowInfo() const;
-    [[nodiscard]] bool canApplyOrder() const;
-    [[nodiscard]] bool canChangeMode() const;
-    [[nodiscard]] bool isSegmentEnabled(int segment) const;
-
     void setText(Field field, const QString &text) override;
     void setEnabled(Control control, bool enabled) override;
     [[nodiscard]] bool tvButtonIsOn() const override;
@@ -61,12 +53,15 @@ public:
     [[nodiscard]] QString searchText() const override;
     [[nodiscard]] int filterTag() const override;
     void selectFilterItem(int index) override;
+    void clearSearchText() override;
     void reloadData() override;
+    void showChange(const ListChange &change) override;
     [[nodiscard]] QList<qsizetype> selectedRows() const override;
     void selectRows(const QList<qsizetype> &rows) override;
     void scrollRowToVisible(qsizetype row) override;
     void setNameColumnEditable(bool editable) override;
     void showEmptyHint(EmptyHint hint) override;
+    void showForeignRows(const std::optional<ForeignRows> &rows) override;
     void showNotice(const Notice &notice) override;
     [[nodiscard]] QWidget *sheetWindow() const override;
     using QWidget::setEnabled;

@@ -56,6 +56,11 @@ NoticeBar::NoticeBar(QWidget *parent)
     hide();
 }
 
+void NoticeBar::setClosable(bool closable)
+{
+    m_close->setVisible(closable);
+}
+
 QString NoticeBar::text() const
 {
     return m_text->text();

@@ -22,6 +22,8 @@ public:
     /// Shows the text, in the place of an earlier one. Without a title there is no button.
     void showNotice(Kind kind, const QString &text, const QString &actionTitle = {});
     void dismiss() { hide(); }
+    /// Without its closing button only dismiss() takes the bar away.
+    void setClosable(bool closable);
     [[nodiscard]] QString text() const;
     /// Puts its buttons behind a widget in the order of the Tab key.
     void setTabOrderAfter(QWidget &widget);

@@ -16,17 +16,4 @@ QWidget *NumberDelegate::createEditor(QWidget *parent, const QStyleOptionViewIte
     return field;
 }
 
-void NumberDelegate::setEditorData(QWidget *editor, const QModelIndex &index) const
-{
-    qobject_cast<QLineEdit *>(editor)->setText(index.data(Qt::EditRole).toString());
-}
-
-void NumberDelegate::setModelData(QWidget *editor, QAbstractItemModel *model,
-                                  const QModelIndex &index) const
-{
-    const QString text = qobject_cast<QLineEdit *>(editor)->text();
-    if (!text.isEmpty())
-        model->setData(index, text, Qt::EditRole);
-}
-
 } // namespace quillet

@@ -14,6 +14,14 @@ void SavedSelection::save(const QList<qsizetype> &rows, const StationList &list)
         m_numbers->append(list[static_cast<std::size_t>(row)]->progNumString());
 }
 
+void SavedSelection::follow(const StationList &stations)
+{
+    QStringList numbers;
+    for (const StationPtr &station : stations)
+        numbers.append(station->progNumString());
+    m_numbers = std::move(numbers);
+}
+
 QList<qsizetype> SavedSelection::rowsIn(const StationList &list) const
 {
     QList<qsizetype> rows;
@@ -28,6 +36,14 @@ QList<qsizetype> SavedSelection::rowsIn(const StationList &list) const
             rows.append(static_cast<qsizetype>(i));
     }
     return rows;
+}
+
+StationList SavedSelection::stationsIn(const StationList &list) const
+{
+    StationList stations;
+    for (const qsizetype row : rowsIn(list))
+        stations.push_back(list[static_cast<std::size_t>(row)]);
+    return stations;
 }
 
 } // namespace quillet

@@ -20,10 +20,16 @@ public:
 
     void clear() { m_numbers.reset(); }
     void set(QStringList numbers) { m_numbers = std::move(numbers); }
+    /// Remembers those stations by the numbers they carry now.
+    void follow(const StationList &stations);
     /// Remembers the stations at those ascending rows; no rows mean no selection.
     void save(const QList<qsizetype> &rows, const StationList &list);
     /// The rows of the list, ascending, whose stations carry one of the numbers.
     [[nodiscard]] QList<qsizetype> rowsIn(const StationList &list) const;
+
+    /// The stations of the list that carry one of the numbers.
+    [[nodiscard]] StationList stationsIn(const StationList &list) const;
+    bool operator==(const SavedSelection &) const = default;
 
 private:
     std::optional<QStringList> m_numbers;

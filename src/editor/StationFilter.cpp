@@ -46,8 +46,11 @@ void StationFilter::filterStationsFor(const QString &text, const StationListPtr 
         return;
     const QString wanted = text.toLower();
     LowerCase lowerCase;
+    const auto fits = [&lowerCase, &wanted](const QString &name) {
+        return lowerCase.of(name).contains(wanted);
+    };
     for (const StationPtr &station : *stations) {
-        if (lowerCase.of(station->stationName()).contains(wanted))
+        if (fits(station->stationName()) || (station->isRenamed() && fits(station->shownName())))
             matching.push_back(station);
     }
 }

@@ -6,7 +6,7 @@ namespace quillet {
 
 void StationInfo::setStation(const LGStation &station)
 {
-    m_title = station.stationName();
+    m_title = station.shownName();
     m_entry = station.entry();
     m_fields.clear();
     for (const auto &[key, value] : m_entry)

@@ -12,7 +12,7 @@ class StationInfo
 public:
     void setStation(const LGStation &station);
 
-    /// The station's displayed name.
+    /// The name the station is shown by.
     [[nodiscard]] const QString &title() const { return m_title; }
     /// The names of the fields, capital letters before small ones.
     [[nodiscard]] const QStringList &fields() const { return m_fields; }

@@ -1,11 +1,15 @@
 #include "editor/StationTableModel.h"
 
 #include "editor/CellFont.h"
+#include "editor/ListChange.h"
 #include "editor/StationColumns.h"
 #include "editor/ViewController.h"
 
+#include <QHash>
 #include <QMimeData>
 
+#include <algorithm>
+#include <array>
 #include <set>
 
 namespace quillet {
@@ -17,6 +21,57 @@ QVariant checkMark(bool set)
     return QVariant::fromValue(set ? Qt::Checked : Qt::Unchecked);
 }
 
+constexpr std::array fieldColumns{
+    std::pair{StationField::Number, ColumnContent::Number},
+    std::pair{StationField::Name, ColumnContent::Name},
+    std::pair{StationField::Skipped, ColumnContent::Skipped},
+    std::pair{StationField::Blocked, ColumnContent::Blocked},
+};
+
+int columnOf(ColumnContent content)
+{
+    const auto *const found =
+        std::find_if(stationColumns.begin(), stationColumns.end(),
+                     [content](const StationColumn &column) { return column.content == content; });
+    return static_cast<int>(found - stationColumns.begin());
+}
+
+/// The places at which two lists of one size differ, and all between them.
+ListStretch difference(const StationList &a, const StationList &b)
+{
+    const auto first = std::mismatch(a.begin(), a.end(), b.begin()).first - a.begin();
+    const auto last = std::mismatch(a.rbegin(), a.rend(), b.rbegin()).first - a.rbegin();
+    return {static_cast<std::size_t>(first), a.size() - static_cast<std::size_t>(last)};
+}
+
+/// The rows, of which there may be fewer than there are stations in the list, that stand in places
+/// of it. Both are in the same order.
+std::vector<ListStretch> rowsOf(const std::vector<ListStretch> &places, const StationList &list,
+                                const StationList &rows)
+{
+    const bool isWhole = places.size() == 1 && places.front() == ListStretch{0, list.size()};
+    if (isWhole)
+        return {{0, rows.size()}};
+    if (rows.size() == list.size())
+        return places;
+    std::vector<ListStretch> found;
+    std::size_t place = 0;
+    std::size_t row = 0;
+    for (const ListStretch &stretch : places) {
+        ListStretch shown;
+        for (; place < stretch.end && row < rows.size(); ++place) {
+            if (rows[row] != list[place])
+                continue;
+            if (place >= stretch.first)
+                shown.include(row);
+            ++row;
+        }
+        if (!shown.isEmpty())
+            found.push_back(shown);
+    }
+    return found;
+}
+
 } // namespace
 
 StationTableModel::StationTableModel(ViewController &controller, QObject *parent)
@@ -26,29 +81,103 @@ StationTableModel::StationTableModel(ViewController &controller, QObject *parent
 
 void StationTableModel::reload()
 {
-    m_typedNames.clear();
+    takeRows();
+    if (!m_rows.empty())
+        emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
+}
+
+void StationTableModel::show(const ListChange &change)
+{
+    takeRows();
+    if (change.list == m_controller.shown().base())
+        tellFields(change);
+}
+
+/// Takes over what is on show now. Stations that stay in the rows keep their persistent indexes, so
+/// that a cell that is still being edited reaches its own station or none.
+void StationTableModel::takeRows()
+{
     const StationList &list = m_controller.currentList();
-    std::vector<const LGStation *> shown;
-    shown.reserve(list.size());
-    for (const StationPtr &station : list)
-        shown.push_back(station.get());
-    const auto rows = static_cast<int>(shown.size());
-    // Where other stations come into the rows, a cell still being edited must not reach them. An
-    // edit that has just been taken over may move its station.
-    const bool isSame = rows == m_rows && rows > 0 && (m_isEditing || shown == m_shown);
-    m_shown = std::move(shown);
-    if (isSame) {
-        emit dataChanged(index(0, 0), index(rows - 1, columnCount() - 1));
-        return;
+    if (list.size() == m_rows.size()) {
+        const ListStretch changed = difference(m_rows, list);
+        if (changed.isEmpty() || moveBlock(list, changed) || rearrange(list))
+            return;
     }
     beginResetModel();
-    m_rows = rows;
+    m_rows = list;
     endResetModel();
+}
+
+/// The usual case: one block of neighbours and the rows that it passed changed places. False for
+/// anything else.
+bool StationTableModel::moveBlock(const StationList &list, const ListStretch &changed)
+{
+    const auto at = [](auto begin, std::size_t place) {
+        return begin + static_cast<std::ptrdiff_t>(place);
+    };
+    const auto first = at(m_rows.begin(), changed.first), end = at(m_rows.begin(), changed.end);
+    const auto block = std::find(first, end, list[changed.first]);
+    const auto given = at(list.begin(), changed.first);
+    if (!std::equal(block, end, given) || !std::equal(first, block, given + (end - block)))
+        return false;
+    const auto row = [this](auto place) { return static_cast<int>(place - m_rows.begin()); };
+    if (!beginMoveRows({}, row(block), row(end) - 1, {}, row(first)))
+        return false;
+    std::rotate(first, block, end);
+    endMoveRows();
+    return true;
+}
+
+/// The same stations in any other order, each of them once. False when they are others.
+bool StationTableModel::rearrange(const StationList &list)
+{
+    QHash<const LGStation *, int> rowsNow;
+    rowsNow.reserve(static_cast<qsizetype>(list.size()));
+    for (const StationPtr &station : list)
+        rowsNow.insert(station.get(), static_cast<int>(rowsNow.size()));
+    const bool areSame =
+        static_cast<std::size_t>(rowsNow.size()) == list.size() &&
+        std::all_of(m_rows.begin(), m_rows.end(), [&rowsNow](const StationPtr &station) {
+            return rowsNow.contains(station.get());
+        });
+    if (!areSame)
+        return false;
+    emit layoutAboutToBeChanged();
+    const QModelIndexList before = persistentIndexList();
+    QModelIndexList after;
+    after.reserve(before.size());
+    for (const QModelIndex &each : before) {
+        const StationPtr &station = m_rows[static_cast<std::size_t>(each.row())];
+        after.append(index(rowsNow.value(station.get()), each.column()));
+    }
+    m_rows = list;
+    changePersistentIndexList(before, after);
+    emit layoutChanged();
+    return true;
+}
+
+void StationTableModel::tellFields(const ListChange &change)
+{
+    const std::vector<ListStretch> rows = rowsOf(change.places, *change.list, m_rows);
+    for (const auto &[field, content] : fieldColumns) {
+        if (!change.fields.testFlag(field))
+            continue;
+        for (const ListStretch &stretch : rows)
+            tellCells(stretch, columnOf(content));
+    }
+}
+
+void StationTableModel::tellCells(const ListStretch &rows, int column)
+{
+    if (!rows.isEmpty()) {
+        emit dataChanged(index(static_cast<int>(rows.first), column),
+                         index(static_cast<int>(rows.end) - 1, column));
+    }
 }
 
 int StationTableModel::rowCount(const QModelIndex &parent) const
 {
-    return parent.isValid() ? 0 : m_rows;
+    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
 }
 
 int StationTableModel::columnCount(const QModelIndex &parent) const
@@ -58,11 +187,10 @@ int StationTableModel::columnCount(const QModelIndex &parent) const
 
 QVariant StationTableModel::data(const QModelIndex &index, int role) const
 {
-    const StationList &list = m_controller.currentList();
     const auto row = static_cast<std::size_t>(index.row());
-    if (!index.isValid() || row >= list.size())
+    if (!index.isValid() || row >= m_rows.size())
         return {};
-    const LGStation &station = *list[row];
+    const LGStation &station = *m_rows[row];
     const StationColumn &column = stationColumns.at(static_cast<std::size_t>(index.column()));
     if (role == Qt::FontRole)
         return m_font;
@@ -73,10 +201,8 @@ QVariant StationTableModel::data(const QModelIndex &index, int role) const
             return QVariant::fromValue(Qt::AlignRight | Qt::AlignVCenter);
         return isText || role == Qt::EditRole ? station.progNumString() : QVariant();
     case ColumnContent::Name:
-        if (!isText && role != Qt::EditRole && role != Qt::ToolTipRole)
-            return {};
-        return m_typedNames.contains(index.row()) ? m_typedNames[index.row()]
-                                                  : station.stationName();
+        return isText || role == Qt::EditRole || role == Qt::ToolTipRole ? station.shownName()
+                                                                         : QVariant();
     case ColumnContent::Type:
         if (role == Qt::TextAlignmentRole)
             return QVariant::fromValue(Qt::AlignCenter);
@@ -91,22 +217,14 @@ QVariant StationTableModel::data(const QModelIndex &index, int role) const
 
 bool StationTableModel::setData(const QModelIndex &index, const QVariant &value, int role)
 {
-    if (!index.isValid() || index.row() >= m_rows)
-        return false;
-    const StationColumn &column = stationColumns.at(static_cast<std::size_t>(index.column()));
     const bool isCheck = role == Qt::CheckStateRole;
-    if (!isCheck && role != Qt::EditRole)
+    if (!index.isValid() || (!isCheck && role != Qt::EditRole))
         return false;
     const QVariant edited =
         isCheck ? QVariant(value.value<Qt::CheckState>() == Qt::Checked) : value;
-    if (column.content == ColumnContent::Name)
-        m_typedNames[index.row()] = value.toString();
-    m_isEditing = true;
+    const StationColumn &column = stationColumns.at(static_cast<std::size_t>(index.column()));
     m_controller.setObjectValue(edited, column.identifier, index.row());
-    m_isEditing = false;
-    if (index.row() < m_rows)
-        emit dataChanged(index, index);
-    return true;
+    return true; // what it changed has been told
 }
 
 QVariant StationTableModel::headerData(int section, Qt::Orientation orientation, int role) const
@@ -131,7 +249,10 @@ Qt::ItemFlags StationTableModel::flags(const QModelIndex &index) const
     Qt::ItemFlags flags = QAbstractTableModel::flags(index);
     if (!index.isValid())
         return flags;
-    flags |= Qt::ItemIsDragEnabled | Qt::ItemNeverHasChildren;
+    flags |= Qt::ItemNeverHasChildren;
+    if (m_controller.shown().areForeign())
+        return flags;
+    flags |= Qt::ItemIsDragEnabled;
     switch (stationColumns.at(static_cast<std::size_t>(index.column())).content) {
     case ColumnContent::Number:
         flags |= Qt::ItemIsEditable;

@@ -1,18 +1,18 @@
 #pragma once
 
+#include "document/edit/ListStretch.h"
+#include "model/LGStation.h"
+
 #include <QAbstractTableModel>
 #include <QFont>
-#include <QHash>
-
-#include <vector>
 
 namespace quillet {
 
-class LGStation;
 class ViewController;
+struct ListChange;
 
-/// The rows of the station table: what the editor's current list holds, as text and check marks.
-/// Reads stations, never changes them: an edit is handed to the editor.
+/// The rows of the station table: what the editor has on show, as text and check marks, as it was
+/// last told. Reads stations, never changes them: an edit is handed to the editor.
 class StationTableModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -20,8 +20,10 @@ class StationTableModel : public QAbstractTableModel
 public:
     explicit StationTableModel(ViewController &controller, QObject *parent = nullptr);
 
-    /// The current list has changed, in any way.
+    /// Other stations may be on show, and anything of them may have changed.
     void reload();
+    /// Follows a change of the list that the rows are of.
+    void show(const ListChange &change);
     void setNameColumnEditable(bool editable) { m_nameIsEditable = editable; }
 
     [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
@@ -39,15 +41,16 @@ public:
     [[nodiscard]] static QList<qsizetype> draggedRows(const QMimeData &data);
 
 private:
+    void takeRows();
+    [[nodiscard]] bool moveBlock(const StationList &list, const ListStretch &changed);
+    [[nodiscard]] bool rearrange(const StationList &list);
+    void tellFields(const ListChange &change);
+    void tellCells(const ListStretch &rows, int column);
+
     ViewController &m_controller;
     QFont m_font;
-    int m_rows = 0;                         ///< as last told to the views
-    std::vector<const LGStation *> m_shown; ///< likewise; only compared
-    bool m_isEditing = false;
+    StationList m_rows; ///< as last told to the views
     bool m_nameIsEditable = false;
-    /// Names typed since the last reload, by row: a station keeps showing the name it was read
-    /// with.
-    QHash<int, QString> m_typedNames;
 };
 
 } // namespace quillet

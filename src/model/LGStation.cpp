@@ -129,8 +129,22 @@ QString LGStation::stationName() const
 
 void LGStation::setStationName(const QString &name)
 {
-    if (!name.isEmpty())
-        setValue(m_keys->keyStationName, name);
+    if (name.isEmpty())
+        return;
+    if (!m_nameAsMade)
+        m_nameAsMade = std::make_unique<std::optional<QString>>(textValue(m_keys->keyStationName));
+    setValue(m_keys->keyStationName, name);
+}
+
+bool LGStation::isRenamed() const
+{
+    return m_nameAsMade && *m_nameAsMade != textValue(m_keys->keyStationName);
+}
+
+QString LGStation::shownName() const
+{
+    QString cached = stationName();
+    return isRenamed() ? textValue(m_keys->keyStationName).value_or(cached) : cached;
 }
 
 void LGStation::setEntry(Dictionary entry)

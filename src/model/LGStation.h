@@ -56,6 +56,11 @@ public:
     /// Stores a new name in the entry, as it is; an empty one is ignored. The name that
     /// stationName() has read before stays.
     void setStationName(const QString &name);
+    /// Whether the entry holds a name that setStationName() gave it, rather than the one it was
+    /// made with.
+    [[nodiscard]] bool isRenamed() const;
+    /// The name to show: the new one of a renamed station, else stationName().
+    [[nodiscard]] QString shownName() const;
 
     /// The number a person sees, 0 to 16383; missingProgNum when there is none.
     [[nodiscard]] qint64 progNum() const;
@@ -117,6 +122,8 @@ private:
     const StationKeys *m_keys;
     Dictionary m_entry;
     mutable QString m_name;
+    /// What the entry held as name before the first renaming; null before that.
+    std::unique_ptr<const std::optional<QString>> m_nameAsMade;
     /// What the entry holds as program number, read once after each change: whole lists are walked
     /// for it.
     mutable std::optional<qint64> m_rawNumber;

@@ -172,6 +172,22 @@ private slots:
         QCOMPARE(described(stations), QStringList{QStringLiteral("7 was 1")});
     }
 
+    /// As moving may leave it, where numbers were equal.
+    void aStationThatStandsTwice()
+    {
+        const StationPtr a = makeStation(1, QStringLiteral("A"), QStringLiteral("1-1-1"));
+        const StationPtr b = makeStation(2, QStringLiteral("B"), QStringLiteral("1-1-2"));
+        const StationPtr c = makeStation(3, QStringLiteral("C"), QStringLiteral("1-1-3"));
+        StationList stations{b, a, c, b, c};
+        const ReferenceEntry forB{QStringLiteral("7"), {}, QStringLiteral("1-1-2")};
+        const ReferenceOrderResult result = applyReferenceOrder(stations, {forB, forB});
+        QCOMPARE(stations, (StationList{b, a, c}));
+        QCOMPARE(described(stations),
+                 (QStringList{QStringLiteral("7 was 2"), QStringLiteral("8 was 1"),
+                              QStringLiteral("9 was 3")}));
+        QVERIFY(result.matched == 1 && result.remaining == 2);
+    }
+
     void agreesWithWalking()
     {
         QRandomGenerator random(20);

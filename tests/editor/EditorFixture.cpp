@@ -4,16 +4,37 @@
 
 namespace quillet::testing {
 
+using namespace Qt::Literals::StringLiterals;
+
 Editor::Editor(const std::vector<Item> &stations)
 {
-    Error error;
     document.setPrompts(&prompts);
-    document.setFileUrl(QUrl::fromLocalFile(QStringLiteral("/folder/list.tll")));
-    if (!document.readFromData(fileOf(stations), TLLDocument::typeName(), error))
-        qFatal("the list of the test is not one");
+    document.setFileUrl(QUrl::fromLocalFile(u"/folder/list.tll"_s));
     outlets.selectionChanged = [this] { controller.tableViewSelectionDidChange(); };
-    outlets.rowCount = [this] { return static_cast<qsizetype>(controller.currentList().size()); };
+    outlets.reloaded = [this] {
+        model.setNameColumnEditable(outlets.nameIsEditable);
+        model.reload();
+        outlets.rows.clear();
+    };
+    outlets.changed = [this](const ListChange &change) {
+        QList<QPersistentModelIndex> selected;
+        for (const qsizetype row : std::as_const(outlets.rows))
+            selected.append(model.index(static_cast<int>(row), 0));
+        model.show(change);
+        outlets.rows.clear();
+        for (const QPersistentModelIndex &index : std::as_const(selected))
+            outlets.rows.append(index.row());
+        std::sort(outlets.rows.begin(), outlets.rows.end());
+    };
     controller.viewDidLoad();
+    show(fileOf(stations));
+}
+
+void Editor::show(const QByteArray &bytes)
+{
+    Error error;
+    if (!document.readFromData(bytes, TLLDocument::typeName(), error))
+        qFatal("the list of the test is not one");
     controller.populateFromTLLDoc(document, {});
 }
 
@@ -29,17 +50,28 @@ void Editor::clickSegment(int segment)
     controller.sourceSegmentClicked();
 }
 
-QString Editor::list(int source, bool isTV) const
+QString Editor::rows() const
 {
-    return text(*document.lists().list(isTV, source));
+    const auto mark = [this](int row, int column, QChar letter) {
+        const QVariant state = model.index(row, column).data(Qt::CheckStateRole);
+        return state.value<Qt::CheckState>() == Qt::Checked ? QString(letter) : QString();
+    };
+    QStringList texts;
+    for (int row = 0; row < model.rowCount(); ++row) {
+        const QString marks = mark(row, 3, u's') + mark(row, 4, u'b');
+        texts.append(model.index(row, 0).data().toString() + u' ' +
+                     model.index(row, 1).data().toString() +
+                     (marks.isEmpty() ? marks : u' ' + marks));
+    }
+    return texts.join(u", "_s);
 }
 
-QString Editor::text(const StationList &stations)
+QString Editor::list(int source, bool isTV) const
 {
     QStringList texts;
-    for (const StationPtr &station : stations)
-        texts.append(station->progNumString() + QLatin1Char(' ') + station->stationName());
-    return texts.join(QStringLiteral(", "));
+    for (const StationPtr &station : *document.lists().list(isTV, source))
+        texts.append(station->progNumString() + u' ' + station->shownName());
+    return texts.join(u", "_s);
 }
 
 std::vector<Item> lettered(const QList<int> &numbers, FileSource source)

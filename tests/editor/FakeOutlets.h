@@ -10,8 +10,8 @@
 
 namespace quillet::testing {
 
-/// An editor's controls without a window. Like the real table, it reports every change of its
-/// selection, whoever made it, except by a reload.
+/// An editor's controls without a window. Like the real table, it reports every selection made,
+/// whoever makes it.
 class FakeOutlets : public EditorOutlets
 {
 public:
@@ -23,14 +23,15 @@ public:
     QString search;
     int filter = 0;
     QList<qsizetype> rows;
-    int reloads = 0;
+    int updates = 0; ///< of the rows
     qsizetype scrolledTo = -1;
     bool nameIsEditable = false;
     EmptyHint hint = EmptyHint::None;
     Notice notice;
     std::function<void()> selectionChanged = [] {};
-    std::function<qsizetype()> rowCount = [] { return 0; };
     std::function<void()> reloaded = [] {};
+    std::function<void(const ListChange &)> changed = [](const ListChange &) {};
+    std::optional<ForeignRows> foreignRows;
 
     void setText(Field field, const QString &text) override { texts[field] = text; }
     void setEnabled(Control control, bool on) override { enabled[control] = on; }
@@ -45,10 +46,16 @@ public:
     [[nodiscard]] QString searchText() const override { return search; }
     [[nodiscard]] int filterTag() const override { return filter; }
     void selectFilterItem(int index) override { filter = index; }
+    void clearSearchText() override { search.clear(); }
+    void showChange(const ListChange &change) override
+    {
+        ++updates;
+        changed(change);
+    }
+    void showForeignRows(const std::optional<ForeignRows> &shown) override { foreignRows = shown; }
     void reloadData() override
     {
-        ++reloads;
-        rows.removeIf([count = rowCount()](qsizetype row) { return row >= count; });
+        ++updates;
         reloaded();
     }
     [[nodiscard]] QList<qsizetype> selectedRows() const override { return rows; }

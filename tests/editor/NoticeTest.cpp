@@ -3,13 +3,13 @@
 #include "testing/TestFiles.h"
 #include "testing/TestMain.h"
 
-#include <QFile>
-#include <QTemporaryDir>
-#include <QTest>
-
 #ifndef Q_OS_WIN
 #include "files/OrdinaryUser.h"
 #endif
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
 
 using namespace quillet;
 using namespace quillet::testing;
@@ -21,14 +21,6 @@ namespace {
 QByteArray listWith(const QString &name)
 {
     return fileOf({makeStation(1, u"A"_s), makeStation(2, name), makeStation(3, u"C"_s)});
-}
-
-void show(Editor &editor, const QByteArray &bytes)
-{
-    Error error;
-    if (!editor.document.readFromData(bytes, TLLDocument::typeName(), error))
-        qFatal("the list of the test is not one");
-    editor.controller.populateFromTLLDoc(editor.document, {});
 }
 
 } // namespace
@@ -70,28 +62,12 @@ private slots:
         QFETCH(const bool, offersRepair);
         Editor editor({makeStation(1, u"A"_s)});
         QCOMPARE(editor.outlets.notice.text, QString());
-        show(editor, bytes);
+        editor.show(bytes);
         QCOMPARE(editor.outlets.notice.text, text);
         QCOMPARE(editor.outlets.notice.offersRepair, offersRepair);
         QVERIFY(editor.outlets.notice.isWarning || text.isEmpty());
-        show(editor, listWith(u"B"_s));
+        editor.show(listWith(u"B"_s));
         QCOMPARE(editor.outlets.notice.text, QString());
-    }
-
-    void droppedFile()
-    {
-        const QTemporaryDir folder;
-        const QString path = folder.filePath(u"a.tll"_s);
-        writeFile(path, listWith(u"R & B"_s));
-        Editor editor({});
-        editor.controller.loadTLLFile(path);
-        QCOMPARE(editor.outlets.notice.text, u"kNoticeDamaged kNoticeUnread"_s);
-        // One that cannot be read takes nothing away from what is shown.
-        writeFile(path, {});
-        editor.prompts.answerAlert(u"kOK"_s);
-        editor.controller.loadTLLFile(path);
-        QVERIFY(editor.prompts.isSettled());
-        QCOMPARE(editor.outlets.notice.text, u"kNoticeDamaged kNoticeUnread"_s);
     }
 
 #ifndef Q_OS_WIN
@@ -124,7 +100,7 @@ private slots:
         QCOMPARE(editor.outlets.notice.text,
                  u"kMendedTitle\nkMendedAmpersands kMendedControls kMendedEnd"_s);
         QVERIFY(!editor.outlets.notice.offersRepair && !editor.outlets.notice.isWarning);
-        show(editor, listWith(u"B"_s));
+        editor.show(listWith(u"B"_s));
         QCOMPARE(editor.outlets.notice.text, QString());
     }
 };

@@ -1,12 +1,13 @@
 #include "EditorFixture.h"
 
-#include "editor/Renumbering.h"
+#include "document/edit/Renumbering.h"
 #include "testing/TestMain.h"
 
 #include <QTest>
 
 using namespace quillet;
 using namespace quillet::testing;
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -15,11 +16,11 @@ namespace {
 StationList stationsNumbered(const QString &numbers)
 {
     StationList stations;
-    for (const QString &number : numbers.split(QLatin1Char(' '))) {
+    for (const QString &number : numbers.split(u' ')) {
         const auto index = static_cast<qint64>(stations.size());
         stations.push_back(std::make_shared<LGStation>(
-            Dictionary{{QStringLiteral("prNum"), number},
-                       {QStringLiteral("vchName"), QString(QChar(u'A' + char16_t(index)))}},
+            Dictionary{{u"prNum"_s, number},
+                       {u"vchName"_s, QString(QChar(u'A' + char16_t(index)))}},
             index));
     }
     return stations;
@@ -30,7 +31,7 @@ QString numbersAndLetters(const StationList &stations)
     QStringList texts;
     for (const StationPtr &station : stations)
         texts.append(station->progNumString() + station->stationName());
-    return texts.join(QLatin1Char(' '));
+    return texts.join(u' ');
 }
 
 } // namespace
@@ -89,9 +90,9 @@ private slots:
         StationList wanted;
         for (const QChar letter : moved)
             wanted.push_back(stations.at(letter.unicode() - u'A'));
-        const QStringList selection = moveElemList(stations, wanted, target, fillGaps);
+        const QStringList selection = moveElemList(stations, wanted, target, fillGaps).selection;
         QTEST(numbersAndLetters(stations), "after");
-        QTEST(selection.join(QLatin1Char(' ')), "selected");
+        QTEST(selection.join(u' '), "selected");
     }
 };
 

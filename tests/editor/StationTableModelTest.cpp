@@ -1,15 +1,16 @@
 #include "EditorFixture.h"
 
 #include "editor/StationColumns.h"
-#include "editor/StationTableModel.h"
 #include "testing/TestMain.h"
 
-#include <QAbstractItemModelTester>
 #include <QMimeData>
 #include <QTest>
 
+#include <functional>
+
 using namespace quillet;
 using namespace quillet::testing;
+using namespace Qt::Literals::StringLiterals;
 
 class StationTableModelTest : public QObject
 {
@@ -18,62 +19,133 @@ class StationTableModelTest : public QObject
 private slots:
     void cells()
     {
-        Item station = makeStation(3, QStringLiteral("Ä & <b>"), FileSource::Antenna, 16);
-        station.push_back({QStringLiteral("isSkipped"), QStringLiteral("1")});
+        Item station = makeStation(3, u"Ä & <b>"_s, FileSource::Antenna, 16);
+        station.push_back({u"isSkipped"_s, u"1"_s});
         station[3].second = station[3].second.toHtmlEscaped();
         Editor editor({station});
-        StationTableModel model(editor.controller);
-        model.reload();
-        const auto cell = [&model](const char *column, int role) {
-            for (int i = 0; i < model.columnCount(); ++i) {
-                if (stationColumns.at(std::size_t(i)).identifier == QLatin1String(column))
-                    return model.index(0, i).data(role);
-            }
-            return QVariant();
-        };
         QCOMPARE(stationColumns[1].identifier, QLatin1String("progName"));
-        QCOMPARE(cell("progNum", Qt::DisplayRole).toString(), QStringLiteral("3"));
-        QCOMPARE(cell("progName", Qt::DisplayRole).toString(), QStringLiteral("Ä & <b>"));
-        QCOMPARE(cell("skipped", Qt::CheckStateRole).value<Qt::CheckState>(), Qt::Checked);
-        QCOMPARE(cell("blocked", Qt::CheckStateRole).value<Qt::CheckState>(), Qt::Unchecked);
-        QCOMPARE(cell("visible", Qt::TextAlignmentRole).value<Qt::Alignment>(), Qt::AlignCenter);
+        QCOMPARE(editor.rows(), u"3 Ä & <b> s"_s);
+        const QModelIndex type = editor.model.index(0, 2);
+        QCOMPARE(type.data(Qt::TextAlignmentRole).value<Qt::Alignment>(), Qt::AlignCenter);
         // The type goes by the source that was clicked, not by the one that is shown.
-        QCOMPARE(cell("visible", Qt::DisplayRole).toString(), QString());
+        QCOMPARE(type.data().toString(), QString());
         editor.clickSegment(2);
-        QCOMPARE(cell("visible", Qt::DisplayRole).toString(), QStringLiteral("DVB-T2"));
+        QCOMPARE(type.data().toString(), u"DVB-T2"_s);
     }
 
-    void followsTheEditor()
+    void changes_data()
     {
-        Editor editor(lettered({1, 2, 3, 4, 5}));
-        StationTableModel model(editor.controller);
-        editor.outlets.reloaded = [&model] { model.reload(); };
-        const QAbstractItemModelTester tester(
-            &model, QAbstractItemModelTester::FailureReportingMode::QtTest);
-        model.reload();
-        QCOMPARE(model.rowCount(), 5);
-        editor.controller.moveElements(4, 1, 1);
-        QCOMPARE(model.index(0, 1).data().toString(), QStringLiteral("E"));
-        editor.search(QStringLiteral("c"));
-        QCOMPARE(model.rowCount(), 1);
-        QCOMPARE(model.index(0, 0).data().toString(), QStringLiteral("4"));
-        editor.controller.useRadioClicked();
-        QCOMPARE(model.rowCount(), 0);
+        QTest::addColumn<QString>("search");
+        QTest::addColumn<std::function<void(Editor &)>>("change");
+        QTest::addColumn<QString>("told");
+        const auto row = [](const char *name, const QString &search, void (*change)(Editor &),
+                            const QString &told) {
+            QTest::newRow(name) << search << std::function<void(Editor &)>(change) << told;
+        };
+        row(
+            "name", {}, [](Editor &e) { e.controller.setObjectValue(u"X"_s, u"progName"_s, 2); },
+            u"2:1-2:1"_s);
+        row(
+            "check mark", {}, [](Editor &e) { e.controller.setObjectValue(true, u"blocked"_s, 0); },
+            u"0:4-0:4"_s);
+        row(
+            "toggled", {},
+            [](Editor &e) {
+                e.outlets.selectRows({0, 1, 3});
+                e.controller.skipSelectedItems();
+            },
+            u"0:3-1:3 3:3-3:3"_s);
+        row(
+            "toggled, filtered", u"b"_s,
+            [](Editor &e) {
+                e.outlets.selectRows({1, 2});
+                e.controller.skipSelectedItems();
+            },
+            u"1:3-2:3"_s);
+        row(
+            "one up", {}, [](Editor &e) { e.controller.moveElements(3, 1, 2); },
+            u"3-3>1 1:0-3:0"_s);
+        row(
+            "two down", {}, [](Editor &e) { e.controller.moveElements(0, 2, 12); },
+            u"2-3>0 0:0-3:0"_s);
+        row(
+            "to its own place", {}, [](Editor &e) { e.controller.moveElements(3, 1, 30); },
+            u"3:0-3:0"_s);
+        row(
+            "apart", {},
+            [](Editor &e) {
+                e.controller.moveSelectedElements({1, 3}, 1);
+            },
+            u"layout 0:0-3:0"_s);
+        row(
+            "filtered", u"b"_s, [](Editor &e) { e.controller.moveElements(2, 1, 1); },
+            u"2-2>0 0:0-2:0"_s);
+        row(
+            "beside the rows", u"ab"_s, [](Editor &e) { e.controller.moveElements(0, 1, 3); },
+            u"0:0-0:0"_s);
+        row(
+            "filling gaps", {}, [](Editor &e) { e.controller.fillGapsClicked(true); },
+            u"3:0-3:0"_s);
+        row(
+            "filling hidden gaps", u"ab"_s, [](Editor &e) { e.controller.fillGapsClicked(true); },
+            QString());
+        row(
+            "other rows", {}, [](Editor &e) { e.search(u"x"_s); }, u"reset"_s);
+    }
+    void changes()
+    {
+        QFETCH(QString, search);
+        QFETCH(std::function<void(Editor &)>, change);
+        const FileSource source = FileSource::Analogue;
+        Editor editor({makeStation(1, u"ab"_s, source), makeStation(2, u"c"_s, source),
+                       makeStation(3, u"bd"_s, source), makeStation(9, u"be"_s, source)});
+        editor.search(search);
+        const StationList before = editor.controller.currentList();
+        QList<QPersistentModelIndex> kept;
+        for (int row = 0; row < editor.model.rowCount(); ++row)
+            kept.append(editor.model.index(row, row));
+
+        QStringList told;
+        const StationTableModel &model = editor.model;
+        connect(&model, &QAbstractItemModel::dataChanged, this,
+                [&told](const QModelIndex &first, const QModelIndex &last) {
+                    told.append(u"%1:%2-%3:%4"_s.arg(first.row())
+                                    .arg(first.column())
+                                    .arg(last.row())
+                                    .arg(last.column()));
+                });
+        connect(&model, &QAbstractItemModel::rowsMoved, this,
+                [&told](const QModelIndex &, int first, int last, const QModelIndex &, int row) {
+                    told.append(u"%1-%2>%3"_s.arg(first).arg(last).arg(row));
+                });
+        connect(&model, &QAbstractItemModel::layoutChanged, this,
+                [&told] { told.append(u"layout"_s); });
+        connect(&model, &QAbstractItemModel::modelReset, this,
+                [&told] { told.append(u"reset"_s); });
+        change(editor);
+        QTEST(told.join(u' '), "told");
+
+        // Indexes stay with their stations.
+        if (told.contains(u"reset"_s))
+            return;
+        for (std::size_t i = 0; i < before.size(); ++i) {
+            const QPersistentModelIndex &index = kept[qsizetype(i)];
+            QCOMPARE(index.column(), int(i));
+            QCOMPARE(editor.controller.currentList().at(std::size_t(index.row())), before[i]);
+        }
     }
 
     void draggedRows()
     {
         Editor editor(lettered({1, 2, 3, 4}));
-        StationTableModel model(editor.controller);
-        model.reload();
         // A row counts once, however many of its cells are dragged.
-        const std::unique_ptr<QMimeData> data(
-            model.mimeData({model.index(3, 0), model.index(1, 0), model.index(1, 4)}));
-        QCOMPARE(data->formats(), QStringList{QStringLiteral("QuilletType.LG")});
-        QCOMPARE(data->data(QStringLiteral("QuilletType.LG")), QByteArray("1 3"));
+        const std::unique_ptr<QMimeData> data(editor.model.mimeData(
+            {editor.model.index(3, 0), editor.model.index(1, 0), editor.model.index(1, 4)}));
+        QCOMPARE(data->formats(), QStringList{u"QuilletType.LG"_s});
+        QCOMPARE(data->data(u"QuilletType.LG"_s), QByteArray("1 3"));
         QCOMPARE(StationTableModel::draggedRows(*data), QList<qsizetype>({1, 3}));
         QMimeData foreign;
-        foreign.setText(QStringLiteral("1 3"));
+        foreign.setText(u"1 3"_s);
         QCOMPARE(StationTableModel::draggedRows(foreign), QList<qsizetype>());
     }
 };

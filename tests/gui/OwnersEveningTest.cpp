@@ -154,7 +154,7 @@ private slots:
         QTest::keyClick(&table, Qt::Key_Return);
         const QPointer panel(window->findChild<QDialog *>(u"infoPanel"_s));
         QVERIFY(panel && QTest::qWaitForWindowActive(panel.get()));
-        QCOMPARE(panel->windowTitle(), u"Old Two"_s); // as it was read
+        QCOMPARE(panel->windowTitle(), u"Neu <Ü>"_s);
         auto &list = part<QTableView>(*panel, "infoList");
         QStringList fields;
         for (int row = 0; row < list.model()->rowCount(); ++row)

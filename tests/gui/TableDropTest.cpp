@@ -2,9 +2,11 @@
 
 #include "document/TLLDocument.h"
 #include "editor/DarkModeTableView.h"
+#include "editor/StationTableModel.h"
 #include "testing/TestMain.h"
 
 #include <QAction>
+#include <QDrag>
 #include <QDragMoveEvent>
 #include <QHeaderView>
 #include <QLabel>
@@ -15,6 +17,7 @@
 
 using namespace quillet;
 using namespace quillet::testing;
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -59,6 +62,7 @@ Qt::DropAction drag(QWidget &viewport, const QPoint &place, const QMimeData &dat
     QDragEnterEvent enter(place, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
     QApplication::sendEvent(&viewport, &enter);
     QDragMoveEvent move(place, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
+    move.setAccepted(enter.isAccepted()); // as the window system hands it on
     QApplication::sendEvent(&viewport, &move);
     return move.isAccepted() ? move.dropAction() : Qt::IgnoreAction;
 }
@@ -123,8 +127,39 @@ private slots:
         QVERIFY(!drop(viewport, place, data));
     }
 
+    /// Off screen no drag runs, so it ends at once.
+    void dragFromTheTable()
+    {
+        App app;
+        QMainWindow *window = app.open("a.tll", listOf(4));
+        QVERIFY(window);
+        QTableView &table = tableOf(*window);
+        selectRows(*window, {0, 2});
+        const auto dragRow = [&table](int row) {
+            const QPoint place = table.visualRect(table.model()->index(row, 1)).center();
+            QTest::mousePress(table.viewport(), Qt::LeftButton, {}, place);
+            QTest::mouseMove(table.viewport(), place + QPoint(0, 4));
+            QTest::mouseMove(table.viewport(), place + QPoint(0, 40));
+            const auto drags = table.findChildren<QDrag *>();
+            QTest::mouseRelease(table.viewport(), Qt::LeftButton, {}, place);
+            return drags.isEmpty() ? nullptr : drags.back();
+        };
+        const QDrag *drag = dragRow(2);
+        QVERIFY(drag && !drag->pixmap().isNull());
+        QCOMPARE(drag->mimeData()->data(TLLDocument::typeIdentifier()), QByteArray("0 2"));
+        QCOMPARE(StationTableModel::draggedRows(*drag->mimeData()), QList<qsizetype>({0, 2}));
+        QVERIFY(!window->isWindowModified());
+    }
+
+    void fileOnAWindow_data()
+    {
+        QTest::addColumn<QString>("target");
+        QTest::newRow("table") << u"list"_s;
+        QTest::newRow("beside the table") << u"deviceTitle"_s;
+    }
     void fileOnAWindow()
     {
+        QFETCH(QString, target);
         App app;
         app.delegate.applicationDidFinishLaunching({});
         QMainWindow *window = app.window();
@@ -133,17 +168,20 @@ private slots:
         QVERIFY(hint.isVisible() && hint.text().contains(label("kHintNoFile")));
         QMimeData data;
         data.setUrls({QUrl::fromLocalFile(app.write("dropped.tll", listOf(2)))});
-        QWidget &viewport = *tableOf(*window).viewport();
-        const QPoint place = viewport.rect().center();
-        QVERIFY(viewport.childAt(place)); // the hint lies there and does not swallow the drop
-        QCOMPARE(drag(viewport, place, data), Qt::CopyAction);
-        QVERIFY(drop(viewport, place, data));
-        QTRY_COMPARE(cell(*window, 1, 1), QStringLiteral("Station 2"));
-        QCOMPARE(window->windowTitle(), QStringLiteral("dropped.tll[*]"));
+        QWidget &table = *tableOf(*window).viewport();
+        QVERIFY(table.childAt(table.rect().center())); // the hint does not swallow the drop
+        const bool isTable = target == QLatin1String("list");
+        QWidget &taker = isTable ? table : *window->centralWidget();
+        const QPoint place =
+            isTable ? table.rect().center() : part<QWidget>(*window, qPrintable(target)).pos();
+        QVERIFY(drag(taker, place, data));
+        QVERIFY(drop(taker, place, data));
+        QTRY_COMPARE(cell(*window, 1, 1), u"Station 2"_s);
+        QCOMPARE(window->windowTitle(), u"dropped.tll[*]"_s);
         QVERIFY(!hint.isVisible() && !window->isWindowModified());
         // Now that it has stations, no file is taken any more.
-        QCOMPARE(drag(viewport, place, data), Qt::IgnoreAction);
-        QVERIFY(!drop(viewport, place, data));
+        QVERIFY(!drag(taker, place, data));
+        QVERIFY(!drop(taker, place, data));
     }
 
     void hintLeadsOut()
@@ -153,7 +191,7 @@ private slots:
         QMainWindow *window = app.window();
         QVERIFY(window);
         app.preset.answerOpenPanel({app.write("chosen.tll", listOf(1))});
-        emit part<QLabel>(*window, "emptyDocText").linkActivated(QStringLiteral("kHintOpen"));
+        emit part<QLabel>(*window, "emptyDocText").linkActivated(u"kHintOpen"_s);
         QTRY_VERIFY(app.preset.isSettled());
         window = app.window();
         QVERIFY(window);
@@ -161,9 +199,9 @@ private slots:
         auto &hint = part<QLabel>(*window, "emptyDocText");
         QVERIFY(hint.isVisible() && hint.text().contains(label("kHintNoRadioStations")));
         QVERIFY(!part<QWidget>(*window, "tvButton").isEnabled());
-        emit hint.linkActivated(QStringLiteral("kHintShowTV"));
+        emit hint.linkActivated(u"kHintShowTV"_s);
         QVERIFY(!hint.isVisible());
-        QCOMPARE(cell(*window, 0, 1), QStringLiteral("Station 1"));
+        QCOMPARE(cell(*window, 0, 1), u"Station 1"_s);
     }
 };
 

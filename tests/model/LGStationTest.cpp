@@ -158,6 +158,21 @@ private slots:
         QCOMPARE(unread.stationName(), u"B"_s);
     }
 
+    void showsTheNewName()
+    {
+        const Dictionary made{{u"hexVchName"_s, u"C3A4"_s}};
+        LGStation station(made, 0);
+        QCOMPARE(station.shownName(), u"ä"_s);
+        QVERIFY(!station.isRenamed());
+        for (const QString &name : {u"B"_s, u"Ã¤"_s}) {
+            station.setStationName(name);
+            QCOMPARE(station.shownName(), name); // as typed
+            QVERIFY(station.isRenamed());
+        }
+        station.setEntry(made); // taken back
+        QCOMPARE(station.shownName(), u"ä"_s);
+    }
+
     void identifiersAreText()
     {
         const LGStation station(

@@ -1,8 +1,11 @@
 #include "document/order/StationPool.h"
 
+#include <QSet>
+
 #include <algorithm>
 #include <iterator>
 #include <utility>
+#include <vector>
 
 namespace quillet {
 
@@ -41,6 +44,31 @@ std::optional<QString> joined(std::initializer_list<std::optional<QString>> text
     return all;
 }
 
+/// Whether a station may stand in the list more than once. Stations hardly ever share their place
+/// in the file, which is quicker to look at than the stations themselves.
+bool mayHoldTwins(const StationList &stations)
+{
+    constexpr std::size_t places = 0x10000;
+    std::vector<bool> isTaken(places);
+    return std::any_of(stations.begin(), stations.end(), [&isTaken](const StationPtr &station) {
+        auto place = isTaken[static_cast<std::size_t>(station->origPos()) % places];
+        const bool wasTaken = place;
+        place = true;
+        return wasTaken;
+    });
+}
+
+/// Leaves each station where it stands first.
+void removeTwins(StationList &stations)
+{
+    QSet<const LGStation *> seen;
+    std::erase_if(stations, [&seen](const StationPtr &station) {
+        const qsizetype before = seen.size();
+        seen.insert(station.get());
+        return seen.size() == before;
+    });
+}
+
 } // namespace
 
 StationList extractElemsWithServiceID(const QString &id, const StationList &list)
@@ -67,9 +95,11 @@ StationList extractElemsWithName(const QString &name, const StationList &list)
     });
 }
 
-StationPool::StationPool(StationList stations)
-    : m_stations(std::move(stations)), m_left(m_stations.size())
+StationPool::StationPool(StationList stations) : m_stations(std::move(stations))
 {
+    if (mayHoldTwins(m_stations))
+        removeTwins(m_stations);
+    m_left = m_stations.size();
 }
 
 StationIndex &StationPool::index(std::optional<StationIndex> &made,

@@ -18,8 +18,8 @@ namespace quillet {
 /// for has the empty one.
 [[nodiscard]] StationList extractElemsWithName(const QString &name, const StationList &list);
 
-/// Stations waiting to be matched. Answers what narrowing the stations left in it by the functions
-/// above would, without walking them.
+/// Stations waiting to be matched, each once, however often it stands in its list. Answers what
+/// narrowing the stations left in it by the functions above would, without walking them.
 class StationPool
 {
 public:
@@ -44,7 +44,7 @@ private:
     StationIndex &index(std::optional<StationIndex> &made, const StationIndex::Key &key) const;
 
     StationList m_stations; ///< null where one was taken
-    std::size_t m_left;
+    std::size_t m_left = 0;
     // Made when first needed.
     std::optional<StationIndex> m_byService;
     std::optional<StationIndex> m_byTransport; ///< service and transport stream

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/edit/ListStretch.h"
 #include "model/LGStation.h"
 
 #include <QStringList>
@@ -18,6 +19,13 @@ inline constexpr qint64 highestTarget = 9999;
 /// none.
 [[nodiscard]] std::size_t indexForNewProgNum(const StationList &stations, qint64 number);
 
+/// What moving did.
+struct Renumbered
+{
+    QStringList selection; ///< the numbers, as text, that should be selected afterwards
+    ListStretch changed;   ///< where another station or number stands now
+};
+
 /// Takes the moved stations (at least one) out of the list and puts them back, in their order, at
 /// the place of the target number, with the numbers from the target on; then renumbers the list:
 /// with `fillGaps` to 1, 2, 3 and so on, else raising only what is not above its predecessor. A
@@ -25,12 +33,10 @@ inline constexpr qint64 highestTarget = 9999;
 ///
 /// Stations are taken out by number: of several with the same number the first in the list goes,
 /// even when another one is moved.
-///
-/// Returns the numbers, as text, that should be selected afterwards.
-QStringList moveElemList(StationList &stations, const StationList &moved, qint64 target,
-                         bool fillGaps);
+Renumbered moveElemList(StationList &stations, const StationList &moved, qint64 target,
+                        bool fillGaps);
 
-/// Numbers the list 1, 2, 3 and so on. Returns whether any number changed.
-bool closeGaps(StationList &stations);
+/// Numbers the list 1, 2, 3 and so on. Returns where numbers changed.
+ListStretch closeGaps(const StationList &stations);
 
 } // namespace quillet

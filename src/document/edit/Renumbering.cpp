@@ -1,4 +1,4 @@
-#include "editor/Renumbering.h"
+#include "document/edit/Renumbering.h"
 
 #include <QHash>
 
@@ -8,18 +8,24 @@ namespace quillet {
 
 namespace {
 
-void removeByNumber(StationList &stations, const StationList &moved)
+/// Returns where the stations stood that were removed.
+ListStretch removeByNumber(StationList &stations, const StationList &moved)
 {
     QHash<qint64, qsizetype> wanted;
     for (const StationPtr &station : moved)
         ++wanted[station->progNum()];
-    std::erase_if(stations, [&wanted](const StationPtr &station) {
+    ListStretch removed;
+    std::size_t next = 0;
+    std::erase_if(stations, [&wanted, &removed, &next](const StationPtr &station) {
+        const std::size_t place = next++;
         const auto number = wanted.find(station->progNum());
         if (number == wanted.end() || number.value() == 0)
             return false;
         --number.value();
+        removed.include(place);
         return true;
     });
+    return removed;
 }
 
 } // namespace
@@ -40,10 +46,10 @@ std::size_t indexForNewProgNum(const StationList &stations, qint64 number)
     return static_cast<std::size_t>(found - stations.begin());
 }
 
-QStringList moveElemList(StationList &stations, const StationList &moved, qint64 target,
-                         bool fillGaps)
+Renumbered moveElemList(StationList &stations, const StationList &moved, qint64 target,
+                        bool fillGaps)
 {
-    removeByNumber(stations, moved);
+    Renumbered result{.selection = {}, .changed = removeByNumber(stations, moved)};
     const qint64 first = std::min(target, highestTarget);
     const std::size_t place = indexForNewProgNum(stations, first);
     const auto count = static_cast<qint64>(moved.size());
@@ -53,8 +59,10 @@ QStringList moveElemList(StationList &stations, const StationList &moved, qint64
         // Below 0 only the place counts; the lower bits of such a number would read as another one.
         moved[static_cast<std::size_t>(j)]->setProgramNum(std::max<qint64>(first + j, 0));
 
+    result.changed.include({place, place + moved.size()});
+
     if (fillGaps) {
-        closeGaps(stations);
+        result.changed.include(closeGaps(stations));
     } else {
         qint64 last = 0;
         for (std::size_t i = 0; i < stations.size(); ++i) {
@@ -62,31 +70,32 @@ QStringList moveElemList(StationList &stations, const StationList &moved, qint64
             const bool isMoved = i >= place && i < place + moved.size();
             const qint64 number =
                 isMoved ? first + static_cast<qint64>(i - place) : stations[i]->progNum();
-            if (number <= last)
-                stations[i]->setProgramNum(++last);
-            else
+            if (number > last) {
                 last = number;
+                continue;
+            }
+            stations[i]->setProgramNum(++last);
+            result.changed.include(i);
         }
     }
 
     // With gaps filled, stations moved towards the end are expected as many places before the
     // target as were moved.
     const qint64 offset = fillGaps && first > moved.front()->origPos() ? -count : 0;
-    QStringList selection;
     for (qint64 j = 0; j < count; ++j)
-        selection.append(QString::number(first + offset + j));
-    return selection;
+        result.selection.append(QString::number(first + offset + j));
+    return result;
 }
 
-bool closeGaps(StationList &stations)
+ListStretch closeGaps(const StationList &stations)
 {
-    bool changed = false;
-    qint64 number = 0;
-    for (const StationPtr &station : stations) {
-        if (station->progNum() == ++number)
+    ListStretch changed;
+    for (std::size_t i = 0; i < stations.size(); ++i) {
+        const auto number = static_cast<qint64>(i) + 1;
+        if (stations[i]->progNum() == number)
             continue;
-        station->setProgramNum(number);
-        changed = true;
+        stations[i]->setProgramNum(number);
+        changed.include(i);
     }
     return changed;
 }

@@ -1,0 +1,44 @@
+#include "document/edit/StationEdits.h"
+
+#include <QSet>
+
+namespace quillet {
+
+bool isSet(const LGStation &station, StationFlag flag)
+{
+    return flag == StationFlag::Skipped ? station.isSkipped() : station.isBlocked();
+}
+
+void setFlag(const StationList &stations, StationFlag flag, bool set)
+{
+    for (const StationPtr &station : stations) {
+        if (flag == StationFlag::Skipped)
+            station->setSkipped(set);
+        else
+            station->setBlocked(set);
+    }
+}
+
+bool toggledFlag(const StationList &stations, StationFlag flag)
+{
+    return !isSet(*stations.front(), flag);
+}
+
+std::vector<ListStretch> placesOf(const StationList &stations, const StationList &list)
+{
+    QSet<const LGStation *> wanted;
+    for (const StationPtr &station : stations)
+        wanted.insert(station.get());
+    std::vector<ListStretch> places;
+    for (std::size_t place = 0; place < list.size(); ++place) {
+        if (!wanted.contains(list[place].get()))
+            continue;
+        if (!places.empty() && places.back().end == place)
+            ++places.back().end;
+        else
+            places.push_back({place, place + 1});
+    }
+    return places;
+}
+
+} // namespace quillet

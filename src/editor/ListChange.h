@@ -1,0 +1,32 @@
+#pragma once
+
+#include "document/edit/ListStretch.h"
+#include "model/LGStation.h"
+
+#include <QFlags>
+
+#include <vector>
+
+namespace quillet {
+
+/// What can be changed of a station.
+enum class StationField { Number = 1, Name = 2, Skipped = 4, Blocked = 8 };
+Q_DECLARE_FLAGS(StationFields, StationField)
+
+/// What an edit changed, told once it is made.
+struct ListChange
+{
+    enum class Kind {
+        Fields,   ///< every station stands where it stood
+        Moved,    ///< stations stand elsewhere, and so may numbers
+        Reordered ///< the whole list has a new order and new numbers
+    };
+
+    Kind kind = Kind::Fields;
+    StationListPtr list;
+    /// Outside of these places, ascending, nothing changed.
+    std::vector<ListStretch> places;
+    StationFields fields; ///< of the stations there
+};
+
+} // namespace quillet

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QList>
+
+class QItemSelectionModel;
+class QTableView;
+
+/// The selection of a table whose whole rows are selected.
+namespace quillet {
+
+/// Ascending, each once.
+[[nodiscard]] QList<qsizetype> selectedRows(const QItemSelectionModel &selection);
+/// Selects exactly those of the ascending rows that there are, and makes one of them the current
+/// one.
+void selectRows(QTableView &table, const QList<qsizetype> &rows);
+
+} // namespace quillet

@@ -102,37 +102,22 @@ private slots:
         }
     }
 
-    void toggles_data()
-    {
-        QTest::addColumn<bool>("locks");
-        QTest::newRow("skip") << false;
-        QTest::newRow("child lock") << true;
-    }
+    /// The first selected one's new state goes for all.
     void toggles()
     {
-        QFETCH(const bool, locks);
         std::vector<Item> items = lettered({1, 2, 3, 4});
         for (const std::size_t set : {2, 3})
-            items[set].push_back({locks ? u"isBlocked"_s : u"isSkipped"_s, u"1"_s});
+            items[set].push_back({u"isSkipped"_s, u"1"_s});
         Editor editor(items);
-        const auto toggle = [&editor, locks] {
-            if (locks)
-                editor.controller.changeChildLockForSelectedItems();
-            else
-                editor.controller.skipSelectedItems();
-        };
-        const QString before = editor.rows();
-        toggle(); // nothing is selected
-        QVERIFY(editor.rows() == before && !editor.document.isDirty());
-
-        // The first one's new state goes for all.
+        editor.controller.skipSelectedItems(); // nothing is selected
+        QVERIFY(!editor.document.isDirty());
         editor.outlets.selectRows({1, 2, 3});
-        toggle();
-        const QString mark = locks ? u" b"_s : u" s"_s;
-        QCOMPARE(editor.rows(), u"1 A, 2 B%1, 3 C%1, 4 D%1"_s.arg(mark));
+        editor.controller.skipSelectedItems();
+        QCOMPARE(editor.rows(), u"1 A, 2 B s, 3 C s, 4 D s"_s);
         QVERIFY(editor.document.isDirty());
-        toggle();
-        QCOMPARE(editor.rows(), u"1 A, 2 B, 3 C, 4 D"_s);
+        editor.controller.changeChildLockForSelectedItems();
+        editor.controller.skipSelectedItems();
+        QCOMPARE(editor.rows(), u"1 A, 2 B b, 3 C b, 4 D b"_s);
         QCOMPARE(editor.outlets.rows, (Rows{1, 2, 3}));
     }
 
@@ -187,21 +172,6 @@ private slots:
         QCOMPARE(editor.document.isDirty(), isApplied);
         QCOMPARE(editor.outlets.rows, isApplied ? Rows{} : Rows{1});
         QCOMPARE(editor.controller.selection().isEmpty(), isApplied);
-        QVERIFY(editor.prompts.isSettled());
-    }
-
-    void asksForTheOrder()
-    {
-        const QTemporaryDir folder;
-        writeFile(folder.filePath(u"order.txt"_s), "3;x;1-10-101\n2;x;1-10-102\n1;x;1-10-103");
-        Editor editor(identified({1, 2, 3}));
-        editor.prompts.answerOpenPanel({});
-        editor.controller.applyOrderClicked();
-        editor.prompts.answerOpenPanel({folder.filePath(u"order.txt"_s)});
-        editor.prompts.answerAlert(u"kOK"_s);
-        editor.controller.applyOrderClicked();
-        QCOMPARE(editor.rows(), u"1 A, 2 B, 3 C"_s); // not while the panel is there
-        QTRY_COMPARE(editor.rows(), u"3 A, 2 B, 1 C"_s);
         QVERIFY(editor.prompts.isSettled());
     }
 

@@ -1,15 +1,10 @@
 #include "AppFixture.h"
 
 #include "framework/QtPrompts.h"
-#include "testing/TLLText.h"
 #include "testing/TestMain.h"
 
 #include <QAction>
-#include <QComboBox>
-#include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
-#include <QRegularExpression>
 #include <QTest>
 
 using namespace quillet;

@@ -6,7 +6,6 @@
 #include "testing/TestFiles.h"
 #include "testing/TestMain.h"
 
-#include <QFile>
 #include <QMainWindow>
 #include <QSignalSpy>
 #include <QTest>

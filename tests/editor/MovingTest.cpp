@@ -3,7 +3,6 @@
 #include "testing/TestFiles.h"
 #include "testing/TestMain.h"
 
-#include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 

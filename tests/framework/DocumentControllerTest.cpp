@@ -78,6 +78,7 @@ private slots:
         QCOMPARE(first->otherDocumentAt(path("a")), nullptr);
         // Nor by a copy that was made of it, of which there is one only.
         auto made = std::make_unique<BytesDocument>();
+        made->content = "copy";
         Document *copy = m_controller->openUntitled(std::move(made), QUrl::fromLocalFile(path("c")),
                                                     QUrl::fromLocalFile(path("a")));
         windowOf(copy)->showMinimized();
@@ -92,7 +93,17 @@ private slots:
         QVERIFY(m_prompts->lastText().contains(id("kOpenElsewhereReason")));
         QCOMPARE(contentOf(path("b")), QByteArray("b"));
         QCOMPARE(m_controller->recentFiles().paths().front(), path("c"));
-        // That it is saved makes the other file no less untouched.
+        // A file that is opened while a sheet is open is not written to either.
+        const QString late = m_folder->filePath(id("late"));
+        writeFile(late, "late");
+        bytesOf(copy).duringReview = [&] { open("late"); };
+        m_prompts->answerSavePanel(late);
+        m_prompts->answerAlert(id("kCancel"));
+        copy->exportDocument({}, {}, [](bool, const Error &) {});
+        QTRY_VERIFY(m_prompts->isSettled());
+        QCOMPARE(contentOf(late), QByteArray("late"));
+        // That it is saved, or read again, makes the other file no less untouched.
+        copy->revertDocumentToSaved();
         m_prompts->answerSavePanel(path("a"));
         m_prompts->answerAlert(id("kCancel"));
         copy->exportDocument({}, {}, [](bool, const Error &) {});

@@ -9,7 +9,6 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QAction>
-#include <QFile>
 #include <QLabel>
 #include <QSignalSpy>
 #include <QTest>
@@ -173,11 +172,6 @@ private slots:
             << makeTLL({}, {item}, wide).toUtf8() << distance(u"DTV"_s, between);
         QTest::newRow("analogue, far")
             << makeTLL({analogue}, {item}, wide).toUtf8() << distance(u"ATV"_s, between);
-        QTest::newRow("digital, text") << "<TLLDATA><CHANNEL><DTV>text</DTV></CHANNEL></TLLDATA>"_ba
-                                       << qtTrId("kBadSectionContent").arg(u"DTV"_s);
-        QTest::newRow("analogue, text")
-            << "<TLLDATA><CHANNEL><ATV>x</ATV><DTV>x</DTV></CHANNEL></TLLDATA>"_ba
-            << qtTrId("kBadSectionContent").arg(u"ATV"_s);
         QTest::newRow("damaged as well") << "<TLLDATA>\n<CHANNEL>\n<ATV>x</ATV>\n & "_ba
                                          << qtTrId("kBadSectionContent").arg(u"ATV"_s) + u'\n' +
                                                 qtTrId("kNoticeDamagedLine").arg(4);

@@ -14,6 +14,12 @@ LGWindowController::LGWindowController()
     windowDidLoad();
 }
 
+/// The editor goes later, with the window, and tells of what is then given up in its cells.
+LGWindowController::~LGWindowController()
+{
+    disconnect(m_editor, nullptr, nullptr, nullptr);
+}
+
 void LGWindowController::windowDidLoad()
 {
     window()->setCentralWidget(m_editor); // which the window owns from here on

@@ -14,6 +14,7 @@ class LGWindowController : public TLLWindowController
 
 public:
     LGWindowController();
+    ~LGWindowController() override;
 
     bool populateFromTLLDoc(TLLDocument &document, const Error &error) override;
     void refill() override;

@@ -17,8 +17,8 @@ struct ReferenceOrderResult
 /// the first station not yet taken that it fits: by service id alone when only one has it, else
 /// narrowed by transport stream and then by original network id; failing that, by the name as it is
 /// cached. The stations that no entry took follow in their old order, numbered on from the last
-/// matched one. Every station stands there once, however often it did before. The outcome is neither sorted nor freed of equal numbers. Writes what it did to the
-/// log.
+/// matched one. Every station stands there once, however often it did before. The outcome is
+/// neither sorted nor freed of equal numbers. Writes what it did to the log.
 ReferenceOrderResult applyReferenceOrder(StationList &stations, const ReferenceList &entries);
 
 } // namespace quillet

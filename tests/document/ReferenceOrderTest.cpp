@@ -179,7 +179,8 @@ private slots:
         const StationPtr b = makeStation(2, QStringLiteral("B"), QStringLiteral("1-1-2"));
         const StationPtr c = makeStation(3, QStringLiteral("C"), QStringLiteral("1-1-3"));
         StationList stations{b, a, c, b, c};
-        const ReferenceEntry forB{QStringLiteral("7"), {}, QStringLiteral("1-1-2")};
+        const ReferenceEntry forB{QStringLiteral("7"), QStringLiteral("x"),
+                                  QStringLiteral("1-1-2")};
         const ReferenceOrderResult result = applyReferenceOrder(stations, {forB, forB});
         QCOMPARE(stations, (StationList{b, a, c}));
         QCOMPARE(described(stations),

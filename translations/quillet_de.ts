@@ -588,6 +588,30 @@
         <source></source>
         <translation>Was folgt, wurde nicht gelesen.</translation>
     </message>
+    <message id="kNotKeptAccessList">
+        <source></source>
+        <translation>die Rechte einzelner Benutzer und Gruppen</translation>
+    </message>
+    <message id="kNotKeptAttributes">
+        <source></source>
+        <translation>seine erweiterten Attribute</translation>
+    </message>
+    <message id="kNotKeptGroup">
+        <source></source>
+        <translation>seine Gruppe</translation>
+    </message>
+    <message id="kNotKeptHardLinks">
+        <source></source>
+        <translation>seine anderen Namen, die noch für die alte Liste stehen</translation>
+    </message>
+    <message id="kNotKeptOwner">
+        <source></source>
+        <translation>seinen Besitzer</translation>
+    </message>
+    <message id="kNotKeptPermissions">
+        <source></source>
+        <translation>einige seiner Zugriffsrechte</translation>
+    </message>
     <message id="kOK">
         <source></source>
         <translation>OK</translation>
@@ -853,6 +877,10 @@ Diese folgen ab Nummer: %3</translation>
     <message id="kTipSelectFirst">
         <source></source>
         <translation>Wählen Sie zuerst Sender in der Liste aus</translation>
+    </message>
+    <message id="kToldNotKept">
+        <source></source>
+        <translation>„%1“ wurde gespeichert, aber die Datei verlor: %2.</translation>
     </message>
     <message id="kToldRepaired">
         <source></source>

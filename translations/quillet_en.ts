@@ -588,6 +588,30 @@
         <source></source>
         <translation>What follows was not read.</translation>
     </message>
+    <message id="kNotKeptAccessList">
+        <source></source>
+        <translation>the rights of single users and groups</translation>
+    </message>
+    <message id="kNotKeptAttributes">
+        <source></source>
+        <translation>its extended attributes</translation>
+    </message>
+    <message id="kNotKeptGroup">
+        <source></source>
+        <translation>its group</translation>
+    </message>
+    <message id="kNotKeptHardLinks">
+        <source></source>
+        <translation>its other names, which still stand for the old list</translation>
+    </message>
+    <message id="kNotKeptOwner">
+        <source></source>
+        <translation>its owner</translation>
+    </message>
+    <message id="kNotKeptPermissions">
+        <source></source>
+        <translation>some of its permissions</translation>
+    </message>
     <message id="kOK">
         <source></source>
         <translation>OK</translation>
@@ -853,6 +877,10 @@ These go on from number: %3</translation>
     <message id="kTipSelectFirst">
         <source></source>
         <translation>Select stations in the list first</translation>
+    </message>
+    <message id="kToldNotKept">
+        <source></source>
+        <translation>“%1” was saved, but the file lost: %2.</translation>
     </message>
     <message id="kToldRepaired">
         <source></source>

@@ -588,6 +588,30 @@
         <source></source>
         <translation>Lo que sigue no se ha leído.</translation>
     </message>
+    <message id="kNotKeptAccessList">
+        <source></source>
+        <translation>los permisos de usuarios y grupos concretos</translation>
+    </message>
+    <message id="kNotKeptAttributes">
+        <source></source>
+        <translation>sus atributos extendidos</translation>
+    </message>
+    <message id="kNotKeptGroup">
+        <source></source>
+        <translation>su grupo</translation>
+    </message>
+    <message id="kNotKeptHardLinks">
+        <source></source>
+        <translation>sus otros nombres, que siguen apuntando a la lista anterior</translation>
+    </message>
+    <message id="kNotKeptOwner">
+        <source></source>
+        <translation>su propietario</translation>
+    </message>
+    <message id="kNotKeptPermissions">
+        <source></source>
+        <translation>algunos de sus permisos</translation>
+    </message>
     <message id="kOK">
         <source></source>
         <translation>Aceptar</translation>
@@ -853,6 +877,10 @@ Estos continúan a partir del número: %3</translation>
     <message id="kTipSelectFirst">
         <source></source>
         <translation>Seleccione primero canales en la lista</translation>
+    </message>
+    <message id="kToldNotKept">
+        <source></source>
+        <translation>«%1» se guardó, pero el archivo perdió: %2.</translation>
     </message>
     <message id="kToldRepaired">
         <source></source>

@@ -588,6 +588,30 @@
         <source></source>
         <translation>La suite n’a pas été lue.</translation>
     </message>
+    <message id="kNotKeptAccessList">
+        <source></source>
+        <translation>les droits de certains utilisateurs et groupes</translation>
+    </message>
+    <message id="kNotKeptAttributes">
+        <source></source>
+        <translation>ses attributs étendus</translation>
+    </message>
+    <message id="kNotKeptGroup">
+        <source></source>
+        <translation>son groupe</translation>
+    </message>
+    <message id="kNotKeptHardLinks">
+        <source></source>
+        <translation>ses autres noms, qui désignent encore l’ancienne liste</translation>
+    </message>
+    <message id="kNotKeptOwner">
+        <source></source>
+        <translation>son propriétaire</translation>
+    </message>
+    <message id="kNotKeptPermissions">
+        <source></source>
+        <translation>certaines de ses permissions</translation>
+    </message>
     <message id="kOK">
         <source></source>
         <translation>OK</translation>
@@ -853,6 +877,10 @@ Ces dernières suivent à partir du numéro : %3</translation>
     <message id="kTipSelectFirst">
         <source></source>
         <translation>Sélectionnez d’abord des chaînes dans la liste</translation>
+    </message>
+    <message id="kToldNotKept">
+        <source></source>
+        <translation>« %1 » a été enregistré, mais le fichier a perdu : %2.</translation>
     </message>
     <message id="kToldRepaired">
         <source></source>

@@ -588,6 +588,30 @@
         <source></source>
         <translation>Il seguito non è stato letto.</translation>
     </message>
+    <message id="kNotKeptAccessList">
+        <source></source>
+        <translation>i permessi di singoli utenti e gruppi</translation>
+    </message>
+    <message id="kNotKeptAttributes">
+        <source></source>
+        <translation>i suoi attributi estesi</translation>
+    </message>
+    <message id="kNotKeptGroup">
+        <source></source>
+        <translation>il gruppo</translation>
+    </message>
+    <message id="kNotKeptHardLinks">
+        <source></source>
+        <translation>gli altri suoi nomi, che indicano ancora il vecchio elenco</translation>
+    </message>
+    <message id="kNotKeptOwner">
+        <source></source>
+        <translation>il proprietario</translation>
+    </message>
+    <message id="kNotKeptPermissions">
+        <source></source>
+        <translation>alcuni dei suoi permessi</translation>
+    </message>
     <message id="kOK">
         <source></source>
         <translation>OK</translation>
@@ -853,6 +877,10 @@ Questi proseguono dal numero: %3</translation>
     <message id="kTipSelectFirst">
         <source></source>
         <translation>Seleziona prima dei canali nella lista</translation>
+    </message>
+    <message id="kToldNotKept">
+        <source></source>
+        <translation>“%1” è stato salvato, ma il file ha perso: %2.</translation>
     </message>
     <message id="kToldRepaired">
         <source></source>

@@ -588,6 +588,30 @@
         <source></source>
         <translation>Wat volgt is niet gelezen.</translation>
     </message>
+    <message id="kNotKeptAccessList">
+        <source></source>
+        <translation>de rechten van afzonderlijke gebruikers en groepen</translation>
+    </message>
+    <message id="kNotKeptAttributes">
+        <source></source>
+        <translation>zijn uitgebreide kenmerken</translation>
+    </message>
+    <message id="kNotKeptGroup">
+        <source></source>
+        <translation>zijn groep</translation>
+    </message>
+    <message id="kNotKeptHardLinks">
+        <source></source>
+        <translation>zijn andere namen, die nog voor de oude lijst staan</translation>
+    </message>
+    <message id="kNotKeptOwner">
+        <source></source>
+        <translation>zijn eigenaar</translation>
+    </message>
+    <message id="kNotKeptPermissions">
+        <source></source>
+        <translation>enkele van zijn toegangsrechten</translation>
+    </message>
     <message id="kOK">
         <source></source>
         <translation>OK</translation>
@@ -853,6 +877,10 @@ Deze gaan verder vanaf nummer: %3</translation>
     <message id="kTipSelectFirst">
         <source></source>
         <translation>Selecteer eerst zenders in de lijst</translation>
+    </message>
+    <message id="kToldNotKept">
+        <source></source>
+        <translation>“%1” is opgeslagen, maar het bestand verloor: %2.</translation>
     </message>
     <message id="kToldRepaired">
         <source></source>

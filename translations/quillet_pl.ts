@@ -595,6 +595,30 @@
         <source></source>
         <translation>Dalszej części nie odczytano.</translation>
     </message>
+    <message id="kNotKeptAccessList">
+        <source></source>
+        <translation>uprawnienia poszczególnych użytkowników i grup</translation>
+    </message>
+    <message id="kNotKeptAttributes">
+        <source></source>
+        <translation>atrybuty rozszerzone</translation>
+    </message>
+    <message id="kNotKeptGroup">
+        <source></source>
+        <translation>grupę</translation>
+    </message>
+    <message id="kNotKeptHardLinks">
+        <source></source>
+        <translation>inne nazwy, pod którymi nadal jest stara lista</translation>
+    </message>
+    <message id="kNotKeptOwner">
+        <source></source>
+        <translation>właściciela</translation>
+    </message>
+    <message id="kNotKeptPermissions">
+        <source></source>
+        <translation>część uprawnień</translation>
+    </message>
     <message id="kOK">
         <source></source>
         <translation>OK</translation>
@@ -868,6 +892,10 @@ Te następują od numeru: %3</translation>
     <message id="kTipSelectFirst">
         <source></source>
         <translation>Najpierw wybierz kanały na liście</translation>
+    </message>
+    <message id="kToldNotKept">
+        <source></source>
+        <translation>Zapisano „%1”, ale plik utracił: %2.</translation>
     </message>
     <message id="kToldRepaired">
         <source></source>

@@ -581,6 +581,30 @@
         <source></source>
         <translation>Devamı okunmadı.</translation>
     </message>
+    <message id="kNotKeptAccessList">
+        <source></source>
+        <translation>tek tek kullanıcıların ve grupların hakları</translation>
+    </message>
+    <message id="kNotKeptAttributes">
+        <source></source>
+        <translation>genişletilmiş öznitelikleri</translation>
+    </message>
+    <message id="kNotKeptGroup">
+        <source></source>
+        <translation>grubu</translation>
+    </message>
+    <message id="kNotKeptHardLinks">
+        <source></source>
+        <translation>eski listeyi göstermeye devam eden öteki adları</translation>
+    </message>
+    <message id="kNotKeptOwner">
+        <source></source>
+        <translation>sahibi</translation>
+    </message>
+    <message id="kNotKeptPermissions">
+        <source></source>
+        <translation>bazı izinleri</translation>
+    </message>
     <message id="kOK">
         <source></source>
         <translation>Tamam</translation>
@@ -838,6 +862,10 @@ Bunların devam ettiği numara: %3</translation>
     <message id="kTipSelectFirst">
         <source></source>
         <translation>Önce listeden kanal seçin</translation>
+    </message>
+    <message id="kToldNotKept">
+        <source></source>
+        <translation>“%1” kaydedildi, ama dosya şunları yitirdi: %2.</translation>
     </message>
     <message id="kToldRepaired">
         <source></source>

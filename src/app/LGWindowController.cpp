@@ -59,7 +59,10 @@ bool LGWindowController::populateFromTLLDoc(TLLDocument &document, const Error &
 void LGWindowController::tell(const QString &text)
 {
     constexpr int longEnoughToRead = 10000;
-    m_told->setText(text);
+    if (!m_toldTimer.isActive())
+        m_told->setText(text);
+    else if (!m_told->text().contains(text))
+        m_told->setText(m_told->text() + u' ' + text);
     window()->statusBar()->show();
     m_toldTimer.start(longEnoughToRead);
 }

@@ -193,17 +193,15 @@ bool TLLDocument::isValidFieldContent(const std::optional<QString> &content)
 
 void TLLDocument::setDirtyFlag(bool dirty)
 {
-    m_dirty = dirty;
-    if (dirty)
-        updateChangeCount(Change::Done);
+    updateChangeCount(dirty ? Change::Done : Change::Cleared);
 }
 
 bool TLLDocument::validateUserInterfaceItem(const QString &action) const
 {
     if (action == QLatin1String("saveDocument"))
-        return m_dirty;
+        return isDirty();
     if (action == QLatin1String("revertDocumentToSaved"))
-        return m_dirty && suggestedUrl().isEmpty();
+        return isDirty() && suggestedUrl().isEmpty();
     if (action == QLatin1String("exportAsReferenceList"))
         return hasData();
     return false;
@@ -269,7 +267,6 @@ void TLLDocument::documentWasSaved()
 {
     m_savesRepaired = m_savesRepaired || m_repair;
     m_repair.reset();
-    setDirtyFlag(false);
     Document::documentWasSaved();
     if (m_wasUnasked)
         emit told(qtTrId("kToldRepaired"));

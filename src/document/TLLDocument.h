@@ -105,10 +105,9 @@ public:
 
     // Changes
 
-    /// Notes whether there are changes; true also counts one in the document framework.
+    /// Notes whether there are changes.
     void setDirtyFlag(bool dirty);
-    [[nodiscard]] bool isDirty() const { return m_dirty; }
-    [[nodiscard]] bool hasUnautosavedChanges() const override { return m_dirty; }
+    [[nodiscard]] bool isDirty() const { return isDocumentEdited(); }
     [[nodiscard]] bool validateUserInterfaceItem(const QString &action) const override;
 
     // Windows
@@ -139,7 +138,6 @@ private:
     StationListPtr m_stations;
     int m_curSource = 0;
     bool m_usesTV = true;
-    bool m_dirty = false;
     bool m_docUsesCRLF = false;
     bool m_isInvisbleDocument = false;
 };

@@ -1,5 +1,6 @@
 #include "files/FilePlace.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -61,15 +62,25 @@ bool samePlace(const QString &a, const QString &b)
     return placeOf(a).compare(placeOf(b), nameCase) == 0;
 }
 
-std::optional<quint64> deviceOf(const QString &path)
+std::optional<Volume> volumeOf(const QString &path)
 {
 #ifdef Q_OS_WIN
     Q_UNUSED(path)
-#else
-    if (const auto status = statusOf(QFileInfo(placeOf(path)).path()))
-        return quint64{status->st_dev};
-#endif
     return {};
+#else
+    QDir folder(QFileInfo(placeOf(path)).path());
+    const auto status = statusOf(folder.path());
+    if (!status)
+        return {};
+    QString mountPoint = folder.path();
+    while (folder.cdUp()) {
+        const auto above = statusOf(folder.path());
+        if (!above || above->st_dev != status->st_dev)
+            break;
+        mountPoint = folder.path();
+    }
+    return Volume{status->st_dev, mountPoint};
+#endif
 }
 
 bool canBeReplaced(const QString &path)

@@ -14,9 +14,15 @@ namespace quillet {
 /// links and the case of names included), by where they would be of those that are not. An empty
 /// path leads nowhere.
 [[nodiscard]] bool samePlace(const QString &a, const QString &b);
-/// A number of the device that the file's folder lies on, which is another one as soon as the
-/// device is gone; none when there is no such folder or the system does not tell.
-[[nodiscard]] std::optional<quint64> deviceOf(const QString &path);
+/// Where the folder of a file lies.
+struct Volume
+{
+    quint64 device = 0; ///< its number; a medium that is put back may get another one
+    QString mountPoint; ///< the topmost folder on it
+    [[nodiscard]] bool operator==(const Volume &) const = default;
+};
+/// None when there is no such folder or the system does not tell.
+[[nodiscard]] std::optional<Volume> volumeOf(const QString &path);
 /// Whether the system lets us replace the file, so far as it tells before.
 [[nodiscard]] bool canBeReplaced(const QString &path);
 

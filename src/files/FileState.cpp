@@ -1,6 +1,5 @@
 #include "files/FileState.h"
 
-#include "files/FilePlace.h"
 #include "files/FileReading.h"
 
 #include <QFileInfo>
@@ -11,7 +10,7 @@ FileState FileState::none(const QString &path)
 {
     FileState state;
     state.m_path = path;
-    state.m_device = deviceOf(path);
+    state.m_volume = volumeOf(path);
     return state;
 }
 
@@ -33,9 +32,14 @@ FileState FileState::at(const QString &path)
     return state;
 }
 
+/// A medium that was taken out and put back is mounted at the same place, perhaps under another
+/// number; what lies beneath an empty mount point belongs to a medium mounted further up.
 FileState::Change FileState::changeSince(const FileState &earlier) const
 {
-    if (m_device != earlier.m_device || (earlier.m_exists && !m_exists))
+    const auto mountPoint = [](const std::optional<Volume> &volume) {
+        return volume ? volume->mountPoint : QString();
+    };
+    if (mountPoint(m_volume) != mountPoint(earlier.m_volume) || (earlier.m_exists && !m_exists))
         return Change::Gone;
     const bool isSame = m_exists == earlier.m_exists && m_bytes == earlier.m_bytes;
     return isSame ? Change::None : Change::Content;

@@ -64,14 +64,15 @@ void SaveJob::lookAtTheDisk(const QByteArray &bytes)
 void SaveJob::replace(const QByteArray &bytes)
 {
     Error error;
-    if (!FileReplacement(m_operations).replace(m_path, bytes, error))
+    FileReplacement replacement(m_operations);
+    if (!replacement.replace(m_path, bytes, error))
         return finish(Outcome::Failed, error);
-    m_client->finished({Outcome::Written, {}, FileState::of(m_path, bytes)});
+    m_client->finished({Outcome::Written, {}, FileState::of(m_path, bytes), replacement.notKept()});
 }
 
 void SaveJob::finish(Outcome outcome, const Error &error)
 {
-    m_client->finished({outcome, error, {}});
+    m_client->finished({outcome, error, {}, {}});
 }
 
 } // namespace quillet

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "files/Error.h"
+#include "files/FileRights.h"
 #include "files/FileState.h"
 
 #include <QByteArray>
@@ -9,6 +10,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace quillet {
 
@@ -34,6 +36,7 @@ public:
         Outcome outcome = Outcome::GivenUp;
         Error error;                        ///< of one that was refused or has failed
         std::optional<FileState> written{}; ///< what is there now
+        std::vector<NotKept> notKept{};     ///< what the file there before had besides its content
     };
 
     /// Whoever wants the file written, in the order in which it is asked.

@@ -9,6 +9,8 @@
 #include <QMainWindow>
 #include <QPointer>
 
+#include <utility>
+
 namespace quillet {
 
 namespace {
@@ -117,9 +119,8 @@ bool Document::validateUserInterfaceItem(const QString & /*action*/) const
 
 void Document::updateChangeCount(Change change)
 {
-    const bool wasEdited = isDocumentEdited();
-    m_changeCount = change == Change::Done ? m_changeCount + 1 : 0;
-    if (wasEdited != isDocumentEdited())
+    const bool isEdited = change == Change::Done;
+    if (std::exchange(m_isEdited, isEdited) != isEdited)
         emit documentEditedChanged();
 }
 

@@ -85,9 +85,9 @@ public:
 
     void updateChangeCount(Change change);
     /// Drives the window's modified mark: changes since opening or the last save.
-    [[nodiscard]] bool isDocumentEdited() const { return m_changeCount > 0; }
+    [[nodiscard]] bool isDocumentEdited() const { return m_isEdited; }
     /// Whether closing must ask first.
-    [[nodiscard]] virtual bool hasUnautosavedChanges() const { return isDocumentEdited(); }
+    [[nodiscard]] bool hasUnautosavedChanges() const { return isDocumentEdited(); }
 
     /// Writes the document to its file, or asks for a place when it is untitled and one was
     /// suggested. Whatever stands in the way is asked about or shown in a sheet and leaves the old
@@ -149,7 +149,7 @@ private:
     QString m_fileType;
     Prompts *m_prompts = nullptr;
     FileOperations *m_fileOperations;
-    int m_changeCount = 0;
+    bool m_isEdited = false;
     bool m_isAsking = false;
     Lookup m_lookup;
     std::optional<FileState> m_known; ///< of the file last read or written

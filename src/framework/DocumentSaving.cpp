@@ -7,7 +7,40 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
+#include <algorithm>
+#include <array>
+
 namespace quillet {
+
+namespace {
+
+struct NotKeptText
+{
+    NotKept what;
+    const char *id;
+};
+
+constexpr std::array notKeptTexts{
+    NotKeptText{NotKept::Owner, "kNotKeptOwner"},
+    NotKeptText{NotKept::Group, "kNotKeptGroup"},
+    NotKeptText{NotKept::AccessList, "kNotKeptAccessList"},
+    NotKeptText{NotKept::Permissions, "kNotKeptPermissions"},
+    NotKeptText{NotKept::Attributes, "kNotKeptAttributes"},
+    NotKeptText{NotKept::HardLinks, "kNotKeptHardLinks"},
+};
+
+/// Says what the file has lost besides its old content.
+QString notKeptText(const QString &fileName, const std::vector<NotKept> &notKept)
+{
+    QStringList losses;
+    for (const auto &[what, id] : notKeptTexts) {
+        if (std::find(notKept.begin(), notKept.end(), what) != notKept.end())
+            losses.append(qtTrId(id));
+    }
+    return qtTrId("kToldNotKept").arg(fileName, losses.join(QLatin1String("; ")));
+}
+
+} // namespace
 
 DocumentSaving::DocumentSaving(Document &document, SavePurpose purpose, const QString &typeName,
                                Done done)
@@ -82,6 +115,8 @@ void DocumentSaving::finished(const SaveJob::Result &result)
     case SaveJob::Outcome::Written:
         if (m_purpose == SavePurpose::Save)
             m_document.wasWritten(*result.written);
+        if (!result.notKept.empty())
+            emit m_document.told(notKeptText(targetName(), result.notKept));
         return m_done(true, {});
     case SaveJob::Outcome::GivenUp:
         return goOn(m_next, {});

@@ -47,6 +47,14 @@ std::optional<Array> comments(const Dictionary &node)
     return comments->array() ? *comments->array() : Array{*comments};
 }
 
+std::optional<QString> textOfElement(const Value &element)
+{
+    if (const QString *text = element.string())
+        return *text;
+    const Dictionary *node = element.dictionary();
+    return node ? innerText(*node) : std::nullopt;
+}
+
 std::optional<QString> innerText(const Dictionary &node)
 {
     const Value *text = node.find(nodekey::text);

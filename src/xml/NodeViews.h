@@ -21,6 +21,9 @@ inline constexpr QChar attributePrefix = u'_';
 [[nodiscard]] std::optional<Array> comments(const Dictionary &node);
 /// The element's own text; several runs are joined with line feeds.
 [[nodiscard]] std::optional<QString> innerText(const Dictionary &node);
+/// The text of an element in its parent, which is a string or, with more than text, a node; none
+/// for anything else and without a text.
+[[nodiscard]] std::optional<QString> textOfElement(const Value &element);
 /// The attributes by their names.
 [[nodiscard]] std::optional<Dictionary> attributes(const Dictionary &node);
 /// What is neither an attribute nor one of the reserved keys.

@@ -179,8 +179,8 @@ private slots:
         QCOMPARE(edited.count(), 1);
         QCOMPARE(enabled(), (QStringList{u"revertDocumentToSaved"_s, u"saveDocument"_s}));
         document.setDirtyFlag(false);
-        QVERIFY(!document.isDirty() && !document.hasUnautosavedChanges());
-        QVERIFY(document.isDocumentEdited()); // clearing tells the framework nothing
+        QVERIFY(!document.isDirty() && !document.hasUnautosavedChanges() &&
+                !document.isDocumentEdited());
 
         document.clearVars();
         QVERIFY(!document.stations() && document.list().layout.headerLenDTV() == 0);

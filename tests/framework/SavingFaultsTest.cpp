@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -19,6 +20,7 @@
 #include "files/OrdinaryUser.h"
 
 #include <sys/stat.h>
+#include <unistd.h>
 #endif
 #ifdef Q_OS_LINUX
 #include <sys/mount.h>
@@ -36,12 +38,17 @@ class SmallDisk
 public:
     /// A file "list.tll" may lie beneath it, which shows when it is taken out.
     explicit SmallDisk(const char *options, const QByteArray &beneath = {})
-        : m_path(prepare(beneath)),
-          m_isMounted(::mount("tmpfs", m_path.constData(), "tmpfs", 0, options) == 0),
-          m_errorNumber(errno)
+        : m_path(prepare(beneath)), m_options(options)
     {
+        putIn();
     }
     ~SmallDisk() { takeOut(); }
+    /// An empty one, where the last one was.
+    void putIn()
+    {
+        m_isMounted = ::mount("tmpfs", m_path.constData(), "tmpfs", 0, m_options) == 0;
+        m_errorNumber = errno;
+    }
     void takeOut()
     {
         if (std::exchange(m_isMounted, false))
@@ -66,8 +73,9 @@ private:
 
     QTemporaryDir m_folder;
     QByteArray m_path;
-    bool m_isMounted;
-    int m_errorNumber;
+    const char *m_options;
+    bool m_isMounted = false;
+    int m_errorNumber = 0;
 };
 
 /// Makes a file that leaves so many bytes of its disk free.
@@ -153,6 +161,44 @@ private slots:
         QVERIFY(m_prompts->isSettled());
     }
 #endif
+
+#ifdef Q_OS_LINUX
+    void diskThatWasPutBackIsTheSame()
+    {
+        SmallDisk disk("size=64k");
+        if (!disk.isMounted())
+            QSKIP(disk.reason());
+        const QString path = disk.filePath("list.tll");
+        writeFile(path, "old");
+        open(path, "new");
+        disk.takeOut();
+        disk.putIn();
+        writeFile(path, "old");
+        QVERIFY(save());
+        QCOMPARE(contentOf(path), QByteArray("new"));
+        disk.takeOut();
+        disk.putIn();
+        m_prompts->answerAlert(QStringLiteral("kCancel"));
+        QVERIFY(!save()); // another medium, without the list
+        QVERIFY(m_prompts->isSettled());
+    }
+#endif
+
+    void whatIsNotKeptIsTold()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("list.tll"));
+        const QString other = folder.filePath(QStringLiteral("other.tll"));
+        writeFile(path, "old");
+        QCOMPARE(::link(QFile::encodeName(path).constData(), QFile::encodeName(other).constData()),
+                 0);
+        open(path, "new");
+        const QSignalSpy told(&*m_document, &Document::told);
+        QVERIFY(save());
+        QCOMPARE(told.size(), 1);
+        QCOMPARE(told.front().front().toString(), QStringLiteral("kToldNotKept"));
+        QCOMPARE(contentOf(other), QByteArray("old"));
+    }
 
     void readOnlyFolderRefusesItsFiles_data()
     {

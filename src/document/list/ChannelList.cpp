@@ -8,15 +8,9 @@ namespace quillet {
 
 namespace {
 
-/// The text of an element, which the parser made a dictionary or, without attributes, a string.
 QString elementText(const Value *element)
 {
-    if (!element)
-        return {};
-    if (const QString *text = element->string())
-        return *text;
-    const Dictionary *node = element->dictionary();
-    return node ? innerText(*node).value_or(QString()) : QString();
+    return element ? textOfElement(*element).value_or(QString()) : QString();
 }
 
 } // namespace

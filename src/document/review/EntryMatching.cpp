@@ -15,12 +15,9 @@ namespace {
 /// for one that broke off before any text.
 std::optional<QString> textOf(const Value &value)
 {
-    if (const QString *text = value.string())
-        return *text;
     const Dictionary *node = value.dictionary();
-    if (!node || hasAttributes(*node) || hasChildNodes(*node))
-        return {};
-    return innerText(*node);
+    const bool isPlain = !node || (!hasAttributes(*node) && !hasChildNodes(*node));
+    return isPlain ? textOfElement(value) : std::nullopt;
 }
 
 /// The entry as it is after being written and read, without the fields of those names.

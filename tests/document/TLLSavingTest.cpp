@@ -4,6 +4,7 @@
 #include "testing/TLLText.h"
 #include "testing/TestMain.h"
 
+#include <QRandomGenerator>
 #include <QStringConverter>
 #include <QTest>
 
@@ -120,6 +121,37 @@ private slots:
         Item edited = makeStation(11, u"C2"_s);
         edited.push_back({u"isSkipped"_s, u"1"_s});
         QCOMPARE(QString::fromUtf8(written(document)), makeTLL({}, {edited, c1, r1, s1, r2, t1}));
+    }
+
+    /// Files that are no channel lists: nothing in them stops the program.
+    void noStations_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QByteArray random(1 << 16, '\0'), wide;
+        QRandomGenerator generator(20240305);
+        for (char &byte : random)
+            byte = static_cast<char>(generator.generate());
+        for (const char byte : plainFile().toLatin1())
+            wide.append(byte).append('\0');
+        for (const char first : {'\x00', '<', '\xEF', '\xFE', '\xFF'})
+            QTest::addRow("random, first %02x", static_cast<uchar>(first)) << first + random;
+        QTest::newRow("empty") << QByteArray();
+        QTest::newRow("nulls") << QByteArray(4096, '\0');
+        QTest::newRow("only a mark") << "\xEF\xBB\xBF"_ba;
+        QTest::newRow("UTF-16 without a mark") << wide;
+        QTest::newRow("big-endian UTF-16") << QByteArray("\xFE\xFF\0", 3) + wide.chopped(1);
+    }
+    void noStations()
+    {
+        QFETCH(const QByteArray, bytes);
+        TLLDocument document;
+        Error error;
+        QCOMPARE(document.readFromData(bytes, TLLDocument::typeName(), error), !bytes.isEmpty());
+        QVERIFY(error.isEmpty());
+        QCOMPARE(document.list().parseError.has_value(), !bytes.isEmpty());
+        QVERIFY(bytes.isEmpty() || listText(document).isEmpty());
+        QCOMPARE(document.modelName(), std::nullopt);
+        QCOMPARE(written(document), QByteArray());
     }
 
     void encodings_data()

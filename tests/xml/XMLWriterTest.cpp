@@ -63,19 +63,8 @@ private slots:
         QCOMPARE(XMLString({}), u"<root/>"_s);
     }
 
-    void comesBackEqual_data()
-    {
-        QTest::addColumn<bool>("wraps");
-        QTest::addColumn<int>("attributes");
-        using Mode = XMLDictionaryParser::AttributesMode;
-        QTest::newRow("usual") << false << static_cast<int>(Mode::AttributesPrefixed);
-        QTest::newRow("wrapped root") << true << static_cast<int>(Mode::AttributesPrefixed);
-        QTest::newRow("in dictionaries") << false << static_cast<int>(Mode::AttributesInDictionary);
-    }
     void comesBackEqual()
     {
-        QFETCH(const bool, wraps);
-        QFETCH(const int, attributes);
         const QByteArray xml =
             "<TLLDATA version='2'><ModelInfo><ModelName type=\"0\">42XX</ModelName></ModelInfo>"
             "<!-- a comment --><CHANNEL><DTV><ITEM><prNum>1</prNum><vchName>R&amp;B \xC3\x84 "
@@ -83,10 +72,7 @@ private slots:
             "</ITEM></DTV><ATV><ITEM k=' &amp;&quot;&lt; '><prNum>3</prNum></ITEM></ATV></CHANNEL>"
             "</TLLDATA>";
         XMLDictionaryParser parser;
-        parser.settings.wrapRootNode = wraps;
         parser.settings.preserveComments = true;
-        parser.settings.attributesMode =
-            static_cast<XMLDictionaryParser::AttributesMode>(attributes);
         const std::optional<Dictionary> tree = parser.dictionaryWithData(xml);
         QVERIFY(tree && !parser.firstError());
         const std::optional<Dictionary> again = parser.dictionaryWithString(XMLString(*tree));

@@ -187,15 +187,6 @@ private slots:
         QVERIFY(!document.list().layout.footer() && listText(document).isEmpty());
     }
 
-    void fieldContent()
-    {
-        for (const QString &valid : {u"a"_s, u"  "_s, u"\t"_s})
-            QVERIFY(TLLDocument::isValidFieldContent(valid));
-        for (const QString &invalid : {u""_s, u" "_s})
-            QVERIFY(!TLLDocument::isValidFieldContent(invalid));
-        QVERIFY(!TLLDocument::isValidFieldContent(std::nullopt));
-    }
-
     void tellsItsWindow()
     {
         int populated = 0;

@@ -123,6 +123,29 @@ private slots:
         QCOMPARE(QString::fromUtf8(written(document)), makeTLL({}, {edited, c1, r1, s1, r2, t1}));
     }
 
+    /// Where the tag of the stations is not found, as much text is kept as of the file before.
+    void rereadingKeepsTheEarlierLayout()
+    {
+        const QString first = makeTLL({}, {makeStation(1, u"A"_s)}, {.header = u"<a><CHANNEL>"_s});
+        const QString second = makeTLL({}, {makeStation(1, u"B"_s), makeStation(2, u"C"_s)})
+                                   .replace(u"<DTV>"_s, u"<DTV n='1'>"_s);
+        const QString items = makeItem(makeStation(1, u"B"_s)) + makeItem(makeStation(2, u"C"_s));
+        TLLDocument document;
+        QVERIFY(read(document, first) && read(document, second));
+        QCOMPARE(QString::fromUtf8(written(document)), second.first(first.indexOf(u"<ITEM>")) +
+                                                           items +
+                                                           first.sliced(first.indexOf(u"</DTV>")));
+        const QByteArray json = "{\"channelList\":[" + makeChannel("A", "1") + "]}";
+        const QByteArray whole = "<a><CHANNEL><legacybroadcast>" + json + "</legacybroadcast>";
+        const QByteArray again =
+            "<a b='1'><CHANNEL><legacybroadcast n='1'>" + json + "</legacybroadcast>";
+        TLLDocument legacy;
+        QVERIFY(read(legacy, whole + "</CHANNEL></a>") && read(legacy, again + "</CHANNEL></a>\n"));
+        legacy.switchToSource(0);
+        QCOMPARE(written(legacy),
+                 again.first(whole.indexOf('{')) + json + "</legacybroadcast></CHANNEL></a>");
+    }
+
     /// Files that are no channel lists: nothing in them stops the program.
     void noStations_data()
     {

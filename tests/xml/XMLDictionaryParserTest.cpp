@@ -242,6 +242,7 @@ private slots:
         QCOMPARE(*parsed, expected);
         parsed->remove(u"n17");
         expected.remove(u"n17");
+        QVERIFY(!parsed->find(u"n17") && parsed->find(u"n18"));
         QCOMPARE(*parsed, expected);
     }
 

@@ -1,7 +1,6 @@
 #include "ListText.h"
 
 #include "document/order/ReferenceOrder.h"
-#include "model/LGLegacyStation.h"
 #include "testing/PresetPrompts.h"
 #include "testing/TLLText.h"
 #include "testing/TestMain.h"
@@ -100,21 +99,6 @@ private slots:
         Dictionary unnumbered = whole;
         unnumbered.remove(u"prNum");
         QCOMPARE(made(unnumbered), u"9999; ;01-2-2-x"_s);
-
-        // Identifiers that are numbers give none.
-        const auto legacy = [](const Value &service) {
-            return std::make_shared<LGLegacyStation>(
-                Dictionary{{u"channelName"_s, u"A"_s},
-                           {u"majorNumber"_s, Value(qint64(7))},
-                           {u"ONID"_s, u"1"_s},
-                           {u"TSID"_s, u"2"_s},
-                           {u"SVCID"_s, service}},
-                0);
-        };
-        const ReferenceList list =
-            referenceListFromStations({legacy(u"3"_s), legacy(Value(qint64(3)))});
-        QCOMPARE(list.size(), std::size_t(1));
-        QCOMPARE(list[0].num + list[0].serviceID, u"71-2-3"_s);
     }
 
     void reports_data()

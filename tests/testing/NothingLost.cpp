@@ -54,6 +54,13 @@ bool hasStationsOf(const ChannelList &list, const std::optional<ChannelList> &ag
                            : after == before;
 }
 
+/// Whether it says that stations are lost, doubled or changed, or may be with the text around them.
+bool tellsLoss(const Rehearsal &rehearsal)
+{
+    return rehearsal.isRefused || rehearsal.missing.count > 0 || rehearsal.doubled.count > 0 ||
+           rehearsal.changed.count > 0 || rehearsal.losesSurroundings || rehearsal.losesTail;
+}
+
 const char *faultOfSurroundings(const ChannelList &list, const QByteArray &plain)
 {
     const FileLayout &layout = list.layout;
@@ -124,26 +131,24 @@ const char *faultOfSaving(const ChannelList &list, bool isTV, int source, int *l
         return "writing changes nothing";
     if (const char *fault = faultOfSurroundings(list, plain))
         return fault;
-    const Rehearsal ofPlain = rehearse(list, plain);
-    const bool isTold = ofPlain.isRefused || ofPlain.missing.count > 0 ||
-                        ofPlain.doubled.count > 0 || ofPlain.changed.count > 0 ||
-                        ofPlain.losesSurroundings || ofPlain.losesTail;
-    const std::optional<ChannelList> again = channelListFromBytes(plain);
-    const bool isLossy = !hasStationsOf(list, again);
-    if (isLossy && !isTold)
+    const bool isLossy = !hasStationsOf(list, channelListFromBytes(plain));
+    if (isLossy && !tellsLoss(rehearse(list, plain)))
         return "a loss is told";
     if (losses)
         *losses += isLossy;
 
     const QByteArray repaired = repairedTLL(list);
     const Rehearsal ofRepaired = rehearse(list, repaired);
-    if (ofRepaired.isRefused || ofRepaired.missing.count > 0 || ofRepaired.doubled.count > 0 ||
-        !hasStationsOf(list, channelListFromBytes(repaired)))
-        return "a repaired writing keeps every station";
+    const bool keepsStations = hasStationsOf(list, channelListFromBytes(repaired));
+    if (!keepsStations && !tellsLoss(ofRepaired))
+        return "a loss of the repaired writing is told";
+    if (!keepsStations || ofRepaired.isRefused || ofRepaired.missing.count > 0 ||
+        ofRepaired.doubled.count > 0)
+        return "the repaired writing keeps every station";
     if (ofRepaired.losesTail || ofRepaired.losesSurroundings || ofRepaired.losesExtras)
-        return "a repaired writing keeps what is around the stations";
+        return "the repaired writing keeps what is around the stations";
     if (ofRepaired.changed.count > 0 && !list.parseError)
-        return "a repaired writing changes no station";
+        return "the repaired writing changes no station";
     return nullptr;
 }
 

@@ -1,7 +1,6 @@
 #include "TreeText.h"
 
 #include "testing/TestMain.h"
-#include "xml/XMLDictionaryParser.h"
 #include "xml/XMLWriter.h"
 
 using namespace quillet;
@@ -61,23 +60,6 @@ private slots:
         QCOMPARE(XMLString({name, child}), u"<top><a>1</a></top>"_s);
         QCOMPARE(XMLString({child, {u"b"_s, u"2"_s}}), u"<root><a>1</a>\n<b>2</b></root>"_s);
         QCOMPARE(XMLString({}), u"<root/>"_s);
-    }
-
-    void comesBackEqual()
-    {
-        const QByteArray xml =
-            "<TLLDATA version='2'><ModelInfo><ModelName type=\"0\">42XX</ModelName></ModelInfo>"
-            "<!-- a comment --><CHANNEL><DTV><ITEM><prNum>1</prNum><vchName>R&amp;B \xC3\x84 "
-            "&lt;1&gt; 'x' &quot;y&quot;</vchName></ITEM><ITEM><prNum>2</prNum><x a=''/><x>t</x>"
-            "</ITEM></DTV><ATV><ITEM k=' &amp;&quot;&lt; '><prNum>3</prNum></ITEM></ATV></CHANNEL>"
-            "</TLLDATA>";
-        XMLDictionaryParser parser;
-        parser.settings.preserveComments = true;
-        const std::optional<Dictionary> tree = parser.dictionaryWithData(xml);
-        QVERIFY(tree && !parser.firstError());
-        const std::optional<Dictionary> again = parser.dictionaryWithString(XMLString(*tree));
-        QVERIFY(again && !parser.firstError());
-        QCOMPARE(*again, *tree);
     }
 };
 

@@ -171,40 +171,37 @@ private slots:
         QCOMPARE(saved(again), bytes);
     }
 
-    void frames()
+    void frames_data()
     {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QString>("list");
+        QTest::addColumn<QByteArray>("end"); // of what is saved
+        const auto row = [](const char *name, const QByteArray &text, const QString &list,
+                            const QByteArray &end) { QTest::newRow(name) << text << list << end; };
         const QByteArray list = json({makeChannel("A", "1"), makeChannel("B", "2")});
         const QString both = u"TV0 1 A, TV0 2 B"_s;
-
-        TLLDocument block; // written back as plain text
-        QVERIFY(read(block, head + "<![CDATA[" + json({makeChannel("R&B<", "1")}) + "]]>" + tail));
-        QCOMPARE(shown(block), u"TV0 1 R&B<"_s);
-        QCOMPARE(saved(block), head + json({makeChannel("R&amp;B\\u003c", "1")}) + tail);
-
-        TLLDocument cut; // text that no tag ends is not read
-        QVERIFY(read(cut, head + list));
-        QCOMPARE(shown(cut), QString());
-
-        TLLDocument endless; // the closing tag is not found, so nothing follows the list
-        QVERIFY(read(endless, head + list + QByteArray(tail).replace("cast>", "cast >")));
-        QCOMPARE(shown(endless), both);
-        QCOMPARE(saved(endless), head + list);
-
-        TLLDocument commented; // the first tag in the text counts
-        const QByteArray comment = "<!-- <legacybroadcast> -->";
-        QVERIFY(read(commented,
-                     QByteArray(head).replace("<CHANNEL>", comment + "<CHANNEL>") + list + tail));
-        QCOMPARE(shown(commented), both);
-        QVERIFY(saved(commented).endsWith("<!-- <legacybroadcast>" + list + tail));
-
-        TLLDocument attribute; // the tag itself is not found
-        QVERIFY(read(attribute, QByteArray(head).replace("cast>", "cast x=\"1\">") + list + tail));
-        QCOMPARE(shown(attribute), both);
-        QVERIFY(saved(attribute).endsWith(list));
-
-        TLLDocument twice;
-        QVERIFY(read(twice, head + list + "</legacybroadcast><legacybroadcast>" + list + tail));
-        QVERIFY(saved(twice).startsWith(head));
+        row("block, written as plain text",
+            head + "<![CDATA[" + json({makeChannel("R&B<", "1")}) + "]]>" + tail, u"TV0 1 R&B<"_s,
+            head + json({makeChannel("R&amp;B\\u003c", "1")}) + tail);
+        row("no closing tag, not read", head + list, QString(), head);
+        row("closing tag not found", head + list + QByteArray(tail).replace("cast>", "cast >"),
+            both, head + list); // so nothing follows the list
+        row("tag in a comment",
+            QByteArray(head).replace("<C", "<!-- <legacybroadcast> --><C") + list + tail, both,
+            "\n<!-- <legacybroadcast>" + list + tail);
+        row("tag not found", QByteArray(head).replace("cast>", "cast x=\"1\">") + list + tail, both,
+            list);
+        row("twice", head + list + "</legacybroadcast><legacybroadcast>" + list + tail, QString(),
+            tail);
+    }
+    void frames()
+    {
+        QFETCH(const QByteArray, text);
+        QFETCH(const QByteArray, end);
+        TLLDocument document;
+        QVERIFY(read(document, text));
+        QTEST(shown(document), "list");
+        QVERIFY2(saved(document).endsWith(end), saved(document).constData());
     }
 };
 

@@ -1,12 +1,10 @@
 #include "ListText.h"
 
-#include "document/TLLWindowController.h"
 #include "support/KXFileLog.h"
 #include "testing/TLLText.h"
 #include "testing/TestFiles.h"
 #include "testing/TestMain.h"
 
-#include <QMainWindow>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -15,22 +13,6 @@ using namespace quillet::testing;
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-class CountingWindowController : public TLLWindowController
-{
-public:
-    explicit CountingWindowController(int &populated)
-        : TLLWindowController(std::make_unique<QMainWindow>(), u"counting"_s),
-          m_populated(populated)
-    {
-    }
-    void refill() override {}
-    bool validateUserInterfaceItem(const QString &) const override { return false; }
-    bool populateFromTLLDoc(TLLDocument &, const Error &) override { return ++m_populated > 0; }
-
-private:
-    int &m_populated;
-};
 
 QString inChannel(const QString &content)
 {
@@ -185,24 +167,6 @@ private slots:
         document.clearVars();
         QVERIFY(!document.stations() && document.list().layout.headerLenDTV() == 0);
         QVERIFY(!document.list().layout.footer() && listText(document).isEmpty());
-    }
-
-    void tellsItsWindow()
-    {
-        int populated = 0;
-        TLLDocument document, invisible;
-        for (TLLDocument *each : {&document, &invisible})
-            each->setWindowFactory(
-                [&] { return std::make_unique<CountingWindowController>(populated); });
-        invisible.setIsInvisbleDocument(true);
-        invisible.makeWindowControllers();
-        QVERIFY(invisible.windowControllers().empty());
-        document.makeWindowControllers();
-        QCOMPARE(populated, 1);
-        QVERIFY(read(document, makeTLL({}, {makeStation(1, u"A"_s)})));
-        QCOMPARE(populated, 2);
-        QVERIFY(!read(document, inChannel(u"<DTV>x</DTV>"_s)));
-        QCOMPARE(populated, 2);
     }
 
     void logsItsCounts()

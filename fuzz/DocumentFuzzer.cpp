@@ -40,8 +40,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
 
     const int shown = longestSource(list.lists);
     requireNone(faultOfSaving(list, true, shown));
-    if (list.isLegacyFormat && list.parseError)
-        return 0; // edits of it are lost with the JSON text behind the damage, which is told
     for (const FiledStation &filed : list.lists.roll()) {
         filed.station->setSkipped(true);
         filed.station->setStationName(QStringLiteral("R&B <1>"));

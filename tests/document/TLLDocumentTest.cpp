@@ -1,10 +1,12 @@
 #include "ListText.h"
 
+#include "document/TLLWindowController.h"
 #include "support/KXFileLog.h"
 #include "testing/TLLText.h"
 #include "testing/TestFiles.h"
 #include "testing/TestMain.h"
 
+#include <QMainWindow>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -13,6 +15,19 @@ using namespace quillet::testing;
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
+
+class CountingWindowController : public TLLWindowController
+{
+public:
+    CountingWindowController() : TLLWindowController(std::make_unique<QMainWindow>(), u"counting"_s)
+    {
+    }
+    void refill() override {}
+    bool validateUserInterfaceItem(const QString &) const override { return false; }
+    bool populateFromTLLDoc(TLLDocument &, const Error &) override { return ++populated > 0; }
+
+    static inline int populated = 0;
+};
 
 QString inChannel(const QString &content)
 {
@@ -167,6 +182,20 @@ private slots:
         document.clearVars();
         QVERIFY(!document.stations() && document.list().layout.headerLenDTV() == 0);
         QVERIFY(!document.list().layout.footer() && listText(document).isEmpty());
+    }
+
+    void tellsItsWindow()
+    {
+        TLLDocument document, invisible;
+        for (TLLDocument *each : {&document, &invisible})
+            each->setWindowFactory([] { return std::make_unique<CountingWindowController>(); });
+        invisible.setIsInvisbleDocument(true);
+        invisible.makeWindowControllers();
+        QVERIFY(invisible.windowControllers().empty());
+        document.makeWindowControllers();
+        QVERIFY(read(document, makeTLL({}, {makeStation(1, u"A"_s)})));
+        QVERIFY(!read(document, inChannel(u"<DTV>x</DTV>"_s)));
+        QCOMPARE(CountingWindowController::populated, 2);
     }
 
     void logsItsCounts()

@@ -28,4 +28,9 @@ void require(bool holds, const char *what)
     std::abort();
 }
 
+void requireNone(const char *fault)
+{
+    require(!fault, fault);
+}
+
 } // namespace quillet::fuzzing

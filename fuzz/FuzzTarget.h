@@ -17,5 +17,7 @@ namespace quillet::fuzzing {
 
 /// Says what does not hold and ends the process.
 void require(bool holds, const char *what);
+/// The same for what was found not to hold; null is nothing.
+void requireNone(const char *fault);
 
 } // namespace quillet::fuzzing

@@ -1,15 +1,16 @@
-// JSON is decoded, encoded and decoded again; then its channels are read as a station list.
+// JSON is decoded, encoded and decoded again; then it is a list's, read and saved.
 
 #include "FuzzTarget.h"
 
 #include "document/list/ChannelList.h"
-#include "document/read/ChannelFiling.h"
-#include "document/repair/RepairedBroadcast.h"
-#include "document/write/BroadcastWriting.h"
+#include "document/read/ListReading.h"
+#include "testing/NothingLost.h"
 #include "xml/JSON.h"
+#include "xml/XMLWriter.h"
 
 using namespace quillet;
 using namespace quillet::fuzzing;
+using namespace quillet::testing;
 
 namespace {
 
@@ -30,34 +31,16 @@ void checkJSON(const QByteArray &text)
     require(toJSON(*again) == json, "the values come back in their order");
 }
 
-[[nodiscard]] qsizetype channelsIn(const QByteArray &json)
+void checkList(const QByteArray &text)
 {
+    const QString json = XMLEncodedString(QString::fromUtf8(text));
     ChannelList list;
-    extractLegacyStations(list.broadcast, json, list.lists);
-    return list.broadcast.channelList().count();
-}
-
-void checkBroadcast(const QByteArray &text)
-{
-    ChannelList list;
-    const LegacyBroadcast &broadcast = list.broadcast;
-    const qsizetype count = extractLegacyStations(list.broadcast, text, list.lists);
-    const std::vector<FiledStation> &roll = list.lists.roll();
-    require(broadcast.legacyDict || roll.empty(), "stations come from an object");
-    require(count == static_cast<qsizetype>(list.lists.list(true, 0)->size()),
-            "the count is right");
-    if (!broadcast.legacyDict)
+    if (readInto(list, "<a><CHANNEL><legacybroadcast>" + json.toUtf8() +
+                           "</legacybroadcast></CHANNEL></a>") != Reading::Done)
         return;
-    const qsizetype channels = broadcast.channelList().count();
-    require(static_cast<qsizetype>(roll.size()) <= channels, "a station has a channel");
-    require(channelsIn(broadcastJSON(broadcast, {})) == channels,
-            "channels that are not shown are kept");
-    for (int source = 0; source < stationSourceCount; ++source) {
-        const QByteArray json = broadcastJSON(broadcast, *list.lists.list(true, source));
-        require(!json.isEmpty() && !json.contains('<'), "the JSON can stand in XML");
-        require(channelsIn(json) == channels, "no list changes the number of channels");
-    }
-    require(channelsIn(repairedJSON(list)) == channels, "every channel is written once");
+    requireNone(faultOfReading(list));
+    for (int source = 0; source < stationSourceCount; ++source)
+        requireNone(faultOfSaving(list, true, source));
 }
 
 } // namespace
@@ -66,6 +49,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
 {
     const QByteArray text = bytesOf(data, size);
     checkJSON(text);
-    checkBroadcast(text);
+    checkList(text);
     return 0;
 }

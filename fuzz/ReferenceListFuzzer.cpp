@@ -6,35 +6,24 @@
 #include "document/order/ReferenceOrder.h"
 
 #include <algorithm>
-#include <array>
 
 using namespace quillet;
 using namespace quillet::fuzzing;
 
 namespace {
 
-struct Fields
-{
-    const char *network, *transport, *service, *name;
-};
-
 StationList makeStations()
 {
-    constexpr std::array stations{
-        Fields{"1", "10", "100", "Alder"}, Fields{"1", "10", "101", "Birch"},
-        Fields{"1", "11", "101", "Cedar"}, Fields{"2", "11", "101", "Elder"},
-        Fields{"2", "11", "101", "Elder"}, Fields{"", "", "", "Hazel"},
-    };
+    const auto text = [](QLatin1String value) { return Value(QString(value)); };
     StationList list;
-    for (const Fields &fields : stations) {
-        const auto value = [](const char *text) { return Value(QString::fromLatin1(text)); };
+    for (const char *service : {"100", "101", "101", "101", ""}) {
         const auto position = static_cast<qint64>(list.size());
+        const QLatin1String transport(position < 2 ? "10" : "11");
         list.push_back(std::make_shared<LGStation>(
-            Dictionary{{QStringLiteral("prNum"), Value(QString::number(position + 1))},
-                       {QStringLiteral("original_network_id"), value(fields.network)},
-                       {QStringLiteral("transport_id"), value(fields.transport)},
-                       {QStringLiteral("service_id"), value(fields.service)},
-                       {QStringLiteral("vchName"), value(fields.name)}},
+            Dictionary{{QStringLiteral("original_network_id"), text(QLatin1String("1"))},
+                       {QStringLiteral("transport_id"), text(transport)},
+                       {QStringLiteral("service_id"), text(QLatin1String(service))},
+                       {QStringLiteral("vchName"), text(QLatin1String("Alder"))}},
             position));
         (void)list.back()->stationName(); // names are compared as they are cached
     }

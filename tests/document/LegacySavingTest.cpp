@@ -1,5 +1,6 @@
 #include "ListText.h"
 
+#include "testing/TLLText.h"
 #include "testing/TestMain.h"
 
 #include <QTest>
@@ -12,15 +13,6 @@ namespace {
 
 const QByteArray head("<?xml version=\"1.0\"?>\r\n<TLLDATA>\r\n<CHANNEL>\r\n<legacybroadcast>");
 const QByteArray tail("</legacybroadcast>\r\n</CHANNEL>\r\n</TLLDATA>\r\n<!-- end -->");
-
-/// A channel by cable; television when its service type is 1. `more` adds members.
-QByteArray channel(const QByteArray &name, const QByteArray &number, int type = 1,
-                   const QByteArray &more = {})
-{
-    return "{\"channelName\":\"" + name + "\",\"majorNumber\":" + number +
-           ",\"sourceIndex\":\"CABLE DIGITAL\",\"serviceType\":" + QByteArray::number(type) + more +
-           "}";
-}
 
 QByteArray json(const QByteArrayList &channels)
 {
@@ -58,6 +50,10 @@ private slots:
         row("7", u"TV0 5 B, TV0 7 A, TV0 8 C"_s);
         row("0", u"TV0 5 B, TV0 6 A, TV0 7 C"_s);
         row("null", u"TV0 5 B, TV0 6 A, TV0 7 C"_s);
+        row("\"7\"", u"TV0 5 B, TV0 7 A, TV0 8 C"_s);
+        // One that is no whole number of 64 bits sorts by its value and shows none.
+        row("1e30", u"TV0 5 B, TV0 6 C, TV0 9999 A"_s);
+        row("true", u"TV0 9999 A, TV0 5 B, TV0 6 C"_s);
         row("-3", u"TV0 -3 A, TV0 5 B, TV0 6 C"_s);
         row("16383", u"TV0 5 B, TV0 16383 A, TV0 16384 C"_s);
         row("16384", u"TV0 5 B, TV0 6 C, TV0 16384 A"_s); // does not raise the start
@@ -66,34 +62,42 @@ private slots:
     {
         QFETCH(const QByteArray, given);
         TLLDocument document;
-        QVERIFY(
-            read(document,
-                 head + json({channel("A", given), channel("B", "5"), channel("C", "0")}) + tail));
+        QVERIFY(read(
+            document,
+            head + json({makeChannel("A", given), makeChannel("B", "5"), makeChannel("C", "0")}) +
+                tail));
         QTEST(shown(document), "list");
     }
 
-    void filesBySourceName()
+    void oddLists_data()
     {
-        QByteArrayList channels;
-        for (const char *source : {"\"CABLE DIGITAL\"", "\"SATELLITE DIGITAL\"", "\"CABLE ANALOG\"",
-                                   "\"Cable Digital\"", "7"}) {
-            const QByteArray number = QByteArray::number(channels.size() + 1);
-            channels += "{\"majorNumber\":" + number + ",\"sourceIndex\":" + source +
-                        ",\"serviceType\":25}";
-        }
-        channels += channel("Radio", "6", 2);
-        channels += channel("Unknown", "7", 99);
+        QTest::addColumn<QByteArray>("json");
+        for (const char *json :
+             {"\"\"", "[]", "5", "{\"channelList\":[{]}", "{}", "{\"channelList\":null}",
+              "{\"channelList\":{}}", "{\"channelList\":[1,null,\"x\"]}"})
+            QTest::newRow(json) << QByteArray(json);
+        QTest::newRow("lone surrogate") << json({makeChannel("\\ud800", "1")});
+        QTest::newRow("radio and unknown types")
+            << json({makeChannel("R", "1", {.serviceType = 2}),
+                     makeChannel("?", "2", {.serviceType = 99})});
+        QTest::newRow("too deep") << QByteArray(600, '[') + QByteArray(600, ']');
+    }
+    void oddLists()
+    {
+        QFETCH(const QByteArray, json);
         TLLDocument document;
-        QVERIFY(read(document, head + json(channels) + tail));
-        QCOMPARE(shown(document), u"TV0 1 ??, TV1 2 ??, TV2 3 ??, TV3 4 ??, TV3 5 ??"_s);
+        QVERIFY(read(document, head + json + tail));
+        QCOMPARE(shown(document), QString());
+        QVERIFY(saved(document).startsWith(head) && saved(document).endsWith(tail));
     }
 
     void channelsOutOfOrder()
     {
         // By number: A 0, radio R 1, C 2, D 3, E 4. Of the file's places 0, 2, 3 and 4 have a
         // station of that position and take A, C, D, E; place 1 keeps what the file has there.
-        const QByteArray r = channel("R", "2", 2), a = channel("A", "1"), c = channel("C", "3"),
-                         d = channel("D", "4"), e = channel("E", "5");
+        const QByteArray r = makeChannel("R", "2", {.serviceType = 2}), a = makeChannel("A", "1"),
+                         c = makeChannel("C", "3"), d = makeChannel("D", "4"),
+                         e = makeChannel("E", "5");
         TLLDocument document;
         QVERIFY(read(document, head + json({e, a, r, d, c}) + tail));
         QCOMPARE(saved(document), head + json({a, a, c, d, e}) + tail);
@@ -103,16 +107,18 @@ private slots:
         stations[0]->setSkipped(true);
         stations[3]->setBlocked(true);
         std::swap(stations[0], stations[3]);
-        const QByteArray skipped = channel("A", "1", 1, ",\"skipped\":true");
-        const QByteArray locked = channel("E", "5", 1, ",\"optrBlocked\":true");
+        const QByteArray skipped = makeChannel("A", "1", {.more = ",\"skipped\":true"});
+        const QByteArray locked = makeChannel("E", "5", {.more = ",\"optrBlocked\":true"});
         QCOMPARE(saved(document), head + json({locked, a, c, d, skipped}) + tail);
     }
 
     void channelsInOrder()
     {
         // Each station at its own place, the radio channel and the other source at theirs.
-        const QByteArray a = channel("A", "1"), r = channel("R", "2", 2), b = channel("B", "3"),
-                         s = channel("S", "4").replace("CABLE", "SATELLITE"), c = channel("C", "9");
+        const QByteArray a = makeChannel("A", "1"), r = makeChannel("R", "2", {.serviceType = 2}),
+                         b = makeChannel("B", "3"),
+                         s = makeChannel("S", "4", {.source = "SATELLITE DIGITAL"}),
+                         c = makeChannel("C", "9");
         TLLDocument document;
         QVERIFY(read(document, head + " " + json({a, r, b, s, c}).replace(",", " , ") + tail));
         QCOMPARE(saved(document), head + json({a, r, b, s, c}) + tail);
@@ -122,11 +128,11 @@ private slots:
         for (std::size_t i = 0; i < stations.size(); ++i)
             stations[i]->setProgramNum(qint64(i) + 1);
         const QByteArray mark = ",\"userEditChNumber\":1,\"userSelCHNo\":1";
-        QCOMPARE(saved(document),
-                 head +
-                     json({channel("C", "1", 1, mark), r, channel("A", "2", 1, mark), s,
-                           channel("B", "3", 1, mark)}) +
-                     tail);
+        QCOMPARE(saved(document), head +
+                                      json({makeChannel("C", "1", {.more = mark}), r,
+                                            makeChannel("A", "2", {.more = mark}), s,
+                                            makeChannel("B", "3", {.more = mark})}) +
+                                      tail);
         // In the other source's list nothing has changed, and only it is written.
         document.switchToSource(1);
         QCOMPARE(written(document), head + json({a, r, b, s, c}) + tail);
@@ -135,8 +141,9 @@ private slots:
     void unnumberedAreSavedWithTheirNumber()
     {
         TLLDocument document;
-        QVERIFY(read(document, head + json({channel("B", "5"), channel("A", "0")}) + tail));
-        QCOMPARE(saved(document), head + json({channel("B", "5"), channel("A", "6")}) + tail);
+        QVERIFY(read(document, head + json({makeChannel("B", "5"), makeChannel("A", "0")}) + tail));
+        QCOMPARE(saved(document),
+                 head + json({makeChannel("B", "5"), makeChannel("A", "6")}) + tail);
     }
 
     void textsComeBack_data()
@@ -154,7 +161,7 @@ private slots:
         QFETCH(const QByteArray, text);
         TLLDocument document, again;
         const QByteArray member = ",\"x" + text + "\":[\"" + text + "\"]";
-        QVERIFY(read(document, head + json({channel(text, "1", 1, member)}) + tail));
+        QVERIFY(read(document, head + json({makeChannel(text, "1", {.more = member})}) + tail));
         QCOMPARE(document.lists().list(true, 0)->size(), std::size_t(1));
         const QByteArray bytes = saved(document);
         QVERIFY(bytes.startsWith(head) && bytes.endsWith(tail));
@@ -164,47 +171,37 @@ private slots:
         QCOMPARE(saved(again), bytes);
     }
 
-    void ampersandsAreEscaped()
+    void frames_data()
     {
-        TLLDocument document;
-        QVERIFY(read(document, head + json({channel("R&amp;B &#60;", "1")}) + tail));
-        QCOMPARE(saved(document), head + json({channel("R&amp;B \\u003c", "1")}) + tail);
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QString>("list");
+        QTest::addColumn<QByteArray>("end"); // of what is saved
+        const auto row = [](const char *name, const QByteArray &text, const QString &list,
+                            const QByteArray &end) { QTest::newRow(name) << text << list << end; };
+        const QByteArray list = json({makeChannel("A", "1"), makeChannel("B", "2")});
+        const QString both = u"TV0 1 A, TV0 2 B"_s;
+        row("block, written as plain text",
+            head + "<![CDATA[" + json({makeChannel("R&B<", "1")}) + "]]>" + tail, u"TV0 1 R&B<"_s,
+            head + json({makeChannel("R&amp;B\\u003c", "1")}) + tail);
+        row("no closing tag, not read", head + list, QString(), head);
+        row("closing tag not found", head + list + QByteArray(tail).replace("cast>", "cast >"),
+            both, head + list); // so nothing follows the list
+        row("tag in a comment",
+            QByteArray(head).replace("<C", "<!-- <legacybroadcast> --><C") + list + tail, both,
+            "\n<!-- <legacybroadcast>" + list + tail);
+        row("tag not found", QByteArray(head).replace("cast>", "cast x=\"1\">") + list + tail, both,
+            list);
+        row("twice", head + list + "</legacybroadcast><legacybroadcast>" + list + tail, QString(),
+            tail);
     }
-
     void frames()
     {
-        const QByteArray list = json({channel("A", "1"), channel("B", "2")});
-        const QString both = u"TV0 1 A, TV0 2 B"_s;
-
-        TLLDocument block; // written back as plain text
-        QVERIFY(read(block, head + "<![CDATA[" + json({channel("R&B<", "1")}) + "]]>" + tail));
-        QCOMPARE(shown(block), u"TV0 1 R&B<"_s);
-        QCOMPARE(saved(block), head + json({channel("R&amp;B\\u003c", "1")}) + tail);
-
-        TLLDocument cut; // text that no tag ends is not read
-        QVERIFY(read(cut, head + list));
-        QCOMPARE(shown(cut), QString());
-
-        TLLDocument endless; // the closing tag is not found, so nothing follows the list
-        QVERIFY(read(endless, head + list + QByteArray(tail).replace("cast>", "cast >")));
-        QCOMPARE(shown(endless), both);
-        QCOMPARE(saved(endless), head + list);
-
-        TLLDocument commented; // the first tag in the text counts
-        const QByteArray comment = "<!-- <legacybroadcast> -->";
-        QVERIFY(read(commented,
-                     QByteArray(head).replace("<CHANNEL>", comment + "<CHANNEL>") + list + tail));
-        QCOMPARE(shown(commented), both);
-        QVERIFY(saved(commented).endsWith("<!-- <legacybroadcast>" + list + tail));
-
-        TLLDocument attribute; // the tag itself is not found
-        QVERIFY(read(attribute, QByteArray(head).replace("cast>", "cast x=\"1\">") + list + tail));
-        QCOMPARE(shown(attribute), both);
-        QVERIFY(saved(attribute).endsWith(list));
-
-        TLLDocument twice;
-        QVERIFY(read(twice, head + list + "</legacybroadcast><legacybroadcast>" + list + tail));
-        QVERIFY(saved(twice).startsWith(head));
+        QFETCH(const QByteArray, text);
+        QFETCH(const QByteArray, end);
+        TLLDocument document;
+        QVERIFY(read(document, text));
+        QTEST(shown(document), "list");
+        QVERIFY2(saved(document).endsWith(end), saved(document).constData());
     }
 };
 

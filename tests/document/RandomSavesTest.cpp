@@ -1,10 +1,9 @@
-#include "ListText.h"
-
+#include "document/list/ChannelList.h"
 #include "document/order/ReferenceOrder.h"
-#include "document/repair/RepairedWriter.h"
-#include "document/review/Rehearsal.h"
+#include "document/read/ListReading.h"
+#include "testing/NothingLost.h"
+#include "testing/TLLText.h"
 #include "testing/TestMain.h"
-#include "xml/NodeViews.h"
 
 #include <QRandomGenerator>
 #include <QTest>
@@ -51,8 +50,9 @@ public:
                        u"</CHANNEL><more/>\n</TLLDATA>\n"_s;
         if (oneIn(8))
             text.truncate(below(int(text.size())));
-        if (oneIn(8))
-            text.insert(below(int(text.size()) + 1), oneIn(2) ? u'&' : QChar(1));
+        constexpr std::array marks{"&", "<", ">", "/", "\"", "]", "!", "?", "-", "\x01", "a"};
+        for (int damage = oneIn(6) ? below(3) : -1; damage >= 0; --damage)
+            text.insert(below(int(text.size()) + 1), pick(marks));
         return text;
     }
 
@@ -67,32 +67,33 @@ public:
                channels.join(u',') + u"],\"w\":null}</legacybroadcast></CHANNEL>\n</TLLDATA>"_s;
     }
 
-    void edit(TLLDocument &document)
+    void edit(ChannelList &list)
     {
-        StationList &list = *document.lists().list(!oneIn(4), below(4));
-        if (list.empty())
+        StationList &stations = *list.lists.list(!oneIn(4), below(4));
+        if (stations.empty())
             return;
         const auto place = [&] {
-            return static_cast<std::size_t>(below(static_cast<int>(list.size())));
+            return static_cast<std::size_t>(below(static_cast<int>(stations.size())));
         };
         const std::size_t row = place(), other = place();
         switch (below(7)) {
         case 0:
-            return list[row]->setStationName(name());
+            return stations[row]->setStationName(name());
         case 1:
-            return list[row]->setSkipped(oneIn(2));
+            return stations[row]->setSkipped(oneIn(2));
         case 2:
-            return list[row]->setBlocked(oneIn(2));
+            return stations[row]->setBlocked(oneIn(2));
         case 3:
-            return list[row]->setProgramNum(oneIn(5) ? below(40000) : below(10) + 1);
+            return stations[row]->setProgramNum(oneIn(5) ? below(40000) : below(10) + 1);
         case 4:
-            return std::swap(list[row], list[other]);
+            return std::swap(stations[row], stations[other]);
         case 5:
-            list[row] = list[other]; // as when one is moved over another of its number
+            stations[row] = stations[other]; // as when one is moved over another of its number
             return;
         case 6:
-            static_cast<void>(applyReferenceOrder(list, {{QString::number(below(9)), name(),
-                                                          u"x-x-"_s + QString::number(below(9))}}));
+            static_cast<void>(applyReferenceOrder(
+                stations,
+                {{QString::number(below(9)), name(), u"x-x-"_s + QString::number(below(9))}}));
             return;
         }
     }
@@ -127,42 +128,16 @@ private:
     {
         constexpr std::array sources{"CABLE DIGITAL", "SATELLITE DIGITAL", "?"};
         const int number = below(9) + (oneIn(4) ? 16384 : 0);
-        return u"{\"channelName\":\"c%1\",\"majorNumber\":%2,\"serviceType\":%3,\"sourceIndex\":"
-               "\"%4\",\"SVCID\":\"%1\"}"_s.arg(QString::number(m_nextService),
-                                                QString::number(number), oneIn(4) ? u"2"_s : u"1"_s,
-                                                pick(sources));
+        const QByteArray id = QByteArray::number(m_nextService);
+        return QString::fromLatin1(makeChannel("c" + id, QByteArray::number(number),
+                                               {.source = pick(sources).toLatin1(),
+                                                .serviceType = oneIn(4) ? 2 : 1,
+                                                .more = ",\"SVCID\":\"" + id + '"'}));
     }
 
     QRandomGenerator m_random;
     int m_nextService = 1;
 };
-
-/// The service ids of all stations that were read, or of all channels, each as often as it is
-/// there.
-QStringList services(const TLLDocument &document)
-{
-    QStringList ids;
-    if (document.isLegacyFormat()) {
-        for (const Value &channel : document.list().broadcast.channelList())
-            ids.append(*channel.dictionary()->string(u"SVCID"));
-    } else {
-        for (const FiledStation &filed : document.lists().roll()) {
-            const Value *id = filed.station->entry().find(u"service_id");
-            const Dictionary *brokenOff = id ? id->dictionary() : nullptr;
-            ids.append(brokenOff ? innerText(*brokenOff).value_or(QString())
-                                 : filed.station->service_id().value_or(QString()));
-        }
-    }
-    ids.sort();
-    return ids;
-}
-
-/// The same of a file; none when it cannot be opened.
-std::optional<QStringList> servicesIn(const QByteArray &bytes)
-{
-    TLLDocument document;
-    return read(document, bytes) ? std::optional(services(document)) : std::nullopt;
-}
 
 } // namespace
 
@@ -181,45 +156,27 @@ private slots:
     void nothingIsLostUnasked()
     {
         QFETCH(const bool, isJSON);
-        int opened = 0, losses = 0;
-        for (quint32 seed = 0; seed < 800; ++seed) {
+        int opened = 0, losses = 0, damaged = 0;
+        for (quint32 seed = 0; seed < (isJSON ? 300 : 800); ++seed) {
             Chance chance(seed);
-            const QString text = isJSON ? chance.jsonFile() : chance.xmlFile();
-            TLLDocument document;
-            if (!read(document, text) || document.isLegacyFormat() != isJSON)
+            const QByteArray text = (isJSON ? chance.jsonFile() : chance.xmlFile()).toUtf8();
+            std::optional<ChannelList> list = channelListFromBytes(text);
+            if (!list || list->isLegacyFormat != isJSON)
                 continue;
             ++opened;
-            const QStringList before = services(document);
-            for (int round = 0; round < 3; ++round) {
-                const QByteArray context =
-                    u"seed %1, round %2:\n%3"_s.arg(seed).arg(round).arg(text).toUtf8();
-                const QByteArray plain = written(document);
-                const Rehearsal rehearsal = rehearse(document.list(), plain);
-                const std::optional<QStringList> after = servicesIn(plain);
-                const bool isLost = after != before;
-                losses += isLost;
-                const bool isSaid = rehearsal.isRefused || rehearsal.missing.count > 0 ||
-                                    rehearsal.doubled.count > 0 || rehearsal.changed.count > 0 ||
-                                    rehearsal.losesSurroundings || rehearsal.losesTail;
-                QVERIFY2(isSaid || !isLost, context.constData());
-
-                const QByteArray repaired = repairedTLL(document.list());
-                const Rehearsal ofRepaired = rehearse(document.list(), repaired);
-                QVERIFY2(servicesIn(repaired) == before, context.constData());
-                QVERIFY2(!ofRepaired.isRefused && ofRepaired.missing.count == 0 &&
-                             ofRepaired.doubled.count == 0 && !ofRepaired.losesTail &&
-                             !ofRepaired.losesSurroundings && !ofRepaired.losesExtras,
-                         context.constData());
-                QVERIFY2(ofRepaired.changed.count == 0 || document.list().parseError,
-                         context.constData());
+            damaged += list->parseError.has_value();
+            const char *fault = faultOfReading(*list);
+            for (int round = 0; round < 3 && !fault; ++round) {
+                fault = faultOfSaving(*list, true, chance.below(4), &losses);
                 for (int i = chance.below(6); i > 0; --i)
-                    chance.edit(document);
-                document.switchToSource(chance.below(4));
+                    chance.edit(*list);
             }
+            QVERIFY2(!fault, (QByteArray::number(seed) + ": " + fault + '\n' + text).constData());
         }
         // Both the common and the uncommon must have been met.
-        QVERIFY2(opened > 400 && losses > 100 && losses < 3 * opened,
-                 qPrintable(u"%1 opened, %2 losses"_s.arg(opened).arg(losses)));
+        QVERIFY2(
+            opened > 200 && losses > 100 && losses < 3 * opened && (isJSON || damaged > 100),
+            qPrintable(u"%1 opened, %2 losses, %3 damaged"_s.arg(opened).arg(losses).arg(damaged)));
     }
 };
 

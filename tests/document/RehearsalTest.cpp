@@ -75,12 +75,11 @@ QString digital(const QString &stations)
     return file(u"<DTV>\r\n"_s + stations + u"</DTV>\r\n"_s);
 }
 
-/// A channel of the JSON variant.
 QString channel(const QString &name, int number, const char *source = "CABLE DIGITAL", int type = 1)
 {
-    return QStringLiteral("{\"channelName\":\"%1\",\"majorNumber\":%2,\"sourceIndex\":\"%3\","
-                          "\"serviceType\":%4,\"skipped\":false,\"SVCID\":\"%1\"}")
-        .arg(name, QString::number(number), QLatin1String(source), QString::number(type));
+    const QByteArray more = ",\"skipped\":false,\"SVCID\":\"" + name.toUtf8() + '"';
+    return QString::fromUtf8(makeChannel(name.toUtf8(), QByteArray::number(number),
+                                         {.source = source, .serviceType = type, .more = more}));
 }
 
 QString legacy(const QStringList &channels, const QString &tag = u"legacybroadcast"_s)

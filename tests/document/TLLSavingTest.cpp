@@ -4,6 +4,7 @@
 #include "testing/TLLText.h"
 #include "testing/TestMain.h"
 
+#include <QRandomGenerator>
 #include <QStringConverter>
 #include <QTest>
 
@@ -120,6 +121,60 @@ private slots:
         Item edited = makeStation(11, u"C2"_s);
         edited.push_back({u"isSkipped"_s, u"1"_s});
         QCOMPARE(QString::fromUtf8(written(document)), makeTLL({}, {edited, c1, r1, s1, r2, t1}));
+    }
+
+    /// Where the tag of the stations is not found, as much text is kept as of the file before.
+    void rereadingKeepsTheEarlierLayout()
+    {
+        const QString first = makeTLL({}, {makeStation(1, u"A"_s)}, {.header = u"<a><CHANNEL>"_s});
+        const QString second = makeTLL({}, {makeStation(1, u"B"_s), makeStation(2, u"C"_s)})
+                                   .replace(u"<DTV>"_s, u"<DTV n='1'>"_s);
+        const QString items = makeItem(makeStation(1, u"B"_s)) + makeItem(makeStation(2, u"C"_s));
+        TLLDocument document;
+        QVERIFY(read(document, first) && read(document, second));
+        QCOMPARE(QString::fromUtf8(written(document)), second.first(first.indexOf(u"<ITEM>")) +
+                                                           items +
+                                                           first.sliced(first.indexOf(u"</DTV>")));
+        const QByteArray json = "{\"channelList\":[" + makeChannel("A", "1") + "]}";
+        const QByteArray whole = "<a><CHANNEL><legacybroadcast>" + json + "</legacybroadcast>";
+        const QByteArray again =
+            "<a b='1'><CHANNEL><legacybroadcast n='1'>" + json + "</legacybroadcast>";
+        TLLDocument legacy;
+        QVERIFY(read(legacy, whole + "</CHANNEL></a>") && read(legacy, again + "</CHANNEL></a>\n"));
+        legacy.switchToSource(0);
+        QCOMPARE(written(legacy),
+                 again.first(whole.indexOf('{')) + json + "</legacybroadcast></CHANNEL></a>");
+    }
+
+    /// Files that are no channel lists: nothing in them stops the program.
+    void noStations_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QByteArray random(1 << 16, '\0'), wide;
+        QRandomGenerator generator(20240305);
+        for (char &byte : random)
+            byte = static_cast<char>(generator.generate());
+        for (const char byte : plainFile().toLatin1())
+            wide.append(byte).append('\0');
+        for (const char first : {'\x00', '<', '\xEF', '\xFE', '\xFF'})
+            QTest::addRow("random, first %02x", static_cast<uchar>(first)) << first + random;
+        QTest::newRow("empty") << QByteArray();
+        QTest::newRow("nulls") << QByteArray(4096, '\0');
+        QTest::newRow("only a mark") << "\xEF\xBB\xBF"_ba;
+        QTest::newRow("UTF-16 without a mark") << wide;
+        QTest::newRow("big-endian UTF-16") << QByteArray("\xFE\xFF\0", 3) + wide.chopped(1);
+    }
+    void noStations()
+    {
+        QFETCH(const QByteArray, bytes);
+        TLLDocument document;
+        Error error;
+        QCOMPARE(document.readFromData(bytes, TLLDocument::typeName(), error), !bytes.isEmpty());
+        QVERIFY(error.isEmpty());
+        QCOMPARE(document.list().parseError.has_value(), !bytes.isEmpty());
+        QVERIFY(bytes.isEmpty() || listText(document).isEmpty());
+        QCOMPARE(document.modelName(), std::nullopt);
+        QCOMPARE(written(document), QByteArray());
     }
 
     void encodings_data()

@@ -27,9 +27,7 @@ private slots:
         QTest::newRow("UTF-8 mark") << "\xEF\xBB\xBF<a/>"_ba << u"\uFEFF<a/>"_s << utf8;
         QTest::newRow("inner null") << "a\0b"_ba << u"a\0b"_s << utf8;
         QTest::newRow("one bad byte") << "\xC3\xA4\xE4"_ba << u"\u00C3\u00A4\u00E4"_s << latin1;
-        QTest::newRow("overlong") << "\xC0\xAF"_ba << u"\u00C0\u00AF"_s << latin1;
         QTest::newRow("surrogate") << "\xED\xA0\x80"_ba << u"\u00ED\u00A0\u0080"_s << latin1;
-        QTest::newRow("too high") << "\xF4\x90\x80\x80"_ba << u"\u00F4\u0090\u0080\u0080"_s << latin1;
         QTest::newRow("cut end") << "ab\xE2\x82"_ba << u"ab\u00E2\u0082"_s << latin1;
         QTest::newRow("UTF-16 mark") << "\xFF\xFE<\0\xE4\0"_ba << u"\uFEFF<ä"_s << utf16;
         QTest::newRow("null first") << "\0A"_ba << u"\u4100"_s << utf16;
@@ -46,7 +44,6 @@ private slots:
         QTEST(decoded->text, "text");
         QTEST(decoded->encoding, "encoding");
         QCOMPARE(getAsString(bytes), std::optional(decoded->text));
-        QCOMPARE(getAsText(bytes), std::optional(decoded->text));
     }
 
     void encodes_data()
@@ -90,26 +87,6 @@ private slots:
         QCOMPARE(builder.take(), expected.toUtf8());
         builder.append(u"ab");
         QCOMPARE(builder.take(), "ab"_ba);
-    }
-
-    void tellsLineEnds()
-    {
-        for (const QStringView crlf : {u"abc", u"a\nb", u"\r\n\r\n\r\n\r\n\n\n\n", u"\r\n\n\r\n"})
-            QVERIFY2(usesCRLF(crlf), qPrintable(crlf.toString()));
-        for (const QStringView other : {u"a\nb\n", u"a\rb\r", u"\n\n\n\n\r\r\r\r", u"\r\n\n\n"})
-            QVERIFY2(!usesCRLF(other), qPrintable(other.toString()));
-    }
-
-    void splitsLines()
-    {
-        // clang-format off
-        const std::pair<QStringView, QStringList> rows[] = {
-            {u"", {QString()}}, {u"a\r\n", {u"a"_s}}, {u"\n", {QString()}},
-            {u"a\n\rb", {u"a"_s, {}, u"b"_s}}, {u"a\r\r\nb", {u"a"_s, {}, u"b"_s}},
-            {u"\n\nb\n\n", {{}, {}, u"b"_s, {}}}};
-        // clang-format on
-        for (const auto &[text, lines] : rows)
-            QCOMPARE(linesArray(text), lines);
     }
 
     void lenientIntegers()

@@ -63,6 +63,14 @@ QString makeTLL(const std::vector<Item> &atvItems, const std::vector<Item> &dtvI
     return text + orUsual(options.end, usualEnd);
 }
 
+QByteArray makeChannel(const QByteArray &name, const QByteArray &number,
+                       const ChannelOptions &options)
+{
+    return "{\"channelName\":\"" + name + "\",\"majorNumber\":" + number + ",\"sourceIndex\":\"" +
+           options.source + "\",\"serviceType\":" + QByteArray::number(options.serviceType) +
+           options.more + '}';
+}
+
 QByteArray readSample(const QString &name)
 {
     QFile file(QStringLiteral(QUILLET_SAMPLES "/") + name);

@@ -20,14 +20,13 @@ enum class FileSource { Antenna = 1, Analogue = 2, Cable = 3, Satellite = 7 };
                                FileSource source = FileSource::Cable, int serviceType = 1);
 
 /// Everything of a file that is not a station. The line end is used throughout; what is null
-/// becomes the usual text: "\n" in the other texts stands as it is.
+/// becomes the usual text, between two tags a line end: "\n" in the other texts stands as it is.
 struct TLLOptions
 {
     QString lineEnd = QStringLiteral("\r\n");
-    QString header = {}; ///< up to and including <CHANNEL> and a line end
-    QString beforeFirstItem =
-        {}; ///< between a section's tag and its first ITEM; a line end when null
-    QString betweenSections = {}; ///< between </ATV> and <DTV>; a line end when null
+    QString header = {};          ///< up to and including <CHANNEL> and a line end
+    QString beforeFirstItem = {}; ///< between a section's tag and its first ITEM
+    QString betweenSections = {}; ///< between </ATV> and <DTV>
     QString end = {};             ///< all that follows the last section's closing tag
 };
 
@@ -37,6 +36,18 @@ struct TLLOptions
 /// A whole file. A section without stations is left out.
 [[nodiscard]] QString makeTLL(const std::vector<Item> &atvItems, const std::vector<Item> &dtvItems,
                               const TLLOptions &options = {});
+
+/// What a channel of the JSON variant says besides its name and number.
+struct ChannelOptions
+{
+    QByteArray source = "CABLE DIGITAL";
+    int serviceType = 1;
+    QByteArray more = {}; ///< further members, each behind a comma
+};
+
+/// A channel of the JSON variant; the number stands as it is given.
+[[nodiscard]] QByteArray makeChannel(const QByteArray &name, const QByteArray &number,
+                                     const ChannelOptions &options = {});
 
 /// The bytes of a file in the folder of samples.
 [[nodiscard]] QByteArray readSample(const QString &name);

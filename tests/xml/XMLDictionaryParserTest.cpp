@@ -63,8 +63,6 @@ private slots:
         row("predefined entities", "<a>&lt;&gt;&amp;&quot;&apos;</a>", {{u"a"_s, u"<>&\"'"_s}});
         row("references", "<a>&#32;&#65;&#x20AC;&#x1F4FA;&#9;</a>", {{u"a"_s, u"A€\U0001F4FA"_s}});
         row("line ends become LF", "<a>1\r\n2\r3\n4</a>", {{u"a"_s, u"1\n2\n3\n4"_s}});
-        row("long text in pieces", "<a>" + QByteArray("\xC3\xA4 \r\nb").repeated(2000) + "</a>",
-            {{u"a"_s, u"ä \nb"_s.repeated(2000)}});
 
         row("attribute", "<a x='1'>t</a>", {{u"a"_s, Tree{{u"_x"_s, u"1"_s}, {u"__text"_s, u"t"_s}}}});
         row("empty attribute", "<a x=''/>", {{u"a"_s, tree(u"_x"_s, u""_s)}});
@@ -230,21 +228,21 @@ private slots:
         QCOMPARE(read, texts);
     }
 
+    /// Long elements look their children up in another way than short ones.
     void manyNames()
     {
-        QByteArray xml;
+        QString xml;
         Tree expected{root};
-        for (int i = 0; i < 10000; ++i) {
-            const QString name = u'n' + QString::number(i % 5000);
-            xml += u"<%1>%2</%1>"_s.arg(name, i % 7 ? u"t"_s : u"<x>1</x>"_s).toUtf8();
-            const Value value = i % 7 ? Value(u"t"_s) : Value(tree(u"x"_s, u"1"_s));
-            const Value *first = expected.find(name);
-            expected.insert(name, first ? Value(Array{*first, value}) : value);
+        for (int i = 0; i < 400; ++i) {
+            const QString name = u'n' + QString::number(i % 200);
+            xml += u"<%1>%2</%1>"_s.arg(name, i < 200 ? u"a"_s : u"b"_s);
+            expected.insert(name, Array{u"a"_s, u"b"_s});
         }
-        auto parsed = dictionaryWithXMLData("<r>" + xml + "</r>");
+        auto parsed = dictionaryWithXMLString(u"<r>"_s + xml + u"</r>"_s);
         QCOMPARE(*parsed, expected);
         parsed->remove(u"n17");
         expected.remove(u"n17");
+        QVERIFY(!parsed->find(u"n17") && parsed->find(u"n18"));
         QCOMPARE(*parsed, expected);
     }
 

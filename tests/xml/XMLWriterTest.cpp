@@ -1,7 +1,6 @@
 #include "TreeText.h"
 
 #include "testing/TestMain.h"
-#include "xml/XMLDictionaryParser.h"
 #include "xml/XMLWriter.h"
 
 using namespace quillet;
@@ -61,37 +60,6 @@ private slots:
         QCOMPARE(XMLString({name, child}), u"<top><a>1</a></top>"_s);
         QCOMPARE(XMLString({child, {u"b"_s, u"2"_s}}), u"<root><a>1</a>\n<b>2</b></root>"_s);
         QCOMPARE(XMLString({}), u"<root/>"_s);
-    }
-
-    void comesBackEqual_data()
-    {
-        QTest::addColumn<bool>("wraps");
-        QTest::addColumn<int>("attributes");
-        using Mode = XMLDictionaryParser::AttributesMode;
-        QTest::newRow("usual") << false << static_cast<int>(Mode::AttributesPrefixed);
-        QTest::newRow("wrapped root") << true << static_cast<int>(Mode::AttributesPrefixed);
-        QTest::newRow("in dictionaries") << false << static_cast<int>(Mode::AttributesInDictionary);
-    }
-    void comesBackEqual()
-    {
-        QFETCH(const bool, wraps);
-        QFETCH(const int, attributes);
-        const QByteArray xml =
-            "<TLLDATA version='2'><ModelInfo><ModelName type=\"0\">42XX</ModelName></ModelInfo>"
-            "<!-- a comment --><CHANNEL><DTV><ITEM><prNum>1</prNum><vchName>R&amp;B \xC3\x84 "
-            "&lt;1&gt; 'x' &quot;y&quot;</vchName></ITEM><ITEM><prNum>2</prNum><x a=''/><x>t</x>"
-            "</ITEM></DTV><ATV><ITEM k=' &amp;&quot;&lt; '><prNum>3</prNum></ITEM></ATV></CHANNEL>"
-            "</TLLDATA>";
-        XMLDictionaryParser parser;
-        parser.settings.wrapRootNode = wraps;
-        parser.settings.preserveComments = true;
-        parser.settings.attributesMode =
-            static_cast<XMLDictionaryParser::AttributesMode>(attributes);
-        const std::optional<Dictionary> tree = parser.dictionaryWithData(xml);
-        QVERIFY(tree && !parser.firstError());
-        const std::optional<Dictionary> again = parser.dictionaryWithString(XMLString(*tree));
-        QVERIFY(again && !parser.firstError());
-        QCOMPARE(*again, *tree);
     }
 };
 

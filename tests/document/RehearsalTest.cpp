@@ -194,6 +194,12 @@ private slots:
             none, u"extras"_s);
         const QString both = file(u"<ATV>\r\n"_s + makeItem(makeStation(1, u"Old"_s, Analogue)) +
                                   u"</ATV>\r\n<DTV>\r\n"_s + items({u"A"_s, u"B"_s, u"C"_s}));
+        // The footer of the analogue section is written, and the text ends there for a reader.
+        row("attribute of the only digital station",
+            file(u"<ATV>\r\n"_s + makeItem(makeStation(1, u"Old"_s, Analogue)) + u"</ATV><DTV>"_s +
+                 items({u"A"_s}).replace(u"<ITEM>"_s, u"<ITEM n='1'>"_s) + u"</DTV>"_s)
+                .remove(u"<rest>1</rest>"_s),
+            none, u"surroundings"_s);
         row("cut, with analogue stations", both.left(both.indexOf(u"</CHANNEL>"_s)), none,
             u"doubled 3: A B C, surroundings"_s);
         row("cut in a field without text", abc.left(abc.indexOf(u"<vchName>C"_s)) + u"<vchName>"_s,

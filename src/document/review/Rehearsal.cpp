@@ -170,6 +170,9 @@ Rehearsal rehearse(const ChannelList &list, const QByteArray &bytes)
         isWhole &&
         (losesComments(before, after) || content->losesMarkup(before, after) ||
          (isReadToTheEnd && content->surroundings(list.tree) != content->surroundings(again.tree)));
+    // All stations may stand before the place where a text that was whole breaks off now.
+    if (isWhole && again.parseError && result.isClean())
+        result.losesSurroundings = true;
     return result;
 }
 

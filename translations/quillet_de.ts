@@ -594,23 +594,23 @@
     </message>
     <message id="kNotKeptAttributes">
         <source></source>
-        <translation>seine erweiterten Attribute</translation>
+        <translation>ihre erweiterten Attribute</translation>
     </message>
     <message id="kNotKeptGroup">
         <source></source>
-        <translation>seine Gruppe</translation>
+        <translation>ihre Gruppe</translation>
     </message>
     <message id="kNotKeptHardLinks">
         <source></source>
-        <translation>seine anderen Namen, die noch für die alte Liste stehen</translation>
+        <translation>ihre anderen Namen, die noch für die alte Liste stehen</translation>
     </message>
     <message id="kNotKeptOwner">
         <source></source>
-        <translation>seinen Besitzer</translation>
+        <translation>ihren Besitzer</translation>
     </message>
     <message id="kNotKeptPermissions">
         <source></source>
-        <translation>einige seiner Zugriffsrechte</translation>
+        <translation>einige ihrer Zugriffsrechte</translation>
     </message>
     <message id="kOK">
         <source></source>

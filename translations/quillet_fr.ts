@@ -610,7 +610,7 @@
     </message>
     <message id="kNotKeptPermissions">
         <source></source>
-        <translation>certaines de ses permissions</translation>
+        <translation>certains de ses droits d’accès</translation>
     </message>
     <message id="kOK">
         <source></source>
@@ -740,8 +740,8 @@
     <message id="kReviewNumbers" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n long nombre serait arrondi.</numerusform>
-            <numerusform>%n longs nombres seraient arrondis.</numerusform>
+            <numerusform>%n nombre long serait arrondi.</numerusform>
+            <numerusform>%n nombres longs seraient arrondis.</numerusform>
         </translation>
     </message>
     <message id="kReviewRefused">

@@ -602,7 +602,7 @@
     </message>
     <message id="kNotKeptHardLinks">
         <source></source>
-        <translation>gli altri suoi nomi, che indicano ancora il vecchio elenco</translation>
+        <translation>gli altri suoi nomi, che indicano ancora la vecchia lista</translation>
     </message>
     <message id="kNotKeptOwner">
         <source></source>
@@ -880,7 +880,7 @@ Questi proseguono dal numero: %3</translation>
     </message>
     <message id="kToldNotKept">
         <source></source>
-        <translation>“%1” è stato salvato, ma il file ha perso: %2.</translation>
+        <translation>“%1” è stata salvata, ma il file ha perso: %2.</translation>
     </message>
     <message id="kToldRepaired">
         <source></source>

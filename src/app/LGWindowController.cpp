@@ -32,8 +32,10 @@ void LGWindowController::windowDidLoad()
     QStatusBar *bar = window()->statusBar();
     bar->setSizeGripEnabled(false);
     bar->setContentsMargins(8, 0, 8, 4);
-    bar->addWidget(m_told);
+    bar->addWidget(m_told, 1);
     bar->hide();
+    m_told->setWordWrap(true);
+    m_told->setTextFormat(Qt::PlainText); // names of files may look like markup
     m_told->setObjectName(QStringLiteral("toldText"));
     m_toldTimer.setSingleShot(true);
     connect(&m_toldTimer, &QTimer::timeout, bar, &QWidget::hide);

@@ -126,8 +126,10 @@ void MainMenu::makeEditMenu(QMenuBar &bar)
     m_applyOrder =
         add(menu, {"kMenuApplyOrder", "applyOrderClicked", Qt::CTRL | Qt::SHIFT | Qt::Key_A},
             [this] { m_editor.controller().applyOrderClicked(); });
-    m_fillGaps = add(menu, {"kMenuFillGaps", "fillGapsClicked", {}},
-                     [this](bool on) { m_editor.setFillGapsOn(on); });
+    m_fillGaps = add(menu, {"kMenuFillGaps", "fillGapsClicked", {}}, [this](bool on) {
+        m_editor.commitEditing();
+        m_editor.setFillGapsOn(on);
+    });
     m_fillGaps->setCheckable(true);
     menu.addSeparator();
     add(menu, {"kMenuFind", "find", QKeySequence::Find}, [this] { m_editor.focusSearch(); });
@@ -137,10 +139,10 @@ void MainMenu::makeViewMenu(QMenuBar &bar)
 {
     QMenu &menu = *bar.addMenu(qtTrId("kMenuView"));
     auto *modes = new QActionGroup(this);
-    m_showTV = add(menu, {"kMenuTV", "useTVClicked", Qt::CTRL | Qt::Key_T},
-                   [this] { m_editor.controller().useTVClicked(); });
+    m_showTV =
+        add(menu, {"kMenuTV", "useTVClicked", Qt::CTRL | Qt::Key_T}, [this] { chooseMode(true); });
     m_showRadio = add(menu, {"kMenuRadio", "useRadioClicked", Qt::CTRL | Qt::Key_R},
-                      [this] { m_editor.controller().useRadioClicked(); });
+                      [this] { chooseMode(false); });
     for (QAction *mode : {m_showTV, m_showRadio}) {
         mode->setCheckable(true);
         modes->addAction(mode);
@@ -199,8 +201,19 @@ void MainMenu::save()
         document->saveDocument();
 }
 
+/// What is being typed belongs to a row that will be gone.
+void MainMenu::chooseMode(bool isTV)
+{
+    m_editor.commitEditing();
+    if (isTV)
+        m_editor.controller().useTVClicked();
+    else
+        m_editor.controller().useRadioClicked();
+}
+
 void MainMenu::chooseSource(int source)
 {
+    m_editor.commitEditing();
     m_editor.selectSegment(source);
     m_editor.controller().sourceSegmentClicked();
 }

@@ -46,6 +46,7 @@ private:
     void makeHelpMenu(QMenuBar &bar);
     void save();
     void showAbout();
+    void chooseMode(bool isTV);
     void chooseSource(int source);
     void validate();
 

@@ -237,6 +237,7 @@ void TLLDocument::reviewSave(const QByteArray &bytes, SavePurpose purpose,
         ofRepaired = rehearse(m_list, repaired);
         if (savesRepairedUnasked() && ofRepaired->isClean()) {
             m_wasUnasked = !m_repair; // what a copy was repaired for needs no word
+            m_savesRepaired = true;
             return decided(repaired);
         }
         if (ofRepaired->weight() >= plain.weight())
@@ -265,7 +266,6 @@ void TLLDocument::reviewSave(const QByteArray &bytes, SavePurpose purpose,
 
 void TLLDocument::documentWasSaved()
 {
-    m_savesRepaired = m_savesRepaired || m_repair;
     m_repair.reset();
     Document::documentWasSaved();
     if (m_wasUnasked)

@@ -133,7 +133,7 @@ private:
     QPointer<TLLWindowController> m_lgWindowController;
     ChannelList m_list;
     std::optional<Repair> m_repair;
-    bool m_savesRepaired = false; ///< a save in the repaired form was chosen once
+    bool m_savesRepaired = false; ///< it was saved in the repaired form once
     bool m_wasUnasked = false;    ///< the save under way is repaired without a question
     StationListPtr m_stations;
     int m_curSource = 0;

@@ -6,6 +6,8 @@ namespace quillet {
 
 QStringList ListEditor::move(const StationList &stations, qint64 target, bool fillGaps)
 {
+    if (!areIn(list(), stations))
+        return {}; // stations are taken out by number, so others of this list would go
     Renumbered renumbered = moveElemList(list(), stations, target, fillGaps);
     tell(ListChange::Kind::Moved, {renumbered.changed}, StationField::Number);
     return std::move(renumbered.selection);
@@ -20,12 +22,16 @@ void ListEditor::closeGaps()
 
 void ListEditor::rename(const StationPtr &station, const QString &name)
 {
+    if (!areIn(list(), {station}))
+        return;
     station->setStationName(name);
     tell(ListChange::Kind::Fields, placesOf({station}, list()), StationField::Name);
 }
 
 void ListEditor::setFlag(const StationList &stations, StationFlag flag, bool set)
 {
+    if (!areIn(list(), stations))
+        return;
     quillet::setFlag(stations, flag, set);
     tell(ListChange::Kind::Fields, placesOf(stations, list()),
          flag == StationFlag::Skipped ? StationField::Skipped : StationField::Blocked);
@@ -33,6 +39,8 @@ void ListEditor::setFlag(const StationList &stations, StationFlag flag, bool set
 
 void ListEditor::applyOrder(const ReferenceList &entries, const QString &fileName)
 {
+    if (!m_document->stations())
+        return;
     m_document->applyOrderFromRefList(entries, fileName);
     tell(ListChange::Kind::Reordered, {{0, list().size()}}, StationField::Number);
 }

@@ -10,9 +10,10 @@
 namespace quillet {
 
 /// The one gate for edits: every change of a station or of the order of a list is made here, marks
-/// the document changed and is told. Works on the document's current list, of which all stations
-/// handed in must be; who asks checks that. Asks nothing and shows nothing. Owned by the window's
-/// ViewController; holds the document weakly, without which nothing may be asked of it.
+/// the document changed and is told. Works on the document's current list; asked for
+/// stations of another one it does nothing. Shows nothing but the document's own report of an
+/// order. Owned by the window's ViewController; holds the document weakly, without which nothing
+/// may be asked of it.
 class ListEditor : public QObject
 {
     Q_OBJECT

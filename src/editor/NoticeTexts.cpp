@@ -2,7 +2,7 @@
 
 #include "document/TLLDocument.h"
 #include "document/repair/FileDiagnosis.h"
-#include "files/FilePlace.h"
+#include "files/Places.h"
 
 #include <QFileInfo>
 #include <QStringList>

@@ -32,7 +32,7 @@ bool ShownStations::areForeign() const
 
 std::optional<ForeignRows> ShownStations::foreignRows() const
 {
-    if (!areForeign())
+    if (!hasData() || !areForeign())
         return {};
     for (const StationSource source : stationSources) {
         const int index = static_cast<int>(source);
@@ -55,7 +55,7 @@ StationList ShownStations::stationsAt(const QList<qsizetype> &rows) const
 
 StationList ShownStations::ownStationsAt(const QList<qsizetype> &rows) const
 {
-    return areForeign() ? StationList() : stationsAt(rows);
+    return !m_document || areForeign() ? StationList() : stationsAt(rows);
 }
 
 bool ShownStations::hasDataForSource(int source) const

@@ -28,7 +28,7 @@ public:
     /// Whether that is another list than the document's current one: after a change of source the
     /// rows of the old filter stay on show. None of their stations may be changed.
     [[nodiscard]] bool areForeign() const;
-    /// Whose foreign rows are; none for others.
+    /// Whose foreign rows are; none for others, and while a hint stands in their place.
     [[nodiscard]] std::optional<ForeignRows> foreignRows() const;
 
     /// The stations of those rows that there are.

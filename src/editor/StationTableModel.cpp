@@ -44,32 +44,21 @@ ListStretch difference(const StationList &a, const StationList &b)
     return {static_cast<std::size_t>(first), a.size() - static_cast<std::size_t>(last)};
 }
 
-/// The rows, of which there may be fewer than there are stations in the list, that stand in places
-/// of it. Both are in the same order.
+/// The rows, of which there may be fewer than there are stations in the list, and in another order,
+/// whose stations stand in places of it.
 std::vector<ListStretch> rowsOf(const std::vector<ListStretch> &places, const StationList &list,
                                 const StationList &rows)
 {
     const bool isWhole = places.size() == 1 && places.front() == ListStretch{0, list.size()};
     if (isWhole)
         return {{0, rows.size()}};
-    if (rows.size() == list.size())
+    if (rows == list)
         return places;
-    std::vector<ListStretch> found;
-    std::size_t place = 0;
-    std::size_t row = 0;
-    for (const ListStretch &stretch : places) {
-        ListStretch shown;
-        for (; place < stretch.end && row < rows.size(); ++place) {
-            if (rows[row] != list[place])
-                continue;
-            if (place >= stretch.first)
-                shown.include(row);
-            ++row;
-        }
-        if (!shown.isEmpty())
-            found.push_back(shown);
-    }
-    return found;
+    StationList stations;
+    for (const ListStretch &stretch : places)
+        stations.insert(stations.end(), list.begin() + static_cast<std::ptrdiff_t>(stretch.first),
+                        list.begin() + static_cast<std::ptrdiff_t>(stretch.end));
+    return placesOf(stations, rows);
 }
 
 } // namespace

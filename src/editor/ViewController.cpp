@@ -6,6 +6,7 @@
 #include "support/LenientNumber.h"
 
 #include <QFileInfo>
+#include <QSet>
 #include <QTimer>
 
 #include <algorithm>
@@ -25,16 +26,26 @@ ViewController::ViewController(EditorOutlets &outlets, QObject *parent)
 void ViewController::fillGapsClicked(bool on)
 {
     m_fillGaps = on;
+    emit stateChanged();
     fillGapsIfWanted();
 }
 
-/// The filter is not applied anew. The selection, which goes by number, follows its stations.
+/// The filter is not applied anew. The selection, which goes by number, follows the stations that
+/// are selected in the table, and those that the filter hides.
 void ViewController::fillGapsIfWanted()
 {
     if (!m_fillGaps || !shown().hasData())
         return;
-    const StationList selected =
-        shown().areForeign() ? StationList() : selection().stationsIn(*stationDoc()->stations());
+    StationList selected;
+    if (!shown().areForeign()) {
+        selected = shown().stationsAt(outlets().selectedRows());
+        const StationList &rows = currentList();
+        const QSet<StationPtr> onShow(rows.begin(), rows.end());
+        for (const StationPtr &station : selection().stationsIn(*stationDoc()->stations())) {
+            if (!onShow.contains(station))
+                selected.push_back(station);
+        }
+    }
     m_editor.closeGaps();
     if (!selected.empty())
         savedSelection().follow(selected);
@@ -62,18 +73,16 @@ void ViewController::moveElements(qsizetype firstRow, qsizetype count, qint64 ta
     moveStations(shown().ownStationsAt(rows), target);
 }
 
-/// The numbers to select are the editor's fixed rule. Where other stations carry them, as they may
-/// with gaps filled, the moved ones are selected all the same.
+/// The numbers to select are the editor's fixed rule. With gaps filled other stations may carry
+/// them; then the moved ones are selected all the same.
 void ViewController::moveStations(const StationList &stations, qint64 target)
 {
     if (stations.empty())
         return;
     savedSelection().set(m_editor.move(stations, target, m_fillGaps));
     updateButtons();
-    SavedSelection moved;
-    moved.follow(stations);
-    if (moved != selection())
-        savedSelection() = std::move(moved);
+    if (m_fillGaps)
+        savedSelection().follow(stations);
     restoreSelection();
 }
 

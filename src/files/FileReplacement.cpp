@@ -1,6 +1,7 @@
 #include "files/FileReplacement.h"
 
 #include "files/FileOperations.h"
+#include "files/Places.h"
 
 #include <QDateTime>
 #include <QDirIterator>
@@ -9,11 +10,7 @@
 #include <QRandomGenerator>
 #include <QScopeGuard>
 
-#include <filesystem>
 #include <optional>
-#include <system_error>
-
-namespace fs = std::filesystem;
 
 namespace quillet {
 
@@ -23,22 +20,6 @@ Error failure(FileReplacement::Failure code, const QString &description)
 {
     return {
         QString::fromLatin1(FileReplacement::errorDomain), static_cast<int>(code), description, {}};
-}
-
-/// The path of the file that a chain of symbolic links ends at, which need not exist. None when the
-/// chain runs in a circle. No path is tidied as text: ".." after a linked folder means what it
-/// means to the system.
-std::optional<QString> resolveLinks(const QString &path)
-{
-    constexpr int longestChain = 40;
-    fs::path current = QFileInfo(path).filesystemFilePath();
-    std::error_code code;
-    for (int i = 0; i < longestChain && !code; ++i) {
-        if (!fs::is_symlink(current, code))
-            return QFileInfo(current).filePath();
-        current = current.parent_path() / fs::read_symlink(current, code);
-    }
-    return std::nullopt;
 }
 
 /// A path in the folder that no file has yet. The name is short whatever the target is called.
@@ -70,11 +51,12 @@ void removeLeftovers(const QString &folder)
 
 } // namespace
 
-bool FileReplacement::replace(const QString &path, const QByteArray &bytes, Error &error)
+bool FileReplacement::replace(const QString &path, const QByteArray &bytes, Error &error,
+                              const Check &mayReplace)
 {
     m_notKept.clear();
     const std::optional<QString> target = resolveLinks(path);
-    error = target ? replaceTarget(*target, bytes)
+    error = target ? replaceTarget(*target, bytes, mayReplace)
                    : failure(Failure::Target, qtTrId("kLinkCircleReason"));
     if (error.isEmpty())
         return true;
@@ -83,7 +65,8 @@ bool FileReplacement::replace(const QString &path, const QByteArray &bytes, Erro
     return false;
 }
 
-Error FileReplacement::replaceTarget(const QString &target, const QByteArray &bytes)
+Error FileReplacement::replaceTarget(const QString &target, const QByteArray &bytes,
+                                     const Check &mayReplace)
 {
     const QFileInfo info(target);
     const bool hasOldFile = info.exists();
@@ -112,6 +95,8 @@ Error FileReplacement::replaceTarget(const QString &target, const QByteArray &by
         return failure(Failure::Compare, qtTrId("kReadBackFailedReason").arg(reason));
     if (found != bytes)
         return failure(Failure::Compare, qtTrId("kCompareFailedReason"));
+    if (mayReplace && !mayReplace())
+        return failure(Failure::Changed, {});
     if (!m_operations.rename(file.fileName(), target, reason))
         return failure(Failure::Rename, qtTrId("kReplaceFailedReason").arg(reason));
     removeNewFile.dismiss();

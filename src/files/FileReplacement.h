@@ -6,6 +6,8 @@
 #include <QByteArray>
 #include <QString>
 
+#include <functional>
+
 namespace quillet {
 
 class FileOperations;
@@ -28,18 +30,23 @@ class FileReplacement
 {
 public:
     /// Which step failed: the code of the error.
-    enum class Failure { Target = 1, Create, Write, Permissions, Sync, Compare, Rename };
+    enum class Failure { Target = 1, Create, Write, Permissions, Sync, Compare, Rename, Changed };
     static constexpr char errorDomain[] = "FileReplacement";
 
     explicit FileReplacement(FileOperations &operations) : m_operations(operations) {}
 
-    [[nodiscard]] bool replace(const QString &path, const QByteArray &bytes, Error &error);
+    /// Answers whether the old file may still be replaced; asked in the very moment before it is.
+    using Check = std::function<bool()>;
+    /// Fails as Changed when the check says no.
+    [[nodiscard]] bool replace(const QString &path, const QByteArray &bytes, Error &error,
+                               const Check &mayReplace = {});
     /// What the file has lost by the last replacement, which its owner should be told; empty when
     /// that failed.
     [[nodiscard]] const std::vector<NotKept> &notKept() const { return m_notKept; }
 
 private:
-    [[nodiscard]] Error replaceTarget(const QString &target, const QByteArray &bytes);
+    [[nodiscard]] Error replaceTarget(const QString &target, const QByteArray &bytes,
+                                      const Check &mayReplace);
 
     FileOperations &m_operations;
     std::vector<NotKept> m_notKept;

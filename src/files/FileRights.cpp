@@ -13,11 +13,12 @@ constexpr quint32 setsGroup = 02000;
 constexpr quint32 groupBits = 0070;
 constexpr quint32 otherBits = 0007;
 
-/// The mode for a file of another group: its members may be of the old one or of the others.
+/// The mode for a file of another group: the members of either may have been of the old one or of
+/// the others, so both get what both had.
 quint32 forAnotherGroup(quint32 mode)
 {
-    const quint32 ofBoth = mode & ((mode & otherBits) << 3) & groupBits;
-    return (mode & ~(setsGroup | groupBits)) | ofBoth;
+    const quint32 ofBoth = (mode >> 3) & mode & otherBits;
+    return (mode & ~(setsGroup | groupBits | otherBits)) | (ofBoth << 3) | ofBoth;
 }
 
 } // namespace

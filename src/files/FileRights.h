@@ -34,7 +34,7 @@ enum class NotKept {
 /// Gives a new file, which is open and private, what the file at `path` has: extended attributes,
 /// owner, group, rights; and adds what could not be kept. Nobody gets a right to read or write that
 /// the old file did not give:
-///   - without the old group, the new one gets no more than everybody else had;
+///   - without the old group, the new one and everybody else get no more than both had;
 ///   - without the old access list, nobody but the owner gets anything;
 ///   - the file is looked at afterwards, and one that gives more than it should is a failure.
 /// All else that fails leaves the file more private than it was, and is told. A file system without

@@ -1,6 +1,7 @@
 #include "files/FileState.h"
 
 #include "files/FileReading.h"
+#include "files/Places.h"
 
 #include <QFileInfo>
 
@@ -10,7 +11,7 @@ FileState FileState::none(const QString &path)
 {
     FileState state;
     state.m_path = path;
-    state.m_volume = volumeOf(path);
+    state.m_device = deviceOf(path);
     return state;
 }
 
@@ -32,14 +33,9 @@ FileState FileState::at(const QString &path)
     return state;
 }
 
-/// A medium that was taken out and put back is mounted at the same place, perhaps under another
-/// number; what lies beneath an empty mount point belongs to a medium mounted further up.
 FileState::Change FileState::changeSince(const FileState &earlier) const
 {
-    const auto mountPoint = [](const std::optional<Volume> &volume) {
-        return volume ? volume->mountPoint : QString();
-    };
-    if (mountPoint(m_volume) != mountPoint(earlier.m_volume) || (earlier.m_exists && !m_exists))
+    if (m_device != earlier.m_device || (earlier.m_exists && !m_exists))
         return Change::Gone;
     const bool isSame = m_exists == earlier.m_exists && m_bytes == earlier.m_bytes;
     return isSame ? Change::None : Change::Content;

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "files/FilePlace.h"
-
 #include <QByteArray>
 #include <QString>
 
@@ -9,7 +7,7 @@
 
 namespace quillet {
 
-/// What was at a path at one moment: a file with its bytes or none, and the medium it lies on.
+/// What was at a path at one moment: a file with its bytes or none, and the device of its folder.
 /// The bytes are shared with whoever read or wrote them.
 class FileState
 {
@@ -24,7 +22,7 @@ public:
     enum class Change {
         None,
         Content, ///< another content, or a file where there was none
-        Gone,    ///< no file any more, or its folder no longer lies on the medium it lay on
+        Gone,    ///< no file any more, or its folder lies on another device than before
     };
     /// What has become of an earlier state of the path.
     [[nodiscard]] Change changeSince(const FileState &earlier) const;
@@ -34,7 +32,7 @@ private:
     QString m_path;
     bool m_exists = false;
     QByteArray m_bytes; ///< of a file that could not be read: none
-    std::optional<Volume> m_volume;
+    std::optional<quint64> m_device;
 };
 
 } // namespace quillet

@@ -1,7 +1,7 @@
 #include "files/SaveJob.h"
 
-#include "files/FilePlace.h"
 #include "files/FileReplacement.h"
+#include "files/Places.h"
 
 namespace quillet {
 
@@ -65,8 +65,13 @@ void SaveJob::replace(const QByteArray &bytes)
 {
     Error error;
     FileReplacement replacement(m_operations);
-    if (!replacement.replace(m_path, bytes, error))
-        return finish(Outcome::Failed, error);
+    const auto isAsExpected = [this] {
+        return FileState::at(m_path).changeSince(m_expected) == FileState::Change::None;
+    };
+    if (!replacement.replace(m_path, bytes, error, isAsExpected)) {
+        const bool wasChanged = error.code == static_cast<int>(FileReplacement::Failure::Changed);
+        return wasChanged ? lookAtTheDisk(bytes) : finish(Outcome::Failed, error);
+    }
     m_client->finished({Outcome::Written, {}, FileState::of(m_path, bytes), replacement.notKept()});
 }
 

@@ -18,7 +18,7 @@ class FileOperations;
 
 /// One writing of an owner's file: a save, a copy, an export. Nothing else may write one. Whoever
 /// wants it written answers, now or later, and may drop an answer to end the job. The steps:
-///   1. the target is resolved: where its links lead, and what is there at the start;
+///   1. what is there at the start is noted, where the links of the path lead;
 ///   2. it is refused when it must not be written to;
 ///   3. the bytes are made;
 ///   4. they are rehearsed: what would be lost if they were opened again?
@@ -26,7 +26,7 @@ class FileOperations;
 ///   6. the disk is looked at. Any answer so far may have taken an hour, so only now: whether what
 ///      is there is still what was there, on the same device. If not, that is asked about, and then
 ///      the disk is looked at again, until it is as it was agreed to be;
-///   7. the file is replaced.
+///   7. the file is replaced; writing takes a while, so the last look is taken right before that.
 class SaveJob : public std::enable_shared_from_this<SaveJob>
 {
 public:

@@ -1,7 +1,7 @@
 #include "framework/DocumentController.h"
 
 #include "files/Error.h"
-#include "files/FilePlace.h"
+#include "files/Places.h"
 #include "framework/Prompts.h"
 #include "framework/RecentFiles.h"
 #include "framework/WaitCursor.h"

@@ -1,6 +1,6 @@
 #include "framework/DocumentSaving.h"
 
-#include "files/FilePlace.h"
+#include "files/Places.h"
 #include "framework/Document.h"
 #include "framework/WaitCursor.h"
 
@@ -58,7 +58,7 @@ void DocumentSaving::writeToChosenPlace(const SavePanel &panel)
     m_panel = panel;
     m_document.askForPlace(panel, [self = shared_from_this()](const QString &path) {
         if (path.isEmpty())
-            self->m_done(false, {});
+            self->m_done(false, self->m_lastError);
         else
             self->write(path, {});
     });
@@ -115,9 +115,9 @@ void DocumentSaving::finished(const SaveJob::Result &result)
     case SaveJob::Outcome::Written:
         if (m_purpose == SavePurpose::Save)
             m_document.wasWritten(*result.written);
-        if (!result.notKept.empty())
-            emit m_document.told(notKeptText(targetName(), result.notKept));
-        return m_done(true, {});
+        if (result.notKept.empty())
+            return m_done(true, {});
+        return tellNotKept(result.notKept);
     case SaveJob::Outcome::GivenUp:
         return goOn(m_next, {});
     case SaveJob::Outcome::Refused:
@@ -126,9 +126,20 @@ void DocumentSaving::finished(const SaveJob::Result &result)
     }
 }
 
+/// In a sheet, because the window may be about to close.
+void DocumentSaving::tellNotKept(const std::vector<NotKept> &notKept)
+{
+    Alert alert;
+    alert.message = notKeptText(targetName(), notKept);
+    alert.buttons = {qtTrId("kOK")};
+    m_document.ask(alert,
+                   [self = shared_from_this()](const AlertAnswer &) { self->m_done(true, {}); });
+}
+
 void DocumentSaving::presentFailure(const Error &error)
 {
     const bool isExport = m_purpose == SavePurpose::Export;
+    m_lastError = error;
     Alert alert;
     alert.message =
         qtTrId(isExport ? "kExportFailedMessage" : "kSaveFailedMessage").arg(targetName());

@@ -49,6 +49,7 @@ private:
     void goOn(Choice choice, const Error &error);
     void write(const QString &path, const std::optional<FileState> &expected);
     void presentFailure(const Error &error);
+    void tellNotKept(const std::vector<NotKept> &notKept);
     [[nodiscard]] SavePanel panelForCopy() const;
     [[nodiscard]] QString targetName() const;
     [[nodiscard]] bool isOwnFile() const;
@@ -59,6 +60,7 @@ private:
     Done m_done;
     QString m_path;                   ///< of the file to write
     std::optional<SavePanel> m_panel; ///< that the place was chosen in
+    Error m_lastError;                ///< of an attempt that has failed
     Choice m_next = Choice::Cancel;   ///< what follows the job that ends
 };
 

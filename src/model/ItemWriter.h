@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/FileWords.h"
 #include "xml/Value.h"
 #include "xml/XMLWriter.h"
 
@@ -38,12 +39,15 @@ void writeField(const QString &key, const Value &value, Output &output)
 template<typename Output>
 void writeItem(const Dictionary &entry, const QString &nameKey, Output &output)
 {
-    output.append(QLatin1String("<ITEM>\r\n"));
+    static constexpr FileWord lineEnd("\r\n");
+    static constexpr FileWord start(fileword::startTag(fileword::item), lineEnd);
+    static constexpr FileWord end(fileword::endTag(fileword::item), lineEnd);
+    output.append(start.latin1());
     for (const auto &[key, value] : entry)
         writeField(key, value, output);
     if (!entry.contains(nameKey))
         output.append(QLatin1String("<vchName> </vchName>\r\n"));
-    output.append(QLatin1String("</ITEM>\r\n"));
+    output.append(end.latin1());
 }
 
 } // namespace quillet

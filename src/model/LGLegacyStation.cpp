@@ -1,5 +1,6 @@
 #include "model/LGLegacyStation.h"
 
+#include "model/FileWords.h"
 #include "model/StationSource.h"
 #include "support/TextConversion.h"
 #include "xml/JSON.h"
@@ -13,7 +14,7 @@ namespace {
 const StationKeys &legacyKeys()
 {
     static const StationKeys keys{
-        .keyProgNum = QStringLiteral("majorNumber"),
+        .keyProgNum = fileword::majorNumber.toString(),
         .keyStationName = QStringLiteral("channelName"),
         .keyStationHexName = QStringLiteral("hexVchName"),
         .keyInvisible = QStringLiteral("Invisible"),

@@ -202,6 +202,10 @@ private slots:
             none, u"surroundings"_s);
         row("cut, with analogue stations", both.left(both.indexOf(u"</CHANNEL>"_s)), none,
             u"doubled 3: A B C, surroundings"_s);
+        const QString cutBehindText =
+            u"<ATV><ITEM>text</ITEM></ATV><DTV><ITEM><prNum>20</prNum><sourceInd"_s;
+        row("cut in the first station, behind an item of text",
+            file({}).section(u"</CHANNEL>"_s, 0, 0) + cutBehindText, none, u"doubled 1: 20"_s);
         row("cut in a field without text", abc.left(abc.indexOf(u"<vchName>C"_s)) + u"<vchName>"_s,
             none, u"changed 1: 3"_s);
         row("behind the last station", QString(abc).replace(u"</DTV>"_s, u"<!-- end --></DTV>"_s),
@@ -262,6 +266,8 @@ private slots:
             u"missing 2: A B, tail, surroundings"_s);
         row("JSON with an element in its text",
             legacy({a, b}).replace(u"</legacy"_s, u"<x>1</x></legacy"_s), showCable, u"extras"_s);
+        row("JSON with a comment in its text",
+            legacy({b, a}).replace(u"</legacy"_s, u"<!-- c --></legacy"_s), showCable, u"extras"_s);
         row("JSON without a list", file(u"<legacybroadcast>{\"a\":1}</legacybroadcast>"_s), none,
             u"surroundings"_s);
         row("broken JSON", legacy({a, u"}"_s}), showCable, u"surroundings"_s);

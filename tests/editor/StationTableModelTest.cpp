@@ -1,5 +1,7 @@
 #include "EditorFixture.h"
 
+#include "document/order/ReferenceOrder.h"
+
 #include "editor/StationColumns.h"
 #include "testing/TestMain.h"
 
@@ -62,6 +64,17 @@ private slots:
                 e.controller.skipSelectedItems();
             },
             u"1:3-2:3"_s);
+        row(
+            "toggled, filtered before an order", u"b"_s,
+            [](Editor &e) {
+                ReferenceList order;
+                for (const StationPtr &station : *e.document.stations())
+                    order.insert(order.begin(), {u"1"_s, station->stationName(), u"--"_s});
+                applyReferenceOrder(*e.document.stations(), order); // the rows keep their order
+                e.outlets.selectRows({0});
+                e.controller.skipSelectedItems();
+            },
+            u"0:3-0:3"_s);
         row(
             "one up", {}, [](Editor &e) { e.controller.moveElements(3, 1, 2); },
             u"3-3>1 1:0-3:0"_s);

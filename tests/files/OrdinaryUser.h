@@ -39,10 +39,11 @@ public:
         return ::geteuid() != 0;
     }
 
-    /// Makes the file or folder that user's; before the change.
+    /// Makes the file or folder that user's, in the group it is in; before the change.
     static bool own(const QString &path)
     {
-        return ::geteuid() != 0 || ::chown(QFile::encodeName(path).constData(), id, id) == 0;
+        return ::geteuid() != 0 ||
+               ::chown(QFile::encodeName(path).constData(), id, static_cast<gid_t>(-1)) == 0;
     }
 
 private:

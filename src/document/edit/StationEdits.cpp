@@ -2,6 +2,8 @@
 
 #include <QSet>
 
+#include <algorithm>
+
 namespace quillet {
 
 bool isSet(const LGStation &station, StationFlag flag)
@@ -22,6 +24,16 @@ void setFlag(const StationList &stations, StationFlag flag, bool set)
 bool toggledFlag(const StationList &stations, StationFlag flag)
 {
     return !isSet(*stations.front(), flag);
+}
+
+bool areIn(const StationList &list, const StationList &stations)
+{
+    QSet<const LGStation *> held;
+    held.reserve(static_cast<qsizetype>(list.size()));
+    for (const StationPtr &station : list)
+        held.insert(station.get());
+    return std::all_of(stations.begin(), stations.end(),
+                       [&held](const StationPtr &station) { return held.contains(station.get()); });
 }
 
 std::vector<ListStretch> placesOf(const StationList &stations, const StationList &list)

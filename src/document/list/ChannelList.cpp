@@ -1,6 +1,6 @@
 #include "document/list/ChannelList.h"
 
-#include "document/list/FileWords.h"
+#include "model/FileWords.h"
 #include "support/TextConversion.h"
 #include "xml/NodeViews.h"
 

@@ -1,6 +1,6 @@
 #include "document/list/FileLayout.h"
 
-#include "document/list/FileWords.h"
+#include "model/FileWords.h"
 
 namespace quillet {
 

@@ -154,7 +154,7 @@ bool contradictsDeclaration(const FileText &text)
     if (text.encoding() != TextEncoding::Utf8)
         return false;
     const std::optional<QString> declared = declaredEncoding(text);
-    if (!declared || declared->compare(QLatin1String("utf-8"), Qt::CaseInsensitive) == 0)
+    if (!declared || declared->toLower().remove(u'-') == QLatin1String("utf8"))
         return false;
     const auto isBeyondASCII = [](char c) { return static_cast<unsigned char>(c) >= 0x80; };
     const QByteArray &bytes = text.bytes();

@@ -1,6 +1,6 @@
 #include "document/list/SectionItems.h"
 
-#include "document/list/FileWords.h"
+#include "model/FileWords.h"
 
 #include <algorithm>
 

@@ -23,7 +23,7 @@ struct FiledStation
     FilePlace place;
 };
 
-/// The eight station lists of a document: one for each source and mode. Owned by the document.
+/// The eight station lists of a channel list: one for each source and mode.
 class StationLists
 {
 public:

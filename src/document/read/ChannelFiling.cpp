@@ -1,6 +1,6 @@
 #include "document/read/ChannelFiling.h"
 
-#include "document/list/FileWords.h"
+#include "model/FileWords.h"
 #include "model/LGLegacyStation.h"
 #include "support/LenientNumber.h"
 

@@ -1,8 +1,8 @@
 #include "document/read/ListReading.h"
 
-#include "document/list/FileWords.h"
 #include "document/list/SectionItems.h"
 #include "document/read/ChannelFiling.h"
+#include "model/FileWords.h"
 #include "xml/XMLDictionaryParser.h"
 
 #include <memory>

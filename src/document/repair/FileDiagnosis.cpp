@@ -1,11 +1,11 @@
 #include "document/repair/FileDiagnosis.h"
 
 #include "document/list/ChannelList.h"
-#include "document/list/FileWords.h"
 #include "document/list/SectionItems.h"
 #include "document/read/ListReading.h"
 #include "document/repair/MixedEncoding.h"
 #include "document/repair/TextMending.h"
+#include "model/FileWords.h"
 
 #include <algorithm>
 

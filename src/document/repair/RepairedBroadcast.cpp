@@ -1,9 +1,12 @@
 #include "document/repair/RepairedBroadcast.h"
 
 #include "document/list/ChannelList.h"
+#include "document/repair/StationSpans.h"
 #include "document/write/BroadcastWriting.h"
+#include "model/FileWords.h"
 
 #include <algorithm>
+#include <array>
 #include <unordered_map>
 
 namespace quillet {
@@ -36,6 +39,48 @@ void placeInOrder(const StationList &stations, Places &places, std::vector<Value
         channels[own[i]] = listed[i]->entry();
 }
 
+std::vector<ElementSpan> elementsInside(const QByteArray &text, std::vector<QByteArray> path)
+{
+    path.emplace_back();
+    return elementSpans(text, path);
+}
+
+/// The elements, comments and processing instructions in a stretch of text that is to be written
+/// anew, in their order.
+QByteArray markupIn(const QByteArray &text, const TextSpan &span,
+                    const std::vector<ElementSpan> &elements)
+{
+    struct Kind
+    {
+        QByteArrayView start, end;
+        bool isKept;
+    };
+    constexpr std::array kinds{Kind{"<!--", "-->", true}, Kind{"<![CDATA[", "]]>", false},
+                               Kind{"<?", "?>", true}};
+    QByteArray markup;
+    auto element = elements.begin();
+    for (qsizetype at = text.indexOf('<', span.start); at >= 0 && at < span.end;
+         at = text.indexOf('<', at)) {
+        TextSpan found{at, at + 1};
+        bool isKept = false;
+        for (const Kind &kind : kinds) {
+            if (!QByteArrayView(text).sliced(at).startsWith(kind.start))
+                continue;
+            const qsizetype end = text.indexOf(kind.end, at + kind.start.size());
+            found.end = end < 0 ? span.end : end + kind.end.size();
+            isKept = kind.isKept;
+        }
+        if (element != elements.end() && element->whole.start == at) {
+            found = element->whole;
+            isKept = (element++)->isClosed;
+        }
+        if (isKept)
+            markup += found.in(text);
+        at = found.end;
+    }
+    return markup;
+}
+
 } // namespace
 
 QByteArray repairedJSON(const ChannelList &list)
@@ -55,6 +100,29 @@ QByteArray repairedJSON(const ChannelList &list)
             placeInOrder(*stations, places, channels);
     }
     return jsonWithChannels(list.broadcast, std::move(channels));
+}
+
+QByteArray repairedChannels(const ChannelList &list, const QByteArray &text)
+{
+    const std::vector<QByteArray> path{{},
+                                       fileword::channel.bytes().toByteArray(),
+                                       fileword::legacyBroadcast.bytes().toByteArray()};
+    const std::vector<ElementSpan> spans = elementSpans(text, path);
+    if (!list.broadcast.legacyDict || spans.empty())
+        return text;
+    const std::vector<ElementSpan> inside = elementsInside(text, path);
+    if (!spans.front().isClosed && !inside.empty())
+        return text; // where the JSON goes on behind them is not known
+    TextSpan json = spans.front().content;
+    if (!spans.front().isClosed) { // then it ended at whatever tag came next
+        const qsizetype tag = text.indexOf('<', json.start);
+        json.end = tag < 0 ? text.size() : tag;
+        if (json.in(text).trimmed().isEmpty())
+            return text; // a CDATA block without an end
+    }
+    const QByteArray markup = markupIn(text, json, inside);
+    return text.first(json.start) + replaceBadChars(repairedJSON(list)) + markup +
+           text.sliced(json.end);
 }
 
 } // namespace quillet

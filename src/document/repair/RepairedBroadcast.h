@@ -12,4 +12,8 @@ struct ChannelList;
 /// nothing. Compact, with no "<" in it. Empty when nothing could be decoded.
 [[nodiscard]] QByteArray repairedJSON(const ChannelList &list);
 
+/// The text of the list's file, which is UTF-8, with that JSON in the place of its own. Elements,
+/// comments and processing instructions that stood in it follow behind.
+[[nodiscard]] QByteArray repairedChannels(const ChannelList &list, const QByteArray &text);
+
 } // namespace quillet

@@ -1,11 +1,10 @@
 #include "document/repair/RepairedWriter.h"
 
 #include "document/list/ChannelList.h"
-#include "document/list/FileWords.h"
 #include "document/list/SectionItems.h"
 #include "document/repair/RepairedBroadcast.h"
 #include "document/repair/StationSpans.h"
-#include "document/write/BroadcastWriting.h"
+#include "model/FileWords.h"
 #include "xml/XMLCharacters.h"
 #include "xml/XMLDictionaryParser.h"
 #include "xml/XMLWriter.h"
@@ -259,31 +258,6 @@ QByteArray repairedStations(const ChannelList &list, const QByteArray &text)
         replacements.insert(replacements.end(), ofThis.begin(), ofThis.end());
     }
     return replaced(text, std::move(replacements));
-}
-
-QByteArray repairedChannels(const ChannelList &list, const QByteArray &text)
-{
-    const std::vector<QByteArray> path{{},
-                                       fileword::channel.bytes().toByteArray(),
-                                       fileword::legacyBroadcast.bytes().toByteArray()};
-    const std::vector<ElementSpan> spans = elementSpans(text, path);
-    if (!list.broadcast.legacyDict || spans.empty())
-        return text;
-    TextSpan json = spans.front().content;
-    if (!spans.front().isClosed) { // then it ended at whatever tag came next
-        const qsizetype tag = text.indexOf('<', json.start);
-        json.end = tag < 0 ? text.size() : tag;
-        if (json.in(text).trimmed().isEmpty())
-            return text; // a CDATA block without an end
-    }
-    QByteArray content = replaceBadChars(repairedJSON(list));
-    std::vector<QByteArray> pathInside = path;
-    pathInside.emplace_back();
-    for (const ElementSpan &element : elementSpans(text, pathInside)) {
-        if (element.isClosed && element.whole.end <= json.end)
-            content += element.whole.in(text);
-    }
-    return replaced(text, {{json, content}});
 }
 
 /// In the encoding of the file that was read, if it can be told in it, else in UTF-8.

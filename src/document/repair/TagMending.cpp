@@ -1,8 +1,8 @@
 #include "document/repair/TagMending.h"
 
-#include "document/list/FileWords.h"
 #include "document/repair/Mending.h"
 #include "document/repair/TextChanges.h"
+#include "model/FileWords.h"
 #include "xml/EventParser.h"
 
 namespace quillet {

@@ -1,10 +1,10 @@
 #include "document/repair/TextMending.h"
 
-#include "document/list/FileWords.h"
 #include "document/repair/CharacterMending.h"
 #include "document/repair/TagMending.h"
 #include "document/repair/TextChanges.h"
 #include "document/repair/TextScanner.h"
+#include "model/FileWords.h"
 #include "xml/EventParser.h"
 #include "xml/XMLCharacters.h"
 

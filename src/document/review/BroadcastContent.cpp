@@ -1,7 +1,7 @@
 #include "document/review/BroadcastContent.h"
 
 #include "document/list/ChannelList.h"
-#include "document/list/FileWords.h"
+#include "model/FileWords.h"
 #include "model/LGLegacyStation.h"
 #include "xml/NodeViews.h"
 

@@ -119,6 +119,8 @@ public:
         --*found;
         return true;
     }
+    /// Whether one that was added is still there, or none could ever take it.
+    bool isLeft(const Dictionary &entry) { return number(entry).isEmpty() || take(entry); }
 
 private:
     [[nodiscard]] QString number(const Dictionary &entry) const
@@ -174,6 +176,7 @@ EntryMatches matchEntries(const std::vector<Dictionary> &expected,
     }
     EntryMatches matches;
     NumberPool mutilated(keys.number);
+    std::vector<const Dictionary *> unlike;
     std::vector<bool> isDoubled(expected.size(), false);
     for (const Dictionary *entry : others) {
         const Dictionary alike = normalized(*entry, keys.edited);
@@ -196,11 +199,16 @@ EntryMatches matchEntries(const std::vector<Dictionary> &expected,
             matches.doubled.push_back(*doubled);
         } else {
             mutilated.add(*entry);
+            unlike.push_back(entry);
         }
     }
     for (std::size_t i = 0; i < expected.size(); ++i) {
         if (!isFound[i])
             (mutilated.take(expected[i]) ? matches.changed : matches.missing).push_back(i);
+    }
+    for (const Dictionary *entry : unlike) {
+        if (mutilated.isLeft(*entry))
+            matches.surplus.push_back(*entry);
     }
     return matches;
 }

@@ -14,10 +14,11 @@ struct EntryMatches
     std::vector<std::size_t> missing; ///< indexes of those expected
     std::vector<std::size_t> changed; ///< the same: there, but not as expected
     std::vector<std::size_t> doubled; ///< the same: there once more, perhaps not as expected
+    std::vector<Dictionary> surplus;  ///< there, but like none of those expected
 
     [[nodiscard]] bool areAll() const
     {
-        return missing.empty() && changed.empty() && doubled.empty();
+        return missing.empty() && changed.empty() && doubled.empty() && surplus.empty();
     }
 };
 

@@ -1,10 +1,10 @@
 #include "document/review/Rehearsal.h"
 
 #include "document/list/ChannelList.h"
-#include "document/list/FileWords.h"
 #include "document/read/ListReading.h"
 #include "document/review/ListContent.h"
 #include "document/review/TextCounts.h"
+#include "model/FileWords.h"
 
 #include <QThreadPool>
 
@@ -86,22 +86,25 @@ void compareNumbers(const ChannelList &list, const ChannelList &again, const Lis
     }
 }
 
-void compareStations(const ChannelList &list, const ChannelList &again, const ListContent &content,
-                     Rehearsal &result)
+/// Returns the stations that are there but like none of the list's.
+std::vector<Dictionary> compareStations(const ChannelList &list, const ChannelList &again,
+                                        const ListContent &content, Rehearsal &result)
 {
-    const EntryMatches matches =
-        matchEntries(content.expected(), content.foundIn(again), content.keys());
+    EntryMatches matches = matchEntries(content.expected(), content.foundIn(again), content.keys());
     count(result.missing, matches.missing, content);
     count(result.doubled, matches.doubled, content);
     count(result.changed, matches.changed, content);
     if (content.areListed() && result.isClean())
         compareNumbers(list, again, content, result.renumbered);
+    return std::move(matches.surplus);
 }
 
 /// What of a damaged file lies behind the damage is in no tree, so there the texts are compared: by
-/// the stations and sections that begin in them.
+/// the stations and sections that begin in them. A writing may bring stations back that were not
+/// read, so those that the list does not know are doubled only if there are more than before.
 void compareDamagedTexts(const ChannelList &list, const ChannelList &again,
-                         const ListContent &content, Rehearsal &result)
+                         const ListContent &content, std::vector<Dictionary> surplus,
+                         Rehearsal &result)
 {
     const QByteArray before = list.text.utf8();
     const QByteArray after = again.text.utf8();
@@ -116,7 +119,9 @@ void compareDamagedTexts(const ChannelList &list, const ChannelList &again,
                            (result.doubled.count - result.missing.count);
     if (more > 0) {
         const qsizetype from = again.parseError ? again.parseError->offset : after.size();
-        for (const Dictionary &entry : stationsBehind(after, from, mostNames)) {
+        const std::vector<Dictionary> behind = stationsBehind(after, from, mostNames);
+        surplus.insert(surplus.end(), behind.begin(), behind.end());
+        for (const Dictionary &entry : surplus) {
             if (result.doubled.names.size() < mostNames)
                 result.doubled.names.append(content.nameOf(entry));
         }
@@ -154,14 +159,18 @@ Rehearsal rehearse(const ChannelList &list, const QByteArray &bytes)
         result.losesSurroundings = after != before;
         return result;
     }
-    compareStations(list, again, *content, result);
+    std::vector<Dictionary> surplus = compareStations(list, again, *content, result);
     result.inexactNumbers = content->inexactNumbers();
     result.mixesEncodings =
         contradictsDeclaration(again.text) && !contradictsDeclaration(list.text);
 
     const bool isWhole = !list.parseError;
-    if (!isWhole)
-        compareDamagedTexts(list, again, *content, result);
+    if (!isWhole) {
+        compareDamagedTexts(list, again, *content, std::move(surplus), result);
+    } else {
+        for (const Dictionary &entry : surplus)
+            count(result.doubled, entry, *content);
+    }
     result.losesSurroundings = result.losesSurroundings || content->losesMembers(again) ||
                                losesSurroundingText(before, after, content->enclosure(), isWhole);
     // Where stations are missing the text may have been read in part only.

@@ -1,9 +1,9 @@
 #include "document/review/SectionContent.h"
 
 #include "document/list/ChannelList.h"
-#include "document/list/FileWords.h"
 #include "document/list/SectionItems.h"
 #include "document/write/TLLWriter.h"
+#include "model/FileWords.h"
 #include "xml/NodeViews.h"
 
 #include <algorithm>

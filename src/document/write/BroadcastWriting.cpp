@@ -1,6 +1,6 @@
 #include "document/write/BroadcastWriting.h"
 
-#include "document/list/FileWords.h"
+#include "model/FileWords.h"
 
 #include <QSet>
 

@@ -1,8 +1,8 @@
 #include "document/write/TLLWriter.h"
 
 #include "document/list/ChannelList.h"
-#include "document/list/FileWords.h"
 #include "document/write/BroadcastWriting.h"
+#include "model/FileWords.h"
 #include "support/TextConversion.h"
 #include "support/Utf8Builder.h"
 

@@ -1,12 +1,16 @@
-#include "files/FilePlace.h"
+#include "files/Places.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
+
+#include <filesystem>
+#include <system_error>
 
 #ifndef Q_OS_WIN
 #include <sys/stat.h>
 #endif
+
+namespace fs = std::filesystem;
 
 namespace quillet {
 
@@ -37,14 +41,24 @@ QString placeToBe(const QFileInfo &info)
 
 } // namespace
 
+std::optional<QString> resolveLinks(const QString &path)
+{
+    fs::path current = QFileInfo(path).filesystemFilePath();
+    std::error_code code;
+    for (int i = 0; i < longestChain && !code; ++i) {
+        if (!fs::is_symlink(current, code))
+            return QFileInfo(current).filePath();
+        current = current.parent_path() / fs::read_symlink(current, code);
+    }
+    return std::nullopt;
+}
+
 QString placeOf(const QString &path)
 {
-    QFileInfo info(path);
+    const QString canonical = QFileInfo(path).canonicalFilePath();
     // A link may lead to a file that is not there.
-    for (int i = 0; i < longestChain && !info.exists() && info.isSymLink(); ++i)
-        info.setFile(info.symLinkTarget());
-    const QString canonical = info.canonicalFilePath();
-    return canonical.isEmpty() ? placeToBe(info) : canonical;
+    return canonical.isEmpty() ? placeToBe(QFileInfo(resolveLinks(path).value_or(path)))
+                               : canonical;
 }
 
 bool samePlace(const QString &a, const QString &b)
@@ -62,25 +76,15 @@ bool samePlace(const QString &a, const QString &b)
     return placeOf(a).compare(placeOf(b), nameCase) == 0;
 }
 
-std::optional<Volume> volumeOf(const QString &path)
+std::optional<quint64> deviceOf(const QString &path)
 {
 #ifdef Q_OS_WIN
     Q_UNUSED(path)
-    return {};
 #else
-    QDir folder(QFileInfo(placeOf(path)).path());
-    const auto status = statusOf(folder.path());
-    if (!status)
-        return {};
-    QString mountPoint = folder.path();
-    while (folder.cdUp()) {
-        const auto above = statusOf(folder.path());
-        if (!above || above->st_dev != status->st_dev)
-            break;
-        mountPoint = folder.path();
-    }
-    return Volume{status->st_dev, mountPoint};
+    if (const auto status = statusOf(QFileInfo(placeOf(path)).path()))
+        return quint64{status->st_dev};
 #endif
+    return {};
 }
 
 bool canBeReplaced(const QString &path)

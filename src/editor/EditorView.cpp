@@ -1,17 +1,13 @@
 #include "editor/EditorView.h"
 
-#include "editor/CheckMarkDelegate.h"
 #include "editor/EmptyDocText.h"
 #include "editor/InfoViewController.h"
-#include "editor/NumberDelegate.h"
-#include "editor/StationColumns.h"
+#include "editor/TableColumns.h"
 #include "editor/TableSelection.h"
-#include "editor/TypedTextDelegate.h"
 #include "framework/Prompts.h"
 #include "ui_EditorView.h"
 
 #include <QDropEvent>
-#include <QHeaderView>
 #include <QItemSelectionModel>
 
 #include <array>
@@ -66,18 +62,7 @@ void EditorView::setUpTable()
     DarkModeTableView &list = *m_ui->list;
     list.setModel(&m_model);
     list.setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed);
-    auto *marks = new CheckMarkDelegate(&list);
-    auto *numbers = new NumberDelegate(&list);
-    auto *names = new TypedTextDelegate(&list);
-    for (std::size_t i = 0; i < stationColumns.size(); ++i) {
-        const ColumnContent content = stationColumns[i].content;
-        if (content == ColumnContent::Skipped || content == ColumnContent::Blocked)
-            list.setItemDelegateForColumn(static_cast<int>(i), marks);
-        else if (content == ColumnContent::Number)
-            list.setItemDelegateForColumn(static_cast<int>(i), numbers);
-        else if (content == ColumnContent::Name)
-            list.setItemDelegateForColumn(static_cast<int>(i), names);
-    }
+    setUpColumns(list);
     list.setDropHandler([this](const TableDrag &drag) { return m_controller.validateDrop(drag); },
                         [this](const TableDrag &drag) { return m_controller.acceptDrop(drag); });
 
@@ -92,21 +77,8 @@ void EditorView::updateFonts()
     m_ui->deviceName->setFont(device);
 
     const QFontMetrics metrics = fontMetrics();
-    DarkModeTableView &list = *m_ui->list;
-    list.verticalHeader()->setDefaultSectionSize(metrics.height() * 3 / 2 + 2);
-    list.setMinimumHeight(metrics.height() * 14); // with room for the hints in an empty list
-    QHeaderView &header = *list.horizontalHeader();
-    header.setMinimumHeight(metrics.height() * 3 / 2 + 4);
-    for (std::size_t i = 0; i < stationColumns.size(); ++i) {
-        const int width = stationColumns[i].width;
-        const auto column = static_cast<int>(i);
-        header.setSectionResizeMode(column,
-                                    width == 0 ? QHeaderView::Stretch : QHeaderView::Interactive);
-        if (width > 0) {
-            header.resizeSection(
-                column, qMax(width * metrics.averageCharWidth(), header.sectionSizeHint(column)));
-        }
-    }
+    sizeColumns(*m_ui->list, metrics);
+    m_ui->list->setMinimumHeight(metrics.height() * 14); // with room for the hints in an empty list
     m_ui->searchText->setMinimumWidth(metrics.averageCharWidth() * 22);
 }
 

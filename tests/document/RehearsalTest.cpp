@@ -1,5 +1,6 @@
 #include "ListText.h"
 
+#include "document/SaveReview.h"
 #include "document/repair/RepairedWriter.h"
 #include "document/review/Rehearsal.h"
 #include "testing/PresetPrompts.h"
@@ -292,6 +293,22 @@ private slots:
         QVERIFY(
             read(document, legacy({u"{\"majorNumber\":1,\"serial\":123456789012345678901}"_s})));
         QCOMPARE(described(rehearse(document.list(), written(document))), u"rounded"_s);
+        TLLDocument other;
+        QVERIFY(read(other, legacy({u"{\"majorNumber\":1,\"a\":1.5,\"b\":2E3}"_s})));
+        QCOMPARE(described(rehearse(other.list(), written(other))), QString());
+    }
+
+    /// Nobody is asked again only where nothing is lost.
+    void offersAlwaysWhereRepairIsClean()
+    {
+        Rehearsal plain, partly;
+        plain.missing.count = 2;
+        partly.missing.count = 1;
+        const auto box = [&plain](const Rehearsal &repaired) {
+            return reviewOfSave({}, plain, repaired, SaveReview::Kind::JSONList).alert.checkBox;
+        };
+        QVERIFY(!box({}).isEmpty());
+        QVERIFY(box(partly).isEmpty());
     }
 
     void latin1DeclaredOverUtf8()

@@ -44,6 +44,14 @@ class TLLDocumentTest : public QObject
     Q_OBJECT
 
 private slots:
+    /// A text that begins with a zero is UTF-16, though the bytes could be UTF-8 as well.
+    void firstByteTellsTheEncoding()
+    {
+        QCOMPARE(FileText::decode(QByteArray("\0<", 2))->encoding(), TextEncoding::Utf16);
+        QCOMPARE(FileText::decode(QByteArray("<\0", 2))->encoding(), TextEncoding::Utf8);
+        QCOMPARE(FileText::decode("\xFE\xFF")->encoding(), TextEncoding::Latin1);
+    }
+
     void filesStations()
     {
         const std::vector<Item> analogue{makeStation(1, u"Old"_s, Analogue),

@@ -203,6 +203,7 @@ private slots:
             editor.controller.setObjectValue(u"1"_s, column, 0);
         QVERIFY(editor.prompts.alerts().empty() && !editor.document.isDirty());
         QCOMPARE(editor.rows(), u"3 C"_s);
+        QCOMPARE(editor.controller.selection().selectedStations(), QStringList{u"3"_s});
 
         // What was selected there selects nothing here.
         editor.controller.clearFilters();

@@ -313,6 +313,7 @@ private slots:
         row("list refused", Fault::AccessList, 0644, true, {NotKept::AccessList}, 0600);
         row("mode refused", Fault::Mode, 0640, false, {NotKept::Permissions}, 0600);
         row("owner refused", Fault::Owner, 06674, false, owners, 0644);
+        row("group without rights refused", Fault::Owner, 0604, false, owners, 0600);
         row("owner of a list refused", Fault::Owner, 0664, true, all, 0600);
     }
     /// Or tells what it could not keep, and then nobody may do more than before.

@@ -39,8 +39,12 @@ void placeInOrder(const StationList &stations, Places &places, std::vector<Value
         channels[own[i]] = listed[i]->entry();
 }
 
-std::vector<ElementSpan> elementsInside(const QByteArray &text, std::vector<QByteArray> path)
+/// The elements in the content of the one at the end of the path. Hardly any has one.
+std::vector<ElementSpan> elementsInside(const QByteArray &text, std::vector<QByteArray> path,
+                                        const TextSpan &content)
 {
+    if (!content.in(text).contains('<'))
+        return {};
     path.emplace_back();
     return elementSpans(text, path);
 }
@@ -110,10 +114,10 @@ QByteArray repairedChannels(const ChannelList &list, const QByteArray &text)
     const std::vector<ElementSpan> spans = elementSpans(text, path);
     if (!list.broadcast.legacyDict || spans.empty())
         return text;
-    const std::vector<ElementSpan> inside = elementsInside(text, path);
-    if (!spans.front().isClosed && !inside.empty())
-        return text; // where the JSON goes on behind them is not known
     TextSpan json = spans.front().content;
+    const std::vector<ElementSpan> inside = elementsInside(text, path, json);
+    if (!spans.front().isClosed && !inside.empty())
+        return text;               // where the JSON goes on behind them is not known
     if (!spans.front().isClosed) { // then it ended at whatever tag came next
         const qsizetype tag = text.indexOf('<', json.start);
         json.end = tag < 0 ? text.size() : tag;

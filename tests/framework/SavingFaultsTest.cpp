@@ -1,5 +1,6 @@
 #include "BytesDocument.h"
 
+#include "files/FileOperations.h"
 #include "files/Places.h"
 #include "testing/PresetPrompts.h"
 #include "testing/TestMain.h"
@@ -160,6 +161,38 @@ private slots:
         QVERIFY(m_prompts->isSettled());
     }
 #endif
+
+    void changeWhileItIsWrittenIsAskedAbout()
+    {
+        /// Somebody else writes the file while the new one is brought onto the disk.
+        class MeddledOperations : public FileOperations
+        {
+        public:
+            QString path;
+            bool sync(QFile &file, QString &reason) override
+            {
+                if (!path.isEmpty())
+                    writeFile(std::exchange(path, {}), "theirs");
+                return FileOperations::sync(file, reason);
+            }
+        };
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("list.tll"));
+        writeFile(path, "old");
+        open(path, "new");
+        MeddledOperations operations;
+        m_document->setFileOperations(operations);
+        for (const bool mayWrite : {false, true}) {
+            writeFile(path, "old");
+            operations.path = path;
+            m_prompts->answerAlert(mayWrite ? QStringLiteral("kSaveAnyway")
+                                            : QStringLiteral("kCancel"));
+            QCOMPARE(save(), mayWrite);
+            QVERIFY(m_prompts->isSettled());
+            QCOMPARE(contentOf(path), QByteArray(mayWrite ? "new" : "theirs"));
+        }
+        QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 1);
+    }
 
     void whatIsNotKeptIsTold()
     {

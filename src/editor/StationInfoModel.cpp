@@ -45,7 +45,8 @@ QVariant StationInfoModel::headerData(int section, Qt::Orientation orientation, 
 
 Qt::ItemFlags StationInfoModel::flags(const QModelIndex &index) const
 {
-    return QAbstractTableModel::flags(index) | Qt::ItemIsEditable | Qt::ItemNeverHasChildren;
+    const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
+    return index.isValid() ? flags | Qt::ItemIsEditable | Qt::ItemNeverHasChildren : flags;
 }
 
 } // namespace quillet

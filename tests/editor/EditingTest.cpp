@@ -1,6 +1,6 @@
 #include "EditorFixture.h"
 
-#include "editor/StationInfo.h"
+#include "editor/StationInfoModel.h"
 #include "support/KXFileLog.h"
 #include "testing/TestFiles.h"
 #include "testing/TestMain.h"
@@ -222,15 +222,20 @@ private slots:
         info.setStation(station);
         station.setStationName(u"New"_s); // does not show in what was opened before
         QCOMPARE(info.title(), u"Name"_s);
+        StationInfoModel cells(info);
+        const QAbstractItemModelTester tester(&cells);
         QStringList lines;
-        for (qsizetype i = 0; i < info.fields().size(); ++i)
-            lines.append(info.fields()[i] + u'=' + info.content(i));
+        for (int row = 0; row < cells.rowCount(); ++row) {
+            const QModelIndex content = cells.index(row, StationInfoModel::Content);
+            lines.append(cells.index(row, StationInfoModel::Field).data().toString() + u'=' +
+                         content.data().toString());
+            QCOMPARE(content.data(Qt::ToolTipRole), content.data()); // a long one is cut off
+            QVERIFY(!cells.setData(content, u"x"_s, Qt::EditRole));
+        }
         QCOMPARE(lines, (QStringList{u"Upper=true"_s, u"_x=1.5"_s, u"empty="_s,
                                      u"nested=<NSDictionary>:\n    <A> = <NSNumber> 1"_s,
                                      u"vchName=Name"_s}));
     }
-
-private:
 };
 
 QUILLET_TEST(EditingTest)

@@ -207,6 +207,9 @@ private slots:
             u"<ATV><ITEM>text</ITEM></ATV><DTV><ITEM><prNum>20</prNum><sourceInd"_s;
         row("cut in the first station, behind an item of text",
             file({}).section(u"</CHANNEL>"_s, 0, 0) + cutBehindText, none, u"doubled 1: 20"_s);
+        QString withEmpty = abc.left(abc.indexOf(u"</DTV>"_s));
+        withEmpty.insert(withEmpty.lastIndexOf(u"<ITEM>"_s), u"<ITEM/><ITEM> </ITEM>"_s);
+        row("cut, with empty items", withEmpty, none, {});
         row("cut in a field without text", abc.left(abc.indexOf(u"<vchName>C"_s)) + u"<vchName>"_s,
             none, u"changed 1: 3"_s);
         row("behind the last station", QString(abc).replace(u"</DTV>"_s, u"<!-- end --></DTV>"_s),

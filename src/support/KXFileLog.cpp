@@ -33,7 +33,10 @@ QString libraryFolder()
 #ifdef Q_OS_MACOS
     return QDir::homePath() + QStringLiteral("/Library");
 #else
-    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    // A relative XDG_DATA_HOME counts as none.
+    return QDir::isAbsolutePath(folder) ? folder
+                                        : QDir::homePath() + QStringLiteral("/.local/share");
 #endif
 }
 
@@ -49,7 +52,7 @@ std::unique_ptr<KXFileLog> KXFileLog::initWithName(const QString &name,
     std::unique_ptr<KXFileLog> log(new KXFileLog);
     log->setDateTimeFormat(QStringLiteral("yyyy-MM-dd HH:mm:ss.SSS"));
     const QString directory = pathToLogDirectory(applicationName);
-    if (createDirectoryIfNecessary(directory) != 0) {
+    if (!QDir::isAbsolutePath(directory) || createDirectoryIfNecessary(directory) != 0) {
         qCWarning(console).noquote()
             << QStringLiteral("couldn't create directory (%1): %2")
                    .arg(directory, QStringLiteral("the path is not a folder or not writable"));

@@ -67,6 +67,20 @@ private slots:
         QVERIFY(!KXFileLog::sharedLogWithName(u"Sub"_s));
     }
 
+    void ignoresAFolderThatIsNotAbsolute()
+    {
+        const QByteArray before = qgetenv("XDG_DATA_HOME");
+        qputenv("XDG_DATA_HOME", "data");
+        QCOMPARE(KXFileLog::pathToLogDirectory(u"LogTest"_s),
+                 QDir::homePath() + u"/.local/share/Logs/LogTest"_s);
+        const QByteArray home = qgetenv("HOME");
+        qputenv("HOME", "home");
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"^couldn't create directory"_s));
+        QVERIFY(!startRun());
+        qputenv("HOME", home);
+        qputenv("XDG_DATA_HOME", before);
+    }
+
     void writesLinesToOpenLogsOnly()
     {
         const QString name = u"Lines"_s;

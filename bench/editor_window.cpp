@@ -15,7 +15,6 @@ int main(int argc, char *argv[])
         quillet::CommandLine::parse({QString::fromLocal8Bit(argv[0])});
 
     const QApplication app(argc, argv);
-    QApplication::setApplicationDisplayName(QStringLiteral("Quillet"));
     QApplication::setDesktopFileName(QStringLiteral("quillet"));
     const quillet::bench::FirstPaint firstPaint;
     quillet::installTranslations();

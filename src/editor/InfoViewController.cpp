@@ -90,7 +90,8 @@ void InfoViewController::setStation(const LGStation &station)
 {
     StationInfo info;
     info.setStation(station);
-    setWindowTitle(info.title());
+    const QString modifiedMark = QStringLiteral("[*]"); // which a title shows when it stands twice
+    setWindowTitle(QString(info.title()).replace(modifiedMark, modifiedMark + modifiedMark));
     m_model = new StationInfoModel(std::move(info), this);
     m_list->setModel(m_model);
     m_list->resizeColumnToContents(StationInfoModel::Field);

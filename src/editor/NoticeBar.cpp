@@ -130,7 +130,7 @@ void NoticeBar::changeEvent(QEvent *event)
 bool NoticeBar::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == m_text && (event->type() == QEvent::Resize || event->type() == QEvent::Show))
-        m_text->setMinimumHeight(m_text->heightForWidth(m_text->width()));
+        m_text->setMinimumHeight(qMax(0, m_text->heightForWidth(m_text->width())));
     return QWidget::eventFilter(watched, event);
 }
 

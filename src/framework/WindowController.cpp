@@ -17,6 +17,17 @@ namespace {
 constexpr char frameNameProperty[] = "frameName";
 constexpr QPoint cascadeStep{24, 24};
 
+/// What follows the document's name in a title where that is the custom. Qt would add it to the
+/// titles of all windows.
+QString programName()
+{
+#ifdef Q_OS_MACOS
+    return {};
+#else
+    return QStringLiteral(" \u2014 ") + QCoreApplication::applicationName();
+#endif
+}
+
 } // namespace
 
 WindowController::WindowController(std::unique_ptr<QMainWindow> window, const QString &frameName)
@@ -51,11 +62,10 @@ void WindowController::synchronizeWindowTitleWithDocumentName()
 {
     if (!m_document)
         return;
-    // The platform adds the program's name where that is the custom.
     const QString mark = QStringLiteral("[*]");
     const QString name = m_document->displayName().replace(mark, mark + mark);
     m_window->setWindowFilePath(m_document->fileUrl().toLocalFile());
-    m_window->setWindowTitle(name + mark);
+    m_window->setWindowTitle(name + mark + programName());
 }
 
 void WindowController::showWindow()

@@ -42,9 +42,10 @@ private slots:
         BytesDocument document;
         document.makeWindowControllers();
         const QMainWindow &window = *document.countingWindow().window();
-        QCOMPARE(window.windowTitle(), QStringLiteral("kUntitled[*]"));
+        const QString program = QStringLiteral(" \u2014 quillet-test");
+        QCOMPARE(window.windowTitle(), QStringLiteral("kUntitled[*]") + program);
         document.setFileUrl(QUrl::fromLocalFile(QStringLiteral("/folder/") + name));
-        QCOMPARE(window.windowTitle(), title);
+        QCOMPARE(window.windowTitle(), title + program);
         QCOMPARE(window.windowFilePath(), QStringLiteral("/folder/") + name);
         document.edit("changed");
         QVERIFY(window.isWindowModified());

@@ -6,7 +6,12 @@ namespace quillet {
 
 void GuideAccess::interceptRequest(QWebEngineUrlRequestInfo &info)
 {
-    if (!mayFetch(info.requestUrl(), m_folder, m_handleLocalURLsInApp))
+    // A page of the local network stands in the window by itself, never within one of the guide,
+    // whose scripts may run.
+    const bool isWithinGuide =
+        info.resourceType() != QWebEngineUrlRequestInfo::ResourceTypeMainFrame &&
+        info.firstPartyUrl().isLocalFile();
+    if (!mayFetch(info.requestUrl(), m_folder, m_handleLocalURLsInApp && !isWithinGuide))
         info.block(true);
 }
 

@@ -4,6 +4,12 @@
 #include "app/help/SystemServices.h"
 
 #include <QMessageBox>
+#include <QWebEngineLoadingInfo>
+#include <QWebEngineQuotaRequest>
+#include <QWebEngineRegisterProtocolHandlerRequest>
+#include <QWebEngineScript>
+#include <QWebEngineScriptCollection>
+#include <QWebEngineSettings>
 #include <QWebEngineView>
 
 namespace quillet {
@@ -11,12 +17,56 @@ namespace quillet {
 GuidePage::GuidePage(QWebEngineProfile &profile, SystemServices &services)
     : QWebEnginePage(&profile), m_services(services)
 {
+    restrictScripts();
+    connect(this, &QWebEnginePage::featurePermissionRequested, this,
+            [this](const QUrl &origin, Feature feature) {
+                setFeaturePermission(origin, feature, PermissionDeniedByUser);
+            });
+    connect(this, &QWebEnginePage::quotaRequested, this,
+            [](QWebEngineQuotaRequest request) { request.reject(); });
+    connect(this, &QWebEnginePage::registerProtocolHandlerRequested, this,
+            [](QWebEngineRegisterProtocolHandlerRequest request) { request.reject(); });
+    connect(this, &QWebEnginePage::loadingChanged, this, &GuidePage::showFailure);
 }
 
-bool GuidePage::acceptNavigationRequest(const QUrl &url, NavigationType, bool)
+/// The engine's own page about it is made by a script.
+void GuidePage::showFailure(const QWebEngineLoadingInfo &loading)
 {
-    if (url.isEmpty() || navigationFor(url, m_handleLocalURLsInApp) == Navigation::Inside)
+    if (loading.isErrorPage() && !loading.url().isLocalFile())
+        setHtml(QStringLiteral("<p>%1</p><p>%2</p>")
+                    .arg(loading.url().toString().toHtmlEscaped(),
+                         loading.errorString().toHtmlEscaped()));
+}
+
+void GuidePage::restrictScripts()
+{
+    using Settings = QWebEngineSettings;
+    for (const auto attribute :
+         {Settings::JavascriptEnabled, Settings::JavascriptCanOpenWindows,
+          Settings::JavascriptCanAccessClipboard, Settings::JavascriptCanPaste,
+          Settings::LocalContentCanAccessRemoteUrls, Settings::PluginsEnabled,
+          Settings::ScreenCaptureEnabled, Settings::WebGLEnabled, Settings::DnsPrefetchEnabled})
+        settings()->setAttribute(attribute, false);
+    settings()->setAttribute(Settings::WebRTCPublicInterfacesOnly, true);
+
+    // Connections from page to page pass every filter of requests by, so there are none.
+    QWebEngineScript script;
+    script.setInjectionPoint(QWebEngineScript::DocumentCreation);
+    script.setWorldId(QWebEngineScript::MainWorld);
+    script.setRunsOnSubFrames(true);
+    script.setSourceCode(
+        QStringLiteral("for (const name of Object.getOwnPropertyNames(window))"
+                       "    if (/^(RTC|webkitRTC|WebTransport)/.test(name)) delete window[name];"));
+    scripts().insert(script);
+}
+
+bool GuidePage::acceptNavigationRequest(const QUrl &url, NavigationType, bool isMainFrame)
+{
+    if (url.isEmpty() || navigationFor(url, m_handleLocalURLsInApp) == Navigation::Inside) {
+        if (isMainFrame)
+            settings()->setAttribute(QWebEngineSettings::JavascriptEnabled, url.isLocalFile());
         return true;
+    }
     m_services.openUrl(url);
     return false;
 }

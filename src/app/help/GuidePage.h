@@ -7,7 +7,8 @@ namespace quillet {
 class SystemServices;
 
 /// A page of the help window: hands links that leave the guide to the system and shows the alerts
-/// of a page's script.
+/// of a page's script. Scripts run in the guide's own pages alone, and reach neither devices, nor
+/// the clipboard, nor other computers.
 class GuidePage : public QWebEnginePage
 {
     Q_OBJECT
@@ -23,6 +24,9 @@ protected:
     void javaScriptAlert(const QUrl &origin, const QString &message) override;
 
 private:
+    void restrictScripts();
+    void showFailure(const QWebEngineLoadingInfo &loading);
+
     SystemServices &m_services;
     bool m_handleLocalURLsInApp = true;
 };

@@ -9,7 +9,6 @@
 #include <QVBoxLayout>
 #include <QWebEngineHistory>
 #include <QWebEngineProfile>
-#include <QWebEngineSettings>
 #include <QWebEngineView>
 
 namespace quillet {
@@ -28,8 +27,10 @@ InAppBrowserController::InAppBrowserController(QWidget &webViewContainer, System
       m_webView(new QWebEngineView), m_page(std::make_unique<GuidePage>(*m_profile, services))
 {
     m_profile->setUrlRequestInterceptor(m_access.get());
-    m_page->settings()->setAttribute(QWebEngineSettings::LocalContentCanAccessRemoteUrls, false);
-    m_page->settings()->setAttribute(QWebEngineSettings::PluginsEnabled, false);
+    m_loadTimer.setSingleShot(true);
+    m_loadTimer.setInterval(loadTimeOut);
+    connect(&m_loadTimer, &QTimer::timeout, m_webView, &QWebEngineView::stop);
+    connect(m_webView, &QWebEngineView::loadFinished, &m_loadTimer, &QTimer::stop);
     m_webView->setPage(m_page.get());
     m_webView->setObjectName(QStringLiteral("webView"));
     auto *whole = new QVBoxLayout(&webViewContainer);
@@ -59,10 +60,7 @@ void InAppBrowserController::reloadHomePage()
     if (m_homeURL.isEmpty())
         return;
     m_webView->load(m_homeURL);
-    QTimer::singleShot(loadTimeOut, m_webView, [this] {
-        if (m_page->isLoading())
-            m_webView->stop();
-    });
+    m_loadTimer.start();
 }
 
 bool InAppBrowserController::canGoBack() const

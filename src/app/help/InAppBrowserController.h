@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QTimer>
 #include <QUrl>
 
 #include <memory>
@@ -30,7 +31,9 @@ public:
 
     /// Makes it the start page and shows it; its pages may load what lies in its folder.
     void loadHomePage(const QUrl &url);
+    /// Gives up after a minute.
     void reloadHomePage();
+    [[nodiscard]] bool isReloading() const { return m_loadTimer.isActive(); }
     /// The start page; empty before there is one.
     [[nodiscard]] const QUrl &homeURL() const { return m_homeURL; }
     /// Where the Chrome browser was when the view was made; none when it was not installed.
@@ -55,6 +58,7 @@ private:
     std::unique_ptr<GuideAccess> m_access;
     std::unique_ptr<QWebEngineProfile> m_profile;
     QWebEngineView *m_webView;
+    QTimer m_loadTimer;                ///< runs while the start page is loaded anew
     std::unique_ptr<GuidePage> m_page; // before the profile it belongs to
 };
 

@@ -6,6 +6,7 @@
 #include <QAction>
 #include <QIcon>
 #include <QPalette>
+#include <QScreen>
 #include <QSettings>
 #include <QToolBar>
 #include <QWebEnginePage>
@@ -42,17 +43,28 @@ constexpr std::array toolbarItems{
                 &InAppBrowserWindow::openInChrome},
 };
 
-/// Has the engine show pages dark where the desktop is dark, which Qt 6.4 does not tell it. It
-/// reads this once, before its first page.
-void followColours(const QPalette &palette)
+// Connections that a page makes to other computers pass every filter of requests by.
+constexpr const char *connectToNobody[]{
+    "--force-webrtc-ip-handling-policy=disable_non_proxied_udp",
+    "--host-resolver-rules=\"MAP * ~NOTFOUND, EXCLUDE 192.168.*\"",
+};
+constexpr const char *showDarkPages = "--force-dark-mode"; // Qt 6.4 does not tell it the desktop's
+
+/// Sets the engine up, which reads this once, before its first page.
+void setEngineUp(const QPalette &palette)
 {
-    const bool isDark = palette.color(QPalette::Window).lightness() <
-                        palette.color(QPalette::WindowText).lightness();
     const char *const variable = "QTWEBENGINE_CHROMIUM_FLAGS";
-    const QByteArray flag = "--force-dark-mode";
-    const QByteArray flags = qgetenv(variable);
-    if (isDark && !flags.contains(flag))
-        qputenv(variable, flags + ' ' + flag);
+    QByteArray flags = qgetenv(variable);
+    const auto add = [&flags](const char *flag) {
+        if (!flags.contains(flag))
+            flags.append(' ').append(flag);
+    };
+    for (const char *flag : connectToNobody)
+        add(flag);
+    if (palette.color(QPalette::Window).lightness() <
+        palette.color(QPalette::WindowText).lightness())
+        add(showDarkPages);
+    qputenv(variable, flags);
 }
 
 } // namespace
@@ -61,7 +73,7 @@ InAppBrowserWindow::InAppBrowserWindow(SystemServices &services)
     : m_services(services), m_controller(nullptr), m_toolbar(addToolBar(qtTrId("kHelpToolbar")))
 {
     setObjectName(QStringLiteral("helpWindow"));
-    followColours(palette());
+    setEngineUp(palette());
     auto *container = new QWidget;
     setCentralWidget(container);
     m_controller = new InAppBrowserController(*container, services, this);
@@ -70,12 +82,23 @@ InAppBrowserWindow::InAppBrowserWindow(SystemServices &services)
     makeToolbar();
     connect(m_controller, &InAppBrowserController::historyChanged, this,
             &InAppBrowserWindow::validateToolbar);
+    connect(&m_controller->webView(), &QWebEngineView::loadFinished, this, [this] {
+        if (isVisible())
+            tell(Event::Shown);
+    });
+    connect(&m_controller->webView(), &QWebEngineView::renderProcessTerminated, this,
+            [this](QWebEnginePage::RenderProcessTerminationStatus status) {
+                if (status != QWebEnginePage::NormalTerminationStatus)
+                    tell(Event::Broken);
+            });
     validateToolbar();
     restoreFrame();
 }
 
 InAppBrowserWindow::~InAppBrowserWindow()
 {
+    if (isVisible())
+        saveFrame();
     delete m_controller; // before the view, which the window's content owns
 }
 
@@ -100,6 +123,7 @@ void InAppBrowserWindow::makeToolbar()
 void InAppBrowserWindow::showPage(const QUrl &page, const QString &title)
 {
     setWindowTitle(title);
+    setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
     raise();
     activateWindow();
@@ -155,13 +179,19 @@ void InAppBrowserWindow::restoreFrame()
 {
     const int line = fontMetrics().height();
     if (!restoreGeometry(QSettings().value(frameKey()).toByteArray()))
-        resize(66 * line, 48 * line);
+        resize(QSize(66 * line, 48 * line).boundedTo(screen()->availableSize()));
+}
+
+void InAppBrowserWindow::saveFrame() const
+{
+    QSettings().setValue(frameKey(), saveGeometry());
 }
 
 void InAppBrowserWindow::closeEvent(QCloseEvent *event)
 {
-    QSettings().setValue(frameKey(), saveGeometry());
+    saveFrame();
     QMainWindow::closeEvent(event);
+    tell(Event::Hidden);
 }
 
 } // namespace quillet

@@ -41,6 +41,7 @@ private:
     void makeToolbar();
     void validateToolbar();
     void restoreFrame();
+    void saveFrame() const;
 
     SystemServices &m_services;
     InAppBrowserController *m_controller;

@@ -14,10 +14,13 @@
 #include <QPointer>
 #include <QSettings>
 #include <QSignalSpy>
+#include <QTcpServer>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QUdpSocket>
 #include <QWebEnginePage>
+#include <QWebEngineScript>
 #include <QWebEngineView>
 #include <qtwebenginequickglobal.h>
 
@@ -101,10 +104,12 @@ public:
         QTest::mouseClick(view().focusProxy(), Qt::LeftButton, {},
                           QPoint(found[0].toInt(), found[1].toInt()));
     }
-    QVariant run(const QString &script)
+    /// In the world of the page's own scripts, or in one where no setting forbids it.
+    QVariant run(const QString &script, quint32 world = QWebEngineScript::MainWorld)
     {
         const auto result = std::make_shared<std::optional<QVariant>>();
-        view().page()->runJavaScript(script, [result](const QVariant &value) { *result = value; });
+        view().page()->runJavaScript(script, world,
+                                     [result](const QVariant &value) { *result = value; });
         if (!QTest::qWaitFor([&result] { return result->has_value(); }, patience))
             return {};
         return **result;
@@ -200,8 +205,10 @@ private slots:
                 QVERIFY(!window.isVisible() && window.show(start) && window.isVisible());
             } else {
                 window.item("goHome").trigger();
+                QVERIFY(window.controller().isReloading());
             }
             QTRY_COMPARE_WITH_TIMEOUT(window.view().url(), start, patience);
+            QTRY_VERIFY_WITH_TIMEOUT(!window.controller().isReloading(), patience);
         }
     }
 
@@ -214,8 +221,13 @@ private slots:
             window.resize(512, 384);
             window.close();
         }
-        const Window again(services);
-        QCOMPARE(again.size(), QSize(512, 384));
+        {
+            Window again(services);
+            QCOMPARE(again.size(), QSize(512, 384));
+            again.QWidget::show();
+            again.resize(640, 400);
+        } // while it is open, as when the program quits
+        QCOMPARE(Window(services).size(), QSize(640, 400));
     }
 
     void handsLinksToTheDesktop_data()
@@ -339,10 +351,88 @@ private slots:
         QVERIFY(window.show(start));
 
         QVERIFY(!window.load(start.resolved(QUrl(address))));
-        const QString text = window.run(QStringLiteral("document.body.innerText")).toString();
+        const QString text =
+            window
+                .run(QStringLiteral("document.body.innerText"), QWebEngineScript::ApplicationWorld)
+                .toString();
         QVERIFY2(!text.contains(QLatin1String("secret")), qPrintable(text));
         QVERIFY2(!text.contains(QLatin1String("root:")), qPrintable(text));
         QVERIFY(window.load(start)); // and works on
+    }
+
+    void runsScriptsOfTheGuideAlone()
+    {
+        const SmallGuide guide;
+        const QByteArray body = "<p>start</p><script>document.body.innerText = 'ran'</script>";
+        const QUrl start = guide.writePage("guide/index.html", body);
+        FakeServices services;
+        Window window(services);
+        for (const auto &[address, text] :
+             {std::pair(start, "ran"),
+              std::pair(QUrl(QStringLiteral("data:text/html,") + QString::fromLatin1(body)),
+                        "start"),
+              std::pair(start, "ran")}) {
+            QVERIFY(address == start ? window.show(start) : window.load(address));
+            const QVariant found = window.run(QStringLiteral("document.body.innerText"),
+                                              QWebEngineScript::ApplicationWorld);
+            QCOMPARE(found.toString(), QLatin1String(text));
+        }
+    }
+
+    void refusesWhatScriptsAskFor()
+    {
+        const SmallGuide guide;
+        const QUrl start = guide.writePage("guide/index.html", R"(<script>
+            var found = [];
+            const note = what => value => found.push(what + (value.code || value.name || value));
+            const refusal = what => error => note(what)(/^Not(Found|Allowed)Error$/.test(error.name)
+                ? 'refused' : error.name);
+            Notification.requestPermission().then(note('notes '));
+            navigator.geolocation.getCurrentPosition(note('place '), note('place '));
+            const devices = navigator.mediaDevices;
+            devices.getUserMedia({audio: true}).then(note('sound '), refusal('sound '));
+            devices.getDisplayMedia({video: true}).then(note('screen '), refusal('screen '));
+            navigator.clipboard.readText().then(note('clipboard '), refusal('clipboard '));
+            found.push(typeof RTCPeerConnection);
+            </script>)");
+        FakeServices services;
+        Window window(services);
+        QVERIFY(window.show(start));
+        QTRY_VERIFY_WITH_TIMEOUT(window.run(QStringLiteral("found.length >= 6")).toBool(),
+                                 patience);
+        QCOMPARE(window.run(QStringLiteral("found.sort().join()")).toString(),
+                 QStringLiteral("clipboard refused,notes denied,place 1,screen refused,"
+                                "sound refused,undefined"));
+    }
+
+    /// The engine has means for that in the window of a fresh frame, too.
+    void connectsToNobody()
+    {
+        QTcpServer computer;
+        QUdpSocket socket;
+        QVERIFY(computer.listen(QHostAddress::LocalHost));
+        QVERIFY(socket.bind(QHostAddress::LocalHost, computer.serverPort()));
+        const SmallGuide guide;
+        const QByteArray place = "127.0.0.1:" + QByteArray::number(computer.serverPort());
+        const QUrl start =
+            guide.writePage("guide/index.html", QByteArray(R"(<iframe id="fresh"></iframe>
+            <script>
+            const Peer = document.getElementById('fresh').contentWindow.RTCPeerConnection;
+            var peer = Peer && new Peer({iceServers: [{urls: 'stun:PLACE'},
+                {urls: ['turn:PLACE', 'turn:PLACE?transport=tcp'], username: 'a', credential: 'b'}
+                ]});
+            if (peer) {
+                peer.createDataChannel('words');
+                peer.createOffer().then(offer => peer.setLocalDescription(offer));
+            }
+            </script>)")
+                                                    .replace("PLACE", place));
+        FakeServices services;
+        Window window(services);
+        QVERIFY(window.show(start));
+        const QString isDone = QStringLiteral("!peer || peer.iceGatheringState === 'complete'");
+        QTRY_VERIFY_WITH_TIMEOUT(window.run(isDone).toBool(), patience);
+        QVERIFY(!computer.hasPendingConnections() && !socket.hasPendingDatagrams());
     }
 
     void showsTheAlertOfAPage()

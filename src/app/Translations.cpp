@@ -1,6 +1,8 @@
 #include "app/Translations.h"
 
 #include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
@@ -16,6 +18,11 @@ QString translatorName()
     return QStringLiteral("texts");
 }
 
+QString textFolder()
+{
+    return QStringLiteral(":/i18n");
+}
+
 void install(const QLocale &locale, const QString &name, const QString &folder)
 {
     auto translator = std::make_unique<QTranslator>();
@@ -28,16 +35,32 @@ void install(const QLocale &locale, const QString &name, const QString &folder)
 
 } // namespace
 
+QStringList textLanguages()
+{
+    QStringList languages;
+    const QStringList names = QDir(textFolder()).entryList({QStringLiteral("quillet_*.qm")});
+    for (const QString &name : names)
+        languages.append(QFileInfo(name).completeBaseName().section(u'_', 1));
+    return languages;
+}
+
+bool hasTexts(const QString &language)
+{
+    const QLocale::Language known = QLocale(language).language();
+    return known != QLocale::C && textLanguages().contains(QLocale::languageToCode(known));
+}
+
 void installTranslations(const QString &language)
 {
     // A translator that is deleted takes itself out of the application object.
     qDeleteAll(qApp->findChildren<QTranslator *>(translatorName(), Qt::FindDirectChildrenOnly));
     const QLocale locale = language.isEmpty() ? QLocale::system() : QLocale(language);
-    const QString texts = QStringLiteral(":/i18n");
     // Texts are looked for in the last one first.
-    install(QLocale(QLocale::English), QStringLiteral("quillet"), texts);
-    install(locale, QStringLiteral("qtbase"), QLibraryInfo::path(QLibraryInfo::TranslationsPath));
-    install(locale, QStringLiteral("quillet"), texts);
+    install(QLocale(QLocale::English), QStringLiteral("quillet"), textFolder());
+    const QString qtsFolder = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+    for (const char *catalogue : {"qtbase", "qtwebengine"})
+        install(locale, QLatin1String(catalogue), qtsFolder);
+    install(locale, QStringLiteral("quillet"), textFolder());
 }
 
 } // namespace quillet

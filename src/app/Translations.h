@@ -1,12 +1,18 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 namespace quillet {
 
-/// Loads the program's texts into the application object: in the given language ("de", "pt_BR"), or
-/// in the system's when it is empty. What a language lacks is shown in English. Takes the place of
-/// the texts loaded before; what is on show keeps the ones it was made with.
+/// The languages that the program has texts in ("de", "en", …), in order.
+[[nodiscard]] QStringList textLanguages();
+/// Whether it has texts for readers of that language ("de", "de_AT").
+[[nodiscard]] bool hasTexts(const QString &language);
+
+/// Loads the program's texts and Qt's own into the application object: in the given language, or in
+/// the system's when it is empty. What a language lacks is shown in English. Takes the place of the
+/// texts loaded before; what is on show keeps the ones it was made with.
 void installTranslations(const QString &language = {});
 
 } // namespace quillet

@@ -1,14 +1,17 @@
 #include "AppFixture.h"
 
+#include "app/Translations.h"
 #include "document/SaveReview.h"
 #include "editor/EditorView.h"
 #include "testing/TestMain.h"
 
 #include <QAccessible>
 #include <QAction>
+#include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPushButton>
 #include <QSettings>
 #include <QTest>
 #include <QTimer>
@@ -131,6 +134,27 @@ private slots:
             ++controls;
         }
         QVERIFY(controls >= 10);
+    }
+
+    /// Those of Qt come from a package of their own.
+    void textsOfQtFollowTheLanguage_data()
+    {
+        QTest::addColumn<QString>("close");
+        const std::pair<const char *, const char16_t *> words[]{
+            {"de", u"Schließen"}, {"en", u"Close"},   {"es", u"Cerrar"},  {"fr", u"Fermer"},
+            {"it", u"Chiudi"},    {"nl", u"Sluiten"}, {"pl", u"Zamknij"}, {"tr", u"Kapat"}};
+        for (const auto &[language, close] : words)
+            QTest::newRow(language) << QString::fromUtf16(close);
+        QCOMPARE(std::size(words), static_cast<std::size_t>(textLanguages().size()));
+    }
+    void textsOfQtFollowTheLanguage()
+    {
+        QFETCH(QString, close);
+        installTranslations(QString::fromLatin1(QTest::currentDataTag()));
+        const QDialogButtonBox box(QDialogButtonBox::Close);
+        const QString text = box.button(QDialogButtonBox::Close)->text().remove(u'&');
+        installTranslations();
+        QCOMPARE(text, close);
     }
 
     void fileThatDoesNotOpenLeavesAnEmptyWindow()

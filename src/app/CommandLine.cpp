@@ -1,46 +1,92 @@
 #include "app/CommandLine.h"
 
+#include "app/PlatformOptions.h"
+#include "app/Translations.h"
+
 #include <QCommandLineParser>
 
 namespace quillet {
 
+namespace {
+
+struct Option
+{
+    const char *names; ///< apart by commas
+    const char *value; ///< what it is called; null: none is taken
+    const char *description;
+};
+
+constexpr Option languageOption{"language", "language",
+                                "Show the texts in <language>, for example \"de\"."};
+constexpr Option snapshotOption{
+    "snapshot", "picture",
+    "Save a picture of the window that shows FILE as <picture> (PNG) and end. "
+    "Needs no display."};
+constexpr Option darkOption{"dark", nullptr, "Use dark colours, whatever the desktop's are."};
+constexpr Option helpOption{"h,help", nullptr, "Show this help."};
+constexpr Option allHelpOption{"help-all", nullptr, "Show this help and Qt's own options."};
+constexpr Option versionOption{"v,version", nullptr, "Show the program's version."};
+
+QCommandLineOption made(const Option &option)
+{
+    return {QString::fromLatin1(option.names).split(u','), QString::fromLatin1(option.description),
+            QString::fromLatin1(option.value)};
+}
+
+QString firstName(const Option &option)
+{
+    return QString::fromLatin1(option.names).section(u',', 0, 0);
+}
+
+QString helpText(const QCommandLineParser &parser)
+{
+    // The parser only knows the name of the program once there is an application object.
+    return parser.helpText().replace(QLatin1String("<executable_name>"), QLatin1String("quillet"));
+}
+
+/// What is wrong with options that the parser has taken; empty: nothing.
+QString problem(const QCommandLineParser &parser)
+{
+    const QString chosen = parser.value(firstName(languageOption));
+    if (parser.isSet(firstName(languageOption)) && !hasTexts(chosen))
+        return QStringLiteral("There are no texts in the language \"%1\", only in %2.")
+            .arg(chosen, textLanguages().join(QLatin1String(", ")));
+    if (!parser.isSet(firstName(snapshotOption)))
+        return {};
+    if (parser.value(firstName(snapshotOption)).isEmpty())
+        return QStringLiteral("--snapshot needs the name of a picture.");
+    if (parser.positionalArguments().size() > 1)
+        return QStringLiteral("--snapshot shows one file only.");
+    return {};
+}
+
+} // namespace
+
 CommandLine CommandLine::parse(const QStringList &arguments)
 {
+    const PlatformOptions platform = takePlatformOptions(arguments);
     QCommandLineParser parser;
+    parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     parser.setApplicationDescription(
         QStringLiteral("Edits the channel lists (TLL files) of LG television sets."));
-    const QCommandLineOption help = parser.addHelpOption();
-    const QCommandLineOption version = parser.addVersionOption();
-    const QCommandLineOption snapshot(
-        QStringLiteral("snapshot"),
-        QStringLiteral("Save a picture of the window that shows FILE as <picture> (PNG) and end. "
-                       "Needs no display."),
-        QStringLiteral("picture"));
-    const QCommandLineOption dark(QStringLiteral("dark"),
-                                  QStringLiteral("Make that picture in dark colours."));
-    const QCommandLineOption language(
-        QStringLiteral("language"),
-        QStringLiteral("Show the texts in <language>, for example \"de\"."),
-        QStringLiteral("language"));
-    parser.addOption(language);
-    parser.addOption(snapshot);
-    parser.addOption(dark);
+    for (const Option &option :
+         {helpOption, allHelpOption, versionOption, languageOption, snapshotOption, darkOption})
+        parser.addOption(made(option));
     parser.addPositionalArgument(QStringLiteral("files"), QStringLiteral("Channel lists to open."),
                                  QStringLiteral("[FILE...]"));
 
     CommandLine line;
-    if (!parser.parse(arguments))
-        line.error = parser.errorText();
-    if (parser.isSet(help))
-        line.answer = parser.helpText();
-    else if (parser.isSet(version))
+    line.error = parser.parse(platform.others) ? problem(parser) : parser.errorText();
+    if (parser.isSet(firstName(allHelpOption)))
+        line.answer = helpText(parser) + u'\n' + platformOptionsText();
+    else if (parser.isSet(firstName(helpOption)))
+        line.answer = helpText(parser);
+    else if (parser.isSet(firstName(versionOption)))
         line.answer = QStringLiteral("Quillet " QUILLET_VERSION "\n");
     line.files = parser.positionalArguments();
-    line.language = parser.value(language);
-    line.snapshot = parser.value(snapshot);
-    line.isDark = parser.isSet(dark);
-    if (!line.snapshot.isEmpty() && line.files.size() > 1)
-        line.error = QStringLiteral("--snapshot shows one file only.");
+    line.language = parser.value(firstName(languageOption));
+    line.snapshot = parser.value(firstName(snapshotOption));
+    line.isDark = parser.isSet(firstName(darkOption));
     return line;
 }
 

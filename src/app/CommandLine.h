@@ -7,12 +7,12 @@
 
 namespace quillet {
 
-/// What the program was asked to do on its command line.
+/// What the program was asked to do on its command line. Qt's own options are left to Qt.
 struct CommandLine
 {
     QStringList files;
     QString snapshot;              ///< the picture to make instead of opening a window; empty: none
-    bool isDark = false;           ///< the picture's appearance
+    bool isDark = false;           ///< dark colours, whatever the desktop's are
     QString language;              ///< of the texts; empty: the system's
     std::optional<QString> answer; ///< a text to print (help, version) instead of anything else
     QString error;                 ///< what is wrong with the arguments; empty: nothing

@@ -3,9 +3,14 @@
 #include "app/AppDelegate.h"
 #include "app/LGWindowController.h"
 #include "document/TLLDocument.h"
+#include "files/FileOperations.h"
+#include "files/FileReplacement.h"
+#include "files/Places.h"
 #include "support/KXFileLog.h"
 
 #include <QApplication>
+#include <QBuffer>
+#include <QFile>
 #include <QFileInfo>
 #include <QMainWindow>
 #include <QPalette>
@@ -17,6 +22,20 @@
 namespace quillet {
 
 namespace {
+
+const QByteArray pngSignature("\x89PNG\r\n\x1a\n");
+
+QtMessageHandler printAll = nullptr;
+
+/// Hides what Qt finds wanting in a platform without a display.
+void printWithoutQtsWarnings(QtMsgType type, const QMessageLogContext &context,
+                             const QString &message)
+{
+    const QByteArrayView category(context.category);
+    const bool isQts = category == "default" || category.startsWith("qt.");
+    if (type != QtWarningMsg || !isQts)
+        printAll(type, context, message);
+}
 
 /// Keeps what would have been shown.
 class SilentPrompts : public Prompts
@@ -41,6 +60,17 @@ public:
 
 } // namespace
 
+void useLightPalette()
+{
+    QPalette light(QColor(0xEF, 0xEF, 0xEF), QColor(0xEF, 0xEF, 0xEF));
+    light.setColor(QPalette::Base, Qt::white);
+    light.setColor(QPalette::AlternateBase, QColor(0xF7, 0xF7, 0xF7));
+    light.setColor(QPalette::Highlight, QColor(0x30, 0x8C, 0xC6));
+    light.setColor(QPalette::HighlightedText, Qt::white);
+    light.setColor(QPalette::Link, Qt::blue);
+    QApplication::setPalette(light);
+}
+
 void useDarkPalette()
 {
     QPalette dark(QColor(0x3A, 0x3A, 0x3C), QColor(0x2A, 0x2A, 0x2C));
@@ -50,6 +80,29 @@ void useDarkPalette()
     dark.setColor(QPalette::HighlightedText, Qt::white);
     dark.setColor(QPalette::Link, QColor(0x6E, 0xA8, 0xFF));
     QApplication::setPalette(dark);
+}
+
+void prepareForSnapshot()
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    printAll = qInstallMessageHandler(printWithoutQtsWarnings);
+}
+
+QString snapshotObstacle(const QString &picture)
+{
+    const std::optional<QString> target = resolveLinks(picture);
+    for (const QString &path : {picture, target.value_or(picture)}) {
+        if (path.endsWith(QLatin1String(".tll"), Qt::CaseInsensitive))
+            return QStringLiteral("No picture is written to %1: that is a channel list.").arg(path);
+    }
+    const QFileInfo found(picture);
+    if (!found.exists())
+        return {};
+    QFile file(picture);
+    const bool isPng = found.isFile() && file.open(QIODevice::ReadOnly) &&
+                       file.read(pngSignature.size()) == pngSignature;
+    return isPng ? QString() : QStringLiteral("%1 is there and is no PNG picture.").arg(picture);
 }
 
 QString makeSnapshot(const QString &file, const QString &picture)
@@ -69,8 +122,15 @@ QString makeSnapshot(const QString &file, const QString &picture)
     QMainWindow *window = document->windowControllers().front()->window();
     window->setAttribute(Qt::WA_DontShowOnScreen);
     QApplication::processEvents();
-    if (!window->grab().save(picture, "PNG"))
-        return QStringLiteral("The picture could not be saved: %1").arg(picture);
+    QByteArray png;
+    QBuffer buffer(&png);
+    FileOperations operations;
+    Error error;
+    if (!window->grab().save(&buffer, "PNG") ||
+        !FileReplacement(operations).replace(picture, png, error, [&picture] {
+            return snapshotObstacle(picture).isEmpty();
+        }))
+        return QStringLiteral("The picture could not be saved: %1. %2").arg(picture, error.text());
     return {};
 }
 

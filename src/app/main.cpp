@@ -1,12 +1,12 @@
 #include "app/AppDelegate.h"
 #include "app/CommandLine.h"
+#include "app/Environment.h"
 #include "app/Snapshot.h"
 #include "app/Translations.h"
 #include "framework/QtPrompts.h"
 
 #include <QApplication>
 #include <QIcon>
-#include <QRegularExpression>
 
 #include <cstdio>
 
@@ -22,52 +22,70 @@ QIcon applicationIcon()
     return icon;
 }
 
-} // namespace
+enum ExitCode { Succeeded, Failed, Misused };
 
-int main(int argc, char *argv[])
+constexpr char usage[] = "usage: quillet [FILE...]\n"
+                         "       quillet --snapshot <picture> [FILE]\n"
+                         "       quillet --help\n";
+
+int fail(ExitCode code, const QString &problem)
 {
-    QCoreApplication::setApplicationName(QStringLiteral("Quillet"));
-    QCoreApplication::setOrganizationName(QStringLiteral("Quillet"));
-    QCoreApplication::setApplicationVersion(QStringLiteral(QUILLET_VERSION));
+    std::fprintf(stderr, "quillet: %s\n%s", qPrintable(problem), code == Misused ? usage : "");
+    return code;
+}
 
-    QStringList arguments;
-    for (int i = 0; i < argc; ++i)
-        arguments.append(QString::fromLocal8Bit(argv[i]));
-    // What needs no window is answered before Qt looks for a display.
-    const CommandLine early = CommandLine::parse(arguments);
-    const bool mayBeQts = arguments.indexOf(QRegularExpression(QStringLiteral("-[a-z]+"))) >= 0;
-    if (!early.error.isEmpty() && !mayBeQts) {
-        std::fprintf(stderr, "%s\n", qPrintable(early.error));
-        return 2;
-    }
-    if (early.answer) {
-        std::fputs(qPrintable(*early.answer), stdout);
-        return 0;
-    }
-    if (!early.snapshot.isEmpty() && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+int makePicture(const CommandLine &line)
+{
+    if (line.isDark)
+        useDarkPalette();
+    else
+        useLightPalette();
+    const QString problem = makeSnapshot(line.files.value(0), line.snapshot);
+    return problem.isEmpty() ? Succeeded : fail(Failed, problem);
+}
 
-    QApplication app(argc, argv); // takes Qt's own options out
-    const CommandLine line = CommandLine::parse(QApplication::arguments());
-    if (!line.error.isEmpty()) {
-        std::fprintf(stderr, "%s\n", qPrintable(line.error));
-        return 2;
-    }
-    QApplication::setApplicationDisplayName(QStringLiteral("Quillet"));
-    QApplication::setDesktopFileName(QStringLiteral("quillet"));
-    QApplication::setWindowIcon(applicationIcon());
-    installTranslations(line.language);
-    if (!line.snapshot.isEmpty()) {
-        if (line.isDark)
-            useDarkPalette();
-        const QString problem = makeSnapshot(line.files.value(0), line.snapshot);
-        if (problem.isEmpty())
-            return 0;
-        std::fprintf(stderr, "%s\n", qPrintable(problem));
-        return 1;
-    }
+int edit(const CommandLine &line)
+{
     QtPrompts prompts;
     AppDelegate delegate(prompts);
     delegate.applicationDidFinishLaunching(line.files);
     return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    ignoreRelativeFolders();
+    QCoreApplication::setApplicationName(QStringLiteral("Quillet"));
+    QCoreApplication::setOrganizationName(QStringLiteral("Quillet"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(QUILLET_VERSION));
+
+    // What needs no window is answered before Qt looks for a display.
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    const CommandLine line = CommandLine::parse(arguments);
+    if (!line.error.isEmpty())
+        return fail(Misused, line.error);
+    if (line.answer) {
+        std::fputs(qPrintable(*line.answer), stdout);
+        return Succeeded;
+    }
+    if (!line.snapshot.isEmpty()) {
+        const QString obstacle = snapshotObstacle(line.snapshot);
+        if (!obstacle.isEmpty())
+            return fail(Misused, obstacle);
+        prepareForSnapshot();
+    }
+
+    QApplication app(argc, argv); // takes Qt's own options
+    QApplication::setDesktopFileName(QStringLiteral("quillet"));
+    QApplication::setWindowIcon(applicationIcon());
+    installTranslations(line.language);
+    if (!line.snapshot.isEmpty())
+        return makePicture(line);
+    if (line.isDark)
+        useDarkPalette();
+    return edit(line);
 }

@@ -2,6 +2,7 @@
 
 #include "testing/TestMain.h"
 
+#include <QDir>
 #include <QImage>
 #include <QProcess>
 #include <QTest>
@@ -10,16 +11,22 @@ using namespace quillet::testing;
 
 namespace {
 
-/// Runs the program without a display.
+/// Runs the program without a display and, when given, with other variables in its environment.
 struct Run
 {
-    explicit Run(const QStringList &arguments)
+    using Variables = std::vector<std::pair<QString, QString>>;
+    explicit Run(const QStringList &arguments, const QString &folder = {},
+                 const Variables &variables = {})
     {
         QProcess process;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        for (const char *name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"})
+        for (const char *name :
+             {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY", "XDG_RUNTIME_DIR"})
             environment.remove(QLatin1String(name));
+        for (const auto &[name, value] : variables)
+            environment.insert(name, value);
         process.setProcessEnvironment(environment);
+        process.setWorkingDirectory(folder);
         process.start(QStringLiteral(QUILLET_EXECUTABLE), arguments);
         if (process.waitForFinished(60000) && process.exitStatus() == QProcess::NormalExit)
             code = process.exitCode();
@@ -31,6 +38,8 @@ struct Run
     QByteArray output, errors;
 };
 
+const QString sample = QStringLiteral(QUILLET_SAMPLES "/antenna.tll");
+
 } // namespace
 
 class ExecutableTest : public QObject
@@ -38,39 +47,114 @@ class ExecutableTest : public QObject
     Q_OBJECT
 
 private slots:
+    void answers_data()
+    {
+        QTest::addColumn<int>("code");
+        QTest::addColumn<QByteArray>("output");
+        QTest::addColumn<QByteArray>("errors"); // contained; nothing at all when empty
+
+        const auto row = [](const char *arguments, int code, const char *output,
+                            const char *errors) {
+            QTest::newRow(arguments) << code << QByteArray(output) << QByteArray(errors);
+        };
+        row("--help", 0, "Usage: quillet [options] [FILE...]", "");
+        row("--help-all", 0, "-stylesheet <file>", "");
+        row("--version", 0, "Quillet " QUILLET_VERSION, "");
+        row("-style --help -reverse --stylesheet=a.css --version", 0, "Quillet " QUILLET_VERSION,
+            "");
+        row("-reverse --unknown", 2, "", "'unknown'");
+        row("-geometryy", 2, "", "'geometryy'");
+        row("--language xx a.tll", 2, "", "\"xx\", only in de, en, es");
+        row("--snapshot", 2, "", "--snapshot <picture> [FILE]");
+        row("--snapshot= a.tll", 2, "", "--snapshot <picture> [FILE]");
+        row("--snapshot /nowhere/a.png /nowhere/a.tll", 1, "", "/nowhere/a.tll");
+        row("--snapshot /nowhere/a.png", 1, "", "/nowhere");
+    }
     void answers()
     {
-        const struct
-        {
-            const char *arguments;
-            int code;
-            const char *output, *errors; ///< contained; nothing at all when empty
-        } cases[]{{"--help", 0, "--snapshot", ""},
-                  {"--version", 0, "Quillet " QUILLET_VERSION, ""},
-                  {"--unknown", 2, "", "unknown"},
-                  {"--snapshot /nowhere/a.png /nowhere/a.tll", 1, "", "/nowhere/a.tll"}};
-        for (const auto &[arguments, code, output, errors] : cases) {
-            const Run run(QString::fromLatin1(arguments).split(QLatin1Char(' ')));
-            QVERIFY2(run.code == code, arguments);
-            QVERIFY2(run.output.contains(output), run.output.constData());
-            QVERIFY2(run.errors.contains(errors), run.errors.constData());
-            QCOMPARE(run.output.isEmpty(), QByteArray(output).isEmpty());
-        }
+        QFETCH(int, code);
+        QFETCH(QByteArray, output);
+        QFETCH(QByteArray, errors);
+        const QString arguments = QString::fromLatin1(QTest::currentDataTag());
+        const Run run(arguments.split(QLatin1Char(' ')));
+        QVERIFY2(run.code == code, run.errors.constData());
+        QVERIFY2(run.output.contains(output), run.output.constData());
+        QVERIFY2(run.errors.contains(errors), run.errors.constData());
+        QCOMPARE(run.output.isEmpty(), output.isEmpty());
+        QCOMPARE(run.errors.startsWith("quillet: "), !errors.isEmpty());
     }
 
     void snapshot()
     {
         const QTemporaryDir folder;
         const QString path = folder.filePath(QStringLiteral("a.png"));
-        const Run run(
-            {QStringLiteral("--snapshot"), path, QStringLiteral(QUILLET_SAMPLES "/antenna.tll")});
+        int lightness = 0;
+        for (const bool isDark : {true, false}) { // the second in the place of the first
+            QStringList arguments{QStringLiteral("--snapshot"), path, sample};
+            if (isDark)
+                arguments.prepend(QStringLiteral("--dark"));
+            const Run run(arguments);
+            QVERIFY2(run.code == 0 && run.errors.isEmpty(), run.errors.constData());
+            const QImage image(path);
+            QVERIFY(image.width() > 500 && image.width() < 2500);
+            QVERIFY(image.height() > 300 && image.height() < 2000);
+            QImage blank(image.size(), image.format());
+            blank.fill(image.pixelColor(1, 1));
+            QVERIFY(image != blank);
+            QVERIFY(image.pixelColor(1, 1).lightness() > lightness + 20);
+            lightness = image.pixelColor(1, 1).lightness() + 100;
+        }
+    }
+
+    void neverPaintsOverAList_data()
+    {
+        QTest::addColumn<QString>("picture");
+        for (const char *name : {"list.TLL", "new.Tll", "notes.txt", "empty.png", "link.png", "."})
+            QTest::newRow(name) << QString::fromLatin1(name);
+    }
+    void neverPaintsOverAList()
+    {
+        QFETCH(QString, picture);
+        const QTemporaryDir folder;
+        const QString list = folder.filePath(QStringLiteral("list.TLL"));
+        QVERIFY(QFile::copy(sample, list));
+        writeFile(folder.filePath(QStringLiteral("notes.txt")), "PNG");
+        writeFile(folder.filePath(QStringLiteral("empty.png")), {});
+        QVERIFY(QFile::link(folder.filePath(QStringLiteral("later.tll")),
+                            folder.filePath(QStringLiteral("link.png"))));
+        const QStringList before = QDir(folder.path()).entryList(QDir::AllEntries | QDir::System);
+        const Run run({QStringLiteral("--snapshot"), picture, sample}, folder.path());
+        QCOMPARE(run.code, 2);
+        QVERIFY2(run.errors.startsWith("quillet: ") && run.errors.contains("usage: "),
+                 run.errors.constData());
+        QCOMPARE(QDir(folder.path()).entryList(QDir::AllEntries | QDir::System), before);
+        QCOMPARE(contentOf(list), contentOf(sample));
+        QCOMPARE(contentOf(folder.filePath(QStringLiteral("notes.txt"))), QByteArray("PNG"));
+    }
+
+    /// The logs go elsewhere or nowhere.
+    void needsNoFolderOfItsOwn_data()
+    {
+        QTest::addColumn<QString>("home");
+        QTest::addColumn<QString>("data");
+        QTest::newRow("not absolute") << QStringLiteral("home") << QStringLiteral("data");
+        QTest::newRow("none") << QString() << QString();
+        QTest::newRow("a file") << QStringLiteral("/dev/null") << QStringLiteral("/dev/null");
+        QTest::newRow("not there") << QStringLiteral("/proc/no") << QStringLiteral("/proc/no");
+    }
+    void needsNoFolderOfItsOwn()
+    {
+        QFETCH(QString, home);
+        QFETCH(QString, data);
+        const QTemporaryDir folder;
+        const Run run({QStringLiteral("--snapshot"), QStringLiteral("a.png"), sample},
+                      folder.path(),
+                      {{QStringLiteral("HOME"), home},
+                       {QStringLiteral("XDG_CONFIG_HOME"), data},
+                       {QStringLiteral("XDG_DATA_HOME"), data}});
         QVERIFY2(run.code == 0, run.errors.constData());
-        const QImage image(path);
-        QVERIFY(image.width() > 500 && image.width() < 2500);
-        QVERIFY(image.height() > 300 && image.height() < 2000);
-        QImage blank(image.size(), image.format());
-        blank.fill(image.pixelColor(1, 1));
-        QVERIFY(image != blank);
+        QCOMPARE(QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+                 QStringList{QStringLiteral("a.png")});
     }
 };
 

@@ -7,12 +7,15 @@
 #include "document/repair/FileDiagnosis.h"
 #include "editor/EditorView.h"
 
+#include <QEventLoop>
 #include <QFileInfo>
 #include <QFileOpenEvent>
 #include <QGuiApplication>
 #include <QMainWindow>
+#include <QSessionManager>
 #include <QUrl>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace quillet {
@@ -26,6 +29,8 @@ AppDelegate::AppDelegate(Prompts &prompts, QObject *parent)
     connect(
         &m_documents, &DocumentController::lastDocumentClosed, this,
         [] { QCoreApplication::exit(); }, Qt::QueuedConnection);
+    connect(qApp, &QGuiApplication::commitDataRequest, this, &AppDelegate::commitData,
+            Qt::DirectConnection);
     qApp->installEventFilter(this);
 }
 
@@ -99,15 +104,57 @@ void AppDelegate::showHelpWindow()
 
 void AppDelegate::terminate()
 {
+    askAndQuit([](bool) {});
+}
+
+bool AppDelegate::terminateNow()
+{
+    struct Answer
+    {
+        QEventLoop waiting;
+        std::optional<bool> closed;
+    };
+    const auto answer = std::make_shared<Answer>();
+    askAndQuit([answer](bool closed) {
+        answer->closed = closed;
+        answer->waiting.quit();
+    });
+    if (!answer->closed)
+        answer->waiting.exec();
+    return answer->closed.value_or(false);
+}
+
+void AppDelegate::commitData(QSessionManager &session)
+{
+    commitEditing();
+    const auto &documents = m_documents.documents();
+    const bool isClean = std::none_of(documents.begin(), documents.end(), [](const auto &each) {
+        return each->hasUnautosavedChanges();
+    });
+    if (isClean || !session.allowsInteraction())
+        return;
+    if (!terminateNow())
+        session.cancel();
+    session.release();
+}
+
+void AppDelegate::commitEditing()
+{
     for (const auto &document : m_documents.documents()) {
         for (const auto &controller : document->windowControllers()) {
             if (auto *window = qobject_cast<LGWindowController *>(controller.get()))
                 window->editor().commitEditing();
         }
     }
-    m_documents.closeAllDocuments([](bool closed) {
+}
+
+void AppDelegate::askAndQuit(const std::function<void(bool)> &done)
+{
+    commitEditing();
+    m_documents.closeAllDocuments([done](bool closed) {
         if (closed)
             QCoreApplication::exit(); // quit() would ask every window once more
+        done(closed);
     });
 }
 

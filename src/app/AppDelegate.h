@@ -8,7 +8,10 @@
 #include <QObject>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
+
+class QSessionManager;
 
 namespace quillet {
 
@@ -40,8 +43,10 @@ public:
     void showHelpWindow();
     /// The help window; null until help was first shown.
     [[nodiscard]] HelpBrowser *inAppBrowserWindow() const { return m_inAppBrowserWindow.get(); }
-    /// Asks about unsaved changes, then quits.
+    /// Asks about unsaved changes, then quits. Does nothing while that is being asked.
     void terminate();
+    /// The same, but returns only when the questions are answered: whether the program ends.
+    [[nodiscard]] bool terminateNow();
 
 protected:
     /// Files that the platform hands to the running program, and its wish to quit.
@@ -49,6 +54,12 @@ protected:
 
 private:
     [[nodiscard]] std::unique_ptr<TLLDocument> makeDocument();
+    /// Takes over what is being typed.
+    void commitEditing();
+    /// Has the questions answered before the person logs out, as far as the session lets us ask.
+    void commitData(QSessionManager &session);
+    /// Asks, then quits; `done` gets whether.
+    void askAndQuit(const std::function<void(bool)> &done);
 
     DesktopServices m_desktop;
     SystemServices *m_services = &m_desktop;

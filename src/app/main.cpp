@@ -2,6 +2,7 @@
 #include "app/CommandLine.h"
 #include "app/Environment.h"
 #include "app/Snapshot.h"
+#include "app/TerminationSignals.h"
 #include "app/Translations.h"
 #include "framework/QtPrompts.h"
 
@@ -48,6 +49,9 @@ int edit(const CommandLine &line)
 {
     QtPrompts prompts;
     AppDelegate delegate(prompts);
+    const TerminationSignals termination;
+    QObject::connect(&termination, &TerminationSignals::received, &delegate,
+                     &AppDelegate::terminate);
     delegate.applicationDidFinishLaunching(line.files);
     return QApplication::exec();
 }

@@ -1,5 +1,6 @@
 #include "AppFixture.h"
 
+#include "app/TerminationSignals.h"
 #include "app/Translations.h"
 #include "document/SaveReview.h"
 #include "editor/EditorView.h"
@@ -13,8 +14,11 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QSettings>
+#include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
+
+#include <csignal>
 
 using namespace quillet;
 using namespace quillet::testing;
@@ -80,15 +84,28 @@ private slots:
         app.preset.answerAlert(label("kMovingOK"), QStringLiteral("1"));
         menuItem(*window, "moveItemsToClicked").trigger();
         QTRY_VERIFY(window->isWindowModified());
-        app.preset.answerAlert(label("kCancel"));
+        // Whatever asks for it, there is one question.
+        const TerminationSignals termination;
+        QSignalSpy received(&termination, &TerminationSignals::received);
+        connect(&termination, &TerminationSignals::received, &app.delegate,
+                &AppDelegate::terminate);
+        for (const int number : {SIGTERM, SIGINT, SIGHUP})
+            QCOMPARE(std::raise(number), 0);
+        QTRY_COMPARE(received.size(), 3);
         menuItem(*window, "terminate").trigger();
+        QVERIFY(!app.delegate.terminateNow());
+        QCOMPARE(app.preset.alerts().size(), std::size_t{2}); // with the one of the move
+        app.preset.answerAlert(label("kCancel"));
         QTRY_VERIFY(app.preset.isSettled());
-        QVERIFY(window->isVisible());
+        app.preset.answerAlert(label("kCancel"));
+        QVERIFY(!app.delegate.terminateNow() && window->isVisible());
 
         app.preset.answerAlert(label("kDontSave"));
-        QTimer::singleShot(0, window, [window] { menuItem(*window, "terminate").trigger(); });
+        bool isEnding = false;
+        QTimer::singleShot(0, window, [&] { isEnding = app.delegate.terminateNow(); });
         QTimer::singleShot(30000, &app.delegate, [] { QCoreApplication::exit(1); });
         QCOMPARE(QApplication::exec(), 0);
+        QVERIFY(isEnding);
         QVERIFY(app.preset.isSettled() && app.delegate.documents().documents().empty());
         QCOMPARE(contentOf(app.folder.filePath(QStringLiteral("a.tll"))), listOf(3));
     }

@@ -3,6 +3,7 @@
 #include "app/HelpLoader.h"
 #include "app/LGWindowController.h"
 #include "app/MainMenu.h"
+#include "app/help/HelpProcess.h"
 #include "document/TLLDocument.h"
 #include "document/repair/FileDiagnosis.h"
 #include "editor/EditorView.h"
@@ -94,8 +95,10 @@ void AppDelegate::showHelpWindow()
         return;
     const QUrl page = QUrl::fromLocalFile(*resources + QLatin1String("/User-Guide/index.html"));
     std::printf("url = %s\n", qUtf8Printable(page.toString(QUrl::FullyEncoded)));
-    if (!m_inAppBrowserWindow)
-        m_inAppBrowserWindow = loadHelpBrowser(*m_services);
+    std::fflush(stdout);
+    if (!m_inAppBrowserWindow && helpModule())
+        m_inAppBrowserWindow = std::make_unique<HelpProcess>(
+            QCoreApplication::applicationFilePath(), m_helpArguments, *m_services);
     if (m_inAppBrowserWindow)
         m_inAppBrowserWindow->showPage(page, qtTrId("HELP_TITLE"));
     else

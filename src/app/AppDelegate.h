@@ -41,7 +41,9 @@ public:
     /// Shows the start page of the user guide, in the help window or, when the program came without
     /// that, in the default browser. Does nothing without the guide.
     void showHelpWindow();
-    /// The help window; null until help was first shown.
+    /// What the program is started with to be the process of the help window.
+    void setHelpArguments(const QStringList &arguments) { m_helpArguments = arguments; }
+    /// The help window, which lives in a process of its own; null until help was first shown.
     [[nodiscard]] HelpBrowser *inAppBrowserWindow() const { return m_inAppBrowserWindow.get(); }
     /// Asks about unsaved changes, then quits. Does nothing while that is being asked.
     void terminate();
@@ -63,6 +65,7 @@ private:
 
     DesktopServices m_desktop;
     SystemServices *m_services = &m_desktop;
+    QStringList m_helpArguments;
     std::unique_ptr<HelpBrowser> m_inAppBrowserWindow;
     DocumentController m_documents;
 };

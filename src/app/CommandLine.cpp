@@ -26,6 +26,7 @@ constexpr Option darkOption{"dark", nullptr, "Use dark colours, whatever the des
 constexpr Option helpOption{"h,help", nullptr, "Show this help."};
 constexpr Option allHelpOption{"help-all", nullptr, "Show this help and Qt's own options."};
 constexpr Option versionOption{"v,version", nullptr, "Show the program's version."};
+constexpr Option helpWindowOption{"help-window", nullptr, ""}; // for the program itself
 
 QCommandLineOption made(const Option &option)
 {
@@ -72,6 +73,9 @@ CommandLine CommandLine::parse(const QStringList &arguments)
     for (const Option &option :
          {helpOption, allHelpOption, versionOption, languageOption, snapshotOption, darkOption})
         parser.addOption(made(option));
+    QCommandLineOption hidden = made(helpWindowOption);
+    hidden.setFlags(QCommandLineOption::HiddenFromHelp);
+    parser.addOption(hidden);
     parser.addPositionalArgument(QStringLiteral("files"), QStringLiteral("Channel lists to open."),
                                  QStringLiteral("[FILE...]"));
 
@@ -87,6 +91,14 @@ CommandLine CommandLine::parse(const QStringList &arguments)
     line.language = parser.value(firstName(languageOption));
     line.snapshot = parser.value(firstName(snapshotOption));
     line.isDark = parser.isSet(firstName(darkOption));
+    line.isHelpWindow = parser.isSet(firstName(helpWindowOption));
+
+    line.helpWindow = platform.ofEveryWindow;
+    line.helpWindow.append(QStringLiteral("--help-window"));
+    if (!line.language.isEmpty())
+        line.helpWindow += {QStringLiteral("--language"), line.language};
+    if (line.isDark)
+        line.helpWindow.append(QStringLiteral("--dark"));
     return line;
 }
 

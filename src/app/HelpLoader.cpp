@@ -36,13 +36,19 @@ std::optional<QString> resourceFolder()
     return find(resourcePlaces, QStringLiteral("/User-Guide/index.html"));
 }
 
-std::unique_ptr<HelpBrowser> loadHelpBrowser(SystemServices &services)
+std::optional<QString> helpModule()
 {
     const QString name = QStringLiteral("/quillet_help") + QLatin1String(QUILLET_MODULE_SUFFIX);
     const std::optional<QString> folder = find(modulePlaces, name);
-    if (!folder)
+    return folder ? std::optional(*folder + name) : std::nullopt;
+}
+
+std::unique_ptr<HelpBrowser> loadHelpBrowser(SystemServices &services)
+{
+    const std::optional<QString> path = helpModule();
+    if (!path)
         return nullptr;
-    QPluginLoader loader(*folder + name); // leaves the module loaded
+    QPluginLoader loader(*path); // leaves the module loaded
     auto *module = qobject_cast<HelpModule *>(loader.instance());
     if (!module) {
         qCWarning(log).noquote() << loader.errorString();

@@ -1,6 +1,7 @@
 #include "app/AppDelegate.h"
 #include "app/CommandLine.h"
 #include "app/Environment.h"
+#include "app/HelpProgram.h"
 #include "app/Snapshot.h"
 #include "app/TerminationSignals.h"
 #include "app/Translations.h"
@@ -49,6 +50,7 @@ int edit(const CommandLine &line)
 {
     QtPrompts prompts;
     AppDelegate delegate(prompts);
+    delegate.setHelpArguments(line.helpWindow);
     const TerminationSignals termination;
     QObject::connect(&termination, &TerminationSignals::received, &delegate,
                      &AppDelegate::terminate);
@@ -83,7 +85,9 @@ int main(int argc, char *argv[])
         prepareForSnapshot();
     }
 
-    QApplication app(argc, argv); // takes Qt's own options
+    if (line.isHelpWindow)
+        QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts); // the engine's wish
+    QApplication app(argc, argv);                                   // takes Qt's own options
     QApplication::setDesktopFileName(QStringLiteral("quillet"));
     QApplication::setWindowIcon(applicationIcon());
     installTranslations(line.language);
@@ -91,5 +95,5 @@ int main(int argc, char *argv[])
         return makePicture(line);
     if (line.isDark)
         useDarkPalette();
-    return edit(line);
+    return line.isHelpWindow ? runHelpWindow() : edit(line);
 }

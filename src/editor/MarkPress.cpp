@@ -1,0 +1,61 @@
+#include "editor/MarkPress.h"
+
+#include "editor/CheckMarkDelegate.h"
+
+#include <QMouseEvent>
+#include <QTableView>
+
+namespace quillet {
+
+MarkPress::MarkPress(QTableView &table) : m_table(table)
+{
+    table.viewport()->installEventFilter(this);
+}
+
+bool MarkPress::eventFilter(QObject *watched, QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick: {
+        const auto &mouse = static_cast<const QMouseEvent &>(*event);
+        if (mouse.button() != Qt::LeftButton)
+            return m_isPressed;
+        m_mark = markAt(mouse.position().toPoint());
+        m_isPressed = m_mark.isValid();
+        return m_isPressed;
+    }
+    case QEvent::MouseMove:
+        // A button that went up where nobody saw it.
+        m_isPressed =
+            m_isPressed && static_cast<const QMouseEvent &>(*event).buttons() != Qt::NoButton;
+        return m_isPressed;
+    case QEvent::MouseButtonRelease: {
+        const auto &mouse = static_cast<const QMouseEvent &>(*event);
+        if (!m_isPressed || mouse.button() != Qt::LeftButton)
+            return m_isPressed;
+        m_isPressed = false;
+        release(mouse.position().toPoint());
+        return true;
+    }
+    default:
+        return QObject::eventFilter(watched, event);
+    }
+}
+
+QModelIndex MarkPress::markAt(const QPoint &place) const
+{
+    const QModelIndex index = m_table.indexAt(place);
+    if (!index.data(Qt::CheckStateRole).isValid())
+        return {};
+    return CheckMarkDelegate::markRect(&m_table, m_table.visualRect(index)).contains(place)
+               ? index
+               : QModelIndex();
+}
+
+void MarkPress::release(const QPoint &place)
+{
+    if (m_mark.isValid() && markAt(place) == m_mark)
+        CheckMarkDelegate::toggle(m_mark);
+}
+
+} // namespace quillet

@@ -2,6 +2,7 @@
 
 #include "editor/EmptyDocText.h"
 #include "editor/InfoViewController.h"
+#include "editor/ShownTexts.h"
 #include "editor/TableColumns.h"
 #include "editor/TableSelection.h"
 #include "framework/Prompts.h"
@@ -21,6 +22,9 @@ constexpr std::array sourceTitles{"kCable", "kSatellite", "kAntenna", "kAnalogue
 /// In the order of the tags.
 constexpr std::array filterTitles{"kFilterAll", "kFilterSD", "kFilterHD",
                                   "kFilterUHD", "kFilterTV", "kFilterOther"};
+
+/// The label takes the room it needs, and the window with it.
+constexpr qsizetype longestDeviceName = 30;
 
 } // namespace
 
@@ -49,6 +53,10 @@ void EditorView::setUpControls()
     for (int i = 0; i < titles.size(); ++i) {
         setTabOrder(before, m_ui->sourceSegmentControl->segment(i));
         before = m_ui->sourceSegmentControl->segment(i);
+    }
+    if (auto *clear = m_ui->searchText->findChild<QAbstractButton *>()) {
+        clear->setAccessibleName(qtTrId("kClearSearch"));
+        clear->setToolTip(qtTrId("kClearSearch"));
     }
     m_ui->foreignRowsBar->setClosable(false);
     m_ui->foreignRowsBar->setTabOrderAfter(*m_ui->filterPop);
@@ -194,7 +202,7 @@ void EditorView::setText(Field field, const QString &text)
         m_ui->fileName->setText(text);
         break;
     case Field::DeviceName:
-        m_ui->deviceName->setText(text);
+        m_ui->deviceName->setText(shortened(cleanName(text), longestDeviceName));
         break;
     case Field::StationCount:
         m_ui->stationCount->setText(text);

@@ -1,7 +1,10 @@
 #include "editor/InfoViewController.h"
 
+#include "editor/CellText.h"
 #include "editor/RoomyCells.h"
+#include "editor/ShownTexts.h"
 #include "editor/StationInfoModel.h"
+#include "framework/ScreenPlace.h"
 
 #include <QClipboard>
 #include <QDialogButtonBox>
@@ -47,6 +50,13 @@ public:
     }
     void setEditorData(QWidget *, const QModelIndex &) const override {}
     void setModelData(QWidget *, QAbstractItemModel *, const QModelIndex &) const override {}
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->text = inItsDirection(option->text, option->direction);
+    }
 };
 
 } // namespace
@@ -78,6 +88,7 @@ InfoViewController::InfoViewController(QWidget *parent) : QDialog(parent), m_lis
 
     const int line = fontMetrics().height();
     resize(QSettings().value(sizeKey(), QSize(30 * line, 36 * line)).toSize());
+    keepOnScreen(*this);
     m_list->setFocus();
 }
 
@@ -90,7 +101,7 @@ void InfoViewController::setStation(const LGStation &station)
 {
     StationInfo info;
     info.setStation(station);
-    setWindowTitle(info.title());
+    setWindowTitle(drawnName(info.title()));
     m_model = new StationInfoModel(std::move(info), this);
     m_list->setModel(m_model);
     m_list->resizeColumnToContents(StationInfoModel::Field);
@@ -118,7 +129,8 @@ void InfoViewController::copySelection() const
     QStringList lines;
     for (const QModelIndex &field : std::as_const(rows)) {
         const QModelIndex content = field.siblingAtColumn(StationInfoModel::Content);
-        lines.append(field.data().toString() + u'\t' + content.data().toString());
+        lines.append(field.data(Qt::EditRole).toString() + u'\t' +
+                     content.data(Qt::EditRole).toString());
     }
     QGuiApplication::clipboard()->setText(lines.join(u'\n'));
 }

@@ -1,5 +1,6 @@
 #include "editor/EditorView.h"
 
+#include "editor/EditorKeys.h"
 #include "editor/EmptyDocText.h"
 #include "editor/InfoViewController.h"
 #include "editor/ShownTexts.h"
@@ -75,6 +76,7 @@ void EditorView::setUpTable()
                         [this](const TableDrag &drag) { return m_controller.acceptDrop(drag); });
 
     m_emptyDocText = new EmptyDocText(list.viewport());
+    m_keys = std::make_unique<EditorKeys>(list, *m_ui->searchText, m_controller);
 }
 
 void EditorView::updateFonts()

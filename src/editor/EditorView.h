@@ -16,6 +16,7 @@ class EditorView;
 
 namespace quillet {
 
+class EditorKeys;
 class EmptyDocText;
 class InfoViewController;
 
@@ -87,6 +88,7 @@ private:
     ViewController m_controller;
     StationTableModel m_model;
     EmptyDocText *m_emptyDocText;
+    std::unique_ptr<EditorKeys> m_keys;
     QPointer<InfoViewController> m_infoPanel;
 };
 

@@ -2,6 +2,7 @@
 
 #include "editor/EditorKeys.h"
 #include "editor/EmptyDocText.h"
+#include "editor/FoldingRow.h"
 #include "editor/InfoViewController.h"
 #include "editor/ShownTexts.h"
 #include "editor/TableColumns.h"
@@ -34,6 +35,8 @@ EditorView::EditorView(QWidget *parent)
       m_model(m_controller)
 {
     m_ui->setupUi(this);
+    FoldingRow::fold(*m_ui->listRow);
+    FoldingRow::fold(*m_ui->bottomRow);
     setUpControls();
     setUpTable();
     updateFonts();
@@ -88,8 +91,13 @@ void EditorView::updateFonts()
 
     const QFontMetrics metrics = fontMetrics();
     sizeColumns(*m_ui->list, metrics);
-    m_ui->list->setMinimumHeight(metrics.height() * 14); // with room for the hints in an empty list
+    m_ui->list->setMinimumHeight(metrics.height() * 10); // with room for the hints in an empty list
     m_ui->searchText->setMinimumWidth(metrics.averageCharWidth() * 22);
+    // Styles leave short texts much room, and long ones none.
+    for (QPushButton *button : {m_ui->moveToButton, m_ui->infoButton, m_ui->applyButton}) {
+        const int text = metrics.size(Qt::TextShowMnemonic, button->text()).width();
+        button->setMinimumWidth(qMax(button->sizeHint().width(), text + 2 * metrics.height()));
+    }
 }
 
 void EditorView::connectControls()

@@ -82,7 +82,8 @@ bool EditorKeys::listKey(const QKeyEvent &key)
     if (key.key() != Qt::Key_Space || key.modifiers())
         return false;
     // A blank may belong to the name that is being typed.
-    if (TypeAhead(m_typed).type(QStringLiteral(" "), m_controller.currentList(),
+    if (!m_typed.text().isEmpty() &&
+        TypeAhead(m_typed).type(QStringLiteral(" "), m_controller.currentList(),
                                 m_list.currentIndex().row())) {
         type(QStringLiteral(" "));
         return true;

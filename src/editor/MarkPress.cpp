@@ -19,16 +19,13 @@ bool MarkPress::eventFilter(QObject *watched, QEvent *event)
     case QEvent::MouseButtonDblClick: {
         const auto &mouse = static_cast<const QMouseEvent &>(*event);
         if (mouse.button() != Qt::LeftButton)
-            return m_isPressed;
+            return isStillDown(mouse.buttons());
         m_mark = markAt(mouse.position().toPoint());
         m_isPressed = m_mark.isValid();
         return m_isPressed;
     }
     case QEvent::MouseMove:
-        // A button that went up where nobody saw it.
-        m_isPressed =
-            m_isPressed && static_cast<const QMouseEvent &>(*event).buttons() != Qt::NoButton;
-        return m_isPressed;
+        return isStillDown(static_cast<const QMouseEvent &>(*event).buttons());
     case QEvent::MouseButtonRelease: {
         const auto &mouse = static_cast<const QMouseEvent &>(*event);
         if (!m_isPressed || mouse.button() != Qt::LeftButton)
@@ -40,6 +37,13 @@ bool MarkPress::eventFilter(QObject *watched, QEvent *event)
     default:
         return QObject::eventFilter(watched, event);
     }
+}
+
+/// It may have gone up where nobody saw it.
+bool MarkPress::isStillDown(Qt::MouseButtons buttons)
+{
+    m_isPressed = m_isPressed && buttons.testFlag(Qt::LeftButton);
+    return m_isPressed;
 }
 
 QModelIndex MarkPress::markAt(const QPoint &place) const

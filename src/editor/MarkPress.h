@@ -23,6 +23,7 @@ protected:
 private:
     [[nodiscard]] QModelIndex markAt(const QPoint &place) const;
     void release(const QPoint &place);
+    bool isStillDown(Qt::MouseButtons buttons);
 
     QTableView &m_table;
     QPersistentModelIndex m_mark; ///< the one pressed; may have gone meanwhile

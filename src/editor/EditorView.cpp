@@ -1,8 +1,8 @@
 #include "editor/EditorView.h"
 
 #include "editor/EditorKeys.h"
+#include "editor/EditorLayout.h"
 #include "editor/EmptyDocText.h"
-#include "editor/FoldingRow.h"
 #include "editor/InfoViewController.h"
 #include "editor/ShownTexts.h"
 #include "editor/TableColumns.h"
@@ -35,11 +35,10 @@ EditorView::EditorView(QWidget *parent)
       m_model(m_controller)
 {
     m_ui->setupUi(this);
-    FoldingRow::fold(*m_ui->listRow);
-    FoldingRow::fold(*m_ui->bottomRow);
+    foldRows(*m_ui);
     setUpControls();
     setUpTable();
-    updateFonts();
+    sizeControls(*m_ui, font());
     connectControls();
     m_controller.viewDidLoad();
     setAcceptDrops(true);
@@ -80,24 +79,6 @@ void EditorView::setUpTable()
 
     m_emptyDocText = new EmptyDocText(list.viewport());
     m_keys = std::make_unique<EditorKeys>(list, *m_ui->searchText, m_controller);
-}
-
-void EditorView::updateFonts()
-{
-    QFont device = font();
-    device.setBold(true);
-    device.setPointSizeF(device.pointSizeF() * 1.25);
-    m_ui->deviceName->setFont(device);
-
-    const QFontMetrics metrics = fontMetrics();
-    sizeColumns(*m_ui->list, metrics);
-    m_ui->list->setMinimumHeight(metrics.height() * 10); // with room for the hints in an empty list
-    m_ui->searchText->setMinimumWidth(metrics.averageCharWidth() * 22);
-    // Styles leave short texts much room, and long ones none.
-    for (QPushButton *button : {m_ui->moveToButton, m_ui->infoButton, m_ui->applyButton}) {
-        const int text = metrics.size(Qt::TextShowMnemonic, button->text()).width();
-        button->setMinimumWidth(qMax(button->sizeHint().width(), text + 2 * metrics.height()));
-    }
 }
 
 void EditorView::connectControls()
@@ -369,7 +350,7 @@ void EditorView::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::FontChange)
-        updateFonts();
+        sizeControls(*m_ui, font());
 }
 
 } // namespace quillet

@@ -82,7 +82,6 @@ private:
     void setUpControls();
     void setUpTable();
     void connectControls();
-    void updateFonts();
 
     std::unique_ptr<Ui::EditorView> m_ui;
     ViewController m_controller;

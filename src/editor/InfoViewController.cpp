@@ -24,6 +24,9 @@ namespace quillet {
 
 namespace {
 
+/// In UTF-16 code units: takes one line in a panel of any useful width.
+constexpr qsizetype shortContent = 20;
+
 QString sizeKey()
 {
     return QStringLiteral("windows/Station Info/size");
@@ -105,10 +108,16 @@ void InfoViewController::setStation(const LGStation &station)
     m_model = new StationInfoModel(std::move(info), this);
     m_list->setModel(m_model);
     m_list->resizeColumnToContents(StationInfoModel::Field);
-    m_list->resizeRowsToContents();
+    // Only contents of several lines are worth measuring.
     const int least = fontMetrics().height() * 3 / 2;
-    for (int row = 0; row < m_model->rowCount(); ++row)
+    m_list->verticalHeader()->setDefaultSectionSize(least);
+    for (int row = 0; row < m_model->rowCount(); ++row) {
+        const QString content = m_model->index(row, StationInfoModel::Content).data().toString();
+        if (content.size() < shortContent && !content.contains(u'\n'))
+            continue;
+        m_list->resizeRowToContents(row);
         m_list->setRowHeight(row, qMax(least, m_list->rowHeight(row)));
+    }
 }
 
 bool InfoViewController::eventFilter(QObject *watched, QEvent *event)

@@ -44,6 +44,13 @@ DarkModeTableView::DarkModeTableView(QWidget *parent) : QTableView(parent)
     horizontalHeader()->setSectionsMovable(false);
 }
 
+void DarkModeTableView::setModel(QAbstractItemModel *model)
+{
+    QTableView::setModel(model);
+    if (model)
+        m_markPress.watch(*model);
+}
+
 void DarkModeTableView::setDropHandler(Validate validate, Accept accept)
 {
     m_validate = std::move(validate);

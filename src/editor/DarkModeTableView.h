@@ -26,6 +26,7 @@ public:
 
     explicit DarkModeTableView(QWidget *parent = nullptr);
 
+    void setModel(QAbstractItemModel *model) override;
     /// Who says what a drag may do here, and takes a drop.
     void setDropHandler(Validate validate, Accept accept);
     /// Shown in the middle of a table without rows.

@@ -4,12 +4,24 @@
 
 #include <QMouseEvent>
 #include <QTableView>
+#include <QTimer>
 
 namespace quillet {
 
 MarkPress::MarkPress(QTableView &table) : m_table(table)
 {
     table.viewport()->installEventFilter(this);
+}
+
+void MarkPress::watch(const QAbstractItemModel &model)
+{
+    const auto note = [this] {
+        m_rowsHaveMoved = true;
+        QTimer::singleShot(0, this, [this] { m_rowsHaveMoved = false; });
+    };
+    connect(&model, &QAbstractItemModel::rowsMoved, this, note);
+    connect(&model, &QAbstractItemModel::layoutChanged, this, note);
+    connect(&model, &QAbstractItemModel::modelReset, this, note);
 }
 
 bool MarkPress::eventFilter(QObject *watched, QEvent *event)
@@ -22,6 +34,8 @@ bool MarkPress::eventFilter(QObject *watched, QEvent *event)
             return isStillDown(mouse.buttons());
         m_mark = markAt(mouse.position().toPoint());
         m_isPressed = m_mark.isValid();
+        if (m_rowsHaveMoved)
+            m_mark = QModelIndex();
         return m_isPressed;
     }
     case QEvent::MouseMove:

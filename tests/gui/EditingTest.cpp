@@ -222,6 +222,30 @@ private slots:
         QVERIFY(!table.selectionModel()->hasSelection());
     }
 
+    /// The press gives the station its number, which moves another one under the pointer.
+    void clickOnAMarkEndsEditing()
+    {
+        App app;
+        QMainWindow *window = app.open("a.tll", listOf(9));
+        QVERIFY(window);
+        QTableView &table = tableOf(*window);
+        QLineEdit *field = edit(table, 0, Number);
+        QVERIFY(field);
+        QTest::keyClicks(field, u"7"_s);
+        const QPoint place = table.visualRect(table.model()->index(3, Skipped)).center();
+        table.setFocus(); // as the press does before the table sees it
+        QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, place);
+        QCOMPARE(cell(*window, 5, Name), u"Station 1"_s); // ahead of the one that was 7
+        for (int row = 0; row < 9; ++row) {
+            const QVariant state = table.model()->index(row, Skipped).data(Qt::CheckStateRole);
+            QCOMPARE(state.value<Qt::CheckState>(), Qt::Unchecked);
+        }
+        QCoreApplication::processEvents();
+        QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, place);
+        QCOMPARE(table.model()->index(3, Skipped).data(Qt::CheckStateRole).value<Qt::CheckState>(),
+                 Qt::Checked);
+    }
+
     void keysOfSearchAndTable()
     {
         App app;

@@ -94,6 +94,10 @@
         <source></source>
         <translation>Einträge löschen</translation>
     </message>
+    <message id="kClearSearch">
+        <source></source>
+        <translation>Suche leeren</translation>
+    </message>
     <message id="kColumnBlocked">
         <source></source>
         <translation>Sperren</translation>
@@ -314,6 +318,14 @@
         <source></source>
         <translation>Die Senderliste konnte nicht geöffnet werden.</translation>
     </message>
+    <message id="kMarkNotSet">
+        <source></source>
+        <translation>%1: nicht aktiviert</translation>
+    </message>
+    <message id="kMarkSet">
+        <source></source>
+        <translation>%1: aktiviert</translation>
+    </message>
     <message id="kMendedAmpersands" numerus="yes">
         <source></source>
         <translation>
@@ -513,9 +525,12 @@
         <source></source>
         <translation>Den ausgewählten Sendern neue Nummern geben</translation>
     </message>
-    <message id="kMovingMessage">
+    <message id="kMovingMessage" numerus="yes">
         <source></source>
-        <translation>Ausgewählte Sender verschieben auf Nummer (1 bis 9999):</translation>
+        <translation>
+            <numerusform>Ausgewählten Sender auf Nummer (1 bis 9999) verschieben:</numerusform>
+            <numerusform>Ausgewählte Sender auf Nummer (1 bis 9999) verschieben:</numerusform>
+        </translation>
     </message>
     <message id="kMovingOK">
         <source></source>

@@ -94,6 +94,10 @@
         <source></source>
         <translation>Clear Menu</translation>
     </message>
+    <message id="kClearSearch">
+        <source></source>
+        <translation>Clear search</translation>
+    </message>
     <message id="kColumnBlocked">
         <source></source>
         <translation>Lock</translation>
@@ -314,6 +318,14 @@
         <source></source>
         <translation>The channel list could not be opened.</translation>
     </message>
+    <message id="kMarkNotSet">
+        <source></source>
+        <translation>%1: not checked</translation>
+    </message>
+    <message id="kMarkSet">
+        <source></source>
+        <translation>%1: checked</translation>
+    </message>
     <message id="kMendedAmpersands" numerus="yes">
         <source></source>
         <translation>
@@ -513,9 +525,12 @@
         <source></source>
         <translation>Give the selected stations new numbers</translation>
     </message>
-    <message id="kMovingMessage">
+    <message id="kMovingMessage" numerus="yes">
         <source></source>
-        <translation>Move the selected stations to number (1 to 9999):</translation>
+        <translation>
+            <numerusform>Move the selected station to number (1 to 9999):</numerusform>
+            <numerusform>Move the selected stations to number (1 to 9999):</numerusform>
+        </translation>
     </message>
     <message id="kMovingOK">
         <source></source>

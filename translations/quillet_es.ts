@@ -94,6 +94,10 @@
         <source></source>
         <translation>Vaciar menú</translation>
     </message>
+    <message id="kClearSearch">
+        <source></source>
+        <translation>Borrar la búsqueda</translation>
+    </message>
     <message id="kColumnBlocked">
         <source></source>
         <translation>Bloquear</translation>
@@ -314,6 +318,14 @@
         <source></source>
         <translation>No se ha podido abrir la lista de canales.</translation>
     </message>
+    <message id="kMarkNotSet">
+        <source></source>
+        <translation>%1: no marcado</translation>
+    </message>
+    <message id="kMarkSet">
+        <source></source>
+        <translation>%1: marcado</translation>
+    </message>
     <message id="kMendedAmpersands" numerus="yes">
         <source></source>
         <translation>
@@ -513,9 +525,12 @@
         <source></source>
         <translation>Dar números nuevos a los canales seleccionados</translation>
     </message>
-    <message id="kMovingMessage">
+    <message id="kMovingMessage" numerus="yes">
         <source></source>
-        <translation>Mover los canales seleccionados al número (de 1 a 9999):</translation>
+        <translation>
+            <numerusform>Mover el canal seleccionado al número (de 1 a 9999):</numerusform>
+            <numerusform>Mover los canales seleccionados al número (de 1 a 9999):</numerusform>
+        </translation>
     </message>
     <message id="kMovingOK">
         <source></source>

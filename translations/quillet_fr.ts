@@ -94,6 +94,10 @@
         <source></source>
         <translation>Effacer le menu</translation>
     </message>
+    <message id="kClearSearch">
+        <source></source>
+        <translation>Effacer la recherche</translation>
+    </message>
     <message id="kColumnBlocked">
         <source></source>
         <translation>Verrouiller</translation>
@@ -314,6 +318,14 @@
         <source></source>
         <translation>Impossible d’ouvrir la liste de chaînes.</translation>
     </message>
+    <message id="kMarkNotSet">
+        <source></source>
+        <translation>%1 : non coché</translation>
+    </message>
+    <message id="kMarkSet">
+        <source></source>
+        <translation>%1 : coché</translation>
+    </message>
     <message id="kMendedAmpersands" numerus="yes">
         <source></source>
         <translation>
@@ -513,9 +525,12 @@
         <source></source>
         <translation>Donner de nouveaux numéros aux chaînes sélectionnées</translation>
     </message>
-    <message id="kMovingMessage">
+    <message id="kMovingMessage" numerus="yes">
         <source></source>
-        <translation>Déplacer les chaînes sélectionnées vers le numéro (1 à 9999) :</translation>
+        <translation>
+            <numerusform>Déplacer la chaîne sélectionnée vers le numéro (1 à 9999) :</numerusform>
+            <numerusform>Déplacer les chaînes sélectionnées vers le numéro (1 à 9999) :</numerusform>
+        </translation>
     </message>
     <message id="kMovingOK">
         <source></source>

@@ -94,6 +94,10 @@
         <source></source>
         <translation>Cancella menu</translation>
     </message>
+    <message id="kClearSearch">
+        <source></source>
+        <translation>Azzera la ricerca</translation>
+    </message>
     <message id="kColumnBlocked">
         <source></source>
         <translation>Blocca</translation>
@@ -314,6 +318,14 @@
         <source></source>
         <translation>Impossibile aprire la lista di canali.</translation>
     </message>
+    <message id="kMarkNotSet">
+        <source></source>
+        <translation>%1: non selezionato</translation>
+    </message>
+    <message id="kMarkSet">
+        <source></source>
+        <translation>%1: selezionato</translation>
+    </message>
     <message id="kMendedAmpersands" numerus="yes">
         <source></source>
         <translation>
@@ -513,9 +525,12 @@
         <source></source>
         <translation>Assegna nuovi numeri ai canali selezionati</translation>
     </message>
-    <message id="kMovingMessage">
+    <message id="kMovingMessage" numerus="yes">
         <source></source>
-        <translation>Sposta i canali selezionati al numero (da 1 a 9999):</translation>
+        <translation>
+            <numerusform>Sposta il canale selezionato al numero (da 1 a 9999):</numerusform>
+            <numerusform>Sposta i canali selezionati al numero (da 1 a 9999):</numerusform>
+        </translation>
     </message>
     <message id="kMovingOK">
         <source></source>

@@ -94,6 +94,10 @@
         <source></source>
         <translation>Menu wissen</translation>
     </message>
+    <message id="kClearSearch">
+        <source></source>
+        <translation>Zoekopdracht wissen</translation>
+    </message>
     <message id="kColumnBlocked">
         <source></source>
         <translation>Slot</translation>
@@ -314,6 +318,14 @@
         <source></source>
         <translation>De zenderlijst kon niet worden geopend.</translation>
     </message>
+    <message id="kMarkNotSet">
+        <source></source>
+        <translation>%1: niet aangevinkt</translation>
+    </message>
+    <message id="kMarkSet">
+        <source></source>
+        <translation>%1: aangevinkt</translation>
+    </message>
     <message id="kMendedAmpersands" numerus="yes">
         <source></source>
         <translation>
@@ -513,9 +525,12 @@
         <source></source>
         <translation>De geselecteerde zenders nieuwe nummers geven</translation>
     </message>
-    <message id="kMovingMessage">
+    <message id="kMovingMessage" numerus="yes">
         <source></source>
-        <translation>De geselecteerde zenders verplaatsen naar nummer (1 tot en met 9999):</translation>
+        <translation>
+            <numerusform>De geselecteerde zender verplaatsen naar nummer (1 tot en met 9999):</numerusform>
+            <numerusform>De geselecteerde zenders verplaatsen naar nummer (1 tot en met 9999):</numerusform>
+        </translation>
     </message>
     <message id="kMovingOK">
         <source></source>

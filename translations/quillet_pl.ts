@@ -95,6 +95,10 @@
         <source></source>
         <translation>Wyczyść menu</translation>
     </message>
+    <message id="kClearSearch">
+        <source></source>
+        <translation>Wyczyść wyszukiwanie</translation>
+    </message>
     <message id="kColumnBlocked">
         <source></source>
         <translation>Blokada</translation>
@@ -315,6 +319,14 @@
         <source></source>
         <translation>Nie można otworzyć listy kanałów.</translation>
     </message>
+    <message id="kMarkNotSet">
+        <source></source>
+        <translation>%1: niezaznaczone</translation>
+    </message>
+    <message id="kMarkSet">
+        <source></source>
+        <translation>%1: zaznaczone</translation>
+    </message>
     <message id="kMendedAmpersands" numerus="yes">
         <source></source>
         <translation>
@@ -519,9 +531,13 @@
         <source></source>
         <translation>Nadaj wybranym kanałom nowe numery</translation>
     </message>
-    <message id="kMovingMessage">
+    <message id="kMovingMessage" numerus="yes">
         <source></source>
-        <translation>Przenieś wybrane kanały na numer (od 1 do 9999):</translation>
+        <translation>
+            <numerusform>Przenieś wybrany kanał na numer (od 1 do 9999):</numerusform>
+            <numerusform>Przenieś wybrane kanały na numer (od 1 do 9999):</numerusform>
+            <numerusform>Przenieś wybrane kanały na numer (od 1 do 9999):</numerusform>
+        </translation>
     </message>
     <message id="kMovingOK">
         <source></source>

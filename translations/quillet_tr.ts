@@ -93,6 +93,10 @@
         <source></source>
         <translation>Menüyü Temizle</translation>
     </message>
+    <message id="kClearSearch">
+        <source></source>
+        <translation>Aramayı temizle</translation>
+    </message>
     <message id="kColumnBlocked">
         <source></source>
         <translation>Kilit</translation>
@@ -313,6 +317,14 @@
         <source></source>
         <translation>Kanal listesi açılamadı.</translation>
     </message>
+    <message id="kMarkNotSet">
+        <source></source>
+        <translation>%1: işaretli değil</translation>
+    </message>
+    <message id="kMarkSet">
+        <source></source>
+        <translation>%1: işaretli</translation>
+    </message>
     <message id="kMendedAmpersands" numerus="yes">
         <source></source>
         <translation>
@@ -507,9 +519,11 @@
         <source></source>
         <translation>Seçili kanallara yeni numaralar ver</translation>
     </message>
-    <message id="kMovingMessage">
+    <message id="kMovingMessage" numerus="yes">
         <source></source>
-        <translation>Seçili kanalların taşınacağı numara (1–9999):</translation>
+        <translation>
+            <numerusform>Seçimin taşınacağı numara (1–9999):</numerusform>
+        </translation>
     </message>
     <message id="kMovingOK">
         <source></source>

@@ -1,14 +1,22 @@
 #include "document/SaveReview.h"
 
+#include "model/CleanName.h"
+#include "support/ShortText.h"
+
 #include <QStringList>
 
 namespace quillet {
 
 namespace {
 
+constexpr qsizetype longestName = 60;
+
 QString withNames(const char *id, const Rehearsal::Stations &stations)
 {
-    QString names = stations.names.join(QLatin1String(", "));
+    QStringList drawn;
+    for (const QString &name : stations.names)
+        drawn.append(shortened(cleanName(name), longestName));
+    QString names = drawn.join(QLatin1String(", "));
     if (stations.count > stations.names.size())
         names += QStringLiteral(" …");
     return qtTrId(id, static_cast<int>(stations.count)).arg(names);

@@ -9,50 +9,53 @@ namespace quillet {
 
 namespace {
 
-const QStyle &styleOf(const QStyleOptionViewItem &option)
+const QStyle &styleOf(const QWidget *widget)
 {
-    return option.widget ? *option.widget->style() : *QApplication::style();
+    return widget ? *widget->style() : *QApplication::style();
+}
+
+/// The colour of a mark; that of an empty one's frame is a part of it.
+QColor inkOf(const QStyleOptionViewItem &cell)
+{
+    QPalette::ColorGroup group = QPalette::Disabled;
+    if (cell.state.testFlag(QStyle::State_Enabled))
+        group = cell.state.testFlag(QStyle::State_Active) ? QPalette::Active : QPalette::Inactive;
+    const bool isSelected = cell.state.testFlag(QStyle::State_Selected);
+    return cell.palette.color(group, isSelected ? QPalette::HighlightedText : QPalette::Text);
 }
 
 } // namespace
 
-bool CheckMarkDelegate::editorEvent(QEvent *event, QAbstractItemModel *model,
-                                    const QStyleOptionViewItem &option, const QModelIndex &index)
+/// With a modifier the space bar selects.
+bool CheckMarkDelegate::editorEvent(QEvent *event, QAbstractItemModel *,
+                                    const QStyleOptionViewItem &, const QModelIndex &index)
 {
-    bool isToggle = false;
-    switch (event->type()) {
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonDblClick:
-    case QEvent::MouseButtonRelease: {
-        const auto &mouse = static_cast<QMouseEvent &>(*event);
-        if (mouse.button() != Qt::LeftButton || !markRect(option).contains(mouse.pos()))
-            return false;
-        isToggle = event->type() == QEvent::MouseButtonRelease;
-        break;
-    }
-    case QEvent::KeyPress: {
-        const int key = static_cast<QKeyEvent &>(*event).key();
-        isToggle = key == Qt::Key_Space || key == Qt::Key_Select;
-        if (!isToggle)
-            return false;
-        break;
-    }
-    default:
+    if (event->type() != QEvent::KeyPress)
         return false;
-    }
-    if (!isToggle || !index.flags().testFlag(Qt::ItemIsUserCheckable))
-        return true; // a press on the mark neither drags nor edits
-    const bool isSet = index.data(Qt::CheckStateRole).value<Qt::CheckState>() == Qt::Checked;
-    return model->setData(index, QVariant::fromValue(isSet ? Qt::Unchecked : Qt::Checked),
-                          Qt::CheckStateRole);
+    const auto &key = static_cast<const QKeyEvent &>(*event);
+    if ((key.key() != Qt::Key_Space && key.key() != Qt::Key_Select) || key.modifiers())
+        return false;
+    if (!key.isAutoRepeat())
+        toggle(index);
+    return true;
 }
 
-QRect CheckMarkDelegate::markRect(const QStyleOptionViewItem &option)
+void CheckMarkDelegate::toggle(const QModelIndex &index)
 {
-    const QStyle &style = styleOf(option);
-    const QSize size(style.pixelMetric(QStyle::PM_IndicatorWidth, &option, option.widget),
-                     style.pixelMetric(QStyle::PM_IndicatorHeight, &option, option.widget));
-    return QStyle::alignedRect(option.direction, Qt::AlignCenter, size, option.rect);
+    if (!index.flags().testFlag(Qt::ItemIsUserCheckable))
+        return;
+    const bool isSet = index.data(Qt::CheckStateRole).value<Qt::CheckState>() == Qt::Checked;
+    auto *model = const_cast<QAbstractItemModel *>(index.model());
+    model->setData(index, QVariant::fromValue(isSet ? Qt::Unchecked : Qt::Checked),
+                   Qt::CheckStateRole);
+}
+
+QRect CheckMarkDelegate::markRect(const QWidget *table, const QRect &cell)
+{
+    const QStyle &style = styleOf(table);
+    const QSize size(style.pixelMetric(QStyle::PM_IndicatorWidth, nullptr, table),
+                     style.pixelMetric(QStyle::PM_IndicatorHeight, nullptr, table));
+    return QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size, cell);
 }
 
 void CheckMarkDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
@@ -62,18 +65,17 @@ void CheckMarkDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opt
     initStyleOption(&cell, index);
     const Qt::CheckState state = cell.checkState;
     cell.features &= ~QStyleOptionViewItem::HasCheckIndicator;
-    const QStyle &style = styleOf(option);
+    const QStyle &style = styleOf(option.widget);
     style.drawControl(QStyle::CE_ItemViewItem, &cell, painter, option.widget);
 
     // Styles draw an empty box all but invisible on a dark ground, so this draws its own.
     const bool isSelected = option.state.testFlag(QStyle::State_Selected);
-    const QPalette &palette = cell.palette;
-    const QColor ink = palette.color(isSelected ? QPalette::HighlightedText : QPalette::Text);
-    const QRectF box = QRectF(markRect(option)).adjusted(0.5, 0.5, -0.5, -0.5);
+    const QColor ink = inkOf(cell);
+    const QRectF box = QRectF(markRect(option.widget, option.rect)).adjusted(0.5, 0.5, -0.5, -0.5);
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     QColor frame = ink;
-    frame.setAlphaF(state == Qt::Checked ? 0.9F : 0.35F);
+    frame.setAlphaF(state == Qt::Checked || isSelected ? 0.9F : 0.6F);
     painter->setPen(QPen(frame, 1));
     painter->drawRoundedRect(box, 3, 3);
     if (state == Qt::Checked) {

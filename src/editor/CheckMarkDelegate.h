@@ -4,7 +4,7 @@
 
 namespace quillet {
 
-/// A check mark in the middle of its cell, toggled by a click on it and by the space bar.
+/// A check mark in the middle of its cell, toggled by the space bar; MarkPress does it by mouse.
 class CheckMarkDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -12,15 +12,17 @@ class CheckMarkDelegate : public QStyledItemDelegate
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
+    /// Where in a cell of that rectangle the mark is.
+    [[nodiscard]] static QRect markRect(const QWidget *table, const QRect &cell);
+    /// Toggles the mark of a cell where that is allowed.
+    static void toggle(const QModelIndex &index);
+
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
                const QModelIndex &index) const override;
 
 protected:
     bool editorEvent(QEvent *event, QAbstractItemModel *model, const QStyleOptionViewItem &option,
                      const QModelIndex &index) override;
-
-private:
-    [[nodiscard]] static QRect markRect(const QStyleOptionViewItem &option);
 };
 
 } // namespace quillet

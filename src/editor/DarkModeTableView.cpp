@@ -1,9 +1,11 @@
 #include "editor/DarkModeTableView.h"
 
+#include "editor/DropPlace.h"
 #include "editor/RoomyCells.h"
 #include "editor/StationTableModel.h"
 #include "editor/TablePrinter.h"
 
+#include <QApplication>
 #include <QDrag>
 #include <QDropEvent>
 #include <QHeaderView>
@@ -40,6 +42,13 @@ DarkModeTableView::DarkModeTableView(QWidget *parent) : QTableView(parent)
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setSectionsMovable(false);
+}
+
+void DarkModeTableView::setModel(QAbstractItemModel *model)
+{
+    QTableView::setModel(model);
+    if (model)
+        m_markPress.watch(*model);
 }
 
 void DarkModeTableView::setDropHandler(Validate validate, Accept accept)
@@ -85,6 +94,50 @@ void DarkModeTableView::keyPressEvent(QKeyEvent *event)
         QTableView::keyPressEvent(event);
 }
 
+/// By a step of the keyboard from the row beside it, for that also makes it the row from which
+/// Shift extends the selection.
+void DarkModeTableView::goToRow(int row)
+{
+    const int column = qMax(0, currentIndex().column());
+    const int beside = row > 0 ? row - 1 : row + 1;
+    if (beside >= model()->rowCount())
+        return selectRow(row);
+    selectionModel()->setCurrentIndex(model()->index(beside, column),
+                                      QItemSelectionModel::NoUpdate);
+    QKeyEvent step(QEvent::KeyPress, beside < row ? Qt::Key_Down : Qt::Key_Up, Qt::NoModifier);
+    QTableView::keyPressEvent(&step);
+}
+
+void DarkModeTableView::keyboardSearch(const QString &search)
+{
+    if (!search.isEmpty() && search.front().isPrint())
+        emit typed(search);
+}
+
+void DarkModeTableView::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton) {
+        m_pressed = indexAt(event->position().toPoint());
+        m_pressPlace = event->position().toPoint();
+    }
+    QTableView::mousePressEvent(event);
+}
+
+/// Only the left button drags and selects, and a slip of the hand is neither, nor is a mark missed.
+void DarkModeTableView::mouseMoveEvent(QMouseEvent *event)
+{
+    const QPoint way = event->position().toPoint() - m_pressPlace;
+    const bool isSlip = way.manhattanLength() <= QApplication::startDragDistance() ||
+                        m_pressed.data(Qt::CheckStateRole).isValid();
+    const bool isFree = event->buttons() == Qt::NoButton || state() == DragSelectingState;
+    if (!isFree && (event->buttons() != Qt::LeftButton || isSlip))
+        return;
+    const bool isDragging = state() == DraggingState;
+    QTableView::mouseMoveEvent(event);
+    if (!isDragging && state() == DraggingState)
+        QTableView::mouseMoveEvent(event); // the first move only made it ready
+}
+
 void DarkModeTableView::paintEvent(QPaintEvent *event)
 {
     QTableView::paintEvent(event);
@@ -94,9 +147,13 @@ void DarkModeTableView::paintEvent(QPaintEvent *event)
         painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, m_placeholder);
     }
     if (m_dropRow) {
+        // With an edge on both sides, or it would not be seen beside a selected row.
         const int y = dropLinePosition();
-        painter.setPen(QPen(palette().color(QPalette::Highlight), dropLineWidth));
-        painter.drawLine(0, y, viewport()->width(), y);
+        const int width = viewport()->width();
+        painter.fillRect(0, y - 3 * dropLineWidth / 2, width, 3 * dropLineWidth,
+                         palette().color(QPalette::Base));
+        painter.fillRect(0, y - dropLineWidth / 2, width, dropLineWidth,
+                         palette().color(QPalette::Highlight));
     }
 }
 
@@ -105,10 +162,12 @@ void DarkModeTableView::paintEvent(QPaintEvent *event)
 QPixmap DarkModeTableView::dragPicture(const QModelIndexList &rows) const
 {
     const auto count = static_cast<int>(rows.size());
-    const QString text = count == 1 ? rows.front().siblingAtColumn(1).data().toString()
-                                    : QStringLiteral("%1 %2").arg(QString::number(count),
-                                                                  qtTrId("kStations", count));
     const QFontMetrics metrics = fontMetrics();
+    const QString text =
+        count == 1
+            ? metrics.elidedText(rows.front().siblingAtColumn(1).data().toString(), Qt::ElideRight,
+                                 40 * metrics.averageCharWidth())
+            : QStringLiteral("%1 %2").arg(QString::number(count), qtTrId("kStations", count));
     const QSize size(metrics.horizontalAdvance(text) + 2 * metrics.height(),
                      metrics.height() * 3 / 2);
     QPixmap picture(size * devicePixelRatioF());
@@ -128,9 +187,11 @@ QPixmap DarkModeTableView::dragPicture(const QModelIndexList &rows) const
 
 void DarkModeTableView::startDrag(Qt::DropActions)
 {
+    const bool isOfSelection =
+        m_pressed.isValid() && selectionModel()->isRowSelected(m_pressed.row(), {});
+    if (!isOfSelection || !m_pressed.flags().testFlag(Qt::ItemIsDragEnabled))
+        return; // nothing is dragged by what the pointer is not on
     const QModelIndexList indexes = selectionModel()->selectedRows();
-    if (indexes.isEmpty())
-        return;
     auto *drag = new QDrag(this); // which Qt deletes
     drag->setMimeData(model()->mimeData(indexes));
     drag->setPixmap(dragPicture(indexes));
@@ -153,14 +214,21 @@ TableDrag DarkModeTableView::tableDrag(const QDropEvent &event) const
     TableDrag drag = filesOf(*event.mimeData());
     drag.draggedRows = StationTableModel::draggedRows(*event.mimeData());
     drag.isFromThisTable = event.source() == this;
-    drag.isAboveRow = true; // a drop onto a row counts for the nearer gap
-    const int y = event.position().toPoint().y();
-    const int row = rowAt(y);
-    if (row < 0)
-        drag.row = model() ? model()->rowCount() : 0;
-    else
-        drag.row = y < rowViewportPosition(row) + rowHeight(row) / 2 ? row : row + 1;
+    placeDrag(drag, event.position().toPoint().y());
     return drag;
+}
+
+void DarkModeTableView::placeDrag(TableDrag &drag, int y) const
+{
+    std::optional<HoveredRow> hovered;
+    if (const int row = rowAt(y); row >= 0)
+        hovered = {row, y - rowViewportPosition(row), rowHeight(row)};
+    if (hovered && m_scroll.isScrolling()) // where each row is passed, there is always a line
+        hovered->depth = 2 * hovered->depth < hovered->height ? 0 : hovered->height - 1;
+    const DropPlace place = dropPlace(hovered, model() ? model()->rowCount() : 0,
+                                      drag.isFromThisTable ? drag.draggedRows : QList<qsizetype>());
+    drag.row = place.row;
+    drag.isAboveRow = place.isAboveRow;
 }
 
 void DarkModeTableView::answer(QDropEvent &event, DragOperation operation)
@@ -189,23 +257,48 @@ void DarkModeTableView::dragEnterEvent(QDragEnterEvent *event)
 
 void DarkModeTableView::dragMoveEvent(QDragMoveEvent *event)
 {
-    QTableView::dragMoveEvent(event); // scrolls at the edges
-    const TableDrag drag = tableDrag(*event);
-    const DragOperation operation = m_validate ? m_validate(drag) : DragOperation::None;
-    showDropLine(operation == DragOperation::Move ? std::optional(drag.row) : std::nullopt);
-    answer(*event, operation);
+    m_drag = tableDrag(*event);
+    m_dragHeight = event->position().toPoint().y();
+    m_scroll.dragIsAt(m_dragHeight);
+    const DragOperation operation = followDrag();
+    // While the table scrolls under it, the answer holds for the next moment only; the drop itself
+    // is looked at again.
+    const bool isPassing = m_drag->isFromThisTable && m_scroll.isScrolling();
+    answer(*event, isPassing ? DragOperation::Move : operation);
+}
+
+/// Shows where what is over the table would be dropped now.
+DragOperation DarkModeTableView::followDrag()
+{
+    placeDrag(*m_drag, m_dragHeight);
+    const DragOperation operation = m_validate ? m_validate(*m_drag) : DragOperation::None;
+    showDropLine(operation == DragOperation::Move ? std::optional(m_drag->row) : std::nullopt);
+    return operation;
+}
+
+void DarkModeTableView::scrollContentsBy(int dx, int dy)
+{
+    QTableView::scrollContentsBy(dx, dy);
+    if (m_drag)
+        (void)followDrag();
 }
 
 void DarkModeTableView::dragLeaveEvent(QDragLeaveEvent *event)
 {
-    showDropLine({});
+    endDrag();
     QTableView::dragLeaveEvent(event);
+}
+
+void DarkModeTableView::endDrag()
+{
+    m_drag.reset();
+    m_scroll.stop();
+    showDropLine({});
 }
 
 void DarkModeTableView::dropEvent(QDropEvent *event)
 {
-    showDropLine({});
-    stopAutoScroll();
+    endDrag();
     setState(NoState);
     const TableDrag drag = tableDrag(*event);
     const DragOperation operation = m_validate ? m_validate(drag) : DragOperation::None;

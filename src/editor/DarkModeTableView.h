@@ -1,7 +1,10 @@
 #pragma once
 
+#include "editor/DragScroll.h"
+#include "editor/MarkPress.h"
 #include "editor/TableDrag.h"
 
+#include <QPersistentModelIndex>
 #include <QTableView>
 
 #include <functional>
@@ -23,6 +26,7 @@ public:
 
     explicit DarkModeTableView(QWidget *parent = nullptr);
 
+    void setModel(QAbstractItemModel *model) override;
     /// Who says what a drag may do here, and takes a drop.
     void setDropHandler(Validate validate, Accept accept);
     /// Shown in the middle of a table without rows.
@@ -32,6 +36,9 @@ public:
     [[nodiscard]] static TableDrag filesOf(const QMimeData &data);
     /// Whether a cell is being edited.
     [[nodiscard]] bool isEditing() const { return state() == EditingState; }
+    /// Makes a row that there is the current and only selected one, as the arrow keys do.
+    void goToRow(int row);
+    void keyboardSearch(const QString &search) override;
 
     /// Prints all rows on as many pages as they need, always dark on light, with the column titles
     /// on each page and the columns fitted to its width.
@@ -40,6 +47,8 @@ public:
 signals:
     /// Return or Enter was pressed while no cell was being edited.
     void returnPressed();
+    /// Letters were typed while no cell was being edited.
+    void typed(const QString &letters);
     /// Editing of a cell has begun or ended.
     void editingChanged();
 
@@ -47,7 +56,10 @@ protected:
     bool edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) override;
     void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    void scrollContentsBy(int dx, int dy) override;
     void startDrag(Qt::DropActions actions) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dragMoveEvent(QDragMoveEvent *event) override;
@@ -57,6 +69,9 @@ protected:
 private:
     [[nodiscard]] QPixmap dragPicture(const QModelIndexList &rows) const;
     [[nodiscard]] TableDrag tableDrag(const QDropEvent &event) const;
+    void placeDrag(TableDrag &drag, int y) const;
+    [[nodiscard]] DragOperation followDrag();
+    void endDrag();
     void answer(QDropEvent &event, DragOperation operation);
     void showDropLine(std::optional<qsizetype> row);
     [[nodiscard]] int dropLinePosition() const;
@@ -64,7 +79,13 @@ private:
     Validate m_validate;
     Accept m_accept;
     QString m_placeholder;
+    QPersistentModelIndex m_pressed; ///< where the left button went down
+    QPoint m_pressPlace;
+    std::optional<TableDrag> m_drag;    ///< what is over the table
+    int m_dragHeight = 0;               ///< how far below the top of the viewport it is
     std::optional<qsizetype> m_dropRow; ///< the row below the drop line, while one is shown
+    DragScroll m_scroll{*this};
+    MarkPress m_markPress{*this};
 };
 
 } // namespace quillet

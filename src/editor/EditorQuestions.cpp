@@ -14,11 +14,11 @@ EditorQuestions::EditorQuestions(TLLDocument &document, QWidget *window, QObject
 {
 }
 
-void EditorQuestions::askForNumber(std::function<void(qint64)> answered) const
+void EditorQuestions::askForNumber(qsizetype stations, std::function<void(qint64)> answered) const
 {
     if (!m_document.prompts())
         return;
-    const Alert alert{.message = qtTrId("kMovingMessage"),
+    const Alert alert{.message = qtTrId("kMovingMessage", static_cast<int>(stations)),
                       .informativeText = {},
                       .buttons = {qtTrId("kMovingOK"), qtTrId("kCancel")},
                       .cancelButton = 1,

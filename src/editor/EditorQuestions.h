@@ -18,8 +18,9 @@ class EditorQuestions
 public:
     EditorQuestions(TLLDocument &document, QWidget *window, QObject *context);
 
-    /// The number typed, 1 to highestTarget; any other answer is none.
-    void askForNumber(std::function<void(qint64)> answered) const;
+    /// The number for so many stations that was typed, 1 to highestTarget; any other answer is
+    /// none.
+    void askForNumber(qsizetype stations, std::function<void(qint64)> answered) const;
     /// Whether the document's unsaved changes may be given up for another file.
     void askToReplace(std::function<void()> confirmed) const;
     /// The reference list chosen.

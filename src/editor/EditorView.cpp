@@ -1,7 +1,10 @@
 #include "editor/EditorView.h"
 
+#include "editor/EditorKeys.h"
+#include "editor/EditorLayout.h"
 #include "editor/EmptyDocText.h"
 #include "editor/InfoViewController.h"
+#include "editor/ShownTexts.h"
 #include "editor/TableColumns.h"
 #include "editor/TableSelection.h"
 #include "framework/Prompts.h"
@@ -22,6 +25,9 @@ constexpr std::array sourceTitles{"kCable", "kSatellite", "kAntenna", "kAnalogue
 constexpr std::array filterTitles{"kFilterAll", "kFilterSD", "kFilterHD",
                                   "kFilterUHD", "kFilterTV", "kFilterOther"};
 
+/// The label takes the room it needs, and the window with it.
+constexpr qsizetype longestDeviceName = 30;
+
 } // namespace
 
 EditorView::EditorView(QWidget *parent)
@@ -29,9 +35,10 @@ EditorView::EditorView(QWidget *parent)
       m_model(m_controller)
 {
     m_ui->setupUi(this);
+    foldRows(*m_ui);
     setUpControls();
     setUpTable();
-    updateFonts();
+    sizeControls(*m_ui, font());
     connectControls();
     m_controller.viewDidLoad();
     setAcceptDrops(true);
@@ -50,6 +57,10 @@ void EditorView::setUpControls()
         setTabOrder(before, m_ui->sourceSegmentControl->segment(i));
         before = m_ui->sourceSegmentControl->segment(i);
     }
+    if (auto *clear = m_ui->searchText->findChild<QAbstractButton *>()) {
+        clear->setAccessibleName(qtTrId("kClearSearch"));
+        clear->setToolTip(qtTrId("kClearSearch"));
+    }
     m_ui->foreignRowsBar->setClosable(false);
     m_ui->foreignRowsBar->setTabOrderAfter(*m_ui->filterPop);
     m_ui->noticeBar->setTabOrderAfter(*m_ui->filterPop);
@@ -67,19 +78,7 @@ void EditorView::setUpTable()
                         [this](const TableDrag &drag) { return m_controller.acceptDrop(drag); });
 
     m_emptyDocText = new EmptyDocText(list.viewport());
-}
-
-void EditorView::updateFonts()
-{
-    QFont device = font();
-    device.setBold(true);
-    device.setPointSizeF(device.pointSizeF() * 1.25);
-    m_ui->deviceName->setFont(device);
-
-    const QFontMetrics metrics = fontMetrics();
-    sizeColumns(*m_ui->list, metrics);
-    m_ui->list->setMinimumHeight(metrics.height() * 14); // with room for the hints in an empty list
-    m_ui->searchText->setMinimumWidth(metrics.averageCharWidth() * 22);
+    m_keys = std::make_unique<EditorKeys>(list, *m_ui->searchText, m_controller);
 }
 
 void EditorView::connectControls()
@@ -194,7 +193,7 @@ void EditorView::setText(Field field, const QString &text)
         m_ui->fileName->setText(text);
         break;
     case Field::DeviceName:
-        m_ui->deviceName->setText(text);
+        m_ui->deviceName->setText(shortened(cleanName(text), longestDeviceName));
         break;
     case Field::StationCount:
         m_ui->stationCount->setText(text);
@@ -351,7 +350,7 @@ void EditorView::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::FontChange)
-        updateFonts();
+        sizeControls(*m_ui, font());
 }
 
 } // namespace quillet

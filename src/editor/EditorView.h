@@ -16,6 +16,7 @@ class EditorView;
 
 namespace quillet {
 
+class EditorKeys;
 class EmptyDocText;
 class InfoViewController;
 
@@ -81,12 +82,12 @@ private:
     void setUpControls();
     void setUpTable();
     void connectControls();
-    void updateFonts();
 
     std::unique_ptr<Ui::EditorView> m_ui;
     ViewController m_controller;
     StationTableModel m_model;
     EmptyDocText *m_emptyDocText;
+    std::unique_ptr<EditorKeys> m_keys;
     QPointer<InfoViewController> m_infoPanel;
 };
 

@@ -1,6 +1,9 @@
 #include "editor/ElidedLabel.h"
 
+#include "files/ShownPath.h"
+
 #include <QPainter>
+#include <QStyle>
 
 namespace quillet {
 
@@ -9,7 +12,7 @@ ElidedLabel::ElidedLabel(QWidget *parent) : QWidget(parent) {}
 void ElidedLabel::setText(const QString &text)
 {
     m_text = text;
-    setToolTip(text);
+    setToolTip(shownPath(text));
     setAccessibleDescription(text);
     updateGeometry();
     update();
@@ -29,8 +32,10 @@ void ElidedLabel::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setPen(palette().color(QPalette::PlaceholderText));
-    painter.drawText(rect(), Qt::AlignRight | Qt::AlignVCenter,
-                     fontMetrics().elidedText(m_text, Qt::ElideMiddle, width()));
+    const QString drawn = fontMetrics().elidedText(m_text, Qt::ElideMiddle, width());
+    const Qt::Alignment end = QStyle::visualAlignment(layoutDirection(), Qt::AlignRight);
+    painter.drawText(rect(), end.toInt() | Qt::AlignVCenter | Qt::TextForceLeftToRight,
+                     shownPath(drawn));
 }
 
 } // namespace quillet

@@ -4,8 +4,8 @@
 
 namespace quillet {
 
-/// One line of text that gives way to its neighbours: what does not fit is left out in the middle
-/// and shown whole in the tooltip.
+/// The path of a file, which gives way to its neighbours: what does not fit is left out in the
+/// middle and shown whole in the tooltip.
 class ElidedLabel : public QWidget
 {
     Q_OBJECT

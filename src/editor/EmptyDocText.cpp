@@ -1,5 +1,8 @@
 #include "editor/EmptyDocText.h"
 
+#include "editor/Contrast.h"
+
+#include <QEvent>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -25,14 +28,24 @@ constexpr std::array hintTexts{
     HintText{EmptyHint::NoTVStations, "kHintNoTVStations", nullptr, "kHintShowRadio"},
 };
 
-QString richText(const HintText &row)
+/// Many dark palettes leave the colour of links as it is on a light ground.
+QColor linkColor(const QPalette &palette)
+{
+    constexpr double readable = 4.5;
+    const QColor link = palette.color(QPalette::Link);
+    return contrast(link, palette.color(QPalette::Base)) >= readable
+               ? link
+               : palette.color(QPalette::Text);
+}
+
+QString richText(const HintText &row, const QColor &link)
 {
     QString text = QStringLiteral("<h3>%1</h3>").arg(qtTrId(row.heading).toHtmlEscaped());
     if (row.text)
         text += QStringLiteral("<p>%1</p>").arg(qtTrId(row.text).toHtmlEscaped());
     if (row.link)
-        text += QStringLiteral("<p><a href=\"%1\">%2</a></p>")
-                    .arg(QLatin1String(row.link), qtTrId(row.link).toHtmlEscaped());
+        text += QStringLiteral("<p><a href=\"%1\" style=\"color:%2\">%3</a></p>")
+                    .arg(QLatin1String(row.link), link.name(), qtTrId(row.link).toHtmlEscaped());
     return text;
 }
 
@@ -43,7 +56,7 @@ EmptyDocText::EmptyDocText(QWidget *covered) : QLabel(covered)
     setObjectName(QStringLiteral("emptyDocText"));
     setAlignment(Qt::AlignCenter);
     setWordWrap(true);
-    setMargin(24);
+    setMargin(8);
     setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     setFocusPolicy(Qt::StrongFocus);
     setAutoFillBackground(true);
@@ -56,12 +69,20 @@ EmptyDocText::EmptyDocText(QWidget *covered) : QLabel(covered)
 
 void EmptyDocText::showHint(EmptyHint hint)
 {
+    m_hint = hint;
     const auto *const row =
         std::find_if(hintTexts.begin(), hintTexts.end(),
                      [hint](const HintText &text) { return text.hint == hint; });
     if (row != hintTexts.end())
-        setText(richText(*row));
+        setText(richText(*row, linkColor(palette())));
     setVisible(row != hintTexts.end());
+}
+
+void EmptyDocText::changeEvent(QEvent *event)
+{
+    QLabel::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        showHint(m_hint);
 }
 
 void EmptyDocText::follow(const QString &link)

@@ -23,8 +23,13 @@ signals:
     void tvRequested();
     void radioRequested();
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
     void follow(const QString &link);
+
+    EmptyHint m_hint = EmptyHint::None;
 };
 
 } // namespace quillet

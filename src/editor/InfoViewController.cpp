@@ -1,7 +1,10 @@
 #include "editor/InfoViewController.h"
 
+#include "editor/CellText.h"
 #include "editor/RoomyCells.h"
+#include "editor/ShownTexts.h"
 #include "editor/StationInfoModel.h"
+#include "framework/ScreenPlace.h"
 
 #include <QClipboard>
 #include <QDialogButtonBox>
@@ -20,6 +23,9 @@
 namespace quillet {
 
 namespace {
+
+/// In UTF-16 code units: takes one line in a panel of any useful width.
+constexpr qsizetype shortContent = 20;
 
 QString sizeKey()
 {
@@ -47,6 +53,13 @@ public:
     }
     void setEditorData(QWidget *, const QModelIndex &) const override {}
     void setModelData(QWidget *, QAbstractItemModel *, const QModelIndex &) const override {}
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->text = inItsDirection(option->text, option->direction);
+    }
 };
 
 } // namespace
@@ -78,6 +91,7 @@ InfoViewController::InfoViewController(QWidget *parent) : QDialog(parent), m_lis
 
     const int line = fontMetrics().height();
     resize(QSettings().value(sizeKey(), QSize(30 * line, 36 * line)).toSize());
+    keepOnScreen(*this);
     m_list->setFocus();
 }
 
@@ -91,14 +105,20 @@ void InfoViewController::setStation(const LGStation &station)
     StationInfo info;
     info.setStation(station);
     const QString modifiedMark = QStringLiteral("[*]"); // which a title shows when it stands twice
-    setWindowTitle(QString(info.title()).replace(modifiedMark, modifiedMark + modifiedMark));
+    setWindowTitle(drawnName(info.title()).replace(modifiedMark, modifiedMark + modifiedMark));
     m_model = new StationInfoModel(std::move(info), this);
     m_list->setModel(m_model);
     m_list->resizeColumnToContents(StationInfoModel::Field);
-    m_list->resizeRowsToContents();
+    // Only contents of several lines are worth measuring.
     const int least = fontMetrics().height() * 3 / 2;
-    for (int row = 0; row < m_model->rowCount(); ++row)
+    m_list->verticalHeader()->setDefaultSectionSize(least);
+    for (int row = 0; row < m_model->rowCount(); ++row) {
+        const QString content = m_model->index(row, StationInfoModel::Content).data().toString();
+        if (content.size() < shortContent && !content.contains(u'\n'))
+            continue;
+        m_list->resizeRowToContents(row);
         m_list->setRowHeight(row, qMax(least, m_list->rowHeight(row)));
+    }
 }
 
 bool InfoViewController::eventFilter(QObject *watched, QEvent *event)
@@ -119,7 +139,8 @@ void InfoViewController::copySelection() const
     QStringList lines;
     for (const QModelIndex &field : std::as_const(rows)) {
         const QModelIndex content = field.siblingAtColumn(StationInfoModel::Content);
-        lines.append(field.data().toString() + u'\t' + content.data().toString());
+        lines.append(field.data(Qt::EditRole).toString() + u'\t' +
+                     content.data(Qt::EditRole).toString());
     }
     QGuiApplication::clipboard()->setText(lines.join(u'\n'));
 }

@@ -2,6 +2,7 @@
 
 #include "document/TLLDocument.h"
 #include "document/repair/FileDiagnosis.h"
+#include "editor/ShownTexts.h"
 #include "files/Places.h"
 
 #include <QFileInfo>
@@ -18,9 +19,10 @@ QString damageText(const FileFinding &finding)
     const int line = finding.line;
     if (finding.isJSONList)
         return qtTrId("kNoticeDamagedLine").arg(line);
-    const QString place = finding.lastStation
-                              ? qtTrId("kNoticeDamaged").arg(line).arg(*finding.lastStation)
-                              : qtTrId("kNoticeDamagedFirst").arg(line);
+    const QString place =
+        finding.lastStation
+            ? qtTrId("kNoticeDamaged").arg(line).arg(drawnName(*finding.lastStation))
+            : qtTrId("kNoticeDamagedFirst").arg(line);
     const QString consequence = finding.unread > 0
                                     ? qtTrId("kNoticeUnread", static_cast<int>(finding.unread))
                                     : qtTrId("kNoticeUnreadEnd");
@@ -36,7 +38,7 @@ QString textOf(const FileFinding &finding)
     case Kind::Latin1:
         return qtTrId("kNoticeLatin1");
     case Kind::Declaration:
-        return qtTrId("kNoticeDeclaration").arg(finding.declared);
+        return qtTrId("kNoticeDeclaration").arg(drawnName(finding.declared));
     case Kind::BinaryList:
         return qtTrId("kNoticeBinary");
     case Kind::NoXML:

@@ -1,5 +1,7 @@
 #include "editor/StationFilter.h"
 
+#include "model/CleanName.h"
+
 namespace quillet {
 
 namespace {
@@ -46,8 +48,14 @@ void StationFilter::filterStationsFor(const QString &text, const StationListPtr 
         return;
     const QString wanted = text.toLower();
     LowerCase lowerCase;
-    const auto fits = [&lowerCase, &wanted](const QString &name) {
+    const auto holds = [&lowerCase, &wanted](const QString &name) {
         return lowerCase.of(name).contains(wanted);
+    };
+    const auto fits = [&holds](const QString &name) {
+        if (holds(name))
+            return true;
+        const QString clean = cleanName(name);
+        return clean.size() != name.size() && holds(clean);
     };
     for (const StationPtr &station : *stations) {
         if (fits(station->stationName()) || (station->isRenamed() && fits(station->shownName())))

@@ -19,8 +19,9 @@ public:
     [[nodiscard]] const StationListPtr &base() const { return m_base; }
 
     void clear();
-    /// Keeps the stations whose name contains the text, without regard to case; a renamed station's
-    /// old name counts as well. An empty text removes the filter. The list may be null.
+    /// Keeps the stations whose name contains the text, without regard to case, as it is stored or
+    /// as it is drawn; a renamed station's old name counts as well. An empty text removes the
+    /// filter. The list may be null.
     void filterStationsFor(const QString &text, const StationListPtr &stations);
     /// Narrows what the search has left, or the whole list, to the type with that tag of
     /// TypeFilter.

@@ -1,6 +1,8 @@
 #include "editor/StationInfoModel.h"
 
 #include "editor/CellFont.h"
+#include "editor/CellText.h"
+#include "editor/ShownTexts.h"
 
 namespace quillet {
 
@@ -29,7 +31,11 @@ QVariant StationInfoModel::data(const QModelIndex &index, int role) const
         return QVariant::fromValue(Qt::AlignLeft | Qt::AlignVCenter);
     if (role != Qt::DisplayRole && role != Qt::EditRole && role != Qt::ToolTipRole)
         return {};
-    return index.column() == Field ? m_info.fields().at(index.row()) : m_info.content(index.row());
+    const QString whole =
+        index.column() == Field ? m_info.fields().at(index.row()) : m_info.content(index.row());
+    if (role == Qt::EditRole)
+        return whole;
+    return role == Qt::ToolTipRole ? plainToolTip(drawnContent(whole)) : drawnContent(whole);
 }
 
 QVariant StationInfoModel::headerData(int section, Qt::Orientation orientation, int role) const

@@ -6,8 +6,9 @@
 
 namespace quillet {
 
-/// The rows of the info panel: a field's name and its content. Nothing here can be changed; a cell
-/// counts as editable so that a part of its text can be selected.
+/// The rows of the info panel: a field's name and its content, of which only the beginning is drawn
+/// when it is very long. Nothing here can be changed; a cell counts as editable so that a part of
+/// its text can be selected.
 class StationInfoModel : public QAbstractTableModel
 {
     Q_OBJECT

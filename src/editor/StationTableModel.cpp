@@ -1,7 +1,9 @@
 #include "editor/StationTableModel.h"
 
 #include "editor/CellFont.h"
+#include "editor/CellText.h"
 #include "editor/ListChange.h"
+#include "editor/ShownTexts.h"
 #include "editor/StationColumns.h"
 #include "editor/ViewController.h"
 
@@ -16,9 +18,14 @@ namespace quillet {
 
 namespace {
 
-QVariant checkMark(bool set)
+/// A screen reader says nothing of an empty mark unless its text does.
+QVariant markData(bool set, const StationColumn &column, int role)
 {
-    return QVariant::fromValue(set ? Qt::Checked : Qt::Unchecked);
+    if (role == Qt::CheckStateRole)
+        return QVariant::fromValue(set ? Qt::Checked : Qt::Unchecked);
+    if (role == Qt::AccessibleTextRole)
+        return qtTrId(set ? "kMarkSet" : "kMarkNotSet").arg(qtTrId(column.title));
+    return {};
 }
 
 constexpr std::array fieldColumns{
@@ -190,16 +197,19 @@ QVariant StationTableModel::data(const QModelIndex &index, int role) const
             return QVariant::fromValue(Qt::AlignRight | Qt::AlignVCenter);
         return isText || role == Qt::EditRole ? station.progNumString() : QVariant();
     case ColumnContent::Name:
-        return isText || role == Qt::EditRole || role == Qt::ToolTipRole ? station.shownName()
-                                                                         : QVariant();
+        if (role == Qt::EditRole)
+            return station.shownName();
+        if (role == Qt::ToolTipRole)
+            return plainToolTip(drawnName(station));
+        return isText ? drawnName(station) : QVariant();
     case ColumnContent::Type:
         if (role == Qt::TextAlignmentRole)
             return QVariant::fromValue(Qt::AlignCenter);
         return isText ? station.channelTypeForDisplay(m_controller.source()) : QVariant();
     case ColumnContent::Skipped:
-        return role == Qt::CheckStateRole ? checkMark(station.isSkipped()) : QVariant();
+        return markData(station.isSkipped(), column, role);
     case ColumnContent::Blocked:
-        return role == Qt::CheckStateRole ? checkMark(station.isBlocked()) : QVariant();
+        return markData(station.isBlocked(), column, role);
     }
     return {};
 }

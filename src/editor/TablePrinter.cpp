@@ -1,5 +1,7 @@
 #include "editor/TablePrinter.h"
 
+#include "editor/CellText.h"
+
 #include <QHeaderView>
 #include <QPainter>
 #include <QPrinter>
@@ -115,7 +117,7 @@ void TablePrinter::drawRow(QPainter &painter, const Page &page, int row, qreal t
             given.isValid() ? given.toInt() : static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter);
         const QString text = painter.fontMetrics().elidedText(
             index.data(Qt::DisplayRole).toString(), Qt::ElideRight, static_cast<int>(cell.width()));
-        painter.drawText(cell, alignment, text);
+        painter.drawText(cell, alignment, inItsDirection(text, painter.layoutDirection()));
     }
 }
 

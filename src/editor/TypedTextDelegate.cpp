@@ -1,8 +1,20 @@
 #include "editor/TypedTextDelegate.h"
 
+#include "editor/CellText.h"
+#include "editor/ShownTexts.h"
+
 #include <QLineEdit>
 
 namespace quillet {
+
+void TypedTextDelegate::setEditorData(QWidget *editor, const QModelIndex &index) const
+{
+    auto *field = qobject_cast<QLineEdit *>(editor);
+    if (field && index.data(Qt::EditRole).toString().size() > longestContentShown)
+        field->setPlaceholderText(index.data().toString());
+    else
+        QStyledItemDelegate::setEditorData(editor, index);
+}
 
 void TypedTextDelegate::setModelData(QWidget *editor, QAbstractItemModel *model,
                                      const QModelIndex &index) const
@@ -13,6 +25,13 @@ void TypedTextDelegate::setModelData(QWidget *editor, QAbstractItemModel *model,
     const QString text = field->text();
     if (!text.isEmpty() && text != index.data(Qt::EditRole).toString())
         model->setData(index, text, Qt::EditRole);
+}
+
+void TypedTextDelegate::initStyleOption(QStyleOptionViewItem *option,
+                                        const QModelIndex &index) const
+{
+    QStyledItemDelegate::initStyleOption(option, index);
+    option->text = inItsDirection(option->text, option->direction);
 }
 
 } // namespace quillet

@@ -55,7 +55,7 @@ void ViewController::moveItemsToClicked()
 {
     if (!stationDoc() || shown().areForeign())
         return;
-    questions().askForNumber([this](qint64 number) {
+    questions().askForNumber(outlets().selectedRows().size(), [this](qint64 number) {
         moveSelectedElements(outlets().selectedRows(), number);
         restoreSelection();
     });

@@ -1,5 +1,7 @@
 #include "files/FileReading.h"
 
+#include "files/ShownPath.h"
+
 #include <QFile>
 #include <QFileInfo>
 
@@ -17,7 +19,7 @@ QString obstacle(const QUrl &url)
         return qtTrId("kNotALocalFileReason");
     const QFileInfo info(url.toLocalFile());
     if (!info.exists())
-        return qtTrId("kFileMissingReason").arg(info.absoluteFilePath());
+        return qtTrId("kFileMissingReason").arg(shownPath(info.absoluteFilePath()));
     if (info.isDir())
         return qtTrId("kIsAFolderReason").arg(info.fileName());
     if (!info.isFile())

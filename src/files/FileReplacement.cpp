@@ -2,6 +2,7 @@
 
 #include "files/FileOperations.h"
 #include "files/Places.h"
+#include "files/ShownPath.h"
 
 #include <QDateTime>
 #include <QDirIterator>
@@ -80,7 +81,8 @@ Error FileReplacement::replaceTarget(const QString &target, const QByteArray &by
     QFile file(unusedPath(info.path()));
     QString reason;
     if (!m_operations.create(file, hasOldFile, reason))
-        return failure(Failure::Create, qtTrId("kCreateFailedReason").arg(info.path(), reason));
+        return failure(Failure::Create,
+                       qtTrId("kCreateFailedReason").arg(shownPath(info.path()), reason));
     auto removeNewFile = qScopeGuard([&file] { file.remove(); });
     if (m_operations.write(file, bytes, reason) != bytes.size())
         return failure(Failure::Write, qtTrId("kWriteFailedReason").arg(reason));

@@ -1,5 +1,6 @@
 #include "framework/RecentFilesMenu.h"
 
+#include "files/ShownPath.h"
 #include "framework/RecentFiles.h"
 
 #include <QAction>
@@ -35,14 +36,14 @@ void RecentFilesMenu::fill()
 void RecentFilesMenu::addFile(const QString &path, bool showsFolder)
 {
     const QFileInfo info(path);
-    const QString shownPath = QDir::toNativeSeparators(path);
+    const QString place = shownPath(QDir::toNativeSeparators(path));
     QString label = info.fileName();
     if (showsFolder)
-        label += QStringLiteral(u" \u2014 ") + QDir::toNativeSeparators(info.path());
+        label += QStringLiteral(u" \u2014 ") + shownPath(QDir::toNativeSeparators(info.path()));
     QAction *action = m_menu.addAction(label.replace(QLatin1Char('&'), QLatin1String("&&")));
     const bool exists = info.exists();
     action->setEnabled(exists);
-    action->setToolTip(exists ? shownPath : qtTrId("kRecentFileMissingMessage").arg(shownPath));
+    action->setToolTip(exists ? place : qtTrId("kRecentFileMissingMessage").arg(place));
     action->setStatusTip(action->toolTip());
     connect(action, &QAction::triggered, this, [this, path] { emit fileChosen(path); });
 }

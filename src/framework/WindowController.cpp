@@ -1,6 +1,7 @@
 #include "framework/WindowController.h"
 
 #include "framework/Document.h"
+#include "framework/ScreenPlace.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -72,7 +73,10 @@ void WindowController::showWindow()
 {
     if (!m_hasFrame)
         restoreFrame();
+    if (!m_wasShown)
+        keepOnScreen(*m_window);
     m_hasFrame = true;
+    m_wasShown = true;
     m_window->show();
 }
 

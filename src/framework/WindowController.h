@@ -61,6 +61,7 @@ private:
     QString m_frameName;
     QPointer<Document> m_document;
     bool m_hasFrame = false;
+    bool m_wasShown = false;
 };
 
 } // namespace quillet

@@ -1,5 +1,6 @@
 #include "EditorFixture.h"
 
+#include "editor/DropPlace.h"
 #include "testing/TestFiles.h"
 #include "testing/TestMain.h"
 
@@ -158,6 +159,56 @@ private slots:
         QCOMPARE(editor.list(0), after.isEmpty() ? u"1 A, 2 B, 3 C, 4 D, 9 E"_s : after);
         QCOMPARE(editor.document.isDirty(), !after.isEmpty());
         QTEST(editor.outlets.rows, "selected");
+    }
+
+    void placesOfDrops_data()
+    {
+        QTest::addColumn<Rows>("dragged");
+        QTest::addColumn<int>("hovered"); // of ten rows, 30 pixels high; -1: below all
+        QTest::addColumn<int>("depth");
+        QTest::addColumn<int>("gap"); // -1: onto a row
+        QTest::newRow("upper third") << Rows{8} << 4 << 9 << 4;
+        QTest::newRow("middle third") << Rows{8} << 4 << 10 << -1;
+        QTest::newRow("still the middle third") << Rows{8} << 4 << 19 << -1;
+        QTest::newRow("lower third") << Rows{8} << 4 << 20 << 5;
+        QTest::newRow("below all") << Rows{8} << -1 << 0 << 10;
+        QTest::newRow("below the last, dragged") << Rows{9} << -1 << 0 << -1;
+        QTest::newRow("nothing dragged here") << Rows{} << 9 << 29 << 10;
+        for (const int depth : {0, 15, 29}) {
+            QTest::addRow("own row, %d", depth) << Rows{4} << 4 << depth << -1;
+            QTest::addRow("row of several, %d", depth) << Rows{1, 4, 7} << 4 << depth << -1;
+        }
+        QTest::newRow("border above the block") << Rows{4, 5} << 3 << 29 << -1;
+        QTest::newRow("border below the block") << Rows{4, 5} << 6 << 0 << -1;
+        QTest::newRow("beside the border") << Rows{4, 5} << 6 << 29 << 7;
+        QTest::newRow("below the first of several") << Rows{1, 4} << 2 << 0 << -1;
+        QTest::newRow("gathered by another") << Rows{1, 4} << 3 << 29 << 4;
+    }
+    /// A slip of the hand must not renumber anything.
+    void placesOfDrops()
+    {
+        QFETCH(Rows, dragged);
+        QFETCH(int, hovered);
+        QFETCH(int, depth);
+        QFETCH(int, gap);
+        const DropPlace place =
+            dropPlace(hovered < 0 ? std::nullopt : std::optional(HoveredRow{hovered, depth, 30}),
+                      10, dragged);
+        QCOMPARE(place.isAboveRow, gap >= 0);
+        if (gap >= 0)
+            QCOMPARE(place.row, gap);
+    }
+
+    void scrollingWhileDragging()
+    {
+        for (const int row : {24, 48}) { // pixels; at most a row in each of 33 turns a second
+            QCOMPARE(dragScrollStep(0, 500, row), -row);
+            QCOMPARE(dragScrollStep(499, 500, row), row);
+            QCOMPARE(dragScrollStep(-400, 500, row), -row);
+            QCOMPARE(dragScrollStep(250, 500, row), 0);
+            QVERIFY(dragScrollStep(row, 500, row) < 0 && dragScrollStep(row, 500, row) > -row);
+        }
+        QCOMPARE(dragScrollStep(1, 3, 24), 0);
     }
 
     void droppedFile_data()

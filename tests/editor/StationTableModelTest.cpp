@@ -3,6 +3,7 @@
 #include "document/order/ReferenceOrder.h"
 
 #include "editor/StationColumns.h"
+#include "editor/StationInfoModel.h"
 #include "testing/TestMain.h"
 
 #include <QMimeData>
@@ -34,6 +35,48 @@ private slots:
         QCOMPARE(type.data().toString(), QString());
         editor.clickSegment(2);
         QCOMPARE(type.data().toString(), u"DVB-T2"_s);
+    }
+
+    /// Names with the codes of a broadcast, and names that nobody could read to their end.
+    void namesAsDrawn()
+    {
+        const QString stored = u"\u0005S\u0086ky Se\u0087lect\u008A"_s;
+        const QString endless = u"e"_s + QString(500'000, QChar(0x301));
+        Editor editor(lettered({1, 2}, FileSource::Analogue));
+        const StationList list = *editor.document.stations();
+        list[0]->setStationName(stored);
+        list[1]->setStationName(endless);
+        const QModelIndex sky = editor.model.index(0, 1), long1 = editor.model.index(1, 1);
+        QCOMPARE(sky.data().toString(), u"Sky Select"_s);
+        QCOMPARE(sky.data(Qt::ToolTipRole).toString(), u"Sky Select"_s);
+        QCOMPARE(sky.data(Qt::EditRole).toString(), stored);
+        QCOMPARE(long1.data(Qt::EditRole).toString(), endless);
+        for (const QString &text : {u"y sel"_s, stored.first(4), u"y se\u0087l"_s}) {
+            editor.search(text);
+            QCOMPARE(editor.controller.currentList(), StationList{list[0]});
+        }
+        editor.search({});
+        StationInfo info;
+        info.setStation(*list[1]);
+        const StationInfoModel panel(info);
+        for (const int role : {int(Qt::DisplayRole), int(Qt::ToolTipRole)}) {
+            QVERIFY(long1.data(role).toString().size() < 300);
+            for (int row = 0; row < panel.rowCount(); ++row)
+                QVERIFY(panel.index(row, 1).data(role).toString().size() <= 1001);
+        }
+        list[0]->setStationName(u"<b>bold</b>"_s);
+        QVERIFY(sky.data(Qt::ToolTipRole).toString().contains(u"&lt;b&gt;"_s));
+    }
+
+    void marksSaidAloud()
+    {
+        Editor editor(lettered({1}));
+        editor.controller.setObjectValue(true, u"blocked"_s, 0);
+        const auto said = [&editor](int column) {
+            return editor.model.index(0, column).data(Qt::AccessibleTextRole).toString();
+        };
+        QCOMPARE(said(3), u"kMarkNotSet"_s);
+        QCOMPARE(said(4), u"kMarkSet"_s);
     }
 
     /// An order leaves filtered rows where they are.

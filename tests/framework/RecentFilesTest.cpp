@@ -1,5 +1,6 @@
 #include "BytesDocument.h"
 
+#include "files/ShownPath.h"
 #include "framework/RecentFiles.h"
 #include "framework/RecentFilesMenu.h"
 #include "testing/TestMain.h"
@@ -10,6 +11,7 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTextLayout>
 
 using namespace quillet;
 using namespace quillet::testing;
@@ -79,6 +81,25 @@ private slots:
         QCOMPARE(chosen.front().front().toString(), plain);
         menu.actions().constLast()->trigger();
         QCOMPARE(entries(menu), QStringList{QStringLiteral("kClearMenu (off)")});
+    }
+
+    void foldersFollowFromLeftToRight()
+    {
+        QCOMPARE(shownPath(QStringLiteral("/a b/ü.tll")), QStringLiteral("/a b/ü.tll"));
+        const QString path = QStringLiteral(u"~/\u05E9\u05DC/\u0642 1/\u05D0 b.tll");
+        const QString shown = shownPath(path);
+        // Each name by itself, and all of them as a text that reads from left to right.
+        QCOMPARE(shown, QStringLiteral(u"\u2066\u2068~\u2069/\u2068\u05E9\u05DC\u2069/"
+                                       u"\u2068\u0642 1\u2069/\u2068\u05D0 b\u2069.tll\u2069"));
+        QTextLayout layout(shown);
+        layout.beginLayout();
+        const QTextLine line = layout.createLine();
+        layout.endLayout();
+        const auto x = [&](const char16_t *part) {
+            return line.cursorToX(static_cast<int>(shown.indexOf(QStringView(part))));
+        };
+        QVERIFY(x(u"~") < x(u"\u05E9") && x(u"\u05E9") < x(u"\u0642"));
+        QVERIFY(x(u"\u0642") < x(u".tll"));
     }
 
 private:

@@ -1,8 +1,11 @@
 #include "BytesDocument.h"
 
+#include "framework/ScreenPlace.h"
 #include "testing/TestMain.h"
 
+#include <QGuiApplication>
 #include <QMainWindow>
+#include <QScreen>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTest>
@@ -84,6 +87,48 @@ private slots:
         third.window()->setGeometry(QRect(QPoint(200, 10), frame.size()));
         third.raiseWindow();
         QCOMPARE(placeOf(third), QPoint(200, 10));
+    }
+
+    void placedWithinTheScreen()
+    {
+        const QRect screen(100, 50, 800, 600); // beside a bar of the system
+        const QMargins frame(4, 30, 4, 4);
+        const std::pair<QRect, QRect> rows[] = {
+            {{200, 100, 300, 200}, {200, 100, 300, 200}},
+            {{104, 80, 792, 566}, {104, 80, 792, 566}},     // fills it
+            {{0, 0, 2000, 1000}, {104, 80, 792, 566}},      // larger
+            {{700, 500, 300, 200}, {596, 446, 300, 200}},   // over the corner
+            {{-3000, -900, 300, 200}, {104, 80, 300, 200}}, // on a screen that has gone
+        };
+        for (const auto &[window, placed] : rows)
+            QCOMPARE(placedWithin(screen, window, frame), placed);
+    }
+
+    void neverLargerThanTheScreen_data()
+    {
+        QTest::addColumn<bool>("isRemembered");
+        QTest::newRow("first") << false;
+        QTest::newRow("remembered") << true;
+    }
+    void neverLargerThanTheScreen()
+    {
+        QFETCH(bool, isRemembered);
+        const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+        if (isRemembered) {
+            CountingWindow earlier;
+            earlier.showWindow();
+            earlier.window()->setGeometry(screen.translated(700, 700));
+        }
+        CountingWindow controller;
+        QMainWindow &window = *controller.window();
+        window.resize(screen.size() * 2);
+        controller.showWindow();
+        QVERIFY(screen.contains(window.geometry()));
+        QVERIFY(window.height() < screen.height()); // with room for the title
+        // What a person makes of it afterwards is theirs.
+        window.resize(screen.size() * 2);
+        controller.raiseWindow();
+        QCOMPARE(window.size(), screen.size() * 2);
     }
 
     void cascadeStaysOnTheScreen()

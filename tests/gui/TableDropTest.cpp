@@ -11,6 +11,8 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QMimeData>
+#include <QScrollBar>
+#include <QSignalSpy>
 #include <QStandardItemModel>
 #include <QTest>
 #include <QUrl>
@@ -87,9 +89,9 @@ private slots:
         QTest::addColumn<double>("part");
         QTest::addColumn<int>("row");
         QTest::newRow("top") << 0 << 0.0 << 0;
-        QTest::newRow("upper half") << 2 << 0.4 << 2;
-        QTest::newRow("lower half") << 2 << 0.6 << 3;
-        QTest::newRow("lower half of the last") << 4 << 0.9 << 5;
+        QTest::newRow("upper third") << 2 << 0.25 << 2;
+        QTest::newRow("lower third") << 2 << 0.75 << 3;
+        QTest::newRow("lower third of the last") << 4 << 0.9 << 5;
         QTest::newRow("below the last") << -1 << 0.0 << 5;
     }
     void placeOfTheDrop()
@@ -125,6 +127,30 @@ private slots:
         table.takes = false;
         drag(viewport, place, data);
         QVERIFY(!drop(viewport, place, data));
+    }
+
+    /// Beside a selected row too, and where the pointer is after the table has scrolled under it.
+    void dropLineIsSeen()
+    {
+        Table table;
+        table.rows.setRowCount(60);
+        QWidget &viewport = *table.view.viewport();
+        table.view.selectRow(2);
+        QMimeData data;
+        data.setData(TLLDocument::typeIdentifier(), "1");
+        drag(viewport, table.in(3, 0.1), data);
+        const int y = table.view.rowViewportPosition(3);
+        const QImage image = viewport.grab().toImage();
+        QCOMPARE(image.pixelColor(50, y - 2), table.view.palette().color(QPalette::Base));
+        QCOMPARE(image.pixelColor(50, y - 6), table.view.palette().color(QPalette::Highlight));
+
+        drag(viewport, QPoint(20, viewport.height() - 1), data);
+        QTRY_VERIFY(table.last.row > 30);
+        QCOMPARE(table.view.rowAt(viewport.height() - 1), int(table.last.row) - 1);
+        QDragLeaveEvent leave;
+        QApplication::sendEvent(&viewport, &leave);
+        QSignalSpy scrolled(table.view.verticalScrollBar(), &QScrollBar::valueChanged);
+        QVERIFY(!scrolled.wait(100));
     }
 
     /// Off screen no drag runs, so it ends at once.

@@ -64,7 +64,10 @@ bool buttonFits(const QAbstractButton &button)
     bold.setBold(true); // as a selected segment is
     const QFont &font = button.inherits("QPushButton") ? button.font() : bold;
     const QSize text = QFontMetrics(font).size(Qt::TextShowMnemonic, button.text());
-    const QSize needed = button.sizeHint().expandedTo(text);
+    const bool isCommand =
+        button.objectName().endsWith("Button"_L1) && button.inherits("QPushButton");
+    const int room = isCommand ? 2 * button.fontMetrics().averageCharWidth() : 0; // at both sides
+    const QSize needed = button.sizeHint().expandedTo(text + QSize(2 * room, 0));
     return button.width() >= needed.width() && button.height() >= needed.height();
 }
 

@@ -1,4 +1,5 @@
 #include "model/LGStation.h"
+#include "model/CleanName.h"
 #include "support/Utf8Builder.h"
 #include "testing/TestMain.h"
 #include "xml/XMLDictionaryParser.h"
@@ -136,6 +137,31 @@ private slots:
         QCOMPARE(station.stationName(), name);
         QCOMPARE(station.name(), name);
         QCOMPARE(station.usesBinaryDataInUtf8Envelope(), !name.isEmpty());
+    }
+
+    void cleansNames()
+    {
+        // In hexadecimal, as sets store the bytes of a broadcast; those at the end, other texts.
+        const std::pair<QStringView, QStringView> rows[] = {
+            {u"Sky Select", u"Sky Select"},
+            {u"05 41 42", u"AB"},   // one of the tables 1 to 11
+            {u"10 00 0A 41", u"A"}, // ISO 8859-10, whose number is a line feed
+            {u"10 41", u"A"},       // cut short
+            {u"15 41 1F 02", u"A"}, // selectors within the name
+            {u"1F 42 41", u"A"},    // an encoding with an identifier
+            {u"1F", u""},
+            {u"41 86 42 87 43", u"ABC"},         // emphasis
+            {u"41 8A 42 0D 0A 43 8A", u"A B C"}, // line breaks
+            {u"8A 41 20 8A 42 8A 20 43", u"A B C"},
+            {u"20 41 20 20 42 86 20", u" A  B "}, // its own blanks stay
+            {u"00 41 7F 80 9F 42 09 43", u"AB C"},
+        };
+        for (const auto &[hex, clean] : rows) {
+            const LGStation station({{u"hexVchName"_s, hex.toString()}}, 0);
+            QCOMPARE(cleanName(hex.startsWith(u'S') ? hex.toString() : station.stationName()),
+                     clean.toString());
+        }
+        QCOMPARE(cleanName(u"\uE086Ü\uE087\uE08A\u65B0\u2028b"_s), u"Ü \u65B0 b"_s);
     }
 
     void renames()

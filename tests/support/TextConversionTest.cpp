@@ -1,5 +1,6 @@
 #include "support/TextConversion.h"
 #include "support/LenientNumber.h"
+#include "support/ShortText.h"
 #include "support/Utf8Builder.h"
 #include "testing/TestMain.h"
 
@@ -87,6 +88,22 @@ private slots:
         QCOMPARE(builder.take(), expected.toUtf8());
         builder.append(u"ab");
         QCOMPARE(builder.take(), "ab"_ba);
+    }
+
+    void shortensBetweenCharacters()
+    {
+        const QString accents = u"a"_s + QString(500'000, QChar(0x301));
+        const std::pair<QString, QString> rows[] = {
+            {u"four"_s, u"four"_s},
+            {u"fives"_s, u"five…"_s},
+            {u"abce\u0301\u0302f"_s, u"abc…"_s},     // an accent of the letter before
+            {u"abc\U0001F4FA"_s, u"abc…"_s},         // half a surrogate pair
+            {u"ab\U0001F44D\U0001F3FD"_s, u"ab…"_s}, // a sign and its colour
+            {accents, accents.first(4) + u"…"_s},    // one character
+        };
+        for (const auto &[text, shown] : rows)
+            QCOMPARE(shortened(text, 4), shown);
+        QCOMPARE(shortened(u"\U0001F4FA\u0301"_s, 1), u"…"_s);
     }
 
     void lenientIntegers()

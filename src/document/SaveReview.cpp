@@ -6,9 +6,15 @@ namespace quillet {
 
 namespace {
 
+/// A sheet lays out every line of its text.
+constexpr qsizetype longestName = 100;
+
 QString withNames(const char *id, const Rehearsal::Stations &stations)
 {
-    QString names = stations.names.join(QLatin1String(", "));
+    QStringList shortened;
+    for (const QString &name : stations.names)
+        shortened.append(name.size() > longestName ? name.first(longestName) + u'…' : name);
+    QString names = shortened.join(QLatin1String(", "));
     if (stations.count > stations.names.size())
         names += QStringLiteral(" …");
     return qtTrId(id, static_cast<int>(stations.count)).arg(names);

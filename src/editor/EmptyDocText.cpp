@@ -23,6 +23,8 @@ constexpr std::array hintTexts{
     HintText{EmptyHint::NoStations, "kHintNoStations", "kHintNoStationsDetail", nullptr},
     HintText{EmptyHint::NoRadioStations, "kHintNoRadioStations", nullptr, "kHintShowTV"},
     HintText{EmptyHint::NoTVStations, "kHintNoTVStations", nullptr, "kHintShowRadio"},
+    HintText{EmptyHint::RadioNotShown, "kHintRadioNotShown", "kHintRadioNotShownDetail",
+             "kHintShowTV"},
 };
 
 QString richText(const HintText &row)

@@ -21,6 +21,8 @@ namespace quillet {
 
 namespace {
 
+constexpr qsizetype longestTitle = 200;
+
 QString sizeKey()
 {
     return QStringLiteral("windows/Station Info/size");
@@ -90,14 +92,16 @@ void InfoViewController::setStation(const LGStation &station)
 {
     StationInfo info;
     info.setStation(station);
-    setWindowTitle(info.title());
+    setWindowTitle(info.title().left(longestTitle));
     m_model = new StationInfoModel(std::move(info), this);
     m_list->setModel(m_model);
     m_list->resizeColumnToContents(StationInfoModel::Field);
-    m_list->resizeRowsToContents();
     const int least = fontMetrics().height() * 3 / 2;
-    for (int row = 0; row < m_model->rowCount(); ++row)
-        m_list->setRowHeight(row, qMax(least, m_list->rowHeight(row)));
+    m_list->verticalHeader()->setMinimumSectionSize(least);
+    m_list->verticalHeader()->setDefaultSectionSize(least);
+    constexpr int mostMeasured = 1000; // each row is laid out for that
+    for (int row = 0; row < qMin(mostMeasured, m_model->rowCount()); ++row)
+        m_list->resizeRowToContents(row);
 }
 
 bool InfoViewController::eventFilter(QObject *watched, QEvent *event)
@@ -118,7 +122,7 @@ void InfoViewController::copySelection() const
     QStringList lines;
     for (const QModelIndex &field : std::as_const(rows)) {
         const QModelIndex content = field.siblingAtColumn(StationInfoModel::Content);
-        lines.append(field.data().toString() + u'\t' + content.data().toString());
+        lines.append(field.data().toString() + u'\t' + content.data(Qt::EditRole).toString());
     }
     QGuiApplication::clipboard()->setText(lines.join(u'\n'));
 }

@@ -13,14 +13,19 @@ namespace quillet {
 
 namespace {
 
+/// The bar lays out its whole text.
+constexpr qsizetype longestName = 100;
+
 QString damageText(const FileFinding &finding)
 {
     const int line = finding.line;
     if (finding.isJSONList)
-        return qtTrId("kNoticeDamagedLine").arg(line);
-    const QString place = finding.lastStation
-                              ? qtTrId("kNoticeDamaged").arg(line).arg(*finding.lastStation)
-                              : qtTrId("kNoticeDamagedFirst").arg(line);
+        return qtTrId(finding.isLimit ? "kNoticeLimit" : "kNoticeDamagedLine").arg(line);
+    const QString place =
+        finding.isLimit ? qtTrId("kNoticeLimit").arg(line)
+        : finding.lastStation
+            ? qtTrId("kNoticeDamaged").arg(line).arg(finding.lastStation->left(longestName))
+            : qtTrId("kNoticeDamagedFirst").arg(line);
     const QString consequence = finding.unread > 0
                                     ? qtTrId("kNoticeUnread", static_cast<int>(finding.unread))
                                     : qtTrId("kNoticeUnreadEnd");

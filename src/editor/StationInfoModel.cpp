@@ -29,7 +29,9 @@ QVariant StationInfoModel::data(const QModelIndex &index, int role) const
         return QVariant::fromValue(Qt::AlignLeft | Qt::AlignVCenter);
     if (role != Qt::DisplayRole && role != Qt::EditRole && role != Qt::ToolTipRole)
         return {};
-    return index.column() == Field ? m_info.fields().at(index.row()) : m_info.content(index.row());
+    if (index.column() == Field)
+        return m_info.fields().at(index.row());
+    return role == Qt::EditRole ? m_info.content(index.row()) : m_info.shownContent(index.row());
 }
 
 QVariant StationInfoModel::headerData(int section, Qt::Orientation orientation, int role) const

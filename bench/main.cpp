@@ -5,6 +5,7 @@
 #include "bench/DocumentBenchmarks.h"
 #include "bench/EditorBenchmarks.h"
 #include "bench/Figures.h"
+#include "bench/GrowthBenchmarks.h"
 #include "bench/Medians.h"
 #include "bench/MemoryUse.h"
 #include "bench/OrderBenchmarks.h"
@@ -59,6 +60,7 @@ constexpr std::array ratios{
 };
 constexpr double wantedMemory = 8;
 constexpr double wantedStartUp = 1.5;
+constexpr double wantedGrowth = 2.6; // 4 would be the square
 
 std::optional<double> quotient(std::optional<double> dividend, std::optional<double> divisor)
 {
@@ -112,6 +114,10 @@ void addRatios(const Medians &medians, RatioTable &table)
         table.add(ratio.title, measured ? std::optional(*measured * ratio.scale) : std::nullopt,
                   ratio.wanted);
     }
+    for (const Growth &growth : growths)
+        table.add(std::string("twice as many ") + growth.title,
+                  quotient(medians.seconds(growth.whole), medians.seconds(growth.half)),
+                  wantedGrowth);
 }
 
 void printExplanation(const Medians &medians, const std::optional<StartUp> &startUp)
@@ -161,6 +167,7 @@ int main(int argc, char *argv[])
     registerDocumentBenchmarks(files);
     registerEditorBenchmarks(files.stations10k);
     registerOrderBenchmarks(files.stations10k);
+    registerGrowthBenchmarks();
     Medians medians;
     if (!runBenchmarks({argv + 2, argv + argc}, medians))
         return 2;

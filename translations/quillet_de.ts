@@ -278,6 +278,14 @@
         <source></source>
         <translation>Datei öffnen …</translation>
     </message>
+    <message id="kHintRadioNotShown">
+        <source></source>
+        <translation>Radiosender dieser Art von Liste werden nicht angezeigt</translation>
+    </message>
+    <message id="kHintRadioNotShownDetail">
+        <source></source>
+        <translation>Was sie davon enthält, bleibt in der Datei.</translation>
+    </message>
     <message id="kHintShowRadio">
         <source></source>
         <translation>Radiosender dieser Empfangsart anzeigen</translation>
@@ -584,6 +592,10 @@
         <source></source>
         <translation>Die Datei ist kein gültiges UTF-8 und wurde als Latin-1 dekodiert. Beim Speichern wird UTF-8 geschrieben, was in der ganzen Datei jeden Buchstaben mit Akzent oder Umlaut ändert.</translation>
     </message>
+    <message id="kNoticeLimit">
+        <source></source>
+        <translation>Ab Zeile %1 wurde die Datei nicht gelesen: Dort enthält sie mehr Felder, Attribute oder verschachtelte Elemente als jede Liste eines Fernsehers.</translation>
+    </message>
     <message id="kNoticeNoXML">
         <source></source>
         <translation>Es wurden keine Sender gefunden, denn dies ist ein Text anderer Art und keine TLL-Datei.</translation>
@@ -646,6 +658,34 @@
     <message id="kOpenTitle">
         <source></source>
         <translation>Senderliste öffnen</translation>
+    </message>
+    <message id="kOrderEmpty">
+        <source></source>
+        <translation>„%1“ enthält keine Reihenfolge, die übernommen werden kann.</translation>
+    </message>
+    <message id="kOrderJSON">
+        <source></source>
+        <translation>Sie ist eine Liste von der Art, die ihre Sender als JSON führt. Deren Kennungen sind Zahlen, an denen Sender anderer Listen nicht erkannt werden.</translation>
+    </message>
+    <message id="kOrderNoIdentifiers">
+        <source></source>
+        <translation>Sender werden an Netzwerk-, Transportstrom- und Dienstkennung (original network id, transport stream id, service id) erkannt, und keiner ihrer Sender hat alle drei und einen Namen.</translation>
+    </message>
+    <message id="kOrderNoLines">
+        <source></source>
+        <translation>Eine Textdatei muss mindestens drei Zeilen der Form „101;Sample TV;1-10-300“ haben und höchstens zwei andere.</translation>
+    </message>
+    <message id="kOrderNoRadioStations">
+        <source></source>
+        <translation>Sie enthält keine Radiosender.</translation>
+    </message>
+    <message id="kOrderNoTVStations">
+        <source></source>
+        <translation>Sie enthält keine TV-Sender.</translation>
+    </message>
+    <message id="kOrderWrongType">
+        <source></source>
+        <translation>Eine Reihenfolge kann aus TLL-Dateien und aus Textdateien (.txt) übernommen werden.</translation>
     </message>
     <message id="kOwnFileReason">
         <source></source>

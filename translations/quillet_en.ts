@@ -278,6 +278,14 @@
         <source></source>
         <translation>Open a file…</translation>
     </message>
+    <message id="kHintRadioNotShown">
+        <source></source>
+        <translation>Radio stations of this kind of list are not shown</translation>
+    </message>
+    <message id="kHintRadioNotShownDetail">
+        <source></source>
+        <translation>Whatever it has of them stays in the file.</translation>
+    </message>
     <message id="kHintShowRadio">
         <source></source>
         <translation>Show its radio stations</translation>
@@ -584,6 +592,10 @@
         <source></source>
         <translation>The file is not valid UTF-8 and was decoded as Latin-1. Saving writes UTF-8 and so changes every letter with an accent throughout the file.</translation>
     </message>
+    <message id="kNoticeLimit">
+        <source></source>
+        <translation>From line %1 on the file was not read: it holds more fields, attributes or nested elements there than any list of a television set.</translation>
+    </message>
     <message id="kNoticeNoXML">
         <source></source>
         <translation>No stations were found, because this is a text of another kind and not a TLL file.</translation>
@@ -646,6 +658,34 @@
     <message id="kOpenTitle">
         <source></source>
         <translation>Open Channel List</translation>
+    </message>
+    <message id="kOrderEmpty">
+        <source></source>
+        <translation>“%1” holds no order that can be applied.</translation>
+    </message>
+    <message id="kOrderJSON">
+        <source></source>
+        <translation>It is a list of the kind that keeps its stations as JSON. There the identifiers are numbers, by which stations of other lists are not found.</translation>
+    </message>
+    <message id="kOrderNoIdentifiers">
+        <source></source>
+        <translation>Stations are found by original network id, transport stream id and service id, and none of its stations has all three and a name.</translation>
+    </message>
+    <message id="kOrderNoLines">
+        <source></source>
+        <translation>A text file must have at least three lines of the form “101;Sample TV;1-10-300”, and at most two others.</translation>
+    </message>
+    <message id="kOrderNoRadioStations">
+        <source></source>
+        <translation>It has no radio stations.</translation>
+    </message>
+    <message id="kOrderNoTVStations">
+        <source></source>
+        <translation>It has no TV stations.</translation>
+    </message>
+    <message id="kOrderWrongType">
+        <source></source>
+        <translation>An order can be taken from TLL files and from text files (.txt).</translation>
     </message>
     <message id="kOwnFileReason">
         <source></source>

@@ -278,6 +278,14 @@
         <source></source>
         <translation>Abrir un archivo…</translation>
     </message>
+    <message id="kHintRadioNotShown">
+        <source></source>
+        <translation>Las emisoras de radio de este tipo de lista no se muestran</translation>
+    </message>
+    <message id="kHintRadioNotShownDetail">
+        <source></source>
+        <translation>Las que contenga permanecen en el archivo.</translation>
+    </message>
     <message id="kHintShowRadio">
         <source></source>
         <translation>Mostrar sus emisoras de radio</translation>
@@ -584,6 +592,10 @@
         <source></source>
         <translation>El archivo no es UTF-8 válido y se ha descodificado como Latin-1. Al guardar se escribe en UTF-8, lo que cambia todas las letras acentuadas del archivo.</translation>
     </message>
+    <message id="kNoticeLimit">
+        <source></source>
+        <translation>El archivo no se ha leído a partir de la línea %1: contiene allí más campos, atributos o elementos anidados que cualquier lista de un televisor.</translation>
+    </message>
     <message id="kNoticeNoXML">
         <source></source>
         <translation>No se ha encontrado ningún canal, porque este es un texto de otro tipo y no un archivo TLL.</translation>
@@ -646,6 +658,34 @@
     <message id="kOpenTitle">
         <source></source>
         <translation>Abrir lista de canales</translation>
+    </message>
+    <message id="kOrderEmpty">
+        <source></source>
+        <translation>«%1» no contiene ningún orden que se pueda aplicar.</translation>
+    </message>
+    <message id="kOrderJSON">
+        <source></source>
+        <translation>Es una lista del tipo que guarda sus canales como JSON. En ella los identificadores son números, con los que no se reconocen los canales de otras listas.</translation>
+    </message>
+    <message id="kOrderNoIdentifiers">
+        <source></source>
+        <translation>Los canales se reconocen por los identificadores de red original, de flujo de transporte y de servicio, y ninguno de los suyos tiene los tres y un nombre.</translation>
+    </message>
+    <message id="kOrderNoLines">
+        <source></source>
+        <translation>Un archivo de texto debe tener al menos tres líneas de la forma «101;Sample TV;1-10-300» y como máximo otras dos.</translation>
+    </message>
+    <message id="kOrderNoRadioStations">
+        <source></source>
+        <translation>No tiene emisoras de radio.</translation>
+    </message>
+    <message id="kOrderNoTVStations">
+        <source></source>
+        <translation>No tiene canales de televisión.</translation>
+    </message>
+    <message id="kOrderWrongType">
+        <source></source>
+        <translation>El orden se puede tomar de archivos TLL y de archivos de texto (.txt).</translation>
     </message>
     <message id="kOwnFileReason">
         <source></source>

@@ -278,6 +278,14 @@
         <source></source>
         <translation>Ouvrir un fichier…</translation>
     </message>
+    <message id="kHintRadioNotShown">
+        <source></source>
+        <translation>Les stations de radio de ce type de liste ne sont pas affichées</translation>
+    </message>
+    <message id="kHintRadioNotShownDetail">
+        <source></source>
+        <translation>Celles qu’elle contient restent dans le fichier.</translation>
+    </message>
     <message id="kHintShowRadio">
         <source></source>
         <translation>Afficher ses stations de radio</translation>
@@ -584,6 +592,10 @@
         <source></source>
         <translation>Le fichier n’est pas de l’UTF-8 valide et a été décodé en Latin-1. L’enregistrement écrit en UTF-8 et modifie donc chaque lettre accentuée dans tout le fichier.</translation>
     </message>
+    <message id="kNoticeLimit">
+        <source></source>
+        <translation>Le fichier n’a pas été lu à partir de la ligne %1 : il y contient plus de champs, d’attributs ou d’éléments imbriqués que toute liste d’un téléviseur.</translation>
+    </message>
     <message id="kNoticeNoXML">
         <source></source>
         <translation>Aucune chaîne n’a été trouvée, car ceci est un autre type de texte et non un fichier TLL.</translation>
@@ -646,6 +658,34 @@
     <message id="kOpenTitle">
         <source></source>
         <translation>Ouvrir une liste de chaînes</translation>
+    </message>
+    <message id="kOrderEmpty">
+        <source></source>
+        <translation>« %1 » ne contient aucun ordre qui puisse être appliqué.</translation>
+    </message>
+    <message id="kOrderJSON">
+        <source></source>
+        <translation>C’est une liste du type qui conserve ses chaînes en JSON. Les identifiants y sont des nombres, qui ne permettent pas de retrouver les chaînes d’autres listes.</translation>
+    </message>
+    <message id="kOrderNoIdentifiers">
+        <source></source>
+        <translation>Les chaînes sont retrouvées par leurs identifiants de réseau d’origine, de flux de transport et de service, et aucune des siennes n’a les trois ainsi qu’un nom.</translation>
+    </message>
+    <message id="kOrderNoLines">
+        <source></source>
+        <translation>Un fichier texte doit avoir au moins trois lignes de la forme « 101;Sample TV;1-10-300 » et au plus deux autres.</translation>
+    </message>
+    <message id="kOrderNoRadioStations">
+        <source></source>
+        <translation>Il ne contient aucune station de radio.</translation>
+    </message>
+    <message id="kOrderNoTVStations">
+        <source></source>
+        <translation>Il ne contient aucune chaîne TV.</translation>
+    </message>
+    <message id="kOrderWrongType">
+        <source></source>
+        <translation>Un ordre peut être repris de fichiers TLL et de fichiers texte (.txt).</translation>
     </message>
     <message id="kOwnFileReason">
         <source></source>

@@ -278,6 +278,14 @@
         <source></source>
         <translation>Apri un file…</translation>
     </message>
+    <message id="kHintRadioNotShown">
+        <source></source>
+        <translation>Le stazioni radio di questo tipo di elenco non vengono mostrate</translation>
+    </message>
+    <message id="kHintRadioNotShownDetail">
+        <source></source>
+        <translation>Quelle che contiene restano nel file.</translation>
+    </message>
     <message id="kHintShowRadio">
         <source></source>
         <translation>Mostra le sue stazioni radio</translation>
@@ -584,6 +592,10 @@
         <source></source>
         <translation>Il file non è UTF-8 valido ed è stato decodificato come Latin-1. Il salvataggio scrive in UTF-8 e quindi cambia ogni lettera accentata in tutto il file.</translation>
     </message>
+    <message id="kNoticeLimit">
+        <source></source>
+        <translation>Dalla riga %1 in poi il file non è stato letto: lì contiene più campi, attributi o elementi annidati di qualsiasi elenco di un televisore.</translation>
+    </message>
     <message id="kNoticeNoXML">
         <source></source>
         <translation>Non è stato trovato alcun canale, perché questo è un testo di altro tipo e non un file TLL.</translation>
@@ -646,6 +658,34 @@
     <message id="kOpenTitle">
         <source></source>
         <translation>Apri lista di canali</translation>
+    </message>
+    <message id="kOrderEmpty">
+        <source></source>
+        <translation>“%1” non contiene alcun ordine che si possa applicare.</translation>
+    </message>
+    <message id="kOrderJSON">
+        <source></source>
+        <translation>È un elenco del tipo che conserva i canali come JSON. Lì gli identificatori sono numeri, con i quali non si riconoscono i canali di altri elenchi.</translation>
+    </message>
+    <message id="kOrderNoIdentifiers">
+        <source></source>
+        <translation>I canali si riconoscono dagli identificatori di rete originale, di flusso di trasporto e di servizio, e nessuno dei suoi li ha tutti e tre insieme a un nome.</translation>
+    </message>
+    <message id="kOrderNoLines">
+        <source></source>
+        <translation>Un file di testo deve avere almeno tre righe della forma “101;Sample TV;1-10-300” e al massimo altre due.</translation>
+    </message>
+    <message id="kOrderNoRadioStations">
+        <source></source>
+        <translation>Non contiene stazioni radio.</translation>
+    </message>
+    <message id="kOrderNoTVStations">
+        <source></source>
+        <translation>Non contiene canali TV.</translation>
+    </message>
+    <message id="kOrderWrongType">
+        <source></source>
+        <translation>Un ordine si può prendere da file TLL e da file di testo (.txt).</translation>
     </message>
     <message id="kOwnFileReason">
         <source></source>

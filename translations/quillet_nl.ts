@@ -278,6 +278,14 @@
         <source></source>
         <translation>Bestand openen…</translation>
     </message>
+    <message id="kHintRadioNotShown">
+        <source></source>
+        <translation>Radiozenders van dit soort lijst worden niet getoond</translation>
+    </message>
+    <message id="kHintRadioNotShownDetail">
+        <source></source>
+        <translation>Wat ze daarvan bevat, blijft in het bestand staan.</translation>
+    </message>
     <message id="kHintShowRadio">
         <source></source>
         <translation>De radiozenders ervan tonen</translation>
@@ -584,6 +592,10 @@
         <source></source>
         <translation>Het bestand is geen geldige UTF-8 en is als Latin-1 gedecodeerd. Bij het opslaan wordt UTF-8 geschreven, wat in het hele bestand elke letter met een accent verandert.</translation>
     </message>
+    <message id="kNoticeLimit">
+        <source></source>
+        <translation>Vanaf regel %1 is het bestand niet gelezen: het bevat daar meer velden, attributen of geneste elementen dan welke lijst van een tv-toestel ook.</translation>
+    </message>
     <message id="kNoticeNoXML">
         <source></source>
         <translation>Er zijn geen zenders gevonden, want dit is een ander soort tekst en geen TLL-bestand.</translation>
@@ -646,6 +658,34 @@
     <message id="kOpenTitle">
         <source></source>
         <translation>Zenderlijst openen</translation>
+    </message>
+    <message id="kOrderEmpty">
+        <source></source>
+        <translation>“%1” bevat geen volgorde die kan worden toegepast.</translation>
+    </message>
+    <message id="kOrderJSON">
+        <source></source>
+        <translation>Het is een lijst van het soort dat zijn zenders als JSON bewaart. Daar zijn de kenmerken getallen, waaraan zenders van andere lijsten niet worden herkend.</translation>
+    </message>
+    <message id="kOrderNoIdentifiers">
+        <source></source>
+        <translation>Zenders worden herkend aan original network id, transport stream id en service id, en geen van de zenders in dit bestand heeft ze alle drie en een naam.</translation>
+    </message>
+    <message id="kOrderNoLines">
+        <source></source>
+        <translation>Een tekstbestand moet minstens drie regels van de vorm “101;Sample TV;1-10-300” hebben en hoogstens twee andere.</translation>
+    </message>
+    <message id="kOrderNoRadioStations">
+        <source></source>
+        <translation>Het bevat geen radiozenders.</translation>
+    </message>
+    <message id="kOrderNoTVStations">
+        <source></source>
+        <translation>Het bevat geen tv-zenders.</translation>
+    </message>
+    <message id="kOrderWrongType">
+        <source></source>
+        <translation>Een volgorde kan worden overgenomen uit TLL-bestanden en tekstbestanden (.txt).</translation>
     </message>
     <message id="kOwnFileReason">
         <source></source>

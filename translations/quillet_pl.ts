@@ -279,6 +279,14 @@
         <source></source>
         <translation>Otwórz plik…</translation>
     </message>
+    <message id="kHintRadioNotShown">
+        <source></source>
+        <translation>Stacje radiowe z list tego rodzaju nie są pokazywane</translation>
+    </message>
+    <message id="kHintRadioNotShownDetail">
+        <source></source>
+        <translation>Te, które są na liście, pozostają w pliku.</translation>
+    </message>
     <message id="kHintShowRadio">
         <source></source>
         <translation>Pokaż jego stacje radiowe</translation>
@@ -591,6 +599,10 @@
         <source></source>
         <translation>Plik nie jest poprawnym UTF-8 i został zdekodowany jako Latin-1. Zapis odbywa się w UTF-8, co zmieni w całym pliku każdą literę ze znakiem diakrytycznym.</translation>
     </message>
+    <message id="kNoticeLimit">
+        <source></source>
+        <translation>Od wiersza %1 plik nie został odczytany: zawiera tam więcej pól, atrybutów lub zagnieżdżonych elementów niż jakakolwiek lista telewizora.</translation>
+    </message>
     <message id="kNoticeNoXML">
         <source></source>
         <translation>Nie znaleziono kanałów, ponieważ jest to tekst innego rodzaju, a nie plik TLL.</translation>
@@ -654,6 +666,34 @@
     <message id="kOpenTitle">
         <source></source>
         <translation>Otwórz listę kanałów</translation>
+    </message>
+    <message id="kOrderEmpty">
+        <source></source>
+        <translation>„%1” nie zawiera kolejności, którą można zastosować.</translation>
+    </message>
+    <message id="kOrderJSON">
+        <source></source>
+        <translation>Jest to lista tego rodzaju, który przechowuje stacje jako JSON. Identyfikatory są w niej liczbami, po których nie rozpoznaje się stacji z innych list.</translation>
+    </message>
+    <message id="kOrderNoIdentifiers">
+        <source></source>
+        <translation>Stacje są rozpoznawane po identyfikatorach sieci, strumienia transportowego i usługi, a żadna stacja w tym pliku nie ma wszystkich trzech i nazwy.</translation>
+    </message>
+    <message id="kOrderNoLines">
+        <source></source>
+        <translation>Plik tekstowy musi mieć co najmniej trzy wiersze postaci „101;Sample TV;1-10-300” i najwyżej dwa inne.</translation>
+    </message>
+    <message id="kOrderNoRadioStations">
+        <source></source>
+        <translation>Nie ma w nim stacji radiowych.</translation>
+    </message>
+    <message id="kOrderNoTVStations">
+        <source></source>
+        <translation>Nie ma w nim stacji TV.</translation>
+    </message>
+    <message id="kOrderWrongType">
+        <source></source>
+        <translation>Kolejność można wziąć z plików TLL i z plików tekstowych (.txt).</translation>
     </message>
     <message id="kOwnFileReason">
         <source></source>

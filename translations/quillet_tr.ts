@@ -277,6 +277,14 @@
         <source></source>
         <translation>Dosya aç…</translation>
     </message>
+    <message id="kHintRadioNotShown">
+        <source></source>
+        <translation>Bu tür listelerin radyo kanalları gösterilmez</translation>
+    </message>
+    <message id="kHintRadioNotShownDetail">
+        <source></source>
+        <translation>Listede bulunanlar dosyada kalır.</translation>
+    </message>
     <message id="kHintShowRadio">
         <source></source>
         <translation>Radyo kanallarını göster</translation>
@@ -577,6 +585,10 @@
         <source></source>
         <translation>Dosya geçerli UTF-8 değil ve Latin-1 olarak çözüldü. Kaydetme UTF-8 yazar ve böylece dosyanın tamamındaki aksanlı harflerin hepsini değiştirir.</translation>
     </message>
+    <message id="kNoticeLimit">
+        <source></source>
+        <translation>Dosya %1. satırdan itibaren okunmadı: orada herhangi bir televizyon listesinde bulunandan daha fazla alan, öznitelik veya iç içe öğe var.</translation>
+    </message>
     <message id="kNoticeNoXML">
         <source></source>
         <translation>Kanal bulunamadı, çünkü bu başka türden bir metin; bir TLL dosyası değil.</translation>
@@ -638,6 +650,34 @@
     <message id="kOpenTitle">
         <source></source>
         <translation>Kanal Listesi Aç</translation>
+    </message>
+    <message id="kOrderEmpty">
+        <source></source>
+        <translation>“%1” uygulanabilecek bir sıralama içermiyor.</translation>
+    </message>
+    <message id="kOrderJSON">
+        <source></source>
+        <translation>Bu, kanallarını JSON olarak tutan türden bir listedir. Buradaki kimlikler sayıdır ve başka listelerin kanalları bunlarla bulunmaz.</translation>
+    </message>
+    <message id="kOrderNoIdentifiers">
+        <source></source>
+        <translation>Kanallar özgün ağ, aktarım akışı ve hizmet kimlikleriyle tanınır; bu dosyadaki hiçbir kanalda bu üç kimlik ile bir ad birlikte bulunmuyor.</translation>
+    </message>
+    <message id="kOrderNoLines">
+        <source></source>
+        <translation>Bir metin dosyasında “101;Sample TV;1-10-300” biçiminde en az üç satır ve en çok iki başka satır bulunmalıdır.</translation>
+    </message>
+    <message id="kOrderNoRadioStations">
+        <source></source>
+        <translation>İçinde radyo kanalı yok.</translation>
+    </message>
+    <message id="kOrderNoTVStations">
+        <source></source>
+        <translation>İçinde TV kanalı yok.</translation>
+    </message>
+    <message id="kOrderWrongType">
+        <source></source>
+        <translation>Sıralama TLL dosyalarından ve metin dosyalarından (.txt) alınabilir.</translation>
     </message>
     <message id="kOwnFileReason">
         <source></source>

@@ -10,36 +10,47 @@ namespace quillet {
 
 namespace {
 
-ReferenceList fromChannelList(const QUrl &url, bool isTV)
+ReferenceList fromChannelList(const QUrl &url, bool isTV, QString &reason)
 {
     TLLDocument reference;
     reference.setIsInvisbleDocument(true);
-    Error unused;
-    if (!reference.readFromUrl(url, TLLDocument::typeName(), unused))
+    Error error;
+    if (!reference.readFromUrl(url, TLLDocument::typeName(), error)) {
+        reason = error.text();
         return {};
+    }
     const StationListPtr stations = reference.listWithMostEntries(isTV);
-    return stations ? referenceListFromStations(*stations) : ReferenceList();
+    if (!stations) {
+        reason = qtTrId(isTV ? "kOrderNoTVStations" : "kOrderNoRadioStations");
+        return {};
+    }
+    reason = qtTrId(reference.list().isLegacyFormat ? "kOrderJSON" : "kOrderNoIdentifiers");
+    return referenceListFromStations(*stations);
 }
 
-ReferenceList fromText(const QUrl &url)
+ReferenceList fromText(const QUrl &url, QString &reason)
 {
     QByteArray bytes;
-    Error unused;
-    if (!readFile(url, bytes, unused))
+    Error error;
+    if (!readFile(url, bytes, error)) {
+        reason = error.text();
         return {};
+    }
+    reason = qtTrId("kOrderNoLines");
     return referenceListFromData(bytes).value_or(ReferenceList());
 }
 
 } // namespace
 
-ReferenceList referenceListFromFile(const QString &path, bool isTV)
+ReferenceList referenceListFromFile(const QString &path, bool isTV, QString &reason)
 {
     const QUrl url = QUrl::fromLocalFile(path);
     const QString suffix = QFileInfo(path).suffix();
     if (suffix.compare(QLatin1String("tll"), Qt::CaseInsensitive) == 0)
-        return fromChannelList(url, isTV);
+        return fromChannelList(url, isTV, reason);
     if (suffix.compare(QLatin1String("txt"), Qt::CaseInsensitive) == 0)
-        return fromText(url);
+        return fromText(url, reason);
+    reason = qtTrId("kOrderWrongType");
     return {};
 }
 

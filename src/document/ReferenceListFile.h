@@ -6,7 +6,7 @@ namespace quillet {
 
 /// Reads a reference list from a file: a text file (extension txt), or another channel list
 /// (extension tll), of which the longest list of that mode gives the entries. Empty for a file of
-/// any other type and for one that cannot be used.
-[[nodiscard]] ReferenceList referenceListFromFile(const QString &path, bool isTV);
+/// any other type and for one that cannot be used; then the reason is one to show.
+[[nodiscard]] ReferenceList referenceListFromFile(const QString &path, bool isTV, QString &reason);
 
 } // namespace quillet

@@ -74,7 +74,8 @@ QString TLLDocument::badFormatDetail(const ChannelList &list)
                                .arg(fault->section)
                                .arg(FileLayout::longestDistance));
     if (list.parseError)
-        lines.append(qtTrId("kNoticeDamagedLine").arg(list.parseError->line));
+        lines.append(qtTrId(list.parseError->isLimit ? "kNoticeLimit" : "kNoticeDamagedLine")
+                         .arg(list.parseError->line));
     return lines.join(u'\n');
 }
 

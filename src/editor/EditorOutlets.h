@@ -18,6 +18,7 @@ enum class EmptyHint {
     NoStations,      ///< the file has no stations at all
     NoRadioStations, ///< radio mode, and this source has TV stations only
     NoTVStations,    ///< TV mode, and this source has radio stations only
+    RadioNotShown,   ///< radio mode, and the radio stations of this kind of list are not shown
 };
 
 /// What the bar above the table says.

@@ -26,6 +26,8 @@ constexpr std::array hintTexts{
     HintText{EmptyHint::NoStations, "kHintNoStations", "kHintNoStationsDetail", nullptr},
     HintText{EmptyHint::NoRadioStations, "kHintNoRadioStations", nullptr, "kHintShowTV"},
     HintText{EmptyHint::NoTVStations, "kHintNoTVStations", nullptr, "kHintShowRadio"},
+    HintText{EmptyHint::RadioNotShown, "kHintRadioNotShown", "kHintRadioNotShownDetail",
+             "kHintShowTV"},
 };
 
 /// Many dark palettes leave the colour of links as it is on a light ground.

@@ -109,13 +109,17 @@ void InfoViewController::setStation(const LGStation &station)
     m_model = new StationInfoModel(std::move(info), this);
     m_list->setModel(m_model);
     m_list->resizeColumnToContents(StationInfoModel::Field);
-    // Only contents of several lines are worth measuring.
+    // Only contents of several lines are worth measuring, and of very many fields not all of them.
+    constexpr int mostMeasured = 1000;
+    int measured = 0;
     const int least = fontMetrics().height() * 3 / 2;
     m_list->verticalHeader()->setDefaultSectionSize(least);
     for (int row = 0; row < m_model->rowCount(); ++row) {
         const QString content = m_model->index(row, StationInfoModel::Content).data().toString();
         if (content.size() < shortContent && !content.contains(u'\n'))
             continue;
+        if (++measured > mostMeasured)
+            break;
         m_list->resizeRowToContents(row);
         m_list->setRowHeight(row, qMax(least, m_list->rowHeight(row)));
     }

@@ -18,9 +18,10 @@ QString damageText(const FileFinding &finding)
 {
     const int line = finding.line;
     if (finding.isJSONList)
-        return qtTrId("kNoticeDamagedLine").arg(line);
+        return qtTrId(finding.isLimit ? "kNoticeLimit" : "kNoticeDamagedLine").arg(line);
     const QString place =
-        finding.lastStation
+        finding.isLimit ? qtTrId("kNoticeLimit").arg(line)
+        : finding.lastStation
             ? qtTrId("kNoticeDamaged").arg(line).arg(drawnName(*finding.lastStation))
             : qtTrId("kNoticeDamagedFirst").arg(line);
     const QString consequence = finding.unread > 0

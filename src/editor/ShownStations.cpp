@@ -74,6 +74,8 @@ EmptyHint ShownStations::emptyHint() const
         return EmptyHint::None;
     if (!m_document || (m_document->fileUrl().isEmpty() && m_document->suggestedUrl().isEmpty()))
         return EmptyHint::NoFile;
+    if (m_document->list().isLegacyFormat && !m_document->usesTV())
+        return EmptyHint::RadioNotShown;
     // The current list is empty, so whatever its source has is in the other mode's list.
     if (!m_document->hasDataForSource(m_document->curSource()))
         return EmptyHint::NoStations;

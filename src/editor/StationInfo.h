@@ -18,6 +18,8 @@ public:
     [[nodiscard]] const QStringList &fields() const { return m_fields; }
     /// The text of the field at a position of fields().
     [[nodiscard]] QString content(qsizetype position) const;
+    /// The same, cut where it is too long to be laid out in a moment.
+    [[nodiscard]] QString shownContent(qsizetype position) const;
 
 private:
     QString m_title;

@@ -31,11 +31,12 @@ QVariant StationInfoModel::data(const QModelIndex &index, int role) const
         return QVariant::fromValue(Qt::AlignLeft | Qt::AlignVCenter);
     if (role != Qt::DisplayRole && role != Qt::EditRole && role != Qt::ToolTipRole)
         return {};
-    const QString whole =
-        index.column() == Field ? m_info.fields().at(index.row()) : m_info.content(index.row());
     if (role == Qt::EditRole)
-        return whole;
-    return role == Qt::ToolTipRole ? plainToolTip(drawnContent(whole)) : drawnContent(whole);
+        return index.column() == Field ? m_info.fields().at(index.row())
+                                       : m_info.content(index.row());
+    const QString drawn = drawnContent(index.column() == Field ? m_info.fields().at(index.row())
+                                                               : m_info.shownContent(index.row()));
+    return role == Qt::ToolTipRole ? plainToolTip(drawn) : drawn;
 }
 
 QVariant StationInfoModel::headerData(int section, Qt::Orientation orientation, int role) const

@@ -151,11 +151,15 @@ void ViewController::applyOrderFile(const QString &path)
 {
     if (!stationDoc())
         return;
-    const ReferenceList entries = referenceListFromFile(path, isModeTV());
-    if (entries.empty())
+    QString reason;
+    const QString name = QFileInfo(path).fileName();
+    const ReferenceList entries = referenceListFromFile(path, isModeTV(), reason);
+    if (entries.empty()) {
+        showError(reason, qtTrId("kOrderEmpty").arg(name));
         return;
+    }
     outlets().selectRows({});
-    m_editor.applyOrder(entries, QFileInfo(path).fileName());
+    m_editor.applyOrder(entries, name);
     updateButtons();
     saveSelection();
 }

@@ -86,7 +86,7 @@ std::optional<qint64> LGStation::getIntValue(const QString &key) const
         return {};
     if (const QString *text = value->string())
         return decimalNumber(*text);
-    return decimalNumber(value->description());
+    return value->wholeNumber();
 }
 
 std::optional<bool> LGStation::getBoolValue(const QString &key) const

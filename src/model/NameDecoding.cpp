@@ -80,10 +80,7 @@ QString decodeUtf8Envelope(const QString &text)
             ++i;
         }
     }
-    QString name = getAsString(bytes).value_or(QString());
-    if (name.startsWith(QChar::ByteOrderMark))
-        name.remove(0, 1);
-    return name;
+    return getAsString(bytes).value_or(QString());
 }
 
 } // namespace quillet

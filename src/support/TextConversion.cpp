@@ -8,7 +8,7 @@ namespace quillet {
 
 namespace {
 
-/// Decodes all bytes, keeping a byte-order mark; none when they are not valid in that encoding.
+/// Decodes all bytes, byte-order marks included; none when they are not valid in that encoding.
 std::optional<QString> decoded(QByteArrayView bytes, QStringConverter::Encoding encoding)
 {
     QStringDecoder decoder(encoding, QStringConverter::Flag::Stateless |
@@ -28,7 +28,10 @@ std::optional<DecodedText> decodeText(QByteArrayView bytes)
     const auto first = static_cast<unsigned char>(bytes.front());
     if (first == 0xFF || first == 0x00) {
         if (bytes.size() % 2 == 0) { // an odd byte at the end would be lost
-            if (std::optional<QString> text = decoded(bytes, QStringConverter::Utf16LE))
+            std::optional<QString> text = decoded(bytes, QStringConverter::Utf16LE);
+            if (text && text->startsWith(QChar::ByteOrderMark))
+                text->remove(0, 1);
+            if (text)
                 return DecodedText{*std::move(text), TextEncoding::Utf16};
         }
     } else if (std::optional<QString> text = decoded(bytes, QStringConverter::Utf8)) {
@@ -46,6 +49,14 @@ std::optional<QString> getAsString(QByteArrayView bytes)
 std::optional<QString> getAsText(QByteArrayView bytes)
 {
     return getAsString(bytes);
+}
+
+QString textFromUtf8(QByteArrayView utf8)
+{
+    QString text = QString::fromUtf8(utf8);
+    if (!utf8.isEmpty() && utf8.front() == '\xEF' && utf8.startsWith("\xEF\xBB\xBF"))
+        text.prepend(QChar::ByteOrderMark);
+    return text;
 }
 
 QByteArray getAsData(QStringView text)

@@ -19,9 +19,9 @@ struct DecodedText
 };
 
 /// Decodes bytes: as UTF-16 when the first byte is 0xFF or 0x00 (byte-order mark honoured, else
-/// little-endian), as UTF-8 otherwise; when that fails as ISO 8859-1, which always succeeds. A
-/// byte-order mark stays in the text. A big-endian mark (0xFE first) is not taken for UTF-16; this
-/// is deliberate. None when there are no bytes.
+/// little-endian), as UTF-8 otherwise; when that fails as ISO 8859-1, which always succeeds. The
+/// mark of UTF-16 is no part of the text; U+FEFF at the start of UTF-8 stays in it. A big-endian
+/// mark (0xFE first) is not taken for UTF-16; this is deliberate. None when there are no bytes.
 [[nodiscard]] std::optional<DecodedText> decodeText(QByteArrayView bytes);
 
 /// The text of decodeText.
@@ -29,6 +29,9 @@ struct DecodedText
 
 /// Another name of getAsString.
 [[nodiscard]] std::optional<QString> getAsText(QByteArrayView bytes);
+
+/// Decodes valid UTF-8 and keeps U+FEFF at its start, which QString::fromUtf8 drops.
+[[nodiscard]] QString textFromUtf8(QByteArrayView utf8);
 
 /// Encodes text as UTF-8. Text that UTF-8 cannot hold (half a surrogate pair) is encoded as UTF-16
 /// with byte-order mark.

@@ -1,9 +1,12 @@
 #include "xml/EventParser.h"
 
+#include "support/TextConversion.h"
+
 #include <libxml/parser.h>
 #include <libxml/parserInternals.h>
 #include <libxml/xmlerror.h>
 
+#include <algorithm>
 #include <limits>
 #include <memory>
 
@@ -57,23 +60,45 @@ struct EventParser::Callbacks
 {
     static EventParser &parser(void *data) { return *static_cast<EventParser *>(data); }
 
-    static void stop(EventParser &self, const QString &message)
+    static xmlParserCtxt *context(EventParser &self)
     {
-        auto *context = static_cast<xmlParserCtxt *>(self.m_context);
+        return static_cast<xmlParserCtxt *>(self.m_context);
+    }
+
+    static void stop(EventParser &self, const QString &message, bool isLimit)
+    {
+        const xmlParserInput *input = context(self)->input;
         if (!self.m_error)
-            self.m_error =
-                ParseError{context->input->line, context->input->col, message, self.position()};
-        xmlStopParser(context);
+            self.m_error = ParseError{input->line, input->col, message, self.position(), isLimit};
+        xmlStopParser(context(self));
+    }
+
+    /// Every name is in the library's dictionary, which gets slow with very many.
+    static void countName(EventParser &self)
+    {
+        constexpr unsigned interval = 64;
+        if (++self.m_elements % interval == 0 && xmlDictSize(context(self)->dict) > limit::names)
+            stop(self, QStringLiteral("More than %1 different names").arg(limit::names), true);
+    }
+
+    /// The library reports an element before it looks whether its start tag ends: where the text
+    /// breaks off in the tag, the name or attributes may have been cut.
+    static bool isTagClosed(const xmlChar *at)
+    {
+        return at[0] == '>' || (at[0] == '/' && at[1] == '>');
     }
 
     static void startElement(void *data, const xmlChar *name, const xmlChar **attributes)
     {
         EventParser &self = parser(data);
+        if (!isTagClosed(context(self)->input->cur))
+            return; // the error follows
         if (++self.m_depth > maxDepth) {
-            stop(self, QStringLiteral("Elements are nested more than %1 deep").arg(maxDepth));
+            stop(self, QStringLiteral("Elements are nested more than %1 deep").arg(maxDepth), true);
             return;
         }
         self.m_handler->startElement(text(name), reinterpret_cast<const char **>(attributes));
+        countName(self);
     }
 
     static void endElement(void *data, const xmlChar *)
@@ -98,6 +123,22 @@ struct EventParser::Callbacks
         parser(data).m_handler->comment(text(comment));
     }
 
+    static void processingInstruction(void *data, const xmlChar *, const xmlChar *)
+    {
+        countName(parser(data));
+    }
+
+    /// Called at the "[" of a document type declaration, if it has one.
+    static void internalSubset(void *data, const xmlChar *, const xmlChar *, const xmlChar *)
+    {
+        EventParser &self = parser(data);
+        const xmlParserInput *input = context(self)->input;
+        if (*input->cur != '[')
+            return;
+        if (!limit::isSubsetShort({text(input->cur + 1), text(input->end)}))
+            stop(self, QStringLiteral("The document type declaration is too long"), true);
+    }
+
     static xmlEntity *getEntity(void *, const xmlChar *name)
     {
         return xmlGetPredefinedEntity(name);
@@ -107,16 +148,19 @@ struct EventParser::Callbacks
     static void reference(void *data, const xmlChar *name)
     {
         stop(parser(data),
-             QStringLiteral("Entity '%1' is not expanded").arg(QLatin1String(text(name))));
+             QStringLiteral("Entity '%1' is not expanded").arg(QLatin1String(text(name))), false);
     }
 
+    /// Some of the library's loops go on after an error, so that each further one stops it again.
     static void error(void *data, LibraryError error)
     {
         EventParser &self = parser(data);
-        if (self.m_error || error->domain != XML_FROM_PARSER || error->level < XML_ERR_ERROR)
+        if (error->domain != XML_FROM_PARSER || error->level < XML_ERR_ERROR)
             return;
-        self.m_error = ParseError{error->line, error->int2,
-                                  QString::fromUtf8(error->message).trimmed(), self.position()};
+        if (!self.m_error)
+            self.m_error = ParseError{error->line, error->int2,
+                                      textFromUtf8(error->message).trimmed(), self.position()};
+        xmlStopParser(context(self));
     }
 };
 
@@ -124,16 +168,40 @@ bool EventParser::parse(EventHandler &handler)
 {
     m_handler = &handler;
     m_depth = 0;
+    m_elements = 0;
     m_error.reset();
-
-    QByteArrayView bytes(m_bytes.constData(), m_bytes.size());
-    if (bytes.startsWith("\xEF\xBB\xBF"))
-        bytes = bytes.sliced(3);
-    if (bytes.size() > std::numeric_limits<int>::max()) {
-        m_error = ParseError{1, 0, QStringLiteral("The text is longer than 2 GB")};
-        return false;
+    m_start = m_bytes.constData();
+    const qsizetype crowdedTag = limit::crowdedTag(m_bytes);
+    if (m_bytes.size() > std::numeric_limits<int>::max()) {
+        m_error = {1, 0, QStringLiteral("The text is longer than 2 GB"), 0, true};
+    } else if (crowdedTag < 0) {
+        runParser(m_bytes);
+    } else {
+        const QByteArray before = m_bytes.first(crowdedTag);
+        m_start = before.constData();
+        runParser(before);
+        if (!m_error || m_error->offset >= crowdedTag)
+            setCrowdedError(crowdedTag);
     }
+    m_handler = nullptr;
+    return !m_error;
+}
 
+void EventParser::setCrowdedError(qsizetype tag)
+{
+    const QByteArrayView before = QByteArrayView(m_bytes).first(tag);
+    const auto lines = std::count(before.begin(), before.end(), '\n');
+    const auto column = tag - before.lastIndexOf('\n');
+    m_error = {static_cast<int>(lines) + 1, static_cast<int>(column),
+               QStringLiteral("An element has more than %1 attributes").arg(limit::attributes), tag,
+               true};
+}
+
+/// The bytes must be followed by a null.
+void EventParser::runParser(QByteArrayView utf8)
+{
+    if (utf8.startsWith("\xEF\xBB\xBF"))
+        utf8 = utf8.sliced(3);
     const std::unique_ptr<xmlParserCtxt, ContextDeleter> context(xmlNewParserCtxt());
     xmlSAXHandler sax{};
     sax.startElement = Callbacks::startElement;
@@ -142,6 +210,8 @@ bool EventParser::parse(EventHandler &handler)
     sax.ignorableWhitespace = Callbacks::characters;
     sax.cdataBlock = Callbacks::cdataBlock;
     sax.comment = Callbacks::comment;
+    sax.processingInstruction = Callbacks::processingInstruction;
+    sax.internalSubset = Callbacks::internalSubset;
     sax.getEntity = Callbacks::getEntity;
     sax.reference = Callbacks::reference;
     context->userData = this;
@@ -156,20 +226,17 @@ bool EventParser::parse(EventHandler &handler)
 
     // Pointed at the bytes themselves, which end in a null; the library would copy the whole text.
     xmlParserInput *input = xmlNewInputStream(context.get());
-    input->base = reinterpret_cast<const xmlChar *>(bytes.data());
+    input->base = reinterpret_cast<const xmlChar *>(utf8.data());
     input->cur = input->base;
-    input->end = input->base + bytes.size();
+    input->end = input->base + utf8.size();
     inputPush(context.get(), input);
     {
         const ErrorsGoTo here(Callbacks::error, this);
         xmlParseDocument(context.get());
     }
-
     m_context = nullptr;
-    m_handler = nullptr;
     if (!m_error && !context->wellFormed)
         m_error = ParseError{1, 0, QStringLiteral("The text is not well-formed XML")};
-    return !m_error;
 }
 
 qsizetype EventParser::position() const
@@ -177,7 +244,7 @@ qsizetype EventParser::position() const
     const auto *context = static_cast<const xmlParserCtxt *>(m_context);
     if (!context || !context->input)
         return 0;
-    return reinterpret_cast<const char *>(context->input->cur) - m_bytes.constData();
+    return reinterpret_cast<const char *>(context->input->cur) - m_start;
 }
 
 } // namespace quillet

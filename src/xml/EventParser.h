@@ -1,5 +1,7 @@
 #pragma once
 
+#include "xml/ParseLimits.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -14,10 +16,11 @@ struct ParseError
     int column = 0;
     QString message;
     qsizetype offset = 0; ///< in bytes of the text that was parsed; about where the fault was seen
+    bool isLimit = false; ///< the text goes beyond what is read, and may be right for all that
 };
 
 /// What an EventParser reports, in document order. All text is UTF-8. One run of characters may
-/// come in several pieces. `name` is null-terminated and the same pointer for the same name
+/// come in several pieces. Names are null-terminated and the same pointer for the same name
 /// throughout a parse.
 class EventHandler
 {
@@ -34,13 +37,14 @@ public:
 
 /// A streaming, non-validating XML parser over UTF-8 bytes, without namespace processing. The
 /// encoding named in the XML declaration is not believed; a byte-order mark is skipped. It stops at
-/// the first error and reports no events after it. Besides malformed XML an error is: an element
-/// more than maxDepth deep, and a reference to any entity but the five predefined ones. A document
-/// type declaration is read past; nothing it names is ever opened or expanded.
+/// the first error and reports no events after it. An element whose start tag the text breaks off
+/// in is not reported. Besides malformed XML an error is: what goes beyond the limits of
+/// ParseLimits, and a reference to any entity but the five predefined ones. A document type
+/// declaration is read past; nothing it names is ever opened or expanded.
 class EventParser
 {
 public:
-    static constexpr int maxDepth = 512;
+    static constexpr int maxDepth = limit::depth;
 
     /// The bytes must be followed by a null, as those that a QByteArray owns are.
     explicit EventParser(QByteArray utf8) : m_bytes(std::move(utf8)) {}
@@ -61,10 +65,15 @@ public:
 private:
     struct Callbacks;
 
+    void runParser(QByteArrayView utf8);
+    void setCrowdedError(qsizetype tag);
+
     QByteArray m_bytes;
+    const char *m_start = nullptr; ///< of the bytes that are being parsed
     EventHandler *m_handler = nullptr;
     void *m_context = nullptr;
     int m_depth = 0;
+    unsigned m_elements = 0;
     std::optional<ParseError> m_error;
 };
 

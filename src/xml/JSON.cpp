@@ -112,8 +112,15 @@ std::optional<Value> valueFromJSON(QByteArrayView text, JSONError &error, qsizet
     const bool isDecoded = ordered_json::sax_parse(text.begin(), text.end(), &builder);
     if (inexact)
         *inexact = builder.inexactIntegers();
-    if (isDecoded)
+    // To the library a null is the end of the text.
+    const qsizetype null = isDecoded ? text.indexOf('\0') : -1;
+    if (isDecoded && null < 0)
         return builder.takeValue();
+    if (isDecoded) {
+        error = errorAt(text, static_cast<std::size_t>(null) + 1,
+                        QStringLiteral("A null character in the text"));
+        return {};
+    }
     error = errorAt(text, builder.errorPosition(), builder.errorMessage());
     return {};
 }

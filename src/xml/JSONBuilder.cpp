@@ -1,5 +1,7 @@
 #include "xml/JSONBuilder.h"
 
+#include "support/TextConversion.h"
+
 #include <limits>
 #include <utility>
 
@@ -103,7 +105,7 @@ bool JSONBuilder::parse_error(std::size_t position, const std::string &,
 {
     m_errorPosition = position;
     // The text behind the library's own code and position.
-    const QString message = QString::fromUtf8(exception.what());
+    const QString message = textFromUtf8(exception.what());
     m_errorMessage = message.sliced(message.lastIndexOf(QLatin1String(": ")) + 2);
     return false;
 }

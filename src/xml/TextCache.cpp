@@ -1,5 +1,7 @@
 #include "xml/TextCache.h"
 
+#include "support/TextConversion.h"
+
 #include <cstring>
 
 namespace quillet {
@@ -22,7 +24,7 @@ QString TextCache::text(QByteArrayView utf8)
     constexpr quint64 nonAscii = 0x8080808080808080;
     const qsizetype size = utf8.size();
     if (size == 0 || size > longest)
-        return QString::fromUtf8(utf8);
+        return textFromUtf8(utf8);
     const char *const begin = utf8.data();
     const char *const end = begin + size;
     Key key{.size = size};
@@ -37,7 +39,7 @@ QString TextCache::text(QByteArrayView utf8)
         key.last = load<quint8>(end - 1);
     }
     if (((key.first | key.last) & nonAscii) != 0)
-        return QString::fromUtf8(utf8);
+        return textFromUtf8(utf8);
 
     const quint64 mixed = (key.first ^ (key.last * 0xC2B2AE3D27D4EB4F)) * 0x9E3779B97F4A7C15;
     Slot &slot = m_slots[(mixed >> 40) % slotCount];

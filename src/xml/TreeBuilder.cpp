@@ -1,5 +1,6 @@
 #include "xml/TreeBuilder.h"
 
+#include "support/TextConversion.h"
 #include "xml/NodeViews.h"
 
 #include <algorithm>
@@ -25,12 +26,25 @@ TreeBuilder::TreeBuilder(const XMLDictionaryParser::Settings &settings, QByteArr
 {
 }
 
-TreeBuilder::Name &TreeBuilder::nameAt(const char *name)
+inline TreeBuilder::AddressSlot &TreeBuilder::slotOf(const char *name, Addresses &addresses)
 {
     const auto address = reinterpret_cast<quintptr>(name);
-    AddressSlot &slot = m_namesByAddress[(address ^ (address >> 8)) % m_namesByAddress.size()];
+    return addresses[(address ^ (address >> 8)) % addresses.size()];
+}
+
+inline TreeBuilder::Name &TreeBuilder::nameAt(const char *name)
+{
+    AddressSlot &slot = slotOf(name, m_namesByAddress);
     if (slot.address != name)
-        slot = {name, &nameFor(QString::fromUtf8(name))};
+        slot = {name, &nameFor(textFromUtf8(name))};
+    return *slot.name;
+}
+
+TreeBuilder::Name &TreeBuilder::prefixedNameAt(const char *name)
+{
+    AddressSlot &slot = slotOf(name, m_attributesByAddress);
+    if (slot.address != name)
+        slot = {name, &nameFor(nodekey::attributePrefix + textFromUtf8(name))};
     return *slot.name;
 }
 
@@ -71,13 +85,32 @@ void TreeBuilder::remove(OpenElement &element, Name &name)
 {
     if (name.place.element != element.id)
         return;
-    const auto position = static_cast<std::ptrdiff_t>(name.place.position);
-    name.place = element.outerPlaces[name.place.position];
-    element.names.erase(element.names.begin() + position);
-    element.values.erase(element.values.begin() + position);
-    element.outerPlaces.erase(element.outerPlaces.begin() + position);
-    for (auto i = static_cast<std::size_t>(position); i < element.names.size(); ++i)
-        element.names[i]->place.position = i;
+    const std::size_t position = name.place.position;
+    name.place = element.outerPlaces[position];
+    if (position + 1 < element.names.size()) {
+        element.names[position] = nullptr;
+        element.hasGaps = true;
+        return;
+    }
+    element.names.pop_back();
+    element.values.pop_back();
+    element.outerPlaces.pop_back();
+}
+
+void TreeBuilder::closeGaps(OpenElement &element)
+{
+    std::size_t kept = 0;
+    for (std::size_t i = 0; i < element.names.size(); ++i) {
+        if (!element.names[i])
+            continue;
+        element.names[kept] = element.names[i];
+        element.outerPlaces[kept] = element.outerPlaces[i];
+        element.values[kept++] = std::move(element.values[i]);
+    }
+    element.names.resize(kept);
+    element.outerPlaces.resize(kept);
+    element.values.resize(kept);
+    element.hasGaps = false;
 }
 
 void TreeBuilder::addAttributes(OpenElement &element, const char *const *attributes)
@@ -85,17 +118,16 @@ void TreeBuilder::addAttributes(OpenElement &element, const char *const *attribu
     using Mode = XMLDictionaryParser::AttributesMode;
     Dictionary all;
     for (; attributes && attributes[0]; attributes += 2) {
-        const QString name = QString::fromUtf8(attributes[0]);
-        const QString value = m_texts.text(attributes[1]);
+        QString value = m_texts.text(attributes[1]);
         switch (m_settings.attributesMode) {
         case Mode::AttributesPrefixed:
-            insert(element, nameFor(nodekey::attributePrefix + name), value);
+            insert(element, prefixedNameAt(attributes[0]), std::move(value));
             break;
         case Mode::AttributesInDictionary:
-            all.insert(name, value);
+            all.insert(textFromUtf8(attributes[0]), std::move(value));
             break;
         case Mode::AttributesMerged:
-            insert(element, nameFor(name), value);
+            insert(element, nameAt(attributes[0]), std::move(value));
             break;
         case Mode::AttributesDropped:
             break;
@@ -105,17 +137,26 @@ void TreeBuilder::addAttributes(OpenElement &element, const char *const *attribu
         insert(element, m_attributesKey, all);
 }
 
+inline TreeBuilder::OpenElement &TreeBuilder::open(Name &name)
+{
+    if (m_depth == m_stack.size())
+        m_stack.emplace_back();
+    OpenElement &element = m_stack[m_depth++];
+    element.name = &name;
+    element.id = ++m_lastId;
+    return element;
+}
+
 void TreeBuilder::startElement(const char *name, const char *const *attributes)
 {
     using Mode = XMLDictionaryParser::NodeNameMode;
     endText();
-    if (m_depth == m_stack.size())
-        m_stack.emplace_back();
-    OpenElement &element = m_stack[m_depth++];
-    element.name = &nameAt(name);
-    element.id = ++m_lastId;
+    const bool isRoot = m_depth == 0;
+    if (isRoot && m_settings.wrapRootNode)
+        open(m_nameKey);
+    OpenElement &element = open(nameAt(name));
     if (m_settings.nodeNameMode == Mode::NameAlways ||
-        (m_settings.nodeNameMode == Mode::NameRootOnly && m_depth == 1))
+        (m_settings.nodeNameMode == Mode::NameRootOnly && isRoot))
         append(element, m_nameKey, element.name->text);
     if (attributes)
         addAttributes(element, attributes);
@@ -134,13 +175,10 @@ void TreeBuilder::endElement()
     endText();
     Dictionary node = makeNode(element);
     --m_depth;
-    if (m_depth > 0) {
+    if (m_depth > 0)
         closeElement(top(), name, std::move(node));
-    } else if (m_settings.wrapRootNode) {
-        m_root = wrapped(name, std::move(node));
-    } else {
+    else
         m_root = std::move(node);
-    }
 }
 
 /// Whether a run may not begin with this piece of text, because trimming takes it away again.
@@ -179,7 +217,7 @@ void TreeBuilder::comment(QByteArrayView text)
 {
     if (!m_settings.preserveComments || m_depth == 0)
         return;
-    const QString comment = QString::fromUtf8(text);
+    const QString comment = textFromUtf8(text);
     Value *comments = find(top(), m_commentsKey);
     if (comments && comments->array())
         comments->array()->append(comment);
@@ -225,6 +263,8 @@ void TreeBuilder::endText()
 
 Dictionary TreeBuilder::makeNode(OpenElement &element)
 {
+    if (element.hasGaps)
+        closeGaps(element);
     if (element.values.empty())
         return {};
     Name &tag = *element.name;
@@ -250,7 +290,7 @@ void TreeBuilder::attach(OpenElement &parent, Name &name, Value child) const
             siblings->append(std::move(child));
         else
             *present = Array{*present, std::move(child)};
-    } else if (m_settings.alwaysUseArrays) {
+    } else if (usesArrays()) {
         append(parent, name, Array{std::move(child)});
     } else {
         append(parent, name, std::move(child));
@@ -266,22 +306,9 @@ void TreeBuilder::closeLeaf(OpenElement &parent, Name &name, QString text) const
     } else if (Value *present = find(parent, name)) {
         if (!present->array())
             *present = Array{*present};
-    } else if (m_settings.alwaysUseArrays) {
+    } else if (usesArrays()) {
         append(parent, name, Array{});
     }
-}
-
-/// The root under its name, collapsed or stripped there like any other child, but never in an
-/// array.
-Dictionary TreeBuilder::wrapped(const Name &tag, Dictionary root) const
-{
-    const bool isPlain = !hasChildNodes(root) && !hasAttributes(root) && !hasComments(root);
-    const std::optional<QString> text = innerText(root);
-    if (isPlain && text && m_settings.collapseTextNodes)
-        return {{tag.text, *text}};
-    if (isPlain && !text && m_settings.stripEmptyNodes)
-        return {};
-    return {{tag.text, std::move(root)}};
 }
 
 void TreeBuilder::closeElement(OpenElement &parent, Name &tag, Dictionary node)
@@ -290,12 +317,17 @@ void TreeBuilder::closeElement(OpenElement &parent, Name &tag, Dictionary node)
         attach(parent, tag, std::move(node));
         return;
     }
+    // A name noted in the node itself goes before the name it was opened with; where a child of
+    // that name is no text, the element is not found again and stays.
+    const Value *noted = node.find(nodekey::name);
+    if (noted && !noted->string()) {
+        attach(parent, tag, std::move(node));
+        return;
+    }
+    Name &name = noted ? nameFor(*noted->string()) : tag;
     const std::optional<QString> text = innerText(node);
     if (!text && !m_settings.stripEmptyNodes && !m_settings.collapseTextNodes)
         node.insert(m_textKey.text, QString(QLatin1String("")));
-    // A name noted in the node itself goes before the name it was opened with.
-    const QString *noted = node.string(nodekey::name);
-    Name &name = noted ? nameFor(*noted) : tag;
     attach(parent, tag, node);
 
     Value *place = find(parent, name);
@@ -313,19 +345,24 @@ void TreeBuilder::closeElement(OpenElement &parent, Name &tag, Dictionary node)
     }
 }
 
+QStringList TreeBuilder::openElements() const
+{
+    QStringList names;
+    for (std::size_t i = m_settings.wrapRootNode ? 1 : 0; i < m_depth; ++i)
+        names.append(m_stack[i].name->text);
+    return names;
+}
+
 std::optional<Dictionary> TreeBuilder::takeRoot()
 {
     while (m_depth > 0) {
         Name &name = *top().name;
         Dictionary node = makeNode(top());
         --m_depth;
-        if (m_depth > 0) {
+        if (m_depth > 0)
             attach(top(), name, std::move(node));
-        } else if (m_settings.wrapRootNode) {
-            m_root = Dictionary{{name.text, std::move(node)}};
-        } else {
+        else
             m_root = std::move(node);
-        }
     }
     return std::exchange(m_root, std::nullopt);
 }

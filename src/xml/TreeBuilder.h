@@ -6,6 +6,7 @@
 #include "xml/XMLDictionaryParser.h"
 
 #include <QHash>
+#include <QStringList>
 
 #include <array>
 #include <deque>
@@ -28,6 +29,9 @@ public:
     void characters(QByteArrayView text) override;
     void cdataBlock(QByteArrayView bytes) override;
     void comment(QByteArrayView text) override;
+
+    /// The names of the elements that are open, the root first.
+    [[nodiscard]] QStringList openElements() const;
 
     /// Ends the build and hands out the tree. Elements still open hang in it as they are, not
     /// collapsed. None when no element had started.
@@ -58,19 +62,33 @@ private:
     {
         Name *name = nullptr;
         quint64 id = 0;
-        std::vector<Name *> names;
+        std::vector<Name *> names;         ///< null where one was removed
         std::vector<KeyPlace> outerPlaces; ///< of the names, before this element had them
         std::vector<Value> values;
+        bool hasGaps = false; ///< some were removed
     };
 
+    using Addresses = std::array<AddressSlot, 256>;
+
+    static AddressSlot &slotOf(const char *name, Addresses &addresses);
     Name &nameAt(const char *name);
+    /// With the prefix of attributes.
+    Name &prefixedNameAt(const char *name);
     Name &nameFor(const QString &text);
+    OpenElement &open(Name &name);
     OpenElement &top() { return m_stack[m_depth - 1]; }
+    /// Whether a single child of the innermost element stands in an array; the root in its wrapper
+    /// does not.
+    [[nodiscard]] bool usesArrays() const
+    {
+        return m_settings.alwaysUseArrays && (m_depth > 1 || !m_settings.wrapRootNode);
+    }
 
     static Value *find(OpenElement &element, Name &name);
     static void append(OpenElement &element, Name &name, Value value);
     static void insert(OpenElement &element, Name &name, Value value);
     static void remove(OpenElement &element, Name &name);
+    static void closeGaps(OpenElement &element);
 
     void addAttributes(OpenElement &element, const char *const *attributes);
     [[nodiscard]] bool isBlankToDrop(QByteArrayView text) const;
@@ -79,19 +97,21 @@ private:
     static Dictionary makeNode(OpenElement &element);
     void attach(OpenElement &parent, Name &name, Value child) const;
     void closeLeaf(OpenElement &parent, Name &name, QString text) const;
-    [[nodiscard]] Dictionary wrapped(const Name &tag, Dictionary root) const;
     void closeElement(OpenElement &parent, Name &tag, Dictionary node);
 
     XMLDictionaryParser::Settings m_settings;
     QByteArrayView m_source;
-    std::vector<OpenElement> m_stack; ///< grows only: closed elements keep their memory for reuse
+    /// A wrapper of the root lies at the bottom and stays open. Grows only: closed elements keep
+    /// their memory for reuse.
+    std::vector<OpenElement> m_stack;
     std::size_t m_depth = 0;
     quint64 m_lastId = 0;
     QByteArrayView m_run; ///< the text run collected so far: a part of the source, or m_pieces
     QByteArray m_pieces;
     std::optional<Dictionary> m_root;
     std::deque<Name> m_names;
-    std::array<AddressSlot, 256> m_namesByAddress{}; ///< the parser names an element by one address
+    Addresses m_namesByAddress{}; ///< the parser gives a name by one address
+    Addresses m_attributesByAddress{};
     QHash<QString, Name *> m_namesByText;
     TextCache m_texts;
     Name &m_nameKey;

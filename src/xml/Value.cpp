@@ -1,9 +1,9 @@
 #include "xml/Value.h"
 
 #include "xml/FormattedDescription.h"
+#include "xml/JSON.h"
 
-#include <QLocale>
-
+#include <cmath>
 #include <cstring>
 
 namespace quillet {
@@ -12,6 +12,17 @@ bool Value::isNumber() const
 {
     return std::holds_alternative<qint64>(m_data) || std::holds_alternative<quint64>(m_data) ||
            std::holds_alternative<double>(m_data);
+}
+
+std::optional<qint64> Value::wholeNumber() const
+{
+    constexpr double beyond = 0x1p63;
+    if (const auto *number = std::get_if<qint64>(&m_data))
+        return *number;
+    const auto *number = std::get_if<double>(&m_data);
+    const bool isWhole =
+        number && *number >= -beyond && *number < beyond && std::trunc(*number) == *number;
+    return isWhole ? std::optional(static_cast<qint64>(*number)) : std::nullopt;
 }
 
 QString Value::description() const
@@ -28,7 +39,7 @@ QString Value::description() const
         QString operator()(quint64 number) const { return QString::number(number); }
         QString operator()(double number) const
         {
-            return QString::number(number, 'g', QLocale::FloatingPointShortest);
+            return QString::fromLatin1(toJSON(Value(number)).value_or(QByteArray()));
         }
         QString operator()(const Dictionary &dictionary) const
         {

@@ -36,8 +36,11 @@ public:
     [[nodiscard]] const Array *array() const { return std::get_if<Array>(&m_data); }
     [[nodiscard]] Array *array() { return std::get_if<Array>(&m_data); }
 
-    /// The value as text: a string is its own text, numbers are decimal, dictionaries and arrays
-    /// are printed in their indented form.
+    /// The number, if it is one without a fraction and of 64 bits with a sign, however it is held.
+    [[nodiscard]] std::optional<qint64> wholeNumber() const;
+
+    /// The value as text: a string is its own text, numbers are as JSON has them, dictionaries and
+    /// arrays are printed in their indented form.
     [[nodiscard]] QString description() const;
 
     /// Calls the function object for what the value holds.

@@ -18,6 +18,7 @@ std::optional<Dictionary> XMLDictionaryParser::dictionaryWithParser(EventParser 
     TreeBuilder builder(settings, parser.bytes());
     parser.parse(builder);
     m_firstError = parser.error();
+    m_openElements = builder.openElements();
     return builder.takeRoot();
 }
 

@@ -5,6 +5,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -55,8 +56,12 @@ public:
     /// The error that ended the last parse early; none when it came to the end.
     [[nodiscard]] const std::optional<ParseError> &firstError() const { return m_firstError; }
 
+    /// The elements that were open where the last parse ended, the root first.
+    [[nodiscard]] const QStringList &openElements() const { return m_openElements; }
+
 private:
     std::optional<ParseError> m_firstError;
+    QStringList m_openElements;
 };
 
 /// Parse with the settings of the shared instance.

@@ -118,6 +118,10 @@ private slots:
         applyReferenceOrder(stations,
                             {{QStringLiteral("7"), QStringLiteral("A"), QStringLiteral("0-0-0")}});
         QCOMPARE(described(stations), QStringList{QStringLiteral("1 was 1")});
+        // Now it was read, whether or not there is a log to write it to.
+        applyReferenceOrder(stations,
+                            {{QStringLiteral("7"), QStringLiteral("A"), QStringLiteral("0-0-0")}});
+        QCOMPARE(described(stations), QStringList{QStringLiteral("7 was 1")});
 
         stations = {makeStation(1, QStringLiteral("A"), QStringLiteral("1-1-1"))};
         applyReferenceOrder(stations, {{QStringLiteral("7"), QString(), QStringLiteral("0-0-0")}});

@@ -230,6 +230,19 @@ private slots:
             "equal numbers", abc,
             [](TLLDocument &document) { station(document, true, 0, 1)->setProgramNum(1); },
             u"renumbered 1: B"_s, u"renumbered 1: B"_s);
+        QString unread = digital(items({u"A"_s, u"B"_s}))
+                             .replace(u"<prNum>1<"_s, u"<prNum t=\"0\">1<"_s) // reads as 9999
+                             .replace(u"<prNum>2<"_s, u"<prNum>10000<"_s);
+        unread.insert(unread.lastIndexOf(u"<ITEM>"_s) + 5, u" x=\"1\""_s);
+        row(
+            "numbers that are told by the place", unread,
+            [](TLLDocument &document) {
+                StationList &list = *document.lists().list(true, 0);
+                std::swap(list[0], list[1]);
+                list[0]->setProgramNum(9999);
+                list[1]->setProgramNum(10000);
+            },
+            u"changed 1: A, extras"_s, u"renumbered 2: B A"_s);
         row("name that XML cannot hold", abc, rename(u"\x01X"_s),
             u"missing 1: C, changed 1: \x01X"_s, u"changed 1: \x01X"_s);
         row(

@@ -150,6 +150,8 @@ private slots:
         row("text.tll", lines);
         row("malformed.tll", "<TLLDATA><CHANNEL><DTV>text</DTV></CHANNEL></TLLDATA>");
         row("identifiers.tll", fileOf(lettered({3, 2, 1})));
+        row("json.tll", "<TLLDATA><CHANNEL><legacybroadcast>{\"channelList\":[" +
+                            makeChannel("A", "1") + "]}</legacybroadcast></CHANNEL></TLLDATA>");
         row("missing.tll", {});
     }
     void appliesOrder()
@@ -165,9 +167,9 @@ private slots:
         QCOMPARE(editor.rows(), u"1 A, 2 B, 3 C"_s); // which decodes the names
         editor.outlets.selectRows({1});
         const bool isApplied = !after.isEmpty();
-        if (isApplied)
-            editor.prompts.answerAlert(u"kOK"_s);
+        editor.prompts.answerAlert(u"kOK"_s); // of the report, or of the reason
         editor.controller.applyOrderFile(path);
+        QCOMPARE(editor.prompts.lastText().startsWith(u"kOrderEmpty"_s), !isApplied);
         QCOMPARE(editor.rows(), isApplied ? after : u"1 A, 2 B, 3 C"_s);
         QCOMPARE(editor.document.isDirty(), isApplied);
         QCOMPARE(editor.outlets.rows, isApplied ? Rows{} : Rows{1});
@@ -215,7 +217,9 @@ private slots:
         LGStation station({{u"vchName"_s, u"Name"_s},
                            {u"empty"_s, QString()},
                            {u"Upper"_s, Value(true)},
-                           {u"_x"_s, Value(1.5)},
+                           {u"_x"_s, Value(100000.0)},
+                           {u"\uFF21"_s, QString(20'000, u'x')}, // above surrogates as a unit
+                           {u"\U0001F4FA"_s, u"tv"_s},
                            {u"nested"_s, Dictionary{{u"A"_s, Value(qint64(1))}}}},
                           0);
         StationInfo info;
@@ -230,11 +234,14 @@ private slots:
             lines.append(cells.index(row, StationInfoModel::Field).data().toString() + u'=' +
                          content.data().toString());
             QCOMPARE(content.data(Qt::ToolTipRole), content.data()); // a long one is cut off
+            QCOMPARE_LE(content.data().toString().size(), 10'001);
+            QCOMPARE(content.data(Qt::EditRole).toString(), info.content(row));
             QVERIFY(!cells.setData(content, u"x"_s, Qt::EditRole));
         }
-        QCOMPARE(lines, (QStringList{u"Upper=true"_s, u"_x=1.5"_s, u"empty="_s,
+        QCOMPARE(lines, (QStringList{u"Upper=true"_s, u"_x=100000.0"_s, u"empty="_s,
                                      u"nested=<NSDictionary>:\n    <A> = <NSNumber> 1"_s,
-                                     u"vchName=Name"_s}));
+                                     u"vchName=Name"_s, u"\uFF21="_s + QString(10'000, u'x') + u'…',
+                                     u"\U0001F4FA=tv"_s}));
     }
 };
 

@@ -75,6 +75,17 @@ private slots:
         QVERIFY(!editor.document.isDirty());
     }
 
+    void radioStationsOfJSONLists()
+    {
+        Editor editor({});
+        editor.show("<TLLDATA><CHANNEL><legacybroadcast>{\"channelList\":[" +
+                    makeChannel("A", "1") + ',' + makeChannel("R", "2", {.serviceType = 2}) +
+                    "]}</legacybroadcast></CHANNEL></TLLDATA>");
+        QCOMPARE(editor.outlets.hint, EmptyHint::None);
+        editor.controller.useRadioClicked();
+        QCOMPARE(editor.outlets.hint, EmptyHint::RadioNotShown);
+    }
+
     void texts()
     {
         Editor editor(mixed());

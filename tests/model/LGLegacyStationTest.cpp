@@ -91,7 +91,9 @@ private slots:
             {"-1", -1, 16383},                    // its lower 14 bits are all set
             {"18446744073709551615", 9999, 9999}, // beyond 64 bits with a sign
             {"null", 9999, 9999},
-            {"1.5", 9999, 9999}};
+            {"1.5", 9999, 9999},
+            {"100000.0", 100000, 100000 % 16384},
+            {"1e30", 9999, 9999}};
         for (const auto &[given, raw, shown] : rows) {
             const LGLegacyStation read = station("{\"prNum\":5,\"majorNumber\":" + given + "}");
             QCOMPARE(read.getRawProgNum(), raw);

@@ -30,7 +30,8 @@ private slots:
         QTest::newRow("one bad byte") << "\xC3\xA4\xE4"_ba << u"\u00C3\u00A4\u00E4"_s << latin1;
         QTest::newRow("surrogate") << "\xED\xA0\x80"_ba << u"\u00ED\u00A0\u0080"_s << latin1;
         QTest::newRow("cut end") << "ab\xE2\x82"_ba << u"ab\u00E2\u0082"_s << latin1;
-        QTest::newRow("UTF-16 mark") << "\xFF\xFE<\0\xE4\0"_ba << u"\uFEFF<ä"_s << utf16;
+        QTest::newRow("UTF-16 mark") << "\xFF\xFE<\0\xE4\0"_ba << u"<ä"_s << utf16;
+        QTest::newRow("two UTF-16 marks") << "\xFF\xFE\xFF\xFE<\0"_ba << u"\uFEFF<"_s << utf16;
         QTest::newRow("null first") << "\0A"_ba << u"\u4100"_s << utf16;
         QTest::newRow("odd UTF-16") << "\xFF\xFE<"_ba << u"\u00FF\u00FE<"_s << latin1;
         QTest::newRow("big-endian mark") << "\xFE\xFF\0<"_ba << u"\u00FE\u00FF\0<"_s << latin1;

@@ -10,6 +10,21 @@
 using namespace quillet;
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+
+class NoEvents final : public EventHandler
+{
+public:
+    void startElement(const char *, const char *const *) override { ++count; }
+    void endElement() override { ++count; }
+    void characters(QByteArrayView) override {}
+    void cdataBlock(QByteArrayView) override {}
+    void comment(QByteArrayView) override {}
+    int count = 0;
+};
+
+} // namespace
+
 /// Files that are made to harm: none may take long, grow memory or make the parser read elsewhere.
 class HostileXMLTest : public QObject
 {
@@ -35,7 +50,7 @@ private slots:
         row("internal parameter", u"[<!ENTITY % p \"<!ENTITY x 'SECRET'>\">%p;]"_s, 1);
         row("external type", u"SYSTEM '%1/secret.dtd' [<!ENTITY y 'SECRET'>]"_s);
         row("nested bomb", bomb + u"<!ENTITY x '&b29;'>]"_s);
-        row("wide bomb", u"[<!ENTITY x '"_s + u"SECRET"_s.repeated(10000) + u"'>]"_s);
+        row("wide bomb", u"[<!ENTITY x '"_s + u"SECRET"_s.repeated(1000) + u"'>]"_s);
     }
 
     void nothingIsReadOrExpanded()
@@ -79,6 +94,58 @@ private slots:
             // The innermost one is its text when it was closed.
             QCOMPARE(levels, depth > 512 ? 512 : 511);
             QCOMPARE(node->string(u"a") != nullptr, depth == 512);
+        }
+    }
+
+    void limits_data()
+    {
+        QTest::addColumn<QByteArray>("before"); // the place where it is too much
+        QTest::addColumn<QByteArray>("piece");  // "%1" is a number
+        QTest::addColumn<QByteArray>("after");
+        QTest::addColumn<int>("allowed");
+        const auto row = [](const char *name, const char *before, const char *piece,
+                            const char *after, int allowed) {
+            QTest::newRow(name) << QByteArray(before) << QByteArray(piece) << QByteArray(after)
+                                << allowed;
+        };
+        row("attributes", "<r><a>1</a>\n<b", " a%1='>'", "/></r>", 1000);
+        row("attributes, cut", "<r><a>1</a>\n<b", " a%1='1'", "", 1000);
+        row("names", "<r><a>1</a>", "<n%1/>", "</r>", 19'900);
+        row("instructions", "<r><a>1</a>", "<?p%1 x?>", "</r>", 19'900);
+        row("document type", "<!DOCTYPE r [<!--]>--><!ATTLIST r a (", "a%1|", "b) 'b'>]><r/>",
+            2000);
+    }
+    /// Beyond them the library's time grows with the square.
+    void limits()
+    {
+        QFETCH(const QByteArray, before);
+        QFETCH(const QByteArray, piece);
+        QFETCH(const QByteArray, after);
+        QFETCH(const int, allowed);
+        for (const int count : {allowed, allowed * 2}) {
+            QByteArray text = before;
+            for (int i = 0; i < count; ++i)
+                text += QByteArray(piece).replace("%1", QByteArray::number(i));
+            XMLDictionaryParser parser;
+            const auto read = parser.dictionaryWithData(text + after);
+            const auto &error = parser.firstError();
+            QCOMPARE(error && error->isLimit, count > allowed);
+            QCOMPARE(error.has_value(), count > allowed || after.isEmpty());
+            QVERIFY(!before.contains("<a>") || *read->string(u"a") == u"1");
+            QVERIFY(count == allowed || error->line == before.count('\n') + 1);
+        }
+    }
+
+    /// What follows the first error is not looked at.
+    void stopsAtOnce()
+    {
+        for (const QByteArray &flood : {"--"_ba, "&"_ba, "]]>"_ba, "</b>"_ba, "<b <"_ba}) {
+            const QByteArray start = flood == "--" ? "<r><!-- "_ba : "<r>"_ba;
+            EventParser parser(start + flood.repeated(1000) + "<a>1</a>--></r>");
+            NoEvents events;
+            QVERIFY(!parser.parse(events));
+            QCOMPARE_LE(parser.error()->offset, start.size() + 4);
+            QCOMPARE(events.count, 1);
         }
     }
 

@@ -142,6 +142,8 @@ private slots:
         // clang-format on
         for (const char *text : rows)
             QTest::newRow(text) << QByteArray(text);
+        QTest::newRow("null behind") << "{}\0{}"_ba;
+        QTest::newRow("null inside") << "[1,\0"_ba;
     }
     void broken()
     {

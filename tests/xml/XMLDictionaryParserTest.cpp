@@ -137,6 +137,12 @@ private slots:
         row("wrap", wrap, "<a>1</a>", {{u"r"_s, Tree{root, {u"a"_s, u"1"_s}}}});
         row("wrap text", wrap, "t", {{u"r"_s, u"t"_s}});
         row("wrap nothing", wrap, "", {});
+        row("wrap nothing, no strip", {.collapseTextNodes = false, .stripEmptyNodes = false, .wrapRootNode = true}, "",
+            tree(u"r"_s, Tree{root, {u"__text"_s, u""_s}}));
+        row("wrap comments", {.preserveComments = true, .wrapRootNode = true}, "1</r><!--c--><!--d",
+            {{u"r"_s, u"1"_s}, {u"__comments"_s, Array{u"c"_s}}});
+        row("element __name that is no text", noCollapse, "<a><__name>b</__name></a>",
+            {root, {u"a"_s, tree(u"__name"_s, text(u"b"_s))}});
         row("attributes in a dictionary", {.attributesMode = Attributes::AttributesInDictionary}, "<a x='1' y='2'/>",
             {root, {u"a"_s, tree(u"__attributes"_s, Tree{{u"x"_s, u"1"_s}, {u"y"_s, u"2"_s}})}});
         row("merged attributes", {.attributesMode = Attributes::AttributesMerged}, "<a x='1' y='2'><x>3</x></a>",
@@ -171,6 +177,9 @@ private slots:
         // clang-format off
         row("cut in a text", "<r>t<a>1</a>\n<b>2", {root, {u"__text"_s, u"t"_s}, {u"a"_s, u"1"_s}, {u"b"_s, Tree()}}, 2);
         row("cut in a tag", "<r><a>1</a>\n\n<", whole, 3);
+        row("cut in a start tag", "<r><a>1</a>\n<b c='1' ", whole, 2);
+        row("cut in a name", "<r><a>1</a>\n<b", whole, 2);
+        row("character in a start tag", "<r><a>1</a>\n<b\x01>2</b></r>", whole, 2);
         row("cut in a sibling", "<r><a>1</a><a><c>2</c>\n", {root, {u"a"_s, Array{u"1"_s, tree(u"c"_s, u"2"_s)}}}, 2);
         row("wrong end", "<r><a>1</a>\n</b><c>2</c></r>", whole, 2);
         row("text not closed yet", "<r>t<a b=1/></r>", {root}, 1);

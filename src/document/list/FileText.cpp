@@ -76,6 +76,8 @@ std::optional<FileText> FileText::decode(const QByteArray &bytes)
         return text;
     }
     std::optional<DecodedText> decoded = decodeText(bytes);
+    if (decoded->text.isEmpty())
+        return {};
     text.m_encoding = decoded->encoding;
     text.m_bytes = bytes;
     text.m_text = std::move(decoded->text);
@@ -110,8 +112,7 @@ QString FileText::textFrom(Place place) const
 {
     if (m_encoding != TextEncoding::Utf8)
         return m_text.sliced(place.offset);
-    // A byte-order mark at the start is part of the text, which QString::fromUtf8 would drop.
-    return decodeText(QByteArrayView(m_bytes).sliced(place.offset)).value_or(DecodedText()).text;
+    return textFromUtf8(QByteArrayView(m_bytes).sliced(place.offset));
 }
 
 void FileText::appendFirst(qsizetype length, Utf8Builder &output) const
@@ -136,7 +137,7 @@ qsizetype FileText::size() const
 QString FileText::start(qsizetype length) const
 {
     return m_encoding == TextEncoding::Utf8
-               ? QString::fromUtf8(m_bytes.first(qMin(length, m_bytes.size())))
+               ? textFromUtf8(QByteArrayView(m_bytes).first(qMin(length, m_bytes.size())))
                : m_text.left(length);
 }
 

@@ -17,7 +17,7 @@ class FileText
 {
 public:
     FileText() = default;
-    /// None when there are no bytes.
+    /// None when there are no bytes, or nothing but a byte-order mark of UTF-16.
     [[nodiscard]] static std::optional<FileText> decode(const QByteArray &bytes);
 
     [[nodiscard]] TextEncoding encoding() const { return m_encoding; }

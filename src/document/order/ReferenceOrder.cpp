@@ -82,10 +82,14 @@ MatchedStation takeStation(StationPool &pool, const ReferenceEntry &entry)
     return {pool.take(match.index), QLatin1String("name"), QLatin1String("---")};
 }
 
+/// Reads the names of the stations even when no log is open: by them the next list is matched.
 void addListing(QLatin1String title, const StationList &stations, LogLines &log)
 {
-    if (!log.isWanted())
+    if (!log.isWanted()) {
+        for (const StationPtr &station : stations)
+            static_cast<void>(station->stationName());
         return;
+    }
     log.beginLine();
     log.append(title);
     for (const StationPtr &station : stations) {

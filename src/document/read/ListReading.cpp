@@ -70,6 +70,43 @@ bool locateStations(ChannelList &list)
     return false;
 }
 
+/// Takes the station out of the tree that the text breaks off in, whose elements open there are
+/// given; false when it breaks off elsewhere.
+bool dropBrokenStation(ChannelList &list, const QStringList &open)
+{
+    const QStringView channelName = fileword::channel, itemName = fileword::item;
+    if (open.size() < 4 || open[1] != channelName || open[3] != itemName)
+        return false;
+    const QString &name = open[2];
+    Array items = sectionItems(list.tree, name);
+    const Dictionary *channel = list.tree.dictionary(fileword::channel);
+    const Dictionary *section = channel ? channel->dictionary(name) : nullptr;
+    if (!section || items.isEmpty())
+        return false;
+    items.removeLast();
+    Dictionary rest = *section;
+    rest.insert(fileword::item.toString(), items);
+    Dictionary sections = *channel;
+    sections.insert(name, rest);
+    list.tree.insert(fileword::channel.toString(), sections);
+    return true;
+}
+
+/// A station without its source is filed as an analogue one, and then the analogue section may be
+/// found malformed. Of one that was cut off before its source that tells nothing: rather than the
+/// whole file it is left unread.
+bool fileAndLocate(ChannelList &list, const QStringList &open)
+{
+    if (!fileStations(list))
+        return false;
+    if (locateStations(list))
+        return true;
+    if (!list.parseError || !dropBrokenStation(list, open))
+        return false;
+    list.formatFault.reset();
+    return fileStations(list) && locateStations(list);
+}
+
 } // namespace
 
 Reading readInto(ChannelList &list, const QByteArray &bytes)
@@ -93,7 +130,7 @@ Reading readInto(ChannelList &list, const QByteArray &bytes)
         list.layout.locateLegacy(list.text);
         return Reading::Done;
     }
-    return fileStations(list) && locateStations(list) ? Reading::Done : Reading::BadFormat;
+    return fileAndLocate(list, parser.openElements()) ? Reading::Done : Reading::BadFormat;
 }
 
 std::optional<ChannelList> channelListFromBytes(const QByteArray &bytes)

@@ -57,6 +57,7 @@ FileFinding damage(const ChannelList &list)
     const ParseError &error = *list.parseError;
     FileFinding finding{FileFinding::Kind::Damaged, error.line, error.column};
     finding.isJSONList = list.isLegacyFormat;
+    finding.isLimit = error.isLimit;
     const QByteArray text = list.text.utf8();
     const std::vector<Dictionary> begun = begunStations(list.tree);
     std::size_t count = 0;
@@ -85,7 +86,7 @@ FileFinding::Kind kindOfOther(const FileText &text)
     const QString start = text.start(enough);
     // Without a mark a file is taken for UTF-16 because it begins with a byte that no text has.
     const bool isUnmarked =
-        text.encoding() == TextEncoding::Utf16 && !start.startsWith(QChar::ByteOrderMark);
+        text.encoding() == TextEncoding::Utf16 && !text.bytes().startsWith("\xFF\xFE");
     const auto isControl = [](QChar c) { return c < u' ' && !c.isSpace(); };
     const bool isBinary = isUnmarked || std::any_of(start.begin(), start.end(), isControl);
     return isBinary ? FileFinding::Kind::BinaryList : FileFinding::Kind::NoXML;

@@ -29,6 +29,7 @@ struct FileFinding
     qsizetype unread = 0;                    ///< stations that begin behind the damage
     QString declared = {};                   ///< the encoding declared, where that is wrong
     bool isJSONList = false;                 ///< damaged, and the stations are kept as JSON
+    bool isLimit = false;                    ///< damaged only in that it goes beyond what is read
 };
 
 /// What is wrong with the file that the list was read from, at most one finding of a kind. A

@@ -265,7 +265,7 @@ QByteArray encodedAs(const FileText &file, const QByteArray &utf8)
 {
     if (utf8 == file.utf8())
         return file.bytes();
-    const QString text = QString::fromUtf8(utf8);
+    const QString text = textFromUtf8(utf8);
     const QByteArray latin1 = text.toLatin1();
     const bool isLatin1 = file.encoding() == TextEncoding::Latin1 && !latin1.isValidUtf8() &&
                           QString::fromLatin1(latin1) == text;

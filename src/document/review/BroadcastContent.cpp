@@ -48,6 +48,16 @@ BroadcastContent::BroadcastContent(const ChannelList &list) : ListContent(list)
     m_expected = channelsOf(list);
     for (const auto &[station, place] : list.lists.roll())
         m_expected.at(static_cast<std::size_t>(place.index)) = station->entry();
+    m_stations = stationsIn(list);
+}
+
+std::vector<const LGStation *> BroadcastContent::stationsIn(const ChannelList &again) const
+{
+    std::vector<const LGStation *> stations(
+        static_cast<std::size_t>(again.broadcast.channelList().count()));
+    for (const auto &[station, place] : again.lists.roll())
+        stations.at(static_cast<std::size_t>(place.index)) = station.get();
+    return stations;
 }
 
 std::vector<Dictionary> BroadcastContent::foundIn(const ChannelList &again) const

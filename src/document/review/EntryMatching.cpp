@@ -36,15 +36,31 @@ Dictionary normalized(const Dictionary &entry, const QStringList &without = {})
     return result;
 }
 
+std::size_t hashOf(const Value &value);
+
 /// Equal for equal entries, in whatever order their fields stand.
 std::size_t hashOf(const Dictionary &entry)
 {
     std::size_t sum = 0;
-    for (const auto &[key, value] : entry) {
-        const QString *text = value.string();
-        sum += qHashMulti(0, key, text ? *text : value.description());
-    }
+    for (const auto &[key, value] : entry)
+        sum += qHashMulti(0, key, hashOf(value));
     return sum;
+}
+
+/// Without making a text of what is nested, which may be many times as long.
+std::size_t hashOf(const Value &value)
+{
+    if (const QString *text = value.string())
+        return qHash(*text);
+    if (const Dictionary *dictionary = value.dictionary())
+        return hashOf(*dictionary);
+    const Array *array = value.array();
+    if (!array)
+        return qHash(value.description());
+    std::size_t hash = 0;
+    for (const Value &element : *array)
+        hash = qHashMulti(hash, hashOf(element));
+    return hash;
 }
 
 /// Compares entries of which most have their keys from one table.
@@ -151,11 +167,15 @@ EntryMatches matchEntries(const std::vector<Dictionary> &expected,
         wanted.add(i, normalized(expected[i]));
     std::vector<bool> isFound(expected.size(), false);
     std::vector<const Dictionary *> others;
-    for (const Dictionary &entry : actual) {
-        if (const auto index = wanted.take(normalized(entry), isFound))
+    EntryMatches matches;
+    matches.places.resize(expected.size());
+    for (std::size_t i = 0; i < actual.size(); ++i) {
+        if (const auto index = wanted.take(normalized(actual[i]), isFound)) {
             isFound[*index] = true;
-        else
-            others.push_back(&entry);
+            matches.places[*index] = i;
+        } else {
+            others.push_back(&actual[i]);
+        }
     }
 
     QStringList editedButNumber = keys.edited;
@@ -174,7 +194,6 @@ EntryMatches matchEntries(const std::vector<Dictionary> &expected,
             missingAlike.add(i, alike);
         }
     }
-    EntryMatches matches;
     NumberPool mutilated(keys.number);
     std::vector<const Dictionary *> unlike;
     std::vector<bool> isDoubled(expected.size(), false);

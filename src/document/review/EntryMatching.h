@@ -15,6 +15,9 @@ struct EntryMatches
     std::vector<std::size_t> changed; ///< the same: there, but not as expected
     std::vector<std::size_t> doubled; ///< the same: there once more, perhaps not as expected
     std::vector<Dictionary> surplus;  ///< there, but like none of those expected
+    /// Of each one expected the index of the one that is there; empty when they are in order. Means
+    /// nothing unless all are.
+    std::vector<std::size_t> places;
 
     [[nodiscard]] bool areAll() const
     {

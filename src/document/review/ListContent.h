@@ -12,6 +12,7 @@
 namespace quillet {
 
 struct ChannelList;
+class LGStation;
 
 /// What a list holds that a writing of it must bring back, for one of the two variants of the file.
 /// Lives no longer than the list.
@@ -26,6 +27,11 @@ public:
     [[nodiscard]] const std::vector<Dictionary> &expected() const { return m_expected; }
     /// Those that stand in a file that was read again.
     [[nodiscard]] virtual std::vector<Dictionary> foundIn(const ChannelList &again) const = 0;
+    /// The station of each that is expected; null where that is none.
+    [[nodiscard]] const std::vector<const LGStation *> &stations() const { return m_stations; }
+    /// The same of those that stand in a file that was read again.
+    [[nodiscard]] virtual std::vector<const LGStation *>
+    stationsIn(const ChannelList &again) const = 0;
     [[nodiscard]] virtual EntryKeys keys() const = 0;
     /// How a sheet names a station: the name it would be shown with, or its number. Asks the entry
     /// alone, as the station's own name is decoded when it is shown and not before.
@@ -57,6 +63,7 @@ protected:
     [[nodiscard]] const ChannelList &list() const { return m_list; }
 
     std::vector<Dictionary> m_expected;
+    std::vector<const LGStation *> m_stations;
     bool m_areListed = true;
 
 private:

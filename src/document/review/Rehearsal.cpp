@@ -65,37 +65,35 @@ bool losesSurroundingText(const QByteArray &before, const QByteArray &after,
     return !QByteArrayView(after).trimmed().endsWith(tail);
 }
 
-/// Finds the stations whose number, or whose kind, reads otherwise than it is.
-void compareNumbers(const ChannelList &list, const ChannelList &again, const ListContent &content,
-                    Rehearsal::Stations &renumbered)
+/// Finds the stations whose number, or whose kind, reads otherwise than it is. Each is compared
+/// with itself, wherever it stands.
+void compareNumbers(const ChannelList &again, const ListContent &content,
+                    const EntryMatches &matches, Rehearsal::Stations &renumbered)
 {
-    for (const StationSource source : stationSources) {
-        for (const bool isTV : {true, false}) {
-            const int index = static_cast<int>(source);
-            const StationListPtr &held = list.lists.list(isTV, index);
-            const StationListPtr &read = again.lists.list(isTV, index);
-            for (std::size_t i = 0; held && i < held->size(); ++i) {
-                const LGStation &station = *(*held)[i];
-                const bool isSame = read && i < read->size() &&
-                                    (*read)[i]->progNum() == station.progNum() &&
-                                    (*read)[i]->isRadio() == station.isRadio();
-                if (!isSame)
-                    count(renumbered, station.entry(), content);
-            }
-        }
+    const std::vector<const LGStation *> &held = content.stations();
+    const std::vector<const LGStation *> read = content.stationsIn(again);
+    for (std::size_t i = 0; i < held.size(); ++i) {
+        if (!held[i])
+            continue;
+        const std::size_t place = matches.places.empty() ? i : matches.places[i];
+        const LGStation *found = place < read.size() ? read[place] : nullptr;
+        const bool isSame = found && found->progNum() == held[i]->progNum() &&
+                            found->isRadio() == held[i]->isRadio();
+        if (!isSame)
+            count(renumbered, held[i]->entry(), content);
     }
 }
 
 /// Returns the stations that are there but like none of the list's.
-std::vector<Dictionary> compareStations(const ChannelList &list, const ChannelList &again,
-                                        const ListContent &content, Rehearsal &result)
+std::vector<Dictionary> compareStations(const ChannelList &again, const ListContent &content,
+                                        Rehearsal &result)
 {
     EntryMatches matches = matchEntries(content.expected(), content.foundIn(again), content.keys());
     count(result.missing, matches.missing, content);
     count(result.doubled, matches.doubled, content);
     count(result.changed, matches.changed, content);
     if (content.areListed() && result.isClean())
-        compareNumbers(list, again, content, result.renumbered);
+        compareNumbers(again, content, matches, result.renumbered);
     return std::move(matches.surplus);
 }
 
@@ -159,7 +157,7 @@ Rehearsal rehearse(const ChannelList &list, const QByteArray &bytes)
         result.losesSurroundings = after != before;
         return result;
     }
-    std::vector<Dictionary> surplus = compareStations(list, again, *content, result);
+    std::vector<Dictionary> surplus = compareStations(again, *content, result);
     result.inexactNumbers = content->inexactNumbers();
     result.mixesEncodings =
         contradictsDeclaration(again.text) && !contradictsDeclaration(list.text);

@@ -104,10 +104,10 @@ ReservedKeys reservedKeys(const std::vector<Dictionary> &entries)
 
 SectionContent::SectionContent(const ChannelList &list) : ListContent(list)
 {
-    const std::vector<const LGStation *> stations = heldStations(list, m_areListed);
+    m_stations = heldStations(list, m_areListed);
     const std::unordered_map withAttributes = entriesWithAttributes(list);
-    m_expected.reserve(stations.size());
-    for (const LGStation *station : stations) {
+    m_expected.reserve(m_stations.size());
+    for (const LGStation *station : m_stations) {
         const auto found = withAttributes.find(station);
         m_expected.push_back(found == withAttributes.end() ? station->entry() : found->second);
     }
@@ -122,6 +122,15 @@ std::vector<Dictionary> SectionContent::foundIn(const ChannelList &again) const
             entries.push_back(std::move(entry));
     }
     return entries;
+}
+
+std::vector<const LGStation *> SectionContent::stationsIn(const ChannelList &again) const
+{
+    const std::vector<FiledStation> &roll = again.lists.roll();
+    std::vector<const LGStation *> stations(roll.size());
+    std::transform(roll.begin(), roll.end(), stations.begin(),
+                   [](const FiledStation &filed) { return filed.station.get(); });
+    return stations;
 }
 
 EntryKeys SectionContent::keys() const

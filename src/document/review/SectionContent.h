@@ -11,6 +11,8 @@ public:
     explicit SectionContent(const ChannelList &list);
 
     [[nodiscard]] std::vector<Dictionary> foundIn(const ChannelList &again) const override;
+    [[nodiscard]] std::vector<const LGStation *>
+    stationsIn(const ChannelList &again) const override;
     [[nodiscard]] EntryKeys keys() const override;
     [[nodiscard]] QString nameOf(const Dictionary &entry) const override;
     [[nodiscard]] Enclosure enclosure() const override;

@@ -44,7 +44,7 @@ void appendUtf8(const QByteArray &utf8, Utf8Builder &output)
 
 void appendUtf8(const QByteArray &utf8, QString &output)
 {
-    output.append(QString::fromUtf8(utf8));
+    output.append(textFromUtf8(utf8));
 }
 
 template<typename Sources>

@@ -1,5 +1,6 @@
 #include "editor/StationInfo.h"
 
+#include "editor/ShownTexts.h"
 #include "xml/FormattedDescription.h"
 
 #include <algorithm>
@@ -7,8 +8,6 @@
 namespace quillet {
 
 namespace {
-
-constexpr qsizetype longestShown = 10'000;
 
 /// Surrogates stand for the highest code points, but are lower units than some of one unit.
 bool isBeforeByCodePoint(const QString &a, const QString &b)
@@ -38,12 +37,9 @@ QString StationInfo::shownContent(qsizetype position) const
     const Value *value = m_entry.find(m_fields.at(position));
     const Dictionary *dictionary = value ? value->dictionary() : nullptr;
     const Array *array = value ? value->array() : nullptr;
-    QString text = dictionary ? formattedDescription(*dictionary, 0, longestShown)
-                   : array    ? formattedDescription(*array, 0, longestShown)
-                              : content(position);
-    if (text.size() > longestShown)
-        text = text.first(longestShown) + u'…';
-    return text;
+    return drawnContent(dictionary ? formattedDescription(*dictionary, 0, longestContentShown + 1)
+                        : array    ? formattedDescription(*array, 0, longestContentShown + 1)
+                                   : content(position));
 }
 
 QString StationInfo::content(qsizetype position) const

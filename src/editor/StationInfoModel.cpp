@@ -34,8 +34,8 @@ QVariant StationInfoModel::data(const QModelIndex &index, int role) const
     if (role == Qt::EditRole)
         return index.column() == Field ? m_info.fields().at(index.row())
                                        : m_info.content(index.row());
-    const QString drawn = drawnContent(index.column() == Field ? m_info.fields().at(index.row())
-                                                               : m_info.shownContent(index.row()));
+    const QString drawn = index.column() == Field ? drawnContent(m_info.fields().at(index.row()))
+                                                  : m_info.shownContent(index.row());
     return role == Qt::ToolTipRole ? plainToolTip(drawn) : drawn;
 }
 

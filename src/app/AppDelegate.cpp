@@ -6,7 +6,9 @@
 #include "document/TLLDocument.h"
 #include "document/repair/FileDiagnosis.h"
 #include "editor/EditorView.h"
+#include "files/FileNames.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QFileOpenEvent>
 #include <QGuiApplication>
@@ -33,7 +35,7 @@ AppDelegate::~AppDelegate() = default;
 
 QStringList AppDelegate::nameFilters()
 {
-    return {qtTrId("kFilterChannelLists") + QStringLiteral(" (*.tll *.TLL)"),
+    return {qtTrId("kFilterChannelLists") + QStringLiteral(" (*.tll)"),
             qtTrId("kFilterAllFiles") + QStringLiteral(" (*)")};
 }
 
@@ -76,7 +78,7 @@ void AppDelegate::applicationDidFinishLaunching(const QStringList &paths)
 {
     QList<QUrl> urls;
     for (const QString &path : paths)
-        urls.append(QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()));
+        urls.append(QUrl::fromLocalFile(QDir::cleanPath(absolutePath(path))));
     m_documents.openDocuments(urls);
     if (m_documents.documents().empty())
         m_documents.newDocument();
@@ -114,7 +116,8 @@ void AppDelegate::terminate()
 bool AppDelegate::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::FileOpen) {
-        m_documents.openDocument(static_cast<QFileOpenEvent *>(event)->url());
+        const QString path = pathFromUrl(static_cast<QFileOpenEvent *>(event)->url());
+        m_documents.openDocument(QUrl::fromLocalFile(path));
         return true;
     }
     if (event->type() == QEvent::Quit && watched == qApp) {

@@ -3,10 +3,11 @@
 #include "app/AppDelegate.h"
 #include "app/LGWindowController.h"
 #include "document/TLLDocument.h"
+#include "files/FileNames.h"
 #include "support/KXFileLog.h"
 
 #include <QApplication>
-#include <QFileInfo>
+#include <QDir>
 #include <QMainWindow>
 #include <QPalette>
 #include <QPixmap>
@@ -34,7 +35,7 @@ public:
     void showSavePanel(QWidget *, const SavePanel &, std::function<void(const QString &)>) override
     {
     }
-    void showPrintPanel(QWidget *, const QString &, std::function<void(QPrinter &)>) override {}
+    void showPrintPanel(QWidget *, const PrintPanel &, std::function<void(QPrinter &)>) override {}
 
     QString shown;
 };
@@ -60,7 +61,7 @@ QString makeSnapshot(const QString &file, const QString &picture)
     OpenFileLog(QStringLiteral("XT"), QStringLiteral("quillet-snapshot"));
     SilentPrompts prompts;
     AppDelegate delegate(prompts);
-    const QString path = file.isEmpty() ? file : QFileInfo(file).absoluteFilePath();
+    const QString path = file.isEmpty() ? file : QDir::cleanPath(absolutePath(file));
     Document *document = file.isEmpty()
                              ? delegate.documents().newDocument()
                              : delegate.documents().openDocument(QUrl::fromLocalFile(path));

@@ -2,12 +2,15 @@
 #include "app/CommandLine.h"
 #include "app/Snapshot.h"
 #include "app/Translations.h"
+#include "files/FileNames.h"
 #include "framework/QtPrompts.h"
+#include "support/KXFileLog.h"
 
 #include <QApplication>
 #include <QIcon>
 #include <QRegularExpression>
 
+#include <csignal>
 #include <cstdio>
 
 using namespace quillet;
@@ -26,13 +29,16 @@ QIcon applicationIcon()
 
 int main(int argc, char *argv[])
 {
+#ifdef SIGXFSZ
+    std::signal(SIGXFSZ, SIG_IGN); // a file that may grow no more is an error of its writing
+#endif
     QCoreApplication::setApplicationName(QStringLiteral("Quillet"));
     QCoreApplication::setOrganizationName(QStringLiteral("Quillet"));
     QCoreApplication::setApplicationVersion(QStringLiteral(QUILLET_VERSION));
 
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
-        arguments.append(QString::fromLocal8Bit(argv[i]));
+        arguments.append(pathFromBytes(argv[i])); // names of files, mostly
     // What needs no window is answered before Qt looks for a display.
     const CommandLine early = CommandLine::parse(arguments);
     const bool mayBeQts = arguments.indexOf(QRegularExpression(QStringLiteral("-[a-z]+"))) >= 0;
@@ -48,7 +54,10 @@ int main(int argc, char *argv[])
         qputenv("QT_QPA_PLATFORM", "offscreen");
 
     QApplication app(argc, argv); // takes Qt's own options out
-    const CommandLine line = CommandLine::parse(QApplication::arguments());
+    QStringList left;
+    for (int i = 0; i < argc; ++i)
+        left.append(pathFromBytes(argv[i]));
+    const CommandLine line = CommandLine::parse(left);
     if (!line.error.isEmpty()) {
         std::fprintf(stderr, "%s\n", qPrintable(line.error));
         return 2;
@@ -66,6 +75,7 @@ int main(int argc, char *argv[])
         std::fprintf(stderr, "%s\n", qPrintable(problem));
         return 1;
     }
+    OpenFileLog(QStringLiteral("XT")); // before the files of the command line are read
     QtPrompts prompts;
     AppDelegate delegate(prompts);
     delegate.applicationDidFinishLaunching(line.files);

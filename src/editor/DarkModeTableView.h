@@ -33,10 +33,6 @@ public:
     /// Whether a cell is being edited.
     [[nodiscard]] bool isEditing() const { return state() == EditingState; }
 
-    /// Prints all rows on as many pages as they need, always dark on light, with the column titles
-    /// on each page and the columns fitted to its width.
-    void print(QPrinter &printer, const QString &title);
-
 signals:
     /// Return or Enter was pressed while no cell was being edited.
     void returnPressed();

@@ -1,5 +1,7 @@
 #include "editor/ElidedLabel.h"
 
+#include "framework/PlainToolTip.h"
+
 #include <QPainter>
 
 namespace quillet {
@@ -9,7 +11,7 @@ ElidedLabel::ElidedLabel(QWidget *parent) : QWidget(parent) {}
 void ElidedLabel::setText(const QString &text)
 {
     m_text = text;
-    setToolTip(text);
+    setToolTip(plainToolTip(text));
     setAccessibleDescription(text);
     updateGeometry();
     update();

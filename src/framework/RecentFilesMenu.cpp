@@ -1,5 +1,8 @@
 #include "framework/RecentFilesMenu.h"
 
+#include "files/FileNames.h"
+#include "files/Places.h"
+#include "framework/PlainToolTip.h"
 #include "framework/RecentFiles.h"
 
 #include <QAction>
@@ -35,15 +38,17 @@ void RecentFilesMenu::fill()
 void RecentFilesMenu::addFile(const QString &path, bool showsFolder)
 {
     const QFileInfo info(path);
-    const QString shownPath = QDir::toNativeSeparators(path);
+    const QString shown = QDir::toNativeSeparators(readable(path));
     QString label = info.fileName();
     if (showsFolder)
         label += QStringLiteral(u" \u2014 ") + QDir::toNativeSeparators(info.path());
+    label = readable(label);
     QAction *action = m_menu.addAction(label.replace(QLatin1Char('&'), QLatin1String("&&")));
-    const bool exists = info.exists();
+    const bool exists = isThere(path);
     action->setEnabled(exists);
-    action->setToolTip(exists ? shownPath : qtTrId("kRecentFileMissingMessage").arg(shownPath));
-    action->setStatusTip(action->toolTip());
+    const QString tip = exists ? shown : qtTrId("kRecentFileMissingMessage").arg(shown);
+    action->setToolTip(plainToolTip(tip));
+    action->setStatusTip(tip);
     connect(action, &QAction::triggered, this, [this, path] { emit fileChosen(path); });
 }
 

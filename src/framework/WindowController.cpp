@@ -1,5 +1,6 @@
 #include "framework/WindowController.h"
 
+#include "files/FileNames.h"
 #include "framework/Document.h"
 
 #include <QApplication>
@@ -41,6 +42,8 @@ void WindowController::setDocument(Document *document)
         return;
     connect(document, &Document::fileUrlChanged, this,
             &WindowController::synchronizeWindowTitleWithDocumentName);
+    connect(document, &Document::titleNameChanged, this,
+            &WindowController::synchronizeWindowTitleWithDocumentName);
     connect(document, &Document::documentEditedChanged, this,
             [this] { m_window->setWindowModified(m_document->isDocumentEdited()); });
     synchronizeWindowTitleWithDocumentName();
@@ -53,8 +56,8 @@ void WindowController::synchronizeWindowTitleWithDocumentName()
         return;
     // The platform adds the program's name where that is the custom.
     const QString mark = QStringLiteral("[*]");
-    const QString name = m_document->displayName().replace(mark, mark + mark);
-    m_window->setWindowFilePath(m_document->fileUrl().toLocalFile());
+    const QString name = m_document->titleName().replace(mark, mark + mark);
+    m_window->setWindowFilePath(readable(m_document->fileUrl().toLocalFile()));
     m_window->setWindowTitle(name + mark);
 }
 
@@ -72,6 +75,11 @@ void WindowController::raiseWindow()
     showWindow();
     m_window->raise();
     m_window->activateWindow();
+}
+
+std::function<void()> WindowController::keepPlace() const
+{
+    return [] {};
 }
 
 void WindowController::closeWindow()

@@ -26,10 +26,13 @@ public:
     [[nodiscard]] QList<qsizetype> selectedRows() const override { return {}; }
     void selectRows(const QList<qsizetype> &) override {}
     void scrollRowToVisible(qsizetype) override {}
+    [[nodiscard]] qsizetype topRow() const override { return -1; }
+    void scrollRowToTop(qsizetype) override {}
     void setNameColumnEditable(bool) override {}
     void showEmptyHint(EmptyHint) override {}
     void showForeignRows(const std::optional<ForeignRows> &) override {}
     void showNotice(const Notice &) override {}
+    void tell(const QString &) override {}
     [[nodiscard]] QWidget *sheetWindow() const override { return nullptr; }
 };
 

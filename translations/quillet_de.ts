@@ -66,6 +66,21 @@
             <numerusform>Der erste Sender des Abschnitts %1 steht %n Zeichen hinter dem Anfang des Abschnitts; erlaubt sind höchstens %2.</numerusform>
         </translation>
     </message>
+    <message id="kBeyondAnyway">
+        <source></source>
+        <translation>Nummern trotzdem ändern</translation>
+    </message>
+    <message id="kBeyondMessage" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n Sender bekäme eine Nummer, die eine Senderliste nicht fasst.</numerusform>
+            <numerusform>%n Sender bekämen Nummern, die eine Senderliste nicht fasst.</numerusform>
+        </translation>
+    </message>
+    <message id="kBeyondText">
+        <source></source>
+        <translation>Die höchste Nummer ist %1. Ein Sender darüber hätte danach eine niedrige Nummer wie 0 und wäre als Radiosender gekennzeichnet.</translation>
+    </message>
     <message id="kCable">
         <source></source>
         <translation>Kabel</translation>
@@ -138,9 +153,9 @@
         <source></source>
         <translation>Fernseher:</translation>
     </message>
-    <message id="kDontSave">
+    <message id="kDiscardChanges">
         <source></source>
-        <translation>Nicht speichern</translation>
+        <translation>Änderungen verwerfen</translation>
     </message>
     <message id="kExportFailedMessage">
         <source></source>
@@ -501,6 +516,10 @@
         <source></source>
         <translation>&amp;Radiosender</translation>
     </message>
+    <message id="kMenuReload">
+        <source></source>
+        <translation>Neu &amp;laden</translation>
+    </message>
     <message id="kMenuRevert">
         <source></source>
         <translation>Gespeicherte Version &amp;wiederherstellen</translation>
@@ -548,6 +567,14 @@
         <source></source>
         <translation>Kein Sender passt zur Suche und zum Typ.</translation>
     </message>
+    <message id="kNoMemoryReason">
+        <source></source>
+        <translation>Der Arbeitsspeicher reicht für diese Liste nicht aus. Schließen Sie andere Programme und versuchen Sie es erneut.</translation>
+    </message>
+    <message id="kNoSuchPageReason">
+        <source></source>
+        <translation>Die Liste hat keine der gewählten Seiten.</translation>
+    </message>
     <message id="kNotAFileReason">
         <source></source>
         <translation>„%1“ ist keine gewöhnliche Datei.</translation>
@@ -555,6 +582,13 @@
     <message id="kNotALocalFileReason">
         <source></source>
         <translation>Es können nur Dateien auf diesem Computer geöffnet werden.</translation>
+    </message>
+    <message id="kNoticeBeyond" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Die Nummern reichen nicht: Sie enden bei %1, und %n Sender mit einer schon vergebenen Nummer konnte keine freie bekommen. Beim Speichern bliebe ihm eine niedrige Nummer als Radiosender.</numerusform>
+            <numerusform>Die Nummern reichen nicht: Sie enden bei %1, und %n Sender mit schon vergebenen Nummern konnten keine freien bekommen. Beim Speichern blieben ihnen niedrige Nummern als Radiosender.</numerusform>
+        </translation>
     </message>
     <message id="kNoticeBinary">
         <source></source>
@@ -699,6 +733,22 @@
         <source></source>
         <translation>Die Zugriffsrechte der Datei konnten nicht beibehalten werden: %1</translation>
     </message>
+    <message id="kPrintedRadio">
+        <source></source>
+        <translation>Radiosender, %1</translation>
+    </message>
+    <message id="kPrintedTV">
+        <source></source>
+        <translation>TV-Sender, %1</translation>
+    </message>
+    <message id="kPrintFailedMessage">
+        <source></source>
+        <translation>„%1“ konnte nicht gedruckt werden.</translation>
+    </message>
+    <message id="kPrintFailedReason">
+        <source></source>
+        <translation>Der Drucker oder die Datei konnte nicht geöffnet werden oder hat nicht alle Seiten angenommen.</translation>
+    </message>
     <message id="kRadio">
         <source></source>
         <translation>&amp;Radio</translation>
@@ -715,9 +765,13 @@
         <source></source>
         <translation>Neu laden</translation>
     </message>
-    <message id="kReplace">
+    <message id="kReloadMessage">
         <source></source>
-        <translation>Ersetzen</translation>
+        <translation>Möchten Sie „%1“ neu vom Datenträger lesen?</translation>
+    </message>
+    <message id="kReloadText">
+        <source></source>
+        <translation>Ihre noch nicht gespeicherten Änderungen gehen verloren.</translation>
     </message>
     <message id="kReplaceDetail">
         <source></source>
@@ -730,10 +784,6 @@
     <message id="kReplaceMessage">
         <source></source>
         <translation>Senderliste „%1“ ersetzen?</translation>
-    </message>
-    <message id="kRevert">
-        <source></source>
-        <translation>Wiederherstellen</translation>
     </message>
     <message id="kRevertFailedMessage">
         <source></source>
@@ -921,6 +971,10 @@ Diese folgen ab Nummer: %3</translation>
         <source></source>
         <translation>Typen können nur für TV-Sender ausgewählt werden</translation>
     </message>
+    <message id="kTipNoFile">
+        <source></source>
+        <translation>Es gibt keine Datei, die neu gelesen werden könnte</translation>
+    </message>
     <message id="kTipNoStations">
         <source></source>
         <translation>Öffnen Sie eine Liste oder wählen Sie eine Empfangsart, die Sender enthält</translation>
@@ -933,13 +987,105 @@ Diese folgen ab Nummer: %3</translation>
         <source></source>
         <translation>Wählen Sie zuerst Sender in der Liste aus</translation>
     </message>
+    <message id="kToldClosedGaps" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Lücken geschlossen: %n Nummer geändert</numerusform>
+            <numerusform>Lücken geschlossen: %n Nummern geändert</numerusform>
+        </translation>
+    </message>
+    <message id="kToldExported">
+        <source></source>
+        <translation>Exportiert nach %1, als vollständige Senderliste.</translation>
+    </message>
+    <message id="kToldForeign">
+        <source></source>
+        <translation>Nichts geändert: Die Zeilen sind noch die von „%1“, gewählt ist aber „%2“</translation>
+    </message>
+    <message id="kToldLocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n Sender gesperrt</numerusform>
+            <numerusform>%n Sender gesperrt</numerusform>
+        </translation>
+    </message>
+    <message id="kToldMoved" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n Sender auf %1 verschoben</numerusform>
+            <numerusform>%n Sender auf %1 verschoben</numerusform>
+        </translation>
+    </message>
     <message id="kToldNotKept">
         <source></source>
         <translation>„%1“ wurde gespeichert, aber die Datei verlor: %2.</translation>
     </message>
+    <message id="kToldNotMoved">
+        <source></source>
+        <translation>Nichts verschoben: Die Nummer muss zwischen 1 und %1 liegen</translation>
+    </message>
+    <message id="kToldOrdered">
+        <source></source>
+        <translation>Reihenfolge von „%1“ angewendet</translation>
+    </message>
+    <message id="kToldOthersDropped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Nur „%1“ wurde genommen, denn dieses Fenster fasst eine Liste. %n weitere Datei wurde abgelegt</numerusform>
+            <numerusform>Nur „%1“ wurde genommen, denn dieses Fenster fasst eine Liste. %n weitere Dateien wurden abgelegt</numerusform>
+        </translation>
+    </message>
+    <message id="kToldOthersRenumbered" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n weitere Nummer geändert</numerusform>
+            <numerusform>%n weitere Nummern geändert</numerusform>
+        </translation>
+    </message>
+    <message id="kToldReloaded">
+        <source></source>
+        <translation>„%1“ wurde neu vom Datenträger gelesen</translation>
+    </message>
+    <message id="kToldRenamed">
+        <source></source>
+        <translation>Sender in „%1“ umbenannt</translation>
+    </message>
     <message id="kToldRepaired">
         <source></source>
         <translation>Repariert gespeichert, wie Sie es gewählt haben: Es ging nichts verloren.</translation>
+    </message>
+    <message id="kToldReverted">
+        <source></source>
+        <translation>„%1“ ist wieder wie zuletzt gespeichert</translation>
+    </message>
+    <message id="kToldSaved">
+        <source></source>
+        <translation>Gespeichert unter %1.</translation>
+    </message>
+    <message id="kToldSkipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n Sender wird übersprungen</numerusform>
+            <numerusform>%n Sender werden übersprungen</numerusform>
+        </translation>
+    </message>
+    <message id="kToldUnchanged">
+        <source></source>
+        <translation>„%1“ hat sich auf dem Datenträger nicht geändert</translation>
+    </message>
+    <message id="kToldUnlocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n Sender entsperrt</numerusform>
+            <numerusform>%n Sender entsperrt</numerusform>
+        </translation>
+    </message>
+    <message id="kToldUnskipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n Sender wird nicht mehr übersprungen</numerusform>
+            <numerusform>%n Sender werden nicht mehr übersprungen</numerusform>
+        </translation>
     </message>
     <message id="kTV">
         <source></source>

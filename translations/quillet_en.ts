@@ -66,6 +66,21 @@
             <numerusform>The first station of the section %1 stands %n characters behind the start of the section; at most %2 are allowed.</numerusform>
         </translation>
     </message>
+    <message id="kBeyondAnyway">
+        <source></source>
+        <translation>Change Numbers Anyway</translation>
+    </message>
+    <message id="kBeyondMessage" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n station would get a number that a channel list cannot hold.</numerusform>
+            <numerusform>%n stations would get numbers that a channel list cannot hold.</numerusform>
+        </translation>
+    </message>
+    <message id="kBeyondText">
+        <source></source>
+        <translation>The highest number there is is %1. A station beyond it comes out with a low number such as 0, and marked as radio.</translation>
+    </message>
     <message id="kCable">
         <source></source>
         <translation>Cable</translation>
@@ -138,9 +153,9 @@
         <source></source>
         <translation>Television:</translation>
     </message>
-    <message id="kDontSave">
+    <message id="kDiscardChanges">
         <source></source>
-        <translation>Don’t Save</translation>
+        <translation>Discard Changes</translation>
     </message>
     <message id="kExportFailedMessage">
         <source></source>
@@ -501,6 +516,10 @@
         <source></source>
         <translation>&amp;Radio Stations</translation>
     </message>
+    <message id="kMenuReload">
+        <source></source>
+        <translation>Re&amp;load from Disk</translation>
+    </message>
     <message id="kMenuRevert">
         <source></source>
         <translation>Re&amp;vert to Saved</translation>
@@ -548,6 +567,14 @@
         <source></source>
         <translation>No station matches the search and the type.</translation>
     </message>
+    <message id="kNoMemoryReason">
+        <source></source>
+        <translation>There is not enough memory for this list. Close other programs and try again.</translation>
+    </message>
+    <message id="kNoSuchPageReason">
+        <source></source>
+        <translation>The list has none of the pages that were chosen.</translation>
+    </message>
     <message id="kNotAFileReason">
         <source></source>
         <translation>“%1” is not an ordinary file.</translation>
@@ -555,6 +582,13 @@
     <message id="kNotALocalFileReason">
         <source></source>
         <translation>Only files on this computer can be opened.</translation>
+    </message>
+    <message id="kNoticeBeyond" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>The numbers did not suffice: they end at %1, and %n station that shared its number could not be given a free one. Saving would keep it with a low number, as radio.</numerusform>
+            <numerusform>The numbers did not suffice: they end at %1, and %n stations that shared their numbers could not be given free ones. Saving would keep them with low numbers, as radio.</numerusform>
+        </translation>
     </message>
     <message id="kNoticeBinary">
         <source></source>
@@ -699,6 +733,22 @@
         <source></source>
         <translation>The file’s access permissions could not be kept: %1</translation>
     </message>
+    <message id="kPrintedRadio">
+        <source></source>
+        <translation>Radio stations, %1</translation>
+    </message>
+    <message id="kPrintedTV">
+        <source></source>
+        <translation>TV stations, %1</translation>
+    </message>
+    <message id="kPrintFailedMessage">
+        <source></source>
+        <translation>“%1” could not be printed.</translation>
+    </message>
+    <message id="kPrintFailedReason">
+        <source></source>
+        <translation>The printer or the file could not be opened, or did not take every page.</translation>
+    </message>
     <message id="kRadio">
         <source></source>
         <translation>&amp;Radio</translation>
@@ -715,9 +765,13 @@
         <source></source>
         <translation>Reload</translation>
     </message>
-    <message id="kReplace">
+    <message id="kReloadMessage">
         <source></source>
-        <translation>Replace</translation>
+        <translation>Do you want to read “%1” again from the disk?</translation>
+    </message>
+    <message id="kReloadText">
+        <source></source>
+        <translation>The changes you made and have not saved will be lost.</translation>
     </message>
     <message id="kReplaceDetail">
         <source></source>
@@ -730,10 +784,6 @@
     <message id="kReplaceMessage">
         <source></source>
         <translation>Replace the channel list “%1”?</translation>
-    </message>
-    <message id="kRevert">
-        <source></source>
-        <translation>Revert</translation>
     </message>
     <message id="kRevertFailedMessage">
         <source></source>
@@ -921,6 +971,10 @@ These go on from number: %3</translation>
         <source></source>
         <translation>Types can be chosen for TV stations only</translation>
     </message>
+    <message id="kTipNoFile">
+        <source></source>
+        <translation>There is no file on the disk to read again</translation>
+    </message>
     <message id="kTipNoStations">
         <source></source>
         <translation>Open a list, or choose a source, that has stations</translation>
@@ -933,13 +987,105 @@ These go on from number: %3</translation>
         <source></source>
         <translation>Select stations in the list first</translation>
     </message>
+    <message id="kToldClosedGaps" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Gaps filled: %n number changed</numerusform>
+            <numerusform>Gaps filled: %n numbers changed</numerusform>
+        </translation>
+    </message>
+    <message id="kToldExported">
+        <source></source>
+        <translation>Exported to %1, as the channel list it is.</translation>
+    </message>
+    <message id="kToldForeign">
+        <source></source>
+        <translation>Nothing was changed: the rows are still those of “%1”, while “%2” is chosen</translation>
+    </message>
+    <message id="kToldLocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n station locked</numerusform>
+            <numerusform>%n stations locked</numerusform>
+        </translation>
+    </message>
+    <message id="kToldMoved" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n station moved to %1</numerusform>
+            <numerusform>%n stations moved to %1</numerusform>
+        </translation>
+    </message>
     <message id="kToldNotKept">
         <source></source>
         <translation>“%1” was saved, but the file lost: %2.</translation>
     </message>
+    <message id="kToldNotMoved">
+        <source></source>
+        <translation>Nothing was moved: the number must be from 1 to %1</translation>
+    </message>
+    <message id="kToldOrdered">
+        <source></source>
+        <translation>Order of “%1” applied</translation>
+    </message>
+    <message id="kToldOthersDropped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Only “%1” was taken: this window holds one list. %n more file was dropped</numerusform>
+            <numerusform>Only “%1” was taken: this window holds one list. %n more files were dropped</numerusform>
+        </translation>
+    </message>
+    <message id="kToldOthersRenumbered" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n other number changed</numerusform>
+            <numerusform>%n other numbers changed</numerusform>
+        </translation>
+    </message>
+    <message id="kToldReloaded">
+        <source></source>
+        <translation>“%1” was read again from the disk</translation>
+    </message>
+    <message id="kToldRenamed">
+        <source></source>
+        <translation>Station renamed to “%1”</translation>
+    </message>
     <message id="kToldRepaired">
         <source></source>
         <translation>Saved repaired, as you chose: nothing was lost.</translation>
+    </message>
+    <message id="kToldReverted">
+        <source></source>
+        <translation>“%1” is as it was last saved</translation>
+    </message>
+    <message id="kToldSaved">
+        <source></source>
+        <translation>Saved to %1.</translation>
+    </message>
+    <message id="kToldSkipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n station will be skipped</numerusform>
+            <numerusform>%n stations will be skipped</numerusform>
+        </translation>
+    </message>
+    <message id="kToldUnchanged">
+        <source></source>
+        <translation>“%1” has not changed on the disk</translation>
+    </message>
+    <message id="kToldUnlocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n station unlocked</numerusform>
+            <numerusform>%n stations unlocked</numerusform>
+        </translation>
+    </message>
+    <message id="kToldUnskipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n station will no longer be skipped</numerusform>
+            <numerusform>%n stations will no longer be skipped</numerusform>
+        </translation>
     </message>
     <message id="kTV">
         <source></source>

@@ -66,6 +66,21 @@
             <numerusform>El primer canal de la sección %1 está a %n caracteres del principio de la sección; se admiten %2 como máximo.</numerusform>
         </translation>
     </message>
+    <message id="kBeyondAnyway">
+        <source></source>
+        <translation>Cambiar los números de todos modos</translation>
+    </message>
+    <message id="kBeyondMessage" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canal recibiría un número que una lista de canales no puede contener.</numerusform>
+            <numerusform>%n canales recibirían números que una lista de canales no puede contener.</numerusform>
+        </translation>
+    </message>
+    <message id="kBeyondText">
+        <source></source>
+        <translation>El número más alto es %1. Un canal por encima acaba con un número bajo, como 0, y marcado como radio.</translation>
+    </message>
     <message id="kCable">
         <source></source>
         <translation>Cable</translation>
@@ -138,9 +153,9 @@
         <source></source>
         <translation>Televisor:</translation>
     </message>
-    <message id="kDontSave">
+    <message id="kDiscardChanges">
         <source></source>
-        <translation>No guardar</translation>
+        <translation>Descartar los cambios</translation>
     </message>
     <message id="kExportFailedMessage">
         <source></source>
@@ -501,6 +516,10 @@
         <source></source>
         <translation>Emisoras de &amp;radio</translation>
     </message>
+    <message id="kMenuReload">
+        <source></source>
+        <translation>Volver a cargar &amp;del disco</translation>
+    </message>
     <message id="kMenuRevert">
         <source></source>
         <translation>&amp;Volver a la versión guardada</translation>
@@ -548,6 +567,14 @@
         <source></source>
         <translation>Ningún canal coincide con la búsqueda y el tipo.</translation>
     </message>
+    <message id="kNoMemoryReason">
+        <source></source>
+        <translation>No hay memoria suficiente para esta lista. Cierre otros programas e inténtelo de nuevo.</translation>
+    </message>
+    <message id="kNoSuchPageReason">
+        <source></source>
+        <translation>La lista no tiene ninguna de las páginas elegidas.</translation>
+    </message>
     <message id="kNotAFileReason">
         <source></source>
         <translation>«%1» no es un archivo normal.</translation>
@@ -555,6 +582,13 @@
     <message id="kNotALocalFileReason">
         <source></source>
         <translation>Solo se pueden abrir archivos de este equipo.</translation>
+    </message>
+    <message id="kNoticeBeyond" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Los números no bastan: terminan en %1, y %n canal con un número repetido no ha podido recibir uno libre. Al guardar quedaría con un número bajo, como radio.</numerusform>
+            <numerusform>Los números no bastan: terminan en %1, y %n canales con números repetidos no han podido recibir uno libre. Al guardar quedarían con números bajos, como radio.</numerusform>
+        </translation>
     </message>
     <message id="kNoticeBinary">
         <source></source>
@@ -699,6 +733,22 @@
         <source></source>
         <translation>No se han podido conservar los permisos de acceso del archivo: %1</translation>
     </message>
+    <message id="kPrintedRadio">
+        <source></source>
+        <translation>Emisoras de radio, %1</translation>
+    </message>
+    <message id="kPrintedTV">
+        <source></source>
+        <translation>Canales de TV, %1</translation>
+    </message>
+    <message id="kPrintFailedMessage">
+        <source></source>
+        <translation>No se ha podido imprimir «%1».</translation>
+    </message>
+    <message id="kPrintFailedReason">
+        <source></source>
+        <translation>No se ha podido abrir la impresora o el archivo, o no ha aceptado todas las páginas.</translation>
+    </message>
     <message id="kRadio">
         <source></source>
         <translation>&amp;Radio</translation>
@@ -715,9 +765,13 @@
         <source></source>
         <translation>Volver a cargar</translation>
     </message>
-    <message id="kReplace">
+    <message id="kReloadMessage">
         <source></source>
-        <translation>Reemplazar</translation>
+        <translation>¿Desea volver a leer «%1» del disco?</translation>
+    </message>
+    <message id="kReloadText">
+        <source></source>
+        <translation>Se perderán los cambios que no haya guardado.</translation>
     </message>
     <message id="kReplaceDetail">
         <source></source>
@@ -730,10 +784,6 @@
     <message id="kReplaceMessage">
         <source></source>
         <translation>¿Reemplazar la lista de canales «%1»?</translation>
-    </message>
-    <message id="kRevert">
-        <source></source>
-        <translation>Volver</translation>
     </message>
     <message id="kRevertFailedMessage">
         <source></source>
@@ -921,6 +971,10 @@ Estos continúan a partir del número: %3</translation>
         <source></source>
         <translation>Los tipos solo se pueden elegir para canales de TV</translation>
     </message>
+    <message id="kTipNoFile">
+        <source></source>
+        <translation>No hay ningún archivo en el disco que volver a leer</translation>
+    </message>
     <message id="kTipNoStations">
         <source></source>
         <translation>Abra una lista, o elija un tipo de recepción, que tenga canales</translation>
@@ -933,13 +987,105 @@ Estos continúan a partir del número: %3</translation>
         <source></source>
         <translation>Seleccione primero canales en la lista</translation>
     </message>
+    <message id="kToldClosedGaps" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Huecos rellenados: %n número cambiado</numerusform>
+            <numerusform>Huecos rellenados: %n números cambiados</numerusform>
+        </translation>
+    </message>
+    <message id="kToldExported">
+        <source></source>
+        <translation>Exportado a %1, como lista de canales completa.</translation>
+    </message>
+    <message id="kToldForeign">
+        <source></source>
+        <translation>No se ha cambiado nada: las filas siguen siendo las de «%1», pero está elegido «%2»</translation>
+    </message>
+    <message id="kToldLocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canal bloqueado</numerusform>
+            <numerusform>%n canales bloqueados</numerusform>
+        </translation>
+    </message>
+    <message id="kToldMoved" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canal movido al %1</numerusform>
+            <numerusform>%n canales movidos al %1</numerusform>
+        </translation>
+    </message>
     <message id="kToldNotKept">
         <source></source>
         <translation>«%1» se guardó, pero el archivo perdió: %2.</translation>
     </message>
+    <message id="kToldNotMoved">
+        <source></source>
+        <translation>No se ha movido nada: el número debe estar entre 1 y %1</translation>
+    </message>
+    <message id="kToldOrdered">
+        <source></source>
+        <translation>Orden de «%1» aplicado</translation>
+    </message>
+    <message id="kToldOthersDropped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Solo se ha tomado «%1»: esta ventana contiene una sola lista. Se ha soltado %n archivo más</numerusform>
+            <numerusform>Solo se ha tomado «%1»: esta ventana contiene una sola lista. Se han soltado %n archivos más</numerusform>
+        </translation>
+    </message>
+    <message id="kToldOthersRenumbered" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n número más cambiado</numerusform>
+            <numerusform>%n números más cambiados</numerusform>
+        </translation>
+    </message>
+    <message id="kToldReloaded">
+        <source></source>
+        <translation>«%1» se ha vuelto a leer del disco</translation>
+    </message>
+    <message id="kToldRenamed">
+        <source></source>
+        <translation>Canal renombrado como «%1»</translation>
+    </message>
     <message id="kToldRepaired">
         <source></source>
         <translation>Guardado reparado, como eligió: no se ha perdido nada.</translation>
+    </message>
+    <message id="kToldReverted">
+        <source></source>
+        <translation>«%1» está como se guardó por última vez</translation>
+    </message>
+    <message id="kToldSaved">
+        <source></source>
+        <translation>Guardado en %1.</translation>
+    </message>
+    <message id="kToldSkipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Se omitirá %n canal</numerusform>
+            <numerusform>Se omitirán %n canales</numerusform>
+        </translation>
+    </message>
+    <message id="kToldUnchanged">
+        <source></source>
+        <translation>«%1» no ha cambiado en el disco</translation>
+    </message>
+    <message id="kToldUnlocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canal desbloqueado</numerusform>
+            <numerusform>%n canales desbloqueados</numerusform>
+        </translation>
+    </message>
+    <message id="kToldUnskipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Ya no se omitirá %n canal</numerusform>
+            <numerusform>Ya no se omitirán %n canales</numerusform>
+        </translation>
     </message>
     <message id="kTV">
         <source></source>

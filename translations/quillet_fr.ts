@@ -66,6 +66,21 @@
             <numerusform>La première chaîne de la section %1 se trouve à %n caractères du début de la section ; %2 au plus sont admis.</numerusform>
         </translation>
     </message>
+    <message id="kBeyondAnyway">
+        <source></source>
+        <translation>Modifier quand même les numéros</translation>
+    </message>
+    <message id="kBeyondMessage" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n chaîne recevrait un numéro qu’une liste de chaînes ne peut pas contenir.</numerusform>
+            <numerusform>%n chaînes recevraient des numéros qu’une liste de chaînes ne peut pas contenir.</numerusform>
+        </translation>
+    </message>
+    <message id="kBeyondText">
+        <source></source>
+        <translation>Le numéro le plus élevé est %1. Une chaîne au-delà se retrouve avec un petit numéro tel que 0 et marquée comme radio.</translation>
+    </message>
     <message id="kCable">
         <source></source>
         <translation>Câble</translation>
@@ -138,9 +153,9 @@
         <source></source>
         <translation>Téléviseur :</translation>
     </message>
-    <message id="kDontSave">
+    <message id="kDiscardChanges">
         <source></source>
-        <translation>Ne pas enregistrer</translation>
+        <translation>Abandonner les modifications</translation>
     </message>
     <message id="kExportFailedMessage">
         <source></source>
@@ -501,6 +516,10 @@
         <source></source>
         <translation>Stations de &amp;radio</translation>
     </message>
+    <message id="kMenuReload">
+        <source></source>
+        <translation>Re&amp;charger depuis le disque</translation>
+    </message>
     <message id="kMenuRevert">
         <source></source>
         <translation>Re&amp;venir à la version enregistrée</translation>
@@ -548,6 +567,14 @@
         <source></source>
         <translation>Aucune chaîne ne correspond à la recherche et au type.</translation>
     </message>
+    <message id="kNoMemoryReason">
+        <source></source>
+        <translation>Il n’y a pas assez de mémoire pour cette liste. Fermez d’autres programmes et réessayez.</translation>
+    </message>
+    <message id="kNoSuchPageReason">
+        <source></source>
+        <translation>La liste ne contient aucune des pages choisies.</translation>
+    </message>
     <message id="kNotAFileReason">
         <source></source>
         <translation>« %1 » n’est pas un fichier ordinaire.</translation>
@@ -555,6 +582,13 @@
     <message id="kNotALocalFileReason">
         <source></source>
         <translation>Seuls les fichiers de cet ordinateur peuvent être ouverts.</translation>
+    </message>
+    <message id="kNoticeBeyond" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Les numéros ne suffisent pas : ils s’arrêtent à %1, et %n chaîne au numéro déjà pris n’a pas pu en recevoir un libre. L’enregistrement lui laisserait un petit numéro, comme radio.</numerusform>
+            <numerusform>Les numéros ne suffisent pas : ils s’arrêtent à %1, et %n chaînes aux numéros déjà pris n’ont pas pu en recevoir de libres. L’enregistrement leur laisserait de petits numéros, comme radios.</numerusform>
+        </translation>
     </message>
     <message id="kNoticeBinary">
         <source></source>
@@ -699,6 +733,22 @@
         <source></source>
         <translation>Impossible de conserver les droits d’accès du fichier : %1</translation>
     </message>
+    <message id="kPrintedRadio">
+        <source></source>
+        <translation>Stations de radio, %1</translation>
+    </message>
+    <message id="kPrintedTV">
+        <source></source>
+        <translation>Chaînes TV, %1</translation>
+    </message>
+    <message id="kPrintFailedMessage">
+        <source></source>
+        <translation>« %1 » n’a pas pu être imprimé.</translation>
+    </message>
+    <message id="kPrintFailedReason">
+        <source></source>
+        <translation>L’imprimante ou le fichier n’a pas pu être ouvert, ou n’a pas accepté toutes les pages.</translation>
+    </message>
     <message id="kRadio">
         <source></source>
         <translation>&amp;Radio</translation>
@@ -715,9 +765,13 @@
         <source></source>
         <translation>Recharger</translation>
     </message>
-    <message id="kReplace">
+    <message id="kReloadMessage">
         <source></source>
-        <translation>Remplacer</translation>
+        <translation>Voulez-vous relire « %1 » depuis le disque ?</translation>
+    </message>
+    <message id="kReloadText">
+        <source></source>
+        <translation>Les modifications que vous n’avez pas enregistrées seront perdues.</translation>
     </message>
     <message id="kReplaceDetail">
         <source></source>
@@ -730,10 +784,6 @@
     <message id="kReplaceMessage">
         <source></source>
         <translation>Remplacer la liste de chaînes « %1 » ?</translation>
-    </message>
-    <message id="kRevert">
-        <source></source>
-        <translation>Revenir</translation>
     </message>
     <message id="kRevertFailedMessage">
         <source></source>
@@ -921,6 +971,10 @@ Ces dernières suivent à partir du numéro : %3</translation>
         <source></source>
         <translation>Les types ne peuvent être choisis que pour les chaînes TV</translation>
     </message>
+    <message id="kTipNoFile">
+        <source></source>
+        <translation>Il n’y a pas de fichier à relire sur le disque</translation>
+    </message>
     <message id="kTipNoStations">
         <source></source>
         <translation>Ouvrez une liste, ou choisissez un mode de réception, qui contient des chaînes</translation>
@@ -933,13 +987,105 @@ Ces dernières suivent à partir du numéro : %3</translation>
         <source></source>
         <translation>Sélectionnez d’abord des chaînes dans la liste</translation>
     </message>
+    <message id="kToldClosedGaps" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Trous comblés : %n numéro modifié</numerusform>
+            <numerusform>Trous comblés : %n numéros modifiés</numerusform>
+        </translation>
+    </message>
+    <message id="kToldExported">
+        <source></source>
+        <translation>Exporté vers %1, en tant que liste de chaînes complète.</translation>
+    </message>
+    <message id="kToldForeign">
+        <source></source>
+        <translation>Rien n’a été modifié : les lignes sont encore celles de « %1 », alors que « %2 » est choisi</translation>
+    </message>
+    <message id="kToldLocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n chaîne verrouillée</numerusform>
+            <numerusform>%n chaînes verrouillées</numerusform>
+        </translation>
+    </message>
+    <message id="kToldMoved" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n chaîne déplacée vers %1</numerusform>
+            <numerusform>%n chaînes déplacées vers %1</numerusform>
+        </translation>
+    </message>
     <message id="kToldNotKept">
         <source></source>
         <translation>« %1 » a été enregistré, mais le fichier a perdu : %2.</translation>
     </message>
+    <message id="kToldNotMoved">
+        <source></source>
+        <translation>Rien n’a été déplacé : le numéro doit être compris entre 1 et %1</translation>
+    </message>
+    <message id="kToldOrdered">
+        <source></source>
+        <translation>Ordre de « %1 » appliqué</translation>
+    </message>
+    <message id="kToldOthersDropped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Seul « %1 » a été pris : cette fenêtre contient une seule liste. %n autre fichier a été déposé</numerusform>
+            <numerusform>Seul « %1 » a été pris : cette fenêtre contient une seule liste. %n autres fichiers ont été déposés</numerusform>
+        </translation>
+    </message>
+    <message id="kToldOthersRenumbered" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n autre numéro modifié</numerusform>
+            <numerusform>%n autres numéros modifiés</numerusform>
+        </translation>
+    </message>
+    <message id="kToldReloaded">
+        <source></source>
+        <translation>« %1 » a été relu depuis le disque</translation>
+    </message>
+    <message id="kToldRenamed">
+        <source></source>
+        <translation>Chaîne renommée en « %1 »</translation>
+    </message>
     <message id="kToldRepaired">
         <source></source>
         <translation>Version réparée enregistrée, selon votre choix : rien n’a été perdu.</translation>
+    </message>
+    <message id="kToldReverted">
+        <source></source>
+        <translation>« %1 » est revenu au dernier enregistrement</translation>
+    </message>
+    <message id="kToldSaved">
+        <source></source>
+        <translation>Enregistré dans %1.</translation>
+    </message>
+    <message id="kToldSkipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n chaîne sera ignorée</numerusform>
+            <numerusform>%n chaînes seront ignorées</numerusform>
+        </translation>
+    </message>
+    <message id="kToldUnchanged">
+        <source></source>
+        <translation>« %1 » n’a pas changé sur le disque</translation>
+    </message>
+    <message id="kToldUnlocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n chaîne déverrouillée</numerusform>
+            <numerusform>%n chaînes déverrouillées</numerusform>
+        </translation>
+    </message>
+    <message id="kToldUnskipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n chaîne ne sera plus ignorée</numerusform>
+            <numerusform>%n chaînes ne seront plus ignorées</numerusform>
+        </translation>
     </message>
     <message id="kTV">
         <source></source>

@@ -66,6 +66,21 @@
             <numerusform>Il primo canale della sezione %1 si trova a %n caratteri dall’inizio della sezione; ne sono ammessi al massimo %2.</numerusform>
         </translation>
     </message>
+    <message id="kBeyondAnyway">
+        <source></source>
+        <translation>Cambia comunque i numeri</translation>
+    </message>
+    <message id="kBeyondMessage" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canale riceverebbe un numero che una lista di canali non può contenere.</numerusform>
+            <numerusform>%n canali riceverebbero numeri che una lista di canali non può contenere.</numerusform>
+        </translation>
+    </message>
+    <message id="kBeyondText">
+        <source></source>
+        <translation>Il numero più alto è %1. Un canale oltre quel numero ne riceve uno basso, come 0, e risulta una radio.</translation>
+    </message>
     <message id="kCable">
         <source></source>
         <translation>Cavo</translation>
@@ -138,9 +153,9 @@
         <source></source>
         <translation>Televisore:</translation>
     </message>
-    <message id="kDontSave">
+    <message id="kDiscardChanges">
         <source></source>
-        <translation>Non salvare</translation>
+        <translation>Scarta le modifiche</translation>
     </message>
     <message id="kExportFailedMessage">
         <source></source>
@@ -501,6 +516,10 @@
         <source></source>
         <translation>Stazioni &amp;radio</translation>
     </message>
+    <message id="kMenuReload">
+        <source></source>
+        <translation>Ri&amp;leggi dal disco</translation>
+    </message>
     <message id="kMenuRevert">
         <source></source>
         <translation>Ripristina &amp;versione salvata</translation>
@@ -548,6 +567,14 @@
         <source></source>
         <translation>Nessun canale corrisponde alla ricerca e al tipo.</translation>
     </message>
+    <message id="kNoMemoryReason">
+        <source></source>
+        <translation>La memoria non basta per questa lista. Chiudi altri programmi e riprova.</translation>
+    </message>
+    <message id="kNoSuchPageReason">
+        <source></source>
+        <translation>L’elenco non ha nessuna delle pagine scelte.</translation>
+    </message>
     <message id="kNotAFileReason">
         <source></source>
         <translation>“%1” non è un file ordinario.</translation>
@@ -555,6 +582,13 @@
     <message id="kNotALocalFileReason">
         <source></source>
         <translation>È possibile aprire solo file di questo computer.</translation>
+    </message>
+    <message id="kNoticeBeyond" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>I numeri non bastano: finiscono a %1, e %n canale con un numero già usato non ne ha potuto ricevere uno libero. Salvando resterebbe con un numero basso, come radio.</numerusform>
+            <numerusform>I numeri non bastano: finiscono a %1, e %n canali con numeri già usati non ne hanno potuto ricevere di liberi. Salvando resterebbero con numeri bassi, come radio.</numerusform>
+        </translation>
     </message>
     <message id="kNoticeBinary">
         <source></source>
@@ -699,6 +733,22 @@
         <source></source>
         <translation>Impossibile mantenere i permessi di accesso del file: %1</translation>
     </message>
+    <message id="kPrintedRadio">
+        <source></source>
+        <translation>Stazioni radio, %1</translation>
+    </message>
+    <message id="kPrintedTV">
+        <source></source>
+        <translation>Canali TV, %1</translation>
+    </message>
+    <message id="kPrintFailedMessage">
+        <source></source>
+        <translation>Non è stato possibile stampare “%1”.</translation>
+    </message>
+    <message id="kPrintFailedReason">
+        <source></source>
+        <translation>Non è stato possibile aprire la stampante o il file, oppure non sono state accettate tutte le pagine.</translation>
+    </message>
     <message id="kRadio">
         <source></source>
         <translation>&amp;Radio</translation>
@@ -715,9 +765,13 @@
         <source></source>
         <translation>Ricarica</translation>
     </message>
-    <message id="kReplace">
+    <message id="kReloadMessage">
         <source></source>
-        <translation>Sostituisci</translation>
+        <translation>Vuoi rileggere “%1” dal disco?</translation>
+    </message>
+    <message id="kReloadText">
+        <source></source>
+        <translation>Le modifiche non salvate andranno perse.</translation>
     </message>
     <message id="kReplaceDetail">
         <source></source>
@@ -730,10 +784,6 @@
     <message id="kReplaceMessage">
         <source></source>
         <translation>Sostituire la lista di canali “%1”?</translation>
-    </message>
-    <message id="kRevert">
-        <source></source>
-        <translation>Ripristina</translation>
     </message>
     <message id="kRevertFailedMessage">
         <source></source>
@@ -921,6 +971,10 @@ Questi proseguono dal numero: %3</translation>
         <source></source>
         <translation>I tipi si possono scegliere solo per i canali TV</translation>
     </message>
+    <message id="kTipNoFile">
+        <source></source>
+        <translation>Non c’è alcun file da rileggere sul disco</translation>
+    </message>
     <message id="kTipNoStations">
         <source></source>
         <translation>Apri una lista, o scegli un tipo di ricezione, che contenga canali</translation>
@@ -933,13 +987,105 @@ Questi proseguono dal numero: %3</translation>
         <source></source>
         <translation>Seleziona prima dei canali nella lista</translation>
     </message>
+    <message id="kToldClosedGaps" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Spazi vuoti riempiti: %n numero cambiato</numerusform>
+            <numerusform>Spazi vuoti riempiti: %n numeri cambiati</numerusform>
+        </translation>
+    </message>
+    <message id="kToldExported">
+        <source></source>
+        <translation>Esportato in %1, come lista di canali completa.</translation>
+    </message>
+    <message id="kToldForeign">
+        <source></source>
+        <translation>Nulla è stato cambiato: le righe sono ancora quelle di “%1”, ma è scelto “%2”</translation>
+    </message>
+    <message id="kToldLocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canale bloccato</numerusform>
+            <numerusform>%n canali bloccati</numerusform>
+        </translation>
+    </message>
+    <message id="kToldMoved" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canale spostato al %1</numerusform>
+            <numerusform>%n canali spostati al %1</numerusform>
+        </translation>
+    </message>
     <message id="kToldNotKept">
         <source></source>
         <translation>“%1” è stata salvata, ma il file ha perso: %2.</translation>
     </message>
+    <message id="kToldNotMoved">
+        <source></source>
+        <translation>Nulla è stato spostato: il numero deve essere compreso tra 1 e %1</translation>
+    </message>
+    <message id="kToldOrdered">
+        <source></source>
+        <translation>Ordine di “%1” applicato</translation>
+    </message>
+    <message id="kToldOthersDropped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>È stato preso solo “%1”: questa finestra contiene una sola lista. È stato rilasciato %n altro file</numerusform>
+            <numerusform>È stato preso solo “%1”: questa finestra contiene una sola lista. Sono stati rilasciati altri %n file</numerusform>
+        </translation>
+    </message>
+    <message id="kToldOthersRenumbered" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n altro numero cambiato</numerusform>
+            <numerusform>altri %n numeri cambiati</numerusform>
+        </translation>
+    </message>
+    <message id="kToldReloaded">
+        <source></source>
+        <translation>“%1” è stato riletto dal disco</translation>
+    </message>
+    <message id="kToldRenamed">
+        <source></source>
+        <translation>Canale rinominato in “%1”</translation>
+    </message>
     <message id="kToldRepaired">
         <source></source>
         <translation>Salvato riparato, come hai scelto: non è andato perso nulla.</translation>
+    </message>
+    <message id="kToldReverted">
+        <source></source>
+        <translation>“%1” è tornato com’era all’ultimo salvataggio</translation>
+    </message>
+    <message id="kToldSaved">
+        <source></source>
+        <translation>Salvato in %1.</translation>
+    </message>
+    <message id="kToldSkipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canale verrà saltato</numerusform>
+            <numerusform>%n canali verranno saltati</numerusform>
+        </translation>
+    </message>
+    <message id="kToldUnchanged">
+        <source></source>
+        <translation>“%1” non è cambiato sul disco</translation>
+    </message>
+    <message id="kToldUnlocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canale sbloccato</numerusform>
+            <numerusform>%n canali sbloccati</numerusform>
+        </translation>
+    </message>
+    <message id="kToldUnskipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canale non verrà più saltato</numerusform>
+            <numerusform>%n canali non verranno più saltati</numerusform>
+        </translation>
     </message>
     <message id="kTV">
         <source></source>

@@ -66,6 +66,21 @@
             <numerusform>De eerste zender van de sectie %1 staat %n tekens na het begin van de sectie; er zijn er hoogstens %2 toegestaan.</numerusform>
         </translation>
     </message>
+    <message id="kBeyondAnyway">
+        <source></source>
+        <translation>Nummers toch wijzigen</translation>
+    </message>
+    <message id="kBeyondMessage" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n zender zou een nummer krijgen dat een zenderlijst niet kan bevatten.</numerusform>
+            <numerusform>%n zenders zouden nummers krijgen die een zenderlijst niet kan bevatten.</numerusform>
+        </translation>
+    </message>
+    <message id="kBeyondText">
+        <source></source>
+        <translation>Het hoogste nummer is %1. Een zender daarboven krijgt een laag nummer, zoals 0, en wordt als radio gemarkeerd.</translation>
+    </message>
     <message id="kCable">
         <source></source>
         <translation>Kabel</translation>
@@ -138,9 +153,9 @@
         <source></source>
         <translation>Televisie:</translation>
     </message>
-    <message id="kDontSave">
+    <message id="kDiscardChanges">
         <source></source>
-        <translation>Niet opslaan</translation>
+        <translation>Wijzigingen weggooien</translation>
     </message>
     <message id="kExportFailedMessage">
         <source></source>
@@ -501,6 +516,10 @@
         <source></source>
         <translation>&amp;Radiozenders</translation>
     </message>
+    <message id="kMenuReload">
+        <source></source>
+        <translation>Opnieuw &amp;laden van schijf</translation>
+    </message>
     <message id="kMenuRevert">
         <source></source>
         <translation>&amp;Terug naar opgeslagen versie</translation>
@@ -548,6 +567,14 @@
         <source></source>
         <translation>Geen enkele zender komt overeen met de zoekopdracht en het type.</translation>
     </message>
+    <message id="kNoMemoryReason">
+        <source></source>
+        <translation>Er is niet genoeg geheugen voor deze lijst. Sluit andere programma’s en probeer het opnieuw.</translation>
+    </message>
+    <message id="kNoSuchPageReason">
+        <source></source>
+        <translation>De lijst heeft geen van de gekozen pagina’s.</translation>
+    </message>
     <message id="kNotAFileReason">
         <source></source>
         <translation>“%1” is geen gewoon bestand.</translation>
@@ -555,6 +582,13 @@
     <message id="kNotALocalFileReason">
         <source></source>
         <translation>Alleen bestanden op deze computer kunnen worden geopend.</translation>
+    </message>
+    <message id="kNoticeBeyond" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>De nummers zijn op: ze eindigen bij %1, en %n zender met een dubbel nummer kon geen vrij nummer krijgen. Bij het opslaan houdt die een laag nummer, als radio.</numerusform>
+            <numerusform>De nummers zijn op: ze eindigen bij %1, en %n zenders met dubbele nummers konden geen vrije nummers krijgen. Bij het opslaan houden die lage nummers, als radio.</numerusform>
+        </translation>
     </message>
     <message id="kNoticeBinary">
         <source></source>
@@ -699,6 +733,22 @@
         <source></source>
         <translation>De toegangsrechten van het bestand konden niet worden behouden: %1</translation>
     </message>
+    <message id="kPrintedRadio">
+        <source></source>
+        <translation>Radiozenders, %1</translation>
+    </message>
+    <message id="kPrintedTV">
+        <source></source>
+        <translation>Tv-zenders, %1</translation>
+    </message>
+    <message id="kPrintFailedMessage">
+        <source></source>
+        <translation>“%1” kon niet worden afgedrukt.</translation>
+    </message>
+    <message id="kPrintFailedReason">
+        <source></source>
+        <translation>De printer of het bestand kon niet worden geopend of heeft niet alle pagina’s aangenomen.</translation>
+    </message>
     <message id="kRadio">
         <source></source>
         <translation>&amp;Radio</translation>
@@ -715,9 +765,13 @@
         <source></source>
         <translation>Opnieuw laden</translation>
     </message>
-    <message id="kReplace">
+    <message id="kReloadMessage">
         <source></source>
-        <translation>Vervangen</translation>
+        <translation>Wilt u “%1” opnieuw van de schijf lezen?</translation>
+    </message>
+    <message id="kReloadText">
+        <source></source>
+        <translation>De wijzigingen die u niet hebt opgeslagen, gaan verloren.</translation>
     </message>
     <message id="kReplaceDetail">
         <source></source>
@@ -730,10 +784,6 @@
     <message id="kReplaceMessage">
         <source></source>
         <translation>Zenderlijst “%1” vervangen?</translation>
-    </message>
-    <message id="kRevert">
-        <source></source>
-        <translation>Teruggaan</translation>
     </message>
     <message id="kRevertFailedMessage">
         <source></source>
@@ -921,6 +971,10 @@ Deze gaan verder vanaf nummer: %3</translation>
         <source></source>
         <translation>Typen kunnen alleen voor tv-zenders worden gekozen</translation>
     </message>
+    <message id="kTipNoFile">
+        <source></source>
+        <translation>Er is geen bestand op de schijf om opnieuw te lezen</translation>
+    </message>
     <message id="kTipNoStations">
         <source></source>
         <translation>Open een lijst of kies een ontvangstbron die zenders bevat</translation>
@@ -933,13 +987,105 @@ Deze gaan verder vanaf nummer: %3</translation>
         <source></source>
         <translation>Selecteer eerst zenders in de lijst</translation>
     </message>
+    <message id="kToldClosedGaps" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Gaten opgevuld: %n nummer gewijzigd</numerusform>
+            <numerusform>Gaten opgevuld: %n nummers gewijzigd</numerusform>
+        </translation>
+    </message>
+    <message id="kToldExported">
+        <source></source>
+        <translation>Geëxporteerd naar %1, als volledige zenderlijst.</translation>
+    </message>
+    <message id="kToldForeign">
+        <source></source>
+        <translation>Niets gewijzigd: de rijen zijn nog die van “%1”, terwijl “%2” is gekozen</translation>
+    </message>
+    <message id="kToldLocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n zender vergrendeld</numerusform>
+            <numerusform>%n zenders vergrendeld</numerusform>
+        </translation>
+    </message>
+    <message id="kToldMoved" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n zender verplaatst naar %1</numerusform>
+            <numerusform>%n zenders verplaatst naar %1</numerusform>
+        </translation>
+    </message>
     <message id="kToldNotKept">
         <source></source>
         <translation>“%1” is opgeslagen, maar het bestand verloor: %2.</translation>
     </message>
+    <message id="kToldNotMoved">
+        <source></source>
+        <translation>Niets verplaatst: het nummer moet tussen 1 en %1 liggen</translation>
+    </message>
+    <message id="kToldOrdered">
+        <source></source>
+        <translation>Volgorde van “%1” toegepast</translation>
+    </message>
+    <message id="kToldOthersDropped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Alleen “%1” is genomen: dit venster bevat één lijst. Er is nog %n bestand neergezet</numerusform>
+            <numerusform>Alleen “%1” is genomen: dit venster bevat één lijst. Er zijn nog %n bestanden neergezet</numerusform>
+        </translation>
+    </message>
+    <message id="kToldOthersRenumbered" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n ander nummer gewijzigd</numerusform>
+            <numerusform>%n andere nummers gewijzigd</numerusform>
+        </translation>
+    </message>
+    <message id="kToldReloaded">
+        <source></source>
+        <translation>“%1” is opnieuw van de schijf gelezen</translation>
+    </message>
+    <message id="kToldRenamed">
+        <source></source>
+        <translation>Zender hernoemd naar “%1”</translation>
+    </message>
     <message id="kToldRepaired">
         <source></source>
         <translation>Hersteld opgeslagen, zoals u hebt gekozen: er is niets verloren gegaan.</translation>
+    </message>
+    <message id="kToldReverted">
+        <source></source>
+        <translation>“%1” is weer zoals laatst opgeslagen</translation>
+    </message>
+    <message id="kToldSaved">
+        <source></source>
+        <translation>Opgeslagen in %1.</translation>
+    </message>
+    <message id="kToldSkipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n zender wordt overgeslagen</numerusform>
+            <numerusform>%n zenders worden overgeslagen</numerusform>
+        </translation>
+    </message>
+    <message id="kToldUnchanged">
+        <source></source>
+        <translation>“%1” is op de schijf niet gewijzigd</translation>
+    </message>
+    <message id="kToldUnlocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n zender ontgrendeld</numerusform>
+            <numerusform>%n zenders ontgrendeld</numerusform>
+        </translation>
+    </message>
+    <message id="kToldUnskipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n zender wordt niet meer overgeslagen</numerusform>
+            <numerusform>%n zenders worden niet meer overgeslagen</numerusform>
+        </translation>
     </message>
     <message id="kTV">
         <source></source>

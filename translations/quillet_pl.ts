@@ -67,6 +67,22 @@
             <numerusform>Pierwszy kanał sekcji %1 znajduje się %n znaków za początkiem sekcji; dozwolonych jest najwyżej %2.</numerusform>
         </translation>
     </message>
+    <message id="kBeyondAnyway">
+        <source></source>
+        <translation>Mimo to zmień numery</translation>
+    </message>
+    <message id="kBeyondMessage" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n kanał dostałby numer, którego lista kanałów nie pomieści.</numerusform>
+            <numerusform>%n kanały dostałyby numery, których lista kanałów nie pomieści.</numerusform>
+            <numerusform>%n kanałów dostałoby numery, których lista kanałów nie pomieści.</numerusform>
+        </translation>
+    </message>
+    <message id="kBeyondText">
+        <source></source>
+        <translation>Najwyższy numer to %1. Kanał powyżej niego dostaje niski numer, na przykład 0, i oznaczenie radia.</translation>
+    </message>
     <message id="kCable">
         <source></source>
         <translation>Kabel</translation>
@@ -139,9 +155,9 @@
         <source></source>
         <translation>Telewizor:</translation>
     </message>
-    <message id="kDontSave">
+    <message id="kDiscardChanges">
         <source></source>
-        <translation>Nie zapisuj</translation>
+        <translation>Odrzuć zmiany</translation>
     </message>
     <message id="kExportFailedMessage">
         <source></source>
@@ -507,6 +523,10 @@
         <source></source>
         <translation>Stacje &amp;radiowe</translation>
     </message>
+    <message id="kMenuReload">
+        <source></source>
+        <translation>&amp;Wczytaj ponownie z dysku</translation>
+    </message>
     <message id="kMenuRevert">
         <source></source>
         <translation>P&amp;rzywróć zapisaną wersję</translation>
@@ -555,6 +575,14 @@
         <source></source>
         <translation>Żaden kanał nie pasuje do wyszukiwania i typu.</translation>
     </message>
+    <message id="kNoMemoryReason">
+        <source></source>
+        <translation>Za mało pamięci dla tej listy. Zamknij inne programy i spróbuj ponownie.</translation>
+    </message>
+    <message id="kNoSuchPageReason">
+        <source></source>
+        <translation>Lista nie ma żadnej z wybranych stron.</translation>
+    </message>
     <message id="kNotAFileReason">
         <source></source>
         <translation>„%1” nie jest zwykłym plikiem.</translation>
@@ -562,6 +590,14 @@
     <message id="kNotALocalFileReason">
         <source></source>
         <translation>Można otwierać tylko pliki z tego komputera.</translation>
+    </message>
+    <message id="kNoticeBeyond" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Zabrakło numerów: kończą się na %1, a %n kanał o powtórzonym numerze nie mógł dostać wolnego. Po zapisaniu miałby niski numer, jako radio.</numerusform>
+            <numerusform>Zabrakło numerów: kończą się na %1, a %n kanały o powtórzonych numerach nie mogły dostać wolnych. Po zapisaniu miałyby niskie numery, jako radio.</numerusform>
+            <numerusform>Zabrakło numerów: kończą się na %1, a %n kanałów o powtórzonych numerach nie mogło dostać wolnych. Po zapisaniu miałyby niskie numery, jako radio.</numerusform>
+        </translation>
     </message>
     <message id="kNoticeBinary">
         <source></source>
@@ -707,6 +743,22 @@
         <source></source>
         <translation>Nie można zachować uprawnień dostępu do pliku: %1</translation>
     </message>
+    <message id="kPrintedRadio">
+        <source></source>
+        <translation>Stacje radiowe, %1</translation>
+    </message>
+    <message id="kPrintedTV">
+        <source></source>
+        <translation>Kanały TV, %1</translation>
+    </message>
+    <message id="kPrintFailedMessage">
+        <source></source>
+        <translation>Nie udało się wydrukować „%1”.</translation>
+    </message>
+    <message id="kPrintFailedReason">
+        <source></source>
+        <translation>Nie udało się otworzyć drukarki lub pliku albo nie przyjęto wszystkich stron.</translation>
+    </message>
     <message id="kRadio">
         <source></source>
         <translation>&amp;Radio</translation>
@@ -723,9 +775,13 @@
         <source></source>
         <translation>Wczytaj ponownie</translation>
     </message>
-    <message id="kReplace">
+    <message id="kReloadMessage">
         <source></source>
-        <translation>Zastąp</translation>
+        <translation>Czy chcesz ponownie wczytać „%1” z dysku?</translation>
+    </message>
+    <message id="kReloadText">
+        <source></source>
+        <translation>Niezapisane zmiany zostaną utracone.</translation>
     </message>
     <message id="kReplaceDetail">
         <source></source>
@@ -738,10 +794,6 @@
     <message id="kReplaceMessage">
         <source></source>
         <translation>Zastąpić listę kanałów „%1”?</translation>
-    </message>
-    <message id="kRevert">
-        <source></source>
-        <translation>Przywróć</translation>
     </message>
     <message id="kRevertFailedMessage">
         <source></source>
@@ -937,6 +989,10 @@ Te następują od numeru: %3</translation>
         <source></source>
         <translation>Typy można wybierać tylko dla kanałów TV</translation>
     </message>
+    <message id="kTipNoFile">
+        <source></source>
+        <translation>Na dysku nie ma pliku do ponownego wczytania</translation>
+    </message>
     <message id="kTipNoStations">
         <source></source>
         <translation>Otwórz listę lub wybierz źródło, które zawiera kanały</translation>
@@ -949,13 +1005,113 @@ Te następują od numeru: %3</translation>
         <source></source>
         <translation>Najpierw wybierz kanały na liście</translation>
     </message>
+    <message id="kToldClosedGaps" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Wypełniono luki: zmieniono %n numer</numerusform>
+            <numerusform>Wypełniono luki: zmieniono %n numery</numerusform>
+            <numerusform>Wypełniono luki: zmieniono %n numerów</numerusform>
+        </translation>
+    </message>
+    <message id="kToldExported">
+        <source></source>
+        <translation>Wyeksportowano do %1 jako pełną listę kanałów.</translation>
+    </message>
+    <message id="kToldForeign">
+        <source></source>
+        <translation>Niczego nie zmieniono: wiersze są nadal z „%1”, a wybrano „%2”</translation>
+    </message>
+    <message id="kToldLocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Zablokowano %n kanał</numerusform>
+            <numerusform>Zablokowano %n kanały</numerusform>
+            <numerusform>Zablokowano %n kanałów</numerusform>
+        </translation>
+    </message>
+    <message id="kToldMoved" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Przeniesiono %n kanał na numer %1</numerusform>
+            <numerusform>Przeniesiono %n kanały na numery %1</numerusform>
+            <numerusform>Przeniesiono %n kanałów na numery %1</numerusform>
+        </translation>
+    </message>
     <message id="kToldNotKept">
         <source></source>
         <translation>Zapisano „%1”, ale plik utracił: %2.</translation>
     </message>
+    <message id="kToldNotMoved">
+        <source></source>
+        <translation>Niczego nie przeniesiono: numer musi być od 1 do %1</translation>
+    </message>
+    <message id="kToldOrdered">
+        <source></source>
+        <translation>Zastosowano kolejność z „%1”</translation>
+    </message>
+    <message id="kToldOthersDropped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Wzięto tylko „%1”: to okno mieści jedną listę. Upuszczono jeszcze %n plik</numerusform>
+            <numerusform>Wzięto tylko „%1”: to okno mieści jedną listę. Upuszczono jeszcze %n pliki</numerusform>
+            <numerusform>Wzięto tylko „%1”: to okno mieści jedną listę. Upuszczono jeszcze %n plików</numerusform>
+        </translation>
+    </message>
+    <message id="kToldOthersRenumbered" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>zmieniono %n inny numer</numerusform>
+            <numerusform>zmieniono %n inne numery</numerusform>
+            <numerusform>zmieniono %n innych numerów</numerusform>
+        </translation>
+    </message>
+    <message id="kToldReloaded">
+        <source></source>
+        <translation>„%1” wczytano ponownie z dysku</translation>
+    </message>
+    <message id="kToldRenamed">
+        <source></source>
+        <translation>Zmieniono nazwę kanału na „%1”</translation>
+    </message>
     <message id="kToldRepaired">
         <source></source>
         <translation>Zapisano naprawiony plik, zgodnie z Twoim wyborem: nic nie zostało utracone.</translation>
+    </message>
+    <message id="kToldReverted">
+        <source></source>
+        <translation>„%1” jest taki, jak przy ostatnim zapisie</translation>
+    </message>
+    <message id="kToldSaved">
+        <source></source>
+        <translation>Zapisano w %1.</translation>
+    </message>
+    <message id="kToldSkipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n kanał będzie pomijany</numerusform>
+            <numerusform>%n kanały będą pomijane</numerusform>
+            <numerusform>%n kanałów będzie pomijanych</numerusform>
+        </translation>
+    </message>
+    <message id="kToldUnchanged">
+        <source></source>
+        <translation>„%1” nie zmienił się na dysku</translation>
+    </message>
+    <message id="kToldUnlocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Odblokowano %n kanał</numerusform>
+            <numerusform>Odblokowano %n kanały</numerusform>
+            <numerusform>Odblokowano %n kanałów</numerusform>
+        </translation>
+    </message>
+    <message id="kToldUnskipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n kanał nie będzie już pomijany</numerusform>
+            <numerusform>%n kanały nie będą już pomijane</numerusform>
+            <numerusform>%n kanałów nie będzie już pomijanych</numerusform>
+        </translation>
     </message>
     <message id="kTV">
         <source></source>

@@ -65,6 +65,20 @@
             <numerusform>%1 bölümünün ilk kanalı bölümün başından %n karakter sonra geliyor; en çok %2 karaktere izin verilir.</numerusform>
         </translation>
     </message>
+    <message id="kBeyondAnyway">
+        <source></source>
+        <translation>Numaraları Yine de Değiştir</translation>
+    </message>
+    <message id="kBeyondMessage" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n kanal, kanal listesinin tutamayacağı bir numara alır.</numerusform>
+        </translation>
+    </message>
+    <message id="kBeyondText">
+        <source></source>
+        <translation>En yüksek numara %1. Bunu aşan bir kanal 0 gibi küçük bir numara alır ve radyo olarak işaretlenir.</translation>
+    </message>
     <message id="kCable">
         <source></source>
         <translation>Kablo</translation>
@@ -137,9 +151,9 @@
         <source></source>
         <translation>Televizyon:</translation>
     </message>
-    <message id="kDontSave">
+    <message id="kDiscardChanges">
         <source></source>
-        <translation>Kaydetme</translation>
+        <translation>Değişiklikleri At</translation>
     </message>
     <message id="kExportFailedMessage">
         <source></source>
@@ -495,6 +509,10 @@
         <source></source>
         <translation>&amp;Radyo Kanalları</translation>
     </message>
+    <message id="kMenuReload">
+        <source></source>
+        <translation>D&amp;iskten Yeniden Yükle</translation>
+    </message>
     <message id="kMenuRevert">
         <source></source>
         <translation>Kaydedilmiş Sürüme Dö&amp;n</translation>
@@ -541,6 +559,14 @@
         <source></source>
         <translation>Aramaya ve türe uyan kanal yok.</translation>
     </message>
+    <message id="kNoMemoryReason">
+        <source></source>
+        <translation>Bu liste için yeterli bellek yok. Başka programları kapatıp yeniden deneyin.</translation>
+    </message>
+    <message id="kNoSuchPageReason">
+        <source></source>
+        <translation>Listede seçilen sayfalardan hiçbiri yok.</translation>
+    </message>
     <message id="kNotAFileReason">
         <source></source>
         <translation>“%1” sıradan bir dosya değil.</translation>
@@ -548,6 +574,12 @@
     <message id="kNotALocalFileReason">
         <source></source>
         <translation>Yalnızca bu bilgisayardaki dosyalar açılabilir.</translation>
+    </message>
+    <message id="kNoticeBeyond" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Numaralar yetmedi: %1 numarasında bitiyorlar ve numarası yinelenen %n kanala boş numara verilemedi. Kaydedilirse küçük numarayla ve radyo olarak kalır.</numerusform>
+        </translation>
     </message>
     <message id="kNoticeBinary">
         <source></source>
@@ -691,6 +723,22 @@
         <source></source>
         <translation>Dosyanın erişim izinleri korunamadı: %1</translation>
     </message>
+    <message id="kPrintedRadio">
+        <source></source>
+        <translation>Radyo kanalları, %1</translation>
+    </message>
+    <message id="kPrintedTV">
+        <source></source>
+        <translation>TV kanalları, %1</translation>
+    </message>
+    <message id="kPrintFailedMessage">
+        <source></source>
+        <translation>“%1” yazdırılamadı.</translation>
+    </message>
+    <message id="kPrintFailedReason">
+        <source></source>
+        <translation>Yazıcı veya dosya açılamadı ya da bütün sayfaları almadı.</translation>
+    </message>
     <message id="kRadio">
         <source></source>
         <translation>&amp;Radyo</translation>
@@ -707,9 +755,13 @@
         <source></source>
         <translation>Yeniden Yükle</translation>
     </message>
-    <message id="kReplace">
+    <message id="kReloadMessage">
         <source></source>
-        <translation>Değiştir</translation>
+        <translation>“%1” diskten yeniden okunsun mu?</translation>
+    </message>
+    <message id="kReloadText">
+        <source></source>
+        <translation>Kaydetmediğiniz değişiklikler kaybolur.</translation>
     </message>
     <message id="kReplaceDetail">
         <source></source>
@@ -722,10 +774,6 @@
     <message id="kReplaceMessage">
         <source></source>
         <translation>“%1” kanal listesi değiştirilsin mi?</translation>
-    </message>
-    <message id="kRevert">
-        <source></source>
-        <translation>Geri Dön</translation>
     </message>
     <message id="kRevertFailedMessage">
         <source></source>
@@ -905,6 +953,10 @@ Bunların devam ettiği numara: %3</translation>
         <source></source>
         <translation>Türler yalnızca TV kanalları için seçilebilir</translation>
     </message>
+    <message id="kTipNoFile">
+        <source></source>
+        <translation>Diskte yeniden okunacak bir dosya yok</translation>
+    </message>
     <message id="kTipNoStations">
         <source></source>
         <translation>Kanal içeren bir liste açın veya kanal içeren bir kaynak seçin</translation>
@@ -917,13 +969,97 @@ Bunların devam ettiği numara: %3</translation>
         <source></source>
         <translation>Önce listeden kanal seçin</translation>
     </message>
+    <message id="kToldClosedGaps" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Boşluklar dolduruldu: %n numara değişti</numerusform>
+        </translation>
+    </message>
+    <message id="kToldExported">
+        <source></source>
+        <translation>%1 dosyasına tam bir kanal listesi olarak dışa aktarıldı.</translation>
+    </message>
+    <message id="kToldForeign">
+        <source></source>
+        <translation>Hiçbir şey değişmedi: satırlar hâlâ “%1” kaynağının, oysa “%2” seçili</translation>
+    </message>
+    <message id="kToldLocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n kanal kilitlendi</numerusform>
+        </translation>
+    </message>
+    <message id="kToldMoved" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n kanal %1 numarasına taşındı</numerusform>
+        </translation>
+    </message>
     <message id="kToldNotKept">
         <source></source>
         <translation>“%1” kaydedildi, ama dosya şunları yitirdi: %2.</translation>
     </message>
+    <message id="kToldNotMoved">
+        <source></source>
+        <translation>Hiçbir şey taşınmadı: numara 1 ile %1 arasında olmalıdır</translation>
+    </message>
+    <message id="kToldOrdered">
+        <source></source>
+        <translation>“%1” sıralaması uygulandı</translation>
+    </message>
+    <message id="kToldOthersDropped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Yalnızca “%1” alındı: bu pencere tek liste içerir. %n dosya daha bırakıldı</numerusform>
+        </translation>
+    </message>
+    <message id="kToldOthersRenumbered" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n başka numara değişti</numerusform>
+        </translation>
+    </message>
+    <message id="kToldReloaded">
+        <source></source>
+        <translation>“%1” diskten yeniden okundu</translation>
+    </message>
+    <message id="kToldRenamed">
+        <source></source>
+        <translation>Kanalın adı “%1” olarak değiştirildi</translation>
+    </message>
     <message id="kToldRepaired">
         <source></source>
         <translation>Seçtiğiniz gibi onarılmış olarak kaydedildi: hiçbir şey kaybolmadı.</translation>
+    </message>
+    <message id="kToldReverted">
+        <source></source>
+        <translation>“%1” son kaydedildiği gibi</translation>
+    </message>
+    <message id="kToldSaved">
+        <source></source>
+        <translation>%1 olarak kaydedildi.</translation>
+    </message>
+    <message id="kToldSkipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n kanal atlanacak</numerusform>
+        </translation>
+    </message>
+    <message id="kToldUnchanged">
+        <source></source>
+        <translation>“%1” diskte değişmedi</translation>
+    </message>
+    <message id="kToldUnlocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n kanalın kilidi açıldı</numerusform>
+        </translation>
+    </message>
+    <message id="kToldUnskipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n kanal artık atlanmayacak</numerusform>
+        </translation>
     </message>
     <message id="kTV">
         <source></source>

@@ -7,7 +7,9 @@
 #include "document/TLLDocument.h"
 #include "document/repair/FileDiagnosis.h"
 #include "editor/EditorView.h"
+#include "files/FileNames.h"
 
+#include <QDir>
 #include <QEventLoop>
 #include <QFileInfo>
 #include <QFileOpenEvent>
@@ -39,7 +41,7 @@ AppDelegate::~AppDelegate() = default;
 
 QStringList AppDelegate::nameFilters()
 {
-    return {qtTrId("kFilterChannelLists") + QStringLiteral(" (*.tll *.TLL)"),
+    return {qtTrId("kFilterChannelLists") + QStringLiteral(" (*.tll)"),
             qtTrId("kFilterAllFiles") + QStringLiteral(" (*)")};
 }
 
@@ -82,7 +84,7 @@ void AppDelegate::applicationDidFinishLaunching(const QStringList &paths)
 {
     QList<QUrl> urls;
     for (const QString &path : paths)
-        urls.append(QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()));
+        urls.append(QUrl::fromLocalFile(QDir::cleanPath(absolutePath(path))));
     m_documents.openDocuments(urls);
     if (m_documents.documents().empty())
         m_documents.newDocument();
@@ -164,7 +166,8 @@ void AppDelegate::askAndQuit(const std::function<void(bool)> &done)
 bool AppDelegate::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::FileOpen) {
-        m_documents.openDocument(static_cast<QFileOpenEvent *>(event)->url());
+        const QString path = pathFromUrl(static_cast<QFileOpenEvent *>(event)->url());
+        m_documents.openDocument(QUrl::fromLocalFile(path));
         return true;
     }
     if (event->type() == QEvent::Quit && watched == qApp) {

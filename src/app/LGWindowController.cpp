@@ -2,8 +2,8 @@
 
 #include "document/TLLDocument.h"
 #include "editor/EditorView.h"
+#include "editor/ToldLine.h"
 
-#include <QLabel>
 #include <QMainWindow>
 #include <QStatusBar>
 
@@ -11,7 +11,7 @@ namespace quillet {
 
 LGWindowController::LGWindowController()
     : TLLWindowController(std::make_unique<QMainWindow>(), QStringLiteral("TLL Editor Window")),
-      m_editor(new EditorView), m_told(new QLabel)
+      m_editor(new EditorView), m_told(new ToldLine)
 {
     windowDidLoad();
 }
@@ -33,12 +33,7 @@ void LGWindowController::windowDidLoad()
     bar->setSizeGripEnabled(false);
     bar->setContentsMargins(8, 0, 8, 4);
     bar->addWidget(m_told, 1);
-    bar->hide();
-    m_told->setWordWrap(true);
-    m_told->setTextFormat(Qt::PlainText); // names of files may look like markup
-    m_told->setObjectName(QStringLiteral("toldText"));
-    m_toldTimer.setSingleShot(true);
-    connect(&m_toldTimer, &QTimer::timeout, bar, &QWidget::hide);
+    connect(m_editor, &EditorView::told, m_told, &ToldLine::tell);
     const QSize wanted = m_editor->sizeHint();
     const int line = m_editor->fontMetrics().height();
     window()->resize(qMax(wanted.width() + 6 * line, 48 * line), 42 * line);
@@ -52,21 +47,10 @@ bool LGWindowController::populateFromTLLDoc(TLLDocument &document, const Error &
             &ViewController::showFileName, Qt::UniqueConnection);
     connect(&document, &Document::placeWasChosen, &m_editor->controller(),
             &ViewController::showNotice, Qt::UniqueConnection);
-    connect(&document, &Document::told, this, &LGWindowController::tell, Qt::UniqueConnection);
+    connect(&document, &Document::told, m_told, &ToldLine::tell, Qt::UniqueConnection);
     const bool succeeded = m_editor->controller().populateFromTLLDoc(document, error);
     synchronizeWindowTitleWithDocumentName();
     return succeeded;
-}
-
-void LGWindowController::tell(const QString &text)
-{
-    constexpr int longEnoughToRead = 10000;
-    if (!m_toldTimer.isActive())
-        m_told->setText(text);
-    else if (!m_told->text().contains(text))
-        m_told->setText(m_told->text() + u' ' + text);
-    window()->statusBar()->show();
-    m_toldTimer.start(longEnoughToRead);
 }
 
 void LGWindowController::refill()
@@ -74,6 +58,12 @@ void LGWindowController::refill()
     if (TLLDocument *shown = tlldoc())
         populateFromTLLDoc(*shown, {});
     m_editor->controller().applyFilter(); // the search field still holds its text
+}
+
+std::function<void()> LGWindowController::keepPlace() const
+{
+    ViewController &controller = m_editor->controller();
+    return [&controller, place = controller.place()] { controller.goTo(place); };
 }
 
 bool LGWindowController::validateUserInterfaceItem(const QString &action) const

@@ -2,14 +2,11 @@
 
 #include "document/TLLWindowController.h"
 
-#include <QTimer>
-
-class QLabel;
-
 namespace quillet {
 
 class EditorView;
 class TLLDocument;
+class ToldLine;
 
 /// The window of one channel list, with the editor as its content. Holds the document weakly.
 class LGWindowController : public TLLWindowController
@@ -22,6 +19,7 @@ public:
 
     bool populateFromTLLDoc(TLLDocument &document, const Error &error) override;
     void refill() override;
+    [[nodiscard]] std::function<void()> keepPlace() const override;
     [[nodiscard]] bool validateUserInterfaceItem(const QString &action) const override;
 
     /// The document shown; null before there is one and after it has gone.
@@ -30,12 +28,8 @@ public:
 
 private:
     void windowDidLoad();
-    /// Says it in a line at the bottom, which goes by itself.
-    void tell(const QString &text);
-
     EditorView *m_editor;
-    QLabel *m_told;
-    QTimer m_toldTimer;
+    ToldLine *m_told;
 };
 
 } // namespace quillet

@@ -72,6 +72,7 @@ void MainMenu::makeFileMenu(QMenuBar &bar)
 {
     QMenu &menu = *bar.addMenu(qtTrId("kMenuFile"));
     menu.setObjectName(QStringLiteral("fileMenu"));
+    menu.setToolTipsVisible(true);
     connect(&menu, &QMenu::aboutToShow, this, &MainMenu::validate);
     add(menu, {"kMenuNew", "newDocument", QKeySequence::New},
         [this] { m_documents.newDocument(); });
@@ -90,6 +91,10 @@ void MainMenu::makeFileMenu(QMenuBar &bar)
     m_documentItems.push_back(m_save);
     m_documentItems.push_back(add(menu, {"kMenuRevert", "revertDocumentToSaved", {}},
                                   [this] { m_window.tlldoc()->revertDocumentToSaved(); }));
+    m_reload = add(menu, {"kMenuReload", "reloadDocument", Qt::Key_F5}, [this] {
+        m_editor.commitEditing();
+        m_window.tlldoc()->reloadDocument();
+    });
     m_documentItems.push_back(add(menu,
                                   {"kMenuExport", "exportAsReferenceList", Qt::CTRL | Qt::Key_E},
                                   [this] { m_window.tlldoc()->exportAsReferenceList(); }));
@@ -227,6 +232,8 @@ void MainMenu::validate()
         action->setEnabled(m_window.validateUserInterfaceItem(action->objectName()));
     if (document && m_editor.isEditing())
         m_save->setEnabled(true); // for what is being typed
+    m_reload->setEnabled(document && document->canReload());
+    m_reload->setToolTip(m_reload->isEnabled() ? QString() : qtTrId("kTipNoFile"));
     // Set in the sheet of a save, so there is nothing here to set it by.
     m_alwaysRepair->setChecked(QSettings().value(SaveReview::alwaysKey).toBool());
     m_alwaysRepair->setVisible(m_alwaysRepair->isChecked());

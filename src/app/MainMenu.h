@@ -59,6 +59,7 @@ private:
     std::vector<QAction *> m_sources;
     std::vector<QAction *> m_filters;
     QAction *m_save = nullptr;
+    QAction *m_reload = nullptr;
     QAction *m_alwaysRepair = nullptr;
     QAction *m_print = nullptr;
     QAction *m_moveTo = nullptr;

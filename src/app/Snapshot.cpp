@@ -3,6 +3,7 @@
 #include "app/AppDelegate.h"
 #include "app/LGWindowController.h"
 #include "document/TLLDocument.h"
+#include "files/FileNames.h"
 #include "files/FileOperations.h"
 #include "files/FileReplacement.h"
 #include "files/Places.h"
@@ -10,6 +11,7 @@
 
 #include <QApplication>
 #include <QBuffer>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QMainWindow>
@@ -53,7 +55,7 @@ public:
     void showSavePanel(QWidget *, const SavePanel &, std::function<void(const QString &)>) override
     {
     }
-    void showPrintPanel(QWidget *, const QString &, std::function<void(QPrinter &)>) override {}
+    void showPrintPanel(QWidget *, const PrintPanel &, std::function<void(QPrinter &)>) override {}
 
     QString shown;
 };
@@ -113,7 +115,7 @@ QString makeSnapshot(const QString &file, const QString &picture)
     OpenFileLog(QStringLiteral("XT"), QStringLiteral("quillet-snapshot"));
     SilentPrompts prompts;
     AppDelegate delegate(prompts);
-    const QString path = file.isEmpty() ? file : QFileInfo(file).absoluteFilePath();
+    const QString path = file.isEmpty() ? file : QDir::cleanPath(absolutePath(file));
     Document *document = file.isEmpty()
                              ? delegate.documents().newDocument()
                              : delegate.documents().openDocument(QUrl::fromLocalFile(path));

@@ -5,11 +5,14 @@
 #include "app/Snapshot.h"
 #include "app/TerminationSignals.h"
 #include "app/Translations.h"
+#include "files/FileNames.h"
 #include "framework/QtPrompts.h"
+#include "support/KXFileLog.h"
 
 #include <QApplication>
 #include <QIcon>
 
+#include <csignal>
 #include <cstdio>
 
 using namespace quillet;
@@ -62,6 +65,9 @@ int edit(const CommandLine &line)
 
 int main(int argc, char *argv[])
 {
+#ifdef SIGXFSZ
+    std::signal(SIGXFSZ, SIG_IGN); // a file that may grow no more is an error of its writing
+#endif
     ignoreRelativeFolders();
     QCoreApplication::setApplicationName(QStringLiteral("Quillet"));
     QCoreApplication::setOrganizationName(QStringLiteral("Quillet"));
@@ -70,7 +76,7 @@ int main(int argc, char *argv[])
     // What needs no window is answered before Qt looks for a display.
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
-        arguments.append(QString::fromLocal8Bit(argv[i]));
+        arguments.append(pathFromBytes(argv[i])); // names of files, mostly
     const CommandLine line = CommandLine::parse(arguments);
     if (!line.error.isEmpty())
         return fail(Misused, line.error);

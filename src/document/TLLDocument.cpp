@@ -174,10 +174,11 @@ void TLLDocument::applyOrderFromRefList(const ReferenceList &entries, const QStr
 void TLLDocument::exportAsReferenceList()
 {
     const QFileInfo file((fileUrl().isEmpty() ? suggestedUrl() : fileUrl()).toLocalFile());
-    const SavePanel panel{.title = qtTrId("kExportTitle"),
-                          .suggestedPath =
-                              file.path() + u'/' + file.completeBaseName() + QLatin1String(".txt"),
-                          .nameFilters = {qtTrId("kFilterTextFiles") + QLatin1String(" (*.txt)")}};
+    const SavePanel panel{
+        .title = qtTrId("kExportTitle"),
+        .suggestedPath = file.path() + u'/' + file.completeBaseName() + QLatin1String(".txt"),
+        .nameFilters = {qtTrId("kFilterTextFiles") + QLatin1String(" (*.txt)"),
+                        qtTrId("kFilterChannelLists") + QLatin1String(" (*.tll)")}};
     exportDocument(panel, QStringLiteral("Reference list"), [](bool isWritten, const Error &error) {
         if (isWritten)
             qCInfo(log, "File export succeeded!");
@@ -269,8 +270,12 @@ void TLLDocument::documentWasSaved()
 {
     m_repair.reset();
     Document::documentWasSaved();
-    if (m_wasUnasked)
-        emit told(qtTrId("kToldRepaired"));
+}
+
+QString TLLDocument::savedText() const
+{
+    const QString saved = Document::savedText();
+    return m_wasUnasked ? saved + u' ' + qtTrId("kToldRepaired") : saved;
 }
 
 } // namespace quillet

@@ -123,6 +123,7 @@ protected:
     void reviewSave(const QByteArray &bytes, SavePurpose purpose,
                     const SaveJob::Client::Decided &decided) override;
     void documentWasSaved() override;
+    [[nodiscard]] QString savedText() const override;
 
 private:
     [[nodiscard]] static QString badFormatDetail(const ChannelList &list);

@@ -1,7 +1,5 @@
 #include "editor/CellText.h"
 
-#include <QTextDocument>
-
 namespace quillet {
 
 namespace {
@@ -16,14 +14,6 @@ QString inItsDirection(const QString &text, Qt::LayoutDirection around)
     if (text.isRightToLeft() == (around == Qt::RightToLeft))
         return text;
     return firstStrongIsolate + text + popDirectionalIsolate;
-}
-
-QString plainToolTip(const QString &text)
-{
-    return Qt::mightBeRichText(text)
-               ? QStringLiteral("<span style=\"white-space:pre-wrap\">%1</span>")
-                     .arg(text.toHtmlEscaped())
-               : text;
 }
 
 } // namespace quillet

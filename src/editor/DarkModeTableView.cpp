@@ -3,7 +3,7 @@
 #include "editor/DropPlace.h"
 #include "editor/RoomyCells.h"
 #include "editor/StationTableModel.h"
-#include "editor/TablePrinter.h"
+#include "files/FileNames.h"
 
 #include <QApplication>
 #include <QDrag>
@@ -12,7 +12,6 @@
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QPainter>
-#include <QPrinter>
 #include <QUrl>
 
 namespace quillet {
@@ -63,11 +62,6 @@ void DarkModeTableView::setPlaceholderText(const QString &text)
         return;
     m_placeholder = text;
     viewport()->update();
-}
-
-void DarkModeTableView::print(QPrinter &printer, const QString &title)
-{
-    TablePrinter(*this, title).print(printer);
 }
 
 bool DarkModeTableView::edit(const QModelIndex &index, EditTrigger trigger, QEvent *event)
@@ -204,7 +198,7 @@ TableDrag DarkModeTableView::filesOf(const QMimeData &data)
     TableDrag drag;
     for (const QUrl &url : data.urls()) {
         if (url.isLocalFile())
-            drag.files.append(url.toLocalFile());
+            drag.files.append(pathFromUrl(url));
     }
     return drag;
 }

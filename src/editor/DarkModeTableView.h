@@ -40,10 +40,6 @@ public:
     void goToRow(int row);
     void keyboardSearch(const QString &search) override;
 
-    /// Prints all rows on as many pages as they need, always dark on light, with the column titles
-    /// on each page and the columns fitted to its width.
-    void print(QPrinter &printer, const QString &title);
-
 signals:
     /// Return or Enter was pressed while no cell was being edited.
     void returnPressed();

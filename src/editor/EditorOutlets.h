@@ -75,12 +75,18 @@ public:
     /// Selects exactly these rows.
     virtual void selectRows(const QList<qsizetype> &rows) = 0;
     virtual void scrollRowToVisible(qsizetype row) = 0;
+    /// The first row that can be seen; -1 without rows.
+    [[nodiscard]] virtual qsizetype topRow() const = 0;
+    virtual void scrollRowToTop(qsizetype row) = 0;
     virtual void setNameColumnEditable(bool editable) = 0;
     virtual void showEmptyHint(EmptyHint hint) = 0;
     /// Says beside the rows whose they are; nothing for none.
     virtual void showForeignRows(const std::optional<ForeignRows> &rows) = 0;
     /// In the place of an earlier one, also one that was closed.
     virtual void showNotice(const Notice &notice) = 0;
+
+    /// Says in the line at the bottom what has just happened, in the place of what it said before.
+    virtual void tell(const QString &text) = 0;
 
     /// The window that questions belong to.
     [[nodiscard]] virtual QWidget *sheetWindow() const = 0;

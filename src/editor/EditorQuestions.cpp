@@ -14,7 +14,8 @@ EditorQuestions::EditorQuestions(TLLDocument &document, QWidget *window, QObject
 {
 }
 
-void EditorQuestions::askForNumber(qsizetype stations, std::function<void(qint64)> answered) const
+void EditorQuestions::askForNumber(qsizetype stations, std::function<void(qint64)> answered,
+                                   std::function<void()> refused) const
 {
     if (!m_document.prompts())
         return;
@@ -23,10 +24,31 @@ void EditorQuestions::askForNumber(qsizetype stations, std::function<void(qint64
                       .buttons = {qtTrId("kMovingOK"), qtTrId("kCancel")},
                       .cancelButton = 1,
                       .asksForText = true};
-    const auto check = [answered, guard = QPointer(m_context)](const AlertAnswer &answer) {
+    const auto check = [answered, refused, guard = QPointer(m_context)](const AlertAnswer &answer) {
         const qint64 number = lenientInteger(answer.text);
-        if (guard && answer.button == 0 && number >= 1 && number <= highestTarget)
+        if (!guard || answer.button != 0)
+            return;
+        if (number >= 1 && number <= highestTarget)
             answered(number);
+        else
+            refused();
+    };
+    m_document.prompts()->showAlert(m_window, alert, check);
+}
+
+void EditorQuestions::askToGoBeyond(std::size_t stations, std::function<void(bool)> answered) const
+{
+    if (!m_document.prompts())
+        return;
+    const Alert alert{
+        .message = qtTrId("kBeyondMessage", static_cast<int>(stations)).arg(LGStation::progNumMask),
+        .informativeText = qtTrId("kBeyondText").arg(LGStation::progNumMask),
+        .buttons = {qtTrId("kCancel"), qtTrId("kBeyondAnyway")},
+        .cancelButton = 0,
+        .destructiveButton = 1};
+    const auto check = [answered, guard = QPointer(m_context)](const AlertAnswer &answer) {
+        if (guard)
+            answered(answer.button == 1);
     };
     m_document.prompts()->showAlert(m_window, alert, check);
 }
@@ -37,7 +59,7 @@ void EditorQuestions::askToReplace(std::function<void()> confirmed) const
         return;
     const Alert alert{.message = qtTrId("kReplaceMessage").arg(m_document.displayName()),
                       .informativeText = qtTrId("kReplaceDetail"),
-                      .buttons = {qtTrId("kCancel"), qtTrId("kReplace")},
+                      .buttons = {qtTrId("kCancel"), qtTrId("kDiscardChanges")},
                       .cancelButton = 0,
                       .destructiveButton = 1};
     const auto check = [confirmed, guard = QPointer(m_context)](const AlertAnswer &answer) {
@@ -51,11 +73,11 @@ void EditorQuestions::askForReferenceList(std::function<void(const QString &)> c
 {
     if (!m_document.prompts())
         return;
-    const OpenPanel panel{.title = qtTrId("kApplyOrderTitle"),
-                          .directory = {},
-                          .nameFilters = {qtTrId("kFilterReferenceLists") +
-                                              QLatin1String(" (*.txt *.TXT *.tll *.TLL)"),
-                                          qtTrId("kFilterAllFiles") + QLatin1String(" (*)")}};
+    const OpenPanel panel{
+        .title = qtTrId("kApplyOrderTitle"),
+        .directory = m_document.folder(),
+        .nameFilters = {qtTrId("kFilterReferenceLists") + QLatin1String(" (*.txt *.tll)"),
+                        qtTrId("kFilterAllFiles") + QLatin1String(" (*)")}};
     const auto check = [chosen, guard = QPointer(m_context)](const QStringList &paths) {
         if (guard && !paths.isEmpty())
             chosen(paths.front());

@@ -18,9 +18,13 @@ class EditorQuestions
 public:
     EditorQuestions(TLLDocument &document, QWidget *window, QObject *context);
 
-    /// The number for so many stations that was typed, 1 to highestTarget; any other answer is
-    /// none.
-    void askForNumber(qsizetype stations, std::function<void(qint64)> answered) const;
+    /// The number for so many stations that was typed, 1 to highestTarget; `refused` is called for
+    /// any other that was confirmed.
+    void askForNumber(qsizetype stations, std::function<void(qint64)> answered,
+                      std::function<void()> refused) const;
+    /// Whether an edit may be made although it gives that many stations a number that they cannot
+    /// carry.
+    void askToGoBeyond(std::size_t stations, std::function<void(bool)> answered) const;
     /// Whether the document's unsaved changes may be given up for another file.
     void askToReplace(std::function<void()> confirmed) const;
     /// The reference list chosen.

@@ -4,10 +4,11 @@
 #include "editor/EditorLayout.h"
 #include "editor/EmptyDocText.h"
 #include "editor/InfoViewController.h"
+#include "editor/ListPrinting.h"
 #include "editor/ShownTexts.h"
+#include "editor/SourceTitles.h"
 #include "editor/TableColumns.h"
 #include "editor/TableSelection.h"
-#include "framework/Prompts.h"
 #include "ui_EditorView.h"
 
 #include <QDropEvent>
@@ -18,8 +19,6 @@
 namespace quillet {
 
 namespace {
-
-constexpr std::array sourceTitles{"kCable", "kSatellite", "kAntenna", "kAnalogue"};
 
 /// In the order of the tags.
 constexpr std::array filterTitles{"kFilterAll", "kFilterSD", "kFilterHD",
@@ -49,8 +48,8 @@ EditorView::~EditorView() = default;
 void EditorView::setUpControls()
 {
     QStringList titles;
-    for (const char *title : sourceTitles)
-        titles.append(qtTrId(title));
+    for (const StationSource source : stationSources)
+        titles.append(sourceTitle(static_cast<int>(source)));
     m_ui->sourceSegmentControl->setSegments(titles);
     QWidget *before = m_ui->radioButton;
     for (int i = 0; i < titles.size(); ++i) {
@@ -107,6 +106,8 @@ void EditorView::connectControls()
     connect(m_ui->foreignRowsBar, &NoticeBar::actionTriggered, &m_controller,
             &ViewController::clearFilters);
     connect(&m_controller, &ViewController::stateChanged, this, &EditorView::stateChanged);
+    connect(&m_controller, &ViewController::stateChanged, m_ui->fillGapsButton,
+            [this] { m_ui->fillGapsButton->setChecked(m_controller.fillGaps()); });
     connect(m_ui->list, &DarkModeTableView::editingChanged, this, &EditorView::stateChanged);
     connect(m_emptyDocText, &EmptyDocText::openRequested, this, &EditorView::openRequested);
     connect(m_emptyDocText, &EmptyDocText::tvRequested, &m_controller,
@@ -177,13 +178,7 @@ void EditorView::setContextActions(const QList<QAction *> &actions)
 
 void EditorView::printList()
 {
-    TLLDocument *document = m_controller.stationDoc();
-    if (!document || !document->prompts() || m_controller.currentList().empty())
-        return;
-    const QString title = document->displayName();
-    document->prompts()->showPrintPanel(sheetWindow(), title, [this, title](QPrinter &printer) {
-        m_ui->list->print(printer, title);
-    });
+    quillet::printList(*m_ui->list, m_controller, sheetWindow());
 }
 
 void EditorView::setText(Field field, const QString &text)
@@ -308,6 +303,16 @@ void EditorView::scrollRowToVisible(qsizetype row)
     m_ui->list->scrollTo(m_model.index(static_cast<int>(row), 0));
 }
 
+qsizetype EditorView::topRow() const
+{
+    return m_ui->list->rowAt(0);
+}
+
+void EditorView::scrollRowToTop(qsizetype row)
+{
+    m_ui->list->scrollTo(m_model.index(static_cast<int>(row), 0), QAbstractItemView::PositionAtTop);
+}
+
 void EditorView::setNameColumnEditable(bool editable)
 {
     m_model.setNameColumnEditable(editable);
@@ -322,12 +327,9 @@ void EditorView::showForeignRows(const std::optional<ForeignRows> &rows)
 {
     if (!rows)
         return m_ui->foreignRowsBar->dismiss();
-    const auto title = [](int source) {
-        return qtTrId(sourceTitles.at(static_cast<std::size_t>(source)));
-    };
     m_ui->foreignRowsBar->showNotice(
         NoticeBar::Kind::Information,
-        qtTrId("kForeignRows").arg(title(rows->source), title(rows->currentSource)),
+        qtTrId("kForeignRows").arg(sourceTitle(rows->source), sourceTitle(rows->currentSource)),
         qtTrId("kClearFilters"));
 }
 

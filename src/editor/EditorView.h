@@ -60,16 +60,21 @@ public:
     [[nodiscard]] QList<qsizetype> selectedRows() const override;
     void selectRows(const QList<qsizetype> &rows) override;
     void scrollRowToVisible(qsizetype row) override;
+    [[nodiscard]] qsizetype topRow() const override;
+    void scrollRowToTop(qsizetype row) override;
     void setNameColumnEditable(bool editable) override;
     void showEmptyHint(EmptyHint hint) override;
     void showForeignRows(const std::optional<ForeignRows> &rows) override;
     void showNotice(const Notice &notice) override;
+    void tell(const QString &text) override { emit told(text); }
     [[nodiscard]] QWidget *sheetWindow() const override;
     using QWidget::setEnabled;
 
 signals:
     /// Something has changed that commands are enabled by.
     void stateChanged();
+    /// Something has just happened that a person should hear of.
+    void told(const QString &text);
     /// The person wants to choose a file.
     void openRequested();
 

@@ -1,6 +1,7 @@
 #include "editor/ElidedLabel.h"
 
 #include "files/ShownPath.h"
+#include "framework/PlainToolTip.h"
 
 #include <QPainter>
 #include <QStyle>
@@ -12,7 +13,7 @@ ElidedLabel::ElidedLabel(QWidget *parent) : QWidget(parent) {}
 void ElidedLabel::setText(const QString &text)
 {
     m_text = text;
-    setToolTip(shownPath(text));
+    setToolTip(plainToolTip(shownPath(text)));
     setAccessibleDescription(text);
     updateGeometry();
     update();

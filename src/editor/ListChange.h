@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/edit/ListStretch.h"
+#include "editor/EditSummary.h"
 #include "model/LGStation.h"
 
 #include <QFlags>
@@ -27,6 +28,7 @@ struct ListChange
     /// Outside of these places, ascending, nothing changed.
     std::vector<ListStretch> places;
     StationFields fields; ///< of the stations there
+    EditSummary summary;
 };
 
 } // namespace quillet

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/TLLDocument.h"
+#include "document/edit/Renumbering.h"
 #include "document/edit/StationEdits.h"
 #include "editor/ListChange.h"
 
@@ -14,6 +15,9 @@ namespace quillet {
 /// stations of another one it does nothing. Shows nothing but the document's own report of an
 /// order. Owned by the window's ViewController; holds the document weakly, without which nothing
 /// may be asked of it.
+///
+/// An edit that would give a station a number that it cannot carry is made only when that is said
+/// to be wanted, whatever way it comes here.
 class ListEditor : public QObject
 {
     Q_OBJECT
@@ -23,21 +27,31 @@ public:
 
     void setDocument(TLLDocument *document) { m_document = document; }
 
-    /// Moves stations (at least one) to a number as moveElemList() does. Returns the numbers, as
-    /// text, that should be selected afterwards.
-    QStringList move(const StationList &stations, qint64 target, bool fillGaps);
+    /// What becomes of numbers that cannot be carried.
+    enum class Beyond { Refused, Wanted };
+
+    /// What moving stations (at least one) to a number would do; empty for ones of another list.
+    [[nodiscard]] MovePlan planMove(const StationList &stations, qint64 target,
+                                    bool fillGaps) const;
+    /// Carries out a plan that was made of the list as it is. Returns whether it did.
+    bool move(const MovePlan &plan, Beyond beyond = Beyond::Refused);
+    /// How many stations would get a number that they cannot carry.
+    [[nodiscard]] std::size_t beyondAfterClosingGaps() const;
+    [[nodiscard]] std::size_t beyondAfterOrder(const ReferenceList &entries) const;
     /// Numbers the list 1, 2, 3 and so on. Without a gap nothing changes.
-    void closeGaps();
+    void closeGaps(Beyond beyond = Beyond::Refused);
     void rename(const StationPtr &station, const QString &name);
     void setFlag(const StationList &stations, StationFlag flag, bool set);
     /// Imposes a reference list. The file name is for the document's report.
-    void applyOrder(const ReferenceList &entries, const QString &fileName);
+    void applyOrder(const ReferenceList &entries, const QString &fileName,
+                    Beyond beyond = Beyond::Refused);
 
 signals:
     void changed(const quillet::ListChange &change);
 
 private:
-    void tell(ListChange::Kind kind, std::vector<ListStretch> places, StationFields fields);
+    void tell(ListChange::Kind kind, std::vector<ListStretch> places, StationFields fields,
+              const EditSummary &summary);
     [[nodiscard]] StationList &list() const { return *m_document->stations(); }
 
     QPointer<TLLDocument> m_document;

@@ -5,7 +5,6 @@
 #include "editor/ShownTexts.h"
 #include "files/Places.h"
 
-#include <QFileInfo>
 #include <QStringList>
 
 #include <array>
@@ -96,9 +95,11 @@ Notice noticeFor(const TLLDocument &document)
     }
     for (const FileFinding &finding : diagnose(document.list()))
         lines.append(textOf(finding));
+    if (const std::size_t count = document.list().beyondLastNumber; count > 0)
+        lines.append(qtTrId("kNoticeBeyond", static_cast<int>(count)).arg(LGStation::progNumMask));
     notice.isWarning = !lines.isEmpty() && !document.repair();
     const QString path = document.fileUrl().toLocalFile();
-    if (QFileInfo::exists(path) && !canBeReplaced(path))
+    if (isThere(path) && !canBeReplaced(path))
         lines.append(qtTrId("kNoticeReadOnly"));
     notice.text = lines.join(u'\n');
     return notice;

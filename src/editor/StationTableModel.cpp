@@ -6,6 +6,7 @@
 #include "editor/ShownTexts.h"
 #include "editor/StationColumns.h"
 #include "editor/ViewController.h"
+#include "framework/PlainToolTip.h"
 
 #include <QHash>
 #include <QMimeData>

@@ -3,9 +3,8 @@
 #include "editor/EditorQuestions.h"
 #include "editor/ListChange.h"
 #include "editor/NoticeTexts.h"
+#include "files/FileNames.h"
 #include "support/KXFileLog.h"
-
-#include <QDir>
 
 namespace quillet {
 
@@ -59,12 +58,32 @@ bool TableController::populateFromTLLDoc(TLLDocument &document, const Error &err
     return !m_loadFailed;
 }
 
+ShownPlace TableController::place() const
+{
+    return stationDoc() ? ShownPlace(m_shown.shownSource(), currentList(), m_outlets)
+                        : ShownPlace();
+}
+
+/// A source that has lost its stations leaves the one on show.
+void TableController::goTo(const ShownPlace &place)
+{
+    if (!stationDoc())
+        return;
+    if (m_shown.hasDataForSource(place.source())) {
+        m_outlets.selectSegment(place.source());
+        switchSource(place.source());
+    }
+    applyFilter();
+    m_outlets.selectRows(place.selectedRows(currentList()));
+    saveSelection();
+    updateButtons();
+    if (const qsizetype top = place.topRow(currentList()); top >= 0)
+        m_outlets.scrollRowToTop(top);
+}
+
 void TableController::displayFileName(const QString &path)
 {
-    const QString home = QDir::homePath();
-    const bool isInHome = path.startsWith(home + QLatin1Char('/'));
-    m_outlets.setText(EditorOutlets::Field::FileName,
-                      isInHome ? QLatin1Char('~') + path.sliced(home.size()) : path);
+    m_outlets.setText(EditorOutlets::Field::FileName, shortPath(path));
 }
 
 void TableController::showFileName()

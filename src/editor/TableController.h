@@ -1,6 +1,7 @@
 #pragma once
 
 #include "editor/EditorOutlets.h"
+#include "editor/ShownPlace.h"
 #include "editor/ShownStations.h"
 
 #include <QMap>
@@ -30,6 +31,10 @@ public:
     [[nodiscard]] TLLDocument *stationDoc() const { return m_shown.document(); }
     /// What is on show of it.
     [[nodiscard]] const ShownStations &shown() const { return m_shown; }
+
+    /// Where the person is, and going there again after the document was read anew.
+    [[nodiscard]] ShownPlace place() const;
+    void goTo(const ShownPlace &place);
 
     // Mode, source and filters
 

@@ -1,13 +1,16 @@
 #include "editor/TablePrinter.h"
 
 #include "editor/CellText.h"
+#include "editor/TableSelection.h"
 
 #include <QHeaderView>
+#include <QPageRanges>
 #include <QPainter>
 #include <QPrinter>
 #include <QTableView>
 
 #include <cmath>
+#include <numeric>
 
 namespace quillet {
 
@@ -23,33 +26,76 @@ const QColor secondRow(0xF3, 0xF3, 0xF3);
 
 } // namespace
 
-TablePrinter::TablePrinter(const QTableView &table, QString title)
-    : m_table(table), m_model(*table.model()), m_title(std::move(title))
+TablePrinter::TablePrinter(const QTableView &table, QString heading, QString title)
+    : m_table(table), m_model(*table.model()), m_heading(std::move(heading)),
+      m_title(std::move(title))
 {
 }
 
-void TablePrinter::print(QPrinter &printer)
+TablePrinter::Outcome TablePrinter::print(QPrinter &printer)
 {
-    QPainter painter(&printer);
+    chooseRows(printer.printRange() == QPrinter::Selection);
     const qreal scale = printer.resolution() / screenDotsPerInch;
-    painter.scale(scale, scale);
     // In pixels: a size in points would be scaled twice.
     QFont font = m_table.font();
     font.setPixelSize(QFontInfo(font).pixelSize());
-    painter.setFont(font);
     const Page page =
         layOut(QSizeF(printer.pageLayout().paintRectPixels(printer.resolution()).size()) / scale,
                QFontMetrics(font));
-    for (int number = 0; number < page.count; ++number) {
-        if (number > 0)
-            printer.newPage();
-        drawTitles(painter, page, 0);
-        const int first = number * page.rowsPerPage;
-        const int end = qMin(first + page.rowsPerPage, m_model.rowCount());
-        for (int row = first; row < end; ++row)
-            drawRow(painter, page, row, (row - first + 1) * page.rowHeight);
-        drawFooter(painter, page, number);
+    const std::vector<int> wanted = pagesWanted(printer, page);
+    if (wanted.empty())
+        return Outcome::NoSuchPage;
+
+    QPainter painter;
+    if (!painter.begin(&printer))
+        return Outcome::Failed;
+    painter.scale(scale, scale);
+    painter.setFont(font);
+    for (const int number : wanted) {
+        if (number != wanted.front() && !printer.newPage())
+            return Outcome::Failed;
+        drawPage(painter, page, number);
     }
+    return painter.end() && printer.printerState() != QPrinter::Error ? Outcome::Printed
+                                                                      : Outcome::Failed;
+}
+
+void TablePrinter::chooseRows(bool selectedOnly)
+{
+    m_rows.clear();
+    if (selectedOnly) {
+        for (const qsizetype row : selectedRows(*m_table.selectionModel()))
+            m_rows.push_back(static_cast<int>(row));
+    } else {
+        m_rows.resize(static_cast<std::size_t>(m_model.rowCount()));
+        std::iota(m_rows.begin(), m_rows.end(), 0);
+    }
+}
+
+std::vector<int> TablePrinter::pagesWanted(const QPrinter &printer, const Page &page) const
+{
+    if (printer.printRange() == QPrinter::CurrentPage)
+        return {qMax(0, m_table.currentIndex().row()) / page.rowsPerPage};
+    const QPageRanges ranges =
+        printer.printRange() == QPrinter::PageRange ? printer.pageRanges() : QPageRanges();
+    std::vector<int> pages;
+    for (int number = 0; number < page.count; ++number) {
+        if (ranges.isEmpty() || ranges.contains(number + 1))
+            pages.push_back(number);
+    }
+    return pages;
+}
+
+void TablePrinter::drawPage(QPainter &painter, const Page &page, int number) const
+{
+    drawHeading(painter, page);
+    drawTitles(painter, page, page.rowHeight);
+    const int first = number * page.rowsPerPage;
+    const int end = qMin(first + page.rowsPerPage, static_cast<int>(m_rows.size()));
+    for (int place = first; place < end; ++place)
+        drawRow(painter, page, m_rows[static_cast<std::size_t>(place)], place,
+                (place - first + 2) * page.rowHeight);
+    drawFooter(painter, page, number);
 }
 
 TablePrinter::Page TablePrinter::layOut(QSizeF size, const QFontMetrics &metrics) const
@@ -57,10 +103,11 @@ TablePrinter::Page TablePrinter::layOut(QSizeF size, const QFontMetrics &metrics
     Page page;
     page.size = size;
     page.rowHeight = metrics.height() + 2 * cellPadding;
-    // One row's height each is kept for the titles and for the footer with its distance.
-    const qreal forRows = size.height() - 2.5 * page.rowHeight;
+    // One row's height each is kept for the heading, the titles, and the footer with its distance.
+    const qreal forRows = size.height() - 3.5 * page.rowHeight;
     page.rowsPerPage = qMax(1, static_cast<int>(std::floor(forRows / page.rowHeight)));
-    page.count = qMax(1, (m_model.rowCount() + page.rowsPerPage - 1) / page.rowsPerPage);
+    const int rows = static_cast<int>(m_rows.size());
+    page.count = qMax(1, (rows + page.rowsPerPage - 1) / page.rowsPerPage);
 
     const QHeaderView &header = *m_table.horizontalHeader();
     const qreal factor = size.width() / qMax(1, header.length());
@@ -71,6 +118,15 @@ TablePrinter::Page TablePrinter::layOut(QSizeF size, const QFontMetrics &metrics
         page.columnEdges.push_back(edge);
     }
     return page;
+}
+
+void TablePrinter::drawHeading(QPainter &painter, const Page &page) const
+{
+    painter.setPen(ink);
+    const QRectF line(cellPadding, 0, page.size.width() - 2 * cellPadding, page.rowHeight);
+    painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter,
+                     painter.fontMetrics().elidedText(m_heading, Qt::ElideRight,
+                                                      static_cast<int>(line.width())));
 }
 
 void TablePrinter::drawTitles(QPainter &painter, const Page &page, qreal top) const
@@ -96,9 +152,9 @@ void TablePrinter::drawTitles(QPainter &painter, const Page &page, qreal top) co
                      QPointF(page.size.width(), top + page.rowHeight));
 }
 
-void TablePrinter::drawRow(QPainter &painter, const Page &page, int row, qreal top) const
+void TablePrinter::drawRow(QPainter &painter, const Page &page, int row, int place, qreal top) const
 {
-    if (row % 2 == 1)
+    if (place % 2 == 1)
         painter.fillRect(QRectF(0, top, page.size.width(), page.rowHeight), secondRow);
     painter.setPen(ink);
     for (int column = 0; column < m_model.columnCount(); ++column) {

@@ -12,14 +12,23 @@ class QTableView;
 
 namespace quillet {
 
-/// Prints the rows of a table: always dark on light, whatever the table looks like on screen; the
-/// column titles on each page; the columns in the table's proportions over the width of the page.
+/// Prints the rows of a table: always dark on light, whatever the table looks like on screen; a
+/// heading and the column titles on each page; the columns in the table's proportions over the
+/// width of the page.
 class TablePrinter
 {
 public:
-    TablePrinter(const QTableView &table, QString title);
+    /// The heading stands above each page, the title below it.
+    TablePrinter(const QTableView &table, QString heading, QString title);
 
-    void print(QPrinter &printer);
+    enum class Outcome {
+        Printed,
+        NoSuchPage, ///< nothing was begun: none of the pages chosen is there
+        Failed,     ///< the printer or the file could not be opened, or did not take everything
+    };
+    /// Prints what the printer is set to: all pages, some, the one with the table's current row, or
+    /// the selected rows alone.
+    [[nodiscard]] Outcome print(QPrinter &printer);
 
 private:
     /// In units of a screen pixel, to which the painter is scaled.
@@ -32,15 +41,23 @@ private:
         std::vector<qreal> columnEdges; ///< one more than there are columns
     };
 
+    void chooseRows(bool selectedOnly);
     [[nodiscard]] Page layOut(QSizeF size, const QFontMetrics &metrics) const;
+    /// Those to print, from 0 on.
+    [[nodiscard]] std::vector<int> pagesWanted(const QPrinter &printer, const Page &page) const;
+    void drawPage(QPainter &painter, const Page &page, int number) const;
+    void drawHeading(QPainter &painter, const Page &page) const;
     void drawTitles(QPainter &painter, const Page &page, qreal top) const;
-    void drawRow(QPainter &painter, const Page &page, int row, qreal top) const;
+    /// A row of the table, at a place among those printed.
+    void drawRow(QPainter &painter, const Page &page, int row, int place, qreal top) const;
     void drawCheckMark(QPainter &painter, const QRectF &cell, bool set) const;
     void drawFooter(QPainter &painter, const Page &page, int number) const;
 
     const QTableView &m_table;
     const QAbstractItemModel &m_model;
+    QString m_heading;
     QString m_title;
+    std::vector<int> m_rows; ///< to print
 };
 
 } // namespace quillet

@@ -2,6 +2,7 @@
 
 #include "document/ReferenceListFile.h"
 #include "editor/EditorQuestions.h"
+#include "editor/SourceTitles.h"
 #include "editor/StationColumns.h"
 #include "support/LenientNumber.h"
 
@@ -18,7 +19,10 @@ ViewController::ViewController(EditorOutlets &outlets, QObject *parent)
     : TableController(outlets, parent)
 {
     connect(this, &TableController::documentChanged, &m_editor, &ListEditor::setDocument);
-    connect(&m_editor, &ListEditor::changed, this, &ViewController::showChange);
+    connect(&m_editor, &ListEditor::changed, this, [this](const ListChange &change) {
+        showChange(change);
+        this->outlets().tell(textOf(change.summary));
+    });
     connect(&m_droppedFiles, &DroppedFiles::loaded, this, &ViewController::fileLoaded);
     connect(&m_droppedFiles, &DroppedFiles::refused, this, &ViewController::fileRefused);
 }
@@ -36,6 +40,13 @@ void ViewController::fillGapsIfWanted()
 {
     if (!m_fillGaps || !shown().hasData())
         return;
+    whenNumbersSuffice(
+        m_editor.beyondAfterClosingGaps(), [this](ListEditor::Beyond beyond) { closeGaps(beyond); },
+        [this] { fillGapsClicked(false); });
+}
+
+void ViewController::closeGaps(ListEditor::Beyond beyond)
+{
     StationList selected;
     if (!shown().areForeign()) {
         selected = shown().stationsAt(outlets().selectedRows());
@@ -46,19 +57,22 @@ void ViewController::fillGapsIfWanted()
                 selected.push_back(station);
         }
     }
-    m_editor.closeGaps();
+    m_editor.closeGaps(beyond);
     if (!selected.empty())
         savedSelection().follow(selected);
 }
 
 void ViewController::moveItemsToClicked()
 {
-    if (!stationDoc() || shown().areForeign())
+    if (!stationDoc() || tellForeignRows())
         return;
-    questions().askForNumber(outlets().selectedRows().size(), [this](qint64 number) {
-        moveSelectedElements(outlets().selectedRows(), number);
-        restoreSelection();
-    });
+    questions().askForNumber(
+        outlets().selectedRows().size(),
+        [this](qint64 number) {
+            moveSelectedElements(outlets().selectedRows(), number);
+            restoreSelection();
+        },
+        [this] { outlets().tell(qtTrId("kToldNotMoved").arg(highestTarget)); });
 }
 
 void ViewController::moveSelectedElements(const QList<qsizetype> &rows, qint64 target)
@@ -77,21 +91,62 @@ void ViewController::moveElements(qsizetype firstRow, qsizetype count, qint64 ta
 /// them; then the moved ones are selected all the same.
 void ViewController::moveStations(const StationList &stations, qint64 target)
 {
-    if (stations.empty())
+    if (stations.empty()) {
+        tellForeignRows();
         return;
-    savedSelection().set(m_editor.move(stations, target, m_fillGaps));
+    }
+    const MovePlan plan = m_editor.planMove(stations, target, m_fillGaps);
+    whenNumbersSuffice(plan.beyond(), [this, plan](ListEditor::Beyond beyond) {
+        // What was asked may have taken a while.
+        carryOut(beyond == ListEditor::Beyond::Refused
+                     ? plan
+                     : m_editor.planMove(plan.moved, plan.target, m_fillGaps),
+                 beyond);
+    });
+}
+
+void ViewController::carryOut(const MovePlan &plan, ListEditor::Beyond beyond)
+{
+    if (!m_editor.move(plan, beyond))
+        return;
+    savedSelection().set(plan.selection);
     updateButtons();
     if (m_fillGaps)
-        savedSelection().follow(stations);
+        savedSelection().follow(plan.moved);
     restoreSelection();
+}
+
+void ViewController::whenNumbersSuffice(std::size_t beyond,
+                                        const std::function<void(ListEditor::Beyond)> &goOn,
+                                        const std::function<void()> &refused)
+{
+    if (beyond == 0)
+        return goOn(ListEditor::Beyond::Refused);
+    questions().askToGoBeyond(beyond, [goOn, refused](bool isWanted) {
+        if (isWanted)
+            goOn(ListEditor::Beyond::Wanted);
+        else if (refused)
+            refused();
+    });
+}
+
+bool ViewController::tellForeignRows()
+{
+    const auto rows = shown().areForeign() ? shown().foreignRows() : std::nullopt;
+    if (rows)
+        outlets().tell(qtTrId("kToldForeign")
+                           .arg(sourceTitle(rows->source), sourceTitle(rows->currentSource)));
+    return shown().areForeign();
 }
 
 void ViewController::setObjectValue(const QVariant &value, const QString &column, qsizetype row)
 {
     const StationColumn *known = stationColumn(column);
     const StationList edited = shown().ownStationsAt({row});
-    if (!known || edited.empty())
+    if (!known || edited.empty()) {
+        tellForeignRows();
         return;
+    }
     switch (known->content) {
     case ColumnContent::Number:
         if (const qint64 number = lenientInteger(value.toString());
@@ -126,8 +181,10 @@ void ViewController::changeChildLockForSelectedItems()
 void ViewController::toggleSelected(StationFlag flag)
 {
     const StationList selected = shown().ownStationsAt(outlets().selectedRows());
-    if (selected.empty())
+    if (selected.empty()) {
+        tellForeignRows();
         return;
+    }
     m_editor.setFlag(selected, flag, toggledFlag(selected, flag));
     updateButtons();
 }
@@ -158,8 +215,16 @@ void ViewController::applyOrderFile(const QString &path)
         showError(reason, qtTrId("kOrderEmpty").arg(name));
         return;
     }
+    whenNumbersSuffice(
+        m_editor.beyondAfterOrder(entries),
+        [this, entries, name](ListEditor::Beyond beyond) { applyOrder(entries, name, beyond); });
+}
+
+void ViewController::applyOrder(const ReferenceList &entries, const QString &fileName,
+                                ListEditor::Beyond beyond)
+{
     outlets().selectRows({});
-    m_editor.applyOrder(entries, name);
+    m_editor.applyOrder(entries, fileName, beyond);
     updateButtons();
     saveSelection();
 }
@@ -182,7 +247,12 @@ DragOperation ViewController::validateDrop(const TableDrag &drag)
 bool ViewController::acceptDrop(const TableDrag &drag)
 {
     if (m_containsFile && !drag.files.isEmpty()) {
-        QTimer::singleShot(0, this, [this, path = drag.files.front()] { loadTLLFile(path); });
+        QTimer::singleShot(0, this, [this, files = drag.files] {
+            loadTLLFile(files.front());
+            if (const auto others = static_cast<int>(files.size()) - 1; others > 0)
+                outlets().tell(
+                    qtTrId("kToldOthersDropped", others).arg(QFileInfo(files.front()).fileName()));
+        });
         return true;
     }
     const bool isInPlace = !drag.draggedRows.isEmpty() && drag.draggedRows.front() + 1 == drag.row;

@@ -8,6 +8,8 @@
 
 #include <QVariant>
 
+#include <functional>
+
 namespace quillet {
 
 /// The logic of one editor window: what is on show, as its base says, and what each command, typed
@@ -68,6 +70,16 @@ signals:
 
 private:
     void moveStations(const StationList &stations, qint64 target);
+    void carryOut(const MovePlan &plan, ListEditor::Beyond beyond);
+    /// Calls it at once, or after asking when stations would get numbers that they cannot carry.
+    /// What was refused is told by `refused`, which may be empty.
+    void whenNumbersSuffice(std::size_t beyond, const std::function<void(ListEditor::Beyond)> &goOn,
+                            const std::function<void()> &refused = {});
+    void applyOrder(const ReferenceList &entries, const QString &fileName,
+                    ListEditor::Beyond beyond);
+    void closeGaps(ListEditor::Beyond beyond);
+    /// Says why the stations in foreign rows stay as they are. Returns whether there are such.
+    bool tellForeignRows();
     void toggleSelected(StationFlag flag);
     void fileLoaded(const Error &error);
     void fileRefused(const Error &error);

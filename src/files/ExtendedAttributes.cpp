@@ -1,5 +1,7 @@
 #include "files/ExtendedAttributes.h"
 
+#include "files/FileNames.h"
+
 #include <QFile>
 
 #include <algorithm>
@@ -47,7 +49,7 @@ bool isCopied(const QByteArray &name)
 
 bool copyExtendedAttributes(const QString &path, int handle)
 {
-    const QByteArray from = QFile::encodeName(path);
+    const QByteArray from = bytesOfPath(path);
     const auto names = taken(
         [&from](char *to, std::size_t size) { return ::listxattr(from.constData(), to, size); });
     if (!names)
@@ -74,7 +76,7 @@ bool copyExtendedAttributes(const QString &path, int handle)
 
 std::optional<QByteArray> accessListOf(const QString &path)
 {
-    const QByteArray from = QFile::encodeName(path);
+    const QByteArray from = bytesOfPath(path);
     const auto list = taken([&from](char *to, std::size_t size) {
         return ::getxattr(from.constData(), accessListName, to, size);
     });
@@ -97,7 +99,7 @@ bool copyExtendedAttributes(const QString &path, int handle)
 {
 #if defined(Q_OS_DARWIN)
     // The access list of that system stands beside the mode and does not change what it means.
-    const int from = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
+    const int from = ::open(bytesOfPath(path).constData(), O_RDONLY | O_CLOEXEC);
     const bool areCopied =
         from >= 0 && ::fcopyfile(from, handle, nullptr, COPYFILE_XATTR | COPYFILE_ACL) == 0;
     if (from >= 0)

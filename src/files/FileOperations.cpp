@@ -1,10 +1,11 @@
 #include "files/FileOperations.h"
 
 #include "files/ExtendedAttributes.h"
+#include "files/FileNames.h"
+#include "files/FileReading.h"
 #include "files/FileRights.h"
 
 #include <QFile>
-#include <QFileInfo>
 
 #include <cerrno>
 #include <filesystem>
@@ -40,17 +41,22 @@ bool succeeded(int result, QString &reason)
 
 bool FileOperations::create(QFile &file, bool isPrivate, QString &reason)
 {
-    const auto mode = QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered;
+    const auto mode = QIODevice::WriteOnly | QIODevice::Unbuffered;
 #ifdef Q_OS_WIN
     Q_UNUSED(isPrivate); // access rights come from the folder
-    const bool isOpen = file.open(mode);
-#else
-    const bool isOpen =
-        isPrivate ? file.open(mode, QFile::ReadOwner | QFile::WriteOwner) : file.open(mode);
-#endif
+    const bool isOpen = file.open(mode | QIODevice::NewOnly);
     if (!isOpen)
         reason = file.errorString();
     return isOpen;
+#else
+    // Opened here: Qt knows no file whose name is no text.
+    constexpr mode_t everybody = S_IRUSR | S_IWUSR | S_IRGRP | S_IWGRP | S_IROTH | S_IWOTH;
+    const int handle =
+        ::open(bytesOfPath(file.fileName()).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC,
+               isPrivate ? mode_t{S_IRUSR | S_IWUSR} : everybody);
+    return succeeded(handle < 0 ? -1 : 0, reason) &&
+           file.open(handle, mode, QFileDevice::AutoCloseHandle);
+#endif
 }
 
 qint64 FileOperations::write(QFile &file, const QByteArray &bytes, QString &reason)
@@ -100,7 +106,7 @@ bool FileOperations::setMode(QFile &, quint32, QString &)
 bool FileOperations::readRights(const QString &path, FileRights &rights, QString &reason)
 {
     struct stat found = {};
-    if (!succeeded(::stat(QFile::encodeName(path).constData(), &found), reason))
+    if (!succeeded(::stat(bytesOfPath(path).constData(), &found), reason))
         return false;
     const std::optional<QByteArray> list = accessListOf(path);
     if (!succeeded(list ? 0 : -1, reason))
@@ -159,18 +165,17 @@ bool FileOperations::sync(QFile &file, QString &reason)
 
 bool FileOperations::readBack(const QString &path, QByteArray &bytes, QString &reason)
 {
-    QFile file(path);
-    if (file.open(QIODevice::ReadOnly))
-        bytes = file.readAll();
-    reason = file.errorString();
-    return file.error() == QFile::NoError;
+    Error error;
+    if (readFile(QUrl::fromLocalFile(path), bytes, error))
+        return true;
+    reason = error.localizedDescription;
+    return false;
 }
 
 bool FileOperations::rename(const QString &from, const QString &to, QString &reason)
 {
     std::error_code code;
-    std::filesystem::rename(QFileInfo(from).filesystemFilePath(),
-                            QFileInfo(to).filesystemFilePath(), code);
+    std::filesystem::rename(nativePath(from), nativePath(to), code);
     if (code)
         reason = text(code);
     return !code;
@@ -181,7 +186,7 @@ void FileOperations::syncFolder(const QString &folder)
 #ifdef Q_OS_WIN
     Q_UNUSED(folder);
 #else
-    const int handle = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_CLOEXEC);
+    const int handle = ::open(bytesOfPath(folder).constData(), O_RDONLY | O_CLOEXEC);
     if (handle < 0)
         return;
     ::fsync(handle);

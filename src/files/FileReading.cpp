@@ -1,9 +1,19 @@
 #include "files/FileReading.h"
 
+#include "files/FileNames.h"
 #include "files/ShownPath.h"
 
 #include <QFile>
 #include <QFileInfo>
+
+#include <cerrno>
+#include <new>
+#include <system_error>
+
+#ifndef Q_OS_WIN
+#include <fcntl.h>
+#include <sys/stat.h>
+#endif
 
 namespace quillet {
 
@@ -12,33 +22,103 @@ namespace {
 /// Reading more than this would rather exhaust the memory than open a document (512 MiB).
 constexpr qint64 largestFile = qint64{512} << 20;
 
-/// Why a file cannot be read, told from the outside; empty when nothing speaks against it.
-QString obstacle(const QUrl &url)
+#ifdef Q_OS_WIN
+QString openForReading(QFile &file)
 {
-    if (!url.isLocalFile())
-        return qtTrId("kNotALocalFileReason");
-    const QFileInfo info(url.toLocalFile());
+    const QFileInfo info(file.fileName());
     if (!info.exists())
         return qtTrId("kFileMissingReason").arg(shownPath(info.absoluteFilePath()));
     if (info.isDir())
         return qtTrId("kIsAFolderReason").arg(info.fileName());
     if (!info.isFile())
         return qtTrId("kNotAFileReason").arg(info.fileName());
-    return info.size() > largestFile ? qtTrId("kFileTooLargeReason") : QString();
+    if (!file.open(QIODevice::ReadOnly))
+        return qtTrId("kFileUnreadableReason").arg(file.errorString());
+    return {};
+}
+#else
+/// What keeps something of that kind from being read; empty for an ordinary file.
+QString obstacleOf(const struct stat &status, const QString &name)
+{
+    if (S_ISDIR(status.st_mode))
+        return qtTrId("kIsAFolderReason").arg(name);
+    return S_ISREG(status.st_mode) ? QString() : qtTrId("kNotAFileReason").arg(name);
+}
+
+/// Opens an ordinary file and nothing else: opening alone can wait for ever, or set a device going.
+/// Something else may have come to the path since it was looked at, so that what is open is looked
+/// at again, and opening waits for nobody.
+QString openForReading(QFile &file)
+{
+    const QString path = file.fileName();
+    const QString name = readable(QFileInfo(path).fileName());
+    const auto unreadable = [](int number) {
+        return qtTrId("kFileUnreadableReason")
+            .arg(
+                QString::fromLocal8Bit(std::error_code(number, std::generic_category()).message()));
+    };
+    const QByteArray bytes = bytesOfPath(path);
+    struct stat status = {};
+    if (::stat(bytes.constData(), &status) != 0)
+        return errno == ENOENT || errno == ENOTDIR
+                   ? qtTrId("kFileMissingReason").arg(shownPath(absolutePath(path)))
+                   : unreadable(errno);
+    const QString obstacle = obstacleOf(status, name);
+    if (!obstacle.isEmpty())
+        return obstacle;
+    const int handle = ::open(bytes.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+    if (handle < 0)
+        return unreadable(errno);
+    if (!file.open(handle, QIODevice::ReadOnly | QIODevice::Unbuffered,
+                   QFileDevice::AutoCloseHandle) ||
+        ::fstat(handle, &status) != 0)
+        return unreadable(errno);
+    return obstacleOf(status, name);
+}
+#endif
+
+/// Reads the open file to its end; some that pass for ordinary ones have none, or no size.
+QString readAll(QFile &file, QByteArray &bytes)
+{
+    constexpr qint64 step = 0x10000;
+    const qint64 expected = file.size();
+    if (expected > largestFile)
+        return qtTrId("kFileTooLargeReason");
+    bytes.reserve(expected + step);
+    qint64 count = 0;
+    while (count <= largestFile) {
+        bytes.resize(qMax(expected, count + step));
+        const qint64 taken = file.read(bytes.data() + count, bytes.size() - count);
+        if (taken < 0)
+            return qtTrId("kFileUnreadableReason").arg(file.errorString());
+        if (taken == 0) {
+            bytes.truncate(count);
+            return {};
+        }
+        count += taken;
+    }
+    return qtTrId("kFileTooLargeReason");
+}
+
+QString read(const QString &path, QByteArray &bytes)
+{
+    try {
+        QFile file(path);
+        QString obstacle = openForReading(file);
+        if (obstacle.isEmpty())
+            obstacle = readAll(file, bytes);
+        return obstacle;
+    } catch (const std::bad_alloc &) {
+        return qtTrId("kNoMemoryReason");
+    }
 }
 
 } // namespace
 
 bool readFile(const QUrl &url, QByteArray &bytes, Error &error)
 {
-    QString reason = obstacle(url);
-    if (reason.isEmpty()) {
-        QFile file(url.toLocalFile());
-        if (file.open(QIODevice::ReadOnly))
-            bytes = file.readAll();
-        if (file.error() != QFile::NoError)
-            reason = qtTrId("kFileUnreadableReason").arg(file.errorString());
-    }
+    const QString reason =
+        url.isLocalFile() ? read(url.toLocalFile(), bytes) : qtTrId("kNotALocalFileReason");
     if (!reason.isEmpty())
         error = {QStringLiteral("FileReading"), 1, reason, url.toLocalFile()};
     return reason.isEmpty();

@@ -1,17 +1,23 @@
 #include "files/FileReplacement.h"
 
+#include "files/FileNames.h"
 #include "files/FileOperations.h"
 #include "files/Places.h"
 #include "files/ShownPath.h"
 
-#include <QDateTime>
-#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 #include <QRandomGenerator>
+#include <QRegularExpression>
 #include <QScopeGuard>
 
+#include <chrono>
+#include <filesystem>
 #include <optional>
+#include <system_error>
+#include <utility>
+
+namespace fs = std::filesystem;
 
 namespace quillet {
 
@@ -23,6 +29,17 @@ Error failure(FileReplacement::Failure code, const QString &description)
         QString::fromLatin1(FileReplacement::errorDomain), static_cast<int>(code), description, {}};
 }
 
+/// A file that keeps its name while it is open, which one that was opened by hand does not.
+class NamedFile : public QFile
+{
+public:
+    explicit NamedFile(QString path) : m_path(std::move(path)) {}
+    [[nodiscard]] QString fileName() const override { return m_path; }
+
+private:
+    QString m_path;
+};
+
 /// A path in the folder that no file has yet. The name is short whatever the target is called.
 QString unusedPath(const QString &folder)
 {
@@ -31,7 +48,7 @@ QString unusedPath(const QString &folder)
         path = QStringLiteral("%1/.quillet-%2")
                    .arg(folder)
                    .arg(QRandomGenerator::global()->generate(), 8, 16, QLatin1Char('0'));
-    } while (QFileInfo::exists(path));
+    } while (isThere(path));
     return path;
 }
 
@@ -39,14 +56,16 @@ QString unusedPath(const QString &folder)
 /// who is writing right now, or be wanted back.
 void removeLeftovers(const QString &folder)
 {
-    const QString pattern = QStringLiteral(".quillet-") + QStringLiteral("[0-9a-f]").repeated(8);
-    const QDateTime yesterday = QDateTime::currentDateTimeUtc().addDays(-1);
-    QDirIterator files(folder, {pattern},
-                       QDir::Files | QDir::Hidden | QDir::NoSymLinks | QDir::CaseSensitive);
-    while (files.hasNext()) {
-        const QFileInfo file = files.nextFileInfo();
-        if (file.lastModified() < yesterday)
-            QFile::remove(file.filePath());
+    static const QRegularExpression pattern(QStringLiteral("\\A\\.quillet-[0-9a-f]{8}\\z"));
+    const auto yesterday = fs::file_time_type::clock::now() - std::chrono::hours(24);
+    std::error_code code;
+    for (fs::directory_iterator files(nativePath(folder), code), end; !code && files != end;
+         files.increment(code)) {
+        std::error_code of;
+        const bool isLeftover = pattern.match(pathFromNative(files->path().filename())).hasMatch();
+        if (isLeftover && files->symlink_status(of).type() == fs::file_type::regular &&
+            files->last_write_time(of) < yesterday && !of)
+            fs::remove(files->path(), of);
     }
 }
 
@@ -70,20 +89,25 @@ Error FileReplacement::replaceTarget(const QString &target, const QByteArray &by
                                      const Check &mayReplace)
 {
     const QFileInfo info(target);
-    const bool hasOldFile = info.exists();
+    const QString name = readable(info.fileName());
+    const bool hasOldFile = isThere(target);
     // A rename would not ask for the right to write the old file, nor mind what kind of file it is.
-    if (hasOldFile && !info.isFile())
-        return failure(Failure::Target, qtTrId("kNotAFileReason").arg(info.fileName()));
-    if (hasOldFile && !info.isWritable())
-        return failure(Failure::Target, qtTrId("kWriteProtectedReason").arg(info.fileName()));
+    if (hasOldFile && !isOrdinaryFile(target))
+        return failure(Failure::Target, qtTrId("kNotAFileReason").arg(name));
+    if (hasOldFile && !isWritable(target))
+        return failure(Failure::Target, qtTrId("kWriteProtectedReason").arg(name));
 
     removeLeftovers(info.path());
-    QFile file(unusedPath(info.path()));
+    NamedFile file(unusedPath(info.path()));
     QString reason;
     if (!m_operations.create(file, hasOldFile, reason))
         return failure(Failure::Create,
                        qtTrId("kCreateFailedReason").arg(shownPath(info.path()), reason));
-    auto removeNewFile = qScopeGuard([&file] { file.remove(); });
+    auto removeNewFile = qScopeGuard([&file] {
+        file.close();
+        std::error_code unused;
+        fs::remove(nativePath(file.fileName()), unused);
+    });
     if (m_operations.write(file, bytes, reason) != bytes.size())
         return failure(Failure::Write, qtTrId("kWriteFailedReason").arg(reason));
     if (hasOldFile && !keepRights(m_operations, target, file, m_notKept, reason))

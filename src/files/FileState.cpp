@@ -3,8 +3,6 @@
 #include "files/FileReading.h"
 #include "files/Places.h"
 
-#include <QFileInfo>
-
 namespace quillet {
 
 FileState FileState::none(const QString &path)
@@ -26,7 +24,7 @@ FileState FileState::of(const QString &path, const QByteArray &bytes)
 FileState FileState::at(const QString &path)
 {
     FileState state = none(path);
-    state.m_exists = QFileInfo::exists(path);
+    state.m_exists = isThere(path);
     Error unused;
     if (state.m_exists && !readFile(QUrl::fromLocalFile(path), state.m_bytes, unused))
         state.m_bytes.clear();

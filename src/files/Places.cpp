@@ -1,6 +1,7 @@
 #include "files/Places.h"
 
-#include <QFile>
+#include "files/FileNames.h"
+
 #include <QFileInfo>
 
 #include <filesystem>
@@ -8,6 +9,7 @@
 
 #ifndef Q_OS_WIN
 #include <sys/stat.h>
+#include <unistd.h>
 #endif
 
 namespace fs = std::filesystem;
@@ -26,28 +28,38 @@ constexpr Qt::CaseSensitivity nameCase = Qt::CaseSensitive;
 std::optional<struct stat> statusOf(const QString &path)
 {
     struct stat status = {};
-    if (::stat(QFile::encodeName(path).constData(), &status) != 0)
+    if (::stat(bytesOfPath(path).constData(), &status) != 0)
         return {};
     return status;
 }
 #endif
 
-/// Where the file would be that is not there: its folder's place and its name.
-QString placeToBe(const QFileInfo &info)
+/// Empty when nothing is there.
+QString canonicalText(const fs::path &path)
 {
-    const QString folder = QFileInfo(info.path()).canonicalFilePath();
-    return folder.isEmpty() ? info.absoluteFilePath() : folder + u'/' + info.fileName();
+    std::error_code code;
+    const fs::path found = fs::canonical(path, code);
+    return code ? QString() : pathFromNative(found);
+}
+
+/// Where the file would be that is not there: its folder's place and its name.
+QString placeToBe(const QString &path)
+{
+    const fs::path absolute = nativePath(absolutePath(path));
+    const QString folder = canonicalText(absolute.parent_path());
+    return folder.isEmpty() ? pathFromNative(absolute)
+                            : folder + u'/' + pathFromNative(absolute.filename());
 }
 
 } // namespace
 
 std::optional<QString> resolveLinks(const QString &path)
 {
-    fs::path current = QFileInfo(path).filesystemFilePath();
+    fs::path current = nativePath(path);
     std::error_code code;
     for (int i = 0; i < longestChain && !code; ++i) {
         if (!fs::is_symlink(current, code))
-            return QFileInfo(current).filePath();
+            return pathFromNative(current);
         current = current.parent_path() / fs::read_symlink(current, code);
     }
     return std::nullopt;
@@ -55,10 +67,9 @@ std::optional<QString> resolveLinks(const QString &path)
 
 QString placeOf(const QString &path)
 {
-    const QString canonical = QFileInfo(path).canonicalFilePath();
+    const QString place = canonicalText(nativePath(path));
     // A link may lead to a file that is not there.
-    return canonical.isEmpty() ? placeToBe(QFileInfo(resolveLinks(path).value_or(path)))
-                               : canonical;
+    return place.isEmpty() ? placeToBe(resolveLinks(path).value_or(path)) : place;
 }
 
 bool samePlace(const QString &a, const QString &b)
@@ -87,10 +98,38 @@ std::optional<quint64> deviceOf(const QString &path)
     return {};
 }
 
+bool isThere(const QString &path)
+{
+    std::error_code code;
+    return fs::exists(nativePath(path), code);
+}
+
+bool isOrdinaryFile(const QString &path)
+{
+    std::error_code code;
+    return fs::is_regular_file(nativePath(path), code);
+}
+
+qint64 sizeOf(const QString &path)
+{
+    std::error_code code;
+    const auto size = fs::file_size(nativePath(path), code);
+    return code ? 0 : static_cast<qint64>(size);
+}
+
+bool isWritable(const QString &path)
+{
+#ifdef Q_OS_WIN
+    return QFileInfo(path).isWritable();
+#else
+    return ::access(bytesOfPath(path).constData(), W_OK) == 0;
+#endif
+}
+
 bool canBeReplaced(const QString &path)
 {
-    const QFileInfo file(placeOf(path));
-    return (!file.exists() || file.isWritable()) && QFileInfo(file.path()).isWritable();
+    const QString file = placeOf(path);
+    return (!isThere(file) || isWritable(file)) && isWritable(QFileInfo(file).path());
 }
 
 } // namespace quillet

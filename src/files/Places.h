@@ -21,6 +21,14 @@ namespace quillet {
 /// A number of the device that the file's folder lies on, which is another one as soon as the
 /// device is gone; none when there is no such folder or the system does not tell.
 [[nodiscard]] std::optional<quint64> deviceOf(const QString &path);
+/// Whether there is anything at the path, at the end of its links.
+[[nodiscard]] bool isThere(const QString &path);
+/// Whether that is an ordinary file.
+[[nodiscard]] bool isOrdinaryFile(const QString &path);
+/// Of the file there, in bytes; 0 when there is none.
+[[nodiscard]] qint64 sizeOf(const QString &path);
+/// Whether the system lets us write to what is there, so far as it tells before.
+[[nodiscard]] bool isWritable(const QString &path);
 /// Whether the system lets us replace the file, so far as it tells before.
 [[nodiscard]] bool canBeReplaced(const QString &path);
 

@@ -3,6 +3,9 @@
 #include "files/FileReplacement.h"
 #include "files/Places.h"
 
+#include <new>
+#include <utility>
+
 namespace quillet {
 
 void SaveJob::start(const QString &path, const std::optional<FileState> &expected,
@@ -24,16 +27,23 @@ void SaveJob::make()
 {
     if (isRefused())
         return;
-    Error error;
-    const QByteArray bytes = m_client->makeBytes(error);
-    if (!error.isEmpty())
-        return finish(Outcome::Failed, error);
-    m_client->review(bytes, [job = shared_from_this()](const std::optional<QByteArray> &reviewed) {
-        if (reviewed)
-            job->lookAtTheDisk(*reviewed);
-        else
-            job->finish(Outcome::GivenUp);
-    });
+    // Writing and rehearsing a large list may need more memory than there is; nothing has touched
+    // the disk by then.
+    try {
+        Error error;
+        const QByteArray bytes = m_client->makeBytes(error);
+        if (!error.isEmpty())
+            return finish(Outcome::Failed, error);
+        m_client->review(bytes,
+                         [job = shared_from_this()](const std::optional<QByteArray> &reviewed) {
+                             if (reviewed)
+                                 job->lookAtTheDisk(*reviewed);
+                             else
+                                 job->finish(Outcome::GivenUp);
+                         });
+    } catch (const std::bad_alloc &) {
+        finish(Outcome::Failed, {QStringLiteral("SaveJob"), 2, qtTrId("kNoMemoryReason"), m_path});
+    }
 }
 
 bool SaveJob::isRefused()
@@ -72,12 +82,18 @@ void SaveJob::replace(const QByteArray &bytes)
         const bool wasChanged = error.code == static_cast<int>(FileReplacement::Failure::Changed);
         return wasChanged ? lookAtTheDisk(bytes) : finish(Outcome::Failed, error);
     }
-    m_client->finished({Outcome::Written, {}, FileState::of(m_path, bytes), replacement.notKept()});
+    finish({Outcome::Written, {}, FileState::of(m_path, bytes), replacement.notKept()});
 }
 
 void SaveJob::finish(Outcome outcome, const Error &error)
 {
-    m_client->finished({outcome, error, {}, {}});
+    finish({outcome, error, {}, {}});
+}
+
+void SaveJob::finish(const Result &result)
+{
+    if (!std::exchange(m_isFinished, true))
+        m_client->finished(result);
 }
 
 } // namespace quillet

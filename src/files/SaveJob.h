@@ -69,11 +69,13 @@ private:
     void lookAtTheDisk(const QByteArray &bytes);
     void replace(const QByteArray &bytes);
     void finish(Outcome outcome, const Error &error = {});
+    void finish(const Result &result);
 
     QString m_path;
     FileState m_expected;
     std::shared_ptr<Client> m_client;
     FileOperations &m_operations;
+    bool m_isFinished = false;
 };
 
 } // namespace quillet

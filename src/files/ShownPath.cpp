@@ -1,5 +1,7 @@
 #include "files/ShownPath.h"
 
+#include "files/FileNames.h"
+
 #include <QStringList>
 
 #include <algorithm>
@@ -21,9 +23,10 @@ bool readsFromRightToLeft(QChar c)
 
 QString shownPath(const QString &path)
 {
-    if (std::none_of(path.begin(), path.end(), readsFromRightToLeft))
-        return path;
-    QStringList names = path.split(u'/');
+    const QString text = readable(path);
+    if (std::none_of(text.begin(), text.end(), readsFromRightToLeft))
+        return text;
+    QStringList names = text.split(u'/');
     const qsizetype dot = names.constLast().lastIndexOf(u'.');
     const QString suffix = dot > 0 ? names.constLast().sliced(dot) : QString();
     names.last().chop(suffix.size());

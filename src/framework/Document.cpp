@@ -1,14 +1,19 @@
 #include "framework/Document.h"
 
+#include "files/FileNames.h"
 #include "files/FileOperations.h"
 #include "files/FileReading.h"
+#include "files/Places.h"
+#include "files/ShownPath.h"
 #include "framework/WaitCursor.h"
 #include "framework/WindowController.h"
 
 #include <QEvent>
+#include <QFileInfo>
 #include <QMainWindow>
 #include <QPointer>
 
+#include <new>
 #include <utility>
 
 namespace quillet {
@@ -47,7 +52,26 @@ void Document::suggestSaving(const QUrl &suggested, const QUrl &untouched)
 QString Document::displayName() const
 {
     const QUrl &url = m_fileUrl.isEmpty() ? m_suggestedUrl : m_fileUrl;
-    return url.isEmpty() ? qtTrId("kUntitled") : url.fileName();
+    return url.isEmpty() ? qtTrId("kUntitled") : readable(QFileInfo(url.toLocalFile()).fileName());
+}
+
+QString Document::folder() const
+{
+    const QUrl &url = m_fileUrl.isEmpty() ? m_suggestedUrl : m_fileUrl;
+    return url.isEmpty() ? QString() : QFileInfo(url.toLocalFile()).path();
+}
+
+QString Document::titleName() const
+{
+    if (!m_showsFolder || folder().isEmpty())
+        return displayName();
+    return displayName() + QStringLiteral(u" \u2014 ") + shownPath(shortPath(folder()));
+}
+
+void Document::setShowsFolder(bool shows)
+{
+    if (std::exchange(m_showsFolder, shows) != shows)
+        emit titleNameChanged();
 }
 
 bool Document::replaceContent(const QByteArray &data, const QString &typeName, Error &error)
@@ -63,7 +87,13 @@ bool Document::readFromUrl(const QUrl &url, const QString &typeName, Error &erro
     if (!readFile(url, bytes, error))
         return false;
     const WaitCursor wait(WaitCursor::Work::Opening, bytes.size());
-    if (!replaceContent(bytes, typeName, error)) {
+    bool isReplaced = false;
+    try {
+        isReplaced = replaceContent(bytes, typeName, error);
+    } catch (const std::bad_alloc &) {
+        error = {QStringLiteral("Document"), 2, qtTrId("kNoMemoryReason"), path};
+    }
+    if (!isReplaced) {
         if (error.isEmpty())
             error = {QStringLiteral("Document"), 1, qtTrId("kContentUnknownReason"), path};
         return false;
@@ -127,6 +157,11 @@ void Document::updateChangeCount(Change change)
 void Document::documentWasSaved()
 {
     updateChangeCount(Change::Cleared);
+}
+
+QString Document::savedText() const
+{
+    return qtTrId("kToldSaved").arg(shownPath(shortPath(m_fileUrl.toLocalFile())));
 }
 
 QWidget *Document::sheetWindow() const
@@ -227,6 +262,7 @@ void Document::wasWritten(const FileState &written)
     documentWasSaved();
     if (isNewPlace)
         emit placeWasChosen();
+    emit told(savedText());
 }
 
 void Document::revertDocumentToSaved()
@@ -235,26 +271,76 @@ void Document::revertDocumentToSaved()
         return;
     if (!hasUnautosavedChanges())
         return revert();
-    enum { Revert, Cancel };
+    enum { Cancel, Discard };
     Alert alert;
     alert.message = qtTrId("kRevertMessage").arg(displayName());
     alert.informativeText = qtTrId("kRevertText");
-    alert.buttons = {qtTrId("kRevert"), qtTrId("kCancel")};
+    alert.buttons = {qtTrId("kCancel"), qtTrId("kDiscardChanges")};
     alert.cancelButton = Cancel;
-    alert.destructiveButton = Revert;
+    alert.destructiveButton = Discard;
     ask(alert, [this](const AlertAnswer &answer) {
-        if (answer.button == Revert)
+        if (answer.button == Discard)
             revert();
     });
 }
 
 void Document::revert()
 {
+    if (readAgain())
+        emit told(qtTrId("kToldReverted").arg(displayName()));
+}
+
+bool Document::readAgain()
+{
     Error error;
-    if (!readFromUrl(m_fileUrl, m_fileType, error))
-        return presentError(qtTrId("kRevertFailedMessage").arg(displayName()), error);
+    if (!readFromUrl(m_fileUrl, m_fileType, error)) {
+        presentError(qtTrId("kRevertFailedMessage").arg(displayName()), error);
+        return false;
+    }
     for (const auto &controller : m_windowControllers)
         controller->refill();
+    return true;
+}
+
+bool Document::canReload() const
+{
+    return !m_fileUrl.isEmpty() && isThere(m_fileUrl.toLocalFile());
+}
+
+void Document::reloadDocument()
+{
+    if (m_fileUrl.isEmpty() || m_isAsking)
+        return;
+    if (!hasUnautosavedChanges())
+        return reload();
+    enum { Cancel, Discard };
+    Alert alert;
+    alert.message = qtTrId("kReloadMessage").arg(displayName());
+    alert.informativeText = qtTrId("kReloadText");
+    alert.buttons = {qtTrId("kCancel"), qtTrId("kDiscardChanges")};
+    alert.cancelButton = Cancel;
+    alert.destructiveButton = Discard;
+    ask(alert, [this](const AlertAnswer &answer) {
+        if (answer.button == Discard)
+            reload();
+    });
+}
+
+void Document::reload()
+{
+    const FileState now = FileState::at(m_fileUrl.toLocalFile());
+    if (!hasUnautosavedChanges() && now.changeSince(knownState()) == FileState::Change::None) {
+        emit told(qtTrId("kToldUnchanged").arg(displayName()));
+        return;
+    }
+    std::vector<std::function<void()>> places;
+    for (const auto &controller : m_windowControllers)
+        places.push_back(controller->keepPlace());
+    if (!readAgain())
+        return;
+    for (const auto &goBack : places)
+        goBack();
+    emit told(qtTrId("kToldReloaded").arg(displayName()));
 }
 
 void Document::askToClose(std::function<void(bool)> done)
@@ -263,18 +349,18 @@ void Document::askToClose(std::function<void(bool)> done)
         return done(false);
     if (!hasUnautosavedChanges())
         return done(true);
-    enum { Save, DontSave, Cancel };
+    enum { Save, Discard, Cancel };
     Alert alert;
     alert.message = qtTrId("kSaveChangesMessage").arg(displayName());
     alert.informativeText = qtTrId("kSaveChangesText");
-    alert.buttons = {qtTrId("kSave"), qtTrId("kDontSave"), qtTrId("kCancel")};
+    alert.buttons = {qtTrId("kSave"), qtTrId("kDiscardChanges"), qtTrId("kCancel")};
     alert.cancelButton = Cancel;
-    alert.destructiveButton = DontSave;
+    alert.destructiveButton = Discard;
     ask(alert, [this, done](const AlertAnswer &answer) {
         if (answer.button == Save)
             saveDocument(done);
         else
-            done(answer.button == DontSave);
+            done(answer.button == Discard);
     });
 }
 

@@ -45,6 +45,11 @@ public:
     [[nodiscard]] const QUrl &untouchedUrl() const { return m_untouchedUrl; }
     /// The file's name, the one suggested, or the localized word for an untitled document.
     [[nodiscard]] QString displayName() const;
+    /// The name, with the folder behind it while another document of that name is open.
+    [[nodiscard]] QString titleName() const;
+    void setShowsFolder(bool shows);
+    /// The folder of the file, or of the one that is suggested; empty without one.
+    [[nodiscard]] QString folder() const;
     /// Where questions and failures of this document are shown; none: they are dropped.
     void setPrompts(Prompts *prompts) { m_prompts = prompts; }
     [[nodiscard]] Prompts *prompts() const { return m_prompts; }
@@ -62,7 +67,8 @@ public:
     /// The bytes to write to a file of that type.
     [[nodiscard]] virtual QByteArray dataOfType(const QString &typeName, Error &error) = 0;
     /// The same, but a failure leaves the document untouched and no window is refilled. The base
-    /// hands on to readFromData, for a content that this is true of anyway.
+    /// hands on to readFromData, for a content that this is true of anyway. Running out of memory
+    /// (std::bad_alloc) is a failure as well.
     virtual bool replaceContent(const QByteArray &data, const QString &typeName, Error &error);
     /// Reads the file once and replaces the content with these very bytes. A success makes the
     /// document unchanged, of that URL and type, and remembers the file's state for the next save.
@@ -102,6 +108,11 @@ public:
     /// Asks, then reads the file again and refills every window. When it cannot be read any more,
     /// that is shown and the document stays as it is.
     void revertDocumentToSaved();
+    /// Whether there is a file to read again.
+    [[nodiscard]] bool canReload() const;
+    /// Reads the file again if another program has changed it, or if there are changes, after
+    /// asking whether they may be given up. Goes on where the person was, and tells what it did.
+    void reloadDocument();
     /// Asks about unsaved changes if there are any. `done` gets true when the document may be
     /// closed (saved, or changes given up), false at once while another question is open.
     void askToClose(std::function<void(bool)> done);
@@ -111,6 +122,7 @@ public:
 
 signals:
     void fileUrlChanged();
+    void titleNameChanged();
     void documentEditedChanged();
     /// The document was saved to another place than before and has its URL from here on.
     void placeWasChosen();
@@ -126,6 +138,8 @@ protected:
     void ask(const Alert &alert, const std::function<void(const AlertAnswer &)> &answered);
     /// Called after the file was written; the base clears the change count.
     virtual void documentWasSaved();
+    /// What to say of that afterwards, in sentences.
+    [[nodiscard]] virtual QString savedText() const;
     /// Deleting later takes the windows away first.
     bool event(QEvent *event) override;
     /// The window that questions belong to: the active one of this document, else any; none when
@@ -142,6 +156,9 @@ private:
     /// Makes the file just written the document's own.
     void wasWritten(const FileState &written);
     void revert();
+    void reload();
+    /// Reads the file again and refills every window. A failure is shown and changes nothing.
+    bool readAgain();
 
     QUrl m_fileUrl;
     QUrl m_suggestedUrl;
@@ -150,6 +167,7 @@ private:
     Prompts *m_prompts = nullptr;
     FileOperations *m_fileOperations;
     bool m_isEdited = false;
+    bool m_showsFolder = false;
     bool m_isAsking = false;
     Lookup m_lookup;
     std::optional<FileState> m_known; ///< of the file last read or written

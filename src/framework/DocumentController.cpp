@@ -1,6 +1,7 @@
 #include "framework/DocumentController.h"
 
 #include "files/Error.h"
+#include "files/FileNames.h"
 #include "files/Places.h"
 #include "framework/Prompts.h"
 #include "framework/RecentFiles.h"
@@ -9,6 +10,7 @@
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QHash>
 #include <QMainWindow>
 #include <QPointer>
 
@@ -32,6 +34,7 @@ DocumentController::DocumentController(Factory makeDocument, QString typeName, P
     : QObject(parent), m_makeDocument(std::move(makeDocument)), m_typeName(std::move(typeName)),
       m_prompts(prompts), m_recentFiles(std::make_unique<RecentFiles>())
 {
+    connect(this, &DocumentController::documentsChanged, this, &DocumentController::tellNamesApart);
 }
 
 DocumentController::~DocumentController()
@@ -54,6 +57,15 @@ Document *DocumentController::currentDocument() const
         }
     }
     return nullptr;
+}
+
+void DocumentController::tellNamesApart()
+{
+    QHash<QString, int> documentsOfName;
+    for (const auto &document : m_documents)
+        ++documentsOfName[document->displayName()];
+    for (const auto &document : m_documents)
+        document->setShowsFolder(documentsOfName.value(document->displayName()) > 1);
 }
 
 QWidget *DocumentController::currentWindow() const
@@ -107,7 +119,7 @@ Document *DocumentController::open(const QUrl &url, Error &error)
     if (document) {
         document->raiseWindows();
     } else {
-        const WaitCursor wait(WaitCursor::Work::Opening, QFileInfo(url.toLocalFile()).size());
+        const WaitCursor wait(WaitCursor::Work::Opening, sizeOf(url.toLocalFile()));
         auto made = m_makeDocument();
         made->setPrompts(&m_prompts);
         made->setFileUrl(url);
@@ -126,6 +138,8 @@ void DocumentController::showOpenPanel(const QStringList &nameFilters)
 {
     OpenPanel panel;
     panel.title = qtTrId("kOpenTitle");
+    if (const Document *shown = currentDocument())
+        panel.directory = shown->folder();
     panel.nameFilters = nameFilters;
     panel.allowsSeveral = true;
     const QPointer<DocumentController> guard(this);
@@ -141,7 +155,8 @@ void DocumentController::showOpenPanel(const QStringList &nameFilters)
 void DocumentController::presentOpenError(const QUrl &url, const Error &error)
 {
     Alert alert;
-    alert.message = qtTrId("kOpenFailedMessage").arg(url.fileName());
+    alert.message =
+        qtTrId("kOpenFailedMessage").arg(readable(QFileInfo(url.toLocalFile()).fileName()));
     alert.informativeText = error.text();
     alert.buttons = {qtTrId("kOK")};
     m_prompts.showAlert(currentWindow(), alert, [](const AlertAnswer &) {});
@@ -153,6 +168,7 @@ Document *DocumentController::adopt(std::unique_ptr<Document> document, Document
     m_documents.push_back(std::move(document));
     added->setLookup(
         [this](const QString &path, const Document *except) { return documentAt(path, except); });
+    connect(added, &Document::fileUrlChanged, this, &DocumentController::tellNamesApart);
     connect(added, &Document::placeWasChosen, this,
             [this, added] { m_recentFiles->add(added->fileUrl().toLocalFile()); });
     added->makeWindowControllers();

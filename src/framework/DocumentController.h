@@ -80,6 +80,8 @@ private:
     /// The document, not the excepted one, whose file the path leads to.
     [[nodiscard]] Document *documentAt(const QString &path, const Document *except = nullptr) const;
     [[nodiscard]] Document *untouchedDocument() const;
+    /// Has the windows of documents with one name show their folders.
+    void tellNamesApart();
     [[nodiscard]] QWidget *currentWindow() const;
 
     Factory m_makeDocument;

@@ -1,6 +1,8 @@
 #include "framework/DocumentSaving.h"
 
+#include "files/FileNames.h"
 #include "files/Places.h"
+#include "files/ShownPath.h"
 #include "framework/Document.h"
 #include "framework/WaitCursor.h"
 
@@ -115,6 +117,8 @@ void DocumentSaving::finished(const SaveJob::Result &result)
     case SaveJob::Outcome::Written:
         if (m_purpose == SavePurpose::Save)
             m_document.wasWritten(*result.written);
+        else
+            emit m_document.told(qtTrId("kToldExported").arg(shownPath(shortPath(m_path))));
         if (result.notKept.empty())
             return m_done(true, {});
         return tellNotKept(result.notKept);
@@ -203,7 +207,7 @@ SavePanel DocumentSaving::panelForCopy() const
 
 QString DocumentSaving::targetName() const
 {
-    return QFileInfo(m_path).fileName();
+    return readable(QFileInfo(m_path).fileName());
 }
 
 bool DocumentSaving::isOwnFile() const

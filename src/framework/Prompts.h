@@ -48,6 +48,13 @@ struct SavePanel
     QStringList nameFilters;
 };
 
+/// What a panel that asks how to print offers besides all pages, some and the current one.
+struct PrintPanel
+{
+    QString documentName;
+    bool hasSelection = false; ///< and so its rows alone
+};
+
 /// Everything the program asks a person, behind one interface, so that a test presets the answers.
 /// All questions are sheets: they belong to the given window (none: to the program), the call
 /// returns at once and the answer arrives later, at most once. It never arrives when the window
@@ -66,7 +73,7 @@ public:
     virtual void showSavePanel(QWidget *window, const SavePanel &panel,
                                std::function<void(const QString &)> done) = 0;
     /// Lets the person choose where and how to print; `print` is called only on confirmation.
-    virtual void showPrintPanel(QWidget *window, const QString &documentName,
+    virtual void showPrintPanel(QWidget *window, const PrintPanel &panel,
                                 std::function<void(QPrinter &)> print) = 0;
 };
 

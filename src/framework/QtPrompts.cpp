@@ -1,5 +1,8 @@
 #include "framework/QtPrompts.h"
 
+#include "files/FileNames.h"
+#include "framework/Mnemonics.h"
+
 #include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QFileDialog>
@@ -14,6 +17,7 @@
 #include <QPushButton>
 #include <QSettings>
 #include <QStandardPaths>
+#include <QUrl>
 
 #include <memory>
 
@@ -24,6 +28,45 @@ namespace {
 QString folderKey()
 {
     return QStringLiteral("openPanel/folder");
+}
+
+/// The first of the folders that is there; else the person's own.
+QString firstFolderOf(const QStringList &folders)
+{
+    for (const QString &folder : folders) {
+        if (!folder.isEmpty() && QFileInfo(folder).isDir())
+            return folder;
+    }
+    return QDir::homePath();
+}
+
+/// By their URLs, in which a platform's own panel hands on every name as it is.
+QStringList pathsChosen(const QFileDialog &dialog)
+{
+    QStringList paths;
+    for (const QUrl &url : dialog.selectedUrls())
+        paths.append(pathFromUrl(url));
+    return paths;
+}
+
+QString documentsFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+}
+
+/// "Name (*.tll)" with patterns that fit the suffix in any case; it is shown as before by a panel
+/// that hides the patterns at the end.
+QString inAnyCase(const QString &nameFilter)
+{
+    const qsizetype open = nameFilter.indexOf(u'(');
+    QString patterns;
+    for (const QChar letter : nameFilter.sliced(open < 0 ? nameFilter.size() : open)) {
+        if (letter.isLetter())
+            patterns += u'[' + letter.toLower() + letter.toUpper() + u']';
+        else
+            patterns += letter;
+    }
+    return nameFilter + u' ' + patterns;
 }
 
 /// Shows a dialog as a sheet of its window; without one, before the whole program.
@@ -48,12 +91,12 @@ QMessageBox::ButtonRole roleOf(int button, int cancelButton, const Alert &alert)
                                                               : QMessageBox::AcceptRole;
 }
 
-void addButtons(QMessageBox &box, const Alert &alert)
+void addButtons(QMessageBox &box, const Alert &alert, const QStringList &titles)
 {
     const int last = static_cast<int>(alert.buttons.size()) - 1;
     const int cancelButton = alert.cancelButton < 0 ? last : alert.cancelButton;
     for (int i = 0; i <= last; ++i) {
-        QPushButton *button = box.addButton(alert.buttons[i], roleOf(i, cancelButton, alert));
+        QPushButton *button = box.addButton(titles[i], roleOf(i, cancelButton, alert));
         button->setObjectName(QStringLiteral("alertButton%1").arg(i));
         if (i == 0)
             box.setDefaultButton(button);
@@ -116,8 +159,9 @@ void QtPrompts::showAlert(QWidget *window, const Alert &alert,
     box->setText(alert.message);
     box->setInformativeText(alert.informativeText);
     showAsPlainText(*box);
-    addButtons(*box, alert);
-    QCheckBox *check = alert.checkBox.isEmpty() ? nullptr : addCheckBox(*box, alert.checkBox);
+    const QStringList titles = withMnemonics(alert.buttons + QStringList{alert.checkBox});
+    addButtons(*box, alert, titles);
+    QCheckBox *check = alert.checkBox.isEmpty() ? nullptr : addCheckBox(*box, titles.last());
     QLineEdit *field = alert.asksForText ? addTextField(*box, alert.message) : nullptr;
     QObject::connect(box, &QDialog::finished, box, [box, check, field, alert, done] {
         done({indexOfClickedButton(*box, alert), field ? field->text() : QString(),
@@ -129,19 +173,22 @@ void QtPrompts::showAlert(QWidget *window, const Alert &alert,
 void QtPrompts::showOpenPanel(QWidget *window, const OpenPanel &panel,
                               std::function<void(const QStringList &)> done)
 {
-    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    const QString remembered = QSettings().value(folderKey(), documents).toString();
+    const QString remembered = QSettings().value(folderKey()).toString();
     auto *dialog = new QFileDialog(window, panel.title,
-                                   panel.directory.isEmpty() ? remembered : panel.directory);
+                                   firstFolderOf({panel.directory, remembered, documentsFolder()}));
     dialog->setAcceptMode(QFileDialog::AcceptOpen);
     dialog->setFileMode(panel.allowsSeveral ? QFileDialog::ExistingFiles
                                             : QFileDialog::ExistingFile);
-    dialog->setNameFilters(panel.nameFilters);
+    QStringList filters;
+    for (const QString &filter : panel.nameFilters)
+        filters.append(inAnyCase(filter));
+    dialog->setOption(QFileDialog::HideNameFilterDetails);
+    dialog->setNameFilters(filters);
     QObject::connect(dialog, &QDialog::finished, dialog, [dialog, done](int result) {
         if (result != QDialog::Accepted)
             return done({});
         QSettings().setValue(folderKey(), dialog->directory().absolutePath());
-        done(dialog->selectedFiles());
+        done(pathsChosen(*dialog));
     });
     present(*dialog, QStringLiteral("openPanel"));
 }
@@ -150,24 +197,33 @@ void QtPrompts::showSavePanel(QWidget *window, const SavePanel &panel,
                               std::function<void(const QString &)> done)
 {
     const QFileInfo suggested(panel.suggestedPath);
-    auto *dialog = new QFileDialog(window, panel.title, suggested.path());
+    auto *dialog =
+        new QFileDialog(window, panel.title, firstFolderOf({suggested.path(), documentsFolder()}));
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setFileMode(QFileDialog::AnyFile);
     dialog->setNameFilters(panel.nameFilters);
     dialog->setDefaultSuffix(suggested.suffix());
-    dialog->selectFile(suggested.fileName());
+    dialog->selectFile(readable(suggested.fileName()));
+    // The name typed changes with the type by itself.
+    QObject::connect(dialog, &QFileDialog::filterSelected, dialog, [dialog](const QString &filter) {
+        const qsizetype dot = filter.indexOf(QLatin1String("(*."));
+        if (dot >= 0)
+            dialog->setDefaultSuffix(filter.mid(dot + 3, filter.indexOf(u')') - dot - 3));
+    });
     QObject::connect(dialog, &QDialog::finished, dialog, [dialog, done](int result) {
-        done(result == QDialog::Accepted ? dialog->selectedFiles().value(0) : QString());
+        done(result == QDialog::Accepted ? pathsChosen(*dialog).value(0) : QString());
     });
     present(*dialog, QStringLiteral("savePanel"));
 }
 
-void QtPrompts::showPrintPanel(QWidget *window, const QString &documentName,
+void QtPrompts::showPrintPanel(QWidget *window, const PrintPanel &panel,
                                std::function<void(QPrinter &)> print)
 {
     auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
-    printer->setDocName(documentName);
+    printer->setDocName(panel.documentName);
     auto *dialog = new QPrintDialog(printer.get(), window);
+    dialog->setOption(QPrintDialog::PrintCurrentPage);
+    dialog->setOption(QPrintDialog::PrintSelection, panel.hasSelection);
     // The connection keeps the printer alive for as long as the dialog.
     QObject::connect(dialog, &QDialog::finished, dialog, [printer, print](int result) {
         if (result == QDialog::Accepted)

@@ -18,7 +18,7 @@ public:
                        std::function<void(const QStringList &)> done) override;
     void showSavePanel(QWidget *window, const SavePanel &panel,
                        std::function<void(const QString &)> done) override;
-    void showPrintPanel(QWidget *window, const QString &documentName,
+    void showPrintPanel(QWidget *window, const PrintPanel &panel,
                         std::function<void(QPrinter &)> print) override;
 };
 

@@ -1,7 +1,8 @@
 #include "framework/RecentFiles.h"
 
+#include "files/FileNames.h"
+
 #include <QDir>
-#include <QFileInfo>
 #include <QSettings>
 
 namespace quillet {
@@ -22,7 +23,7 @@ QStringList RecentFiles::paths() const
 
 void RecentFiles::add(const QString &path)
 {
-    const QString absolute = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+    const QString absolute = QDir::cleanPath(absolutePath(path));
     QStringList list = paths();
     list.removeAll(absolute);
     list.prepend(absolute);

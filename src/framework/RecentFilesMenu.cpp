@@ -1,6 +1,8 @@
 #include "framework/RecentFilesMenu.h"
 
+#include "files/Places.h"
 #include "files/ShownPath.h"
+#include "framework/PlainToolTip.h"
 #include "framework/RecentFiles.h"
 
 #include <QAction>
@@ -37,14 +39,15 @@ void RecentFilesMenu::addFile(const QString &path, bool showsFolder)
 {
     const QFileInfo info(path);
     const QString place = shownPath(QDir::toNativeSeparators(path));
-    QString label = info.fileName();
+    QString label = shownPath(info.fileName());
     if (showsFolder)
         label += QStringLiteral(u" \u2014 ") + shownPath(QDir::toNativeSeparators(info.path()));
     QAction *action = m_menu.addAction(label.replace(QLatin1Char('&'), QLatin1String("&&")));
-    const bool exists = info.exists();
+    const bool exists = isThere(path);
     action->setEnabled(exists);
-    action->setToolTip(exists ? place : qtTrId("kRecentFileMissingMessage").arg(place));
-    action->setStatusTip(action->toolTip());
+    const QString tip = exists ? place : qtTrId("kRecentFileMissingMessage").arg(place);
+    action->setToolTip(plainToolTip(tip));
+    action->setStatusTip(tip);
     connect(action, &QAction::triggered, this, [this, path] { emit fileChosen(path); });
 }
 

@@ -1,5 +1,6 @@
 #include "framework/WindowController.h"
 
+#include "files/FileNames.h"
 #include "framework/Document.h"
 #include "framework/ScreenPlace.h"
 
@@ -53,6 +54,8 @@ void WindowController::setDocument(Document *document)
         return;
     connect(document, &Document::fileUrlChanged, this,
             &WindowController::synchronizeWindowTitleWithDocumentName);
+    connect(document, &Document::titleNameChanged, this,
+            &WindowController::synchronizeWindowTitleWithDocumentName);
     connect(document, &Document::documentEditedChanged, this,
             [this] { m_window->setWindowModified(m_document->isDocumentEdited()); });
     synchronizeWindowTitleWithDocumentName();
@@ -64,8 +67,8 @@ void WindowController::synchronizeWindowTitleWithDocumentName()
     if (!m_document)
         return;
     const QString mark = QStringLiteral("[*]");
-    const QString name = m_document->displayName().replace(mark, mark + mark);
-    m_window->setWindowFilePath(m_document->fileUrl().toLocalFile());
+    const QString name = m_document->titleName().replace(mark, mark + mark);
+    m_window->setWindowFilePath(readable(m_document->fileUrl().toLocalFile()));
     m_window->setWindowTitle(name + mark + programName());
 }
 
@@ -86,6 +89,11 @@ void WindowController::raiseWindow()
     showWindow();
     m_window->raise();
     m_window->activateWindow();
+}
+
+std::function<void()> WindowController::keepPlace() const
+{
+    return [] {};
 }
 
 void WindowController::closeWindow()

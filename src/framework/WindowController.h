@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QPointer>
 
+#include <functional>
 #include <memory>
 
 class QMainWindow;
@@ -30,6 +31,9 @@ public:
 
     /// Shows the document's content anew, after it was read again.
     virtual void refill() = 0;
+    /// Notes where the person is in the content; calling the answer goes there again. The base
+    /// knows no places.
+    [[nodiscard]] virtual std::function<void()> keepPlace() const;
     /// Whether the command with that name is enabled in this window's content.
     [[nodiscard]] virtual bool validateUserInterfaceItem(const QString &action) const = 0;
 

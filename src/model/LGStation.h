@@ -26,6 +26,12 @@ public:
     static constexpr qint64 radioMark = 0x4000;
     /// Stands for a missing number and is the highest a person may give.
     static constexpr qint64 missingProgNum = 9999;
+    /// Whether a station that is given the number carries it afterwards: one that is too high for
+    /// its bits reads as a low number with the mark of radio.
+    [[nodiscard]] static constexpr bool canCarry(qint64 number)
+    {
+        return number >= 0 && number <= progNumMask;
+    }
 
     /// `origIndex` is the station's index within its section of the file.
     LGStation(Dictionary entry, qint64 origIndex);

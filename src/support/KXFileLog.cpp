@@ -11,8 +11,10 @@
 
 #include <cstdarg>
 #include <cstdio>
+#include <filesystem>
 #include <map>
 #include <stdexcept>
+#include <system_error>
 
 namespace quillet {
 
@@ -40,6 +42,14 @@ QString libraryFolder()
 #endif
 }
 
+/// Why a folder could not be made, in the system's words.
+QString obstacleToFolder(const QString &path)
+{
+    std::error_code code;
+    std::filesystem::create_directories(QFileInfo(path).filesystemFilePath(), code);
+    return QString::fromLocal8Bit(code.message());
+}
+
 } // namespace
 
 std::unique_ptr<KXFileLog> KXFileLog::initWithName(const QString &name,
@@ -53,9 +63,8 @@ std::unique_ptr<KXFileLog> KXFileLog::initWithName(const QString &name,
     log->setDateTimeFormat(QStringLiteral("yyyy-MM-dd HH:mm:ss.SSS"));
     const QString directory = pathToLogDirectory(applicationName);
     if (!QDir::isAbsolutePath(directory) || createDirectoryIfNecessary(directory) != 0) {
-        qCWarning(console).noquote()
-            << QStringLiteral("couldn't create directory (%1): %2")
-                   .arg(directory, QStringLiteral("the path is not a folder or not writable"));
+        qCWarning(console).noquote() << QStringLiteral("couldn't create directory (%1): %2")
+                                            .arg(directory, obstacleToFolder(directory));
         return nullptr;
     }
     log->m_filename = directory + QLatin1Char('/') + name + QStringLiteral(".log");
@@ -140,10 +149,16 @@ void KXFileLog::rotateFile(const QString &current, const QString &previous)
                                                        "removeItemAtPath: %1")
                                             .arg(previousFile.errorString());
     QFile currentFile(current);
-    if (currentFile.exists() && !currentFile.rename(previous))
-        qCWarning(console).noquote() << QStringLiteral("[KXFileLog rotateFile] failed at "
-                                                       "moveItemAtPath: %1")
-                                            .arg(currentFile.errorString());
+    if (!currentFile.exists() || currentFile.rename(previous))
+        return;
+    qCWarning(console).noquote() << QStringLiteral(
+                                        "[KXFileLog rotateFile] failed at moveItemAtPath: %1")
+                                        .arg(currentFile.errorString());
+    // Two runs never stand in one file. What cannot make room, such as a folder, is left alone.
+    const QString aside = previous + QStringLiteral(".1");
+    QFile::remove(aside);
+    if (!currentFile.rename(aside))
+        currentFile.resize(0);
 }
 
 int KXFileLog::createDirectoryIfNecessary(const QString &path)

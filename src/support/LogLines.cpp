@@ -8,6 +8,11 @@ LogLines::LogLines(const QString &logName) : m_log(KXFileLog::sharedLogWithName(
 
 LogLines::~LogLines()
 {
+    flush();
+}
+
+void LogLines::flush()
+{
     if (isWanted())
         write();
 }

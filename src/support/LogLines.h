@@ -32,6 +32,9 @@ public:
         append(QLatin1String("\n"));
     }
 
+    /// Writes what was added so far, which no crash can take away afterwards.
+    void flush();
+
     /// The same for a line with too many pieces for one call: this, any number of append, and the
     /// line's end as the last piece. To be called only when lines are wanted.
     void beginLine();

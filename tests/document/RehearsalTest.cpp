@@ -477,7 +477,7 @@ private slots:
                 station(shown->document, true, 0, 0)->setSkipped(i % 2 == 0);
                 QVERIFY(shown->save());
                 QVERIFY(shown->prompts.isSettled());
-                QCOMPARE(told.size(), i);
+                QCOMPARE(told.back().front().toString().contains(u"kToldRepaired"_s), i > 0);
                 QVERIFY(contentOf(shown->path()) == repairedTLL(shown->document.list()));
             }
             QCOMPARE(shown->prompts.alerts().front().alert.checkBox.isEmpty(), shown == &plain);

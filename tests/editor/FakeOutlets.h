@@ -25,6 +25,7 @@ public:
     QList<qsizetype> rows;
     int updates = 0; ///< of the rows
     qsizetype scrolledTo = -1;
+    qsizetype top = 0;
     bool nameIsEditable = false;
     EmptyHint hint = EmptyHint::None;
     Notice notice;
@@ -32,6 +33,7 @@ public:
     std::function<void()> reloaded = [] {};
     std::function<void(const ListChange &)> changed = [](const ListChange &) {};
     std::optional<ForeignRows> foreignRows;
+    QString told; ///< last
 
     void setText(Field field, const QString &text) override { texts[field] = text; }
     void setEnabled(Control control, bool on) override { enabled[control] = on; }
@@ -68,9 +70,12 @@ public:
             selectionChanged();
     }
     void scrollRowToVisible(qsizetype row) override { scrolledTo = row; }
+    [[nodiscard]] qsizetype topRow() const override { return top; }
+    void scrollRowToTop(qsizetype row) override { top = row; }
     void setNameColumnEditable(bool editable) override { nameIsEditable = editable; }
     void showEmptyHint(EmptyHint shown) override { hint = shown; }
     void showNotice(const Notice &shown) override { notice = shown; }
+    void tell(const QString &text) override { told = text; }
     [[nodiscard]] QWidget *sheetWindow() const override { return nullptr; }
 };
 

@@ -203,15 +203,21 @@ private slots:
 
         editor.outlets.selectRows({0});
         QVERIFY(editor.controller.stationForInfo());
-        editor.controller.moveItemsToClicked();
-        editor.controller.moveElements(0, 1, 2);
-        editor.controller.skipSelectedItems();
-        editor.controller.changeChildLockForSelectedItems();
+        QList<std::function<void()>> edits{
+            [&] { editor.controller.moveItemsToClicked(); },
+            [&] { editor.controller.moveElements(0, 1, 2); },
+            [&] { editor.controller.skipSelectedItems(); },
+            [&] { editor.controller.changeChildLockForSelectedItems(); }};
+        for (const QString &column : {u"progNum"_s, u"progName"_s, u"skipped"_s, u"blocked"_s})
+            edits.append([&, column] { editor.controller.setObjectValue(u"1"_s, column, 0); });
+        for (const auto &edit : edits) {
+            editor.outlets.told.clear();
+            edit();
+            QCOMPARE(editor.outlets.told, u"kToldForeign"_s);
+        }
         const TableDrag drag{{}, {0}, true, true, 0};
         QCOMPARE(editor.controller.validateDrop(drag), DragOperation::None);
         QVERIFY(!editor.controller.acceptDrop(drag));
-        for (const QString &column : {u"progNum"_s, u"progName"_s, u"skipped"_s, u"blocked"_s})
-            editor.controller.setObjectValue(u"1"_s, column, 0);
         QVERIFY(editor.prompts.alerts().empty() && !editor.document.isDirty());
         QCOMPARE(editor.rows(), u"3 C"_s);
         QCOMPARE(editor.controller.selection().selectedStations(), QStringList{u"3"_s});

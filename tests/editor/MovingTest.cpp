@@ -4,7 +4,9 @@
 #include "testing/TestFiles.h"
 #include "testing/TestMain.h"
 
+#include <QDir>
 #include <QTemporaryDir>
+#include <QTemporaryFile>
 #include <QTest>
 
 using namespace quillet;
@@ -12,6 +14,14 @@ using namespace quillet::testing;
 using namespace Qt::Literals::StringLiterals;
 
 using Rows = QList<qsizetype>;
+
+namespace {
+
+using Way = std::function<void(Editor &)>;
+
+} // namespace
+
+Q_DECLARE_METATYPE(Way)
 
 /// Moving by dialog and by drag, filling gaps, and files dropped on the table.
 class MovingTest : public QObject
@@ -48,9 +58,60 @@ private slots:
         QVERIFY(editor.prompts.alerts().back().alert.asksForText);
         QCOMPARE(editor.rows(), after.isEmpty() ? u"1 A, 2 B, 3 C"_s : after);
         QCOMPARE(editor.document.isDirty(), !after.isEmpty());
+        QVERIFY(editor.outlets.told.startsWith(after.isEmpty() ? u"kToldNotMoved" : u"kToldMoved"));
         // B stays selected wherever it has gone.
         const QString above = editor.rows().section(u'B', 0, 0);
         QCOMPARE(editor.outlets.rows, Rows{above.count(u',')});
+    }
+
+    /// Up to 16383 there are numbers; a higher one is a low one with the mark of radio.
+    void numbersThatAreTooHighAreAskedAbout_data()
+    {
+        QTest::addColumn<Way>("way");
+        QTest::addColumn<int>("stations");
+        QTest::addColumn<int>("first"); // number, which the others follow without a gap
+        const int longest = 16384 - 9999 + 1;
+        QTest::newRow("dialog") << Way([](Editor &editor) {
+            editor.outlets.selectRows({0});
+            editor.prompts.answerAlert(u"kMovingOK"_s, u"9999"_s);
+            editor.controller.moveItemsToClicked();
+        }) << longest << 9998;
+        QTest::newRow("typed number") << Way([](Editor &editor) {
+            editor.controller.setObjectValue(u"12000"_s, u"progNum"_s, 0);
+        }) << longest << 9998;
+        QTest::newRow("drop") << Way([](Editor &editor) {
+            QVERIFY(editor.controller.acceptDrop({{}, {0}, true, true, 2}));
+        }) << longest << 9998;
+        QTest::newRow("gaps") << Way([](Editor &editor) {
+            editor.controller.fillGapsClicked(true);
+        }) << 16384 << 0;
+        QTest::newRow("order") << Way([](Editor &editor) {
+            QTemporaryFile file(QDir::tempPath() + u"/XXXXXX.txt"_s);
+            QVERIFY(file.open() && file.write("20000;S0;0-0-0\n5;a;0-0-0\n6;b;0-0-0\n") > 0);
+            file.close();
+            editor.controller.applyOrderFile(file.fileName());
+        }) << 3 << 7;
+    }
+    void numbersThatAreTooHighAreAskedAbout()
+    {
+        QFETCH(Way, way);
+        QFETCH(int, stations);
+        QFETCH(int, first);
+        std::vector<Item> items;
+        for (int i = 0; i < stations; ++i)
+            items.push_back(makeStation(first + i, u'S' + QString::number(i)));
+        Editor editor(items);
+        const QString before = editor.rows();
+        way(editor);
+        editor.prompts.answerAlert(u"kCancel"_s);
+        QVERIFY(editor.prompts.isSettled());
+        QVERIFY(editor.prompts.lastText().startsWith(u"kBeyondMessage"_s));
+        QCOMPARE(editor.prompts.alerts().back().alert.buttons.front(), u"kCancel"_s);
+        QVERIFY(!editor.document.isDirty() && !editor.controller.fillGaps());
+        QVERIFY(editor.rows() == before);
+        way(editor);
+        editor.prompts.answerAlert(u"kBeyondAnyway"_s);
+        QVERIFY(editor.document.isDirty());
     }
 
     void fillingGaps()
@@ -242,6 +303,7 @@ private slots:
             QCOMPARE(editor.list(0), u"5 A"_s); // as it was
         }
         QCOMPARE(editor.document.fileUrl().toLocalFile(), reason.isEmpty() ? path : before);
+        QCOMPARE(editor.outlets.told, u"kToldOthersDropped"_s);
         QVERIFY(!editor.document.validateUserInterfaceItem(u"saveDocument"_s));
     }
 
@@ -250,14 +312,14 @@ private slots:
         QTest::addColumn<QString>("answer");
         QTest::addColumn<bool>("isReadable");
         QTest::newRow("cancel") << u"kCancel"_s << true;
-        QTest::newRow("replace") << u"kReplace"_s << true;
-        QTest::newRow("replace by a bad file") << u"kReplace"_s << false;
+        QTest::newRow("replace") << u"kDiscardChanges"_s << true;
+        QTest::newRow("replace by a bad file") << u"kDiscardChanges"_s << false;
     }
     void droppedFileAsksAboutChanges()
     {
         QFETCH(QString, answer);
         QFETCH(bool, isReadable);
-        const bool isReplaced = answer == QLatin1String("kReplace");
+        const bool isReplaced = answer == QLatin1String("kDiscardChanges");
         Editor editor(lettered({5, 6}));
         editor.controller.moveElements(0, 1, 9);
         editor.controller.useRadioClicked();

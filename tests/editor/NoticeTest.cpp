@@ -47,6 +47,8 @@ private slots:
                                        << u"kNoticeDamaged kNoticeUnread"_s << false;
         QTest::newRow("two at once") << listWith(u"Té & lé"_s).replace("\xC3\xA9", "\xE9")
                                      << u"kNoticeDamaged kNoticeUnread\nkNoticeLatin1"_s << true;
+        QTest::newRow("no number left")
+            << fileOf(lettered({1, 16383, 16383})) << u"kNoticeBeyond"_s << false;
         QTest::newRow("binary") << QByteArray("\x01\0\x02", 3) << u"kNoticeBinary"_s << false;
         QTest::newRow("text") << "1;A;B\n"_ba << u"kNoticeNoXML"_s << false;
         const QByteArray json = "<TLLDATA><CHANNEL><legacybroadcast>{x}</legacybroadcast>"

@@ -86,7 +86,9 @@ private slots:
         StationList wanted;
         for (const QChar letter : moved)
             wanted.push_back(stations.at(letter.unicode() - u'A'));
-        const QStringList selection = moveElemList(stations, wanted, target, fillGaps).selection;
+        const MovePlan plan = planMove(stations, wanted, target, fillGaps);
+        carryOut(plan, stations);
+        const QStringList selection = plan.selection;
         QTEST(numbersAndLetters(stations), "after");
         QTEST(selection.join(u' '), "selected");
     }

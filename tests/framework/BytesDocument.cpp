@@ -3,6 +3,7 @@
 #include <QGuiApplication>
 #include <QMainWindow>
 
+#include <new>
 #include <utility>
 
 namespace quillet::testing {
@@ -14,6 +15,8 @@ CountingWindow::CountingWindow()
 
 bool BytesDocument::readFromData(const QByteArray &data, const QString &, Error &error)
 {
+    if (data.startsWith("hog"))
+        throw std::bad_alloc();
     if (data.startsWith("bad"))
         error = {QStringLiteral("BytesDocument"), -1, QStringLiteral("bad bytes"), {}};
     hadWaitCursor = QGuiApplication::overrideCursor() != nullptr;

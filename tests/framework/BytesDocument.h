@@ -18,7 +18,8 @@ public:
 };
 
 /// A document whose content is its bytes. Bytes that start with "bad" are refused with an error of
-/// its own; no bytes at all are refused without one.
+/// its own; no bytes at all are refused without one; for those that start with "hog" there is not
+/// enough memory.
 class BytesDocument : public Document
 {
 public:

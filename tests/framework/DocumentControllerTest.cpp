@@ -6,6 +6,7 @@
 #include "testing/TestMain.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFile>
 #include <QMainWindow>
 #include <QPointer>
@@ -68,6 +69,25 @@ private slots:
         QTRY_COMPARE(m_controller->currentDocument(), first);
         QCOMPARE(m_controller->documents().size(), size_t{2});
         QCOMPARE(first->fileType(), id("bytes"));
+    }
+
+    void equalNamesShowTheirFolders()
+    {
+        QVERIFY(QDir(m_folder->path()).mkdir(id("x")));
+        writeFile(m_folder->filePath(id("x/a")), "another");
+        Document *first = open("a");
+        QCOMPARE(windowOf(first)->windowTitle(), id("a[*]"));
+        Document *second = open("x/a");
+        QCOMPARE(windowOf(first)->windowTitle(),
+                 QStringLiteral(u"a \u2014 %1[*]").arg(m_folder->path()));
+        QCOMPARE(windowOf(second)->windowTitle(),
+                 QStringLiteral(u"a \u2014 %1/x[*]").arg(m_folder->path()));
+        QTRY_COMPARE(m_controller->currentDocument(), second);
+        m_prompts->answerOpenPanel({});
+        m_controller->showOpenPanel({});
+        QCOMPARE(m_prompts->openPanels().back().directory, m_folder->filePath(id("x")));
+        m_controller->closeDocument(second);
+        QCOMPARE(windowOf(first)->windowTitle(), id("a[*]"));
     }
 
     void fileOfOneWindowIsNotWrittenByAnother()
@@ -167,7 +187,7 @@ private slots:
         QTest::addColumn<QByteArray>("onDisk");
         QTest::newRow("no changes") << QString() << true << QByteArray("a");
         QTest::newRow("save") << id("kSave") << true << QByteArray("typed");
-        QTest::newRow("give up") << id("kDontSave") << true << QByteArray("a");
+        QTest::newRow("give up") << id("kDiscardChanges") << true << QByteArray("a");
         QTest::newRow("cancel") << id("kCancel") << false << QByteArray("a");
     }
     void closingAsks()
@@ -210,12 +230,12 @@ private slots:
         QTest::addColumn<QStringList>("edited");
         const QStringList all{id("a"), id("b"), id("c")};
         QTest::newRow("saved, given up")
-            << QStringList{id("kSave"), id("kDontSave")} << QStringList() << QStringList();
+            << QStringList{id("kSave"), id("kDiscardChanges")} << QStringList() << QStringList();
         QTest::newRow("cancelled at once")
             << QStringList{id("kCancel")} << all << QStringList{id("a"), id("c")};
         // Changes given up are still there when a later answer stops everything.
-        QTest::newRow("given up, cancelled")
-            << QStringList{id("kDontSave"), id("kCancel")} << all << QStringList{id("a"), id("c")};
+        QTest::newRow("given up, cancelled") << QStringList{id("kDiscardChanges"), id("kCancel")}
+                                             << all << QStringList{id("a"), id("c")};
         QTest::newRow("saved, cancelled")
             << QStringList{id("kSave"), id("kCancel")} << all << QStringList{id("c")};
     }
@@ -248,7 +268,7 @@ private slots:
         QCOMPARE(closed.count(), left.isEmpty() ? 1 : 0);
         // A review that was cancelled is over: the next one asks again.
         for (qsizetype i = 0; i < edited.size(); ++i)
-            m_prompts->answerAlert(id("kDontSave"));
+            m_prompts->answerAlert(id("kDiscardChanges"));
         m_controller->closeAllDocuments([&answer](bool all) { answer = all; });
         QTRY_COMPARE(answer, std::optional<bool>(true));
     }
@@ -277,7 +297,7 @@ private slots:
         m_prompts->answerAlert(id("kSave"));
         QTRY_COMPARE(m_prompts->alerts().size(), size_t{2});
         bytesOf(a).edit("second");
-        m_prompts->answerAlert(id("kDontSave"));
+        m_prompts->answerAlert(id("kDiscardChanges"));
         m_prompts->answerAlert(id("kSave"));
         QTRY_COMPARE(answer, std::optional<bool>(true));
         QCOMPARE(contentOf(path("a")), QByteArray("second"));

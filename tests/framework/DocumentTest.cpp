@@ -11,6 +11,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <new>
 #include <optional>
 
 #ifndef Q_OS_WIN
@@ -61,8 +62,10 @@ private slots:
                                 << id("kIsAFolderReason folder.tll");
         QTest::newRow("empty") << QStringLiteral("empty.tll") << id("kContentUnknownReason");
         QTest::newRow("refused") << QStringLiteral("bad.tll") << id("bad bytes");
+        QTest::newRow("too large for the memory") << id("hog.tll") << id("kNoMemoryReason");
 #ifndef Q_OS_WIN
         QTest::newRow("named pipe") << QStringLiteral("pipe.tll") << id("kNotAFileReason pipe.tll");
+        QTest::newRow("link to a device") << id("zero.tll") << id("kNotAFileReason zero.tll");
         QTest::newRow("huge") << QStringLiteral("huge.tll") << id("kFileTooLargeReason");
         QTest::newRow("no right to read")
             << QStringLiteral("secret.tll") << id("kFileUnreadableReason");
@@ -73,13 +76,14 @@ private slots:
         QFETCH(QString, name);
         QFETCH(QString, reason);
         QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("folder.tll")));
-        for (const char *file : {"empty", "bad", "huge", "secret"})
+        for (const char *file : {"empty", "bad", "huge", "secret", "hog"})
             writeFile(m_folder->filePath(id(file) + id(".tll")),
-                      QByteArray(qstrcmp(file, "empty") == 0 ? "" : "bad"));
+                      QByteArray(qstrcmp(file, "empty") == 0 ? "" : file));
         QVERIFY(QFile::resize(m_folder->filePath(id("huge.tll")), qint64{1} << 40));
 #ifndef Q_OS_WIN
         const QByteArray root = QFile::encodeName(m_folder->path());
         QCOMPARE(::mkfifo((root + "/pipe.tll").constData(), 0600), 0);
+        QVERIFY(QFile::link(id("/dev/zero"), m_folder->filePath(id("zero.tll"))));
         QCOMPARE(::chmod((root + "/secret.tll").constData(), 0), 0);
         QVERIFY(OrdinaryUser::own(m_folder->path()));
         const OrdinaryUser user;
@@ -228,7 +232,7 @@ private slots:
         m_prompts->answerAlert(button);
         const bool reloads = button == id("kReload");
         if (reloads)
-            m_prompts->answerAlert(id("kRevert"));
+            m_prompts->answerAlert(id("kDiscardChanges"));
         QCOMPARE(save(), std::optional<bool>(left == "mine"));
         QTRY_VERIFY(m_prompts->isSettled());
         const Alert &alert = m_prompts->alerts().front().alert;
@@ -339,10 +343,18 @@ private slots:
         QTest::addColumn<QString>("button");
         QTest::addColumn<bool>("isReverted");
         QTest::addColumn<QString>("message");
+        QTest::addColumn<bool>("isReload");
         const QByteArray disk("disk");
-        QTest::newRow("reverted") << disk << id("kRevert") << true << QString();
-        QTest::newRow("cancelled") << disk << id("kCancel") << false << QString();
-        QTest::newRow("refused") << QByteArray("bad") << id("kRevert") << false << id("bad bytes");
+        for (const bool isReload : {false, true}) {
+            const auto row = [&](const char *name, const QByteArray &onDisk, const char *button,
+                                 bool isReverted, const char *message) {
+                QTest::addRow("%s, %s", isReload ? "reload" : "revert", name)
+                    << onDisk << id(button) << isReverted << id(message) << isReload;
+            };
+            row("confirmed", disk, "kDiscardChanges", true, "");
+            row("cancelled", disk, "kCancel", false, "");
+            row("refused", "bad", "kDiscardChanges", false, "bad bytes");
+        }
     }
     void revertReadsTheFileAgain()
     {
@@ -350,17 +362,48 @@ private slots:
         QFETCH(QString, button);
         QFETCH(bool, isReverted);
         QFETCH(QString, message);
+        QFETCH(bool, isReload);
         m_document->edit("mine");
         writeFile(m_path, onDisk);
         m_prompts->answerAlert(button);
         if (!message.isEmpty())
             m_prompts->answerAlert(id("kOK"));
-        m_document->revertDocumentToSaved();
+        QSignalSpy told(m_document.get(), &Document::told);
+        isReload ? m_document->reloadDocument() : m_document->revertDocumentToSaved();
         QTRY_VERIFY(m_prompts->isSettled());
+        QCOMPARE(told.count(), isReverted ? 1 : 0);
+        const Alert &question = m_prompts->alerts().front().alert;
+        QCOMPARE(question.buttons, (QStringList{id("kCancel"), id("kDiscardChanges")}));
+        QCOMPARE(question.destructiveButton, 1);
         QVERIFY(m_prompts->lastText().contains(message));
         QCOMPARE(m_document->content, isReverted ? QByteArray("disk") : QByteArray("mine"));
         QCOMPARE(m_document->isDocumentEdited(), !isReverted);
         QCOMPARE(m_document->countingWindow().refills, isReverted ? 1 : 0);
+    }
+
+    void unchangedDocumentIsReadAgainUnasked()
+    {
+        QSignalSpy told(m_document.get(), &Document::told);
+        m_document->reloadDocument();
+        QCOMPARE(told.takeFirst().value(0).toString(), id("kToldUnchanged"));
+        QCOMPARE(m_document->countingWindow().refills, 0);
+        writeFile(m_path, "new");
+        m_document->reloadDocument();
+        QCOMPARE(told.takeFirst().value(0).toString(), id("kToldReloaded"));
+        QCOMPARE(m_document->content, QByteArray("new"));
+        QVERIFY(m_prompts->isSettled() && m_prompts->alerts().empty());
+    }
+
+    void saveThatExhaustsTheMemoryTouchesNothing()
+    {
+        m_document->edit("mine");
+        m_document->duringReview = [] { throw std::bad_alloc(); };
+        m_prompts->answerAlert(id("kCancel"));
+        QCOMPARE(save(), std::optional<bool>(false));
+        QVERIFY(m_prompts->lastText().contains(id("kNoMemoryReason")));
+        QCOMPARE(contentOf(m_path), QByteArray("old"));
+        QVERIFY(m_document->isDocumentEdited());
+        QCOMPARE(save(), std::optional<bool>(true));
     }
 
     void oneQuestionAtATime()

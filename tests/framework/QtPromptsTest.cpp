@@ -3,6 +3,7 @@
 #include "testing/TestMain.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QLabel>
@@ -13,6 +14,7 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPushButton>
+#include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -43,6 +45,7 @@ private slots:
         QTest::newRow("destructive") << QStringLiteral("alertButton1") << 0 << 2 << 1;
         QTest::newRow("last") << QStringLiteral("alertButton2") << 0 << 2 << 2;
         QTest::newRow("Return is the first") << QString() << int{Qt::Key_Return} << 2 << 0;
+        QTest::newRow("the letter of the second") << QString() << int{Qt::Key_B} << 2 << 1;
         QTest::newRow("Escape cancels") << QString() << int{Qt::Key_Escape} << 2 << 2;
         QTest::newRow("Escape, cancel first") << QString() << int{Qt::Key_Escape} << 0 << 0;
         QTest::newRow("Escape is the last unless said")
@@ -66,11 +69,13 @@ private slots:
         const QList<QLabel *> labels = box->findChildren<QLabel *>();
         for (const QLabel *label : labels)
             QCOMPARE(label->textFormat(), Qt::PlainText);
+        QVERIFY(QTest::qWaitForWindowActive(box)); // or its letters reach nobody
         if (press.isEmpty())
-            QTest::keyClick(box.data(), static_cast<Qt::Key>(key));
+            QTest::keyClick(box.data(), static_cast<Qt::Key>(key),
+                            key < Qt::Key_Escape ? Qt::AltModifier : Qt::NoModifier);
         else
             QTest::mouseClick(box->findChild<QPushButton *>(press), Qt::LeftButton);
-        QVERIFY(m_answer);
+        QTRY_VERIFY(m_answer);
         QCOMPARE(m_answer->button, answer);
         QTRY_VERIFY(!box);
     }
@@ -107,7 +112,7 @@ private slots:
         const QMessageBox *box = show(alert);
         auto *check = box->findChild<QCheckBox *>(QStringLiteral("alertCheckBox"));
         QVERIFY(check && check->isVisible() && !check->isChecked());
-        QCOMPARE(check->text(), alert.checkBox);
+        QCOMPARE(check->text(), QStringLiteral("A&lways")); // the button has the A
         check->click();
         box->findChild<QPushButton *>(QStringLiteral("alertButton0"))->click();
         QVERIFY(m_answer && m_answer->isChecked);
@@ -142,6 +147,28 @@ private slots:
         QTRY_VERIFY(!dialog);
     }
 
+    void typeOfASavePanelIsThatOfTheName()
+    {
+        const QTemporaryDir folder;
+        QString path;
+        m_prompts.showSavePanel(
+            m_window.get(),
+            {.title = {},
+             .suggestedPath = folder.filePath(QStringLiteral("list.txt")),
+             .nameFilters = {QStringLiteral("A (*.txt)"), QStringLiteral("B (*.tll)")}},
+            [&path](const QString &answer) { path = answer; });
+        auto *dialog = m_window->findChild<QFileDialog *>(QStringLiteral("savePanel"));
+        auto *type = dialog->findChild<QComboBox *>(QStringLiteral("fileTypeCombo"));
+        QVERIFY(type && type->count() == 2);
+        type->setCurrentIndex(1);
+        emit type->activated(1);
+        emit type->textActivated(type->currentText());
+        QCOMPARE(dialog->selectedFiles(), {folder.filePath(QStringLiteral("list.tll"))});
+        dialog->selectFile(QStringLiteral("other"));
+        QMetaObject::invokeMethod(dialog, "accept");
+        QCOMPARE(path, folder.filePath(QStringLiteral("other.tll")));
+    }
+
     void questionGoesUnansweredWithItsWindow()
     {
         Alert alert;
@@ -168,7 +195,7 @@ private slots:
     void openPanelAnswersAndRemembersItsFolder()
     {
         const QTemporaryDir folder;
-        const QString path = folder.filePath(QStringLiteral("list.tll"));
+        const QString path = folder.filePath(QStringLiteral("list.Tll"));
         testing::writeFile(path, {});
         OpenPanel panel;
         panel.title = QStringLiteral("Open");
@@ -178,6 +205,7 @@ private slots:
         QVERIFY(dialog && dialog->isVisible());
         QCOMPARE(dialog->selectedNameFilter(), panel.nameFilters.front());
         QCOMPARE(dialog->fileMode(), QFileDialog::ExistingFile);
+        QVERIFY(dialog->nameFilters().front().endsWith(QLatin1String("(*.[tT][lL][lL])")));
         dialog->selectFile(path);
         QMetaObject::invokeMethod(dialog, "accept");
         QCOMPARE(m_paths, std::optional<QStringList>(QStringList{path}));
@@ -189,6 +217,14 @@ private slots:
         QCOMPARE(dialog->fileMode(), QFileDialog::ExistingFiles);
         dialog->reject();
         QCOMPARE(m_paths, std::optional<QStringList>(QStringList()));
+
+        // A folder that is gone would stand as a file's name.
+        QSettings().setValue(QStringLiteral("openPanel/folder"), folder.filePath(panel.title));
+        dialog = open(panel);
+        QVERIFY(dialog->directory().exists());
+        const auto *name = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+        QVERIFY(name && name->text().isEmpty());
+        dialog->reject();
     }
 
     void printPanelPrintsOnlyOnConfirmation_data()
@@ -203,7 +239,7 @@ private slots:
         QFETCH(int, result);
         QFETCH(QString, printed);
         QString name;
-        m_prompts.showPrintPanel(m_window.get(), QStringLiteral("list.tll"),
+        m_prompts.showPrintPanel(m_window.get(), {QStringLiteral("list.tll"), true},
                                  [&name](QPrinter &printer) { name = printer.docName(); });
         const QPointer<QPrintDialog> dialog = m_window->findChild<QPrintDialog *>();
         QVERIFY(dialog);

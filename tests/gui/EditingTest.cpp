@@ -373,7 +373,7 @@ private slots:
         QTRY_VERIFY(window->isWindowModified());
         QVERIFY(menuItem(*window, "saveDocument").isEnabled());
         QCOMPARE(cell(*window, 0, Name), u"Station 2"_s);
-        app.preset.answerAlert(label("kRevert"));
+        app.preset.answerAlert(label("kDiscardChanges"));
         menuItem(*window, "revertDocumentToSaved").trigger();
         QTRY_COMPARE(cell(*window, 0, Name), u"Station 1"_s);
         QVERIFY(!window->isWindowModified() && !menuItem(*window, "saveDocument").isEnabled());

@@ -1,5 +1,6 @@
 #include "AppFixture.h"
 
+#include "testing/TLLText.h"
 #include "testing/TestMain.h"
 
 #include <QDir>
@@ -7,7 +8,10 @@
 #include <QProcess>
 #include <QTest>
 
+#include <fstream>
+
 using namespace quillet::testing;
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -83,6 +87,41 @@ private slots:
         QCOMPARE(run.output.isEmpty(), output.isEmpty());
         QCOMPARE(run.errors.startsWith("quillet: "), !errors.isEmpty());
     }
+
+#ifndef Q_OS_WIN
+    void fileThatMayNotGrowIsAnError()
+    {
+        const QTemporaryDir folder;
+        QProcess limited;
+        limited.start(u"/bin/sh"_s,
+                      {u"-c"_s, u"ulimit -f 1; exec \"$0\" --snapshot \"$1\" \"$2\""_s,
+                       QStringLiteral(QUILLET_EXECUTABLE), folder.filePath(u"a.png"_s),
+                       QStringLiteral(QUILLET_SAMPLES "/antenna.tll")});
+        QVERIFY(limited.waitForFinished(60000));
+        QCOMPARE(limited.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(limited.exitCode(), 1);
+    }
+
+    void logCountsTheStationsOfTheFirstFile()
+    {
+        const QTemporaryDir home;
+        // A name that is no text.
+        const QByteArray odd = QFile::encodeName(home.path()) + "/\xE4.tll";
+        std::ofstream(odd.toStdString()) << readSample(u"antenna.tll"_s).toStdString();
+        QProcess program;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"XDG_DATA_HOME"_s, home.path());
+        environment.insert(u"XDG_CONFIG_HOME"_s, home.path());
+        program.setProcessEnvironment(environment);
+        program.start(u"/bin/sh"_s, {u"-c"_s, u"cd \"$1\"; exec \"$0\" *.tll"_s,
+                                     QStringLiteral(QUILLET_EXECUTABLE), home.path()});
+        QTRY_VERIFY_WITH_TIMEOUT(
+            contentOf(home.filePath(u"Logs/quillet/XT.log"_s)).contains("Radio[3] = "), 60000);
+        program.kill();
+        QVERIFY(program.waitForFinished());
+        QVERIFY(!contentOf(home.filePath(u"Logs/quillet/XT.log"_s)).contains("TV[2] = 0"));
+    }
+#endif
 
     void snapshot()
     {

@@ -4,6 +4,8 @@
 #include "testing/TestMain.h"
 
 #include <QAction>
+#include <QPageRanges>
+#include <QPrinter>
 #include <QRegularExpression>
 #include <QTest>
 
@@ -31,7 +33,11 @@ QByteArrayList pages(const QByteArray &pdf)
     return pages;
 }
 
+using SetUp = std::function<void(QPrinter &)>;
+
 } // namespace
+
+Q_DECLARE_METATYPE(SetUp)
 
 class PrintingTest : public QObject
 {
@@ -61,22 +67,73 @@ private slots:
             QVERIFY(ground > 0.9);
     }
 
-    void longListsTakeMorePages()
+    void asManyPagesAsChosen_data()
     {
-        const qsizetype count = print(400).size();
-        QVERIFY2(count > 4 && count < 40, qPrintable(QString::number(count)));
+        QTest::addColumn<SetUp>("setUp");
+        QTest::addColumn<qsizetype>("pages"); // -1: all of a long list
+        QTest::newRow("all") << SetUp() << qsizetype{-1};
+        QTest::newRow("from to") << SetUp([](QPrinter &printer) {
+            printer.setPrintRange(QPrinter::PageRange);
+            printer.setFromTo(2, 4);
+        }) << qsizetype{3};
+        QTest::newRow("single ones") << SetUp([](QPrinter &printer) {
+            printer.setPrintRange(QPrinter::PageRange);
+            printer.setPageRanges(QPageRanges::fromString(QStringLiteral("1,3-4,900")));
+        }) << qsizetype{3};
+        QTest::newRow("current") << SetUp([](QPrinter &printer) {
+            printer.setPrintRange(QPrinter::CurrentPage);
+        }) << qsizetype{1};
+        QTest::newRow("selection")
+            << SetUp([](QPrinter &printer) { printer.setPrintRange(QPrinter::Selection); })
+            << qsizetype{1};
+    }
+    void asManyPagesAsChosen()
+    {
+        QFETCH(SetUp, setUp);
+        QFETCH(qsizetype, pages);
+        const qsizetype count = print(400, setUp).size();
+        QVERIFY2(pages < 0 ? count > 4 && count < 40 : count == pages,
+                 qPrintable(QString::number(count)));
+    }
+
+    void failureIsSaid_data()
+    {
+        QTest::addColumn<bool>("hasPages");
+        QTest::addColumn<QString>("reason");
+        QTest::newRow("no such page") << false << label("kNoSuchPageReason");
+        QTest::newRow("no place") << true << label("kPrintFailedReason");
+    }
+    void failureIsSaid()
+    {
+        QFETCH(bool, hasPages);
+        QFETCH(QString, reason);
+        App app;
+        QMainWindow *window = app.open("a.tll", listOf(3));
+        if (!hasPages)
+            app.preset.setUpPrinter = [](QPrinter &printer) {
+                printer.setPrintRange(QPrinter::PageRange);
+                printer.setFromTo(7, 8);
+            };
+        app.preset.answerAlert(label("kOK"));
+        app.preset.answerPrintPanel(app.folder.filePath(QStringLiteral("none/a.pdf")));
+        menuItem(*window, "printDocument").trigger();
+        QTRY_VERIFY(app.preset.isSettled());
+        QVERIFY(app.preset.lastText().contains(reason));
+        QVERIFY(!app.preset.printPanels().front().hasSelection);
     }
 
 private:
     /// What the list's window prints; the window must look as before afterwards.
-    QByteArrayList print(int stations)
+    QByteArrayList print(int stations, const SetUp &setUp = {})
     {
         App app;
+        app.preset.setUpPrinter = setUp;
         QMainWindow *window = app.open("a.tll", listOf(stations));
         if (!window)
             return {};
         const QColor base = tableOf(*window).palette().color(QPalette::Base);
         const QString path = app.folder.filePath(QStringLiteral("a.pdf"));
+        selectRows(*window, {1, 3});
         app.preset.answerPrintPanel(path);
         QTest::keyClick(window, Qt::Key_P, Qt::ControlModifier);
         [&] { QTRY_VERIFY(app.preset.isSettled()); }();

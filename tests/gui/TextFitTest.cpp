@@ -3,6 +3,7 @@
 #include "app/Translations.h"
 #include "editor/EditorView.h"
 #include "editor/ElidedLabel.h"
+#include "framework/Mnemonics.h"
 #include "framework/QtPrompts.h"
 #include "testing/TLLText.h"
 #include "testing/TestMain.h"
@@ -13,6 +14,7 @@
 #include <QDialog>
 #include <QDir>
 #include <QHeaderView>
+#include <QKeySequence>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMap>
@@ -229,6 +231,29 @@ class TextFitTest : public QObject
     Q_OBJECT
 
 private slots:
+    void everyButtonOfASheetHasItsOwnLetter()
+    {
+        const QList<QStringList> sheets{
+            {u"kSave"_s, u"kDiscardChanges"_s, u"kCancel"_s},
+            {u"kSaveRepaired"_s, u"kSaveWithout"_s, u"kCancel"_s, u"kReviewAlways"_s},
+            {u"kCancel"_s, u"kSaveAnyway"_s, u"kSaveCopy"_s, u"kReload"_s},
+            {u"kCancel"_s, u"kSaveHereAnyway"_s, u"kChoosePlace"_s}};
+        for (const QString &language : languages()) {
+            const Locale locale(language, Qt::LeftToRight);
+            for (const QStringList &ids : sheets) {
+                QStringList titles;
+                for (const QString &text : ids)
+                    titles.append(qtTrId(text.toLatin1().constData(), 3));
+                QSet<QKeySequence> keys;
+                for (const QString &title : withMnemonics(titles)) {
+                    QVERIFY2(!QKeySequence::mnemonic(title).isEmpty(), qPrintable(title));
+                    keys.insert(QKeySequence::mnemonic(title));
+                }
+                QCOMPARE(keys.size(), titles.size());
+            }
+        }
+    }
+
     void nothingIsClipped_data()
     {
         QTest::addColumn<QString>("language");

@@ -114,16 +114,18 @@ void PresetPrompts::showSavePanel(QWidget *window, const SavePanel &panel,
         [done = std::move(done)](const Answer &given) { done(given.value(0)); });
 }
 
-void PresetPrompts::showPrintPanel(QWidget *window, const QString &documentName,
+void PresetPrompts::showPrintPanel(QWidget *window, const PrintPanel &panel,
                                    std::function<void(QPrinter &)> print)
 {
-    m_printedNames.append(documentName);
-    ask(m_printLine, window, [print = std::move(print)](const Answer &given) {
+    m_printPanels.push_back(panel);
+    ask(m_printLine, window, [this, print = std::move(print)](const Answer &given) {
         if (given.value(0).isEmpty())
             return;
         QPrinter printer;
         printer.setOutputFormat(QPrinter::PdfFormat);
         printer.setOutputFileName(given.value(0));
+        if (setUpPrinter)
+            setUpPrinter(printer);
         print(printer);
     });
 }

@@ -43,7 +43,9 @@ public:
     [[nodiscard]] const std::vector<ShownAlert> &alerts() const { return m_alerts; }
     [[nodiscard]] const std::vector<OpenPanel> &openPanels() const { return m_openPanels; }
     [[nodiscard]] const std::vector<SavePanel> &savePanels() const { return m_savePanels; }
-    [[nodiscard]] const QStringList &printedNames() const { return m_printedNames; }
+    [[nodiscard]] const std::vector<PrintPanel> &printPanels() const { return m_printPanels; }
+    /// What a person sets in a print panel before it is confirmed; empty: nothing.
+    std::function<void(QPrinter &)> setUpPrinter;
     /// The message and the further text of the last alert; empty when there was none.
     [[nodiscard]] QString lastText() const;
     /// Whether every answer was used, no question is open and every button was there.
@@ -55,7 +57,7 @@ public:
                        std::function<void(const QStringList &)> done) override;
     void showSavePanel(QWidget *window, const SavePanel &panel,
                        std::function<void(const QString &)> done) override;
-    void showPrintPanel(QWidget *window, const QString &documentName,
+    void showPrintPanel(QWidget *window, const PrintPanel &panel,
                         std::function<void(QPrinter &)> print) override;
 
 private:
@@ -77,7 +79,7 @@ private:
     std::vector<ShownAlert> m_alerts;
     std::vector<OpenPanel> m_openPanels;
     std::vector<SavePanel> m_savePanels;
-    QStringList m_printedNames;
+    std::vector<PrintPanel> m_printPanels;
     int m_underway = 0;
     bool m_hasMistake = false;
     QObject m_context; ///< answers under way end with it

@@ -3,29 +3,72 @@
 #include <QHash>
 
 #include <algorithm>
+#include <numeric>
 
 namespace quillet {
 
 namespace {
 
-/// Returns where the stations stood that were removed.
-ListStretch removeByNumber(StationList &stations, const StationList &moved)
+/// A moved station that stays where it stood as well, for another one was taken out in its place.
+struct StayedBehind
+{
+    std::size_t place;   ///< among those that were left
+    std::size_t ofMoved; ///< which of the moved stations it is
+};
+
+/// Takes the moved stations' numbers out of the list's, which become the plan's.
+std::vector<StayedBehind> planRemoval(MovePlan &plan, const StationList &stations)
 {
     QHash<qint64, qsizetype> wanted;
-    for (const StationPtr &station : moved)
-        ++wanted[station->progNum()];
-    ListStretch removed;
-    std::size_t next = 0;
-    std::erase_if(stations, [&wanted, &removed, &next](const StationPtr &station) {
-        const std::size_t place = next++;
-        const auto number = wanted.find(station->progNum());
-        if (number == wanted.end() || number.value() == 0)
-            return false;
-        --number.value();
-        removed.include(place);
-        return true;
-    });
-    return removed;
+    QHash<const LGStation *, std::size_t> moved;
+    for (std::size_t j = 0; j < plan.moved.size(); ++j) {
+        ++wanted[plan.moved[j]->progNum()];
+        moved.insert(plan.moved[j].get(), j);
+    }
+    std::vector<StayedBehind> stayed;
+    plan.numbers.reserve(stations.size());
+    for (std::size_t place = 0; place < stations.size(); ++place) {
+        const qint64 number = stations[place]->progNum();
+        const auto found = wanted.find(number);
+        if (found == wanted.end() || found.value() == 0) {
+            if (found != wanted.end() && moved.contains(stations[place].get()))
+                stayed.push_back({plan.numbers.size(), moved.value(stations[place].get())});
+            plan.numbers.push_back(number);
+            continue;
+        }
+        --found.value();
+        plan.removed.push_back(place);
+        plan.changed.include(place);
+    }
+    return stayed;
+}
+
+/// Raises what is not above its predecessor.
+ListStretch raise(std::vector<qint64> &numbers)
+{
+    ListStretch changed;
+    qint64 last = 0;
+    for (std::size_t i = 0; i < numbers.size(); ++i) {
+        if (numbers[i] <= last) {
+            numbers[i] = last + 1;
+            changed.include(i);
+        }
+        last = numbers[i];
+    }
+    return changed;
+}
+
+ListStretch countUp(std::vector<qint64> &numbers)
+{
+    ListStretch changed;
+    for (std::size_t i = 0; i < numbers.size(); ++i) {
+        const auto number = static_cast<qint64>(i) + 1;
+        if (numbers[i] == number)
+            continue;
+        numbers[i] = number;
+        changed.include(i);
+    }
+    return changed;
 }
 
 } // namespace
@@ -46,58 +89,86 @@ std::size_t indexForNewProgNum(const StationList &stations, qint64 number)
     return static_cast<std::size_t>(found - stations.begin());
 }
 
-Renumbered moveElemList(StationList &stations, const StationList &moved, qint64 target,
-                        bool fillGaps)
+std::size_t MovePlan::beyond() const
 {
-    Renumbered result{.selection = {}, .changed = removeByNumber(stations, moved)};
+    return static_cast<std::size_t>(
+        std::count_if(numbers.begin(), numbers.end(),
+                      [](qint64 number) { return !LGStation::canCarry(number); }));
+}
+
+MovePlan planMove(const StationList &stations, const StationList &moved, qint64 target,
+                  bool fillGaps)
+{
+    MovePlan plan;
+    plan.moved = moved;
+    plan.target = target;
+    const std::vector<StayedBehind> stayed = planRemoval(plan, stations);
+    std::vector<qint64> &numbers = plan.numbers;
     const qint64 first = std::min(target, highestTarget);
-    const std::size_t place = indexForNewProgNum(stations, first);
-    const auto count = static_cast<qint64>(moved.size());
-    stations.insert(stations.begin() + static_cast<std::ptrdiff_t>(place), moved.begin(),
-                    moved.end());
-    for (qint64 j = 0; j < count; ++j)
-        // Below 0 only the place counts; the lower bits of such a number would read as another one.
-        moved[static_cast<std::size_t>(j)]->setProgramNum(std::max<qint64>(first + j, 0));
-
-    result.changed.include({place, place + moved.size()});
-
-    if (fillGaps) {
-        result.changed.include(closeGaps(stations));
-    } else {
-        qint64 last = 0;
-        for (std::size_t i = 0; i < stations.size(); ++i) {
-            // A moved station counts with the number meant for it, which may be below 0.
-            const bool isMoved = i >= place && i < place + moved.size();
-            const qint64 number =
-                isMoved ? first + static_cast<qint64>(i - place) : stations[i]->progNum();
-            if (number > last) {
-                last = number;
-                continue;
-            }
-            stations[i]->setProgramNum(++last);
-            result.changed.include(i);
-        }
+    const auto at = std::find_if(numbers.begin(), numbers.end(),
+                                 [first](qint64 number) { return number >= first; });
+    plan.place = static_cast<std::size_t>(at - numbers.begin());
+    std::iota(numbers.insert(at, moved.size(), 0),
+              numbers.begin() + static_cast<std::ptrdiff_t>(plan.place + moved.size()), first);
+    for (const auto &[left, j] : stayed) {
+        const std::size_t place = left < plan.place ? left : left + moved.size();
+        numbers[place] = std::max<qint64>(first + static_cast<qint64>(j), 0);
+        plan.changed.include(place);
     }
+    plan.changed.include({plan.place, plan.place + moved.size()});
+    plan.changed.include(fillGaps ? countUp(numbers) : raise(numbers));
 
     // With gaps filled, stations moved towards the end are expected as many places before the
     // target as were moved.
+    const auto count = static_cast<qint64>(moved.size());
     const qint64 offset = fillGaps && first > moved.front()->origPos() ? -count : 0;
     for (qint64 j = 0; j < count; ++j)
-        result.selection.append(QString::number(first + offset + j));
-    return result;
+        plan.selection.append(QString::number(first + offset + j));
+    return plan;
 }
 
-ListStretch closeGaps(const StationList &stations)
+std::size_t carryOut(const MovePlan &plan, StationList &stations)
 {
-    ListStretch changed;
+    auto removed = plan.removed.begin();
+    std::size_t place = 0;
+    std::erase_if(stations, [&](const StationPtr &) {
+        const bool goes = removed != plan.removed.end() && *removed == place++;
+        if (goes)
+            ++removed;
+        return goes;
+    });
+    stations.insert(stations.begin() + static_cast<std::ptrdiff_t>(plan.place), plan.moved.begin(),
+                    plan.moved.end());
+
+    std::size_t others = 0;
+    for (std::size_t i = plan.changed.first; i < plan.changed.end; ++i) {
+        const bool isMoved = i >= plan.place && i < plan.place + plan.moved.size();
+        if (!isMoved && stations[i]->progNum() == plan.numbers[i])
+            continue;
+        stations[i]->setProgramNum(plan.numbers[i]);
+        others += isMoved ? 0 : 1;
+    }
+    return others;
+}
+
+std::size_t beyondAfterClosingGaps(const StationList &stations)
+{
+    const auto highest = static_cast<std::size_t>(LGStation::progNumMask);
+    return stations.size() - std::min(stations.size(), highest);
+}
+
+ClosedGaps closeGaps(const StationList &stations)
+{
+    ClosedGaps closed;
     for (std::size_t i = 0; i < stations.size(); ++i) {
         const auto number = static_cast<qint64>(i) + 1;
         if (stations[i]->progNum() == number)
             continue;
         stations[i]->setProgramNum(number);
-        changed.include(i);
+        closed.changed.include(i);
+        ++closed.count;
     }
-    return changed;
+    return closed;
 }
 
 } // namespace quillet

@@ -5,6 +5,8 @@
 
 #include <QStringList>
 
+#include <vector>
+
 /// Moving stations within a list by giving them new program numbers. The order of a list is the
 /// order of its numbers, which strictly increase after every operation here.
 namespace quillet {
@@ -19,11 +21,19 @@ inline constexpr qint64 highestTarget = 9999;
 /// none.
 [[nodiscard]] std::size_t indexForNewProgNum(const StationList &stations, qint64 number);
 
-/// What moving did.
-struct Renumbered
+/// What moving would do to a list. Means nothing any more once that list has changed.
+struct MovePlan
 {
-    QStringList selection; ///< the numbers, as text, that should be selected afterwards
-    ListStretch changed;   ///< where another station or number stands now
+    StationList moved;
+    qint64 target = 0;                ///< as it was given
+    std::vector<std::size_t> removed; ///< the places that stations are taken out of, ascending
+    std::size_t place = 0;            ///< where the first moved one stands afterwards
+    std::vector<qint64> numbers;      ///< of the whole list afterwards
+    QStringList selection;            ///< the numbers, as text, that should be selected afterwards
+    ListStretch changed;              ///< where another station or number stands afterwards
+
+    /// How many stations get a number that they cannot carry.
+    [[nodiscard]] std::size_t beyond() const;
 };
 
 /// Takes the moved stations (at least one) out of the list and puts them back, in their order, at
@@ -33,10 +43,20 @@ struct Renumbered
 ///
 /// Stations are taken out by number: of several with the same number the first in the list goes,
 /// even when another one is moved.
-Renumbered moveElemList(StationList &stations, const StationList &moved, qint64 target,
-                        bool fillGaps);
+[[nodiscard]] MovePlan planMove(const StationList &stations, const StationList &moved,
+                                qint64 target, bool fillGaps);
+/// Carries out a plan for that very list. Returns how many stations besides the moved ones got
+/// another number.
+std::size_t carryOut(const MovePlan &plan, StationList &stations);
 
-/// Numbers the list 1, 2, 3 and so on. Returns where numbers changed.
-ListStretch closeGaps(const StationList &stations);
+/// What numbering that many stations 1, 2, 3 and so on gives to some that they cannot carry.
+[[nodiscard]] std::size_t beyondAfterClosingGaps(const StationList &stations);
+/// Numbers the list 1, 2, 3 and so on.
+struct ClosedGaps
+{
+    ListStretch changed; ///< where numbers changed
+    std::size_t count = 0;
+};
+ClosedGaps closeGaps(const StationList &stations);
 
 } // namespace quillet

@@ -47,6 +47,8 @@ struct ChannelList
     /// How many stations were filed under sources 0 to 2 and under source 3 when it was read.
     qsizetype digitalStations = 0;
     qsizetype analogStations = 0;
+    /// How many stations were given a number then that they cannot carry.
+    std::size_t beyondLastNumber = 0;
 
     /// The model name of the set; none when the file does not tell.
     [[nodiscard]] std::optional<QString> modelName() const;

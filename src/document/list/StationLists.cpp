@@ -56,7 +56,7 @@ StationListPtr StationLists::listWithMostEntries(bool isTV) const
     return longest;
 }
 
-void StationLists::sortAndValidateStations(StationList &stations)
+std::size_t StationLists::sortAndValidateStations(StationList &stations)
 {
     struct Numbered
     {
@@ -71,15 +71,18 @@ void StationLists::sortAndValidateStations(StationList &stations)
                      [](const auto &a, const auto &b) { return a.number < b.number; });
 
     qint64 last = 0;
+    std::size_t beyond = 0;
     for (std::size_t i = 0; i < numbered.size(); ++i) {
         auto &[number, station] = numbered[i];
         if (number <= last) {
             number = last + 1;
             station->setProgramNum(number);
+            beyond += LGStation::canCarry(number) ? 0 : 1;
         }
         last = number;
         stations[i] = std::move(station);
     }
+    return beyond;
 }
 
 } // namespace quillet

@@ -54,7 +54,7 @@ public:
     /// Sorts by program number, equal numbers keeping their order, and then raises every number
     /// that does not exceed the one before it to the next free one. All numbers are 1 or more
     /// afterwards; gaps stay.
-    static void sortAndValidateStations(StationList &stations);
+    static std::size_t sortAndValidateStations(StationList &stations);
 
 private:
     Lists m_tvStations;

@@ -8,6 +8,7 @@
 #include <limits>
 #include <optional>
 #include <utility>
+#include <vector>
 
 namespace quillet {
 
@@ -82,6 +83,36 @@ MatchedStation takeStation(StationPool &pool, const ReferenceEntry &entry)
     return {pool.take(match.index), QLatin1String("name"), QLatin1String("---")};
 }
 
+/// Which stations the entries take, before any is changed.
+struct Matching
+{
+    struct Taken
+    {
+        MatchedStation matched;
+        qint64 number; ///< the entry's
+    };
+    std::vector<Taken> taken;
+    StationList remaining;
+    /// The number of the last matched entry; 0 when none matched.
+    [[nodiscard]] qint64 last() const { return taken.empty() ? 0 : taken.back().number; }
+};
+
+Matching match(StationList stations, const ReferenceList &entries)
+{
+    Matching matching;
+    StationPool pool(std::move(stations));
+    for (const ReferenceEntry &entry : entries) {
+        if (pool.isEmpty())
+            break;
+        const MatchedStation matched = takeStation(pool, entry);
+        if (matched.station)
+            matching.taken.push_back({matched, std::clamp<qint64>(lenientInteger(entry.num),
+                                                                  lowestNumber, highestNumber)});
+    }
+    matching.remaining = pool.takeAll();
+    return matching;
+}
+
 /// Reads the names of the stations even when no log is open: by them the next list is matched.
 void addListing(QLatin1String title, const StationList &stations, LogLines &log)
 {
@@ -108,30 +139,38 @@ ReferenceOrderResult applyReferenceOrder(StationList &stations, const ReferenceL
     log.add(QStringView(QString::asprintf(
         "\n========= Begin applying external sort order (%ld items) to %ld stations =========",
         static_cast<long>(entries.size()), static_cast<long>(stations.size()))));
-    StationPool pool(std::exchange(stations, {}));
-    qint64 last = 0;
-    for (const ReferenceEntry &entry : entries) {
-        if (pool.isEmpty())
-            break;
-        const MatchedStation matched = takeStation(pool, entry);
-        if (!matched.station)
-            continue;
+    log.flush(); // what goes wrong from here on has a beginning in the log
+    const Matching matching = match(std::exchange(stations, {}), entries);
+    for (const auto &[matched, number] : matching.taken) {
         log.add(matched.mark, QLatin1String(" Found Elem ("),
                 QStringView(matched.station->stationName()), QLatin1String(") by "), matched.by);
-        last = std::clamp<qint64>(lenientInteger(entry.num), lowestNumber, highestNumber);
-        matched.station->setProgramNum(last);
+        matched.station->setProgramNum(number);
         stations.push_back(matched.station);
     }
 
-    const StationList remaining = pool.takeAll();
+    const StationList &remaining = matching.remaining;
     addListing(QLatin1String("\n========= List of matched stations:\n"), stations, log);
     addListing(QLatin1String("========= List of remaining items:\n"), remaining, log);
+    log.flush();
+    qint64 last = matching.last();
     const ReferenceOrderResult result{stations.size(), remaining.size(), last};
     for (const StationPtr &station : remaining) {
         station->setProgramNum(++last);
         stations.push_back(station);
     }
     return result;
+}
+
+std::size_t beyondAfterOrder(const StationList &stations, const ReferenceList &entries)
+{
+    const Matching matching = match(stations, entries);
+    std::size_t beyond = 0;
+    for (const Matching::Taken &taken : matching.taken)
+        beyond += LGStation::canCarry(taken.number) ? 0 : 1;
+    qint64 number = matching.last();
+    for (std::size_t i = 0; i < matching.remaining.size(); ++i)
+        beyond += LGStation::canCarry(++number) ? 0 : 1;
+    return beyond;
 }
 
 } // namespace quillet

@@ -21,4 +21,8 @@ struct ReferenceOrderResult
 /// neither sorted nor freed of equal numbers. Writes what it did to the log.
 ReferenceOrderResult applyReferenceOrder(StationList &stations, const ReferenceList &entries);
 
+/// How many stations of the list that would give a number that they cannot carry. Changes nothing.
+[[nodiscard]] std::size_t beyondAfterOrder(const StationList &stations,
+                                           const ReferenceList &entries);
+
 } // namespace quillet

@@ -43,6 +43,7 @@ bool fileStations(ChannelList &list)
 {
     list.lists.setupLists();
     list.unfiled.clear();
+    list.beyondLastNumber = 0;
     for (const QStringView section : fileword::sections) {
         if (!fileSection(list, section))
             return false;
@@ -50,8 +51,9 @@ bool fileStations(ChannelList &list)
     qsizetype total = 0;
     for (const StationSource source : stationSources) {
         const int index = static_cast<int>(source);
-        StationLists::sortAndValidateStations(*list.lists.list(true, index));
-        StationLists::sortAndValidateStations(*list.lists.list(false, index));
+        for (const bool isTV : {true, false})
+            list.beyondLastNumber +=
+                StationLists::sortAndValidateStations(*list.lists.list(isTV, index));
         total += list.lists.stationCount(index);
         if (source == StationSource::Antenna)
             list.digitalStations = total;

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QString>
+
+namespace quillet {
+
+/// What an edit came to, in numbers and names: enough to say it to a person.
+struct EditSummary
+{
+    enum class Kind {
+        Moved,
+        ClosedGaps,
+        Renamed,
+        Skipped,
+        Unskipped,
+        Locked,
+        Unlocked,
+        Ordered, ///< as a reference list says
+    };
+
+    Kind kind = Kind::Moved;
+    std::size_t stations = 0; ///< that were edited; after closing gaps, those with another number
+    qint64 first = 0;         ///< the number of the first that was moved, now
+    qint64 last = 0;          ///< and of the last
+    std::size_t others = 0;   ///< stations besides them that got another number
+    QString name = {};        ///< that was given; after an order, that of its file
+};
+
+/// The summary in a sentence, without a full stop.
+[[nodiscard]] QString textOf(const EditSummary &summary);
+
+} // namespace quillet

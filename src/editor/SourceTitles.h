@@ -1,0 +1,10 @@
+#pragma once
+
+#include <QString>
+
+namespace quillet {
+
+/// What a source (0 to 3) is called; empty for any other number.
+[[nodiscard]] QString sourceTitle(int source);
+
+} // namespace quillet

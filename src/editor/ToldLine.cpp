@@ -1,0 +1,48 @@
+#include "editor/ToldLine.h"
+
+#include <QAccessible>
+#include <QAccessibleWidget>
+
+namespace quillet {
+
+namespace {
+
+constexpr int longEnoughToRead = 20000;
+
+/// Lets screen readers speak the line as soon as it has a text.
+QAccessibleInterface *alertInterface(const QString &, QObject *object)
+{
+    auto *line = qobject_cast<ToldLine *>(object);
+    return line ? new QAccessibleWidget(line, QAccessible::AlertMessage) : nullptr;
+}
+
+} // namespace
+
+ToldLine::ToldLine(QWidget *parent) : QLabel(parent)
+{
+    static const bool hasInterface = (QAccessible::installFactory(alertInterface), true);
+    Q_UNUSED(hasInterface)
+    setObjectName(QStringLiteral("toldText"));
+    setWordWrap(true);
+    setTextFormat(Qt::PlainText); // names of files may look like markup
+    setMinimumHeight(fontMetrics().height());
+    m_silence.setSingleShot(true);
+    connect(&m_silence, &QTimer::timeout, this, [this] {
+        clear();
+        setAccessibleName({});
+    });
+}
+
+void ToldLine::tell(const QString &text)
+{
+    setText(text);
+    setAccessibleName(text);
+    m_silence.start(longEnoughToRead);
+    for (const auto kind : {QAccessible::NameChanged, QAccessible::Alert}) {
+        QAccessibleEvent event(this, kind);
+        QAccessible::updateAccessibility(&event);
+    }
+    emit announced(text);
+}
+
+} // namespace quillet

@@ -51,6 +51,7 @@ int makePicture(const CommandLine &line)
 
 int edit(const CommandLine &line)
 {
+    OpenFileLog(QStringLiteral("XT")); // before the files of the command line are read
     QtPrompts prompts;
     AppDelegate delegate(prompts);
     delegate.setHelpArguments(line.helpWindow);

@@ -3,6 +3,7 @@
 #include "editor/CellFont.h"
 #include "editor/CellText.h"
 #include "editor/ShownTexts.h"
+#include "framework/PlainToolTip.h"
 
 namespace quillet {
 

@@ -45,6 +45,8 @@ QString libraryFolder()
 /// Why a folder could not be made, in the system's words.
 QString obstacleToFolder(const QString &path)
 {
+    if (!QDir::isAbsolutePath(path))
+        return QStringLiteral("the path is not absolute");
     std::error_code code;
     std::filesystem::create_directories(QFileInfo(path).filesystemFilePath(), code);
     return QString::fromLocal8Bit(code.message());

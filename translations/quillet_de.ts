@@ -947,6 +947,10 @@ Diese folgen ab Nummer: %3</translation>
         <source></source>
         <translation>Nichts geändert: Die Zeilen sind noch die von „%1“, gewählt ist aber „%2“</translation>
     </message>
+    <message id="kToldIsChannelList">
+        <source></source>
+        <translation>Keine Reihenfolge angewendet: „%1“ ist eine vollständige Senderliste, etwa ein Export. Geben Sie ihr einen Namen mit der Endung .tll, um ihre Reihenfolge zu übernehmen</translation>
+    </message>
     <message id="kToldLocked" numerus="yes">
         <source></source>
         <translation>

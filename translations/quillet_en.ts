@@ -947,6 +947,10 @@ These go on from number: %3</translation>
         <source></source>
         <translation>Nothing was changed: the rows are still those of “%1”, while “%2” is chosen</translation>
     </message>
+    <message id="kToldIsChannelList">
+        <source></source>
+        <translation>No order was applied: “%1” is a whole channel list, such as an export. Give it a name that ends in .tll to take its order</translation>
+    </message>
     <message id="kToldLocked" numerus="yes">
         <source></source>
         <translation>

@@ -947,6 +947,10 @@ Estos continúan a partir del número: %3</translation>
         <source></source>
         <translation>No se ha cambiado nada: las filas siguen siendo las de «%1», pero está elegido «%2»</translation>
     </message>
+    <message id="kToldIsChannelList">
+        <source></source>
+        <translation>No se ha aplicado ningún orden: «%1» es una lista de canales completa, por ejemplo una exportación. Dele un nombre que termine en .tll para tomar su orden</translation>
+    </message>
     <message id="kToldLocked" numerus="yes">
         <source></source>
         <translation>

@@ -947,6 +947,10 @@ Ces dernières suivent à partir du numéro : %3</translation>
         <source></source>
         <translation>Rien n’a été modifié : les lignes sont encore celles de « %1 », alors que « %2 » est choisi</translation>
     </message>
+    <message id="kToldIsChannelList">
+        <source></source>
+        <translation>Aucun ordre appliqué : « %1 » est une liste de chaînes complète, par exemple une exportation. Donnez-lui un nom se terminant par .tll pour reprendre son ordre</translation>
+    </message>
     <message id="kToldLocked" numerus="yes">
         <source></source>
         <translation>

@@ -947,6 +947,10 @@ Questi proseguono dal numero: %3</translation>
         <source></source>
         <translation>Nulla è stato cambiato: le righe sono ancora quelle di “%1”, ma è scelto “%2”</translation>
     </message>
+    <message id="kToldIsChannelList">
+        <source></source>
+        <translation>Nessun ordine applicato: “%1” è una lista di canali completa, per esempio un’esportazione. Dalle un nome che termini in .tll per usarne l’ordine</translation>
+    </message>
     <message id="kToldLocked" numerus="yes">
         <source></source>
         <translation>

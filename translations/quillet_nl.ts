@@ -947,6 +947,10 @@ Deze gaan verder vanaf nummer: %3</translation>
         <source></source>
         <translation>Niets gewijzigd: de rijen zijn nog die van “%1”, terwijl “%2” is gekozen</translation>
     </message>
+    <message id="kToldIsChannelList">
+        <source></source>
+        <translation>Geen volgorde toegepast: “%1” is een volledige zenderlijst, zoals een export. Geef deze een naam die eindigt op .tll om de volgorde over te nemen</translation>
+    </message>
     <message id="kToldLocked" numerus="yes">
         <source></source>
         <translation>

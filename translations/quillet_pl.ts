@@ -965,6 +965,10 @@ Te następują od numeru: %3</translation>
         <source></source>
         <translation>Niczego nie zmieniono: wiersze są nadal z „%1”, a wybrano „%2”</translation>
     </message>
+    <message id="kToldIsChannelList">
+        <source></source>
+        <translation>Nie zastosowano kolejności: „%1” to pełna lista kanałów, na przykład eksport. Nadaj jej nazwę z końcówką .tll, aby przejąć jej kolejność</translation>
+    </message>
     <message id="kToldLocked" numerus="yes">
         <source></source>
         <translation>

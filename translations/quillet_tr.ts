@@ -929,6 +929,10 @@ Bunların devam ettiği numara: %3</translation>
         <source></source>
         <translation>Hiçbir şey değişmedi: satırlar hâlâ “%1” kaynağının, oysa “%2” seçili</translation>
     </message>
+    <message id="kToldIsChannelList">
+        <source></source>
+        <translation>Sıralama uygulanmadı: “%1” tam bir kanal listesidir, örneğin bir dışa aktarım. Sıralamasını almak için adını .tll ile bitirin</translation>
+    </message>
     <message id="kToldLocked" numerus="yes">
         <source></source>
         <translation>

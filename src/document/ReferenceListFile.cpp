@@ -32,6 +32,17 @@ ReferenceList fromText(const QUrl &url)
 
 } // namespace
 
+bool isChannelListFile(const QString &path)
+{
+    constexpr qsizetype beginning = 4096;
+    QByteArray bytes;
+    Error unused;
+    if (!readFile(QUrl::fromLocalFile(path), bytes, unused))
+        return false;
+    // In UTF-16 there is a zero beside each letter.
+    return bytes.first(qMin(bytes.size(), beginning)).replace('\0', "").contains("<TLLDATA");
+}
+
 ReferenceList referenceListFromFile(const QString &path, bool isTV)
 {
     const QUrl url = QUrl::fromLocalFile(path);

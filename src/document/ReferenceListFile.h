@@ -9,4 +9,8 @@ namespace quillet {
 /// any other type and for one that cannot be used.
 [[nodiscard]] ReferenceList referenceListFromFile(const QString &path, bool isTV);
 
+/// Whether the file is the text of a whole channel list, as an export writes it, whatever it is
+/// called.
+[[nodiscard]] bool isChannelListFile(const QString &path);
+
 } // namespace quillet

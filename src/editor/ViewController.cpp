@@ -4,6 +4,7 @@
 #include "editor/EditorQuestions.h"
 #include "editor/SourceTitles.h"
 #include "editor/StationColumns.h"
+#include "files/FileNames.h"
 #include "support/LenientNumber.h"
 
 #include <QFileInfo>
@@ -208,11 +209,14 @@ void ViewController::applyOrderFile(const QString &path)
     if (!stationDoc())
         return;
     const ReferenceList entries = referenceListFromFile(path, isModeTV());
-    if (entries.empty())
+    if (entries.empty()) {
+        if (isChannelListFile(path))
+            outlets().tell(qtTrId("kToldIsChannelList").arg(readable(QFileInfo(path).fileName())));
         return;
+    }
     whenNumbersSuffice(m_editor.beyondAfterOrder(entries),
                        [this, entries, path](ListEditor::Beyond beyond) {
-                           applyOrder(entries, QFileInfo(path).fileName(), beyond);
+                           applyOrder(entries, readable(QFileInfo(path).fileName()), beyond);
                        });
 }
 
@@ -246,8 +250,8 @@ bool ViewController::acceptDrop(const TableDrag &drag)
         QTimer::singleShot(0, this, [this, files = drag.files] {
             loadTLLFile(files.front());
             if (const auto others = static_cast<int>(files.size()) - 1; others > 0)
-                outlets().tell(
-                    qtTrId("kToldOthersDropped", others).arg(QFileInfo(files.front()).fileName()));
+                outlets().tell(qtTrId("kToldOthersDropped", others)
+                                   .arg(readable(QFileInfo(files.front()).fileName())));
         });
         return true;
     }

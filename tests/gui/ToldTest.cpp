@@ -28,6 +28,7 @@ private slots:
         QVERIFY(window);
         auto &line = part<ToldLine>(*window, "toldText");
         QSignalSpy announced(&line, &ToldLine::announced);
+        QCoreApplication::processEvents(); // lays the window out
         const int height = tableOf(*window).height();
         const auto moved = [&](const QString &number, const QString &text) {
             app.preset.answerAlert(label("kMovingOK"), number);

@@ -697,6 +697,10 @@
         <source></source>
         <translation>„%1“ enthält keine Reihenfolge, die übernommen werden kann.</translation>
     </message>
+    <message id="kOrderIsChannelList">
+        <source></source>
+        <translation>Sie ist eine vollständige Senderliste, etwa ein Export. Geben Sie ihr einen Namen mit der Endung .tll, um ihre Reihenfolge zu übernehmen.</translation>
+    </message>
     <message id="kOrderJSON">
         <source></source>
         <translation>Sie ist eine Liste von der Art, die ihre Sender als JSON führt. Deren Kennungen sind Zahlen, an denen Sender anderer Listen nicht erkannt werden.</translation>

@@ -697,6 +697,10 @@
         <source></source>
         <translation>“%1” holds no order that can be applied.</translation>
     </message>
+    <message id="kOrderIsChannelList">
+        <source></source>
+        <translation>It is a whole channel list, such as an export. Give it a name that ends in .tll to take its order.</translation>
+    </message>
     <message id="kOrderJSON">
         <source></source>
         <translation>It is a list of the kind that keeps its stations as JSON. There the identifiers are numbers, by which stations of other lists are not found.</translation>

@@ -697,6 +697,10 @@
         <source></source>
         <translation>«%1» no contiene ningún orden que se pueda aplicar.</translation>
     </message>
+    <message id="kOrderIsChannelList">
+        <source></source>
+        <translation>Es una lista de canales completa, por ejemplo una exportación. Dele un nombre que termine en .tll para tomar su orden.</translation>
+    </message>
     <message id="kOrderJSON">
         <source></source>
         <translation>Es una lista del tipo que guarda sus canales como JSON. En ella los identificadores son números, con los que no se reconocen los canales de otras listas.</translation>

@@ -697,6 +697,10 @@
         <source></source>
         <translation>« %1 » ne contient aucun ordre qui puisse être appliqué.</translation>
     </message>
+    <message id="kOrderIsChannelList">
+        <source></source>
+        <translation>C’est une liste de chaînes complète, un export par exemple. Donnez-lui un nom terminé par .tll pour reprendre son ordre.</translation>
+    </message>
     <message id="kOrderJSON">
         <source></source>
         <translation>C’est une liste du type qui conserve ses chaînes en JSON. Les identifiants y sont des nombres, qui ne permettent pas de retrouver les chaînes d’autres listes.</translation>

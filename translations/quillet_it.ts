@@ -697,6 +697,10 @@
         <source></source>
         <translation>“%1” non contiene alcun ordine che si possa applicare.</translation>
     </message>
+    <message id="kOrderIsChannelList">
+        <source></source>
+        <translation>È una lista di canali completa, per esempio un’esportazione. Dalle un nome che finisce in .tll per usarne l’ordine.</translation>
+    </message>
     <message id="kOrderJSON">
         <source></source>
         <translation>È un elenco del tipo che conserva i canali come JSON. Lì gli identificatori sono numeri, con i quali non si riconoscono i canali di altri elenchi.</translation>

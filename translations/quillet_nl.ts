@@ -697,6 +697,10 @@
         <source></source>
         <translation>“%1” bevat geen volgorde die kan worden toegepast.</translation>
     </message>
+    <message id="kOrderIsChannelList">
+        <source></source>
+        <translation>Het is een volledige zenderlijst, zoals een export. Geef het een naam die eindigt op .tll om de volgorde over te nemen.</translation>
+    </message>
     <message id="kOrderJSON">
         <source></source>
         <translation>Het is een lijst van het soort dat zijn zenders als JSON bewaart. Daar zijn de kenmerken getallen, waaraan zenders van andere lijsten niet worden herkend.</translation>

@@ -707,6 +707,10 @@
         <source></source>
         <translation>„%1” nie zawiera kolejności, którą można zastosować.</translation>
     </message>
+    <message id="kOrderIsChannelList">
+        <source></source>
+        <translation>To pełna lista kanałów, na przykład eksport. Nadaj jej nazwę zakończoną na .tll, aby przejąć jej kolejność.</translation>
+    </message>
     <message id="kOrderJSON">
         <source></source>
         <translation>Jest to lista tego rodzaju, który przechowuje stacje jako JSON. Identyfikatory są w niej liczbami, po których nie rozpoznaje się stacji z innych list.</translation>

@@ -687,6 +687,10 @@
         <source></source>
         <translation>“%1” uygulanabilecek bir sıralama içermiyor.</translation>
     </message>
+    <message id="kOrderIsChannelList">
+        <source></source>
+        <translation>Bu, dışa aktarılmış olanlar gibi tam bir kanal listesidir. Sırasını almak için adını .tll ile bitirin.</translation>
+    </message>
     <message id="kOrderJSON">
         <source></source>
         <translation>Bu, kanallarını JSON olarak tutan türden bir listedir. Buradaki kimlikler sayıdır ve başka listelerin kanalları bunlarla bulunmaz.</translation>

@@ -31,7 +31,7 @@ void LGWindowController::windowDidLoad()
     // A label, for messages of the bar itself go as soon as the pointer is over a menu.
     QStatusBar *bar = window()->statusBar();
     bar->setSizeGripEnabled(false);
-    bar->setContentsMargins(8, 0, 8, 4);
+    bar->setContentsMargins(12, 0, 12, 4);
     bar->addWidget(m_told, 1);
     connect(m_editor, &EditorView::told, m_told, &ToldLine::tell);
     const QSize wanted = m_editor->sizeHint();

@@ -28,6 +28,14 @@ ReferenceList fromChannelList(const QUrl &url, bool isTV, QString &reason)
     return referenceListFromStations(*stations);
 }
 
+/// Exports are such lists, also under a name that ends in .txt.
+bool isChannelList(const QByteArray &bytes)
+{
+    constexpr qsizetype beginning = 4096;
+    // In UTF-16 there is a zero beside each letter.
+    return bytes.first(qMin(bytes.size(), beginning)).replace('\0', "").contains("<TLLDATA");
+}
+
 ReferenceList fromText(const QUrl &url, QString &reason)
 {
     QByteArray bytes;
@@ -36,7 +44,7 @@ ReferenceList fromText(const QUrl &url, QString &reason)
         reason = error.text();
         return {};
     }
-    reason = qtTrId("kOrderNoLines");
+    reason = qtTrId(isChannelList(bytes) ? "kOrderIsChannelList" : "kOrderNoLines");
     return referenceListFromData(bytes).value_or(ReferenceList());
 }
 

@@ -2,6 +2,7 @@
 
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <QResizeEvent>
 
 namespace quillet {
 
@@ -25,7 +26,6 @@ ToldLine::ToldLine(QWidget *parent) : QLabel(parent)
     setObjectName(QStringLiteral("toldText"));
     setWordWrap(true);
     setTextFormat(Qt::PlainText); // names of files may look like markup
-    setMinimumHeight(fontMetrics().height());
     m_silence.setSingleShot(true);
     connect(&m_silence, &QTimer::timeout, this, [this] {
         clear();
@@ -43,6 +43,18 @@ void ToldLine::tell(const QString &text)
         QAccessible::updateAccessibility(&event);
     }
     emit announced(text);
+}
+
+QSize ToldLine::sizeHint() const
+{
+    return {QLabel::sizeHint().width(), qMax(fontMetrics().height(), heightForWidth(width()))};
+}
+
+void ToldLine::resizeEvent(QResizeEvent *event)
+{
+    QLabel::resizeEvent(event);
+    if (event->size().width() != event->oldSize().width())
+        updateGeometry();
 }
 
 } // namespace quillet

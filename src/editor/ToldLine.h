@@ -18,9 +18,18 @@ public:
     /// In the place of what it said before.
     void tell(const QString &text);
 
+    /// As high as the text is at the line's width; one line at least.
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override { return {0, sizeHint().height()}; }
+    /// A status bar would ask for the height at the width that a text would like to have.
+    [[nodiscard]] bool hasHeightForWidth() const override { return false; }
+
 signals:
     /// Screen readers were told of it.
     void announced(const QString &text);
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     QTimer m_silence;

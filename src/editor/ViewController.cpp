@@ -4,6 +4,7 @@
 #include "editor/EditorQuestions.h"
 #include "editor/SourceTitles.h"
 #include "editor/StationColumns.h"
+#include "files/FileNames.h"
 #include "support/LenientNumber.h"
 
 #include <QFileInfo>
@@ -209,7 +210,7 @@ void ViewController::applyOrderFile(const QString &path)
     if (!stationDoc())
         return;
     QString reason;
-    const QString name = QFileInfo(path).fileName();
+    const QString name = readable(QFileInfo(path).fileName());
     const ReferenceList entries = referenceListFromFile(path, isModeTV(), reason);
     if (entries.empty()) {
         showError(reason, qtTrId("kOrderEmpty").arg(name));
@@ -250,8 +251,8 @@ bool ViewController::acceptDrop(const TableDrag &drag)
         QTimer::singleShot(0, this, [this, files = drag.files] {
             loadTLLFile(files.front());
             if (const auto others = static_cast<int>(files.size()) - 1; others > 0)
-                outlets().tell(
-                    qtTrId("kToldOthersDropped", others).arg(QFileInfo(files.front()).fileName()));
+                outlets().tell(qtTrId("kToldOthersDropped", others)
+                                   .arg(readable(QFileInfo(files.front()).fileName())));
         });
         return true;
     }

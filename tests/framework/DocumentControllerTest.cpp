@@ -76,18 +76,18 @@ private slots:
         QVERIFY(QDir(m_folder->path()).mkdir(id("x")));
         writeFile(m_folder->filePath(id("x/a")), "another");
         Document *first = open("a");
-        QCOMPARE(windowOf(first)->windowTitle(), id("a[*]"));
+        QCOMPARE(windowOf(first)->windowTitle(), QStringLiteral(u"a[*] \u2014 quillet-test"));
         Document *second = open("x/a");
         QCOMPARE(windowOf(first)->windowTitle(),
-                 QStringLiteral(u"a \u2014 %1[*]").arg(m_folder->path()));
+                 QStringLiteral(u"a \u2014 %1[*] \u2014 quillet-test").arg(m_folder->path()));
         QCOMPARE(windowOf(second)->windowTitle(),
-                 QStringLiteral(u"a \u2014 %1/x[*]").arg(m_folder->path()));
+                 QStringLiteral(u"a \u2014 %1/x[*] \u2014 quillet-test").arg(m_folder->path()));
         QTRY_COMPARE(m_controller->currentDocument(), second);
         m_prompts->answerOpenPanel({});
         m_controller->showOpenPanel({});
         QCOMPARE(m_prompts->openPanels().back().directory, m_folder->filePath(id("x")));
         m_controller->closeDocument(second);
-        QCOMPARE(windowOf(first)->windowTitle(), id("a[*]"));
+        QCOMPARE(windowOf(first)->windowTitle(), QStringLiteral(u"a[*] \u2014 quillet-test"));
     }
 
     void fileOfOneWindowIsNotWrittenByAnother()

@@ -54,7 +54,8 @@ QString problem(const QCommandLineParser &parser)
             .arg(chosen, textLanguages().join(QLatin1String(", ")));
     if (!parser.isSet(firstName(snapshotOption)))
         return {};
-    if (parser.value(firstName(snapshotOption)).isEmpty())
+    const QString picture = parser.value(firstName(snapshotOption));
+    if (picture.isEmpty() || picture.startsWith(u'-'))
         return QStringLiteral("--snapshot needs the name of a picture.");
     if (parser.positionalArguments().size() > 1)
         return QStringLiteral("--snapshot shows one file only.");

@@ -82,6 +82,11 @@ void useDarkPalette()
     dark.setColor(QPalette::HighlightedText, Qt::white);
     dark.setColor(QPalette::Link, QColor(0x6E, 0xA8, 0xFF));
     QApplication::setPalette(dark);
+    // Styles draw the frames of boxes and buttons all but invisible on a dark ground.
+    QPalette marks = dark;
+    marks.setColor(QPalette::Base, QColor(0x5E, 0x5E, 0x62));
+    for (const char *control : {"QCheckBox", "QRadioButton"})
+        QApplication::setPalette(marks, control);
 }
 
 void prepareForSnapshot()

@@ -42,7 +42,8 @@ void setAction(int number, void (*handler)(int))
     sigaction(number, &action, nullptr);
 }
 
-/// Started with "nohup", the program outlives its terminal.
+/// Started with "nohup", the program outlives its terminal; in the background of a script, the
+/// script's interruption.
 bool isIgnored(int number)
 {
     struct sigaction now = {};
@@ -66,7 +67,7 @@ TerminationSignals::TerminationSignals(QObject *parent) : QObject(parent)
             emit received(byte);
     });
     for (const int number : handled) {
-        if (number != SIGHUP || !isIgnored(number))
+        if (!isIgnored(number))
             setAction(number, passOn);
     }
 }

@@ -66,6 +66,9 @@ int edit(const CommandLine &line)
 
 int main(int argc, char *argv[])
 {
+#ifdef SIGPIPE
+    std::signal(SIGPIPE, SIG_IGN); // whoever started the program may not read what it prints
+#endif
 #ifdef SIGXFSZ
     std::signal(SIGXFSZ, SIG_IGN); // a file that may grow no more is an error of its writing
 #endif

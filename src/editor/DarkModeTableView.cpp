@@ -292,9 +292,9 @@ void DarkModeTableView::endDrag()
 
 void DarkModeTableView::dropEvent(QDropEvent *event)
 {
+    const TableDrag drag = tableDrag(*event); // as the line showed it
     endDrag();
     setState(NoState);
-    const TableDrag drag = tableDrag(*event);
     const DragOperation operation = m_validate ? m_validate(drag) : DragOperation::None;
     if (operation != DragOperation::None && m_accept && m_accept(drag))
         answer(*event, operation);

@@ -55,7 +55,7 @@ void StationFilter::filterStationsFor(const QString &text, const StationListPtr 
         if (holds(name))
             return true;
         const QString clean = cleanName(name);
-        return clean.size() != name.size() && holds(clean);
+        return clean != name && holds(clean);
     };
     for (const StationPtr &station : *stations) {
         if (fits(station->stationName()) || (station->isRenamed() && fits(station->shownName())))

@@ -151,7 +151,8 @@ struct EventParser::Callbacks
              QStringLiteral("Entity '%1' is not expanded").arg(QLatin1String(text(name))), false);
     }
 
-    /// Some of the library's loops go on after an error, so that each further one stops it again.
+    /// Some of the library's loops go on after an error, so that each further one stops it again. It
+    /// may go on after those that leave the text well-formed.
     static void error(void *data, LibraryError error)
     {
         EventParser &self = parser(data);
@@ -160,7 +161,8 @@ struct EventParser::Callbacks
         if (!self.m_error)
             self.m_error = ParseError{error->line, error->int2,
                                       textFromUtf8(error->message).trimmed(), self.position()};
-        xmlStopParser(context(self));
+        if (error->level == XML_ERR_FATAL)
+            xmlStopParser(context(self));
     }
 };
 

@@ -11,18 +11,33 @@ namespace {
 /// An attribute takes four bytes and the blank before it one.
 constexpr qsizetype shortestCrowd = 5 * attributes;
 
-/// Whether the start tag in whose name the text begins has too many attributes; each is a quoted
-/// value.
+/// Whether the start tag in whose name the text begins has too many attributes. What has another
+/// shape, as in a comment or a CDATA section, has none.
 bool isCrowded(QByteArrayView text)
 {
-    int count = 0;
-    for (qsizetype i = 0; i < text.size() && text[i] != '>' && text[i] != '<'; ++i) {
-        if (text[i] != '"' && text[i] != '\'')
-            continue;
+    const auto isBlank = [](char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; };
+    qsizetype i = 0;
+    const auto skip = [&](auto condition) {
+        const qsizetype from = i;
+        while (i < text.size() && condition(text[i]))
+            ++i;
+        return i > from;
+    };
+    const auto isOfName = [&](char c) {
+        return !isBlank(c) && !QByteArrayView("=<>/\"'").contains(c);
+    };
+    skip(isOfName);
+    for (int count = 0; skip(isBlank) && skip(isOfName);) {
+        skip(isBlank);
+        if (i >= text.size() || text[i++] != '=')
+            return false;
+        skip(isBlank);
+        if (i >= text.size() || (text[i] != '"' && text[i] != '\''))
+            return false;
         if (++count > attributes)
             return true;
-        i = text.indexOf(text[i], i + 1);
-        if (i < 0)
+        i = text.indexOf(text[i], i + 1) + 1;
+        if (i == 0)
             return false;
     }
     return false;

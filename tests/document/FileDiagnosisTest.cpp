@@ -110,6 +110,8 @@ private slots:
         };
         row("Latin-1 declared over UTF-8", declaring(u"ISO-8859-1"_s).toUtf8(),
             {u"declared ISO-8859-1"_s});
+        row("UTF-16 declared over ASCII", declaring(u"UTF-16"_s).replace(u"é"_s, u"e"_s).toUtf8(),
+            {u"declared UTF-16"_s});
         row("UTF-8 declared in small letters", declaring(u"utf-8"_s).toUtf8(), {});
         row("Latin-1, damaged", listWith(u"Télé & co"_s).toLatin1(),
             {damagedText(lineOf(u"Télé"_s, listWith(u"Télé"_s)), u"C"_s, 2), u"Latin-1"_s}, true);

@@ -42,8 +42,12 @@ private slots:
     {
         const QString stored = u"\u0005S\u0086ky Se\u0087lect\u008A"_s;
         const QString endless = u"e"_s + QString(500'000, QChar(0x301));
-        Editor editor(lettered({1, 2}, FileSource::Analogue));
+        Editor editor(lettered({1, 2, 3}, FileSource::Analogue));
         const StationList list = *editor.document.stations();
+        list[2]->setStationName(u"As\u008ALong"_s);
+        editor.search(u"as l"_s);
+        QCOMPARE(editor.controller.currentList(), StationList{list[2]});
+        editor.search({});
         list[0]->setStationName(stored);
         list[1]->setStationName(endless);
         const QModelIndex sky = editor.model.index(0, 1), long1 = editor.model.index(1, 1);

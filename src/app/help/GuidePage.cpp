@@ -49,7 +49,8 @@ void GuidePage::restrictScripts()
         settings()->setAttribute(attribute, false);
     settings()->setAttribute(Settings::WebRTCPublicInterfacesOnly, true);
 
-    // Connections from page to page pass every filter of requests by, so there are none.
+    // Connections from page to page pass every filter of requests by. What can make them goes from
+    // pages as far as a script reaches it; the engine's flags see to the frames that it does not.
     QWebEngineScript script;
     script.setInjectionPoint(QWebEngineScript::DocumentCreation);
     script.setWorldId(QWebEngineScript::MainWorld);

@@ -154,9 +154,13 @@ bool contradictsDeclaration(const FileText &text)
 {
     if (text.encoding() != TextEncoding::Utf8)
         return false;
-    const std::optional<QString> declared = declaredEncoding(text);
-    if (!declared || declared->toLower().remove(u'-') == QLatin1String("utf8"))
+    const QString declared = declaredEncoding(text).value_or(QString()).toLower().remove(u'-');
+    if (declared.isEmpty() || declared == QLatin1String("utf8"))
         return false;
+    for (const char *wide : {"utf16", "utf32", "ucs", "iso10646ucs"}) { // ASCII in other bytes
+        if (declared.startsWith(QLatin1String(wide)))
+            return true;
+    }
     const auto isBeyondASCII = [](char c) { return static_cast<unsigned char>(c) >= 0x80; };
     const QByteArray &bytes = text.bytes();
     return std::any_of(bytes.begin(), bytes.end(), isBeyondASCII);

@@ -96,7 +96,7 @@ FileFinding::Kind kindOfOther(const FileText &text)
 
 QList<FileFinding> diagnose(const ChannelList &list)
 {
-    if (list.parseError && list.tree.isEmpty())
+    if (list.parseError && list.tree.isEmpty() && !list.parseError->isLimit)
         return {{.kind = kindOfOther(list.text)}};
     QList<FileFinding> findings;
     if (list.parseError)

@@ -14,6 +14,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QLoggingCategory>
 
 #include <array>
 #include <cmath>
@@ -143,6 +144,7 @@ void printExplanation(const Medians &medians, const std::optional<StartUp> &star
 int main(int argc, char *argv[])
 {
     const QCoreApplication app(argc, argv);
+    QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false")); // no texts, no %1
     if (argc == 3 && QByteArrayView(argv[1]) == memoryOption)
         return printMemoryOfLoading(argv[2]);
     if (argc < 2) {

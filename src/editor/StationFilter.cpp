@@ -55,7 +55,8 @@ void StationFilter::filterStationsFor(const QString &text, const StationListPtr 
         if (holds(name))
             return true;
         const QString clean = cleanName(name);
-        return clean != name && holds(clean);
+        const bool isSame = clean.constData() == name.constData(); // as it mostly is
+        return !isSame && holds(clean);
     };
     for (const StationPtr &station : *stations) {
         if (fits(station->stationName()) || (station->isRenamed() && fits(station->shownName())))

@@ -34,6 +34,8 @@ bool isControl(char16_t code)
 
 bool staysOut(QChar c)
 {
+    if (c >= u' ' && c < u'\x7F') // most of them
+        return false;
     const char16_t code = controlCode(c);
     return isControl(code) || isLineBreak(code);
 }

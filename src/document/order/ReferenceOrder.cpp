@@ -83,34 +83,20 @@ MatchedStation takeStation(StationPool &pool, const ReferenceEntry &entry)
     return {pool.take(match.index), QLatin1String("name"), QLatin1String("---")};
 }
 
-/// Which stations the entries take, before any is changed.
-struct Matching
+/// Tells which station each entry takes, with the entry's number. Returns those that none took.
+template<typename Taken>
+StationList match(StationList stations, const ReferenceList &entries, Taken taken)
 {
-    struct Taken
-    {
-        MatchedStation matched;
-        qint64 number; ///< the entry's
-    };
-    std::vector<Taken> taken;
-    StationList remaining;
-    /// The number of the last matched entry; 0 when none matched.
-    [[nodiscard]] qint64 last() const { return taken.empty() ? 0 : taken.back().number; }
-};
-
-Matching match(StationList stations, const ReferenceList &entries)
-{
-    Matching matching;
     StationPool pool(std::move(stations));
     for (const ReferenceEntry &entry : entries) {
         if (pool.isEmpty())
             break;
         const MatchedStation matched = takeStation(pool, entry);
         if (matched.station)
-            matching.taken.push_back({matched, std::clamp<qint64>(lenientInteger(entry.num),
-                                                                  lowestNumber, highestNumber)});
+            taken(matched,
+                  std::clamp<qint64>(lenientInteger(entry.num), lowestNumber, highestNumber));
     }
-    matching.remaining = pool.takeAll();
-    return matching;
+    return pool.takeAll();
 }
 
 /// Reads the names of the stations even when no log is open: by them the next list is matched.
@@ -140,19 +126,18 @@ ReferenceOrderResult applyReferenceOrder(StationList &stations, const ReferenceL
         "\n========= Begin applying external sort order (%ld items) to %ld stations =========",
         static_cast<long>(entries.size()), static_cast<long>(stations.size()))));
     log.flush(); // what goes wrong from here on has a beginning in the log
-    const Matching matching = match(std::exchange(stations, {}), entries);
-    for (const auto &[matched, number] : matching.taken) {
+    qint64 last = 0;
+    const auto take = [&](const MatchedStation &matched, qint64 number) {
         log.add(matched.mark, QLatin1String(" Found Elem ("),
                 QStringView(matched.station->stationName()), QLatin1String(") by "), matched.by);
         matched.station->setProgramNum(number);
         stations.push_back(matched.station);
-    }
-
-    const StationList &remaining = matching.remaining;
+        last = number;
+    };
+    const StationList remaining = match(std::exchange(stations, {}), entries, take);
     addListing(QLatin1String("\n========= List of matched stations:\n"), stations, log);
     addListing(QLatin1String("========= List of remaining items:\n"), remaining, log);
     log.flush();
-    qint64 last = matching.last();
     const ReferenceOrderResult result{stations.size(), remaining.size(), last};
     for (const StationPtr &station : remaining) {
         station->setProgramNum(++last);
@@ -163,13 +148,24 @@ ReferenceOrderResult applyReferenceOrder(StationList &stations, const ReferenceL
 
 std::size_t beyondAfterOrder(const StationList &stations, const ReferenceList &entries)
 {
-    const Matching matching = match(stations, entries);
+    // Mostly no number of the list comes near those that cannot be carried.
+    const auto room = LGStation::progNumMask - static_cast<qint64>(stations.size());
+    const bool isFarFromIt =
+        room >= 0 && std::all_of(entries.begin(), entries.end(), [room](const auto &entry) {
+            const qint64 number = lenientInteger(entry.num);
+            return number >= 0 && number <= room;
+        });
+    if (isFarFromIt)
+        return 0;
     std::size_t beyond = 0;
-    for (const Matching::Taken &taken : matching.taken)
-        beyond += LGStation::canCarry(taken.number) ? 0 : 1;
-    qint64 number = matching.last();
-    for (std::size_t i = 0; i < matching.remaining.size(); ++i)
-        beyond += LGStation::canCarry(++number) ? 0 : 1;
+    qint64 last = 0;
+    const auto count = [&beyond, &last](const MatchedStation &, qint64 number) {
+        beyond += LGStation::canCarry(number) ? 0 : 1;
+        last = number;
+    };
+    const StationList remaining = match(stations, entries, count);
+    for (std::size_t i = 0; i < remaining.size(); ++i)
+        beyond += LGStation::canCarry(++last) ? 0 : 1;
     return beyond;
 }
 

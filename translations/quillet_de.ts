@@ -79,7 +79,7 @@
     </message>
     <message id="kBeyondText">
         <source></source>
-        <translation>Die höchste Nummer ist %1. Ein Sender darüber hätte danach eine niedrige Nummer wie 0 und wäre als Radiosender gekennzeichnet.</translation>
+        <translation>Die höchste Nummer ist %1. Ein Sender darüber hätte danach eine niedrige Nummer wie 0 und wäre womöglich als Radiosender gekennzeichnet.</translation>
     </message>
     <message id="kCable">
         <source></source>

@@ -79,7 +79,7 @@
     </message>
     <message id="kBeyondText">
         <source></source>
-        <translation>The highest number there is is %1. A station beyond it comes out with a low number such as 0, and marked as radio.</translation>
+        <translation>The highest number there is is %1. A station beyond it comes out with a low number such as 0, and may be marked as radio.</translation>
     </message>
     <message id="kCable">
         <source></source>

@@ -79,7 +79,7 @@
     </message>
     <message id="kBeyondText">
         <source></source>
-        <translation>El número más alto es %1. Un canal por encima acaba con un número bajo, como 0, y marcado como radio.</translation>
+        <translation>El número más alto es %1. Un canal por encima acaba con un número bajo, como 0, y quizá marcado como radio.</translation>
     </message>
     <message id="kCable">
         <source></source>

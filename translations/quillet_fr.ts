@@ -79,7 +79,7 @@
     </message>
     <message id="kBeyondText">
         <source></source>
-        <translation>Le numéro le plus élevé est %1. Une chaîne au-delà se retrouve avec un petit numéro tel que 0 et marquée comme radio.</translation>
+        <translation>Le numéro le plus élevé est %1. Une chaîne au-delà se retrouve avec un petit numéro tel que 0 et parfois marquée comme radio.</translation>
     </message>
     <message id="kCable">
         <source></source>

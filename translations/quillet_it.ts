@@ -79,7 +79,7 @@
     </message>
     <message id="kBeyondText">
         <source></source>
-        <translation>Il numero più alto è %1. Un canale oltre quel numero ne riceve uno basso, come 0, e risulta una radio.</translation>
+        <translation>Il numero più alto è %1. Un canale oltre quel numero ne riceve uno basso, come 0, e può risultare una radio.</translation>
     </message>
     <message id="kCable">
         <source></source>

@@ -79,7 +79,7 @@
     </message>
     <message id="kBeyondText">
         <source></source>
-        <translation>Het hoogste nummer is %1. Een zender daarboven krijgt een laag nummer, zoals 0, en wordt als radio gemarkeerd.</translation>
+        <translation>Het hoogste nummer is %1. Een zender daarboven krijgt een laag nummer, zoals 0, en wordt soms als radio gemarkeerd.</translation>
     </message>
     <message id="kCable">
         <source></source>

@@ -81,7 +81,7 @@
     </message>
     <message id="kBeyondText">
         <source></source>
-        <translation>Najwyższy numer to %1. Kanał powyżej niego dostaje niski numer, na przykład 0, i oznaczenie radia.</translation>
+        <translation>Najwyższy numer to %1. Kanał powyżej niego dostaje niski numer, na przykład 0, a czasem także oznaczenie radia.</translation>
     </message>
     <message id="kCable">
         <source></source>

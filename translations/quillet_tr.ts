@@ -77,7 +77,7 @@
     </message>
     <message id="kBeyondText">
         <source></source>
-        <translation>En yüksek numara %1. Bunu aşan bir kanal 0 gibi küçük bir numara alır ve radyo olarak işaretlenir.</translation>
+        <translation>En yüksek numara %1. Bunu aşan bir kanal 0 gibi küçük bir numara alır ve radyo olarak işaretlenebilir.</translation>
     </message>
     <message id="kCable">
         <source></source>

@@ -20,6 +20,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <new>
 
 namespace quillet {
 
@@ -55,8 +56,16 @@ std::unique_ptr<TLLDocument> AppDelegate::makeDocument()
         connect(menu, &MainMenu::helpRequested, this, &AppDelegate::showHelpWindow);
         connect(&controller->editor().controller(), &ViewController::repairedCopyRequested, this,
                 [this, window = controller.get()] {
-                    if (const TLLDocument *damaged = window->tlldoc())
+                    TLLDocument *damaged = window->tlldoc();
+                    if (!damaged)
+                        return;
+                    try {
                         openRepairedCopy(*damaged);
+                    } catch (const std::bad_alloc &) {
+                        damaged->presentError(
+                            qtTrId("kLoadingProblem"),
+                            {QStringLiteral("AppDelegate"), 1, qtTrId("kNoMemoryReason"), {}});
+                    }
                 });
         return controller;
     });

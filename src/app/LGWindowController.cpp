@@ -43,6 +43,8 @@ bool LGWindowController::populateFromTLLDoc(TLLDocument &document, const Error &
 {
     connect(&document, &Document::documentEditedChanged, m_editor, &EditorView::stateChanged,
             Qt::UniqueConnection);
+    connect(&document, &Document::fileUrlChanged, m_editor, &EditorView::stateChanged,
+            Qt::UniqueConnection);
     connect(&document, &Document::fileUrlChanged, &m_editor->controller(),
             &ViewController::showFileName, Qt::UniqueConnection);
     connect(&document, &Document::placeWasChosen, &m_editor->controller(),

@@ -6,6 +6,8 @@
 #include <QFileInfo>
 #include <QUrl>
 
+#include <new>
+
 namespace quillet {
 
 namespace {
@@ -44,8 +46,13 @@ ReferenceList fromText(const QUrl &url, QString &reason)
         reason = error.text();
         return {};
     }
-    reason = qtTrId(isChannelList(bytes) ? "kOrderIsChannelList" : "kOrderNoLines");
-    return referenceListFromData(bytes).value_or(ReferenceList());
+    try {
+        reason = qtTrId(isChannelList(bytes) ? "kOrderIsChannelList" : "kOrderNoLines");
+        return referenceListFromData(bytes).value_or(ReferenceList());
+    } catch (const std::bad_alloc &) {
+        reason = qtTrId("kNoMemoryReason");
+        return {};
+    }
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "editor/ToldLine.h"
 
+#include "support/ShortText.h"
+
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QResizeEvent>
@@ -35,7 +37,8 @@ ToldLine::ToldLine(QWidget *parent) : QLabel(parent)
 
 void ToldLine::tell(const QString &text)
 {
-    setText(text);
+    constexpr qsizetype longest = 300; // in two or three lines; names may be endless
+    setText(shortened(text.simplified(), longest));
     setAccessibleName(text);
     m_silence.start(longEnoughToRead);
     for (const auto kind : {QAccessible::NameChanged, QAccessible::Alert}) {

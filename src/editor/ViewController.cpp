@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <utility>
 
 namespace quillet {
 
@@ -249,10 +250,8 @@ bool ViewController::acceptDrop(const TableDrag &drag)
 {
     if (m_containsFile && !drag.files.isEmpty()) {
         QTimer::singleShot(0, this, [this, files = drag.files] {
+            m_alsoDropped = static_cast<int>(files.size()) - 1;
             loadTLLFile(files.front());
-            if (const auto others = static_cast<int>(files.size()) - 1; others > 0)
-                outlets().tell(qtTrId("kToldOthersDropped", others)
-                                   .arg(readable(QFileInfo(files.front()).fileName())));
         });
         return true;
     }
@@ -280,6 +279,8 @@ void ViewController::fileLoaded(const Error &error)
         return;
     populateFromTLLDoc(*stationDoc(), error);
     applyFilter();
+    if (const int others = std::exchange(m_alsoDropped, 0); others > 0 && error.isEmpty())
+        outlets().tell(qtTrId("kToldOthersDropped", others).arg(stationDoc()->displayName()));
 }
 
 void ViewController::fileRefused(const Error &error)

@@ -87,6 +87,7 @@ private:
     ListEditor m_editor;
     DroppedFiles m_droppedFiles;
     bool m_fillGaps = false;
+    int m_alsoDropped = 0;       ///< files, beside the one that is loaded
     bool m_containsFile = false; ///< the current drag carries a file
 };
 

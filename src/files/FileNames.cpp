@@ -104,7 +104,7 @@ QString readable(const QString &path)
 {
     QString text = path;
     for (QChar &c : text) {
-        if (isEscape(c))
+        if (isEscape(c) || c < u' ')
             c = QChar::ReplacementCharacter;
     }
     return text;

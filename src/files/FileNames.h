@@ -26,7 +26,8 @@ namespace quillet {
 /// With the folder that the program runs in before a relative path. Nothing is tidied.
 [[nodiscard]] QString absolutePath(const QString &path);
 
-/// The name or path with a sign of replacement for what is no text.
+/// The name or path with a sign of replacement for what is no text, and for line breaks and the
+/// like.
 [[nodiscard]] QString readable(const QString &path);
 /// The same, with "~" for the person's own folder.
 [[nodiscard]] QString shortPath(const QString &path);

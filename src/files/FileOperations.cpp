@@ -54,8 +54,14 @@ bool FileOperations::create(QFile &file, bool isPrivate, QString &reason)
     const int handle =
         ::open(bytesOfPath(file.fileName()).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC,
                isPrivate ? mode_t{S_IRUSR | S_IWUSR} : everybody);
-    return succeeded(handle < 0 ? -1 : 0, reason) &&
-           file.open(handle, mode, QFileDevice::AutoCloseHandle);
+    if (!succeeded(handle < 0 ? -1 : 0, reason))
+        return false;
+    if (file.open(handle, mode, QFileDevice::AutoCloseHandle))
+        return true;
+    reason = file.errorString();
+    ::close(handle);
+    ::unlink(bytesOfPath(file.fileName()).constData());
+    return false;
 #endif
 }
 

@@ -7,8 +7,10 @@
 #include <QFileInfo>
 
 #include <cerrno>
+#include <chrono>
 #include <new>
 #include <system_error>
+#include <thread>
 
 #ifndef Q_OS_WIN
 #include <fcntl.h>
@@ -66,7 +68,15 @@ QString openForReading(QFile &file)
     const QString obstacle = obstacleOf(status, name);
     if (!obstacle.isEmpty())
         return obstacle;
-    const int handle = ::open(bytes.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+    // Another program that has leased the file gives it back when it sees that it is wanted.
+    constexpr int mostAttempts = 20;
+    int handle = -1;
+    for (int attempt = 0; attempt < mostAttempts; ++attempt) {
+        handle = ::open(bytes.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+        if (handle >= 0 || errno != EWOULDBLOCK)
+            break;
+        std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    }
     if (handle < 0)
         return unreadable(errno);
     if (!file.open(handle, QIODevice::ReadOnly | QIODevice::Unbuffered,

@@ -302,11 +302,6 @@ bool Document::readAgain()
     return true;
 }
 
-bool Document::canReload() const
-{
-    return !m_fileUrl.isEmpty() && isThere(m_fileUrl.toLocalFile());
-}
-
 void Document::reloadDocument()
 {
     if (m_fileUrl.isEmpty() || m_isAsking)

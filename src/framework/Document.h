@@ -108,8 +108,8 @@ public:
     /// Asks, then reads the file again and refills every window. When it cannot be read any more,
     /// that is shown and the document stays as it is.
     void revertDocumentToSaved();
-    /// Whether there is a file to read again.
-    [[nodiscard]] bool canReload() const;
+    /// Whether there is a file to read again; it may have gone.
+    [[nodiscard]] bool canReload() const { return !m_fileUrl.isEmpty(); }
     /// Reads the file again if another program has changed it, or if there are changes, after
     /// asking whether they may be given up. Goes on where the person was, and tells what it did.
     void reloadDocument();

@@ -189,7 +189,7 @@ void DocumentSaving::goOn(Choice choice, const Error &error)
         return writeToChosenPlace(m_panel ? *m_panel : panelForCopy());
     m_done(false, error);
     if (choice == Choice::Reload)
-        m_document.revertDocumentToSaved();
+        m_document.reloadDocument();
 }
 
 /// Suggests the file's own folder, or one of the user's when nothing can be written there.

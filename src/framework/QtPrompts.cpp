@@ -21,6 +21,9 @@
 
 #include <memory>
 
+#include <filesystem>
+#include <system_error>
+
 namespace quillet {
 
 namespace {
@@ -34,7 +37,8 @@ QString folderKey()
 QString firstFolderOf(const QStringList &folders)
 {
     for (const QString &folder : folders) {
-        if (!folder.isEmpty() && QFileInfo(folder).isDir())
+        std::error_code unused;
+        if (!folder.isEmpty() && std::filesystem::is_directory(nativePath(folder), unused))
             return folder;
     }
     return QDir::homePath();

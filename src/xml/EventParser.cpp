@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <limits>
 #include <memory>
+#include <new>
 
 namespace quillet {
 
@@ -47,6 +48,13 @@ private:
     xmlStructuredErrorFunc m_function;
     void *m_data;
 };
+
+/// What the library made, unless it had no memory for it.
+template<typename T>
+T *made(T *object)
+{
+    return object ? object : throw std::bad_alloc();
+}
 
 const char *text(const xmlChar *characters)
 {
@@ -151,11 +159,16 @@ struct EventParser::Callbacks
              QStringLiteral("Entity '%1' is not expanded").arg(QLatin1String(text(name))), false);
     }
 
-    /// Some of the library's loops go on after an error, so that each further one stops it again. It
-    /// may go on after those that leave the text well-formed.
+    /// Some of the library's loops go on after an error, so that each further one stops it again.
+    /// It may go on after those that leave the text well-formed.
     static void error(void *data, LibraryError error)
     {
         EventParser &self = parser(data);
+        if (error->code == XML_ERR_NO_MEMORY) {
+            self.m_isMemoryShort = true;
+            xmlStopParser(context(self));
+            return;
+        }
         if (error->domain != XML_FROM_PARSER || error->level < XML_ERR_ERROR)
             return;
         if (!self.m_error)
@@ -171,6 +184,7 @@ bool EventParser::parse(EventHandler &handler)
     m_handler = &handler;
     m_depth = 0;
     m_elements = 0;
+    m_isMemoryShort = false;
     m_error.reset();
     m_start = m_bytes.constData();
     const qsizetype crowdedTag = limit::crowdedTag(m_bytes);
@@ -204,7 +218,7 @@ void EventParser::runParser(QByteArrayView utf8)
 {
     if (utf8.startsWith("\xEF\xBB\xBF"))
         utf8 = utf8.sliced(3);
-    const std::unique_ptr<xmlParserCtxt, ContextDeleter> context(xmlNewParserCtxt());
+    const std::unique_ptr<xmlParserCtxt, ContextDeleter> context(made(xmlNewParserCtxt()));
     xmlSAXHandler sax{};
     sax.startElement = Callbacks::startElement;
     sax.endElement = Callbacks::endElement;
@@ -223,11 +237,11 @@ void EventParser::runParser(QByteArrayView utf8)
     xmlCtxtUseOptions(context.get(),
                       XML_PARSE_HUGE | XML_PARSE_NONET | XML_PARSE_IGNORE_ENC | XML_PARSE_NOENT);
     *context->sax = sax;
-    context->encoding = xmlStrdup(reinterpret_cast<const xmlChar *>("UTF-8"));
+    context->encoding = made(xmlStrdup(reinterpret_cast<const xmlChar *>("UTF-8")));
     m_context = context.get();
 
     // Pointed at the bytes themselves, which end in a null; the library would copy the whole text.
-    xmlParserInput *input = xmlNewInputStream(context.get());
+    xmlParserInput *input = made(xmlNewInputStream(context.get()));
     input->base = reinterpret_cast<const xmlChar *>(utf8.data());
     input->cur = input->base;
     input->end = input->base + utf8.size();
@@ -237,6 +251,8 @@ void EventParser::runParser(QByteArrayView utf8)
         xmlParseDocument(context.get());
     }
     m_context = nullptr;
+    if (m_isMemoryShort || context->errNo == XML_ERR_NO_MEMORY)
+        throw std::bad_alloc();
     if (!m_error && !context->wellFormed)
         m_error = ParseError{1, 0, QStringLiteral("The text is not well-formed XML")};
 }

@@ -51,7 +51,8 @@ public:
 
     [[nodiscard]] const QByteArray &bytes() const { return m_bytes; }
 
-    /// Runs the whole parse. Returns whether it came to the end without an error.
+    /// Runs the whole parse. Returns whether it came to the end without an error. Throws
+    /// std::bad_alloc when the library has no memory left.
     bool parse(EventHandler &handler);
 
     /// How many bytes the parse has consumed, for a handler to ask: at the end of an element those
@@ -74,6 +75,7 @@ private:
     void *m_context = nullptr;
     int m_depth = 0;
     unsigned m_elements = 0;
+    bool m_isMemoryShort = false; ///< the library found
     std::optional<ParseError> m_error;
 };
 

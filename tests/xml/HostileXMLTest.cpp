@@ -7,6 +7,10 @@
 #include <QTemporaryDir>
 #include <QUrl>
 
+#include <libxml/xmlmemory.h>
+
+#include <new>
+
 using namespace quillet;
 using namespace Qt::Literals::StringLiterals;
 
@@ -26,6 +30,18 @@ public:
 } // namespace
 
 /// Files that are made to harm: none may take long, grow memory or make the parser read elsewhere.
+namespace {
+
+int allocationsLeft = 0;
+xmlMallocFunc plainAllocation = nullptr;
+
+void *allocateSome(size_t size)
+{
+    return allocationsLeft-- > 0 ? plainAllocation(size) : nullptr;
+}
+
+} // namespace
+
 class HostileXMLTest : public QObject
 {
     Q_OBJECT
@@ -150,6 +166,35 @@ private slots:
             QCOMPARE_LE(parser.error()->offset, start.size() + 4);
             QCOMPARE(events.count, 1);
         }
+    }
+
+    /// A text that was read in part must not pass for a damaged one.
+    void memoryThatEnds()
+    {
+        xmlFreeFunc freeing;
+        xmlMallocFunc allocating;
+        xmlReallocFunc reallocating;
+        xmlStrdupFunc copying;
+        xmlMemGet(&freeing, &allocating, &reallocating, &copying);
+        plainAllocation = allocating;
+        const QByteArray text = "<r>" + "<a b='1'>x</a>"_ba.repeated(200) + "</r>";
+        int failures = 0;
+        for (allocationsLeft = 0; failures == 0 || allocationsLeft < 0; ++failures) {
+            QVERIFY(failures < 10'000);
+            allocationsLeft = failures;
+            xmlMemSetup(freeing, allocateSome, reallocating, copying);
+            EventParser parser(text);
+            NoEvents events;
+            bool isRead = false, isTold = false;
+            try {
+                isRead = parser.parse(events);
+            } catch (const std::bad_alloc &) {
+                isTold = true;
+            }
+            xmlMemSetup(freeing, allocating, reallocating, copying);
+            QVERIFY2(isRead || isTold, qPrintable(QString::number(failures)));
+        }
+        QVERIFY(failures > 10);
     }
 
     void longText()

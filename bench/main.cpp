@@ -61,7 +61,7 @@ constexpr std::array ratios{
 };
 constexpr double wantedMemory = 8;
 constexpr double wantedStartUp = 1.5;
-constexpr double wantedGrowth = 2.6; // 4 would be the square
+constexpr double wantedGrowth = 3; // 4 would be the square; memory caches take their part
 
 std::optional<double> quotient(std::optional<double> dividend, std::optional<double> divisor)
 {

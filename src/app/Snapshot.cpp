@@ -5,6 +5,7 @@
 #include "document/TLLDocument.h"
 #include "files/FileNames.h"
 #include "files/FileOperations.h"
+#include "files/FileReading.h"
 #include "files/FileReplacement.h"
 #include "files/Places.h"
 #include "support/KXFileLog.h"
@@ -12,10 +13,7 @@
 #include <QApplication>
 #include <QBuffer>
 #include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QMainWindow>
-#include <QPalette>
 #include <QPixmap>
 #include <QSettings>
 #include <QTemporaryDir>
@@ -62,33 +60,6 @@ public:
 
 } // namespace
 
-void useLightPalette()
-{
-    QPalette light(QColor(0xEF, 0xEF, 0xEF), QColor(0xEF, 0xEF, 0xEF));
-    light.setColor(QPalette::Base, Qt::white);
-    light.setColor(QPalette::AlternateBase, QColor(0xF7, 0xF7, 0xF7));
-    light.setColor(QPalette::Highlight, QColor(0x30, 0x8C, 0xC6));
-    light.setColor(QPalette::HighlightedText, Qt::white);
-    light.setColor(QPalette::Link, Qt::blue);
-    QApplication::setPalette(light);
-}
-
-void useDarkPalette()
-{
-    QPalette dark(QColor(0x3A, 0x3A, 0x3C), QColor(0x2A, 0x2A, 0x2C));
-    dark.setColor(QPalette::Base, QColor(0x1E, 0x1E, 0x20));
-    dark.setColor(QPalette::AlternateBase, QColor(0x27, 0x27, 0x2A));
-    dark.setColor(QPalette::Highlight, QColor(0x2F, 0x6F, 0xC4));
-    dark.setColor(QPalette::HighlightedText, Qt::white);
-    dark.setColor(QPalette::Link, QColor(0x6E, 0xA8, 0xFF));
-    QApplication::setPalette(dark);
-    // Styles draw the frames of boxes and buttons all but invisible on a dark ground.
-    QPalette marks = dark;
-    marks.setColor(QPalette::Base, QColor(0x5E, 0x5E, 0x62));
-    for (const char *control : {"QCheckBox", "QRadioButton"})
-        QApplication::setPalette(marks, control);
-}
-
 void prepareForSnapshot()
 {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
@@ -101,15 +72,18 @@ QString snapshotObstacle(const QString &picture)
     const std::optional<QString> target = resolveLinks(picture);
     for (const QString &path : {picture, target.value_or(picture)}) {
         if (path.endsWith(QLatin1String(".tll"), Qt::CaseInsensitive))
-            return QStringLiteral("No picture is written to %1: that is a channel list.").arg(path);
+            return QStringLiteral("No picture is written to %1: that is a channel list.")
+                .arg(readable(path));
     }
-    const QFileInfo found(picture);
-    if (!found.exists())
+    if (!isThere(picture))
         return {};
-    QFile file(picture);
-    const bool isPng = found.isFile() && file.open(QIODevice::ReadOnly) &&
-                       file.read(pngSignature.size()) == pngSignature;
-    return isPng ? QString() : QStringLiteral("%1 is there and is no PNG picture.").arg(picture);
+    QByteArray bytes;
+    Error unused;
+    const bool isPng = isOrdinaryFile(picture) &&
+                       readFile(QUrl::fromLocalFile(picture), bytes, unused) &&
+                       bytes.startsWith(pngSignature);
+    return isPng ? QString()
+                 : QStringLiteral("%1 is there and is no PNG picture.").arg(readable(picture));
 }
 
 QString makeSnapshot(const QString &file, const QString &picture)
@@ -137,7 +111,8 @@ QString makeSnapshot(const QString &file, const QString &picture)
         !FileReplacement(operations).replace(picture, png, error, [&picture] {
             return snapshotObstacle(picture).isEmpty();
         }))
-        return QStringLiteral("The picture could not be saved: %1. %2").arg(picture, error.text());
+        return QStringLiteral("The picture could not be saved: %1. %2")
+            .arg(readable(picture), error.text());
     return {};
 }
 

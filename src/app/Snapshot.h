@@ -4,10 +4,6 @@
 
 namespace quillet {
 
-/// Gives the application a dark palette or a light one, whatever the desktop's colours are.
-void useDarkPalette();
-void useLightPalette();
-
 /// Sets up the process, before there is an application object, for one that only makes a picture:
 /// no display is needed, and what Qt says of the one it does without is not printed.
 void prepareForSnapshot();

@@ -2,6 +2,7 @@
 #include "app/CommandLine.h"
 #include "app/Environment.h"
 #include "app/HelpProgram.h"
+#include "app/Palettes.h"
 #include "app/Snapshot.h"
 #include "app/TerminationSignals.h"
 #include "app/Translations.h"

@@ -27,7 +27,7 @@ bool ListEditor::move(const MovePlan &plan, Beyond beyond)
 {
     if (plan.moved.empty() || (beyond == Beyond::Refused && plan.beyond() > 0))
         return false;
-    const std::size_t others = carryOut(plan, list());
+    const std::size_t others = moveElemList(list(), plan);
     tell(ListChange::Kind::Moved, {plan.changed}, StationField::Number,
          {.kind = EditSummary::Kind::Moved,
           .stations = plan.moved.size(),

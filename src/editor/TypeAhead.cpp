@@ -1,5 +1,6 @@
 #include "editor/TypeAhead.h"
 
+#include "document/edit/Renumbering.h"
 #include "model/CleanName.h"
 
 #include <algorithm>
@@ -50,11 +51,8 @@ std::optional<qsizetype> TypeAhead::rowOfNumber(const StationList &rows) const
 {
     bool fits = false;
     const qint64 number = isNumber() ? m_text.toLongLong(&fits) : 0;
-    const auto found = std::find_if(rows.begin(), rows.end(), [number](const StationPtr &station) {
-        return station->progNum() == number;
-    });
-    return fits && found != rows.end() ? std::optional<qsizetype>(found - rows.begin())
-                                       : std::nullopt;
+    const std::size_t row = fits ? indexForExactProgNum(rows, number) : rows.size();
+    return row < rows.size() ? std::optional(static_cast<qsizetype>(row)) : std::nullopt;
 }
 
 } // namespace quillet

@@ -15,6 +15,7 @@
 #ifndef Q_OS_WIN
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 #endif
 
 namespace quillet {
@@ -80,8 +81,11 @@ QString openForReading(QFile &file)
     if (handle < 0)
         return unreadable(errno);
     if (!file.open(handle, QIODevice::ReadOnly | QIODevice::Unbuffered,
-                   QFileDevice::AutoCloseHandle) ||
-        ::fstat(handle, &status) != 0)
+                   QFileDevice::AutoCloseHandle)) {
+        ::close(handle);
+        return qtTrId("kFileUnreadableReason").arg(file.errorString());
+    }
+    if (::fstat(handle, &status) != 0)
         return unreadable(errno);
     return obstacleOf(status, name);
 }

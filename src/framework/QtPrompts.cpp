@@ -19,9 +19,8 @@
 #include <QStandardPaths>
 #include <QUrl>
 
-#include <memory>
-
 #include <filesystem>
+#include <memory>
 #include <system_error>
 
 namespace quillet {

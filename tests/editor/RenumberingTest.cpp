@@ -87,7 +87,7 @@ private slots:
         for (const QChar letter : moved)
             wanted.push_back(stations.at(letter.unicode() - u'A'));
         const MovePlan plan = planMove(stations, wanted, target, fillGaps);
-        carryOut(plan, stations);
+        moveElemList(stations, plan);
         const QStringList selection = plan.selection;
         QTEST(numbersAndLetters(stations), "after");
         QTEST(selection.join(u' '), "selected");

@@ -1,6 +1,6 @@
 #include "AppFixture.h"
 
-#include "app/Snapshot.h"
+#include "app/Palettes.h"
 #include "editor/CheckMarkDelegate.h"
 #include "editor/Contrast.h"
 #include "testing/TestMain.h"

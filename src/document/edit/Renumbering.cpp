@@ -81,12 +81,11 @@ std::size_t indexForExactProgNum(const StationList &stations, qint64 number)
     return static_cast<std::size_t>(found - stations.begin());
 }
 
-std::size_t indexForNewProgNum(const StationList &stations, qint64 number)
+std::size_t indexForNewProgNum(const std::vector<qint64> &numbers, qint64 number)
 {
-    const auto found =
-        std::find_if(stations.begin(), stations.end(),
-                     [number](const StationPtr &station) { return station->progNum() >= number; });
-    return static_cast<std::size_t>(found - stations.begin());
+    const auto found = std::find_if(numbers.begin(), numbers.end(),
+                                    [number](qint64 each) { return each >= number; });
+    return static_cast<std::size_t>(found - numbers.begin());
 }
 
 std::size_t MovePlan::beyond() const
@@ -105,11 +104,10 @@ MovePlan planMove(const StationList &stations, const StationList &moved, qint64 
     const std::vector<StayedBehind> stayed = planRemoval(plan, stations);
     std::vector<qint64> &numbers = plan.numbers;
     const qint64 first = std::min(target, highestTarget);
-    const auto at = std::find_if(numbers.begin(), numbers.end(),
-                                 [first](qint64 number) { return number >= first; });
-    plan.place = static_cast<std::size_t>(at - numbers.begin());
-    std::iota(numbers.insert(at, moved.size(), 0),
-              numbers.begin() + static_cast<std::ptrdiff_t>(plan.place + moved.size()), first);
+    plan.place = indexForNewProgNum(numbers, first);
+    const auto inserted = numbers.insert(numbers.begin() + static_cast<std::ptrdiff_t>(plan.place),
+                                         moved.size(), first);
+    std::iota(inserted, inserted + static_cast<std::ptrdiff_t>(moved.size()), first);
     for (const auto &[left, j] : stayed) {
         const std::size_t place = left < plan.place ? left : left + moved.size();
         numbers[place] = std::max<qint64>(first + static_cast<qint64>(j), 0);
@@ -127,7 +125,7 @@ MovePlan planMove(const StationList &stations, const StationList &moved, qint64 
     return plan;
 }
 
-std::size_t carryOut(const MovePlan &plan, StationList &stations)
+std::size_t moveElemList(StationList &stations, const MovePlan &plan)
 {
     auto removed = plan.removed.begin();
     std::size_t place = 0;

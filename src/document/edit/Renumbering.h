@@ -17,9 +17,9 @@ inline constexpr qint64 highestTarget = 9999;
 /// The index of the first station with exactly that number; the list's size when there is none.
 [[nodiscard]] std::size_t indexForExactProgNum(const StationList &stations, qint64 number);
 
-/// The index of the first station with that number or a higher one; the list's size when there is
-/// none.
-[[nodiscard]] std::size_t indexForNewProgNum(const StationList &stations, qint64 number);
+/// The index of the first of a list's numbers that is that number or a higher one; their count when
+/// there is none.
+[[nodiscard]] std::size_t indexForNewProgNum(const std::vector<qint64> &numbers, qint64 number);
 
 /// What moving would do to a list. Means nothing any more once that list has changed.
 struct MovePlan
@@ -47,16 +47,16 @@ struct MovePlan
                                 qint64 target, bool fillGaps);
 /// Carries out a plan for that very list. Returns how many stations besides the moved ones got
 /// another number.
-std::size_t carryOut(const MovePlan &plan, StationList &stations);
+std::size_t moveElemList(StationList &stations, const MovePlan &plan);
 
-/// What numbering that many stations 1, 2, 3 and so on gives to some that they cannot carry.
+/// How many stations would get a number that they cannot carry by being numbered 1, 2, 3 and so on.
 [[nodiscard]] std::size_t beyondAfterClosingGaps(const StationList &stations);
-/// Numbers the list 1, 2, 3 and so on.
 struct ClosedGaps
 {
-    ListStretch changed; ///< where numbers changed
-    std::size_t count = 0;
+    ListStretch changed;   ///< where numbers changed
+    std::size_t count = 0; ///< of stations with another number
 };
+/// Numbers the list 1, 2, 3 and so on.
 ClosedGaps closeGaps(const StationList &stations);
 
 } // namespace quillet

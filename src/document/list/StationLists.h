@@ -53,7 +53,7 @@ public:
 
     /// Sorts by program number, equal numbers keeping their order, and then raises every number
     /// that does not exceed the one before it to the next free one. All numbers are 1 or more
-    /// afterwards; gaps stay.
+    /// afterwards; gaps stay. Returns how many were raised to a number that they cannot carry.
     static std::size_t sortAndValidateStations(StationList &stations);
 
 private:

@@ -1,16 +1,10 @@
 #include "ListText.h"
+#include "MadeUpLists.h"
 
-#include "document/SaveReview.h"
 #include "document/repair/RepairedWriter.h"
 #include "document/review/Rehearsal.h"
-#include "testing/PresetPrompts.h"
-#include "testing/TLLText.h"
-#include "testing/TestFiles.h"
 #include "testing/TestMain.h"
 
-#include <QSettings>
-#include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <functional>
@@ -53,51 +47,6 @@ QString described(const Rehearsal &rehearsal)
     flag("encoding", rehearsal.mixesEncodings);
     flag("rounded", rehearsal.inexactNumbers > 0);
     return texts.join(u", "_s);
-}
-
-QString items(const QStringList &names)
-{
-    QString text;
-    for (qsizetype i = 0; i < names.size(); ++i)
-        text += makeItem(makeStation(static_cast<int>(i) + 1, names[i]));
-    return text;
-}
-
-/// A file whose text between the tags of CHANNEL is given.
-QString file(const QString &channel)
-{
-    return u"<?xml version=\"1.0\"?>\r\n<TLLDATA>\r\n<ModelInfo><ModelName>X</ModelName>"
-           "</ModelInfo>\r\n<CHANNEL>"_s +
-           channel + u"</CHANNEL>\r\n<rest>1</rest>\r\n</TLLDATA>\r\n"_s;
-}
-
-QString digital(const QString &stations)
-{
-    return file(u"<DTV>\r\n"_s + stations + u"</DTV>\r\n"_s);
-}
-
-QString channel(const QString &name, int number, const char *source = "CABLE DIGITAL", int type = 1)
-{
-    const QByteArray more = ",\"skipped\":false,\"SVCID\":\"" + name.toUtf8() + '"';
-    return QString::fromUtf8(makeChannel(name.toUtf8(), QByteArray::number(number),
-                                         {.source = source, .serviceType = type, .more = more}));
-}
-
-QString legacy(const QStringList &channels, const QString &tag = u"legacybroadcast"_s)
-{
-    return file(QStringLiteral("<%1>{\"a\":1.0,\"channelList\":[%2],\"z\":null}"
-                               "</legacybroadcast>")
-                    .arg(tag, channels.join(u',')));
-}
-
-StationPtr station(const TLLDocument &document, bool isTV, int source, std::size_t row)
-{
-    return document.lists().list(isTV, source)->at(row);
-}
-
-Edit rename(const QString &name)
-{
-    return [name](TLLDocument &document) { station(document, true, 0, 1)->setStationName(name); };
 }
 
 } // namespace
@@ -314,19 +263,6 @@ private slots:
         QCOMPARE(described(rehearse(other.list(), written(other))), QString());
     }
 
-    /// Nobody is asked again only where nothing is lost.
-    void offersAlwaysWhereRepairIsClean()
-    {
-        Rehearsal plain, partly;
-        plain.missing.count = 2;
-        partly.missing.count = 1;
-        const auto box = [&plain](const Rehearsal &repaired) {
-            return reviewOfSave({}, plain, repaired, SaveReview::Kind::JSONList).alert.checkBox;
-        };
-        QVERIFY(!box({}).isEmpty());
-        QVERIFY(box(partly).isEmpty());
-    }
-
     void latin1DeclaredOverUtf8()
     {
         const QByteArray latin1 = digital(items({u"Ä"_s, u"B"_s}))
@@ -337,190 +273,6 @@ private slots:
         QCOMPARE(described(rehearse(document.list(), written(document))), u"encoding"_s);
         QCOMPARE(described(rehearse(document.list(), repairedTLL(document.list()))), QString());
     }
-
-    void repairsKeepTheBytes()
-    {
-        const QString a =
-            u"<ITEM>\n  <prNum> 1 </prNum><isSkipped/><!-- one --><x n='1'>1</x><sourceIndex>3"
-            "</sourceIndex><serviceType>1</serviceType><vchName>&#65;</vchName></ITEM>"_s;
-        const QString b =
-            u"<ITEM><prNum>2</prNum><isBlocked>0</isBlocked><sourceIndex>3</sourceIndex>"
-            "<serviceType>1</serviceType><x>2</x><x>3</x><vchName>B</vchName></ITEM>"_s;
-        const QString between = u"\n<ITEM/><ITEM> </ITEM>\n  <more/><!-- <ITEM> -->"_s;
-        const QString end = u"\n<!-- & -->\n"_s;
-        TLLDocument document;
-        QVERIFY(read(document, digital(a + between + b + end)));
-        StationList &list = *document.lists().list(true, 0);
-        QCOMPARE(list.size(), std::size_t(2));
-        list[0]->setSkipped(true);
-        list[0]->setBlocked(true);
-        list[1]->setStationName(u"<B> & \"C\""_s);
-        std::swap(list[0], list[1]);
-        list[0]->setProgramNum(1);
-        list[1]->setProgramNum(2);
-        const QString newA =
-            QString(a)
-                .replace(u" 1 "_s, u"2"_s)
-                .replace(u"</ITEM>"_s, u"<isSkipped>1</isSkipped>\n<isBlocked>1</isBlocked>\n"
-                                       "</ITEM>"_s)
-                .replace(u"<isSkipped/>"_s, u"<isSkipped>1</isSkipped>"_s)
-                .replace(u"</vchName><isSkipped>1</isSkipped>\n"_s, u"</vchName>"_s);
-        const QString newB = QString(b)
-                                 .replace(u"<prNum>2"_s, u"<prNum>1"_s)
-                                 .replace(u">B<"_s, u">&lt;B&gt; &amp; &quot;C&quot;<"_s);
-        const QString expected = digital(newB + between + newA + end);
-        QCOMPARE(QString::fromUtf8(repairedTLL(document.list())), expected);
-    }
-
-    void repairsInTheFilesEncoding()
-    {
-        const QByteArray latin1 = digital(items({u"Ä"_s, u"B"_s})).toLatin1();
-        TLLDocument document;
-        QVERIFY(read(document, latin1));
-        QVERIFY(repairedTLL(document.list()) == latin1);
-        rename(u"Ö"_s)(document);
-        QVERIFY(repairedTLL(document.list()) == QByteArray(latin1).replace("B</", "\xD6</"));
-        rename(u"Ж"_s)(document);
-        QVERIFY(repairedTLL(document.list()) == digital(items({u"Ä"_s, u"Ж"_s})).toUtf8());
-    }
-
-    /// The repaired writing keeps places, whichever list is on show, so that it comes back the
-    /// same.
-    void repairsTheJSONList()
-    {
-        const QString a = channel(u"A"_s, 3), b = channel(u"B"_s, 5), c = channel(u"C"_s, 7);
-        const QString r = channel(u"R"_s, 16385, "CABLE DIGITAL", 2);
-        const QString s = channel(u"S"_s, 4, "SATELLITE DIGITAL");
-        TLLDocument document;
-        QVERIFY(read(document, legacy({c, r, b, s, a})));
-        StationList &list = *document.lists().list(true, 0);
-        std::rotate(list.begin(), list.begin() + 1, list.end()); // B, C, A
-        station(document, true, 1, 0)->setSkipped(true);
-        const QByteArray expected =
-            legacy({b, r, c, QString(s).replace(u"false"_s, u"true"_s), a}).toUtf8();
-        TLLDocument again;
-        QVERIFY(read(again, expected));
-        for (const int shown : {0, 1}) {
-            document.switchToSource(shown);
-            QCOMPARE(repairedTLL(document.list()), expected);
-            again.switchToSource(shown);
-            QCOMPARE(repairedTLL(again.list()), expected);
-        }
-    }
-
-    void asksBeforeSaving_data()
-    {
-        QTest::addColumn<QString>("name"); // given to the second of three stations
-        QTest::addColumn<QStringList>("buttons");
-        QTest::addColumn<QString>("answer");
-        QTest::addColumn<QString>("writing");
-        const QString repaired = u"kSaveRepaired"_s, without = u"kSaveWithout"_s,
-                      cancel = u"kCancel"_s, anyway = u"kSaveAnyway"_s;
-        QTest::newRow("nothing lost") << u"Bravo"_s << QStringList() << QString() << u"plain"_s;
-        const QStringList all{repaired, without, cancel};
-        QTest::newRow("repaired") << u"R&B"_s << all << repaired << u"repaired"_s;
-        QTest::newRow("anyway") << u"R&B"_s << all << without << u"plain"_s;
-        QTest::newRow("cancelled") << u"R&B"_s << all << cancel << QString();
-        QTest::newRow("no station lost")
-            << u"<x/>"_s << QStringList{repaired, anyway, cancel} << anyway << u"plain"_s;
-        QTest::newRow("export") << u"R&B"_s << QStringList{cancel, without} << without
-                                << u"export"_s;
-        QTest::newRow("export, cancelled")
-            << u"R&B"_s << QStringList{cancel, without} << cancel << QString();
-    }
-    void asksBeforeSaving()
-    {
-        QFETCH(const QString, name);
-        QFETCH(const QStringList, buttons);
-        QFETCH(const QString, answer);
-        QFETCH(const QString, writing);
-        Shown shown(digital(items({u"A"_s, u"B"_s, u"C"_s})));
-        TLLDocument &document = shown.document;
-        rename(name)(document);
-        document.setDirtyFlag(true);
-        if (!answer.isEmpty())
-            shown.prompts.answerAlert(answer); // without translations the title is the id
-        const bool isExport = buttons.size() == 2;
-        if (isExport) {
-            shown.prompts.answerSavePanel(shown.path(u"copy.txt"_s));
-            document.exportAsReferenceList();
-        } else {
-            QCOMPARE(shown.save(), !writing.isEmpty());
-        }
-        QCOMPARE(document.isDirty(), writing.isEmpty() || isExport);
-        QCOMPARE(shown.prompts.alerts().empty(), buttons.isEmpty());
-        if (!buttons.isEmpty())
-            QCOMPARE(shown.prompts.alerts().front().alert.buttons, buttons);
-        QVERIFY(shown.prompts.isSettled());
-        if (isExport) {
-            QCOMPARE(shown.prompts.savePanels().front().suggestedPath, shown.path(u"list.txt"_s));
-            QCOMPARE(contentOf(shown.path(u"copy.txt"_s)),
-                     writing.isEmpty() ? QByteArray("<cannot be read>") : written(document));
-        }
-        const QByteArray expected = writing == u"repaired"_s ? repairedTLL(document.list())
-                                    : writing == u"plain"_s  ? written(document)
-                                                             : shown.before;
-        QVERIFY(contentOf(shown.path()) == expected);
-    }
-
-    void keepsToTheRepairedForm()
-    {
-        QSettings().clear();
-        const QString jsonList = legacy({channel(u"B"_s, 5), u"null"_s, channel(u"A"_s, 3)});
-        Shown plain(digital(items({u"A"_s, u"B"_s, u"C"_s}))), json(jsonList);
-        rename(u"R&B"_s)(plain.document);
-        for (Shown *shown : {&plain, &json}) {
-            shown->document.switchToSource(0);
-            const QSignalSpy told(&shown->document, &Document::told);
-            shown->prompts.answerAlertChecked(u"kSaveRepaired"_s);
-            for (int i = 0; i < 3; ++i) { // only the first time there is a question
-                station(shown->document, true, 0, 0)->setSkipped(i % 2 == 0);
-                QVERIFY(shown->save());
-                QVERIFY(shown->prompts.isSettled());
-                QCOMPARE(told.back().front().toString().contains(u"kToldRepaired"_s), i > 0);
-                QVERIFY(contentOf(shown->path()) == repairedTLL(shown->document.list()));
-            }
-            QCOMPARE(shown->prompts.alerts().front().alert.checkBox.isEmpty(), shown == &plain);
-        }
-        // The box in the sheet of the JSON list spoke for all of them, and for no other list.
-        Shown second(jsonList), other(digital(items({u"A"_s, u"B"_s, u"C"_s})));
-        second.document.switchToSource(0);
-        QVERIFY(second.save());
-        QVERIFY(second.prompts.alerts().empty());
-        rename(u"R&B"_s)(other.document);
-        other.prompts.answerAlert(u"kCancel"_s);
-        QVERIFY(!other.save());
-        QSettings().clear();
-    }
-
-private:
-    /// A list in a file of its own, opened with somebody to ask.
-    struct Shown
-    {
-        explicit Shown(const QString &text) : before(text.toUtf8())
-        {
-            writeFile(path(), before);
-            document.setPrompts(&prompts);
-            Error error;
-            if (!document.readFromUrl(QUrl::fromLocalFile(path()), TLLDocument::typeName(), error))
-                qFatal("the list of the test is not one");
-        }
-        [[nodiscard]] QString path(const QString &name = u"list.tll"_s) const
-        {
-            return folder.filePath(name);
-        }
-        [[nodiscard]] bool save()
-        {
-            bool isSaved = false;
-            document.saveDocument([&isSaved](bool saved) { isSaved = saved; });
-            return isSaved;
-        }
-
-        QByteArray before;
-        QTemporaryDir folder;
-        PresetPrompts prompts{PresetPrompts::Arrival::AtOnce};
-        TLLDocument document;
-    };
 };
 
 QUILLET_TEST(RehearsalTest)

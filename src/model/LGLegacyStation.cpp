@@ -25,6 +25,10 @@ const StationKeys &legacyKeys()
         .keyService_id = QStringLiteral("SVCID"),
         .keyTransport_id = QStringLiteral("TSID"),
         .keyOriginalNetwork_id = QStringLiteral("ONID"),
+        .keyNetwork_id = QStringLiteral("networkId"),
+        .keyFrequency = QStringLiteral("frequency"),
+        .keySatellite = QStringLiteral("satelliteId"),
+        .keyScrambled = QStringLiteral("scrambled"),
     };
     return keys;
 }

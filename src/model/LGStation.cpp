@@ -30,6 +30,10 @@ const StationKeys &itemKeys()
         .keyService_id = QStringLiteral("service_id"),
         .keyTransport_id = QStringLiteral("transport_id"),
         .keyOriginalNetwork_id = QStringLiteral("original_network_id"),
+        .keyNetwork_id = QStringLiteral("network_id"),
+        .keyFrequency = QStringLiteral("frequency"),
+        .keySatellite = QStringLiteral("usSatelliteHandle"),
+        .keyScrambled = QStringLiteral("scrambled"),
     };
     return keys;
 }
@@ -233,6 +237,54 @@ std::optional<QString> LGStation::transport_id() const
 std::optional<QString> LGStation::originalNetwork_id() const
 {
     return textValue(m_keys->keyOriginalNetwork_id);
+}
+
+std::optional<QString> LGStation::shownText(const QString &key) const
+{
+    const Value *value = m_entry.find(key);
+    if (!value)
+        return {};
+    if (const QString *text = value->string())
+        return text->isEmpty() ? std::nullopt : std::optional(*text);
+    const std::optional<qint64> number = value->wholeNumber();
+    return number ? std::optional(QString::number(*number)) : std::nullopt;
+}
+
+std::optional<QString> LGStation::networkIdText() const
+{
+    return shownText(m_keys->keyNetwork_id);
+}
+
+std::optional<QString> LGStation::transportStreamIdText() const
+{
+    return shownText(m_keys->keyTransport_id);
+}
+
+std::optional<QString> LGStation::serviceIdText() const
+{
+    return shownText(m_keys->keyService_id);
+}
+
+std::optional<QString> LGStation::satellite() const
+{
+    // Sets write 0 for stations of cable and antenna.
+    const bool isOfSatellite = mappedSourceIndex() == static_cast<int>(StationSource::Satellite);
+    return isOfSatellite ? shownText(m_keys->keySatellite) : std::nullopt;
+}
+
+std::optional<qint64> LGStation::frequency() const
+{
+    const std::optional<qint64> given = getIntValue(m_keys->keyFrequency);
+    return given && *given > 0 ? given : std::nullopt;
+}
+
+std::optional<bool> LGStation::isEncrypted() const
+{
+    const Value *value = m_entry.find(m_keys->keyScrambled);
+    if (const bool *given = value ? value->boolean() : nullptr)
+        return *given;
+    const std::optional<qint64> number = getIntValue(m_keys->keyScrambled);
+    return number ? std::optional(*number > 0) : std::nullopt;
 }
 
 int LGStation::mappedSourceIndex() const

@@ -87,6 +87,18 @@ public:
     [[nodiscard]] virtual std::optional<QString> transport_id() const;
     [[nodiscard]] virtual std::optional<QString> originalNetwork_id() const;
 
+    /// Where the station is broadcast, as a person reads it: text as it is, numbers in decimal.
+    /// None where the file tells nothing.
+    [[nodiscard]] std::optional<QString> networkIdText() const;
+    [[nodiscard]] std::optional<QString> transportStreamIdText() const;
+    [[nodiscard]] std::optional<QString> serviceIdText() const;
+    /// The set's own word for the satellite; none for stations of other sources. It may be but a
+    /// number in the set's table, which still tells stations of one satellite from those of others.
+    [[nodiscard]] std::optional<QString> satellite() const;
+    /// As the file gives it, above 0: of satellites in MHz, of others in kHz.
+    [[nodiscard]] std::optional<qint64> frequency() const;
+    [[nodiscard]] std::optional<bool> isEncrypted() const;
+
     /// The index, 0 to 3, of the source the station is filed under; 3 when it names none or an
     /// unknown one.
     [[nodiscard]] virtual int mappedSourceIndex() const;
@@ -123,6 +135,7 @@ protected:
 
 private:
     [[nodiscard]] std::optional<QString> textValue(const QString &key) const;
+    [[nodiscard]] std::optional<QString> shownText(const QString &key) const;
     [[nodiscard]] std::optional<qint64> rawNumber() const;
 
     const StationKeys *m_keys;

@@ -18,6 +18,10 @@ struct StationKeys
     QString keyService_id;
     QString keyTransport_id;
     QString keyOriginalNetwork_id;
+    QString keyNetwork_id;
+    QString keyFrequency;
+    QString keySatellite;
+    QString keyScrambled;
 };
 
 } // namespace quillet

@@ -127,6 +127,42 @@ private slots:
         QCOMPARE(read.originalNetwork_id(), MaybeText());
     }
 
+    /// Of both variants, what is told is the same; what is not told is none.
+    void tellsWhereItIsBroadcast()
+    {
+        const auto told = [](const LGStation &station) {
+            const auto encrypted = station.isEncrypted();
+            return QStringList{station.networkIdText().value_or(u"-"_s),
+                               station.transportStreamIdText().value_or(u"-"_s),
+                               station.serviceIdText().value_or(u"-"_s),
+                               station.satellite().value_or(u"-"_s),
+                               QString::number(station.frequency().value_or(-1)),
+                               !encrypted   ? u"-"_s
+                               : *encrypted ? u"yes"_s
+                                            : u"no"_s};
+        };
+        const auto json = [](const QByteArray &members) {
+            return station("{\"sourceIndex\":\"SATELLITE DIGITAL\"," + members + "}");
+        };
+        const QStringList all{u"318"_s, u"2"_s, u"0300"_s, u"3530"_s, u"10834"_s, u"yes"_s};
+        const QStringList none{u"-"_s, u"-"_s, u"-"_s, u"-"_s, u"-1"_s, u"-"_s};
+        QCOMPARE(told(json("\"networkId\":318,\"TSID\":2,\"SVCID\":\"0300\",\"satelliteId\":"
+                           "\"3530\",\"frequency\":10834,\"scrambled\":true")),
+                 all);
+        QCOMPARE(told(json("\"networkId\":1.5,\"TSID\":null,\"SVCID\":\"\",\"satelliteId\":{},"
+                           "\"frequency\":0,\"scrambled\":\"\"")),
+                 none);
+        Dictionary entry{{u"sourceIndex"_s, u"7"_s},   {u"network_id"_s, u"318"_s},
+                         {u"transport_id"_s, u"2"_s},  {u"service_id"_s, u"0300"_s},
+                         {u"frequency"_s, u"10834"_s}, {u"usSatelliteHandle"_s, u"3530"_s},
+                         {u"scrambled"_s, u"1"_s}};
+        QCOMPARE(told(LGStation(entry, 0)), all);
+        entry.insert(u"scrambled"_s, u"0"_s);
+        entry.insert(u"sourceIndex"_s, u"3"_s); // cable, where the handle means nothing
+        QCOMPARE(told(LGStation(entry, 0)).sliced(3), (QStringList{u"-"_s, u"10834"_s, u"no"_s}));
+        QCOMPARE(told(LGStation({{u"sourceIndex"_s, u"7"_s}}, 0)), none);
+    }
+
     void classifiesNumbersAndText()
     {
         // ETSI EN 300 468: 2 is radio, 25 is HD television.

@@ -117,17 +117,61 @@
         <source></source>
         <translation>Sperren</translation>
     </message>
+    <message id="kColumnEncrypted">
+        <source></source>
+        <translation>Verschlüsselt</translation>
+    </message>
+    <message id="kColumnFrequency">
+        <source></source>
+        <translation>Frequenz</translation>
+    </message>
+    <message id="kColumnHidden">
+        <source></source>
+        <translation>Verborgen</translation>
+    </message>
     <message id="kColumnName">
         <source></source>
         <translation>Name</translation>
+    </message>
+    <message id="kColumnNetworkId">
+        <source></source>
+        <translation>Netz</translation>
+    </message>
+    <message id="kColumnNetworkIdFull">
+        <source></source>
+        <translation>Netzwerk-ID</translation>
     </message>
     <message id="kColumnNumber">
         <source></source>
         <translation>Nr.</translation>
     </message>
+    <message id="kColumnNumberFull">
+        <source></source>
+        <translation>Nummer</translation>
+    </message>
+    <message id="kColumnSatellite">
+        <source></source>
+        <translation>Satellit</translation>
+    </message>
+    <message id="kColumnServiceId">
+        <source></source>
+        <translation>Dienst</translation>
+    </message>
+    <message id="kColumnServiceIdFull">
+        <source></source>
+        <translation>Dienst-ID</translation>
+    </message>
     <message id="kColumnSkipped">
         <source></source>
         <translation>Überspringen</translation>
+    </message>
+    <message id="kColumnTransportStreamId">
+        <source></source>
+        <translation>Strom</translation>
+    </message>
+    <message id="kColumnTransportStreamIdFull">
+        <source></source>
+        <translation>Transportstrom-ID</translation>
     </message>
     <message id="kColumnType">
         <source></source>
@@ -427,6 +471,10 @@
     <message id="kMenuClose">
         <source></source>
         <translation>S&amp;chließen</translation>
+    </message>
+    <message id="kMenuColumns">
+        <source></source>
+        <translation>Spalt&amp;en</translation>
     </message>
     <message id="kMenuEdit">
         <source></source>
@@ -971,6 +1019,14 @@ Diese folgen ab Nummer: %3</translation>
         <source></source>
         <translation>Sender</translation>
     </message>
+    <message id="kTipColumnAlwaysShown">
+        <source></source>
+        <translation>Diese Spalte wird immer gezeigt</translation>
+    </message>
+    <message id="kTipColumnNotTold">
+        <source></source>
+        <translation>Die Datei nennt dies bei keinem Sender dieser Liste</translation>
+    </message>
     <message id="kTipFilterTVOnly">
         <source></source>
         <translation>Typen können nur für TV-Sender ausgewählt werden</translation>
@@ -1106,6 +1162,10 @@ Diese folgen ab Nummer: %3</translation>
     <message id="kUntouchedReason">
         <source></source>
         <translation>Die beschädigte Datei bleibt, wie sie ist. Wählen Sie einen anderen Namen oder einen anderen Ordner.</translation>
+    </message>
+    <message id="kUsualColumns">
+        <source></source>
+        <translation>Übliche Spalten</translation>
     </message>
     <message id="kWriteFailedReason">
         <source></source>

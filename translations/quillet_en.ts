@@ -117,17 +117,61 @@
         <source></source>
         <translation>Lock</translation>
     </message>
+    <message id="kColumnEncrypted">
+        <source></source>
+        <translation>Encrypted</translation>
+    </message>
+    <message id="kColumnFrequency">
+        <source></source>
+        <translation>Frequency</translation>
+    </message>
+    <message id="kColumnHidden">
+        <source></source>
+        <translation>Hidden</translation>
+    </message>
     <message id="kColumnName">
         <source></source>
         <translation>Name</translation>
+    </message>
+    <message id="kColumnNetworkId">
+        <source></source>
+        <translation>Network</translation>
+    </message>
+    <message id="kColumnNetworkIdFull">
+        <source></source>
+        <translation>Network ID</translation>
     </message>
     <message id="kColumnNumber">
         <source></source>
         <translation>No.</translation>
     </message>
+    <message id="kColumnNumberFull">
+        <source></source>
+        <translation>Number</translation>
+    </message>
+    <message id="kColumnSatellite">
+        <source></source>
+        <translation>Satellite</translation>
+    </message>
+    <message id="kColumnServiceId">
+        <source></source>
+        <translation>Service</translation>
+    </message>
+    <message id="kColumnServiceIdFull">
+        <source></source>
+        <translation>Service ID</translation>
+    </message>
     <message id="kColumnSkipped">
         <source></source>
         <translation>Skip</translation>
+    </message>
+    <message id="kColumnTransportStreamId">
+        <source></source>
+        <translation>Stream</translation>
+    </message>
+    <message id="kColumnTransportStreamIdFull">
+        <source></source>
+        <translation>Transport Stream ID</translation>
     </message>
     <message id="kColumnType">
         <source></source>
@@ -427,6 +471,10 @@
     <message id="kMenuClose">
         <source></source>
         <translation>&amp;Close</translation>
+    </message>
+    <message id="kMenuColumns">
+        <source></source>
+        <translation>Colu&amp;mns</translation>
     </message>
     <message id="kMenuEdit">
         <source></source>
@@ -971,6 +1019,14 @@ These go on from number: %3</translation>
         <source></source>
         <translation>Stations</translation>
     </message>
+    <message id="kTipColumnAlwaysShown">
+        <source></source>
+        <translation>This column is always shown</translation>
+    </message>
+    <message id="kTipColumnNotTold">
+        <source></source>
+        <translation>The file does not say this of any station in this list</translation>
+    </message>
     <message id="kTipFilterTVOnly">
         <source></source>
         <translation>Types can be chosen for TV stations only</translation>
@@ -1106,6 +1162,10 @@ These go on from number: %3</translation>
     <message id="kUntouchedReason">
         <source></source>
         <translation>The damaged file is kept as it is. Choose another name or another folder.</translation>
+    </message>
+    <message id="kUsualColumns">
+        <source></source>
+        <translation>Usual Columns</translation>
     </message>
     <message id="kWriteFailedReason">
         <source></source>

@@ -117,17 +117,61 @@
         <source></source>
         <translation>Bloquear</translation>
     </message>
+    <message id="kColumnEncrypted">
+        <source></source>
+        <translation>Codificado</translation>
+    </message>
+    <message id="kColumnFrequency">
+        <source></source>
+        <translation>Frecuencia</translation>
+    </message>
+    <message id="kColumnHidden">
+        <source></source>
+        <translation>Oculto</translation>
+    </message>
     <message id="kColumnName">
         <source></source>
         <translation>Nombre</translation>
+    </message>
+    <message id="kColumnNetworkId">
+        <source></source>
+        <translation>Red</translation>
+    </message>
+    <message id="kColumnNetworkIdFull">
+        <source></source>
+        <translation>ID de red</translation>
     </message>
     <message id="kColumnNumber">
         <source></source>
         <translation>N.º</translation>
     </message>
+    <message id="kColumnNumberFull">
+        <source></source>
+        <translation>Número</translation>
+    </message>
+    <message id="kColumnSatellite">
+        <source></source>
+        <translation>Satélite</translation>
+    </message>
+    <message id="kColumnServiceId">
+        <source></source>
+        <translation>Servicio</translation>
+    </message>
+    <message id="kColumnServiceIdFull">
+        <source></source>
+        <translation>ID de servicio</translation>
+    </message>
     <message id="kColumnSkipped">
         <source></source>
         <translation>Omitir</translation>
+    </message>
+    <message id="kColumnTransportStreamId">
+        <source></source>
+        <translation>Flujo</translation>
+    </message>
+    <message id="kColumnTransportStreamIdFull">
+        <source></source>
+        <translation>ID del flujo de transporte</translation>
     </message>
     <message id="kColumnType">
         <source></source>
@@ -427,6 +471,10 @@
     <message id="kMenuClose">
         <source></source>
         <translation>&amp;Cerrar</translation>
+    </message>
+    <message id="kMenuColumns">
+        <source></source>
+        <translation>Colu&amp;mnas</translation>
     </message>
     <message id="kMenuEdit">
         <source></source>
@@ -971,6 +1019,14 @@ Estos continúan a partir del número: %3</translation>
         <source></source>
         <translation>Canales</translation>
     </message>
+    <message id="kTipColumnAlwaysShown">
+        <source></source>
+        <translation>Esta columna se muestra siempre</translation>
+    </message>
+    <message id="kTipColumnNotTold">
+        <source></source>
+        <translation>El archivo no lo indica de ningún canal de esta lista</translation>
+    </message>
     <message id="kTipFilterTVOnly">
         <source></source>
         <translation>Los tipos solo se pueden elegir para canales de TV</translation>
@@ -1106,6 +1162,10 @@ Estos continúan a partir del número: %3</translation>
     <message id="kUntouchedReason">
         <source></source>
         <translation>El archivo dañado se conserva como está. Elija otro nombre u otra carpeta.</translation>
+    </message>
+    <message id="kUsualColumns">
+        <source></source>
+        <translation>Columnas habituales</translation>
     </message>
     <message id="kWriteFailedReason">
         <source></source>

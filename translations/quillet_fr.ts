@@ -117,17 +117,61 @@
         <source></source>
         <translation>Verrouiller</translation>
     </message>
+    <message id="kColumnEncrypted">
+        <source></source>
+        <translation>Crypté</translation>
+    </message>
+    <message id="kColumnFrequency">
+        <source></source>
+        <translation>Fréquence</translation>
+    </message>
+    <message id="kColumnHidden">
+        <source></source>
+        <translation>Masqué</translation>
+    </message>
     <message id="kColumnName">
         <source></source>
         <translation>Nom</translation>
+    </message>
+    <message id="kColumnNetworkId">
+        <source></source>
+        <translation>Réseau</translation>
+    </message>
+    <message id="kColumnNetworkIdFull">
+        <source></source>
+        <translation>ID du réseau</translation>
     </message>
     <message id="kColumnNumber">
         <source></source>
         <translation>N°</translation>
     </message>
+    <message id="kColumnNumberFull">
+        <source></source>
+        <translation>Numéro</translation>
+    </message>
+    <message id="kColumnSatellite">
+        <source></source>
+        <translation>Satellite</translation>
+    </message>
+    <message id="kColumnServiceId">
+        <source></source>
+        <translation>Service</translation>
+    </message>
+    <message id="kColumnServiceIdFull">
+        <source></source>
+        <translation>ID du service</translation>
+    </message>
     <message id="kColumnSkipped">
         <source></source>
         <translation>Ignorer</translation>
+    </message>
+    <message id="kColumnTransportStreamId">
+        <source></source>
+        <translation>Flux</translation>
+    </message>
+    <message id="kColumnTransportStreamIdFull">
+        <source></source>
+        <translation>ID du flux de transport</translation>
     </message>
     <message id="kColumnType">
         <source></source>
@@ -427,6 +471,10 @@
     <message id="kMenuClose">
         <source></source>
         <translation>&amp;Fermer</translation>
+    </message>
+    <message id="kMenuColumns">
+        <source></source>
+        <translation>Colo&amp;nnes</translation>
     </message>
     <message id="kMenuEdit">
         <source></source>
@@ -971,6 +1019,14 @@ Ces dernières suivent à partir du numéro : %3</translation>
         <source></source>
         <translation>Chaînes</translation>
     </message>
+    <message id="kTipColumnAlwaysShown">
+        <source></source>
+        <translation>Cette colonne est toujours affichée</translation>
+    </message>
+    <message id="kTipColumnNotTold">
+        <source></source>
+        <translation>Le fichier ne l’indique pour aucune chaîne de cette liste</translation>
+    </message>
     <message id="kTipFilterTVOnly">
         <source></source>
         <translation>Les types ne peuvent être choisis que pour les chaînes TV</translation>
@@ -1106,6 +1162,10 @@ Ces dernières suivent à partir du numéro : %3</translation>
     <message id="kUntouchedReason">
         <source></source>
         <translation>Le fichier endommagé est conservé tel quel. Choisissez un autre nom ou un autre dossier.</translation>
+    </message>
+    <message id="kUsualColumns">
+        <source></source>
+        <translation>Colonnes habituelles</translation>
     </message>
     <message id="kWriteFailedReason">
         <source></source>

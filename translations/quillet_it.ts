@@ -117,17 +117,61 @@
         <source></source>
         <translation>Blocca</translation>
     </message>
+    <message id="kColumnEncrypted">
+        <source></source>
+        <translation>Criptato</translation>
+    </message>
+    <message id="kColumnFrequency">
+        <source></source>
+        <translation>Frequenza</translation>
+    </message>
+    <message id="kColumnHidden">
+        <source></source>
+        <translation>Nascosto</translation>
+    </message>
     <message id="kColumnName">
         <source></source>
         <translation>Nome</translation>
+    </message>
+    <message id="kColumnNetworkId">
+        <source></source>
+        <translation>Rete</translation>
+    </message>
+    <message id="kColumnNetworkIdFull">
+        <source></source>
+        <translation>ID rete</translation>
     </message>
     <message id="kColumnNumber">
         <source></source>
         <translation>N.</translation>
     </message>
+    <message id="kColumnNumberFull">
+        <source></source>
+        <translation>Numero</translation>
+    </message>
+    <message id="kColumnSatellite">
+        <source></source>
+        <translation>Satellite</translation>
+    </message>
+    <message id="kColumnServiceId">
+        <source></source>
+        <translation>Servizio</translation>
+    </message>
+    <message id="kColumnServiceIdFull">
+        <source></source>
+        <translation>ID servizio</translation>
+    </message>
     <message id="kColumnSkipped">
         <source></source>
         <translation>Salta</translation>
+    </message>
+    <message id="kColumnTransportStreamId">
+        <source></source>
+        <translation>Flusso</translation>
+    </message>
+    <message id="kColumnTransportStreamIdFull">
+        <source></source>
+        <translation>ID flusso di trasporto</translation>
     </message>
     <message id="kColumnType">
         <source></source>
@@ -427,6 +471,10 @@
     <message id="kMenuClose">
         <source></source>
         <translation>&amp;Chiudi</translation>
+    </message>
+    <message id="kMenuColumns">
+        <source></source>
+        <translation>Colo&amp;nne</translation>
     </message>
     <message id="kMenuEdit">
         <source></source>
@@ -971,6 +1019,14 @@ Questi proseguono dal numero: %3</translation>
         <source></source>
         <translation>Canali</translation>
     </message>
+    <message id="kTipColumnAlwaysShown">
+        <source></source>
+        <translation>Questa colonna è sempre visibile</translation>
+    </message>
+    <message id="kTipColumnNotTold">
+        <source></source>
+        <translation>Il file non lo indica per nessun canale di questa lista</translation>
+    </message>
     <message id="kTipFilterTVOnly">
         <source></source>
         <translation>I tipi si possono scegliere solo per i canali TV</translation>
@@ -1106,6 +1162,10 @@ Questi proseguono dal numero: %3</translation>
     <message id="kUntouchedReason">
         <source></source>
         <translation>Il file danneggiato viene lasciato com’è. Scegli un altro nome o un’altra cartella.</translation>
+    </message>
+    <message id="kUsualColumns">
+        <source></source>
+        <translation>Colonne abituali</translation>
     </message>
     <message id="kWriteFailedReason">
         <source></source>

@@ -117,17 +117,61 @@
         <source></source>
         <translation>Slot</translation>
     </message>
+    <message id="kColumnEncrypted">
+        <source></source>
+        <translation>Versleuteld</translation>
+    </message>
+    <message id="kColumnFrequency">
+        <source></source>
+        <translation>Frequentie</translation>
+    </message>
+    <message id="kColumnHidden">
+        <source></source>
+        <translation>Verborgen</translation>
+    </message>
     <message id="kColumnName">
         <source></source>
         <translation>Naam</translation>
+    </message>
+    <message id="kColumnNetworkId">
+        <source></source>
+        <translation>Netwerk</translation>
+    </message>
+    <message id="kColumnNetworkIdFull">
+        <source></source>
+        <translation>Netwerk-ID</translation>
     </message>
     <message id="kColumnNumber">
         <source></source>
         <translation>Nr.</translation>
     </message>
+    <message id="kColumnNumberFull">
+        <source></source>
+        <translation>Nummer</translation>
+    </message>
+    <message id="kColumnSatellite">
+        <source></source>
+        <translation>Satelliet</translation>
+    </message>
+    <message id="kColumnServiceId">
+        <source></source>
+        <translation>Dienst</translation>
+    </message>
+    <message id="kColumnServiceIdFull">
+        <source></source>
+        <translation>Dienst-ID</translation>
+    </message>
     <message id="kColumnSkipped">
         <source></source>
         <translation>Overslaan</translation>
+    </message>
+    <message id="kColumnTransportStreamId">
+        <source></source>
+        <translation>Stroom</translation>
+    </message>
+    <message id="kColumnTransportStreamIdFull">
+        <source></source>
+        <translation>Transportstroom-ID</translation>
     </message>
     <message id="kColumnType">
         <source></source>
@@ -427,6 +471,10 @@
     <message id="kMenuClose">
         <source></source>
         <translation>Sl&amp;uiten</translation>
+    </message>
+    <message id="kMenuColumns">
+        <source></source>
+        <translation>Kolo&amp;mmen</translation>
     </message>
     <message id="kMenuEdit">
         <source></source>
@@ -971,6 +1019,14 @@ Deze gaan verder vanaf nummer: %3</translation>
         <source></source>
         <translation>Zenders</translation>
     </message>
+    <message id="kTipColumnAlwaysShown">
+        <source></source>
+        <translation>Deze kolom wordt altijd getoond</translation>
+    </message>
+    <message id="kTipColumnNotTold">
+        <source></source>
+        <translation>Het bestand vermeldt dit van geen enkele zender in deze lijst</translation>
+    </message>
     <message id="kTipFilterTVOnly">
         <source></source>
         <translation>Typen kunnen alleen voor tv-zenders worden gekozen</translation>
@@ -1106,6 +1162,10 @@ Deze gaan verder vanaf nummer: %3</translation>
     <message id="kUntouchedReason">
         <source></source>
         <translation>Het beschadigde bestand blijft zoals het is. Kies een andere naam of een andere map.</translation>
+    </message>
+    <message id="kUsualColumns">
+        <source></source>
+        <translation>Gebruikelijke kolommen</translation>
     </message>
     <message id="kWriteFailedReason">
         <source></source>

@@ -119,17 +119,61 @@
         <source></source>
         <translation>Blokada</translation>
     </message>
+    <message id="kColumnEncrypted">
+        <source></source>
+        <translation>Kodowany</translation>
+    </message>
+    <message id="kColumnFrequency">
+        <source></source>
+        <translation>Częstotliwość</translation>
+    </message>
+    <message id="kColumnHidden">
+        <source></source>
+        <translation>Ukryty</translation>
+    </message>
     <message id="kColumnName">
         <source></source>
         <translation>Nazwa</translation>
+    </message>
+    <message id="kColumnNetworkId">
+        <source></source>
+        <translation>Sieć</translation>
+    </message>
+    <message id="kColumnNetworkIdFull">
+        <source></source>
+        <translation>ID sieci</translation>
     </message>
     <message id="kColumnNumber">
         <source></source>
         <translation>Nr</translation>
     </message>
+    <message id="kColumnNumberFull">
+        <source></source>
+        <translation>Numer</translation>
+    </message>
+    <message id="kColumnSatellite">
+        <source></source>
+        <translation>Satelita</translation>
+    </message>
+    <message id="kColumnServiceId">
+        <source></source>
+        <translation>Usługa</translation>
+    </message>
+    <message id="kColumnServiceIdFull">
+        <source></source>
+        <translation>ID usługi</translation>
+    </message>
     <message id="kColumnSkipped">
         <source></source>
         <translation>Pomijaj</translation>
+    </message>
+    <message id="kColumnTransportStreamId">
+        <source></source>
+        <translation>Strumień</translation>
+    </message>
+    <message id="kColumnTransportStreamIdFull">
+        <source></source>
+        <translation>ID strumienia transportowego</translation>
     </message>
     <message id="kColumnType">
         <source></source>
@@ -434,6 +478,10 @@
     <message id="kMenuClose">
         <source></source>
         <translation>Za&amp;mknij</translation>
+    </message>
+    <message id="kMenuColumns">
+        <source></source>
+        <translation>Kolu&amp;mny</translation>
     </message>
     <message id="kMenuEdit">
         <source></source>
@@ -989,6 +1037,14 @@ Te następują od numeru: %3</translation>
         <source></source>
         <translation>Kanały</translation>
     </message>
+    <message id="kTipColumnAlwaysShown">
+        <source></source>
+        <translation>Ta kolumna jest zawsze widoczna</translation>
+    </message>
+    <message id="kTipColumnNotTold">
+        <source></source>
+        <translation>Plik nie podaje tego dla żadnego kanału na tej liście</translation>
+    </message>
     <message id="kTipFilterTVOnly">
         <source></source>
         <translation>Typy można wybierać tylko dla kanałów TV</translation>
@@ -1132,6 +1188,10 @@ Te następują od numeru: %3</translation>
     <message id="kUntouchedReason">
         <source></source>
         <translation>Uszkodzony plik pozostaje bez zmian. Wybierz inną nazwę lub inny folder.</translation>
+    </message>
+    <message id="kUsualColumns">
+        <source></source>
+        <translation>Zwykłe kolumny</translation>
     </message>
     <message id="kWriteFailedReason">
         <source></source>

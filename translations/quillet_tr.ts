@@ -115,17 +115,61 @@
         <source></source>
         <translation>Kilit</translation>
     </message>
+    <message id="kColumnEncrypted">
+        <source></source>
+        <translation>Şifreli</translation>
+    </message>
+    <message id="kColumnFrequency">
+        <source></source>
+        <translation>Frekans</translation>
+    </message>
+    <message id="kColumnHidden">
+        <source></source>
+        <translation>Gizli</translation>
+    </message>
     <message id="kColumnName">
         <source></source>
         <translation>Ad</translation>
+    </message>
+    <message id="kColumnNetworkId">
+        <source></source>
+        <translation>Ağ</translation>
+    </message>
+    <message id="kColumnNetworkIdFull">
+        <source></source>
+        <translation>Ağ Kimliği</translation>
     </message>
     <message id="kColumnNumber">
         <source></source>
         <translation>No.</translation>
     </message>
+    <message id="kColumnNumberFull">
+        <source></source>
+        <translation>Numara</translation>
+    </message>
+    <message id="kColumnSatellite">
+        <source></source>
+        <translation>Uydu</translation>
+    </message>
+    <message id="kColumnServiceId">
+        <source></source>
+        <translation>Hizmet</translation>
+    </message>
+    <message id="kColumnServiceIdFull">
+        <source></source>
+        <translation>Hizmet Kimliği</translation>
+    </message>
     <message id="kColumnSkipped">
         <source></source>
         <translation>Atla</translation>
+    </message>
+    <message id="kColumnTransportStreamId">
+        <source></source>
+        <translation>Akış</translation>
+    </message>
+    <message id="kColumnTransportStreamIdFull">
+        <source></source>
+        <translation>Taşıma Akışı Kimliği</translation>
     </message>
     <message id="kColumnType">
         <source></source>
@@ -420,6 +464,10 @@
     <message id="kMenuClose">
         <source></source>
         <translation>Ka&amp;pat</translation>
+    </message>
+    <message id="kMenuColumns">
+        <source></source>
+        <translation>&amp;Sütunlar</translation>
     </message>
     <message id="kMenuEdit">
         <source></source>
@@ -953,6 +1001,14 @@ Bunların devam ettiği numara: %3</translation>
         <source></source>
         <translation>Kanallar</translation>
     </message>
+    <message id="kTipColumnAlwaysShown">
+        <source></source>
+        <translation>Bu sütun her zaman gösterilir</translation>
+    </message>
+    <message id="kTipColumnNotTold">
+        <source></source>
+        <translation>Dosya bunu bu listedeki hiçbir kanal için belirtmiyor</translation>
+    </message>
     <message id="kTipFilterTVOnly">
         <source></source>
         <translation>Türler yalnızca TV kanalları için seçilebilir</translation>
@@ -1080,6 +1136,10 @@ Bunların devam ettiği numara: %3</translation>
     <message id="kUntouchedReason">
         <source></source>
         <translation>Bozuk dosya olduğu gibi bırakılır. Başka bir ad veya klasör seçin.</translation>
+    </message>
+    <message id="kUsualColumns">
+        <source></source>
+        <translation>Olağan Sütunlar</translation>
     </message>
     <message id="kWriteFailedReason">
         <source></source>

@@ -175,6 +175,8 @@ void MainMenu::makeViewMenu(QMenuBar &bar)
         m_filters.push_back(action);
         m_editorItems.push_back(action);
     }
+    menu.addSeparator();
+    menu.addMenu(&m_editor.columnsMenu());
 }
 
 void MainMenu::makeHelpMenu(QMenuBar &bar)

@@ -1,27 +1,24 @@
 #include "editor/CheckMarkDelegate.h"
 
-#include <QApplication>
+#include "editor/Glyphs.h"
+#include "editor/StationHeader.h"
+#include "editor/StationTableModel.h"
+
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QTableView>
 
 namespace quillet {
 
 namespace {
 
-const QStyle &styleOf(const QWidget *widget)
+Glyph glyphInPlaceOfTitle(const QWidget *widget, int column)
 {
-    return widget ? *widget->style() : *QApplication::style();
-}
-
-/// The colour of a mark; that of an empty one's frame is a part of it.
-QColor inkOf(const QStyleOptionViewItem &cell)
-{
-    QPalette::ColorGroup group = QPalette::Disabled;
-    if (cell.state.testFlag(QStyle::State_Enabled))
-        group = cell.state.testFlag(QStyle::State_Active) ? QPalette::Active : QPalette::Inactive;
-    const bool isSelected = cell.state.testFlag(QStyle::State_Selected);
-    return cell.palette.color(group, isSelected ? QPalette::HighlightedText : QPalette::Text);
+    const auto *table = qobject_cast<const QTableView *>(widget);
+    const auto *header =
+        table ? qobject_cast<const StationHeader *>(table->horizontalHeader()) : nullptr;
+    return header ? header->glyphInPlaceOfTitle(column) : Glyph::None;
 }
 
 } // namespace
@@ -63,29 +60,26 @@ void CheckMarkDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opt
 {
     QStyleOptionViewItem cell = option;
     initStyleOption(&cell, index);
-    const Qt::CheckState state = cell.checkState;
-    cell.features &= ~QStyleOptionViewItem::HasCheckIndicator;
-    const QStyle &style = styleOf(option.widget);
-    style.drawControl(QStyle::CE_ItemViewItem, &cell, painter, option.widget);
+    const bool isSet = cell.checkState == Qt::Checked;
+    paintGround(*painter, cell);
 
-    // Styles draw an empty box all but invisible on a dark ground, so this draws its own.
-    const bool isSelected = option.state.testFlag(QStyle::State_Selected);
     const QColor ink = inkOf(cell);
+    const Glyph glyph = isSet ? glyphInPlaceOfTitle(cell.widget, index.column()) : Glyph::None;
+    if (glyph != Glyph::None)
+        return drawGlyph(*painter, glyph, glyphPlace(cell.rect, cell.fontMetrics), ink);
+    // Styles draw an empty box all but invisible on a dark ground, so this draws its own.
     const QRectF box = QRectF(markRect(option.widget, option.rect)).adjusted(0.5, 0.5, -0.5, -0.5);
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     QColor frame = ink;
-    frame.setAlphaF(state == Qt::Checked || isSelected ? 0.9F : 0.6F);
+    const bool isStrong = isSet || option.state.testFlag(QStyle::State_Selected) ||
+                          index.data(StationTableModel::SkippedRole).toBool(); // pale already
+    frame.setAlphaF(isStrong ? 0.9F : 0.6F);
     painter->setPen(QPen(frame, 1));
     painter->drawRoundedRect(box, 3, 3);
-    if (state == Qt::Checked) {
-        const qreal side = box.width();
-        painter->setPen(QPen(ink, side / 7, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        painter->drawPolyline(QPolygonF{box.topLeft() + QPointF(side * 0.25, side * 0.55),
-                                        box.topLeft() + QPointF(side * 0.43, side * 0.73),
-                                        box.topLeft() + QPointF(side * 0.77, side * 0.29)});
-    }
     painter->restore();
+    if (isSet)
+        drawGlyph(*painter, Glyph::Tick, box, ink);
 }
 
 } // namespace quillet

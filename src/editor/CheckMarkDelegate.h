@@ -1,16 +1,17 @@
 #pragma once
 
-#include <QStyledItemDelegate>
+#include "editor/FadingDelegate.h"
 
 namespace quillet {
 
-/// A check mark in the middle of its cell, toggled by the space bar; MarkPress does it by mouse.
-class CheckMarkDelegate : public QStyledItemDelegate
+/// A check mark in the middle of its cell, toggled by the space bar; MarkPress does it by mouse. A
+/// mark that is set in a column without room for its title is drawn as the title's glyph.
+class CheckMarkDelegate : public FadingDelegate
 {
     Q_OBJECT
 
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    using FadingDelegate::FadingDelegate;
 
     /// Where in a cell of that rectangle the mark is.
     [[nodiscard]] static QRect markRect(const QWidget *table, const QRect &cell);

@@ -28,4 +28,19 @@ double contrast(const QColor &a, const QColor &b)
     return (lighter + 0.05) / (darker + 0.05);
 }
 
+QColor faded(const QColor &ink, const QColor &ground, const QColor &otherGround)
+{
+    constexpr double wanted = 4.7; // with something to spare for rounding
+    constexpr int steps = 50;
+    const auto mixed = [](int a, int b, int step) { return b + (a - b) * step / steps; };
+    for (int step = steps * 2 / 5; step < steps; ++step) {
+        const QColor color(mixed(ink.red(), ground.red(), step),
+                           mixed(ink.green(), ground.green(), step),
+                           mixed(ink.blue(), ground.blue(), step));
+        if (qMin(contrast(color, ground), contrast(color, otherGround)) >= wanted)
+            return color;
+    }
+    return ink;
+}
+
 } // namespace quillet

@@ -2,6 +2,7 @@
 
 #include "editor/DropPlace.h"
 #include "editor/RoomyCells.h"
+#include "editor/StationHeader.h"
 #include "editor/StationTableModel.h"
 #include "files/FileNames.h"
 
@@ -24,6 +25,7 @@ constexpr int dropLineWidth = 2;
 
 DarkModeTableView::DarkModeTableView(QWidget *parent) : QTableView(parent)
 {
+    setHorizontalHeader(new StationHeader(this));
     RoomyCells::applyTo(*this);
     setSelectionBehavior(SelectRows);
     setSelectionMode(ExtendedSelection);
@@ -37,10 +39,9 @@ DarkModeTableView::DarkModeTableView(QWidget *parent) : QTableView(parent)
     setWordWrap(false);
     setTabKeyNavigation(false); // Tab leads out of the table
     setVerticalScrollMode(ScrollPerPixel);
+    setHorizontalScrollMode(ScrollPerPixel);
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    horizontalHeader()->setHighlightSections(false);
-    horizontalHeader()->setSectionsMovable(false);
 }
 
 void DarkModeTableView::setModel(QAbstractItemModel *model)
@@ -100,6 +101,12 @@ void DarkModeTableView::goToRow(int row)
                                       QItemSelectionModel::NoUpdate);
     QKeyEvent step(QEvent::KeyPress, beside < row ? Qt::Key_Down : Qt::Key_Up, Qt::NoModifier);
     QTableView::keyPressEvent(&step);
+}
+
+/// To a cell that is in sight sideways, so that the table stays where it is in that direction.
+void DarkModeTableView::scrollToRow(int row, ScrollHint hint)
+{
+    scrollTo(model()->index(row, qMax(0, columnAt(viewport()->width() / 2))), hint);
 }
 
 void DarkModeTableView::keyboardSearch(const QString &search)

@@ -38,6 +38,8 @@ public:
     [[nodiscard]] bool isEditing() const { return state() == EditingState; }
     /// Makes a row that there is the current and only selected one, as the arrow keys do.
     void goToRow(int row);
+    /// Scrolls up or down alone.
+    void scrollToRow(int row, ScrollHint hint = EnsureVisible);
     void keyboardSearch(const QString &search) override;
 
 signals:

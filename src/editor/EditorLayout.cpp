@@ -20,7 +20,7 @@ void sizeControls(Ui::EditorView &ui, const QFont &font)
     ui.deviceName->setFont(device);
 
     const QFontMetrics metrics(font);
-    sizeColumns(*ui.list, metrics);
+    sizeRows(*ui.list, metrics);
     ui.list->setMinimumHeight(metrics.height() * 10); // with room for the hints in an empty list
     ui.searchText->setMinimumWidth(metrics.averageCharWidth() * 22);
     // Styles leave short texts much room, and long ones none.

@@ -1,5 +1,6 @@
 #include "editor/EditorView.h"
 
+#include "editor/ColumnsMenu.h"
 #include "editor/EditorKeys.h"
 #include "editor/EditorLayout.h"
 #include "editor/EmptyDocText.h"
@@ -73,6 +74,7 @@ void EditorView::setUpTable()
     list.setModel(&m_model);
     list.setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed);
     setUpColumns(list);
+    m_columnsMenu = new ColumnsMenu(list, m_controller, this);
     list.setDropHandler([this](const TableDrag &drag) { return m_controller.validateDrop(drag); },
                         [this](const TableDrag &drag) { return m_controller.acceptDrop(drag); });
 
@@ -174,6 +176,11 @@ void EditorView::setContextActions(const QList<QAction *> &actions)
 {
     m_ui->list->addActions(actions);
     m_ui->list->setContextMenuPolicy(Qt::ActionsContextMenu);
+}
+
+QMenu &EditorView::columnsMenu() const
+{
+    return *m_columnsMenu;
 }
 
 void EditorView::printList()
@@ -300,7 +307,7 @@ void EditorView::selectRows(const QList<qsizetype> &rows)
 
 void EditorView::scrollRowToVisible(qsizetype row)
 {
-    m_ui->list->scrollTo(m_model.index(static_cast<int>(row), 0));
+    m_ui->list->scrollToRow(static_cast<int>(row));
 }
 
 qsizetype EditorView::topRow() const
@@ -310,7 +317,7 @@ qsizetype EditorView::topRow() const
 
 void EditorView::scrollRowToTop(qsizetype row)
 {
-    m_ui->list->scrollTo(m_model.index(static_cast<int>(row), 0), QAbstractItemView::PositionAtTop);
+    m_ui->list->scrollToRow(static_cast<int>(row), QAbstractItemView::PositionAtTop);
 }
 
 void EditorView::setNameColumnEditable(bool editable)

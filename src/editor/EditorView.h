@@ -9,6 +9,7 @@
 #include <memory>
 
 class QAction;
+class QMenu;
 
 namespace Ui {
 class EditorView;
@@ -16,6 +17,7 @@ class EditorView;
 
 namespace quillet {
 
+class ColumnsMenu;
 class EditorKeys;
 class EmptyDocText;
 class InfoViewController;
@@ -43,6 +45,8 @@ public:
     void showInfo();
     /// The commands of the table's context menu.
     void setContextActions(const QList<QAction *> &actions);
+    /// By which the person chooses the columns of the table.
+    [[nodiscard]] QMenu &columnsMenu() const;
 
     void setText(Field field, const QString &text) override;
     void setEnabled(Control control, bool enabled) override;
@@ -92,6 +96,7 @@ private:
     ViewController m_controller;
     StationTableModel m_model;
     EmptyDocText *m_emptyDocText;
+    ColumnsMenu *m_columnsMenu;
     std::unique_ptr<EditorKeys> m_keys;
     QPointer<InfoViewController> m_infoPanel;
 };

@@ -25,8 +25,20 @@ QVariant markData(bool set, const StationColumn &column, int role)
     if (role == Qt::CheckStateRole)
         return QVariant::fromValue(set ? Qt::Checked : Qt::Unchecked);
     if (role == Qt::AccessibleTextRole)
-        return qtTrId(set ? "kMarkSet" : "kMarkNotSet").arg(qtTrId(column.title));
+        return qtTrId(set ? "kMarkSet" : "kMarkNotSet").arg(qtTrId(column.fullName));
     return {};
+}
+
+/// A mark that nobody can set; none where the file does not tell.
+QVariant signData(std::optional<bool> set, const StationColumn &column, int role)
+{
+    if (!set)
+        return {};
+    if (role == StationTableModel::GlyphRole && *set)
+        return QVariant::fromValue(column.glyph);
+    if (role == Qt::ToolTipRole && *set)
+        return qtTrId(column.fullName);
+    return role == Qt::AccessibleTextRole ? markData(*set, column, role) : QVariant();
 }
 
 constexpr std::array fieldColumns{
@@ -35,14 +47,6 @@ constexpr std::array fieldColumns{
     std::pair{StationField::Skipped, ColumnContent::Skipped},
     std::pair{StationField::Blocked, ColumnContent::Blocked},
 };
-
-int columnOf(ColumnContent content)
-{
-    const auto *const found =
-        std::find_if(stationColumns.begin(), stationColumns.end(),
-                     [content](const StationColumn &column) { return column.content == content; });
-    return static_cast<int>(found - stationColumns.begin());
-}
 
 /// The places at which two lists of one size differ, and all between them.
 ListStretch difference(const StationList &a, const StationList &b)
@@ -74,6 +78,7 @@ std::vector<ListStretch> rowsOf(const std::vector<ListStretch> &places, const St
 StationTableModel::StationTableModel(ViewController &controller, QObject *parent)
     : QAbstractTableModel(parent), m_controller(controller), m_font(cellFont())
 {
+    connect(&controller, &ViewController::documentChanged, this, [this] { m_satellites.reset(); });
 }
 
 void StationTableModel::reload()
@@ -159,16 +164,21 @@ void StationTableModel::tellFields(const ListChange &change)
     for (const auto &[field, content] : fieldColumns) {
         if (!change.fields.testFlag(field))
             continue;
-        for (const ListStretch &stretch : rows)
-            tellCells(stretch, columnOf(content));
+        const int column = columnOf(content);
+        for (const ListStretch &stretch : rows) {
+            if (field == StationField::Skipped) // which every cell of the row tells
+                tellCells(stretch, 0, columnCount() - 1);
+            else
+                tellCells(stretch, column, column);
+        }
     }
 }
 
-void StationTableModel::tellCells(const ListStretch &rows, int column)
+void StationTableModel::tellCells(const ListStretch &rows, int firstColumn, int lastColumn)
 {
     if (!rows.isEmpty()) {
-        emit dataChanged(index(static_cast<int>(rows.first), column),
-                         index(static_cast<int>(rows.end) - 1, column));
+        emit dataChanged(index(static_cast<int>(rows.first), firstColumn),
+                         index(static_cast<int>(rows.end) - 1, lastColumn));
     }
 }
 
@@ -191,28 +201,55 @@ QVariant StationTableModel::data(const QModelIndex &index, int role) const
     const StationColumn &column = stationColumns.at(static_cast<std::size_t>(index.column()));
     if (role == Qt::FontRole)
         return m_font;
-    const bool isText = role == Qt::DisplayRole;
+    if (role == SkippedRole)
+        return station.isSkipped();
     switch (column.content) {
-    case ColumnContent::Number:
-        if (role == Qt::TextAlignmentRole)
-            return QVariant::fromValue(Qt::AlignRight | Qt::AlignVCenter);
-        return isText || role == Qt::EditRole ? station.progNumString() : QVariant();
+    case ColumnContent::Skipped:
+        return markData(station.isSkipped(), column, role);
+    case ColumnContent::Blocked:
+        return markData(station.isBlocked(), column, role);
+    case ColumnContent::Encrypted:
+        return signData(station.isEncrypted(), column, role);
+    case ColumnContent::Hidden:
+        return signData(station.isInvisible(), column, role);
     case ColumnContent::Name:
         if (role == Qt::EditRole)
             return station.shownName();
         if (role == Qt::ToolTipRole)
             return plainToolTip(drawnName(station));
-        return isText ? drawnName(station) : QVariant();
-    case ColumnContent::Type:
-        if (role == Qt::TextAlignmentRole)
-            return QVariant::fromValue(Qt::AlignCenter);
-        return isText ? station.channelTypeForDisplay(m_controller.source()) : QVariant();
-    case ColumnContent::Skipped:
-        return markData(station.isSkipped(), column, role);
-    case ColumnContent::Blocked:
-        return markData(station.isBlocked(), column, role);
+        [[fallthrough]];
+    default:
+        return textData(station, column, role);
     }
-    return {};
+}
+
+QVariant StationTableModel::textData(const LGStation &station, const StationColumn &column,
+                                     int role) const
+{
+    if (role == Qt::TextAlignmentRole)
+        return QVariant::fromValue(column.alignment | Qt::AlignVCenter);
+    switch (column.content) {
+    case ColumnContent::Number:
+        return role == Qt::DisplayRole || role == Qt::EditRole ? station.progNumString()
+                                                               : QVariant();
+    case ColumnContent::Name:
+        return role == Qt::DisplayRole ? drawnName(station) : QVariant();
+    case ColumnContent::Type:
+        return role == Qt::DisplayRole ? station.channelTypeForDisplay(m_controller.source())
+                                       : QVariant();
+    default:
+        return role == Qt::DisplayRole ? detailText(station, column.content, satellites())
+                                       : QVariant();
+    }
+}
+
+const SatelliteNames &StationTableModel::satellites() const
+{
+    if (!m_satellites) {
+        const TLLDocument *document = m_controller.stationDoc();
+        m_satellites = document ? document->list().broadcast.satelliteNames() : SatelliteNames();
+    }
+    return *m_satellites;
 }
 
 bool StationTableModel::setData(const QModelIndex &index, const QVariant &value, int role)
@@ -232,16 +269,19 @@ QVariant StationTableModel::headerData(int section, Qt::Orientation orientation,
     if (orientation != Qt::Horizontal || section < 0 || section >= columnCount())
         return {};
     const StationColumn &column = stationColumns.at(static_cast<std::size_t>(section));
-    if (role == Qt::DisplayRole)
+    switch (role) {
+    case Qt::DisplayRole:
         return qtTrId(column.title);
-    if (role == Qt::TextAlignmentRole) {
-        const bool isNumber = column.content == ColumnContent::Number;
-        const bool isName = column.content == ColumnContent::Name;
-        return QVariant::fromValue(Qt::AlignVCenter | (isNumber ? Qt::AlignRight
-                                                       : isName ? Qt::AlignLeft
-                                                                : Qt::AlignHCenter));
+    case Qt::ToolTipRole:
+    case Qt::AccessibleTextRole:
+        return qtTrId(column.fullName);
+    case Qt::TextAlignmentRole:
+        return QVariant::fromValue(column.alignment | Qt::AlignVCenter);
+    case GlyphRole:
+        return QVariant::fromValue(column.glyph);
+    default:
+        return {};
     }
-    return {};
 }
 
 Qt::ItemFlags StationTableModel::flags(const QModelIndex &index) const
@@ -260,11 +300,11 @@ Qt::ItemFlags StationTableModel::flags(const QModelIndex &index) const
     case ColumnContent::Name:
         flags.setFlag(Qt::ItemIsEditable, m_nameIsEditable);
         break;
-    case ColumnContent::Type:
-        break;
     case ColumnContent::Skipped:
     case ColumnContent::Blocked:
         flags |= Qt::ItemIsUserCheckable;
+        break;
+    default:
         break;
     }
     return flags;

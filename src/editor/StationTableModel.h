@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/edit/ListStretch.h"
+#include "editor/StationDetails.h"
 #include "model/LGStation.h"
 
 #include <QAbstractTableModel>
@@ -18,6 +19,12 @@ class StationTableModel : public QAbstractTableModel
     Q_OBJECT
 
 public:
+    /// What views ask for beside the usual.
+    enum Role {
+        SkippedRole = Qt::UserRole, ///< of any cell: whether its station is skipped
+        GlyphRole,                  ///< the Glyph that a cell shows, or that stands for a title
+    };
+
     explicit StationTableModel(ViewController &controller, QObject *parent = nullptr);
 
     /// Other stations may be on show, and anything of them may have changed.
@@ -45,11 +52,15 @@ private:
     [[nodiscard]] bool moveBlock(const StationList &list, const ListStretch &changed);
     [[nodiscard]] bool rearrange(const StationList &list);
     void tellFields(const ListChange &change);
-    void tellCells(const ListStretch &rows, int column);
+    void tellCells(const ListStretch &rows, int firstColumn, int lastColumn);
+    [[nodiscard]] QVariant textData(const LGStation &station, const StationColumn &column,
+                                    int role) const;
+    [[nodiscard]] const SatelliteNames &satellites() const;
 
     ViewController &m_controller;
     QFont m_font;
-    StationList m_rows; ///< as last told to the views
+    StationList m_rows;                                 ///< as last told to the views
+    mutable std::optional<SatelliteNames> m_satellites; ///< once a column asked for them
     bool m_nameIsEditable = false;
 };
 

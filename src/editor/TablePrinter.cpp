@@ -1,9 +1,13 @@
 #include "editor/TablePrinter.h"
 
+#include "editor/BadgeDelegate.h"
 #include "editor/CellText.h"
+#include "editor/Contrast.h"
+#include "editor/Glyphs.h"
+#include "editor/StationHeader.h"
+#include "editor/StationTableModel.h"
 #include "editor/TableSelection.h"
 
-#include <QHeaderView>
 #include <QPageRanges>
 #include <QPainter>
 #include <QPrinter>
@@ -24,11 +28,25 @@ const QColor ink = Qt::black;
 const QColor rule(0xB0, 0xB0, 0xB0);
 const QColor secondRow(0xF3, 0xF3, 0xF3);
 
+QRectF glyphPlace(const QPainter &painter, const QRectF &cell)
+{
+    const qreal side = painter.fontMetrics().height();
+    return {cell.center() - QPointF(side, side) / 2, QSizeF(side, side)};
+}
+
+/// What has no room is cut.
+void drawText(QPainter &painter, const QRectF &cell, const QVariant &alignment, const QString &text)
+{
+    const QString fitting =
+        painter.fontMetrics().elidedText(text, Qt::ElideRight, static_cast<int>(cell.width()));
+    painter.drawText(cell, alignment.toInt(), inItsDirection(fitting, painter.layoutDirection()));
+}
+
 } // namespace
 
 TablePrinter::TablePrinter(const QTableView &table, QString heading, QString title)
-    : m_table(table), m_model(*table.model()), m_heading(std::move(heading)),
-      m_title(std::move(title))
+    : m_table(table), m_header(static_cast<const StationHeader &>(*table.horizontalHeader())),
+      m_model(*table.model()), m_heading(std::move(heading)), m_title(std::move(title))
 {
 }
 
@@ -109,15 +127,21 @@ TablePrinter::Page TablePrinter::layOut(QSizeF size, const QFontMetrics &metrics
     const int rows = static_cast<int>(m_rows.size());
     page.count = qMax(1, (rows + page.rowsPerPage - 1) / page.rowsPerPage);
 
-    const QHeaderView &header = *m_table.horizontalHeader();
-    const qreal factor = size.width() / qMax(1, header.length());
+    const qreal factor = size.width() / qMax(1, m_header.length());
+    const bool fromRight = m_table.layoutDirection() == Qt::RightToLeft;
     qreal edge = 0;
-    page.columnEdges.push_back(edge);
-    for (int column = 0; column < m_model.columnCount(); ++column) {
-        edge += header.sectionSize(column) * factor;
-        page.columnEdges.push_back(edge);
+    for (const int column : m_header.shownColumns()) {
+        const qreal width = m_header.sectionSize(column) * factor;
+        page.columns.push_back({column, fromRight ? size.width() - edge - width : edge, width,
+                                m_header.glyphInPlaceOfTitle(column)});
+        edge += width;
     }
     return page;
+}
+
+QRectF TablePrinter::cellOf(const Column &column, const Page &page, qreal top)
+{
+    return {column.left + cellPadding, top, column.width - 2 * cellPadding, page.rowHeight};
 }
 
 void TablePrinter::drawHeading(QPainter &painter, const Page &page) const
@@ -136,15 +160,15 @@ void TablePrinter::drawTitles(QPainter &painter, const Page &page, qreal top) co
     font.setBold(true);
     painter.setFont(font);
     painter.setPen(ink);
-    for (int column = 0; column < m_model.columnCount(); ++column) {
-        const auto i = static_cast<std::size_t>(column);
-        const QRectF cell(page.columnEdges[i] + cellPadding, top,
-                          page.columnEdges[i + 1] - page.columnEdges[i] - 2 * cellPadding,
-                          page.rowHeight);
-        const QVariant alignment =
-            m_model.headerData(column, Qt::Horizontal, Qt::TextAlignmentRole);
-        painter.drawText(cell, alignment.toInt(),
-                         m_model.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString());
+    for (const Column &column : page.columns) {
+        const QRectF cell = cellOf(column, page, top);
+        const auto of = [this, &column](int role) {
+            return m_model.headerData(column.number, Qt::Horizontal, role);
+        };
+        if (column.inPlaceOfTitle != Glyph::None)
+            drawGlyph(painter, column.inPlaceOfTitle, glyphPlace(painter, cell), ink);
+        else
+            drawText(painter, cell, of(Qt::TextAlignmentRole), of(Qt::DisplayRole).toString());
     }
     painter.setFont(plain);
     painter.setPen(QPen(rule, 1));
@@ -156,38 +180,32 @@ void TablePrinter::drawRow(QPainter &painter, const Page &page, int row, int pla
 {
     if (place % 2 == 1)
         painter.fillRect(QRectF(0, top, page.size.width(), page.rowHeight), secondRow);
-    painter.setPen(ink);
-    for (int column = 0; column < m_model.columnCount(); ++column) {
-        const auto i = static_cast<std::size_t>(column);
-        const QModelIndex index = m_model.index(row, column);
-        const QRectF cell(page.columnEdges[i] + cellPadding, top,
-                          page.columnEdges[i + 1] - page.columnEdges[i] - 2 * cellPadding,
-                          page.rowHeight);
-        const QVariant mark = index.data(Qt::CheckStateRole);
-        if (mark.isValid()) {
-            drawCheckMark(painter, cell, mark.value<Qt::CheckState>() == Qt::Checked);
-            continue;
-        }
-        const QVariant given = index.data(Qt::TextAlignmentRole);
-        const int alignment =
-            given.isValid() ? given.toInt() : static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter);
-        const QString text = painter.fontMetrics().elidedText(
-            index.data(Qt::DisplayRole).toString(), Qt::ElideRight, static_cast<int>(cell.width()));
-        painter.drawText(cell, alignment, inItsDirection(text, painter.layoutDirection()));
-    }
+    for (const Column &column : page.columns)
+        drawCell(painter, column, m_model.index(row, column.number), cellOf(column, page, top));
 }
 
-void TablePrinter::drawCheckMark(QPainter &painter, const QRectF &cell, bool set) const
+void TablePrinter::drawCell(QPainter &painter, const Column &column, const QModelIndex &index,
+                            const QRectF &cell) const
 {
-    if (!set)
+    const bool isSkipped = index.data(StationTableModel::SkippedRole).toBool();
+    const QColor color = isSkipped ? faded(ink, Qt::white, secondRow) : ink;
+    Glyph glyph = index.data(StationTableModel::GlyphRole).value<Glyph>();
+    if (index.data(Qt::CheckStateRole).value<Qt::CheckState>() == Qt::Checked)
+        glyph = column.inPlaceOfTitle != Glyph::None ? column.inPlaceOfTitle : Glyph::Tick;
+    if (glyph != Glyph::None)
+        return drawGlyph(painter, glyph, glyphPlace(painter, cell), color);
+    const QString text = index.data(Qt::DisplayRole).toString();
+    const bool isType = column.number == columnOf(ColumnContent::Type);
+    if (isType && BadgeDelegate::drawBadge(painter, text, cell, color))
         return;
-    const qreal side = painter.fontMetrics().ascent();
-    const QRectF box(cell.center().x() - side / 2, cell.center().y() - side / 2, side, side);
     painter.save();
-    painter.setPen(QPen(ink, side / 7, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.drawPolyline(QPolygonF{box.topLeft() + QPointF(side * 0.15, side * 0.55),
-                                   box.topLeft() + QPointF(side * 0.4, side * 0.8),
-                                   box.topLeft() + QPointF(side * 0.85, side * 0.2)});
+    painter.setPen(color);
+    if (isSkipped && m_header.isSectionHidden(columnOf(ColumnContent::Skipped))) {
+        QFont slanted = painter.font();
+        slanted.setItalic(true);
+        painter.setFont(slanted);
+    }
+    drawText(painter, cell, index.data(Qt::TextAlignmentRole), text);
     painter.restore();
 }
 

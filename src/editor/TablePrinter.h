@@ -1,5 +1,7 @@
 #pragma once
 
+#include "editor/StationColumns.h"
+
 #include <QString>
 #include <QStyleOptionViewItem>
 
@@ -12,9 +14,11 @@ class QTableView;
 
 namespace quillet {
 
+class StationHeader;
+
 /// Prints the rows of a table: always dark on light, whatever the table looks like on screen; a
-/// heading and the column titles on each page; the columns in the table's proportions over the
-/// width of the page.
+/// heading and the column titles on each page; the shown columns in their order and proportions
+/// over the width of the page, with the badges and glyphs that the screen has.
 class TablePrinter
 {
 public:
@@ -32,13 +36,20 @@ public:
 
 private:
     /// In units of a screen pixel, to which the painter is scaled.
+    struct Column
+    {
+        int number = 0; ///< in the model
+        qreal left = 0;
+        qreal width = 0;
+        Glyph inPlaceOfTitle = Glyph::None;
+    };
     struct Page
     {
         QSizeF size;
         qreal rowHeight = 0;
         int rowsPerPage = 1;
         int count = 1;
-        std::vector<qreal> columnEdges; ///< one more than there are columns
+        std::vector<Column> columns;
     };
 
     void chooseRows(bool selectedOnly);
@@ -50,10 +61,13 @@ private:
     void drawTitles(QPainter &painter, const Page &page, qreal top) const;
     /// A row of the table, at a place among those printed.
     void drawRow(QPainter &painter, const Page &page, int row, int place, qreal top) const;
-    void drawCheckMark(QPainter &painter, const QRectF &cell, bool set) const;
+    void drawCell(QPainter &painter, const Column &column, const QModelIndex &index,
+                  const QRectF &cell) const;
+    [[nodiscard]] static QRectF cellOf(const Column &column, const Page &page, qreal top);
     void drawFooter(QPainter &painter, const Page &page, int number) const;
 
     const QTableView &m_table;
+    const StationHeader &m_header;
     const QAbstractItemModel &m_model;
     QString m_heading;
     QString m_title;

@@ -13,7 +13,7 @@ void TypedTextDelegate::setEditorData(QWidget *editor, const QModelIndex &index)
     if (field && index.data(Qt::EditRole).toString().size() > longestContentShown)
         field->setPlaceholderText(index.data().toString());
     else
-        QStyledItemDelegate::setEditorData(editor, index);
+        FadingDelegate::setEditorData(editor, index);
 }
 
 void TypedTextDelegate::setModelData(QWidget *editor, QAbstractItemModel *model,
@@ -30,7 +30,7 @@ void TypedTextDelegate::setModelData(QWidget *editor, QAbstractItemModel *model,
 void TypedTextDelegate::initStyleOption(QStyleOptionViewItem *option,
                                         const QModelIndex &index) const
 {
-    QStyledItemDelegate::initStyleOption(option, index);
+    FadingDelegate::initStyleOption(option, index);
     option->text = inItsDirection(option->text, option->direction);
 }
 

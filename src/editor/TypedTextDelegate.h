@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QStyledItemDelegate>
+#include "editor/FadingDelegate.h"
 
 namespace quillet {
 
@@ -8,12 +8,12 @@ namespace quillet {
 /// typed; a field that was left as it was, or empty, changes nothing. Editing starts with the text
 /// as it is stored, codes that are not drawn included; with none when it is so long that a field
 /// would cut it.
-class TypedTextDelegate : public QStyledItemDelegate
+class TypedTextDelegate : public FadingDelegate
 {
     Q_OBJECT
 
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    using FadingDelegate::FadingDelegate;
 
     void setEditorData(QWidget *editor, const QModelIndex &index) const override;
     void setModelData(QWidget *editor, QAbstractItemModel *model,

@@ -164,7 +164,7 @@ void ViewController::setObjectValue(const QVariant &value, const QString &column
     case ColumnContent::Blocked:
         m_editor.setFlag(edited, StationFlag::Blocked, value.toBool());
         break;
-    case ColumnContent::Type:
+    default:
         return;
     }
     updateButtons();

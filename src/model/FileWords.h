@@ -78,6 +78,9 @@ inline constexpr FileWord item("ITEM");
 inline constexpr FileWord legacyBroadcast("legacybroadcast");
 inline constexpr FileWord channelList("channelList"); ///< a member of the JSON text
 inline constexpr FileWord majorNumber("majorNumber");
+inline constexpr FileWord satelliteList("satelliteList"); ///< another
+inline constexpr FileWord satelliteId("satelliteId");
+inline constexpr FileWord satelliteName("satelliteName");
 
 /// In the order in which they are read and written.
 inline constexpr std::array<FileWord<3>, 2> sections{atv, dtv};

@@ -27,7 +27,7 @@ const StationKeys &legacyKeys()
         .keyOriginalNetwork_id = QStringLiteral("ONID"),
         .keyNetwork_id = QStringLiteral("networkId"),
         .keyFrequency = QStringLiteral("frequency"),
-        .keySatellite = QStringLiteral("satelliteId"),
+        .keySatellite = fileword::satelliteId.toString(),
         .keyScrambled = QStringLiteral("scrambled"),
     };
     return keys;

@@ -95,7 +95,7 @@ public:
     /// The set's own word for the satellite; none for stations of other sources. It may be but a
     /// number in the set's table, which still tells stations of one satellite from those of others.
     [[nodiscard]] std::optional<QString> satellite() const;
-    /// As the file gives it, above 0: of satellites in MHz, of others in kHz.
+    /// As the file gives it, above 0: mostly in MHz for satellites, and in kHz for the others.
     [[nodiscard]] std::optional<qint64> frequency() const;
     [[nodiscard]] std::optional<bool> isEncrypted() const;
 

@@ -132,14 +132,14 @@ private slots:
                 e.outlets.selectRows({0, 1, 3});
                 e.controller.skipSelectedItems();
             },
-            u"0:3-1:3 3:3-3:3"_s);
+            u"0:0-1:11 3:0-3:11"_s);
         row(
             "toggled, filtered", u"b"_s,
             [](Editor &e) {
                 e.outlets.selectRows({1, 2});
                 e.controller.skipSelectedItems();
             },
-            u"1:3-2:3"_s);
+            u"1:0-2:11"_s);
         row(
             "one up", {}, [](Editor &e) { e.controller.moveElements(3, 1, 2); },
             u"3-3>1 1:0-3:0"_s);

@@ -11,11 +11,12 @@
 
 namespace quillet::testing {
 
-App::App(Prompts *prompts) : delegate(prompts ? *prompts : preset)
+App::App(Prompts *prompts, Settings settings) : delegate(prompts ? *prompts : preset)
 {
     static const bool hasTexts = (installTranslations(), true);
     Q_UNUSED(hasTexts)
-    QSettings().clear();
+    if (settings == Settings::Cleared)
+        QSettings().clear();
 }
 
 QString App::write(const char *name, const QByteArray &bytes) const

@@ -17,7 +17,8 @@ namespace quillet::testing {
 /// are given. Every file lies in a folder of its own.
 struct App
 {
-    explicit App(Prompts *prompts = nullptr);
+    enum class Settings { Cleared, Kept };
+    explicit App(Prompts *prompts = nullptr, Settings settings = Settings::Cleared);
 
     PresetPrompts preset;
     AppDelegate delegate;

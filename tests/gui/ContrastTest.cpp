@@ -3,6 +3,7 @@
 #include "app/Palettes.h"
 #include "editor/CheckMarkDelegate.h"
 #include "editor/Contrast.h"
+#include "editor/StationTableModel.h"
 #include "testing/TestMain.h"
 
 #include <QAbstractButton>
@@ -34,20 +35,43 @@ private slots:
         QVERIFY(grey > 4.47 && grey < 4.49);
     }
 
+    void skippedStationsCanBeRead_data()
+    {
+        QTest::addColumn<bool>("isDark");
+        QTest::newRow("light") << false;
+        QTest::newRow("dark") << true;
+    }
+    void skippedStationsCanBeRead()
+    {
+        QFETCH(bool, isDark);
+        isDark ? useDarkPalette() : useLightPalette();
+        const QPalette palette = QApplication::palette();
+        const QColor base = palette.color(QPalette::Base), text = palette.color(QPalette::Text);
+        const QColor other = palette.color(QPalette::AlternateBase);
+        const QColor pale = faded(text, base, other);
+        QVERIFY(qMin(contrast(pale, base), contrast(pale, other)) >= 4.5);
+        QVERIFY(contrast(pale, base) < 6); // seen to be pale
+        QCOMPARE(faded(QColor(0x80, 0x80, 0x80), base, other), QColor(0x80, 0x80, 0x80));
+    }
+
     void emptyMarks_data()
     {
         QTest::addColumn<bool>("isDark");
         QTest::addColumn<QStyle::State>("state");
+        QTest::addColumn<bool>("isSkipped");
         for (const bool isDark : {false, true}) {
             for (const bool isSelected : {false, true}) {
                 for (const bool isActive : {false, true}) {
                     QStyle::State state = QStyle::State_Enabled;
                     state.setFlag(QStyle::State_Selected, isSelected);
                     state.setFlag(QStyle::State_Active, isActive);
-                    QTest::addRow("%s, %s, %s", isDark ? "dark" : "light",
-                                  isSelected ? "selected" : "plain",
-                                  isActive ? "active" : "inactive")
-                        << isDark << state;
+                    for (const bool isSkipped : {false, true}) {
+                        QTest::addRow("%s, %s, %s%s", isDark ? "dark" : "light",
+                                      isSelected ? "selected" : "plain",
+                                      isActive ? "active" : "inactive",
+                                      isSkipped ? ", skipped" : "")
+                            << isDark << state << isSkipped;
+                    }
                 }
             }
         }
@@ -56,10 +80,12 @@ private slots:
     {
         QFETCH(bool, isDark);
         QFETCH(QStyle::State, state);
+        QFETCH(bool, isSkipped);
         if (isDark)
             useDarkPalette();
         QStandardItemModel model(1, 1);
         model.setData(model.index(0, 0), Qt::Unchecked, Qt::CheckStateRole);
+        model.setData(model.index(0, 0), isSkipped, StationTableModel::SkippedRole);
         QImage image(60, 24, QImage::Format_RGB32);
         image.fill(QApplication::palette().color(QPalette::Base));
         QStyleOptionViewItem cell;

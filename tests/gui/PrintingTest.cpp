@@ -1,12 +1,14 @@
 #include "AppFixture.h"
 
 #include "app/Palettes.h"
+#include "testing/TLLText.h"
 #include "testing/TestMain.h"
 
 #include <QAction>
 #include <QPageRanges>
 #include <QPrinter>
 #include <QRegularExpression>
+#include <QSettings>
 #include <QTest>
 
 using namespace quillet;
@@ -44,6 +46,7 @@ class PrintingTest : public QObject
     Q_OBJECT
 
 private slots:
+    void init() { QSettings().clear(); }
     void cleanup() { QApplication::setPalette(m_light); }
 
     void darkScreenPrintsLight()
@@ -65,6 +68,25 @@ private slots:
         QVERIFY(greys.remove(0));
         for (const double ground : greys)
             QVERIFY(ground > 0.9);
+    }
+
+    /// Every letter of a cell and a title is drawn once.
+    void shownColumnsArePrintedInTheirOrder()
+    {
+        Item station = makeStation(1, QStringLiteral("A"));
+        station.push_back({QStringLiteral("network_id"), QStringLiteral("77")});
+        const QByteArray list = makeTLL({}, {station, station, station}).toUtf8();
+        QByteArrayList printed;
+        for (const char *columns :
+             {"progNum,progName", "progNum,progName,networkId", "progNum,networkId,progName"}) {
+            QString state = QLatin1String(columns) + QStringLiteral(",-visible,-skipped,-blocked");
+            QSettings().setValue(QStringLiteral("Columns XML"), state.split(u','));
+            printed.append(print(list).value(0));
+        }
+        QCOMPARE(printed[1].count("Tj") - printed[0].count("Tj"),
+                 label("kColumnNetworkId").size() + 3 * 2);
+        QCOMPARE(printed[2].count("Tj"), printed[1].count("Tj"));
+        QVERIFY(printed[2] != printed[1]);
     }
 
     void asManyPagesAsChosen_data()
@@ -126,9 +148,13 @@ private:
     /// What the list's window prints; the window must look as before afterwards.
     QByteArrayList print(int stations, const SetUp &setUp = {})
     {
-        App app;
+        return print(listOf(stations), setUp);
+    }
+    QByteArrayList print(const QByteArray &list, const SetUp &setUp = {})
+    {
+        App app(nullptr, App::Settings::Kept);
         app.preset.setUpPrinter = setUp;
-        QMainWindow *window = app.open("a.tll", listOf(stations));
+        QMainWindow *window = app.open("a.tll", list);
         if (!window)
             return {};
         const QColor base = tableOf(*window).palette().color(QPalette::Base);

@@ -10,4 +10,20 @@ Array LegacyBroadcast::channelList() const
     return list && list->array() ? *list->array() : Array();
 }
 
+QHash<QString, QString> LegacyBroadcast::satelliteNames() const
+{
+    QHash<QString, QString> names;
+    const Value *list = legacyDict ? legacyDict->find(fileword::satelliteList) : nullptr;
+    if (!list || !list->array())
+        return names;
+    for (const Value &each : *list->array()) {
+        const Dictionary *satellite = each.dictionary();
+        const QString *id = satellite ? satellite->string(fileword::satelliteId) : nullptr;
+        const QString *name = satellite ? satellite->string(fileword::satelliteName) : nullptr;
+        if (id && name && !name->isEmpty())
+            names.insert(*id, *name);
+    }
+    return names;
+}
+
 } // namespace quillet

@@ -3,6 +3,8 @@
 #include "xml/JSON.h"
 #include "xml/Value.h"
 
+#include <QHash>
+
 #include <optional>
 
 namespace quillet {
@@ -19,6 +21,8 @@ struct LegacyBroadcast
 
     /// The channels as they were read, in the file's order; empty when there are none.
     [[nodiscard]] Array channelList() const;
+    /// The names of the satellites that it lists, by the identifier that channels have of them.
+    [[nodiscard]] QHash<QString, QString> satelliteNames() const;
 };
 
 } // namespace quillet

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "editor/StationColumns.h"
+
+#include <QObject>
+#include <QStringList>
+#include <QTimer>
+
+class QTableView;
+
+namespace quillet {
+
+class StationHeader;
+
+/// Which columns of the station table are shown, in which order and how wide, remembered for each
+/// variant of the file. The name takes what is left; where that is too little, the table can be
+/// scrolled. What another window changes meanwhile shows in new windows only. A child of the table.
+///
+/// A hidden column costs nothing: its section is hidden, and a table asks its model for the cells
+/// of shown sections only.
+class ShownColumns : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The table has its model and a StationHeader.
+    explicit ShownColumns(QTableView &table);
+    ~ShownColumns() override;
+
+    /// Shows what is remembered for that variant of the file.
+    void useVariant(bool isJSON);
+
+    [[nodiscard]] bool isShown(int column) const;
+    /// Nothing is changed for a column that is always shown.
+    void setShown(int column, bool shown);
+    /// Whether everything is as it was before the person changed something.
+    [[nodiscard]] bool areUsual() const;
+    void useUsual();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    /// As it is remembered: the identifiers in the order of the columns, "-" before those that are
+    /// hidden, and behind those that the person resized "=" with their width in characters.
+    [[nodiscard]] QStringList state() const;
+    void setState(const QStringList &state);
+    void note();
+    void remember();
+    void noteWidth(int column, int before, int now);
+    void sizeSections();
+    void fitName();
+
+    QTableView &m_table;
+    StationHeader &m_header;
+    QString m_settingsKey;
+    QStringList m_lastState;                              ///< to remember
+    std::array<double, stationColumns.size()> m_widths{}; ///< in average characters; 0: usual
+    QTimer m_remembering;                                 ///< for a resizing by mouse is many steps
+    bool m_isSettingUp = false;
+};
+
+} // namespace quillet

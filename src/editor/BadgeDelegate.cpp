@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace quillet {
 
@@ -41,10 +42,10 @@ bool BadgeDelegate::drawBadge(QPainter &painter, const QString &text, const QRec
     if (!badge)
         return false;
     const QFontMetricsF metrics(painter.font());
-    const QSizeF size(qMin(metrics.horizontalAdvance(text) + metrics.height() * 0.7, cell.width()),
-                      metrics.height());
-    QRectF box(QPointF(), size);
+    const qreal width = metrics.horizontalAdvance(text) + metrics.height() * 0.7;
+    QRectF box(0, 0, qMin(std::ceil(width), cell.width()), std::ceil(metrics.height()));
     box.moveCenter(cell.center());
+    box.moveTopLeft({std::floor(box.x()), std::floor(box.y())}); // for sharp edges
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(ink, 1));

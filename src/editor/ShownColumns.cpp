@@ -65,9 +65,12 @@ ShownColumns::~ShownColumns()
 
 void ShownColumns::useVariant(bool isJSON)
 {
+    const QString key = isJSON ? QStringLiteral("Columns JSON") : QStringLiteral("Columns XML");
+    if (key == m_settingsKey) // a file that is read anew leaves the table as it is
+        return;
     if (m_remembering.isActive())
         remember();
-    m_settingsKey = isJSON ? QStringLiteral("Columns JSON") : QStringLiteral("Columns XML");
+    m_settingsKey = key;
     setState(QSettings().value(m_settingsKey, usualState()).toStringList());
 }
 

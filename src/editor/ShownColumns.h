@@ -27,7 +27,7 @@ public:
     explicit ShownColumns(QTableView &table);
     ~ShownColumns() override;
 
-    /// Shows what is remembered for that variant of the file.
+    /// Shows what is remembered for that variant of the file, unless it is the one on show.
     void useVariant(bool isJSON);
 
     [[nodiscard]] bool isShown(int column) const;

@@ -69,6 +69,7 @@ TablePrinter::Outcome TablePrinter::print(QPrinter &printer)
         return Outcome::Failed;
     painter.scale(scale, scale);
     painter.setFont(font);
+    painter.setLayoutDirection(m_table.layoutDirection());
     for (const int number : wanted) {
         if (number != wanted.front() && !printer.newPage())
             return Outcome::Failed;

@@ -37,7 +37,8 @@ public:
                     stations().insert(stations().end(), list->begin(), list->end());
             }
         }
-        closeGaps(stations());
+        EditRecord unused;
+        closeGaps(stations(), unused);
     }
 
     /// The current list, of which the filter and the move take their stations.
@@ -127,6 +128,24 @@ void moving(benchmark::State &state, const QByteArray &file, bool isFirst)
     }
 }
 
+/// Taking back that move, which is made again each time.
+void undoing(benchmark::State &state, const QByteArray &file)
+{
+    Editor editor(file);
+    if (!editor.isReady())
+        return fail(state, "The list to move in was not made");
+    const StationPtr moved = editor.stations().back();
+    editor.controller().moveElements(stationCount - 1, 1, 1);
+    for ([[maybe_unused]] auto _ : state) {
+        editor.controller().undoing().undo();
+        state.PauseTiming();
+        if (editor.stations().back() != moved || !editor.isNumberedWell())
+            return fail(state, "The move was not undone");
+        editor.controller().undoing().redo();
+        state.ResumeTiming();
+    }
+}
+
 /// The same with gaps filled, far towards the end and back again in turn.
 void movingWithoutGaps(benchmark::State &state, const QByteArray &file)
 {
@@ -163,6 +182,7 @@ void registerEditorBenchmarks(const QByteArray &file)
     benchmark::RegisterBenchmark(figure::firstSearch, searching, file, true);
     benchmark::RegisterBenchmark(figure::move, moving, file, false);
     benchmark::RegisterBenchmark(figure::firstMove, moving, file, true);
+    benchmark::RegisterBenchmark(figure::undo, undoing, file);
     benchmark::RegisterBenchmark(figure::moveFillingGaps, movingWithoutGaps, file);
 }
 

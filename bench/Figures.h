@@ -16,6 +16,7 @@ inline constexpr char search[] = "search";
 inline constexpr char firstSearch[] = "search/first";
 inline constexpr char move[] = "move";
 inline constexpr char firstMove[] = "move/first";
+inline constexpr char undo[] = "undo";
 inline constexpr char moveFillingGaps[] = "move/fill gaps";
 inline constexpr char orderByIdentifiers[] = "order/identifiers";
 inline constexpr char orderByName[] = "order/names";

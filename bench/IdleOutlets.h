@@ -33,6 +33,7 @@ public:
     void showForeignRows(const std::optional<ForeignRows> &) override {}
     void showNotice(const Notice &) override {}
     void tell(const QString &) override {}
+    void tellEdit(const QString &) override {}
     [[nodiscard]] QWidget *sheetWindow() const override { return nullptr; }
 };
 

@@ -44,6 +44,7 @@ constexpr std::array ratios{
     Ratio{"search in 10,000 stations / B", figure::search, figure::bare10k, 1, 0.1},
     Ratio{"the first search after loading / B", figure::firstSearch, figure::bare10k, 1, {}},
     Ratio{"move one of 10,000 stations / B", figure::move, figure::bare10k, 1, 0.05},
+    Ratio{"undo that move / the move", figure::undo, figure::move, 1, 1.0},
     Ratio{"the same, filling gaps / B", figure::moveFillingGaps, figure::bare10k, 1, 0.05},
     Ratio{"the first move after loading / B", figure::firstMove, figure::bare10k, 1, {}},
     Ratio{"order by 10,000 entries, service ids / B", figure::orderByIdentifiers, figure::bare10k,

@@ -51,6 +51,111 @@
         <source></source>
         <translation>Referenzliste wählen</translation>
     </message>
+    <message id="kArrangeAllShown" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Ordnet den %n angezeigten Sender innerhalb der Nummern an, die er jetzt hat.</numerusform>
+            <numerusform>Ordnet alle %n angezeigten Sender innerhalb der Nummern an, die sie jetzt haben.</numerusform>
+        </translation>
+    </message>
+    <message id="kArrangeByEncryption">
+        <source></source>
+        <translation>Verschlüsselung</translation>
+    </message>
+    <message id="kArrangeByFrequency">
+        <source></source>
+        <translation>Frequenz</translation>
+    </message>
+    <message id="kArrangeByName">
+        <source></source>
+        <translation>Name</translation>
+    </message>
+    <message id="kArrangeByNetwork">
+        <source></source>
+        <translation>Netzwerk</translation>
+    </message>
+    <message id="kArrangeByNumber">
+        <source></source>
+        <translation>Nummer</translation>
+    </message>
+    <message id="kArrangeBySatellite">
+        <source></source>
+        <translation>Satellit</translation>
+    </message>
+    <message id="kArrangeByServiceId">
+        <source></source>
+        <translation>Service-ID</translation>
+    </message>
+    <message id="kArrangeByType">
+        <source></source>
+        <translation>Typ (UHD, HD, SD)</translation>
+    </message>
+    <message id="kArrangeDirection">
+        <source></source>
+        <translation>Richtung</translation>
+    </message>
+    <message id="kArrangeDown">
+        <source></source>
+        <translation>Absteigend</translation>
+    </message>
+    <message id="kArrangeEncryptedFirst">
+        <source></source>
+        <translation>Verschlüsselte zuerst</translation>
+    </message>
+    <message id="kArrangeFirst">
+        <source></source>
+        <translation>&amp;Anordnen nach:</translation>
+    </message>
+    <message id="kArrangeFreeFirst">
+        <source></source>
+        <translation>Freie zuerst</translation>
+    </message>
+    <message id="kArrangeNoChange">
+        <source></source>
+        <translation>Alle diese Sender stehen bereits in dieser Reihenfolge.</translation>
+    </message>
+    <message id="kArrangeNothing">
+        <source></source>
+        <translation>Nichts weiter</translation>
+    </message>
+    <message id="kArrangeOK">
+        <source></source>
+        <translation>Anordnen</translation>
+    </message>
+    <message id="kArrangePreview" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n Sender würde den Platz wechseln.</numerusform>
+            <numerusform>%n Sender würden den Platz wechseln.</numerusform>
+        </translation>
+    </message>
+    <message id="kArrangeSelected" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Ordnet den %n ausgewählten Sender innerhalb der Nummern an, die er jetzt hat.</numerusform>
+            <numerusform>Ordnet die %n ausgewählten Sender innerhalb der Nummern an, die sie jetzt haben.</numerusform>
+        </translation>
+    </message>
+    <message id="kArrangeThen">
+        <source></source>
+        <translation>&amp;Dann nach:</translation>
+    </message>
+    <message id="kArrangeThenBy">
+        <source></source>
+        <translation>Da&amp;nn nach:</translation>
+    </message>
+    <message id="kArrangeTip">
+        <source></source>
+        <translation>Sender innerhalb der Nummern sortieren, die sie haben</translation>
+    </message>
+    <message id="kArrangeTitle">
+        <source></source>
+        <translation>Sender anordnen</translation>
+    </message>
+    <message id="kArrangeUp">
+        <source></source>
+        <translation>Aufsteigend</translation>
+    </message>
     <message id="kBad_file_type">
         <source></source>
         <translation>Dateien dieses Typs können nicht verwendet werden</translation>
@@ -353,6 +458,30 @@
         <source></source>
         <translation>TV-Sender dieser Empfangsart anzeigen</translation>
     </message>
+    <message id="kHistoryCurrent">
+        <source></source>
+        <translation>Aktuell</translation>
+    </message>
+    <message id="kHistoryOldest">
+        <source></source>
+        <translation>Ältester behaltener Schritt</translation>
+    </message>
+    <message id="kHistorySaved">
+        <source></source>
+        <translation>%1 (gespeichert)</translation>
+    </message>
+    <message id="kHistoryStart">
+        <source></source>
+        <translation>Liste wie geöffnet</translation>
+    </message>
+    <message id="kHistoryTitle">
+        <source></source>
+        <translation>Verlauf</translation>
+    </message>
+    <message id="kHistoryUndone">
+        <source></source>
+        <translation>Rückgängig gemacht</translation>
+    </message>
     <message id="kInfo">
         <source></source>
         <translation>&amp;Info …</translation>
@@ -464,6 +593,10 @@
         <source></source>
         <translation>Reihen&amp;folge übernehmen …</translation>
     </message>
+    <message id="kMenuArrange">
+        <source></source>
+        <translation>A&amp;nordnen …</translation>
+    </message>
     <message id="kMenuCable">
         <source></source>
         <translation>&amp;Kabel</translation>
@@ -474,7 +607,11 @@
     </message>
     <message id="kMenuColumns">
         <source></source>
-        <translation>Spalt&amp;en</translation>
+        <translation>S&amp;palten</translation>
+    </message>
+    <message id="kMenuCopy">
+        <source></source>
+        <translation>Ko&amp;pieren</translation>
     </message>
     <message id="kMenuEdit">
         <source></source>
@@ -520,6 +657,18 @@
         <source></source>
         <translation>&amp;Suchen</translation>
     </message>
+    <message id="kMenuFindNext">
+        <source></source>
+        <translation>&amp;Nächsten suchen</translation>
+    </message>
+    <message id="kMenuFindPrevious">
+        <source></source>
+        <translation>&amp;Vorherigen suchen</translation>
+    </message>
+    <message id="kMenuFindText">
+        <source></source>
+        <translation>&amp;Suchen …</translation>
+    </message>
     <message id="kMenuGuide">
         <source></source>
         <translation>Quillet-&amp;Hilfe</translation>
@@ -527,6 +676,10 @@
     <message id="kMenuHelp">
         <source></source>
         <translation>&amp;Hilfe</translation>
+    </message>
+    <message id="kMenuHistory">
+        <source></source>
+        <translation>V&amp;erlauf</translation>
     </message>
     <message id="kMenuInfo">
         <source></source>
@@ -536,9 +689,25 @@
         <source></source>
         <translation>&amp;Kindersicherung</translation>
     </message>
+    <message id="kMenuMoveDown">
+        <source></source>
+        <translation>Nach &amp;unten verschieben</translation>
+    </message>
     <message id="kMenuMoveTo">
         <source></source>
         <translation>&amp;Verschieben …</translation>
+    </message>
+    <message id="kMenuMoveToBottom">
+        <source></source>
+        <translation>Ans &amp;Ende verschieben</translation>
+    </message>
+    <message id="kMenuMoveToTop">
+        <source></source>
+        <translation>An den &amp;Anfang verschieben</translation>
+    </message>
+    <message id="kMenuMoveUp">
+        <source></source>
+        <translation>Nach &amp;oben verschieben</translation>
     </message>
     <message id="kMenuNew">
         <source></source>
@@ -564,9 +733,21 @@
         <source></source>
         <translation>&amp;Radiosender</translation>
     </message>
+    <message id="kMenuRedo">
+        <source></source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message id="kMenuRedoStep">
+        <source></source>
+        <translation>%1 &amp;wiederholen</translation>
+    </message>
     <message id="kMenuReload">
         <source></source>
         <translation>Neu &amp;laden</translation>
+    </message>
+    <message id="kMenuRename">
+        <source></source>
+        <translation>U&amp;mbenennen</translation>
     </message>
     <message id="kMenuRevert">
         <source></source>
@@ -580,13 +761,49 @@
         <source></source>
         <translation>&amp;Speichern</translation>
     </message>
+    <message id="kMenuSelect">
+        <source></source>
+        <translation>Auswä&amp;hlen</translation>
+    </message>
+    <message id="kMenuSelectAll">
+        <source></source>
+        <translation>&amp;Alle</translation>
+    </message>
+    <message id="kMenuSelectEncrypted">
+        <source></source>
+        <translation>&amp;Verschlüsselte</translation>
+    </message>
+    <message id="kMenuSelectInvert">
+        <source></source>
+        <translation>Auswahl &amp;umkehren</translation>
+    </message>
+    <message id="kMenuSelectNone">
+        <source></source>
+        <translation>&amp;Keine</translation>
+    </message>
+    <message id="kMenuSelectSameType">
+        <source></source>
+        <translation>Gleicher &amp;Typ</translation>
+    </message>
     <message id="kMenuSkip">
         <source></source>
         <translation>Ü&amp;berspringen</translation>
     </message>
+    <message id="kMenuSwap">
+        <source></source>
+        <translation>Nummern &amp;tauschen</translation>
+    </message>
     <message id="kMenuTV">
         <source></source>
         <translation>&amp;TV-Sender</translation>
+    </message>
+    <message id="kMenuUndo">
+        <source></source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message id="kMenuUndoStep">
+        <source></source>
+        <translation>%1 &amp;rückgängig machen</translation>
     </message>
     <message id="kMenuView">
         <source></source>
@@ -1019,6 +1236,72 @@ Diese folgen ab Nummer: %3</translation>
         <source></source>
         <translation>Sender</translation>
     </message>
+    <message id="kStepArranged" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Anordnen von %n Sender</numerusform>
+            <numerusform>Anordnen von %n Sendern</numerusform>
+        </translation>
+    </message>
+    <message id="kStepClosedGaps">
+        <source></source>
+        <translation>Füllen der Lücken</translation>
+    </message>
+    <message id="kStepLocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Sperren von %n Sender</numerusform>
+            <numerusform>Sperren von %n Sendern</numerusform>
+        </translation>
+    </message>
+    <message id="kStepMoved" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Verschieben von %n Sender</numerusform>
+            <numerusform>Verschieben von %n Sendern</numerusform>
+        </translation>
+    </message>
+    <message id="kStepOrdered">
+        <source></source>
+        <translation>Reihenfolge von %1</translation>
+    </message>
+    <message id="kStepRenamed">
+        <source></source>
+        <translation>Umbenennen in „%1“</translation>
+    </message>
+    <message id="kStepSkipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Überspringen von %n Sender</numerusform>
+            <numerusform>Überspringen von %n Sendern</numerusform>
+        </translation>
+    </message>
+    <message id="kStepSwapped">
+        <source></source>
+        <translation>Tauschen der Nummern</translation>
+    </message>
+    <message id="kStepUnlocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Entsperren von %n Sender</numerusform>
+            <numerusform>Entsperren von %n Sendern</numerusform>
+        </translation>
+    </message>
+    <message id="kStepUnskipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Aufheben des Überspringens von %n Sender</numerusform>
+            <numerusform>Aufheben des Überspringens von %n Sendern</numerusform>
+        </translation>
+    </message>
+    <message id="kTipAtBottom">
+        <source></source>
+        <translation>Die ausgewählten Sender stehen schon am Ende</translation>
+    </message>
+    <message id="kTipAtTop">
+        <source></source>
+        <translation>Die ausgewählten Sender stehen schon am Anfang</translation>
+    </message>
     <message id="kTipColumnAlwaysShown">
         <source></source>
         <translation>Diese Spalte wird immer gezeigt</translation>
@@ -1027,13 +1310,25 @@ Diese folgen ab Nummer: %3</translation>
         <source></source>
         <translation>Die Datei nennt dies bei keinem Sender dieser Liste</translation>
     </message>
+    <message id="kTipColumnsUsual">
+        <source></source>
+        <translation>Die Spalten sind schon die üblichen</translation>
+    </message>
     <message id="kTipFilterTVOnly">
         <source></source>
         <translation>Typen können nur für TV-Sender ausgewählt werden</translation>
     </message>
+    <message id="kTipForeign">
+        <source></source>
+        <translation>Die angezeigten Sender gehören zu einer anderen Empfangsart; setzen Sie zuerst Suche und Typ zurück</translation>
+    </message>
     <message id="kTipNoFile">
         <source></source>
         <translation>Es gibt keine Datei, die neu gelesen werden könnte</translation>
+    </message>
+    <message id="kTipNoneEncrypted">
+        <source></source>
+        <translation>Die Datei nennt keinen verschlüsselten Sender</translation>
     </message>
     <message id="kTipNoStations">
         <source></source>
@@ -1043,9 +1338,40 @@ Diese folgen ab Nummer: %3</translation>
         <source></source>
         <translation>Nur für Dateien mit Sendern dieser Empfangsart</translation>
     </message>
+    <message id="kTipNoSteps">
+        <source></source>
+        <translation>In dieser Richtung gibt es keinen weiteren Schritt</translation>
+    </message>
+    <message id="kTipNotTold">
+        <source></source>
+        <translation>Die Datei enthält diese Angabe zu diesen Sendern nicht</translation>
+    </message>
+    <message id="kTipRenameAnalogue">
+        <source></source>
+        <translation>Namen lassen sich nur in der analogen Liste ändern</translation>
+    </message>
+    <message id="kTipSearchFirst">
+        <source></source>
+        <translation>Geben Sie zuerst etwas in das Suchfeld ein</translation>
+    </message>
     <message id="kTipSelectFirst">
         <source></source>
         <translation>Wählen Sie zuerst Sender in der Liste aus</translation>
+    </message>
+    <message id="kTipSelectTwo">
+        <source></source>
+        <translation>Wählen Sie zuerst genau zwei Sender aus</translation>
+    </message>
+    <message id="kTipTooFew">
+        <source></source>
+        <translation>Es gibt nicht genug Sender zum Anordnen</translation>
+    </message>
+    <message id="kToldArranged" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n Sender steht jetzt an anderer Stelle</numerusform>
+            <numerusform>%n Sender stehen jetzt an anderer Stelle</numerusform>
+        </translation>
     </message>
     <message id="kToldClosedGaps" numerus="yes">
         <source></source>
@@ -1076,6 +1402,38 @@ Diese folgen ab Nummer: %3</translation>
             <numerusform>%n Sender auf %1 verschoben</numerusform>
         </translation>
     </message>
+    <message id="kToldMovedDown" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n Sender nach unten verschoben</numerusform>
+            <numerusform>%n Sender nach unten verschoben</numerusform>
+        </translation>
+    </message>
+    <message id="kToldMovedToBottom" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n Sender ans Ende verschoben</numerusform>
+            <numerusform>%n Sender ans Ende verschoben</numerusform>
+        </translation>
+    </message>
+    <message id="kToldMovedToTop" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n Sender an den Anfang verschoben</numerusform>
+            <numerusform>%n Sender an den Anfang verschoben</numerusform>
+        </translation>
+    </message>
+    <message id="kToldMovedUp" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n Sender nach oben verschoben</numerusform>
+            <numerusform>%n Sender nach oben verschoben</numerusform>
+        </translation>
+    </message>
+    <message id="kToldNotFound">
+        <source></source>
+        <translation>Kein Sender der Liste hat „%1“ im Namen</translation>
+    </message>
     <message id="kToldNotKept">
         <source></source>
         <translation>„%1“ wurde gespeichert, aber die Datei verlor: %2.</translation>
@@ -1101,6 +1459,10 @@ Diese folgen ab Nummer: %3</translation>
             <numerusform>%n weitere Nummer geändert</numerusform>
             <numerusform>%n weitere Nummern geändert</numerusform>
         </translation>
+    </message>
+    <message id="kToldRedone">
+        <source></source>
+        <translation>Wiederholt: %1</translation>
     </message>
     <message id="kToldReloaded">
         <source></source>
@@ -1129,9 +1491,17 @@ Diese folgen ab Nummer: %3</translation>
             <numerusform>%n Sender werden übersprungen</numerusform>
         </translation>
     </message>
+    <message id="kToldSwapped">
+        <source></source>
+        <translation>Die Sender %1 und %2 haben ihre Nummern getauscht</translation>
+    </message>
     <message id="kToldUnchanged">
         <source></source>
         <translation>„%1“ hat sich auf dem Datenträger nicht geändert</translation>
+    </message>
+    <message id="kToldUndone">
+        <source></source>
+        <translation>Rückgängig gemacht: %1</translation>
     </message>
     <message id="kToldUnlocked" numerus="yes">
         <source></source>
@@ -1147,6 +1517,10 @@ Diese folgen ab Nummer: %3</translation>
             <numerusform>%n Sender werden nicht mehr übersprungen</numerusform>
         </translation>
     </message>
+    <message id="kToldWentTo">
+        <source></source>
+        <translation>Zu einem anderen Schritt des Verlaufs gewechselt</translation>
+    </message>
     <message id="kTV">
         <source></source>
         <translation>&amp;TV</translation>
@@ -1154,6 +1528,10 @@ Diese folgen ab Nummer: %3</translation>
     <message id="kTypeFilter">
         <source></source>
         <translation>Typ</translation>
+    </message>
+    <message id="kUndoLink">
+        <source></source>
+        <translation>Rückgängig</translation>
     </message>
     <message id="kUntitled">
         <source></source>

@@ -51,6 +51,111 @@
         <source></source>
         <translation>Choose a Reference List</translation>
     </message>
+    <message id="kArrangeAllShown" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Arranges all %n station on show among the numbers they hold now.</numerusform>
+            <numerusform>Arranges all %n stations on show among the numbers they hold now.</numerusform>
+        </translation>
+    </message>
+    <message id="kArrangeByEncryption">
+        <source></source>
+        <translation>Encryption</translation>
+    </message>
+    <message id="kArrangeByFrequency">
+        <source></source>
+        <translation>Frequency</translation>
+    </message>
+    <message id="kArrangeByName">
+        <source></source>
+        <translation>Name</translation>
+    </message>
+    <message id="kArrangeByNetwork">
+        <source></source>
+        <translation>Network</translation>
+    </message>
+    <message id="kArrangeByNumber">
+        <source></source>
+        <translation>Number</translation>
+    </message>
+    <message id="kArrangeBySatellite">
+        <source></source>
+        <translation>Satellite</translation>
+    </message>
+    <message id="kArrangeByServiceId">
+        <source></source>
+        <translation>Service ID</translation>
+    </message>
+    <message id="kArrangeByType">
+        <source></source>
+        <translation>Type (UHD, HD, SD)</translation>
+    </message>
+    <message id="kArrangeDirection">
+        <source></source>
+        <translation>Direction</translation>
+    </message>
+    <message id="kArrangeDown">
+        <source></source>
+        <translation>Descending</translation>
+    </message>
+    <message id="kArrangeEncryptedFirst">
+        <source></source>
+        <translation>Encrypted First</translation>
+    </message>
+    <message id="kArrangeFirst">
+        <source></source>
+        <translation>&amp;Arrange by:</translation>
+    </message>
+    <message id="kArrangeFreeFirst">
+        <source></source>
+        <translation>Free First</translation>
+    </message>
+    <message id="kArrangeNoChange">
+        <source></source>
+        <translation>All of these stations stand in this order already.</translation>
+    </message>
+    <message id="kArrangeNothing">
+        <source></source>
+        <translation>Nothing Else</translation>
+    </message>
+    <message id="kArrangeOK">
+        <source></source>
+        <translation>Arrange</translation>
+    </message>
+    <message id="kArrangePreview" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n station would change place.</numerusform>
+            <numerusform>%n stations would change place.</numerusform>
+        </translation>
+    </message>
+    <message id="kArrangeSelected" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Arranges the %n selected station among the numbers they hold now.</numerusform>
+            <numerusform>Arranges the %n selected stations among the numbers they hold now.</numerusform>
+        </translation>
+    </message>
+    <message id="kArrangeThen">
+        <source></source>
+        <translation>&amp;Then by:</translation>
+    </message>
+    <message id="kArrangeThenBy">
+        <source></source>
+        <translation>T&amp;hen by:</translation>
+    </message>
+    <message id="kArrangeTip">
+        <source></source>
+        <translation>Sort stations among the numbers they hold</translation>
+    </message>
+    <message id="kArrangeTitle">
+        <source></source>
+        <translation>Arrange Stations</translation>
+    </message>
+    <message id="kArrangeUp">
+        <source></source>
+        <translation>Ascending</translation>
+    </message>
     <message id="kBad_file_type">
         <source></source>
         <translation>Files of this type cannot be used</translation>
@@ -353,6 +458,30 @@
         <source></source>
         <translation>Show its TV stations</translation>
     </message>
+    <message id="kHistoryCurrent">
+        <source></source>
+        <translation>Current</translation>
+    </message>
+    <message id="kHistoryOldest">
+        <source></source>
+        <translation>Oldest Step Kept</translation>
+    </message>
+    <message id="kHistorySaved">
+        <source></source>
+        <translation>%1 (saved)</translation>
+    </message>
+    <message id="kHistoryStart">
+        <source></source>
+        <translation>List as Opened</translation>
+    </message>
+    <message id="kHistoryTitle">
+        <source></source>
+        <translation>History</translation>
+    </message>
+    <message id="kHistoryUndone">
+        <source></source>
+        <translation>Undone</translation>
+    </message>
     <message id="kInfo">
         <source></source>
         <translation>&amp;Info…</translation>
@@ -464,6 +593,10 @@
         <source></source>
         <translation>&amp;Apply Order…</translation>
     </message>
+    <message id="kMenuArrange">
+        <source></source>
+        <translation>Arra&amp;nge…</translation>
+    </message>
     <message id="kMenuCable">
         <source></source>
         <translation>&amp;Cable</translation>
@@ -475,6 +608,10 @@
     <message id="kMenuColumns">
         <source></source>
         <translation>Colu&amp;mns</translation>
+    </message>
+    <message id="kMenuCopy">
+        <source></source>
+        <translation>&amp;Copy</translation>
     </message>
     <message id="kMenuEdit">
         <source></source>
@@ -520,6 +657,18 @@
         <source></source>
         <translation>&amp;Find</translation>
     </message>
+    <message id="kMenuFindNext">
+        <source></source>
+        <translation>Find &amp;Next</translation>
+    </message>
+    <message id="kMenuFindPrevious">
+        <source></source>
+        <translation>Find &amp;Previous</translation>
+    </message>
+    <message id="kMenuFindText">
+        <source></source>
+        <translation>&amp;Find…</translation>
+    </message>
     <message id="kMenuGuide">
         <source></source>
         <translation>Quillet &amp;Help</translation>
@@ -527,6 +676,10 @@
     <message id="kMenuHelp">
         <source></source>
         <translation>&amp;Help</translation>
+    </message>
+    <message id="kMenuHistory">
+        <source></source>
+        <translation>H&amp;istory</translation>
     </message>
     <message id="kMenuInfo">
         <source></source>
@@ -536,9 +689,25 @@
         <source></source>
         <translation>Child &amp;Lock</translation>
     </message>
+    <message id="kMenuMoveDown">
+        <source></source>
+        <translation>Move &amp;Down</translation>
+    </message>
     <message id="kMenuMoveTo">
         <source></source>
         <translation>&amp;Move To…</translation>
+    </message>
+    <message id="kMenuMoveToBottom">
+        <source></source>
+        <translation>Move to &amp;Bottom</translation>
+    </message>
+    <message id="kMenuMoveToTop">
+        <source></source>
+        <translation>Move to &amp;Top</translation>
+    </message>
+    <message id="kMenuMoveUp">
+        <source></source>
+        <translation>Move U&amp;p</translation>
     </message>
     <message id="kMenuNew">
         <source></source>
@@ -564,9 +733,21 @@
         <source></source>
         <translation>&amp;Radio Stations</translation>
     </message>
+    <message id="kMenuRedo">
+        <source></source>
+        <translation>&amp;Redo</translation>
+    </message>
+    <message id="kMenuRedoStep">
+        <source></source>
+        <translation>&amp;Redo %1</translation>
+    </message>
     <message id="kMenuReload">
         <source></source>
         <translation>Re&amp;load from Disk</translation>
+    </message>
+    <message id="kMenuRename">
+        <source></source>
+        <translation>R&amp;ename</translation>
     </message>
     <message id="kMenuRevert">
         <source></source>
@@ -580,13 +761,49 @@
         <source></source>
         <translation>&amp;Save</translation>
     </message>
+    <message id="kMenuSelect">
+        <source></source>
+        <translation>&amp;Select</translation>
+    </message>
+    <message id="kMenuSelectAll">
+        <source></source>
+        <translation>&amp;All</translation>
+    </message>
+    <message id="kMenuSelectEncrypted">
+        <source></source>
+        <translation>&amp;Encrypted</translation>
+    </message>
+    <message id="kMenuSelectInvert">
+        <source></source>
+        <translation>&amp;Invert Selection</translation>
+    </message>
+    <message id="kMenuSelectNone">
+        <source></source>
+        <translation>&amp;None</translation>
+    </message>
+    <message id="kMenuSelectSameType">
+        <source></source>
+        <translation>&amp;Same Type</translation>
+    </message>
     <message id="kMenuSkip">
         <source></source>
         <translation>S&amp;kip</translation>
     </message>
+    <message id="kMenuSwap">
+        <source></source>
+        <translation>S&amp;wap Numbers</translation>
+    </message>
     <message id="kMenuTV">
         <source></source>
         <translation>&amp;TV Stations</translation>
+    </message>
+    <message id="kMenuUndo">
+        <source></source>
+        <translation>&amp;Undo</translation>
+    </message>
+    <message id="kMenuUndoStep">
+        <source></source>
+        <translation>&amp;Undo %1</translation>
     </message>
     <message id="kMenuView">
         <source></source>
@@ -1019,6 +1236,72 @@ These go on from number: %3</translation>
         <source></source>
         <translation>Stations</translation>
     </message>
+    <message id="kStepArranged" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Arrangement of %n Station</numerusform>
+            <numerusform>Arrangement of %n Stations</numerusform>
+        </translation>
+    </message>
+    <message id="kStepClosedGaps">
+        <source></source>
+        <translation>Filling of Gaps</translation>
+    </message>
+    <message id="kStepLocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Lock of %n Station</numerusform>
+            <numerusform>Lock of %n Stations</numerusform>
+        </translation>
+    </message>
+    <message id="kStepMoved" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Move of %n Station</numerusform>
+            <numerusform>Move of %n Stations</numerusform>
+        </translation>
+    </message>
+    <message id="kStepOrdered">
+        <source></source>
+        <translation>Order of %1</translation>
+    </message>
+    <message id="kStepRenamed">
+        <source></source>
+        <translation>Renaming to “%1”</translation>
+    </message>
+    <message id="kStepSkipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Skip of %n Station</numerusform>
+            <numerusform>Skip of %n Stations</numerusform>
+        </translation>
+    </message>
+    <message id="kStepSwapped">
+        <source></source>
+        <translation>Swap of Numbers</translation>
+    </message>
+    <message id="kStepUnlocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Unlock of %n Station</numerusform>
+            <numerusform>Unlock of %n Stations</numerusform>
+        </translation>
+    </message>
+    <message id="kStepUnskipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Unskip of %n Station</numerusform>
+            <numerusform>Unskip of %n Stations</numerusform>
+        </translation>
+    </message>
+    <message id="kTipAtBottom">
+        <source></source>
+        <translation>The selected stations are at the bottom already</translation>
+    </message>
+    <message id="kTipAtTop">
+        <source></source>
+        <translation>The selected stations are at the top already</translation>
+    </message>
     <message id="kTipColumnAlwaysShown">
         <source></source>
         <translation>This column is always shown</translation>
@@ -1027,13 +1310,25 @@ These go on from number: %3</translation>
         <source></source>
         <translation>The file does not say this of any station in this list</translation>
     </message>
+    <message id="kTipColumnsUsual">
+        <source></source>
+        <translation>The columns are the usual ones already</translation>
+    </message>
     <message id="kTipFilterTVOnly">
         <source></source>
         <translation>Types can be chosen for TV stations only</translation>
     </message>
+    <message id="kTipForeign">
+        <source></source>
+        <translation>The stations on show are of another source; clear the search and the type first</translation>
+    </message>
     <message id="kTipNoFile">
         <source></source>
         <translation>There is no file on the disk to read again</translation>
+    </message>
+    <message id="kTipNoneEncrypted">
+        <source></source>
+        <translation>The file tells of no encrypted station</translation>
     </message>
     <message id="kTipNoStations">
         <source></source>
@@ -1043,9 +1338,40 @@ These go on from number: %3</translation>
         <source></source>
         <translation>For files that have stations from this source</translation>
     </message>
+    <message id="kTipNoSteps">
+        <source></source>
+        <translation>There is no further step in this direction</translation>
+    </message>
+    <message id="kTipNotTold">
+        <source></source>
+        <translation>The file does not tell this of these stations</translation>
+    </message>
+    <message id="kTipRenameAnalogue">
+        <source></source>
+        <translation>Names can be changed in the analogue list only</translation>
+    </message>
+    <message id="kTipSearchFirst">
+        <source></source>
+        <translation>Type something into the search field first</translation>
+    </message>
     <message id="kTipSelectFirst">
         <source></source>
         <translation>Select stations in the list first</translation>
+    </message>
+    <message id="kTipSelectTwo">
+        <source></source>
+        <translation>Select exactly two stations first</translation>
+    </message>
+    <message id="kTipTooFew">
+        <source></source>
+        <translation>There are not enough stations to arrange</translation>
+    </message>
+    <message id="kToldArranged" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n station has another place now</numerusform>
+            <numerusform>%n stations have another place now</numerusform>
+        </translation>
     </message>
     <message id="kToldClosedGaps" numerus="yes">
         <source></source>
@@ -1076,6 +1402,38 @@ These go on from number: %3</translation>
             <numerusform>%n stations moved to %1</numerusform>
         </translation>
     </message>
+    <message id="kToldMovedDown" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n station moved down</numerusform>
+            <numerusform>%n stations moved down</numerusform>
+        </translation>
+    </message>
+    <message id="kToldMovedToBottom" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n station moved to the bottom</numerusform>
+            <numerusform>%n stations moved to the bottom</numerusform>
+        </translation>
+    </message>
+    <message id="kToldMovedToTop" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n station moved to the top</numerusform>
+            <numerusform>%n stations moved to the top</numerusform>
+        </translation>
+    </message>
+    <message id="kToldMovedUp" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n station moved up</numerusform>
+            <numerusform>%n stations moved up</numerusform>
+        </translation>
+    </message>
+    <message id="kToldNotFound">
+        <source></source>
+        <translation>No station in the list has “%1” in its name</translation>
+    </message>
     <message id="kToldNotKept">
         <source></source>
         <translation>“%1” was saved, but the file lost: %2.</translation>
@@ -1101,6 +1459,10 @@ These go on from number: %3</translation>
             <numerusform>%n other number changed</numerusform>
             <numerusform>%n other numbers changed</numerusform>
         </translation>
+    </message>
+    <message id="kToldRedone">
+        <source></source>
+        <translation>Redone: %1</translation>
     </message>
     <message id="kToldReloaded">
         <source></source>
@@ -1129,9 +1491,17 @@ These go on from number: %3</translation>
             <numerusform>%n stations will be skipped</numerusform>
         </translation>
     </message>
+    <message id="kToldSwapped">
+        <source></source>
+        <translation>Stations %1 and %2 have swapped their numbers</translation>
+    </message>
     <message id="kToldUnchanged">
         <source></source>
         <translation>“%1” has not changed on the disk</translation>
+    </message>
+    <message id="kToldUndone">
+        <source></source>
+        <translation>Undone: %1</translation>
     </message>
     <message id="kToldUnlocked" numerus="yes">
         <source></source>
@@ -1147,6 +1517,10 @@ These go on from number: %3</translation>
             <numerusform>%n stations will no longer be skipped</numerusform>
         </translation>
     </message>
+    <message id="kToldWentTo">
+        <source></source>
+        <translation>Went to another step of the history</translation>
+    </message>
     <message id="kTV">
         <source></source>
         <translation>&amp;TV</translation>
@@ -1154,6 +1528,10 @@ These go on from number: %3</translation>
     <message id="kTypeFilter">
         <source></source>
         <translation>Type</translation>
+    </message>
+    <message id="kUndoLink">
+        <source></source>
+        <translation>Undo</translation>
     </message>
     <message id="kUntitled">
         <source></source>

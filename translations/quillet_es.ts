@@ -51,6 +51,111 @@
         <source></source>
         <translation>Elegir una lista de referencia</translation>
     </message>
+    <message id="kArrangeAllShown" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Ordena el %n canal mostrado entre los números que ocupa ahora.</numerusform>
+            <numerusform>Ordena todos los canales mostrados (%n) entre los números que ocupan ahora.</numerusform>
+        </translation>
+    </message>
+    <message id="kArrangeByEncryption">
+        <source></source>
+        <translation>Codificación</translation>
+    </message>
+    <message id="kArrangeByFrequency">
+        <source></source>
+        <translation>Frecuencia</translation>
+    </message>
+    <message id="kArrangeByName">
+        <source></source>
+        <translation>Nombre</translation>
+    </message>
+    <message id="kArrangeByNetwork">
+        <source></source>
+        <translation>Red</translation>
+    </message>
+    <message id="kArrangeByNumber">
+        <source></source>
+        <translation>Número</translation>
+    </message>
+    <message id="kArrangeBySatellite">
+        <source></source>
+        <translation>Satélite</translation>
+    </message>
+    <message id="kArrangeByServiceId">
+        <source></source>
+        <translation>ID de servicio</translation>
+    </message>
+    <message id="kArrangeByType">
+        <source></source>
+        <translation>Tipo (UHD, HD, SD)</translation>
+    </message>
+    <message id="kArrangeDirection">
+        <source></source>
+        <translation>Sentido</translation>
+    </message>
+    <message id="kArrangeDown">
+        <source></source>
+        <translation>Descendente</translation>
+    </message>
+    <message id="kArrangeEncryptedFirst">
+        <source></source>
+        <translation>Codificados primero</translation>
+    </message>
+    <message id="kArrangeFirst">
+        <source></source>
+        <translation>&amp;Ordenar por:</translation>
+    </message>
+    <message id="kArrangeFreeFirst">
+        <source></source>
+        <translation>Libres primero</translation>
+    </message>
+    <message id="kArrangeNoChange">
+        <source></source>
+        <translation>Todos estos canales ya están en este orden.</translation>
+    </message>
+    <message id="kArrangeNothing">
+        <source></source>
+        <translation>Nada más</translation>
+    </message>
+    <message id="kArrangeOK">
+        <source></source>
+        <translation>Ordenar</translation>
+    </message>
+    <message id="kArrangePreview" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canal cambiaría de lugar.</numerusform>
+            <numerusform>%n canales cambiarían de lugar.</numerusform>
+        </translation>
+    </message>
+    <message id="kArrangeSelected" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Ordena el %n canal seleccionado entre los números que ocupa ahora.</numerusform>
+            <numerusform>Ordena los %n canales seleccionados entre los números que ocupan ahora.</numerusform>
+        </translation>
+    </message>
+    <message id="kArrangeThen">
+        <source></source>
+        <translation>&amp;Después por:</translation>
+    </message>
+    <message id="kArrangeThenBy">
+        <source></source>
+        <translation>De&amp;spués por:</translation>
+    </message>
+    <message id="kArrangeTip">
+        <source></source>
+        <translation>Ordenar los canales entre los números que ocupan</translation>
+    </message>
+    <message id="kArrangeTitle">
+        <source></source>
+        <translation>Ordenar canales</translation>
+    </message>
+    <message id="kArrangeUp">
+        <source></source>
+        <translation>Ascendente</translation>
+    </message>
     <message id="kBad_file_type">
         <source></source>
         <translation>No se pueden usar archivos de este tipo</translation>
@@ -353,6 +458,30 @@
         <source></source>
         <translation>Mostrar sus canales de TV</translation>
     </message>
+    <message id="kHistoryCurrent">
+        <source></source>
+        <translation>Actual</translation>
+    </message>
+    <message id="kHistoryOldest">
+        <source></source>
+        <translation>Paso más antiguo conservado</translation>
+    </message>
+    <message id="kHistorySaved">
+        <source></source>
+        <translation>%1 (guardado)</translation>
+    </message>
+    <message id="kHistoryStart">
+        <source></source>
+        <translation>Lista tal como se abrió</translation>
+    </message>
+    <message id="kHistoryTitle">
+        <source></source>
+        <translation>Historial</translation>
+    </message>
+    <message id="kHistoryUndone">
+        <source></source>
+        <translation>Deshecho</translation>
+    </message>
     <message id="kInfo">
         <source></source>
         <translation>&amp;Información…</translation>
@@ -464,6 +593,10 @@
         <source></source>
         <translation>&amp;Aplicar orden…</translation>
     </message>
+    <message id="kMenuArrange">
+        <source></source>
+        <translation>Ord&amp;enar…</translation>
+    </message>
     <message id="kMenuCable">
         <source></source>
         <translation>&amp;Cable</translation>
@@ -475,6 +608,10 @@
     <message id="kMenuColumns">
         <source></source>
         <translation>Colu&amp;mnas</translation>
+    </message>
+    <message id="kMenuCopy">
+        <source></source>
+        <translation>Co&amp;piar</translation>
     </message>
     <message id="kMenuEdit">
         <source></source>
@@ -520,6 +657,18 @@
         <source></source>
         <translation>Bus&amp;car</translation>
     </message>
+    <message id="kMenuFindNext">
+        <source></source>
+        <translation>Buscar &amp;siguiente</translation>
+    </message>
+    <message id="kMenuFindPrevious">
+        <source></source>
+        <translation>Buscar &amp;anterior</translation>
+    </message>
+    <message id="kMenuFindText">
+        <source></source>
+        <translation>&amp;Buscar…</translation>
+    </message>
     <message id="kMenuGuide">
         <source></source>
         <translation>A&amp;yuda de Quillet</translation>
@@ -527,6 +676,10 @@
     <message id="kMenuHelp">
         <source></source>
         <translation>Ay&amp;uda</translation>
+    </message>
+    <message id="kMenuHistory">
+        <source></source>
+        <translation>H&amp;istorial</translation>
     </message>
     <message id="kMenuInfo">
         <source></source>
@@ -536,9 +689,25 @@
         <source></source>
         <translation>&amp;Bloqueo infantil</translation>
     </message>
+    <message id="kMenuMoveDown">
+        <source></source>
+        <translation>Ba&amp;jar</translation>
+    </message>
     <message id="kMenuMoveTo">
         <source></source>
         <translation>&amp;Mover a…</translation>
+    </message>
+    <message id="kMenuMoveToBottom">
+        <source></source>
+        <translation>Mover al &amp;final</translation>
+    </message>
+    <message id="kMenuMoveToTop">
+        <source></source>
+        <translation>Mo&amp;ver al principio</translation>
+    </message>
+    <message id="kMenuMoveUp">
+        <source></source>
+        <translation>S&amp;ubir</translation>
     </message>
     <message id="kMenuNew">
         <source></source>
@@ -564,9 +733,21 @@
         <source></source>
         <translation>Emisoras de &amp;radio</translation>
     </message>
+    <message id="kMenuRedo">
+        <source></source>
+        <translation>&amp;Rehacer</translation>
+    </message>
+    <message id="kMenuRedoStep">
+        <source></source>
+        <translation>&amp;Rehacer: %1</translation>
+    </message>
     <message id="kMenuReload">
         <source></source>
         <translation>Volver a cargar &amp;del disco</translation>
+    </message>
+    <message id="kMenuRename">
+        <source></source>
+        <translation>Re&amp;nombrar</translation>
     </message>
     <message id="kMenuRevert">
         <source></source>
@@ -580,13 +761,49 @@
         <source></source>
         <translation>&amp;Guardar</translation>
     </message>
+    <message id="kMenuSelect">
+        <source></source>
+        <translation>&amp;Seleccionar</translation>
+    </message>
+    <message id="kMenuSelectAll">
+        <source></source>
+        <translation>&amp;Todos</translation>
+    </message>
+    <message id="kMenuSelectEncrypted">
+        <source></source>
+        <translation>&amp;Codificados</translation>
+    </message>
+    <message id="kMenuSelectInvert">
+        <source></source>
+        <translation>&amp;Invertir selección</translation>
+    </message>
+    <message id="kMenuSelectNone">
+        <source></source>
+        <translation>&amp;Ninguno</translation>
+    </message>
+    <message id="kMenuSelectSameType">
+        <source></source>
+        <translation>&amp;Mismo tipo</translation>
+    </message>
     <message id="kMenuSkip">
         <source></source>
         <translation>&amp;Omitir</translation>
     </message>
+    <message id="kMenuSwap">
+        <source></source>
+        <translation>In&amp;tercambiar números</translation>
+    </message>
     <message id="kMenuTV">
         <source></source>
         <translation>Canales de &amp;TV</translation>
+    </message>
+    <message id="kMenuUndo">
+        <source></source>
+        <translation>&amp;Deshacer</translation>
+    </message>
+    <message id="kMenuUndoStep">
+        <source></source>
+        <translation>&amp;Deshacer: %1</translation>
     </message>
     <message id="kMenuView">
         <source></source>
@@ -1019,6 +1236,72 @@ Estos continúan a partir del número: %3</translation>
         <source></source>
         <translation>Canales</translation>
     </message>
+    <message id="kStepArranged" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Ordenación de %n canal</numerusform>
+            <numerusform>Ordenación de %n canales</numerusform>
+        </translation>
+    </message>
+    <message id="kStepClosedGaps">
+        <source></source>
+        <translation>Relleno de huecos</translation>
+    </message>
+    <message id="kStepLocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Bloqueo de %n canal</numerusform>
+            <numerusform>Bloqueo de %n canales</numerusform>
+        </translation>
+    </message>
+    <message id="kStepMoved" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Movimiento de %n canal</numerusform>
+            <numerusform>Movimiento de %n canales</numerusform>
+        </translation>
+    </message>
+    <message id="kStepOrdered">
+        <source></source>
+        <translation>Orden de %1</translation>
+    </message>
+    <message id="kStepRenamed">
+        <source></source>
+        <translation>Cambio de nombre a «%1»</translation>
+    </message>
+    <message id="kStepSkipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Omisión de %n canal</numerusform>
+            <numerusform>Omisión de %n canales</numerusform>
+        </translation>
+    </message>
+    <message id="kStepSwapped">
+        <source></source>
+        <translation>Intercambio de números</translation>
+    </message>
+    <message id="kStepUnlocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Desbloqueo de %n canal</numerusform>
+            <numerusform>Desbloqueo de %n canales</numerusform>
+        </translation>
+    </message>
+    <message id="kStepUnskipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Fin de la omisión de %n canal</numerusform>
+            <numerusform>Fin de la omisión de %n canales</numerusform>
+        </translation>
+    </message>
+    <message id="kTipAtBottom">
+        <source></source>
+        <translation>Los canales seleccionados ya están al final</translation>
+    </message>
+    <message id="kTipAtTop">
+        <source></source>
+        <translation>Los canales seleccionados ya están al principio</translation>
+    </message>
     <message id="kTipColumnAlwaysShown">
         <source></source>
         <translation>Esta columna se muestra siempre</translation>
@@ -1027,13 +1310,25 @@ Estos continúan a partir del número: %3</translation>
         <source></source>
         <translation>El archivo no lo indica de ningún canal de esta lista</translation>
     </message>
+    <message id="kTipColumnsUsual">
+        <source></source>
+        <translation>Las columnas ya son las habituales</translation>
+    </message>
     <message id="kTipFilterTVOnly">
         <source></source>
         <translation>Los tipos solo se pueden elegir para canales de TV</translation>
     </message>
+    <message id="kTipForeign">
+        <source></source>
+        <translation>Los canales mostrados son de otro tipo de recepción; borre primero la búsqueda y el tipo</translation>
+    </message>
     <message id="kTipNoFile">
         <source></source>
         <translation>No hay ningún archivo en el disco que volver a leer</translation>
+    </message>
+    <message id="kTipNoneEncrypted">
+        <source></source>
+        <translation>El archivo no indica ningún canal codificado</translation>
     </message>
     <message id="kTipNoStations">
         <source></source>
@@ -1043,9 +1338,40 @@ Estos continúan a partir del número: %3</translation>
         <source></source>
         <translation>Para archivos que tienen canales de este tipo de recepción</translation>
     </message>
+    <message id="kTipNoSteps">
+        <source></source>
+        <translation>No hay más pasos en esta dirección</translation>
+    </message>
+    <message id="kTipNotTold">
+        <source></source>
+        <translation>El archivo no indica este dato de estos canales</translation>
+    </message>
+    <message id="kTipRenameAnalogue">
+        <source></source>
+        <translation>Los nombres solo se pueden cambiar en la lista analógica</translation>
+    </message>
+    <message id="kTipSearchFirst">
+        <source></source>
+        <translation>Escriba primero algo en el campo de búsqueda</translation>
+    </message>
     <message id="kTipSelectFirst">
         <source></source>
         <translation>Seleccione primero canales en la lista</translation>
+    </message>
+    <message id="kTipSelectTwo">
+        <source></source>
+        <translation>Seleccione primero exactamente dos canales</translation>
+    </message>
+    <message id="kTipTooFew">
+        <source></source>
+        <translation>No hay suficientes canales que ordenar</translation>
+    </message>
+    <message id="kToldArranged" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canal ocupa ahora otro lugar</numerusform>
+            <numerusform>%n canales ocupan ahora otro lugar</numerusform>
+        </translation>
     </message>
     <message id="kToldClosedGaps" numerus="yes">
         <source></source>
@@ -1076,6 +1402,38 @@ Estos continúan a partir del número: %3</translation>
             <numerusform>%n canales movidos al %1</numerusform>
         </translation>
     </message>
+    <message id="kToldMovedDown" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canal movido hacia abajo</numerusform>
+            <numerusform>%n canales movidos hacia abajo</numerusform>
+        </translation>
+    </message>
+    <message id="kToldMovedToBottom" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canal movido al final</numerusform>
+            <numerusform>%n canales movidos al final</numerusform>
+        </translation>
+    </message>
+    <message id="kToldMovedToTop" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canal movido al principio</numerusform>
+            <numerusform>%n canales movidos al principio</numerusform>
+        </translation>
+    </message>
+    <message id="kToldMovedUp" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canal movido hacia arriba</numerusform>
+            <numerusform>%n canales movidos hacia arriba</numerusform>
+        </translation>
+    </message>
+    <message id="kToldNotFound">
+        <source></source>
+        <translation>Ningún canal de la lista contiene «%1» en su nombre</translation>
+    </message>
     <message id="kToldNotKept">
         <source></source>
         <translation>«%1» se guardó, pero el archivo perdió: %2.</translation>
@@ -1101,6 +1459,10 @@ Estos continúan a partir del número: %3</translation>
             <numerusform>%n número más cambiado</numerusform>
             <numerusform>%n números más cambiados</numerusform>
         </translation>
+    </message>
+    <message id="kToldRedone">
+        <source></source>
+        <translation>Rehecho: %1</translation>
     </message>
     <message id="kToldReloaded">
         <source></source>
@@ -1129,9 +1491,17 @@ Estos continúan a partir del número: %3</translation>
             <numerusform>Se omitirán %n canales</numerusform>
         </translation>
     </message>
+    <message id="kToldSwapped">
+        <source></source>
+        <translation>Los canales %1 y %2 han intercambiado sus números</translation>
+    </message>
     <message id="kToldUnchanged">
         <source></source>
         <translation>«%1» no ha cambiado en el disco</translation>
+    </message>
+    <message id="kToldUndone">
+        <source></source>
+        <translation>Deshecho: %1</translation>
     </message>
     <message id="kToldUnlocked" numerus="yes">
         <source></source>
@@ -1147,6 +1517,10 @@ Estos continúan a partir del número: %3</translation>
             <numerusform>Ya no se omitirán %n canales</numerusform>
         </translation>
     </message>
+    <message id="kToldWentTo">
+        <source></source>
+        <translation>Se ha pasado a otro paso del historial</translation>
+    </message>
     <message id="kTV">
         <source></source>
         <translation>&amp;TV</translation>
@@ -1154,6 +1528,10 @@ Estos continúan a partir del número: %3</translation>
     <message id="kTypeFilter">
         <source></source>
         <translation>Tipo</translation>
+    </message>
+    <message id="kUndoLink">
+        <source></source>
+        <translation>Deshacer</translation>
     </message>
     <message id="kUntitled">
         <source></source>

@@ -51,6 +51,111 @@
         <source></source>
         <translation>Choisir une liste de référence</translation>
     </message>
+    <message id="kArrangeAllShown" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Classe la %n chaîne affichée parmi les numéros qu’elle occupe actuellement.</numerusform>
+            <numerusform>Classe toutes les chaînes affichées (%n) parmi les numéros qu’elles occupent actuellement.</numerusform>
+        </translation>
+    </message>
+    <message id="kArrangeByEncryption">
+        <source></source>
+        <translation>Cryptage</translation>
+    </message>
+    <message id="kArrangeByFrequency">
+        <source></source>
+        <translation>Fréquence</translation>
+    </message>
+    <message id="kArrangeByName">
+        <source></source>
+        <translation>Nom</translation>
+    </message>
+    <message id="kArrangeByNetwork">
+        <source></source>
+        <translation>Réseau</translation>
+    </message>
+    <message id="kArrangeByNumber">
+        <source></source>
+        <translation>Numéro</translation>
+    </message>
+    <message id="kArrangeBySatellite">
+        <source></source>
+        <translation>Satellite</translation>
+    </message>
+    <message id="kArrangeByServiceId">
+        <source></source>
+        <translation>ID de service</translation>
+    </message>
+    <message id="kArrangeByType">
+        <source></source>
+        <translation>Type (UHD, HD, SD)</translation>
+    </message>
+    <message id="kArrangeDirection">
+        <source></source>
+        <translation>Sens</translation>
+    </message>
+    <message id="kArrangeDown">
+        <source></source>
+        <translation>Décroissant</translation>
+    </message>
+    <message id="kArrangeEncryptedFirst">
+        <source></source>
+        <translation>Cryptées d’abord</translation>
+    </message>
+    <message id="kArrangeFirst">
+        <source></source>
+        <translation>&amp;Classer par :</translation>
+    </message>
+    <message id="kArrangeFreeFirst">
+        <source></source>
+        <translation>En clair d’abord</translation>
+    </message>
+    <message id="kArrangeNoChange">
+        <source></source>
+        <translation>Toutes ces chaînes sont déjà dans cet ordre.</translation>
+    </message>
+    <message id="kArrangeNothing">
+        <source></source>
+        <translation>Rien d’autre</translation>
+    </message>
+    <message id="kArrangeOK">
+        <source></source>
+        <translation>Classer</translation>
+    </message>
+    <message id="kArrangePreview" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n chaîne changerait de place.</numerusform>
+            <numerusform>%n chaînes changeraient de place.</numerusform>
+        </translation>
+    </message>
+    <message id="kArrangeSelected" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Classe la %n chaîne sélectionnée parmi les numéros qu’elle occupe actuellement.</numerusform>
+            <numerusform>Classe les %n chaînes sélectionnées parmi les numéros qu’elles occupent actuellement.</numerusform>
+        </translation>
+    </message>
+    <message id="kArrangeThen">
+        <source></source>
+        <translation>&amp;Puis par :</translation>
+    </message>
+    <message id="kArrangeThenBy">
+        <source></source>
+        <translation>P&amp;uis par :</translation>
+    </message>
+    <message id="kArrangeTip">
+        <source></source>
+        <translation>Classer les chaînes parmi les numéros qu’elles occupent</translation>
+    </message>
+    <message id="kArrangeTitle">
+        <source></source>
+        <translation>Classer les chaînes</translation>
+    </message>
+    <message id="kArrangeUp">
+        <source></source>
+        <translation>Croissant</translation>
+    </message>
     <message id="kBad_file_type">
         <source></source>
         <translation>Les fichiers de ce type ne peuvent pas être utilisés</translation>
@@ -353,6 +458,30 @@
         <source></source>
         <translation>Afficher ses chaînes TV</translation>
     </message>
+    <message id="kHistoryCurrent">
+        <source></source>
+        <translation>Actuelle</translation>
+    </message>
+    <message id="kHistoryOldest">
+        <source></source>
+        <translation>Plus ancienne étape conservée</translation>
+    </message>
+    <message id="kHistorySaved">
+        <source></source>
+        <translation>%1 (enregistré)</translation>
+    </message>
+    <message id="kHistoryStart">
+        <source></source>
+        <translation>Liste à l’ouverture</translation>
+    </message>
+    <message id="kHistoryTitle">
+        <source></source>
+        <translation>Historique</translation>
+    </message>
+    <message id="kHistoryUndone">
+        <source></source>
+        <translation>Annulé</translation>
+    </message>
     <message id="kInfo">
         <source></source>
         <translation>&amp;Informations…</translation>
@@ -464,6 +593,10 @@
         <source></source>
         <translation>Appliquer un &amp;ordre…</translation>
     </message>
+    <message id="kMenuArrange">
+        <source></source>
+        <translation>C&amp;lasser…</translation>
+    </message>
     <message id="kMenuCable">
         <source></source>
         <translation>&amp;Câble</translation>
@@ -475,6 +608,10 @@
     <message id="kMenuColumns">
         <source></source>
         <translation>Colo&amp;nnes</translation>
+    </message>
+    <message id="kMenuCopy">
+        <source></source>
+        <translation>&amp;Copier</translation>
     </message>
     <message id="kMenuEdit">
         <source></source>
@@ -520,6 +657,18 @@
         <source></source>
         <translation>&amp;Rechercher</translation>
     </message>
+    <message id="kMenuFindNext">
+        <source></source>
+        <translation>Rechercher la &amp;suivante</translation>
+    </message>
+    <message id="kMenuFindPrevious">
+        <source></source>
+        <translation>Rechercher la &amp;précédente</translation>
+    </message>
+    <message id="kMenuFindText">
+        <source></source>
+        <translation>&amp;Rechercher…</translation>
+    </message>
     <message id="kMenuGuide">
         <source></source>
         <translation>&amp;Aide de Quillet</translation>
@@ -527,6 +676,10 @@
     <message id="kMenuHelp">
         <source></source>
         <translation>Aid&amp;e</translation>
+    </message>
+    <message id="kMenuHistory">
+        <source></source>
+        <translation>H&amp;istorique</translation>
     </message>
     <message id="kMenuInfo">
         <source></source>
@@ -536,9 +689,25 @@
         <source></source>
         <translation>&amp;Verrouillage parental</translation>
     </message>
+    <message id="kMenuMoveDown">
+        <source></source>
+        <translation>&amp;Descendre</translation>
+    </message>
     <message id="kMenuMoveTo">
         <source></source>
         <translation>Dé&amp;placer vers…</translation>
+    </message>
+    <message id="kMenuMoveToBottom">
+        <source></source>
+        <translation>Déplacer to&amp;ut en bas</translation>
+    </message>
+    <message id="kMenuMoveToTop">
+        <source></source>
+        <translation>Déplacer tout en &amp;haut</translation>
+    </message>
+    <message id="kMenuMoveUp">
+        <source></source>
+        <translation>&amp;Monter</translation>
     </message>
     <message id="kMenuNew">
         <source></source>
@@ -564,9 +733,21 @@
         <source></source>
         <translation>Stations de &amp;radio</translation>
     </message>
+    <message id="kMenuRedo">
+        <source></source>
+        <translation>Ré&amp;tablir</translation>
+    </message>
+    <message id="kMenuRedoStep">
+        <source></source>
+        <translation>Ré&amp;tablir : %1</translation>
+    </message>
     <message id="kMenuReload">
         <source></source>
         <translation>Re&amp;charger depuis le disque</translation>
+    </message>
+    <message id="kMenuRename">
+        <source></source>
+        <translation>R&amp;enommer</translation>
     </message>
     <message id="kMenuRevert">
         <source></source>
@@ -580,13 +761,49 @@
         <source></source>
         <translation>&amp;Enregistrer</translation>
     </message>
+    <message id="kMenuSelect">
+        <source></source>
+        <translation>&amp;Sélectionner</translation>
+    </message>
+    <message id="kMenuSelectAll">
+        <source></source>
+        <translation>&amp;Toutes</translation>
+    </message>
+    <message id="kMenuSelectEncrypted">
+        <source></source>
+        <translation>&amp;Cryptées</translation>
+    </message>
+    <message id="kMenuSelectInvert">
+        <source></source>
+        <translation>&amp;Inverser la sélection</translation>
+    </message>
+    <message id="kMenuSelectNone">
+        <source></source>
+        <translation>&amp;Aucune</translation>
+    </message>
+    <message id="kMenuSelectSameType">
+        <source></source>
+        <translation>&amp;Même type</translation>
+    </message>
     <message id="kMenuSkip">
         <source></source>
         <translation>&amp;Ignorer</translation>
     </message>
+    <message id="kMenuSwap">
+        <source></source>
+        <translation>Échan&amp;ger les numéros</translation>
+    </message>
     <message id="kMenuTV">
         <source></source>
         <translation>Chaînes &amp;TV</translation>
+    </message>
+    <message id="kMenuUndo">
+        <source></source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message id="kMenuUndoStep">
+        <source></source>
+        <translation>&amp;Annuler : %1</translation>
     </message>
     <message id="kMenuView">
         <source></source>
@@ -1019,6 +1236,72 @@ Ces dernières suivent à partir du numéro : %3</translation>
         <source></source>
         <translation>Chaînes</translation>
     </message>
+    <message id="kStepArranged" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Classement de %n chaîne</numerusform>
+            <numerusform>Classement de %n chaînes</numerusform>
+        </translation>
+    </message>
+    <message id="kStepClosedGaps">
+        <source></source>
+        <translation>Comblement des vides</translation>
+    </message>
+    <message id="kStepLocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Verrouillage de %n chaîne</numerusform>
+            <numerusform>Verrouillage de %n chaînes</numerusform>
+        </translation>
+    </message>
+    <message id="kStepMoved" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Déplacement de %n chaîne</numerusform>
+            <numerusform>Déplacement de %n chaînes</numerusform>
+        </translation>
+    </message>
+    <message id="kStepOrdered">
+        <source></source>
+        <translation>Ordre de %1</translation>
+    </message>
+    <message id="kStepRenamed">
+        <source></source>
+        <translation>Renommage en « %1 »</translation>
+    </message>
+    <message id="kStepSkipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>« Ignorer » pour %n chaîne</numerusform>
+            <numerusform>« Ignorer » pour %n chaînes</numerusform>
+        </translation>
+    </message>
+    <message id="kStepSwapped">
+        <source></source>
+        <translation>Échange des numéros</translation>
+    </message>
+    <message id="kStepUnlocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Déverrouillage de %n chaîne</numerusform>
+            <numerusform>Déverrouillage de %n chaînes</numerusform>
+        </translation>
+    </message>
+    <message id="kStepUnskipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>« Ne plus ignorer » pour %n chaîne</numerusform>
+            <numerusform>« Ne plus ignorer » pour %n chaînes</numerusform>
+        </translation>
+    </message>
+    <message id="kTipAtBottom">
+        <source></source>
+        <translation>Les chaînes sélectionnées sont déjà tout en bas</translation>
+    </message>
+    <message id="kTipAtTop">
+        <source></source>
+        <translation>Les chaînes sélectionnées sont déjà tout en haut</translation>
+    </message>
     <message id="kTipColumnAlwaysShown">
         <source></source>
         <translation>Cette colonne est toujours affichée</translation>
@@ -1027,13 +1310,25 @@ Ces dernières suivent à partir du numéro : %3</translation>
         <source></source>
         <translation>Le fichier ne l’indique pour aucune chaîne de cette liste</translation>
     </message>
+    <message id="kTipColumnsUsual">
+        <source></source>
+        <translation>Ce sont déjà les colonnes habituelles</translation>
+    </message>
     <message id="kTipFilterTVOnly">
         <source></source>
         <translation>Les types ne peuvent être choisis que pour les chaînes TV</translation>
     </message>
+    <message id="kTipForeign">
+        <source></source>
+        <translation>Les chaînes affichées viennent d’un autre mode de réception ; effacez d’abord la recherche et le type</translation>
+    </message>
     <message id="kTipNoFile">
         <source></source>
         <translation>Il n’y a pas de fichier à relire sur le disque</translation>
+    </message>
+    <message id="kTipNoneEncrypted">
+        <source></source>
+        <translation>Le fichier n’indique aucune chaîne cryptée</translation>
     </message>
     <message id="kTipNoStations">
         <source></source>
@@ -1043,9 +1338,40 @@ Ces dernières suivent à partir du numéro : %3</translation>
         <source></source>
         <translation>Pour les fichiers qui ont des chaînes de ce mode de réception</translation>
     </message>
+    <message id="kTipNoSteps">
+        <source></source>
+        <translation>Il n’y a pas d’autre étape dans ce sens</translation>
+    </message>
+    <message id="kTipNotTold">
+        <source></source>
+        <translation>Le fichier n’indique pas cette information pour ces chaînes</translation>
+    </message>
+    <message id="kTipRenameAnalogue">
+        <source></source>
+        <translation>Les noms ne peuvent être modifiés que dans la liste analogique</translation>
+    </message>
+    <message id="kTipSearchFirst">
+        <source></source>
+        <translation>Saisissez d’abord quelque chose dans le champ de recherche</translation>
+    </message>
     <message id="kTipSelectFirst">
         <source></source>
         <translation>Sélectionnez d’abord des chaînes dans la liste</translation>
+    </message>
+    <message id="kTipSelectTwo">
+        <source></source>
+        <translation>Sélectionnez d’abord exactement deux chaînes</translation>
+    </message>
+    <message id="kTipTooFew">
+        <source></source>
+        <translation>Il n’y a pas assez de chaînes à classer</translation>
+    </message>
+    <message id="kToldArranged" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n chaîne a maintenant une autre place</numerusform>
+            <numerusform>%n chaînes ont maintenant une autre place</numerusform>
+        </translation>
     </message>
     <message id="kToldClosedGaps" numerus="yes">
         <source></source>
@@ -1076,6 +1402,38 @@ Ces dernières suivent à partir du numéro : %3</translation>
             <numerusform>%n chaînes déplacées vers %1</numerusform>
         </translation>
     </message>
+    <message id="kToldMovedDown" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n chaîne déplacée vers le bas</numerusform>
+            <numerusform>%n chaînes déplacées vers le bas</numerusform>
+        </translation>
+    </message>
+    <message id="kToldMovedToBottom" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n chaîne déplacée tout en bas</numerusform>
+            <numerusform>%n chaînes déplacées tout en bas</numerusform>
+        </translation>
+    </message>
+    <message id="kToldMovedToTop" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n chaîne déplacée tout en haut</numerusform>
+            <numerusform>%n chaînes déplacées tout en haut</numerusform>
+        </translation>
+    </message>
+    <message id="kToldMovedUp" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n chaîne déplacée vers le haut</numerusform>
+            <numerusform>%n chaînes déplacées vers le haut</numerusform>
+        </translation>
+    </message>
+    <message id="kToldNotFound">
+        <source></source>
+        <translation>Aucune chaîne de la liste ne contient « %1 » dans son nom</translation>
+    </message>
     <message id="kToldNotKept">
         <source></source>
         <translation>« %1 » a été enregistré, mais le fichier a perdu : %2.</translation>
@@ -1101,6 +1459,10 @@ Ces dernières suivent à partir du numéro : %3</translation>
             <numerusform>%n autre numéro modifié</numerusform>
             <numerusform>%n autres numéros modifiés</numerusform>
         </translation>
+    </message>
+    <message id="kToldRedone">
+        <source></source>
+        <translation>Rétabli : %1</translation>
     </message>
     <message id="kToldReloaded">
         <source></source>
@@ -1129,9 +1491,17 @@ Ces dernières suivent à partir du numéro : %3</translation>
             <numerusform>%n chaînes seront ignorées</numerusform>
         </translation>
     </message>
+    <message id="kToldSwapped">
+        <source></source>
+        <translation>Les chaînes %1 et %2 ont échangé leurs numéros</translation>
+    </message>
     <message id="kToldUnchanged">
         <source></source>
         <translation>« %1 » n’a pas changé sur le disque</translation>
+    </message>
+    <message id="kToldUndone">
+        <source></source>
+        <translation>Annulé : %1</translation>
     </message>
     <message id="kToldUnlocked" numerus="yes">
         <source></source>
@@ -1147,6 +1517,10 @@ Ces dernières suivent à partir du numéro : %3</translation>
             <numerusform>%n chaînes ne seront plus ignorées</numerusform>
         </translation>
     </message>
+    <message id="kToldWentTo">
+        <source></source>
+        <translation>Passage à une autre étape de l’historique</translation>
+    </message>
     <message id="kTV">
         <source></source>
         <translation>&amp;TV</translation>
@@ -1154,6 +1528,10 @@ Ces dernières suivent à partir du numéro : %3</translation>
     <message id="kTypeFilter">
         <source></source>
         <translation>Type</translation>
+    </message>
+    <message id="kUndoLink">
+        <source></source>
+        <translation>Annuler</translation>
     </message>
     <message id="kUntitled">
         <source></source>

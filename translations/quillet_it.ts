@@ -51,6 +51,111 @@
         <source></source>
         <translation>Scegli una lista di riferimento</translation>
     </message>
+    <message id="kArrangeAllShown" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Ordina il %n canale visualizzato tra i numeri che occupa ora.</numerusform>
+            <numerusform>Ordina tutti i %n canali visualizzati tra i numeri che occupano ora.</numerusform>
+        </translation>
+    </message>
+    <message id="kArrangeByEncryption">
+        <source></source>
+        <translation>Criptaggio</translation>
+    </message>
+    <message id="kArrangeByFrequency">
+        <source></source>
+        <translation>Frequenza</translation>
+    </message>
+    <message id="kArrangeByName">
+        <source></source>
+        <translation>Nome</translation>
+    </message>
+    <message id="kArrangeByNetwork">
+        <source></source>
+        <translation>Rete</translation>
+    </message>
+    <message id="kArrangeByNumber">
+        <source></source>
+        <translation>Numero</translation>
+    </message>
+    <message id="kArrangeBySatellite">
+        <source></source>
+        <translation>Satellite</translation>
+    </message>
+    <message id="kArrangeByServiceId">
+        <source></source>
+        <translation>ID servizio</translation>
+    </message>
+    <message id="kArrangeByType">
+        <source></source>
+        <translation>Tipo (UHD, HD, SD)</translation>
+    </message>
+    <message id="kArrangeDirection">
+        <source></source>
+        <translation>Direzione</translation>
+    </message>
+    <message id="kArrangeDown">
+        <source></source>
+        <translation>Decrescente</translation>
+    </message>
+    <message id="kArrangeEncryptedFirst">
+        <source></source>
+        <translation>Prima quelli criptati</translation>
+    </message>
+    <message id="kArrangeFirst">
+        <source></source>
+        <translation>&amp;Ordina per:</translation>
+    </message>
+    <message id="kArrangeFreeFirst">
+        <source></source>
+        <translation>Prima quelli in chiaro</translation>
+    </message>
+    <message id="kArrangeNoChange">
+        <source></source>
+        <translation>Tutti questi canali sono già in quest’ordine.</translation>
+    </message>
+    <message id="kArrangeNothing">
+        <source></source>
+        <translation>Nient’altro</translation>
+    </message>
+    <message id="kArrangeOK">
+        <source></source>
+        <translation>Ordina</translation>
+    </message>
+    <message id="kArrangePreview" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canale cambierebbe posto.</numerusform>
+            <numerusform>%n canali cambierebbero posto.</numerusform>
+        </translation>
+    </message>
+    <message id="kArrangeSelected" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Ordina il %n canale selezionato tra i numeri che occupa ora.</numerusform>
+            <numerusform>Ordina i %n canali selezionati tra i numeri che occupano ora.</numerusform>
+        </translation>
+    </message>
+    <message id="kArrangeThen">
+        <source></source>
+        <translation>&amp;Poi per:</translation>
+    </message>
+    <message id="kArrangeThenBy">
+        <source></source>
+        <translation>Po&amp;i per:</translation>
+    </message>
+    <message id="kArrangeTip">
+        <source></source>
+        <translation>Ordina i canali tra i numeri che occupano</translation>
+    </message>
+    <message id="kArrangeTitle">
+        <source></source>
+        <translation>Ordina canali</translation>
+    </message>
+    <message id="kArrangeUp">
+        <source></source>
+        <translation>Crescente</translation>
+    </message>
     <message id="kBad_file_type">
         <source></source>
         <translation>Non è possibile usare file di questo tipo</translation>
@@ -353,6 +458,30 @@
         <source></source>
         <translation>Mostra i suoi canali TV</translation>
     </message>
+    <message id="kHistoryCurrent">
+        <source></source>
+        <translation>Attuale</translation>
+    </message>
+    <message id="kHistoryOldest">
+        <source></source>
+        <translation>Passo più vecchio conservato</translation>
+    </message>
+    <message id="kHistorySaved">
+        <source></source>
+        <translation>%1 (salvato)</translation>
+    </message>
+    <message id="kHistoryStart">
+        <source></source>
+        <translation>Lista all’apertura</translation>
+    </message>
+    <message id="kHistoryTitle">
+        <source></source>
+        <translation>Cronologia</translation>
+    </message>
+    <message id="kHistoryUndone">
+        <source></source>
+        <translation>Annullato</translation>
+    </message>
     <message id="kInfo">
         <source></source>
         <translation>&amp;Info…</translation>
@@ -464,6 +593,10 @@
         <source></source>
         <translation>Applica &amp;ordine…</translation>
     </message>
+    <message id="kMenuArrange">
+        <source></source>
+        <translation>Or&amp;dina…</translation>
+    </message>
     <message id="kMenuCable">
         <source></source>
         <translation>&amp;Cavo</translation>
@@ -475,6 +608,10 @@
     <message id="kMenuColumns">
         <source></source>
         <translation>Colo&amp;nne</translation>
+    </message>
+    <message id="kMenuCopy">
+        <source></source>
+        <translation>Co&amp;pia</translation>
     </message>
     <message id="kMenuEdit">
         <source></source>
@@ -520,6 +657,18 @@
         <source></source>
         <translation>&amp;Cerca</translation>
     </message>
+    <message id="kMenuFindNext">
+        <source></source>
+        <translation>Cerca &amp;successivo</translation>
+    </message>
+    <message id="kMenuFindPrevious">
+        <source></source>
+        <translation>Cerca &amp;precedente</translation>
+    </message>
+    <message id="kMenuFindText">
+        <source></source>
+        <translation>&amp;Cerca…</translation>
+    </message>
     <message id="kMenuGuide">
         <source></source>
         <translation>&amp;Guida di Quillet</translation>
@@ -527,6 +676,10 @@
     <message id="kMenuHelp">
         <source></source>
         <translation>&amp;Aiuto</translation>
+    </message>
+    <message id="kMenuHistory">
+        <source></source>
+        <translation>Cronolo&amp;gia</translation>
     </message>
     <message id="kMenuInfo">
         <source></source>
@@ -536,9 +689,25 @@
         <source></source>
         <translation>&amp;Blocco bambini</translation>
     </message>
+    <message id="kMenuMoveDown">
+        <source></source>
+        <translation>Sposta &amp;giù</translation>
+    </message>
     <message id="kMenuMoveTo">
         <source></source>
         <translation>&amp;Sposta a…</translation>
+    </message>
+    <message id="kMenuMoveToBottom">
+        <source></source>
+        <translation>Sposta alla &amp;fine</translation>
+    </message>
+    <message id="kMenuMoveToTop">
+        <source></source>
+        <translation>Sposta all’ini&amp;zio</translation>
+    </message>
+    <message id="kMenuMoveUp">
+        <source></source>
+        <translation>Spos&amp;ta su</translation>
     </message>
     <message id="kMenuNew">
         <source></source>
@@ -564,9 +733,21 @@
         <source></source>
         <translation>Stazioni &amp;radio</translation>
     </message>
+    <message id="kMenuRedo">
+        <source></source>
+        <translation>&amp;Ripeti</translation>
+    </message>
+    <message id="kMenuRedoStep">
+        <source></source>
+        <translation>&amp;Ripeti: %1</translation>
+    </message>
     <message id="kMenuReload">
         <source></source>
         <translation>Ri&amp;leggi dal disco</translation>
+    </message>
+    <message id="kMenuRename">
+        <source></source>
+        <translation>Ri&amp;nomina</translation>
     </message>
     <message id="kMenuRevert">
         <source></source>
@@ -580,13 +761,49 @@
         <source></source>
         <translation>&amp;Salva</translation>
     </message>
+    <message id="kMenuSelect">
+        <source></source>
+        <translation>S&amp;eleziona</translation>
+    </message>
+    <message id="kMenuSelectAll">
+        <source></source>
+        <translation>&amp;Tutti</translation>
+    </message>
+    <message id="kMenuSelectEncrypted">
+        <source></source>
+        <translation>&amp;Criptati</translation>
+    </message>
+    <message id="kMenuSelectInvert">
+        <source></source>
+        <translation>&amp;Inverti selezione</translation>
+    </message>
+    <message id="kMenuSelectNone">
+        <source></source>
+        <translation>&amp;Nessuno</translation>
+    </message>
+    <message id="kMenuSelectSameType">
+        <source></source>
+        <translation>&amp;Stesso tipo</translation>
+    </message>
     <message id="kMenuSkip">
         <source></source>
         <translation>S&amp;alta</translation>
     </message>
+    <message id="kMenuSwap">
+        <source></source>
+        <translation>Sca&amp;mbia i numeri</translation>
+    </message>
     <message id="kMenuTV">
         <source></source>
         <translation>Canali &amp;TV</translation>
+    </message>
+    <message id="kMenuUndo">
+        <source></source>
+        <translation>Annu&amp;lla</translation>
+    </message>
+    <message id="kMenuUndoStep">
+        <source></source>
+        <translation>Annu&amp;lla: %1</translation>
     </message>
     <message id="kMenuView">
         <source></source>
@@ -1019,6 +1236,72 @@ Questi proseguono dal numero: %3</translation>
         <source></source>
         <translation>Canali</translation>
     </message>
+    <message id="kStepArranged" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Ordinamento di %n canale</numerusform>
+            <numerusform>Ordinamento di %n canali</numerusform>
+        </translation>
+    </message>
+    <message id="kStepClosedGaps">
+        <source></source>
+        <translation>Riempimento dei vuoti</translation>
+    </message>
+    <message id="kStepLocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Blocco di %n canale</numerusform>
+            <numerusform>Blocco di %n canali</numerusform>
+        </translation>
+    </message>
+    <message id="kStepMoved" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Spostamento di %n canale</numerusform>
+            <numerusform>Spostamento di %n canali</numerusform>
+        </translation>
+    </message>
+    <message id="kStepOrdered">
+        <source></source>
+        <translation>Ordine di %1</translation>
+    </message>
+    <message id="kStepRenamed">
+        <source></source>
+        <translation>Cambio del nome in “%1”</translation>
+    </message>
+    <message id="kStepSkipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Salto di %n canale</numerusform>
+            <numerusform>Salto di %n canali</numerusform>
+        </translation>
+    </message>
+    <message id="kStepSwapped">
+        <source></source>
+        <translation>Scambio dei numeri</translation>
+    </message>
+    <message id="kStepUnlocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Sblocco di %n canale</numerusform>
+            <numerusform>Sblocco di %n canali</numerusform>
+        </translation>
+    </message>
+    <message id="kStepUnskipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Fine del salto di %n canale</numerusform>
+            <numerusform>Fine del salto di %n canali</numerusform>
+        </translation>
+    </message>
+    <message id="kTipAtBottom">
+        <source></source>
+        <translation>I canali selezionati sono già alla fine</translation>
+    </message>
+    <message id="kTipAtTop">
+        <source></source>
+        <translation>I canali selezionati sono già all’inizio</translation>
+    </message>
     <message id="kTipColumnAlwaysShown">
         <source></source>
         <translation>Questa colonna è sempre visibile</translation>
@@ -1027,13 +1310,25 @@ Questi proseguono dal numero: %3</translation>
         <source></source>
         <translation>Il file non lo indica per nessun canale di questa lista</translation>
     </message>
+    <message id="kTipColumnsUsual">
+        <source></source>
+        <translation>Le colonne sono già quelle abituali</translation>
+    </message>
     <message id="kTipFilterTVOnly">
         <source></source>
         <translation>I tipi si possono scegliere solo per i canali TV</translation>
     </message>
+    <message id="kTipForeign">
+        <source></source>
+        <translation>I canali visualizzati sono di un altro tipo di ricezione; azzera prima la ricerca e il tipo</translation>
+    </message>
     <message id="kTipNoFile">
         <source></source>
         <translation>Non c’è alcun file da rileggere sul disco</translation>
+    </message>
+    <message id="kTipNoneEncrypted">
+        <source></source>
+        <translation>Il file non indica alcun canale criptato</translation>
     </message>
     <message id="kTipNoStations">
         <source></source>
@@ -1043,9 +1338,40 @@ Questi proseguono dal numero: %3</translation>
         <source></source>
         <translation>Per i file che hanno canali di questo tipo di ricezione</translation>
     </message>
+    <message id="kTipNoSteps">
+        <source></source>
+        <translation>Non ci sono altri passi in questa direzione</translation>
+    </message>
+    <message id="kTipNotTold">
+        <source></source>
+        <translation>Il file non indica questo dato per questi canali</translation>
+    </message>
+    <message id="kTipRenameAnalogue">
+        <source></source>
+        <translation>I nomi si possono cambiare solo nella lista analogica</translation>
+    </message>
+    <message id="kTipSearchFirst">
+        <source></source>
+        <translation>Scrivi prima qualcosa nel campo di ricerca</translation>
+    </message>
     <message id="kTipSelectFirst">
         <source></source>
         <translation>Seleziona prima dei canali nella lista</translation>
+    </message>
+    <message id="kTipSelectTwo">
+        <source></source>
+        <translation>Seleziona prima esattamente due canali</translation>
+    </message>
+    <message id="kTipTooFew">
+        <source></source>
+        <translation>Non ci sono abbastanza canali da ordinare</translation>
+    </message>
+    <message id="kToldArranged" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canale è ora in un altro posto</numerusform>
+            <numerusform>%n canali sono ora in un altro posto</numerusform>
+        </translation>
     </message>
     <message id="kToldClosedGaps" numerus="yes">
         <source></source>
@@ -1076,6 +1402,38 @@ Questi proseguono dal numero: %3</translation>
             <numerusform>%n canali spostati al %1</numerusform>
         </translation>
     </message>
+    <message id="kToldMovedDown" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canale spostato verso il basso</numerusform>
+            <numerusform>%n canali spostati verso il basso</numerusform>
+        </translation>
+    </message>
+    <message id="kToldMovedToBottom" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canale spostato alla fine</numerusform>
+            <numerusform>%n canali spostati alla fine</numerusform>
+        </translation>
+    </message>
+    <message id="kToldMovedToTop" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canale spostato all’inizio</numerusform>
+            <numerusform>%n canali spostati all’inizio</numerusform>
+        </translation>
+    </message>
+    <message id="kToldMovedUp" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canale spostato verso l’alto</numerusform>
+            <numerusform>%n canali spostati verso l’alto</numerusform>
+        </translation>
+    </message>
+    <message id="kToldNotFound">
+        <source></source>
+        <translation>Nessun canale della lista contiene “%1” nel nome</translation>
+    </message>
     <message id="kToldNotKept">
         <source></source>
         <translation>“%1” è stata salvata, ma il file ha perso: %2.</translation>
@@ -1101,6 +1459,10 @@ Questi proseguono dal numero: %3</translation>
             <numerusform>%n altro numero cambiato</numerusform>
             <numerusform>altri %n numeri cambiati</numerusform>
         </translation>
+    </message>
+    <message id="kToldRedone">
+        <source></source>
+        <translation>Ripetuto: %1</translation>
     </message>
     <message id="kToldReloaded">
         <source></source>
@@ -1129,9 +1491,17 @@ Questi proseguono dal numero: %3</translation>
             <numerusform>%n canali verranno saltati</numerusform>
         </translation>
     </message>
+    <message id="kToldSwapped">
+        <source></source>
+        <translation>I canali %1 e %2 si sono scambiati i numeri</translation>
+    </message>
     <message id="kToldUnchanged">
         <source></source>
         <translation>“%1” non è cambiato sul disco</translation>
+    </message>
+    <message id="kToldUndone">
+        <source></source>
+        <translation>Annullato: %1</translation>
     </message>
     <message id="kToldUnlocked" numerus="yes">
         <source></source>
@@ -1147,6 +1517,10 @@ Questi proseguono dal numero: %3</translation>
             <numerusform>%n canali non verranno più saltati</numerusform>
         </translation>
     </message>
+    <message id="kToldWentTo">
+        <source></source>
+        <translation>Passaggio a un altro passo della cronologia</translation>
+    </message>
     <message id="kTV">
         <source></source>
         <translation>&amp;TV</translation>
@@ -1154,6 +1528,10 @@ Questi proseguono dal numero: %3</translation>
     <message id="kTypeFilter">
         <source></source>
         <translation>Tipo</translation>
+    </message>
+    <message id="kUndoLink">
+        <source></source>
+        <translation>Annulla</translation>
     </message>
     <message id="kUntitled">
         <source></source>

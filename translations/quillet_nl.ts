@@ -51,6 +51,111 @@
         <source></source>
         <translation>Kies een referentielijst</translation>
     </message>
+    <message id="kArrangeAllShown" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Rangschikt de %n getoonde zender binnen de nummers die deze nu heeft.</numerusform>
+            <numerusform>Rangschikt alle %n getoonde zenders binnen de nummers die ze nu hebben.</numerusform>
+        </translation>
+    </message>
+    <message id="kArrangeByEncryption">
+        <source></source>
+        <translation>Versleuteling</translation>
+    </message>
+    <message id="kArrangeByFrequency">
+        <source></source>
+        <translation>Frequentie</translation>
+    </message>
+    <message id="kArrangeByName">
+        <source></source>
+        <translation>Naam</translation>
+    </message>
+    <message id="kArrangeByNetwork">
+        <source></source>
+        <translation>Netwerk</translation>
+    </message>
+    <message id="kArrangeByNumber">
+        <source></source>
+        <translation>Nummer</translation>
+    </message>
+    <message id="kArrangeBySatellite">
+        <source></source>
+        <translation>Satelliet</translation>
+    </message>
+    <message id="kArrangeByServiceId">
+        <source></source>
+        <translation>Service-ID</translation>
+    </message>
+    <message id="kArrangeByType">
+        <source></source>
+        <translation>Type (UHD, HD, SD)</translation>
+    </message>
+    <message id="kArrangeDirection">
+        <source></source>
+        <translation>Richting</translation>
+    </message>
+    <message id="kArrangeDown">
+        <source></source>
+        <translation>Aflopend</translation>
+    </message>
+    <message id="kArrangeEncryptedFirst">
+        <source></source>
+        <translation>Versleutelde eerst</translation>
+    </message>
+    <message id="kArrangeFirst">
+        <source></source>
+        <translation>&amp;Rangschikken op:</translation>
+    </message>
+    <message id="kArrangeFreeFirst">
+        <source></source>
+        <translation>Vrije eerst</translation>
+    </message>
+    <message id="kArrangeNoChange">
+        <source></source>
+        <translation>Al deze zenders staan al in deze volgorde.</translation>
+    </message>
+    <message id="kArrangeNothing">
+        <source></source>
+        <translation>Niets anders</translation>
+    </message>
+    <message id="kArrangeOK">
+        <source></source>
+        <translation>Rangschikken</translation>
+    </message>
+    <message id="kArrangePreview" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n zender zou van plaats veranderen.</numerusform>
+            <numerusform>%n zenders zouden van plaats veranderen.</numerusform>
+        </translation>
+    </message>
+    <message id="kArrangeSelected" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Rangschikt de %n geselecteerde zender binnen de nummers die deze nu heeft.</numerusform>
+            <numerusform>Rangschikt de %n geselecteerde zenders binnen de nummers die ze nu hebben.</numerusform>
+        </translation>
+    </message>
+    <message id="kArrangeThen">
+        <source></source>
+        <translation>&amp;Daarna op:</translation>
+    </message>
+    <message id="kArrangeThenBy">
+        <source></source>
+        <translation>Daar&amp;na op:</translation>
+    </message>
+    <message id="kArrangeTip">
+        <source></source>
+        <translation>Zenders sorteren binnen de nummers die ze hebben</translation>
+    </message>
+    <message id="kArrangeTitle">
+        <source></source>
+        <translation>Zenders rangschikken</translation>
+    </message>
+    <message id="kArrangeUp">
+        <source></source>
+        <translation>Oplopend</translation>
+    </message>
     <message id="kBad_file_type">
         <source></source>
         <translation>Bestanden van dit type kunnen niet worden gebruikt</translation>
@@ -353,6 +458,30 @@
         <source></source>
         <translation>De tv-zenders ervan tonen</translation>
     </message>
+    <message id="kHistoryCurrent">
+        <source></source>
+        <translation>Huidig</translation>
+    </message>
+    <message id="kHistoryOldest">
+        <source></source>
+        <translation>Oudste bewaarde stap</translation>
+    </message>
+    <message id="kHistorySaved">
+        <source></source>
+        <translation>%1 (opgeslagen)</translation>
+    </message>
+    <message id="kHistoryStart">
+        <source></source>
+        <translation>Lijst zoals geopend</translation>
+    </message>
+    <message id="kHistoryTitle">
+        <source></source>
+        <translation>Geschiedenis</translation>
+    </message>
+    <message id="kHistoryUndone">
+        <source></source>
+        <translation>Ongedaan gemaakt</translation>
+    </message>
     <message id="kInfo">
         <source></source>
         <translation>&amp;Info…</translation>
@@ -464,6 +593,10 @@
         <source></source>
         <translation>Volgorde toe&amp;passen…</translation>
     </message>
+    <message id="kMenuArrange">
+        <source></source>
+        <translation>R&amp;angschikken…</translation>
+    </message>
     <message id="kMenuCable">
         <source></source>
         <translation>&amp;Kabel</translation>
@@ -475,6 +608,10 @@
     <message id="kMenuColumns">
         <source></source>
         <translation>Kolo&amp;mmen</translation>
+    </message>
+    <message id="kMenuCopy">
+        <source></source>
+        <translation>Kopië&amp;ren</translation>
     </message>
     <message id="kMenuEdit">
         <source></source>
@@ -520,6 +657,18 @@
         <source></source>
         <translation>&amp;Zoeken</translation>
     </message>
+    <message id="kMenuFindNext">
+        <source></source>
+        <translation>&amp;Volgende zoeken</translation>
+    </message>
+    <message id="kMenuFindPrevious">
+        <source></source>
+        <translation>V&amp;orige zoeken</translation>
+    </message>
+    <message id="kMenuFindText">
+        <source></source>
+        <translation>&amp;Zoeken…</translation>
+    </message>
     <message id="kMenuGuide">
         <source></source>
         <translation>Quillet-&amp;help</translation>
@@ -527,6 +676,10 @@
     <message id="kMenuHelp">
         <source></source>
         <translation>&amp;Help</translation>
+    </message>
+    <message id="kMenuHistory">
+        <source></source>
+        <translation>&amp;Geschiedenis</translation>
     </message>
     <message id="kMenuInfo">
         <source></source>
@@ -536,9 +689,25 @@
         <source></source>
         <translation>&amp;Kinderslot</translation>
     </message>
+    <message id="kMenuMoveDown">
+        <source></source>
+        <translation>Om&amp;laag verplaatsen</translation>
+    </message>
     <message id="kMenuMoveTo">
         <source></source>
         <translation>&amp;Verplaatsen naar…</translation>
+    </message>
+    <message id="kMenuMoveToBottom">
+        <source></source>
+        <translation>Naar het &amp;einde verplaatsen</translation>
+    </message>
+    <message id="kMenuMoveToTop">
+        <source></source>
+        <translation>Naar het &amp;begin verplaatsen</translation>
+    </message>
+    <message id="kMenuMoveUp">
+        <source></source>
+        <translation>Om&amp;hoog verplaatsen</translation>
     </message>
     <message id="kMenuNew">
         <source></source>
@@ -564,9 +733,21 @@
         <source></source>
         <translation>&amp;Radiozenders</translation>
     </message>
+    <message id="kMenuRedo">
+        <source></source>
+        <translation>Opnie&amp;uw uitvoeren</translation>
+    </message>
+    <message id="kMenuRedoStep">
+        <source></source>
+        <translation>%1 opnie&amp;uw uitvoeren</translation>
+    </message>
     <message id="kMenuReload">
         <source></source>
         <translation>Opnieuw &amp;laden van schijf</translation>
+    </message>
+    <message id="kMenuRename">
+        <source></source>
+        <translation>Her&amp;noemen</translation>
     </message>
     <message id="kMenuRevert">
         <source></source>
@@ -580,13 +761,49 @@
         <source></source>
         <translation>Op&amp;slaan</translation>
     </message>
+    <message id="kMenuSelect">
+        <source></source>
+        <translation>&amp;Selecteren</translation>
+    </message>
+    <message id="kMenuSelectAll">
+        <source></source>
+        <translation>&amp;Alle</translation>
+    </message>
+    <message id="kMenuSelectEncrypted">
+        <source></source>
+        <translation>&amp;Versleutelde</translation>
+    </message>
+    <message id="kMenuSelectInvert">
+        <source></source>
+        <translation>Selectie &amp;omkeren</translation>
+    </message>
+    <message id="kMenuSelectNone">
+        <source></source>
+        <translation>&amp;Geen</translation>
+    </message>
+    <message id="kMenuSelectSameType">
+        <source></source>
+        <translation>Zelfde &amp;type</translation>
+    </message>
     <message id="kMenuSkip">
         <source></source>
         <translation>&amp;Overslaan</translation>
     </message>
+    <message id="kMenuSwap">
+        <source></source>
+        <translation>Nummers &amp;wisselen</translation>
+    </message>
     <message id="kMenuTV">
         <source></source>
         <translation>&amp;Tv-zenders</translation>
+    </message>
+    <message id="kMenuUndo">
+        <source></source>
+        <translation>Ongedaan &amp;maken</translation>
+    </message>
+    <message id="kMenuUndoStep">
+        <source></source>
+        <translation>%1 ongedaan &amp;maken</translation>
     </message>
     <message id="kMenuView">
         <source></source>
@@ -1019,6 +1236,72 @@ Deze gaan verder vanaf nummer: %3</translation>
         <source></source>
         <translation>Zenders</translation>
     </message>
+    <message id="kStepArranged" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Rangschikken van %n zender</numerusform>
+            <numerusform>Rangschikken van %n zenders</numerusform>
+        </translation>
+    </message>
+    <message id="kStepClosedGaps">
+        <source></source>
+        <translation>Vullen van gaten</translation>
+    </message>
+    <message id="kStepLocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Vergrendelen van %n zender</numerusform>
+            <numerusform>Vergrendelen van %n zenders</numerusform>
+        </translation>
+    </message>
+    <message id="kStepMoved" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Verplaatsen van %n zender</numerusform>
+            <numerusform>Verplaatsen van %n zenders</numerusform>
+        </translation>
+    </message>
+    <message id="kStepOrdered">
+        <source></source>
+        <translation>Volgorde van %1</translation>
+    </message>
+    <message id="kStepRenamed">
+        <source></source>
+        <translation>Hernoemen naar “%1”</translation>
+    </message>
+    <message id="kStepSkipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Overslaan van %n zender</numerusform>
+            <numerusform>Overslaan van %n zenders</numerusform>
+        </translation>
+    </message>
+    <message id="kStepSwapped">
+        <source></source>
+        <translation>Wisselen van nummers</translation>
+    </message>
+    <message id="kStepUnlocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Ontgrendelen van %n zender</numerusform>
+            <numerusform>Ontgrendelen van %n zenders</numerusform>
+        </translation>
+    </message>
+    <message id="kStepUnskipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Niet meer overslaan van %n zender</numerusform>
+            <numerusform>Niet meer overslaan van %n zenders</numerusform>
+        </translation>
+    </message>
+    <message id="kTipAtBottom">
+        <source></source>
+        <translation>De geselecteerde zenders staan al aan het einde</translation>
+    </message>
+    <message id="kTipAtTop">
+        <source></source>
+        <translation>De geselecteerde zenders staan al aan het begin</translation>
+    </message>
     <message id="kTipColumnAlwaysShown">
         <source></source>
         <translation>Deze kolom wordt altijd getoond</translation>
@@ -1027,13 +1310,25 @@ Deze gaan verder vanaf nummer: %3</translation>
         <source></source>
         <translation>Het bestand vermeldt dit van geen enkele zender in deze lijst</translation>
     </message>
+    <message id="kTipColumnsUsual">
+        <source></source>
+        <translation>De kolommen zijn al de gebruikelijke</translation>
+    </message>
     <message id="kTipFilterTVOnly">
         <source></source>
         <translation>Typen kunnen alleen voor tv-zenders worden gekozen</translation>
     </message>
+    <message id="kTipForeign">
+        <source></source>
+        <translation>De getoonde zenders komen van een andere ontvangstbron; wis eerst de zoekopdracht en het type</translation>
+    </message>
     <message id="kTipNoFile">
         <source></source>
         <translation>Er is geen bestand op de schijf om opnieuw te lezen</translation>
+    </message>
+    <message id="kTipNoneEncrypted">
+        <source></source>
+        <translation>Het bestand vermeldt geen versleutelde zender</translation>
     </message>
     <message id="kTipNoStations">
         <source></source>
@@ -1043,9 +1338,40 @@ Deze gaan verder vanaf nummer: %3</translation>
         <source></source>
         <translation>Voor bestanden met zenders van deze ontvangstbron</translation>
     </message>
+    <message id="kTipNoSteps">
+        <source></source>
+        <translation>Er is geen verdere stap in deze richting</translation>
+    </message>
+    <message id="kTipNotTold">
+        <source></source>
+        <translation>Het bestand vermeldt dit niet van deze zenders</translation>
+    </message>
+    <message id="kTipRenameAnalogue">
+        <source></source>
+        <translation>Namen kunnen alleen in de analoge lijst worden gewijzigd</translation>
+    </message>
+    <message id="kTipSearchFirst">
+        <source></source>
+        <translation>Typ eerst iets in het zoekveld</translation>
+    </message>
     <message id="kTipSelectFirst">
         <source></source>
         <translation>Selecteer eerst zenders in de lijst</translation>
+    </message>
+    <message id="kTipSelectTwo">
+        <source></source>
+        <translation>Selecteer eerst precies twee zenders</translation>
+    </message>
+    <message id="kTipTooFew">
+        <source></source>
+        <translation>Er zijn niet genoeg zenders om te rangschikken</translation>
+    </message>
+    <message id="kToldArranged" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n zender staat nu op een andere plaats</numerusform>
+            <numerusform>%n zenders staan nu op een andere plaats</numerusform>
+        </translation>
     </message>
     <message id="kToldClosedGaps" numerus="yes">
         <source></source>
@@ -1076,6 +1402,38 @@ Deze gaan verder vanaf nummer: %3</translation>
             <numerusform>%n zenders verplaatst naar %1</numerusform>
         </translation>
     </message>
+    <message id="kToldMovedDown" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n zender omlaag verplaatst</numerusform>
+            <numerusform>%n zenders omlaag verplaatst</numerusform>
+        </translation>
+    </message>
+    <message id="kToldMovedToBottom" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n zender naar het einde verplaatst</numerusform>
+            <numerusform>%n zenders naar het einde verplaatst</numerusform>
+        </translation>
+    </message>
+    <message id="kToldMovedToTop" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n zender naar het begin verplaatst</numerusform>
+            <numerusform>%n zenders naar het begin verplaatst</numerusform>
+        </translation>
+    </message>
+    <message id="kToldMovedUp" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n zender omhoog verplaatst</numerusform>
+            <numerusform>%n zenders omhoog verplaatst</numerusform>
+        </translation>
+    </message>
+    <message id="kToldNotFound">
+        <source></source>
+        <translation>Geen enkele zender in de lijst heeft “%1” in de naam</translation>
+    </message>
     <message id="kToldNotKept">
         <source></source>
         <translation>“%1” is opgeslagen, maar het bestand verloor: %2.</translation>
@@ -1101,6 +1459,10 @@ Deze gaan verder vanaf nummer: %3</translation>
             <numerusform>%n ander nummer gewijzigd</numerusform>
             <numerusform>%n andere nummers gewijzigd</numerusform>
         </translation>
+    </message>
+    <message id="kToldRedone">
+        <source></source>
+        <translation>Opnieuw uitgevoerd: %1</translation>
     </message>
     <message id="kToldReloaded">
         <source></source>
@@ -1129,9 +1491,17 @@ Deze gaan verder vanaf nummer: %3</translation>
             <numerusform>%n zenders worden overgeslagen</numerusform>
         </translation>
     </message>
+    <message id="kToldSwapped">
+        <source></source>
+        <translation>De zenders %1 en %2 hebben van nummer gewisseld</translation>
+    </message>
     <message id="kToldUnchanged">
         <source></source>
         <translation>“%1” is op de schijf niet gewijzigd</translation>
+    </message>
+    <message id="kToldUndone">
+        <source></source>
+        <translation>Ongedaan gemaakt: %1</translation>
     </message>
     <message id="kToldUnlocked" numerus="yes">
         <source></source>
@@ -1147,6 +1517,10 @@ Deze gaan verder vanaf nummer: %3</translation>
             <numerusform>%n zenders worden niet meer overgeslagen</numerusform>
         </translation>
     </message>
+    <message id="kToldWentTo">
+        <source></source>
+        <translation>Naar een andere stap van de geschiedenis gegaan</translation>
+    </message>
     <message id="kTV">
         <source></source>
         <translation>&amp;Tv</translation>
@@ -1154,6 +1528,10 @@ Deze gaan verder vanaf nummer: %3</translation>
     <message id="kTypeFilter">
         <source></source>
         <translation>Type</translation>
+    </message>
+    <message id="kUndoLink">
+        <source></source>
+        <translation>Ongedaan maken</translation>
     </message>
     <message id="kUntitled">
         <source></source>

@@ -51,6 +51,114 @@
         <source></source>
         <translation>Wybierz listę wzorcową</translation>
     </message>
+    <message id="kArrangeAllShown" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Porządkuje %n wyświetlany kanał w obrębie numerów, które teraz zajmuje.</numerusform>
+            <numerusform>Porządkuje wszystkie wyświetlane kanały (%n) w obrębie numerów, które teraz zajmują.</numerusform>
+            <numerusform>Porządkuje wszystkie wyświetlane kanały (%n) w obrębie numerów, które teraz zajmują.</numerusform>
+        </translation>
+    </message>
+    <message id="kArrangeByEncryption">
+        <source></source>
+        <translation>Kodowanie</translation>
+    </message>
+    <message id="kArrangeByFrequency">
+        <source></source>
+        <translation>Częstotliwość</translation>
+    </message>
+    <message id="kArrangeByName">
+        <source></source>
+        <translation>Nazwa</translation>
+    </message>
+    <message id="kArrangeByNetwork">
+        <source></source>
+        <translation>Sieć</translation>
+    </message>
+    <message id="kArrangeByNumber">
+        <source></source>
+        <translation>Numer</translation>
+    </message>
+    <message id="kArrangeBySatellite">
+        <source></source>
+        <translation>Satelita</translation>
+    </message>
+    <message id="kArrangeByServiceId">
+        <source></source>
+        <translation>ID usługi</translation>
+    </message>
+    <message id="kArrangeByType">
+        <source></source>
+        <translation>Typ (UHD, HD, SD)</translation>
+    </message>
+    <message id="kArrangeDirection">
+        <source></source>
+        <translation>Kierunek</translation>
+    </message>
+    <message id="kArrangeDown">
+        <source></source>
+        <translation>Malejąco</translation>
+    </message>
+    <message id="kArrangeEncryptedFirst">
+        <source></source>
+        <translation>Najpierw kodowane</translation>
+    </message>
+    <message id="kArrangeFirst">
+        <source></source>
+        <translation>&amp;Uporządkuj według:</translation>
+    </message>
+    <message id="kArrangeFreeFirst">
+        <source></source>
+        <translation>Najpierw niekodowane</translation>
+    </message>
+    <message id="kArrangeNoChange">
+        <source></source>
+        <translation>Wszystkie te kanały są już w tej kolejności.</translation>
+    </message>
+    <message id="kArrangeNothing">
+        <source></source>
+        <translation>Nic więcej</translation>
+    </message>
+    <message id="kArrangeOK">
+        <source></source>
+        <translation>Uporządkuj</translation>
+    </message>
+    <message id="kArrangePreview" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n kanał zmieniłby miejsce.</numerusform>
+            <numerusform>%n kanały zmieniłyby miejsce.</numerusform>
+            <numerusform>%n kanałów zmieniłoby miejsce.</numerusform>
+        </translation>
+    </message>
+    <message id="kArrangeSelected" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Porządkuje %n wybrany kanał w obrębie numerów, które teraz zajmuje.</numerusform>
+            <numerusform>Porządkuje %n wybrane kanały w obrębie numerów, które teraz zajmują.</numerusform>
+            <numerusform>Porządkuje %n wybranych kanałów w obrębie numerów, które teraz zajmują.</numerusform>
+        </translation>
+    </message>
+    <message id="kArrangeThen">
+        <source></source>
+        <translation>&amp;Następnie według:</translation>
+    </message>
+    <message id="kArrangeThenBy">
+        <source></source>
+        <translation>Następnie &amp;według:</translation>
+    </message>
+    <message id="kArrangeTip">
+        <source></source>
+        <translation>Uporządkuj kanały w obrębie numerów, które zajmują</translation>
+    </message>
+    <message id="kArrangeTitle">
+        <source></source>
+        <translation>Uporządkuj kanały</translation>
+    </message>
+    <message id="kArrangeUp">
+        <source></source>
+        <translation>Rosnąco</translation>
+    </message>
     <message id="kBad_file_type">
         <source></source>
         <translation>Nie można użyć plików tego typu</translation>
@@ -355,6 +463,30 @@
         <source></source>
         <translation>Pokaż jego kanały TV</translation>
     </message>
+    <message id="kHistoryCurrent">
+        <source></source>
+        <translation>Bieżący</translation>
+    </message>
+    <message id="kHistoryOldest">
+        <source></source>
+        <translation>Najstarszy zachowany krok</translation>
+    </message>
+    <message id="kHistorySaved">
+        <source></source>
+        <translation>%1 (zapisano)</translation>
+    </message>
+    <message id="kHistoryStart">
+        <source></source>
+        <translation>Lista po otwarciu</translation>
+    </message>
+    <message id="kHistoryTitle">
+        <source></source>
+        <translation>Historia</translation>
+    </message>
+    <message id="kHistoryUndone">
+        <source></source>
+        <translation>Cofnięto</translation>
+    </message>
     <message id="kInfo">
         <source></source>
         <translation>&amp;Informacje…</translation>
@@ -471,6 +603,10 @@
         <source></source>
         <translation>Zastosuj &amp;kolejność…</translation>
     </message>
+    <message id="kMenuArrange">
+        <source></source>
+        <translation>&amp;Uporządkuj…</translation>
+    </message>
     <message id="kMenuCable">
         <source></source>
         <translation>&amp;Kabel</translation>
@@ -482,6 +618,10 @@
     <message id="kMenuColumns">
         <source></source>
         <translation>Kolu&amp;mny</translation>
+    </message>
+    <message id="kMenuCopy">
+        <source></source>
+        <translation>Kopiu&amp;j</translation>
     </message>
     <message id="kMenuEdit">
         <source></source>
@@ -527,6 +667,18 @@
         <source></source>
         <translation>&amp;Znajdź</translation>
     </message>
+    <message id="kMenuFindNext">
+        <source></source>
+        <translation>Znajdź &amp;następny</translation>
+    </message>
+    <message id="kMenuFindPrevious">
+        <source></source>
+        <translation>Znajdź &amp;poprzedni</translation>
+    </message>
+    <message id="kMenuFindText">
+        <source></source>
+        <translation>&amp;Znajdź…</translation>
+    </message>
     <message id="kMenuGuide">
         <source></source>
         <translation>&amp;Pomoc programu Quillet</translation>
@@ -534,6 +686,10 @@
     <message id="kMenuHelp">
         <source></source>
         <translation>Pomo&amp;c</translation>
+    </message>
+    <message id="kMenuHistory">
+        <source></source>
+        <translation>H&amp;istoria</translation>
     </message>
     <message id="kMenuInfo">
         <source></source>
@@ -543,9 +699,25 @@
         <source></source>
         <translation>&amp;Blokada rodzicielska</translation>
     </message>
+    <message id="kMenuMoveDown">
+        <source></source>
+        <translation>Przenieś w &amp;dół</translation>
+    </message>
     <message id="kMenuMoveTo">
         <source></source>
         <translation>Prze&amp;nieś do…</translation>
+    </message>
+    <message id="kMenuMoveToBottom">
+        <source></source>
+        <translation>Przenieś na koni&amp;ec</translation>
+    </message>
+    <message id="kMenuMoveToTop">
+        <source></source>
+        <translation>Przenieś na p&amp;oczątek</translation>
+    </message>
+    <message id="kMenuMoveUp">
+        <source></source>
+        <translation>Przenieś w &amp;górę</translation>
     </message>
     <message id="kMenuNew">
         <source></source>
@@ -571,9 +743,21 @@
         <source></source>
         <translation>Stacje &amp;radiowe</translation>
     </message>
+    <message id="kMenuRedo">
+        <source></source>
+        <translation>Ponó&amp;w</translation>
+    </message>
+    <message id="kMenuRedoStep">
+        <source></source>
+        <translation>Ponó&amp;w: %1</translation>
+    </message>
     <message id="kMenuReload">
         <source></source>
         <translation>&amp;Wczytaj ponownie z dysku</translation>
+    </message>
+    <message id="kMenuRename">
+        <source></source>
+        <translation>Z&amp;mień nazwę</translation>
     </message>
     <message id="kMenuRevert">
         <source></source>
@@ -587,13 +771,49 @@
         <source></source>
         <translation>&amp;Zapisz</translation>
     </message>
+    <message id="kMenuSelect">
+        <source></source>
+        <translation>Wybie&amp;rz</translation>
+    </message>
+    <message id="kMenuSelectAll">
+        <source></source>
+        <translation>&amp;Wszystkie</translation>
+    </message>
+    <message id="kMenuSelectEncrypted">
+        <source></source>
+        <translation>&amp;Kodowane</translation>
+    </message>
+    <message id="kMenuSelectInvert">
+        <source></source>
+        <translation>&amp;Odwróć wybór</translation>
+    </message>
+    <message id="kMenuSelectNone">
+        <source></source>
+        <translation>Ża&amp;dne</translation>
+    </message>
+    <message id="kMenuSelectSameType">
+        <source></source>
+        <translation>Ten sam &amp;typ</translation>
+    </message>
     <message id="kMenuSkip">
         <source></source>
         <translation>&amp;Pomijaj</translation>
     </message>
+    <message id="kMenuSwap">
+        <source></source>
+        <translation>Z&amp;amień numery</translation>
+    </message>
     <message id="kMenuTV">
         <source></source>
         <translation>Kanały &amp;TV</translation>
+    </message>
+    <message id="kMenuUndo">
+        <source></source>
+        <translation>&amp;Cofnij</translation>
+    </message>
+    <message id="kMenuUndoStep">
+        <source></source>
+        <translation>&amp;Cofnij: %1</translation>
     </message>
     <message id="kMenuView">
         <source></source>
@@ -1037,6 +1257,78 @@ Te następują od numeru: %3</translation>
         <source></source>
         <translation>Kanały</translation>
     </message>
+    <message id="kStepArranged" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Uporządkowanie %n kanału</numerusform>
+            <numerusform>Uporządkowanie %n kanałów</numerusform>
+            <numerusform>Uporządkowanie %n kanałów</numerusform>
+        </translation>
+    </message>
+    <message id="kStepClosedGaps">
+        <source></source>
+        <translation>Wypełnienie luk</translation>
+    </message>
+    <message id="kStepLocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Zablokowanie %n kanału</numerusform>
+            <numerusform>Zablokowanie %n kanałów</numerusform>
+            <numerusform>Zablokowanie %n kanałów</numerusform>
+        </translation>
+    </message>
+    <message id="kStepMoved" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Przeniesienie %n kanału</numerusform>
+            <numerusform>Przeniesienie %n kanałów</numerusform>
+            <numerusform>Przeniesienie %n kanałów</numerusform>
+        </translation>
+    </message>
+    <message id="kStepOrdered">
+        <source></source>
+        <translation>Kolejność z %1</translation>
+    </message>
+    <message id="kStepRenamed">
+        <source></source>
+        <translation>Zmiana nazwy na „%1”</translation>
+    </message>
+    <message id="kStepSkipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Pomijanie %n kanału</numerusform>
+            <numerusform>Pomijanie %n kanałów</numerusform>
+            <numerusform>Pomijanie %n kanałów</numerusform>
+        </translation>
+    </message>
+    <message id="kStepSwapped">
+        <source></source>
+        <translation>Zamiana numerów</translation>
+    </message>
+    <message id="kStepUnlocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Odblokowanie %n kanału</numerusform>
+            <numerusform>Odblokowanie %n kanałów</numerusform>
+            <numerusform>Odblokowanie %n kanałów</numerusform>
+        </translation>
+    </message>
+    <message id="kStepUnskipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Wyłączenie pomijania %n kanału</numerusform>
+            <numerusform>Wyłączenie pomijania %n kanałów</numerusform>
+            <numerusform>Wyłączenie pomijania %n kanałów</numerusform>
+        </translation>
+    </message>
+    <message id="kTipAtBottom">
+        <source></source>
+        <translation>Wybrane kanały są już na końcu</translation>
+    </message>
+    <message id="kTipAtTop">
+        <source></source>
+        <translation>Wybrane kanały są już na początku</translation>
+    </message>
     <message id="kTipColumnAlwaysShown">
         <source></source>
         <translation>Ta kolumna jest zawsze widoczna</translation>
@@ -1045,13 +1337,25 @@ Te następują od numeru: %3</translation>
         <source></source>
         <translation>Plik nie podaje tego dla żadnego kanału na tej liście</translation>
     </message>
+    <message id="kTipColumnsUsual">
+        <source></source>
+        <translation>Kolumny są już takie jak zwykle</translation>
+    </message>
     <message id="kTipFilterTVOnly">
         <source></source>
         <translation>Typy można wybierać tylko dla kanałów TV</translation>
     </message>
+    <message id="kTipForeign">
+        <source></source>
+        <translation>Wyświetlane kanały pochodzą z innego źródła; najpierw wyczyść wyszukiwanie i typ</translation>
+    </message>
     <message id="kTipNoFile">
         <source></source>
         <translation>Na dysku nie ma pliku do ponownego wczytania</translation>
+    </message>
+    <message id="kTipNoneEncrypted">
+        <source></source>
+        <translation>Plik nie wskazuje żadnego kodowanego kanału</translation>
     </message>
     <message id="kTipNoStations">
         <source></source>
@@ -1061,9 +1365,41 @@ Te następują od numeru: %3</translation>
         <source></source>
         <translation>Dla plików, które zawierają kanały z tego źródła</translation>
     </message>
+    <message id="kTipNoSteps">
+        <source></source>
+        <translation>W tym kierunku nie ma już żadnego kroku</translation>
+    </message>
+    <message id="kTipNotTold">
+        <source></source>
+        <translation>Plik nie zawiera tej informacji o tych kanałach</translation>
+    </message>
+    <message id="kTipRenameAnalogue">
+        <source></source>
+        <translation>Nazwy można zmieniać tylko na liście analogowej</translation>
+    </message>
+    <message id="kTipSearchFirst">
+        <source></source>
+        <translation>Najpierw wpisz coś w polu wyszukiwania</translation>
+    </message>
     <message id="kTipSelectFirst">
         <source></source>
         <translation>Najpierw wybierz kanały na liście</translation>
+    </message>
+    <message id="kTipSelectTwo">
+        <source></source>
+        <translation>Najpierw wybierz dokładnie dwa kanały</translation>
+    </message>
+    <message id="kTipTooFew">
+        <source></source>
+        <translation>Jest za mało kanałów do uporządkowania</translation>
+    </message>
+    <message id="kToldArranged" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n kanał ma teraz inne miejsce</numerusform>
+            <numerusform>%n kanały mają teraz inne miejsce</numerusform>
+            <numerusform>%n kanałów ma teraz inne miejsce</numerusform>
+        </translation>
     </message>
     <message id="kToldClosedGaps" numerus="yes">
         <source></source>
@@ -1097,6 +1433,42 @@ Te następują od numeru: %3</translation>
             <numerusform>Przeniesiono %n kanałów na numery %1</numerusform>
         </translation>
     </message>
+    <message id="kToldMovedDown" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Przeniesiono w dół %n kanał</numerusform>
+            <numerusform>Przeniesiono w dół %n kanały</numerusform>
+            <numerusform>Przeniesiono w dół %n kanałów</numerusform>
+        </translation>
+    </message>
+    <message id="kToldMovedToBottom" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Przeniesiono na koniec %n kanał</numerusform>
+            <numerusform>Przeniesiono na koniec %n kanały</numerusform>
+            <numerusform>Przeniesiono na koniec %n kanałów</numerusform>
+        </translation>
+    </message>
+    <message id="kToldMovedToTop" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Przeniesiono na początek %n kanał</numerusform>
+            <numerusform>Przeniesiono na początek %n kanały</numerusform>
+            <numerusform>Przeniesiono na początek %n kanałów</numerusform>
+        </translation>
+    </message>
+    <message id="kToldMovedUp" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Przeniesiono w górę %n kanał</numerusform>
+            <numerusform>Przeniesiono w górę %n kanały</numerusform>
+            <numerusform>Przeniesiono w górę %n kanałów</numerusform>
+        </translation>
+    </message>
+    <message id="kToldNotFound">
+        <source></source>
+        <translation>Żaden kanał na liście nie ma w nazwie „%1”</translation>
+    </message>
     <message id="kToldNotKept">
         <source></source>
         <translation>Zapisano „%1”, ale plik utracił: %2.</translation>
@@ -1124,6 +1496,10 @@ Te następują od numeru: %3</translation>
             <numerusform>zmieniono %n inne numery</numerusform>
             <numerusform>zmieniono %n innych numerów</numerusform>
         </translation>
+    </message>
+    <message id="kToldRedone">
+        <source></source>
+        <translation>Ponowiono: %1</translation>
     </message>
     <message id="kToldReloaded">
         <source></source>
@@ -1153,9 +1529,17 @@ Te następują od numeru: %3</translation>
             <numerusform>%n kanałów będzie pomijanych</numerusform>
         </translation>
     </message>
+    <message id="kToldSwapped">
+        <source></source>
+        <translation>Kanały %1 i %2 zamieniły się numerami</translation>
+    </message>
     <message id="kToldUnchanged">
         <source></source>
         <translation>„%1” nie zmienił się na dysku</translation>
+    </message>
+    <message id="kToldUndone">
+        <source></source>
+        <translation>Cofnięto: %1</translation>
     </message>
     <message id="kToldUnlocked" numerus="yes">
         <source></source>
@@ -1173,6 +1557,10 @@ Te następują od numeru: %3</translation>
             <numerusform>%n kanałów nie będzie już pomijanych</numerusform>
         </translation>
     </message>
+    <message id="kToldWentTo">
+        <source></source>
+        <translation>Przejście do innego kroku historii</translation>
+    </message>
     <message id="kTV">
         <source></source>
         <translation>&amp;TV</translation>
@@ -1180,6 +1568,10 @@ Te następują od numeru: %3</translation>
     <message id="kTypeFilter">
         <source></source>
         <translation>Typ</translation>
+    </message>
+    <message id="kUndoLink">
+        <source></source>
+        <translation>Cofnij</translation>
     </message>
     <message id="kUntitled">
         <source></source>

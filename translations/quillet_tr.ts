@@ -51,6 +51,108 @@
         <source></source>
         <translation>Referans Listesi Seç</translation>
     </message>
+    <message id="kArrangeAllShown" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Gösterilen %n kanalın tümünü, şu an bulundukları numaralar arasında sıralar.</numerusform>
+        </translation>
+    </message>
+    <message id="kArrangeByEncryption">
+        <source></source>
+        <translation>Şifreleme</translation>
+    </message>
+    <message id="kArrangeByFrequency">
+        <source></source>
+        <translation>Frekans</translation>
+    </message>
+    <message id="kArrangeByName">
+        <source></source>
+        <translation>Ad</translation>
+    </message>
+    <message id="kArrangeByNetwork">
+        <source></source>
+        <translation>Ağ</translation>
+    </message>
+    <message id="kArrangeByNumber">
+        <source></source>
+        <translation>Numara</translation>
+    </message>
+    <message id="kArrangeBySatellite">
+        <source></source>
+        <translation>Uydu</translation>
+    </message>
+    <message id="kArrangeByServiceId">
+        <source></source>
+        <translation>Servis Kimliği</translation>
+    </message>
+    <message id="kArrangeByType">
+        <source></source>
+        <translation>Tür (UHD, HD, SD)</translation>
+    </message>
+    <message id="kArrangeDirection">
+        <source></source>
+        <translation>Yön</translation>
+    </message>
+    <message id="kArrangeDown">
+        <source></source>
+        <translation>Azalan</translation>
+    </message>
+    <message id="kArrangeEncryptedFirst">
+        <source></source>
+        <translation>Önce şifreliler</translation>
+    </message>
+    <message id="kArrangeFirst">
+        <source></source>
+        <translation>&amp;Sıralama ölçütü:</translation>
+    </message>
+    <message id="kArrangeFreeFirst">
+        <source></source>
+        <translation>Önce şifresizler</translation>
+    </message>
+    <message id="kArrangeNoChange">
+        <source></source>
+        <translation>Bu kanalların tümü zaten bu sırada.</translation>
+    </message>
+    <message id="kArrangeNothing">
+        <source></source>
+        <translation>Başka Ölçüt Yok</translation>
+    </message>
+    <message id="kArrangeOK">
+        <source></source>
+        <translation>Sırala</translation>
+    </message>
+    <message id="kArrangePreview" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n kanal yer değiştirir.</numerusform>
+        </translation>
+    </message>
+    <message id="kArrangeSelected" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Seçili %n kanalı, şu an bulundukları numaralar arasında sıralar.</numerusform>
+        </translation>
+    </message>
+    <message id="kArrangeThen">
+        <source></source>
+        <translation>So&amp;nra:</translation>
+    </message>
+    <message id="kArrangeThenBy">
+        <source></source>
+        <translation>Son&amp;ra:</translation>
+    </message>
+    <message id="kArrangeTip">
+        <source></source>
+        <translation>Kanalları bulundukları numaralar arasında sırala</translation>
+    </message>
+    <message id="kArrangeTitle">
+        <source></source>
+        <translation>Kanalları Sırala</translation>
+    </message>
+    <message id="kArrangeUp">
+        <source></source>
+        <translation>Artan</translation>
+    </message>
     <message id="kBad_file_type">
         <source></source>
         <translation>Bu türdeki dosyalar kullanılamaz</translation>
@@ -351,6 +453,30 @@
         <source></source>
         <translation>TV kanallarını göster</translation>
     </message>
+    <message id="kHistoryCurrent">
+        <source></source>
+        <translation>Geçerli</translation>
+    </message>
+    <message id="kHistoryOldest">
+        <source></source>
+        <translation>Saklanan en eski adım</translation>
+    </message>
+    <message id="kHistorySaved">
+        <source></source>
+        <translation>%1 (kaydedildi)</translation>
+    </message>
+    <message id="kHistoryStart">
+        <source></source>
+        <translation>Açıldığı Haliyle Liste</translation>
+    </message>
+    <message id="kHistoryTitle">
+        <source></source>
+        <translation>Geçmiş</translation>
+    </message>
+    <message id="kHistoryUndone">
+        <source></source>
+        <translation>Geri alındı</translation>
+    </message>
     <message id="kInfo">
         <source></source>
         <translation>&amp;Bilgi…</translation>
@@ -457,6 +583,10 @@
         <source></source>
         <translation>&amp;Sırayı Uygula…</translation>
     </message>
+    <message id="kMenuArrange">
+        <source></source>
+        <translation>Sı&amp;rala…</translation>
+    </message>
     <message id="kMenuCable">
         <source></source>
         <translation>&amp;Kablo</translation>
@@ -468,6 +598,10 @@
     <message id="kMenuColumns">
         <source></source>
         <translation>&amp;Sütunlar</translation>
+    </message>
+    <message id="kMenuCopy">
+        <source></source>
+        <translation>Ko&amp;pyala</translation>
     </message>
     <message id="kMenuEdit">
         <source></source>
@@ -513,6 +647,18 @@
         <source></source>
         <translation>B&amp;ul</translation>
     </message>
+    <message id="kMenuFindNext">
+        <source></source>
+        <translation>&amp;Sonrakini Bul</translation>
+    </message>
+    <message id="kMenuFindPrevious">
+        <source></source>
+        <translation>Ö&amp;ncekini Bul</translation>
+    </message>
+    <message id="kMenuFindText">
+        <source></source>
+        <translation>&amp;Bul…</translation>
+    </message>
     <message id="kMenuGuide">
         <source></source>
         <translation>Quillet &amp;Yardımı</translation>
@@ -521,17 +667,37 @@
         <source></source>
         <translation>&amp;Yardım</translation>
     </message>
+    <message id="kMenuHistory">
+        <source></source>
+        <translation>&amp;Geçmiş</translation>
+    </message>
     <message id="kMenuInfo">
         <source></source>
         <translation>Kanal &amp;Bilgisi</translation>
     </message>
     <message id="kMenuLock">
         <source></source>
-        <translation>Çocuk &amp;Kilidi</translation>
+        <translation>Ço&amp;cuk Kilidi</translation>
+    </message>
+    <message id="kMenuMoveDown">
+        <source></source>
+        <translation>Aşağı &amp;Taşı</translation>
     </message>
     <message id="kMenuMoveTo">
         <source></source>
         <translation>&amp;Numaraya Taşı…</translation>
+    </message>
+    <message id="kMenuMoveToBottom">
+        <source></source>
+        <translation>En S&amp;ona Taşı</translation>
+    </message>
+    <message id="kMenuMoveToTop">
+        <source></source>
+        <translation>&amp;En Başa Taşı</translation>
+    </message>
+    <message id="kMenuMoveUp">
+        <source></source>
+        <translation>Yu&amp;karı Taşı</translation>
     </message>
     <message id="kMenuNew">
         <source></source>
@@ -557,9 +723,21 @@
         <source></source>
         <translation>&amp;Radyo Kanalları</translation>
     </message>
+    <message id="kMenuRedo">
+        <source></source>
+        <translation>&amp;Yinele</translation>
+    </message>
+    <message id="kMenuRedoStep">
+        <source></source>
+        <translation>&amp;Yinele: %1</translation>
+    </message>
     <message id="kMenuReload">
         <source></source>
         <translation>D&amp;iskten Yeniden Yükle</translation>
+    </message>
+    <message id="kMenuRename">
+        <source></source>
+        <translation>Adını &amp;Değiştir</translation>
     </message>
     <message id="kMenuRevert">
         <source></source>
@@ -573,13 +751,49 @@
         <source></source>
         <translation>Kay&amp;det</translation>
     </message>
+    <message id="kMenuSelect">
+        <source></source>
+        <translation>Seç&amp;im</translation>
+    </message>
+    <message id="kMenuSelectAll">
+        <source></source>
+        <translation>&amp;Tümü</translation>
+    </message>
+    <message id="kMenuSelectEncrypted">
+        <source></source>
+        <translation>Şi&amp;freliler</translation>
+    </message>
+    <message id="kMenuSelectInvert">
+        <source></source>
+        <translation>&amp;Seçimi Tersine Çevir</translation>
+    </message>
+    <message id="kMenuSelectNone">
+        <source></source>
+        <translation>&amp;Hiçbiri</translation>
+    </message>
+    <message id="kMenuSelectSameType">
+        <source></source>
+        <translation>&amp;Aynı Tür</translation>
+    </message>
     <message id="kMenuSkip">
         <source></source>
         <translation>&amp;Atla</translation>
     </message>
+    <message id="kMenuSwap">
+        <source></source>
+        <translation>Nu&amp;maraları Takas Et</translation>
+    </message>
     <message id="kMenuTV">
         <source></source>
         <translation>&amp;TV Kanalları</translation>
+    </message>
+    <message id="kMenuUndo">
+        <source></source>
+        <translation>&amp;Geri Al</translation>
+    </message>
+    <message id="kMenuUndoStep">
+        <source></source>
+        <translation>&amp;Geri Al: %1</translation>
     </message>
     <message id="kMenuView">
         <source></source>
@@ -1001,6 +1215,66 @@ Bunların devam ettiği numara: %3</translation>
         <source></source>
         <translation>Kanallar</translation>
     </message>
+    <message id="kStepArranged" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n Kanalı Sıralama</numerusform>
+        </translation>
+    </message>
+    <message id="kStepClosedGaps">
+        <source></source>
+        <translation>Boşlukları Doldurma</translation>
+    </message>
+    <message id="kStepLocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n Kanalı Kilitleme</numerusform>
+        </translation>
+    </message>
+    <message id="kStepMoved" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n Kanalı Taşıma</numerusform>
+        </translation>
+    </message>
+    <message id="kStepOrdered">
+        <source></source>
+        <translation>%1 Sıralaması</translation>
+    </message>
+    <message id="kStepRenamed">
+        <source></source>
+        <translation>Adını “%1” Olarak Değiştirme</translation>
+    </message>
+    <message id="kStepSkipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n Kanalı Atlama</numerusform>
+        </translation>
+    </message>
+    <message id="kStepSwapped">
+        <source></source>
+        <translation>Numaraları Takas Etme</translation>
+    </message>
+    <message id="kStepUnlocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n Kanalın Kilidini Açma</numerusform>
+        </translation>
+    </message>
+    <message id="kStepUnskipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n Kanalı Artık Atlamama</numerusform>
+        </translation>
+    </message>
+    <message id="kTipAtBottom">
+        <source></source>
+        <translation>Seçili kanallar zaten en sonda</translation>
+    </message>
+    <message id="kTipAtTop">
+        <source></source>
+        <translation>Seçili kanallar zaten en başta</translation>
+    </message>
     <message id="kTipColumnAlwaysShown">
         <source></source>
         <translation>Bu sütun her zaman gösterilir</translation>
@@ -1009,13 +1283,25 @@ Bunların devam ettiği numara: %3</translation>
         <source></source>
         <translation>Dosya bunu bu listedeki hiçbir kanal için belirtmiyor</translation>
     </message>
+    <message id="kTipColumnsUsual">
+        <source></source>
+        <translation>Sütunlar zaten olağan sütunlar</translation>
+    </message>
     <message id="kTipFilterTVOnly">
         <source></source>
         <translation>Türler yalnızca TV kanalları için seçilebilir</translation>
     </message>
+    <message id="kTipForeign">
+        <source></source>
+        <translation>Gösterilen kanallar başka bir kaynaktan; önce aramayı ve türü temizleyin</translation>
+    </message>
     <message id="kTipNoFile">
         <source></source>
         <translation>Diskte yeniden okunacak bir dosya yok</translation>
+    </message>
+    <message id="kTipNoneEncrypted">
+        <source></source>
+        <translation>Dosya hiçbir kanalın şifreli olduğunu belirtmiyor</translation>
     </message>
     <message id="kTipNoStations">
         <source></source>
@@ -1025,9 +1311,39 @@ Bunların devam ettiği numara: %3</translation>
         <source></source>
         <translation>Bu kaynaktan kanalları olan dosyalar için</translation>
     </message>
+    <message id="kTipNoSteps">
+        <source></source>
+        <translation>Bu yönde başka adım yok</translation>
+    </message>
+    <message id="kTipNotTold">
+        <source></source>
+        <translation>Dosya bu kanallar için bunu belirtmiyor</translation>
+    </message>
+    <message id="kTipRenameAnalogue">
+        <source></source>
+        <translation>Adlar yalnızca analog listede değiştirilebilir</translation>
+    </message>
+    <message id="kTipSearchFirst">
+        <source></source>
+        <translation>Önce arama alanına bir şey yazın</translation>
+    </message>
     <message id="kTipSelectFirst">
         <source></source>
         <translation>Önce listeden kanal seçin</translation>
+    </message>
+    <message id="kTipSelectTwo">
+        <source></source>
+        <translation>Önce tam iki kanal seçin</translation>
+    </message>
+    <message id="kTipTooFew">
+        <source></source>
+        <translation>Sıralamak için yeterli kanal yok</translation>
+    </message>
+    <message id="kToldArranged" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n kanal artık başka bir yerde</numerusform>
+        </translation>
     </message>
     <message id="kToldClosedGaps" numerus="yes">
         <source></source>
@@ -1055,6 +1371,34 @@ Bunların devam ettiği numara: %3</translation>
             <numerusform>%n kanal %1 numarasına taşındı</numerusform>
         </translation>
     </message>
+    <message id="kToldMovedDown" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n kanal aşağı taşındı</numerusform>
+        </translation>
+    </message>
+    <message id="kToldMovedToBottom" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n kanal en sona taşındı</numerusform>
+        </translation>
+    </message>
+    <message id="kToldMovedToTop" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n kanal en başa taşındı</numerusform>
+        </translation>
+    </message>
+    <message id="kToldMovedUp" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n kanal yukarı taşındı</numerusform>
+        </translation>
+    </message>
+    <message id="kToldNotFound">
+        <source></source>
+        <translation>Listede adında “%1” geçen kanal yok</translation>
+    </message>
     <message id="kToldNotKept">
         <source></source>
         <translation>“%1” kaydedildi, ama dosya şunları yitirdi: %2.</translation>
@@ -1078,6 +1422,10 @@ Bunların devam ettiği numara: %3</translation>
         <translation>
             <numerusform>%n başka numara değişti</numerusform>
         </translation>
+    </message>
+    <message id="kToldRedone">
+        <source></source>
+        <translation>Yinelendi: %1</translation>
     </message>
     <message id="kToldReloaded">
         <source></source>
@@ -1105,9 +1453,17 @@ Bunların devam ettiği numara: %3</translation>
             <numerusform>%n kanal atlanacak</numerusform>
         </translation>
     </message>
+    <message id="kToldSwapped">
+        <source></source>
+        <translation>%1 ve %2 numaralı kanallar numaralarını takas etti</translation>
+    </message>
     <message id="kToldUnchanged">
         <source></source>
         <translation>“%1” diskte değişmedi</translation>
+    </message>
+    <message id="kToldUndone">
+        <source></source>
+        <translation>Geri alındı: %1</translation>
     </message>
     <message id="kToldUnlocked" numerus="yes">
         <source></source>
@@ -1121,6 +1477,10 @@ Bunların devam ettiği numara: %3</translation>
             <numerusform>%n kanal artık atlanmayacak</numerusform>
         </translation>
     </message>
+    <message id="kToldWentTo">
+        <source></source>
+        <translation>Geçmişin başka bir adımına gidildi</translation>
+    </message>
     <message id="kTV">
         <source></source>
         <translation>&amp;TV</translation>
@@ -1128,6 +1488,10 @@ Bunların devam ettiği numara: %3</translation>
     <message id="kTypeFilter">
         <source></source>
         <translation>Tür</translation>
+    </message>
+    <message id="kUndoLink">
+        <source></source>
+        <translation>Geri Al</translation>
     </message>
     <message id="kUntitled">
         <source></source>

@@ -2,16 +2,26 @@
 
 #include "document/TLLDocument.h"
 #include "editor/EditorView.h"
-#include "editor/ToldLine.h"
+#include "editor/HistoryPanel.h"
+#include "editor/ToldRow.h"
 
+#include <QAction>
 #include <QMainWindow>
+#include <QSettings>
 #include <QStatusBar>
 
 namespace quillet {
 
+namespace {
+
+/// Where and how wide the panels beside the list are, and whether they are shown.
+constexpr char panelsKey[] = "windows/TLL Editor Window panels";
+
+} // namespace
+
 LGWindowController::LGWindowController()
     : TLLWindowController(std::make_unique<QMainWindow>(), QStringLiteral("TLL Editor Window")),
-      m_editor(new EditorView), m_told(new ToldLine)
+      m_editor(new EditorView), m_told(new ToldRow), m_history(new HistoryPanel)
 {
     windowDidLoad();
 }
@@ -19,7 +29,9 @@ LGWindowController::LGWindowController()
 /// The editor goes later, with the window, and tells of what is then given up in its cells.
 LGWindowController::~LGWindowController()
 {
+    QSettings().setValue(panelsKey, window()->saveState());
     disconnect(m_editor, nullptr, nullptr, nullptr);
+    m_history->toggleViewAction()->disconnect(m_editor);
 }
 
 void LGWindowController::windowDidLoad()
@@ -33,7 +45,20 @@ void LGWindowController::windowDidLoad()
     bar->setSizeGripEnabled(false);
     bar->setContentsMargins(12, 0, 12, 4);
     bar->addWidget(m_told, 1);
-    connect(m_editor, &EditorView::told, m_told, &ToldLine::tell);
+    connect(m_editor, &EditorView::told, m_told, &ToldRow::tell);
+    connect(m_editor, &EditorView::editTold, m_told, &ToldRow::tellEdit);
+    connect(m_told, &ToldRow::undoRequested, m_editor, [this] {
+        m_editor->focusList(); // for the link goes
+        m_editor->undo();
+    });
+    window()->addDockWidget(Qt::RightDockWidgetArea, m_history);
+    m_history->hide();
+    window()->restoreState(QSettings().value(panelsKey).toByteArray());
+    connect(m_history->toggleViewAction(), &QAction::toggled, m_editor, [this](bool isShown) {
+        if (!isShown)
+            m_editor->focusList();
+    });
+    connect(m_history, &HistoryPanel::stepChosen, m_editor, &EditorView::goToStep);
     const QSize wanted = m_editor->sizeHint();
     const int line = m_editor->fontMetrics().height();
     window()->resize(qMax(wanted.width() + 6 * line, 48 * line), 42 * line);
@@ -49,7 +74,8 @@ bool LGWindowController::populateFromTLLDoc(TLLDocument &document, const Error &
             &ViewController::showFileName, Qt::UniqueConnection);
     connect(&document, &Document::placeWasChosen, &m_editor->controller(),
             &ViewController::showNotice, Qt::UniqueConnection);
-    connect(&document, &Document::told, m_told, &ToldLine::tell, Qt::UniqueConnection);
+    connect(&document, &Document::told, m_told, &ToldRow::tell, Qt::UniqueConnection);
+    m_history->setHistory(&document.history());
     const bool succeeded = m_editor->controller().populateFromTLLDoc(document, error);
     synchronizeWindowTitleWithDocumentName();
     return succeeded;

@@ -5,8 +5,9 @@
 namespace quillet {
 
 class EditorView;
+class HistoryPanel;
 class TLLDocument;
-class ToldLine;
+class ToldRow;
 
 /// The window of one channel list, with the editor as its content. Holds the document weakly.
 class LGWindowController : public TLLWindowController
@@ -25,11 +26,13 @@ public:
     /// The document shown; null before there is one and after it has gone.
     [[nodiscard]] TLLDocument *tlldoc() const;
     [[nodiscard]] EditorView &editor() const { return *m_editor; }
+    [[nodiscard]] HistoryPanel &historyPanel() const { return *m_history; }
 
 private:
     void windowDidLoad();
     EditorView *m_editor;
-    ToldLine *m_told;
+    ToldRow *m_told;
+    HistoryPanel *m_history;
 };
 
 } // namespace quillet

@@ -2,11 +2,13 @@
 
 #include "app/AboutWindow.h"
 #include "app/AppDelegate.h"
+#include "app/EditMenu.h"
 #include "app/HelpLoader.h"
 #include "app/LGWindowController.h"
 #include "document/SaveReview.h"
 #include "document/TLLDocument.h"
 #include "editor/EditorView.h"
+#include "editor/HistoryPanel.h"
 #include "framework/DocumentController.h"
 #include "framework/RecentFilesMenu.h"
 
@@ -51,7 +53,7 @@ MainMenu::MainMenu(LGWindowController &window, DocumentController &documents, QO
 {
     QMenuBar &bar = *window.window()->menuBar();
     makeFileMenu(bar);
-    makeEditMenu(bar);
+    m_edit = new EditMenu(window, bar, this);
     makeViewMenu(bar);
     makeHelpMenu(bar);
     connect(&m_editor, &EditorView::stateChanged, this, &MainMenu::validate);
@@ -112,37 +114,10 @@ void MainMenu::makeFileMenu(QMenuBar &bar)
     quit->setMenuRole(QAction::QuitRole);
 }
 
-void MainMenu::makeEditMenu(QMenuBar &bar)
-{
-    QMenu &menu = *bar.addMenu(qtTrId("kMenuEdit"));
-    m_moveTo = add(menu, {"kMenuMoveTo", "moveItemsToClicked", Qt::CTRL | Qt::Key_M},
-                   [this] { m_editor.controller().moveItemsToClicked(); });
-    QAction *skip = add(menu, {"kMenuSkip", "skipSelectedItems", Qt::CTRL | Qt::Key_K},
-                        [this] { m_editor.controller().skipSelectedItems(); });
-    QAction *lock =
-        add(menu, {"kMenuLock", "changeChildLockForSelectedItems", Qt::CTRL | Qt::Key_L},
-            [this] { m_editor.controller().changeChildLockForSelectedItems(); });
-    m_editorItems.push_back(skip);
-    m_editorItems.push_back(lock);
-    m_info =
-        add(menu, {"kMenuInfo", "showInfo", Qt::CTRL | Qt::Key_I}, [this] { m_editor.showInfo(); });
-    m_editor.setContextActions({m_moveTo, skip, lock, m_info});
-    menu.addSeparator();
-    m_applyOrder =
-        add(menu, {"kMenuApplyOrder", "applyOrderClicked", Qt::CTRL | Qt::SHIFT | Qt::Key_A},
-            [this] { m_editor.controller().applyOrderClicked(); });
-    m_fillGaps = add(menu, {"kMenuFillGaps", "fillGapsClicked", {}}, [this](bool on) {
-        m_editor.commitEditing();
-        m_editor.setFillGapsOn(on);
-    });
-    m_fillGaps->setCheckable(true);
-    menu.addSeparator();
-    add(menu, {"kMenuFind", "find", QKeySequence::Find}, [this] { m_editor.focusSearch(); });
-}
-
 void MainMenu::makeViewMenu(QMenuBar &bar)
 {
     QMenu &menu = *bar.addMenu(qtTrId("kMenuView"));
+    menu.setToolTipsVisible(true);
     auto *modes = new QActionGroup(this);
     m_showTV =
         add(menu, {"kMenuTV", "useTVClicked", Qt::CTRL | Qt::Key_T}, [this] { chooseMode(true); });
@@ -167,16 +142,21 @@ void MainMenu::makeViewMenu(QMenuBar &bar)
     auto *filters = new QActionGroup(this);
     for (const auto &[title, tag] : filterItems) {
         QAction *action = add(menu, {title, "typeFilterClicked", {}}, [this, filter = tag] {
+            m_editor.commitEditing();
             m_editor.controller().typeFilterClicked(filter);
         });
         action->setCheckable(true);
         action->setData(tag);
         filters->addAction(action);
         m_filters.push_back(action);
-        m_editorItems.push_back(action);
     }
     menu.addSeparator();
     menu.addMenu(&m_editor.columnsMenu());
+    QAction *history = m_window.historyPanel().toggleViewAction();
+    history->setText(qtTrId("kMenuHistory"));
+    history->setObjectName(QStringLiteral("showHistory"));
+    history->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_H);
+    menu.addAction(history);
 }
 
 void MainMenu::makeHelpMenu(QMenuBar &bar)
@@ -230,8 +210,7 @@ void MainMenu::validate()
     const TLLDocument *document = m_window.tlldoc();
     for (QAction *action : m_documentItems)
         action->setEnabled(document && document->validateUserInterfaceItem(action->objectName()));
-    for (QAction *action : m_editorItems)
-        action->setEnabled(m_window.validateUserInterfaceItem(action->objectName()));
+    m_edit->validate();
     if (document && m_editor.isEditing())
         m_save->setEnabled(true); // for what is being typed
     m_reload->setEnabled(document && document->canReload());
@@ -242,10 +221,6 @@ void MainMenu::validate()
     using Control = EditorOutlets::Control;
     const ViewController &editor = m_editor.controller();
     m_print->setEnabled(!editor.currentList().empty());
-    m_moveTo->setEnabled(editor.isEnabled(Control::MoveToButton));
-    m_info->setEnabled(editor.isEnabled(Control::InfoButton));
-    m_applyOrder->setEnabled(editor.isEnabled(Control::ApplyButton));
-    m_fillGaps->setChecked(editor.fillGaps());
     m_showTV->setEnabled(editor.isEnabled(Control::ModeButtons));
     m_showRadio->setEnabled(editor.isEnabled(Control::ModeButtons));
     (editor.isModeTV() ? m_showTV : m_showRadio)->setChecked(true);
@@ -254,8 +229,10 @@ void MainMenu::validate()
         source->setEnabled(editor.shown().hasDataForSource(index));
         source->setChecked(editor.shown().shownSource() == index);
     }
-    for (QAction *filter : m_filters)
+    for (QAction *filter : m_filters) {
+        filter->setEnabled(m_window.validateUserInterfaceItem(filter->objectName()));
         filter->setChecked(editor.filterTag() == filter->data().toInt());
+    }
 }
 
 } // namespace quillet

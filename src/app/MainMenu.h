@@ -13,6 +13,7 @@ class QMenuBar;
 namespace quillet {
 
 class AboutWindow;
+class EditMenu;
 class DocumentController;
 class EditorView;
 class LGWindowController;
@@ -41,7 +42,6 @@ private:
     template<typename Slot>
     QAction *add(QMenu &menu, const Item &item, Slot slot);
     void makeFileMenu(QMenuBar &bar);
-    void makeEditMenu(QMenuBar &bar);
     void makeViewMenu(QMenuBar &bar);
     void makeHelpMenu(QMenuBar &bar);
     void save();
@@ -55,17 +55,13 @@ private:
     EditorView &m_editor;
     QPointer<AboutWindow> m_about;
     std::vector<QAction *> m_documentItems; ///< enabled as the document says
-    std::vector<QAction *> m_editorItems;   ///< enabled as the editor says
     std::vector<QAction *> m_sources;
     std::vector<QAction *> m_filters;
+    EditMenu *m_edit = nullptr;
     QAction *m_save = nullptr;
     QAction *m_reload = nullptr;
     QAction *m_alwaysRepair = nullptr;
     QAction *m_print = nullptr;
-    QAction *m_moveTo = nullptr;
-    QAction *m_info = nullptr;
-    QAction *m_applyOrder = nullptr;
-    QAction *m_fillGaps = nullptr;
     QAction *m_showTV = nullptr;
     QAction *m_showRadio = nullptr;
 };

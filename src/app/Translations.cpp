@@ -55,6 +55,7 @@ void installTranslations(const QString &language)
     // A translator that is deleted takes itself out of the application object.
     qDeleteAll(qApp->findChildren<QTranslator *>(translatorName(), Qt::FindDirectChildrenOnly));
     const QLocale locale = language.isEmpty() ? QLocale::system() : QLocale(language);
+    QLocale::setDefault(locale); // by which names are sorted
     // Texts are looked for in the last one first.
     install(QLocale(QLocale::English), QStringLiteral("quillet"), textFolder());
     const QString qtsFolder = QLibraryInfo::path(QLibraryInfo::TranslationsPath);

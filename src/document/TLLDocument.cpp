@@ -40,6 +40,7 @@ TLLDocument::~TLLDocument() = default;
 bool TLLDocument::readFromData(const QByteArray &data, const QString &typeName, Error &error)
 {
     const Reading reading = readInto(m_list, data);
+    history().clear();
     logLoading(m_list, reading);
     if (reading == Reading::NoText)
         return false;
@@ -102,6 +103,7 @@ bool TLLDocument::replaceContent(const QByteArray &data, const QString &typeName
 
 void TLLDocument::clearVars()
 {
+    history().clear();
     m_stations.reset();
     m_list.lists.setupLists();
     m_list.layout.clear();
@@ -155,11 +157,12 @@ StationListPtr TLLDocument::listWithMostEntries(bool isTV) const
     return m_list.lists.listWithMostEntries(isTV);
 }
 
-void TLLDocument::applyOrderFromRefList(const ReferenceList &entries, const QString &fileName)
+void TLLDocument::applyOrderFromRefList(const ReferenceList &entries, const QString &fileName,
+                                        EditRecord *record)
 {
     if (!m_stations)
         return;
-    const ReferenceOrderResult result = applyReferenceOrder(*m_stations, entries);
+    const ReferenceOrderResult result = applyReferenceOrder(*m_stations, entries, record);
     if (!prompts())
         return;
     const Alert report{.message = qtTrId("kSortTitle").arg(fileName),
@@ -269,7 +272,6 @@ void TLLDocument::reviewSave(const QByteArray &bytes, SavePurpose purpose,
 void TLLDocument::documentWasSaved()
 {
     m_repair.reset();
-    Document::documentWasSaved();
 }
 
 QString TLLDocument::savedText() const

@@ -14,6 +14,7 @@
 
 namespace quillet {
 
+class EditRecord;
 class TLLWindowController;
 
 /// A channel list as a document: where it came from, which of its lists is the current one, whether
@@ -96,8 +97,10 @@ public:
     [[nodiscard]] bool hasDataForSource(int source) const;
     [[nodiscard]] StationListPtr listWithMostEntries(bool isTV) const;
     /// Imposes a reference list on the current list, then reports in a sheet what was matched. The
-    /// file name is for the report.
-    void applyOrderFromRefList(const ReferenceList &entries, const QString &fileName);
+    /// file name is for the report. What it did is noted in the record, if there is one, which
+    /// whoever means to undo it has to give.
+    void applyOrderFromRefList(const ReferenceList &entries, const QString &fileName,
+                               EditRecord *record = nullptr);
     /// Asks for a place and saves a copy of the file there.
     void exportAsReferenceList();
     /// False for none, an empty text and a single blank.

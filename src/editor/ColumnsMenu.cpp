@@ -62,6 +62,7 @@ void ColumnsMenu::validate()
         m_items[column]->setToolTip(reason);
     }
     m_usual->setEnabled(!m_columns.areUsual());
+    m_usual->setToolTip(m_usual->isEnabled() ? QString() : qtTrId("kTipColumnsUsual"));
 }
 
 /// Why the column cannot be hidden, or not be shown; empty when it can.

@@ -28,6 +28,14 @@ double contrast(const QColor &a, const QColor &b)
     return (lighter + 0.05) / (darker + 0.05);
 }
 
+/// Many dark palettes leave the colour of links as it is on a light ground.
+QColor linkColor(const QPalette &palette, QPalette::ColorRole ground)
+{
+    constexpr double readable = 4.5;
+    const QColor link = palette.color(QPalette::Link);
+    return contrast(link, palette.color(ground)) >= readable ? link : palette.color(QPalette::Text);
+}
+
 QColor faded(const QColor &ink, const QColor &ground, const QColor &otherGround)
 {
     constexpr double wanted = 4.7; // with something to spare for rounding

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QColor>
+#include <QPalette>
 
 namespace quillet {
 
@@ -8,6 +9,8 @@ namespace quillet {
 /// reckon it; text wants 4.5, the frame of a control 3.
 [[nodiscard]] double contrast(const QColor &a, const QColor &b);
 
+/// The palette's colour of links where it can be read on that ground, else that of text.
+[[nodiscard]] QColor linkColor(const QPalette &palette, QPalette::ColorRole ground);
 /// The ink as pale on the ground as can still be read well, there and on the other ground, which
 /// is much like it. An ink that is not read well itself is left as it is.
 [[nodiscard]] QColor faded(const QColor &ink, const QColor &ground, const QColor &otherGround);

@@ -2,13 +2,21 @@
 
 #include <QString>
 
+#include <cstddef>
+
 namespace quillet {
 
 /// What an edit came to, in numbers and names: enough to say it to a person.
 struct EditSummary
 {
     enum class Kind {
-        Moved,
+        Moved, ///< to a number
+        MovedUp,
+        MovedDown,
+        MovedToTop,
+        MovedToBottom,
+        Swapped,
+        Arranged,
         ClosedGaps,
         Renamed,
         Skipped,
@@ -28,5 +36,7 @@ struct EditSummary
 
 /// The summary in a sentence, without a full stop.
 [[nodiscard]] QString textOf(const EditSummary &summary);
+/// The edit as a step that may be undone, in the form of a title.
+[[nodiscard]] QString stepName(const EditSummary &summary);
 
 } // namespace quillet

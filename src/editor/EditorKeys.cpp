@@ -4,6 +4,7 @@
 #include "editor/ViewController.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -21,9 +22,16 @@ bool isReturn(const QKeyEvent &key)
     return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
 }
 
+/// One of the keys for making again, which line edits do not know everywhere.
+bool isCtrlY(const QKeyEvent &key)
+{
+    return key.key() == Qt::Key_Y && key.modifiers() == Qt::ControlModifier;
+}
+
 } // namespace
 
-EditorKeys::EditorKeys(DarkModeTableView &list, QLineEdit &search, ViewController &controller)
+EditorKeys::EditorKeys(DarkModeTableView &list, QLineEdit &search, QComboBox &filter,
+                       ViewController &controller)
     : m_list(list), m_search(search), m_controller(controller), m_shown(new QLabel(&list))
 {
     m_shown->setObjectName(QStringLiteral("typedText"));
@@ -39,10 +47,42 @@ EditorKeys::EditorKeys(DarkModeTableView &list, QLineEdit &search, ViewControlle
     list.installEventFilter(this);
     list.viewport()->installEventFilter(this);
     search.installEventFilter(this);
+    filter.installEventFilter(this);
+}
+
+/// Keys that a command of the window has as well: F2 opens the current cell if that can be, and the
+/// type filter opens with Alt and an arrow.
+bool EditorKeys::isTheirs(const QObject *watched, const QKeyEvent &key) const
+{
+    if (watched == &m_list)
+        return key.key() == Qt::Key_F2 && !key.modifiers() &&
+               m_list.currentIndex().flags().testFlag(Qt::ItemIsEditable);
+    const bool isArrow = key.key() == Qt::Key_Up || key.key() == Qt::Key_Down;
+    return qobject_cast<const QComboBox *>(watched) && isArrow &&
+           key.modifiers() == Qt::AltModifier;
+}
+
+/// A field takes the keys of undoing even with nothing to undo; then they are for the list.
+bool EditorKeys::searchOverride(QKeyEvent &key) const
+{
+    const bool isRedo = key.matches(QKeySequence::Redo) || isCtrlY(key);
+    if (!isRedo && !key.matches(QKeySequence::Undo))
+        return false;
+    key.setAccepted(isRedo ? m_search.isRedoAvailable() : m_search.isUndoAvailable());
+    return true;
 }
 
 bool EditorKeys::eventFilter(QObject *watched, QEvent *event)
 {
+    if (event->type() == QEvent::ShortcutOverride && watched == &m_search)
+        return searchOverride(static_cast<QKeyEvent &>(*event));
+    if (event->type() == QEvent::ShortcutOverride &&
+        isTheirs(watched, static_cast<const QKeyEvent &>(*event))) {
+        event->accept();
+        return true;
+    }
+    if (qobject_cast<QComboBox *>(watched))
+        return false;
     const bool isKey = event->type() == QEvent::KeyPress;
     if (watched == &m_search)
         return isKey && searchKey(static_cast<const QKeyEvent &>(*event));
@@ -55,6 +95,10 @@ bool EditorKeys::eventFilter(QObject *watched, QEvent *event)
 
 bool EditorKeys::searchKey(const QKeyEvent &key)
 {
+    if (isCtrlY(key)) {
+        m_search.redo();
+        return true;
+    }
     if (key.modifiers() & ~Qt::KeypadModifier)
         return false;
     if (key.key() == Qt::Key_Escape) {
@@ -73,10 +117,13 @@ bool EditorKeys::listKey(const QKeyEvent &key)
 {
     if (m_list.isEditing())
         return false;
+    // Commands of the window; one that is disabled must not move the selection instead.
+    const bool isWay = key.key() >= Qt::Key_Home && key.key() <= Qt::Key_PageDown;
+    if (isWay && key.modifiers().testFlag(Qt::AltModifier))
+        return true;
     if (isReturn(key) && m_typed.isNumber())
         return goToNumber();
     const bool isTyping = !key.text().isEmpty() && key.text().front().isPrint();
-    const bool isWay = key.key() >= Qt::Key_Home && key.key() <= Qt::Key_PageDown;
     if (isWay || (!isTyping && !key.text().isEmpty()))
         beginAnew();
     if (key.key() != Qt::Key_Space || key.modifiers())

@@ -8,6 +8,7 @@
 class QKeyEvent;
 class QLabel;
 class QLineEdit;
+class QComboBox;
 
 namespace quillet {
 
@@ -22,12 +23,15 @@ class EditorKeys : public QObject
     Q_OBJECT
 
 public:
-    EditorKeys(DarkModeTableView &list, QLineEdit &search, ViewController &controller);
+    EditorKeys(DarkModeTableView &list, QLineEdit &search, QComboBox &filter,
+               ViewController &controller);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    [[nodiscard]] bool isTheirs(const QObject *watched, const QKeyEvent &key) const;
+    [[nodiscard]] bool searchOverride(QKeyEvent &key) const;
     bool searchKey(const QKeyEvent &key);
     bool listKey(const QKeyEvent &key);
     bool goToNumber();

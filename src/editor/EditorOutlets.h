@@ -87,6 +87,8 @@ public:
 
     /// Says in the line at the bottom what has just happened, in the place of what it said before.
     virtual void tell(const QString &text) = 0;
+    /// The same of an edit, which can be undone from there.
+    virtual void tellEdit(const QString &text) = 0;
 
     /// The window that questions belong to.
     [[nodiscard]] virtual QWidget *sheetWindow() const = 0;

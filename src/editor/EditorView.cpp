@@ -1,5 +1,6 @@
 #include "editor/EditorView.h"
 
+#include "editor/ArrangeDialog.h"
 #include "editor/ColumnsMenu.h"
 #include "editor/EditorKeys.h"
 #include "editor/EditorLayout.h"
@@ -12,8 +13,11 @@
 #include "editor/TableSelection.h"
 #include "ui_EditorView.h"
 
+#include <QClipboard>
 #include <QDropEvent>
+#include <QGuiApplication>
 #include <QItemSelectionModel>
+#include <QMenu>
 
 #include <array>
 
@@ -79,7 +83,8 @@ void EditorView::setUpTable()
                         [this](const TableDrag &drag) { return m_controller.acceptDrop(drag); });
 
     m_emptyDocText = new EmptyDocText(list.viewport());
-    m_keys = std::make_unique<EditorKeys>(list, *m_ui->searchText, m_controller);
+    m_keys = std::make_unique<EditorKeys>(list, *m_ui->searchText, *m_ui->filterPop, m_controller);
+    m_cells = std::make_unique<CellEditing>(list, m_controller);
 }
 
 void EditorView::connectControls()
@@ -101,6 +106,8 @@ void EditorView::connectControls()
             &ViewController::applyOrderClicked);
     connect(m_ui->fillGapsButton, &QCheckBox::toggled, &m_controller,
             &ViewController::fillGapsClicked);
+    connect(m_ui->list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            [this] { m_selectedRows.reset(); });
     connect(m_ui->list->selectionModel(), &QItemSelectionModel::selectionChanged, &m_controller,
             &ViewController::tableViewSelectionDidChange);
     connect(m_ui->noticeBar, &NoticeBar::actionTriggered, &m_controller,
@@ -118,15 +125,39 @@ void EditorView::connectControls()
             &ViewController::useRadioClicked);
 }
 
-void EditorView::commitEditing()
+void EditorView::undo()
 {
-    if (isEditing())
-        m_ui->list->setFocus(); // which ends the cell's editor and keeps what was typed
+    if (!m_cells->undo())
+        m_controller.undoing().undo();
 }
 
-bool EditorView::isEditing() const
+void EditorView::redo()
 {
-    return m_ui->list->isEditing();
+    if (!m_cells->redo())
+        m_controller.undoing().redo();
+}
+
+void EditorView::goToStep(int step)
+{
+    commitEditing();
+    m_controller.undoing().goToStep(step);
+}
+
+void EditorView::copy()
+{
+    QGuiApplication::clipboard()->setText(m_controller.selecting().copiedText());
+}
+
+void EditorView::findNext(bool isForward)
+{
+    m_controller.selecting().findNext(isForward);
+    if (!m_ui->searchText->hasFocus())
+        focusList();
+}
+
+void EditorView::askToArrange()
+{
+    quillet::askToArrange(m_controller, sheetWindow());
 }
 
 /// Files may be dropped anywhere in the window.
@@ -174,8 +205,20 @@ void EditorView::showInfo()
 
 void EditorView::setContextActions(const QList<QAction *> &actions)
 {
-    m_ui->list->addActions(actions);
-    m_ui->list->setContextMenuPolicy(Qt::ActionsContextMenu);
+    m_contextActions = actions;
+    m_ui->list->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(m_ui->list, &QWidget::customContextMenuRequested, this, &EditorView::showContextMenu);
+}
+
+/// Unlike the one that a widget makes of its actions, it says why a command is disabled.
+void EditorView::showContextMenu(const QPoint &place)
+{
+    auto *menu = new QMenu(this);
+    menu->setObjectName(QStringLiteral("tableMenu"));
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->setToolTipsVisible(true);
+    menu->addActions(m_contextActions);
+    menu->popup(m_ui->list->viewport()->mapToGlobal(place));
 }
 
 QMenu &EditorView::columnsMenu() const
@@ -280,12 +323,13 @@ void EditorView::selectFilterItem(int index)
 
 void EditorView::clearSearchText()
 {
-    m_ui->searchText->clear();
+    m_ui->searchText->setText({}); // which typing cannot undo
 }
 
 void EditorView::reloadData()
 {
     m_model.reload();
+    m_selectedRows.reset();
     m_ui->list->setPlaceholderText(m_controller.shown().isFiltered() ? qtTrId("kNoMatches")
                                                                      : QString());
 }
@@ -293,11 +337,14 @@ void EditorView::reloadData()
 void EditorView::showChange(const ListChange &change)
 {
     m_model.show(change);
+    m_selectedRows.reset();
 }
 
 QList<qsizetype> EditorView::selectedRows() const
 {
-    return quillet::selectedRows(*m_ui->list->selectionModel());
+    if (!m_selectedRows)
+        m_selectedRows = quillet::selectedRows(*m_ui->list->selectionModel());
+    return *m_selectedRows;
 }
 
 void EditorView::selectRows(const QList<qsizetype> &rows)
@@ -305,9 +352,15 @@ void EditorView::selectRows(const QList<qsizetype> &rows)
     quillet::selectRows(*m_ui->list, rows);
 }
 
+/// One that is out of sight comes to the middle, so that its neighbours are seen as well.
 void EditorView::scrollRowToVisible(qsizetype row)
 {
-    m_ui->list->scrollToRow(static_cast<int>(row));
+    const DarkModeTableView &list = *m_ui->list;
+    const int top = list.rowViewportPosition(static_cast<int>(row));
+    const bool isSeen =
+        top >= 0 && top + list.rowHeight(static_cast<int>(row)) <= list.viewport()->height();
+    if (!isSeen)
+        m_ui->list->scrollToRow(static_cast<int>(row), QAbstractItemView::PositionAtCenter);
 }
 
 qsizetype EditorView::topRow() const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "editor/CellEditing.h"
 #include "editor/EditorOutlets.h"
 #include "editor/StationTableModel.h"
 #include "editor/ViewController.h"
@@ -7,6 +8,7 @@
 #include <QWidget>
 
 #include <memory>
+#include <optional>
 
 class QAction;
 class QMenu;
@@ -36,8 +38,18 @@ public:
     void focusList();
     void focusSearch();
     /// Takes over what is being typed into a cell.
-    void commitEditing();
-    [[nodiscard]] bool isEditing() const;
+    void commitEditing() { m_cells->commit(); }
+    [[nodiscard]] bool isEditing() const { return m_cells->isTyping(); }
+    /// Of what is being typed into a cell first.
+    void undo();
+    void redo();
+    void goToStep(int step);
+    [[nodiscard]] QString reasonAgainstRenaming() const { return m_cells->reasonAgainstRenaming(); }
+    void renameSelected() { m_cells->rename(); }
+    void askToArrange();
+    /// Puts the selected stations on the clipboard.
+    void copy();
+    void findNext(bool isForward);
     /// Asks where to print, then prints the rows shown.
     void printList();
     void setFillGapsOn(bool on);
@@ -71,6 +83,7 @@ public:
     void showForeignRows(const std::optional<ForeignRows> &rows) override;
     void showNotice(const Notice &notice) override;
     void tell(const QString &text) override { emit told(text); }
+    void tellEdit(const QString &text) override { emit editTold(text); }
     [[nodiscard]] QWidget *sheetWindow() const override;
     using QWidget::setEnabled;
 
@@ -79,6 +92,8 @@ signals:
     void stateChanged();
     /// Something has just happened that a person should hear of.
     void told(const QString &text);
+    /// The same of an edit, which can be undone.
+    void editTold(const QString &text);
     /// The person wants to choose a file.
     void openRequested();
 
@@ -91,6 +106,7 @@ private:
     void setUpControls();
     void setUpTable();
     void connectControls();
+    void showContextMenu(const QPoint &place);
 
     std::unique_ptr<Ui::EditorView> m_ui;
     ViewController m_controller;
@@ -98,6 +114,10 @@ private:
     EmptyDocText *m_emptyDocText;
     ColumnsMenu *m_columnsMenu;
     std::unique_ptr<EditorKeys> m_keys;
+    std::unique_ptr<CellEditing> m_cells;
+    QList<QAction *> m_contextActions;
+    /// None once they may be others: commands are validated by them again and again.
+    mutable std::optional<QList<qsizetype>> m_selectedRows;
     QPointer<InfoViewController> m_infoPanel;
 };
 

@@ -30,16 +30,6 @@ constexpr std::array hintTexts{
              "kHintShowTV"},
 };
 
-/// Many dark palettes leave the colour of links as it is on a light ground.
-QColor linkColor(const QPalette &palette)
-{
-    constexpr double readable = 4.5;
-    const QColor link = palette.color(QPalette::Link);
-    return contrast(link, palette.color(QPalette::Base)) >= readable
-               ? link
-               : palette.color(QPalette::Text);
-}
-
 QString richText(const HintText &row, const QColor &link)
 {
     QString text = QStringLiteral("<h3>%1</h3>").arg(qtTrId(row.heading).toHtmlEscaped());
@@ -76,7 +66,7 @@ void EmptyDocText::showHint(EmptyHint hint)
         std::find_if(hintTexts.begin(), hintTexts.end(),
                      [hint](const HintText &text) { return text.hint == hint; });
     if (row != hintTexts.end())
-        setText(richText(*row, linkColor(palette())));
+        setText(richText(*row, linkColor(palette(), QPalette::Base)));
     setVisible(row != hintTexts.end());
 }
 

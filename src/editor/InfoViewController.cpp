@@ -127,9 +127,13 @@ void InfoViewController::setStation(const LGStation &station)
 
 bool InfoViewController::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_list && event->type() == QEvent::KeyPress &&
+    const bool isOverride = event->type() == QEvent::ShortcutOverride;
+    if (watched == m_list && (isOverride || event->type() == QEvent::KeyPress) &&
         static_cast<QKeyEvent *>(event)->matches(QKeySequence::Copy)) {
-        copySelection();
+        if (isOverride)
+            event->accept(); // before the editor's window copies stations
+        else
+            copySelection();
         return true;
     }
     return QDialog::eventFilter(watched, event);

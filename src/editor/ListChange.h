@@ -14,7 +14,7 @@ namespace quillet {
 enum class StationField { Number = 1, Name = 2, Skipped = 4, Blocked = 8 };
 Q_DECLARE_FLAGS(StationFields, StationField)
 
-/// What an edit changed, told once it is made.
+/// What an edit changed, told once it is made, undone or made again.
 struct ListChange
 {
     enum class Kind {
@@ -22,13 +22,16 @@ struct ListChange
         Moved,    ///< stations stand elsewhere, and so may numbers
         Reordered ///< the whole list has a new order and new numbers
     };
+    enum class Cause { Edit, Undo, Redo };
 
     Kind kind = Kind::Fields;
-    StationListPtr list;
+    StationListPtr list = {};
     /// Outside of these places, ascending, nothing changed.
-    std::vector<ListStretch> places;
-    StationFields fields; ///< of the stations there
-    EditSummary summary;
+    std::vector<ListStretch> places = {};
+    StationFields fields = {}; ///< of the stations there
+    EditSummary summary = {};
+    StationList stations = {}; ///< that the edit was about; empty: all in those places
+    Cause cause = Cause::Edit;
 };
 
 } // namespace quillet

@@ -1,14 +1,16 @@
 #include "editor/ListEditor.h"
 
 #include "document/order/ReferenceOrder.h"
+#include "editor/EditStep.h"
 
 namespace quillet {
 
 namespace {
 
-EditSummary::Kind kindOf(StationFlag flag, bool set)
+using Kind = EditSummary::Kind;
+
+Kind kindOf(StationFlag flag, bool set)
 {
-    using Kind = EditSummary::Kind;
     if (flag == StationFlag::Skipped)
         return set ? Kind::Skipped : Kind::Unskipped;
     return set ? Kind::Locked : Kind::Unlocked;
@@ -27,14 +29,40 @@ bool ListEditor::move(const MovePlan &plan, Beyond beyond)
 {
     if (plan.moved.empty() || (beyond == Beyond::Refused && plan.beyond() > 0))
         return false;
-    const std::size_t others = moveElemList(list(), plan);
-    tell(ListChange::Kind::Moved, {plan.changed}, StationField::Number,
-         {.kind = EditSummary::Kind::Moved,
-          .stations = plan.moved.size(),
-          .first = plan.numbers[plan.place],
-          .last = plan.numbers[plan.place + plan.moved.size() - 1],
-          .others = others});
+    if (plan.changesNothingIn(list()))
+        return true;
+    EditRecord record;
+    const std::size_t others = moveElemList(list(), plan, record);
+    tell({.kind = ListChange::Kind::Moved,
+          .places = {plan.changed},
+          .fields = StationField::Number,
+          .summary = {.kind = Kind::Moved,
+                      .stations = plan.moved.size(),
+                      .first = plan.numbers[plan.place],
+                      .last = plan.numbers[plan.place + plan.moved.size() - 1],
+                      .others = others},
+          .stations = plan.moved},
+         std::move(record));
     return true;
+}
+
+void ListEditor::arrange(const ArrangePlan &plan, const StationList &stations, Kind kind,
+                         Beyond beyond)
+{
+    if (plan.order.isEmpty() || (beyond == Beyond::Refused && plan.beyond() > 0))
+        return;
+    EditRecord record;
+    quillet::arrange(list(), plan, record);
+    const ListStretch places = record.places();
+    tell({.kind = ListChange::Kind::Moved,
+          .places = {places},
+          .fields = StationField::Number,
+          .summary = {.kind = kind,
+                      .stations = kind == Kind::Arranged ? plan.moved : stations.size(),
+                      .first = stations.front()->progNum(),
+                      .last = stations.back()->progNum()},
+          .stations = stations.size() < list().size() ? stations : StationList()},
+         std::move(record));
 }
 
 std::size_t ListEditor::beyondAfterClosingGaps() const
@@ -51,45 +79,60 @@ void ListEditor::closeGaps(Beyond beyond)
 {
     if (beyond == Beyond::Refused && beyondAfterClosingGaps() > 0)
         return;
-    const auto [changed, count] = quillet::closeGaps(list());
-    if (count > 0)
-        tell(ListChange::Kind::Fields, {changed}, StationField::Number,
-             {.kind = EditSummary::Kind::ClosedGaps, .stations = count});
+    EditRecord record;
+    const auto [changed, count] = quillet::closeGaps(list(), record);
+    tell({.places = {changed},
+          .fields = StationField::Number,
+          .summary = {.kind = Kind::ClosedGaps, .stations = count}},
+         std::move(record));
 }
 
 void ListEditor::rename(const StationPtr &station, const QString &name)
 {
     if (!areIn(list(), {station}))
         return;
-    station->setStationName(name);
-    tell(ListChange::Kind::Fields, placesOf({station}, list()), StationField::Name,
-         {.kind = EditSummary::Kind::Renamed, .stations = 1, .name = name});
+    EditRecord record;
+    quillet::rename(station, name, record);
+    tell({.places = placesOf({station}, list()),
+          .fields = StationField::Name,
+          .summary = {.kind = Kind::Renamed, .stations = 1, .name = name},
+          .stations = {station}},
+         std::move(record));
 }
 
 void ListEditor::setFlag(const StationList &stations, StationFlag flag, bool set)
 {
     if (!areIn(list(), stations))
         return;
-    quillet::setFlag(stations, flag, set);
-    tell(ListChange::Kind::Fields, placesOf(stations, list()),
-         flag == StationFlag::Skipped ? StationField::Skipped : StationField::Blocked,
-         {.kind = kindOf(flag, set), .stations = stations.size()});
+    EditRecord record;
+    quillet::setFlag(stations, flag, set, record);
+    tell({.places = placesOf(stations, list()),
+          .fields = flag == StationFlag::Skipped ? StationField::Skipped : StationField::Blocked,
+          .summary = {.kind = kindOf(flag, set), .stations = stations.size()},
+          .stations = stations},
+         std::move(record));
 }
 
 void ListEditor::applyOrder(const ReferenceList &entries, const QString &fileName, Beyond beyond)
 {
     if (!m_document->stations() || (beyond == Beyond::Refused && beyondAfterOrder(entries) > 0))
         return;
-    m_document->applyOrderFromRefList(entries, fileName);
-    tell(ListChange::Kind::Reordered, {{0, list().size()}}, StationField::Number,
-         {.kind = EditSummary::Kind::Ordered, .stations = list().size(), .name = fileName});
+    EditRecord record;
+    m_document->applyOrderFromRefList(entries, fileName, &record);
+    tell({.kind = ListChange::Kind::Reordered,
+          .places = {{0, list().size()}},
+          .fields = StationField::Number,
+          .summary = {.kind = Kind::Ordered, .stations = list().size(), .name = fileName}},
+         std::move(record));
 }
 
-void ListEditor::tell(ListChange::Kind kind, std::vector<ListStretch> places, StationFields fields,
-                      const EditSummary &summary)
+void ListEditor::tell(ListChange change, EditRecord record)
 {
-    m_document->setDirtyFlag(true);
-    emit changed({kind, m_document->stations(), std::move(places), fields, summary});
+    if (record.isEmpty())
+        return;
+    change.list = m_document->stations();
+    m_document->history().push(std::make_unique<EditStep>(*this, change, std::move(record)));
+    emit changed(change);
 }
 
 } // namespace quillet

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/TLLDocument.h"
+#include "document/edit/Arranging.h"
 #include "document/edit/Renumbering.h"
 #include "document/edit/StationEdits.h"
 #include "editor/ListChange.h"
@@ -10,11 +11,12 @@
 
 namespace quillet {
 
-/// The one gate for edits: every change of a station or of the order of a list is made here, marks
-/// the document changed and is told. Works on the document's current list; asked for
-/// stations of another one it does nothing. Shows nothing but the document's own report of an
-/// order. Owned by the window's ViewController; holds the document weakly, without which nothing
-/// may be asked of it.
+/// The one gate for edits: every change of a station or of the order of a list is made here,
+/// becomes a step of the document's history and is told; and so is its undoing. Works on the
+/// document's current list; asked for stations of another one it does nothing. An edit that changes
+/// nothing leaves no step, but a reference list counts as a change by itself. Shows nothing but the
+/// document's own report of an order. Owned by the window's ViewController; holds the document
+/// weakly, without which nothing may be asked of it.
 ///
 /// An edit that would give a station a number that it cannot carry is made only when that is said
 /// to be wanted, whatever way it comes here.
@@ -33,8 +35,12 @@ public:
     /// What moving stations (at least one) to a number would do; empty for ones of another list.
     [[nodiscard]] MovePlan planMove(const StationList &stations, qint64 target,
                                     bool fillGaps) const;
-    /// Carries out a plan that was made of the list as it is. Returns whether it did.
+    /// Carries out a plan that was made of the list as it is. Returns whether it did, also when
+    /// everything stood there already.
     bool move(const MovePlan &plan, Beyond beyond = Beyond::Refused);
+    /// Carries out a plan that was made of the list as it is, to give stations other places.
+    void arrange(const ArrangePlan &plan, const StationList &stations, EditSummary::Kind kind,
+                 Beyond beyond = Beyond::Refused);
     /// How many stations would get a number that they cannot carry.
     [[nodiscard]] std::size_t beyondAfterClosingGaps() const;
     [[nodiscard]] std::size_t beyondAfterOrder(const ReferenceList &entries) const;
@@ -50,8 +56,7 @@ signals:
     void changed(const quillet::ListChange &change);
 
 private:
-    void tell(ListChange::Kind kind, std::vector<ListStretch> places, StationFields fields,
-              const EditSummary &summary);
+    void tell(ListChange change, EditRecord record);
     [[nodiscard]] StationList &list() const { return *m_document->stations(); }
 
     QPointer<TLLDocument> m_document;

@@ -7,13 +7,16 @@
 #include <QSettings>
 #include <QTableView>
 
+#include <algorithm>
+
 namespace quillet {
 
 namespace {
 
 constexpr int nameColumn = columnOf(ColumnContent::Name);
 constexpr int narrowestName = 24; ///< in average characters
-constexpr double widestColumn = 500;
+constexpr double narrowestColumn = 2;
+constexpr double widestColumn = 60;
 constexpr QChar hiddenSign = u'-';
 constexpr QChar widthSign = u'=';
 
@@ -51,6 +54,13 @@ ShownColumns::ShownColumns(QTableView &table)
     connect(&m_header, &QHeaderView::sectionMoved, this, [this] {
         if (!m_isSettingUp)
             note();
+    });
+    // The header counts its sections anew then, hidden ones for a while included.
+    connect(table.model(), &QAbstractItemModel::layoutAboutToBeChanged, this,
+            [this] { m_isSettingUp = true; });
+    connect(table.model(), &QAbstractItemModel::layoutChanged, this, [this] {
+        m_isSettingUp = false;
+        fitName();
     });
     table.installEventFilter(this);
     table.viewport()->installEventFilter(this);
@@ -138,7 +148,8 @@ void ShownColumns::setState(const QStringList &state)
             m_header.setSectionHidden(column, isHidden && factsOf(column).use != ColumnUse::Always);
             const double width = each.section(widthSign, 1).toDouble();
             if (column != nameColumn && width > 0)
-                m_widths.at(static_cast<std::size_t>(column)) = qMin(width, widestColumn);
+                m_widths.at(static_cast<std::size_t>(column)) =
+                    std::clamp(width, narrowestColumn, widestColumn);
         }
     }
     sizeSections();

@@ -1,35 +1,8 @@
 #include "editor/StationFilter.h"
 
-#include "model/CleanName.h"
+#include "editor/StationSearch.h"
 
 namespace quillet {
-
-namespace {
-
-/// Lower-cases one text after another into the same memory.
-class LowerCase
-{
-public:
-    /// Valid until the next one.
-    QStringView of(const QString &text)
-    {
-        m_text.resize(text.size());
-        QChar *out = m_text.data();
-        for (const QChar c : text) {
-            if (c.unicode() >= 0x80) {
-                m_text = text.toLower(); // where one character may become several
-                break;
-            }
-            *out++ = c >= u'A' && c <= u'Z' ? QChar(c.unicode() | 0x20) : c;
-        }
-        return m_text;
-    }
-
-private:
-    QString m_text;
-};
-
-} // namespace
 
 void StationFilter::clear()
 {
@@ -46,20 +19,9 @@ void StationFilter::filterStationsFor(const QString &text, const StationListPtr 
     StationList &matching = m_filtered.emplace();
     if (!stations)
         return;
-    const QString wanted = text.toLower();
-    LowerCase lowerCase;
-    const auto holds = [&lowerCase, &wanted](const QString &name) {
-        return lowerCase.of(name).contains(wanted);
-    };
-    const auto fits = [&holds](const QString &name) {
-        if (holds(name))
-            return true;
-        const QString clean = cleanName(name);
-        const bool isSame = clean.constData() == name.constData(); // as it mostly is
-        return !isSame && holds(clean);
-    };
+    StationSearch search(text);
     for (const StationPtr &station : *stations) {
-        if (fits(station->stationName()) || (station->isRenamed() && fits(station->shownName())))
+        if (search.finds(*station))
             matching.push_back(station);
     }
 }

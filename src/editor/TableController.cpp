@@ -6,6 +6,8 @@
 #include "files/FileNames.h"
 #include "support/KXFileLog.h"
 
+#include <QSet>
+
 namespace quillet {
 
 TableController::TableController(EditorOutlets &outlets, QObject *parent)
@@ -127,16 +129,21 @@ void TableController::switchSource(int source)
 
 void TableController::reflectRadioButton(bool isTV)
 {
-    m_outlets.setTVButtonOn(isTV);
-    if (!isTV)
-        m_outlets.selectFilterItem(static_cast<int>(TypeFilter::All));
-    enable(EditorOutlets::Control::FilterPop, isTV);
-    switchToMode(isTV);
+    useMode(isTV);
     applyFilter();
     m_outlets.selectRows({});
     m_outlets.reloadData();
     saveSelection();
     updateButtons();
+}
+
+void TableController::useMode(bool isTV)
+{
+    m_outlets.setTVButtonOn(isTV);
+    if (!isTV)
+        m_outlets.selectFilterItem(static_cast<int>(TypeFilter::All));
+    enable(EditorOutlets::Control::FilterPop, isTV);
+    switchToMode(isTV);
 }
 
 void TableController::sourceSegmentClicked()
@@ -219,6 +226,61 @@ void TableController::showChange(const ListChange &change)
     m_inRestore = true;
     m_outlets.showChange(change);
     m_inRestore = false;
+}
+
+void TableController::showList(const StationListPtr &list)
+{
+    for (const bool isTV : {true, false}) {
+        for (const StationSource each : stationSources) {
+            const int source = static_cast<int>(each);
+            if (stationDoc()->lists().list(isTV, source) != list)
+                continue;
+            useMode(isTV);
+            m_source = source;
+            m_outlets.selectSegment(source);
+            switchSource(source);
+            m_shown.selection().clear();
+            applyFilter();
+            return updateButtons();
+        }
+    }
+}
+
+void TableController::reveal(const StationList &stations)
+{
+    QSet<const LGStation *> wanted;
+    for (const StationPtr &station : stations)
+        wanted.insert(station.get());
+    qsizetype hidden = 0;
+    const auto rowsOf = [&] {
+        QSet<const LGStation *> missing = wanted; // a station may have two rows
+        QList<qsizetype> rows;
+        for (std::size_t row = 0; row < currentList().size(); ++row) {
+            if (!wanted.contains(currentList()[row].get()))
+                continue;
+            rows.append(static_cast<qsizetype>(row));
+            missing.remove(currentList()[row].get());
+        }
+        hidden = missing.size();
+        return rows;
+    };
+    QList<qsizetype> rows = rowsOf();
+    if (hidden > 0 && m_shown.isFiltered()) {
+        clearFilters();
+        rows = rowsOf();
+    }
+    selectRows(rows);
+    if (!rows.isEmpty())
+        m_outlets.scrollRowToVisible(rows.front());
+}
+
+void TableController::selectRows(const QList<qsizetype> &rows)
+{
+    m_inRestore = true;
+    m_outlets.selectRows(rows);
+    m_inRestore = false;
+    saveSelection();
+    updateButtons();
 }
 
 void TableController::saveSelection()

@@ -80,6 +80,18 @@ public:
     /// Shows in the bar what there is to say about the document's file now.
     void showNotice();
 
+    // Showing what was done
+
+    /// Shows what an edit did. Only moving applies the filters anew.
+    void showChange(const ListChange &change);
+    /// Shows that list of the document, as if its source and mode had been clicked.
+    void showList(const StationListPtr &list);
+    /// Selects stations of the list on show, and scrolls to the first. A filter that hides one of
+    /// them is cleared.
+    void reveal(const StationList &stations);
+    /// Selects exactly these rows, ascending, and remembers that.
+    void selectRows(const QList<qsizetype> &rows);
+
 signals:
     /// A document is about to be shown, or the same one anew.
     void documentChanged(quillet::TLLDocument *document);
@@ -90,8 +102,6 @@ protected:
     [[nodiscard]] EditorOutlets &outlets() const { return m_outlets; }
     [[nodiscard]] SavedSelection &savedSelection() { return m_shown.selection(); }
     [[nodiscard]] EditorQuestions questions();
-    /// Shows what an edit did. Only moving applies the filters anew.
-    void showChange(const ListChange &change);
 
 private:
     void enable(EditorOutlets::Control control, bool enabled);
@@ -100,6 +110,7 @@ private:
     void updateStationCountDisplay();
     void switchToMode(bool isTV);
     void switchSource(int source);
+    void useMode(bool isTV);
     void reflectRadioButton(bool isTV);
     void narrow();
     void rebuildList();

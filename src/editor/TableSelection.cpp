@@ -34,6 +34,9 @@ void selectRows(QTableView &table, const QList<qsizetype> &rows)
         i = end + 1;
     }
     QItemSelectionModel &selected = *table.selectionModel();
+    constexpr qsizetype many = 50;
+    if (selection.size() > many && selected.selection().size() > many)
+        selected.clearSelection(); // what changes is found by comparing each range with each
     selected.select(selection, QItemSelectionModel::ClearAndSelect);
     if (!selection.isEmpty() && !selected.isSelected(selected.currentIndex()))
         selected.setCurrentIndex(selection.first().topLeft(), QItemSelectionModel::NoUpdate);

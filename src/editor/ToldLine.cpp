@@ -32,6 +32,7 @@ ToldLine::ToldLine(QWidget *parent) : QLabel(parent)
     connect(&m_silence, &QTimer::timeout, this, [this] {
         clear();
         setAccessibleName({});
+        emit silenced();
     });
 }
 
@@ -50,7 +51,8 @@ void ToldLine::tell(const QString &text)
 
 QSize ToldLine::sizeHint() const
 {
-    return {QLabel::sizeHint().width(), qMax(fontMetrics().height(), heightForWidth(width()))};
+    return {fontMetrics().horizontalAdvance(text()) + 2,
+            qMax(fontMetrics().height(), heightForWidth(width()))};
 }
 
 void ToldLine::resizeEvent(QResizeEvent *event)

@@ -27,6 +27,7 @@ public:
 signals:
     /// Screen readers were told of it.
     void announced(const QString &text);
+    void silenced();
 
 protected:
     void resizeEvent(QResizeEvent *event) override;

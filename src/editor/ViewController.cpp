@@ -18,15 +18,67 @@
 namespace quillet {
 
 ViewController::ViewController(EditorOutlets &outlets, QObject *parent)
-    : TableController(outlets, parent)
+    : TableController(outlets, parent), m_arranging(shown(), outlets), m_selecting(*this, outlets),
+      m_undoing(*this, outlets)
 {
-    connect(this, &TableController::documentChanged, &m_editor, &ListEditor::setDocument);
+    connect(this, &TableController::documentChanged, this, &ViewController::followDocument);
     connect(&m_editor, &ListEditor::changed, this, [this](const ListChange &change) {
-        showChange(change);
-        this->outlets().tell(textOf(change.summary));
+        if (change.cause == ListChange::Cause::Edit)
+            editWasMade(change);
+        else
+            m_undoing.showStep(change);
     });
     connect(&m_droppedFiles, &DroppedFiles::loaded, this, &ViewController::fileLoaded);
     connect(&m_droppedFiles, &DroppedFiles::refused, this, &ViewController::fileRefused);
+}
+
+void ViewController::followDocument(TLLDocument *document)
+{
+    m_editor.setDocument(document);
+    m_selecting.forgetDocument();
+    UndoHistory &history = document->history();
+    history.disconnect(this);
+    connect(&history, &UndoHistory::changed, this, &ViewController::stateChanged);
+    connect(&history, &UndoHistory::jumped, this, [this] { m_undoing.showLastOfJump(); });
+}
+
+void ViewController::editWasMade(const ListChange &change)
+{
+    showChange(change);
+    outlets().tellEdit(textOf(change.summary));
+}
+
+/// What is planned is planned again after a question, which may have taken a while.
+void ViewController::arrange(Arrangement command)
+{
+    const ArrangeCommands::Plan planned = m_arranging.plan(command, m_fillGaps);
+    whenNumbersSuffice(planned.plan.beyond(), [=, this](ListEditor::Beyond beyond) {
+        carryOutArrangement(
+            beyond == ListEditor::Beyond::Refused ? planned : m_arranging.plan(command, m_fillGaps),
+            beyond);
+    });
+}
+
+void ViewController::arrangeByKeys(const ArrangeKeys &keys)
+{
+    const ArrangeCommands::Plan planned = m_arranging.planByKeys(keys, source(), m_fillGaps);
+    whenNumbersSuffice(planned.plan.beyond(), [=, this](ListEditor::Beyond beyond) {
+        carryOutArrangement(beyond == ListEditor::Beyond::Refused
+                                ? planned
+                                : m_arranging.planByKeys(keys, source(), m_fillGaps),
+                            beyond);
+    });
+}
+
+/// The selected stations stay selected, wherever they are now.
+void ViewController::carryOutArrangement(const ArrangeCommands::Plan &planned,
+                                         ListEditor::Beyond beyond)
+{
+    if (planned.plan.order.isEmpty())
+        return;
+    const StationList selected = shown().ownStationsAt(outlets().selectedRows());
+    m_editor.arrange(planned.plan, planned.stations, planned.kind, beyond);
+    reveal(selected);
 }
 
 void ViewController::fillGapsClicked(bool on)

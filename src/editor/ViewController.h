@@ -1,10 +1,13 @@
 #pragma once
 
 #include "document/edit/StationEdits.h"
+#include "editor/ArrangeCommands.h"
 #include "editor/DroppedFiles.h"
 #include "editor/ListEditor.h"
+#include "editor/SelectCommands.h"
 #include "editor/TableController.h"
 #include "editor/TableDrag.h"
+#include "editor/UndoCommands.h"
 
 #include <QVariant>
 
@@ -54,6 +57,18 @@ public:
     /// Whether the command with that name, one of the editor's own, is enabled.
     [[nodiscard]] bool validateUserInterfaceItem(const QString &action) const;
 
+    // Arranging and selecting
+
+    /// Has the command carried out for the selected stations, or does nothing.
+    void arrange(Arrangement command);
+    void arrangeByKeys(const ArrangeKeys &keys);
+    /// Which stations that arranges, why some command cannot, and what it would do.
+    [[nodiscard]] const ArrangeCommands &arranging() const { return m_arranging; }
+    [[nodiscard]] SelectCommands &selecting() { return m_selecting; }
+
+    /// Going back and forth through the steps of the document.
+    [[nodiscard]] UndoCommands &undoing() { return m_undoing; }
+
     // Drag and drop
 
     [[nodiscard]] DragOperation validateDrop(const TableDrag &drag);
@@ -71,6 +86,7 @@ signals:
 private:
     void moveStations(const StationList &stations, qint64 target);
     void carryOut(const MovePlan &plan, ListEditor::Beyond beyond);
+    void carryOutArrangement(const ArrangeCommands::Plan &planned, ListEditor::Beyond beyond);
     /// Calls it at once, or after asking when stations would get numbers that they cannot carry.
     /// What was refused is told by `refused`, which may be empty.
     void whenNumbersSuffice(std::size_t beyond, const std::function<void(ListEditor::Beyond)> &goOn,
@@ -81,10 +97,15 @@ private:
     /// Says why the stations in foreign rows stay as they are. Returns whether there are such.
     bool tellForeignRows();
     void toggleSelected(StationFlag flag);
+    void followDocument(TLLDocument *document);
+    void editWasMade(const ListChange &change);
     void fileLoaded(const Error &error);
     void fileRefused(const Error &error);
 
     ListEditor m_editor;
+    ArrangeCommands m_arranging;
+    SelectCommands m_selecting;
+    UndoCommands m_undoing;
     DroppedFiles m_droppedFiles;
     bool m_fillGaps = false;
     int m_alsoDropped = 0;       ///< files, beside the one that is loaded

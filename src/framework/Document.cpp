@@ -28,7 +28,10 @@ FileOperations &plainFileOperations()
 
 } // namespace
 
-Document::Document(QObject *parent) : QObject(parent), m_fileOperations(&plainFileOperations()) {}
+Document::Document(QObject *parent) : QObject(parent), m_fileOperations(&plainFileOperations())
+{
+    connect(&m_history, &UndoHistory::cleanChanged, this, &Document::documentEditedChanged);
+}
 
 Document::~Document()
 {
@@ -104,7 +107,7 @@ bool Document::readFromUrl(const QUrl &url, const QString &typeName, Error &erro
         m_untouchedUrl.clear();
     setFileUrl(url);
     m_known = FileState::of(path, bytes);
-    updateChangeCount(Change::Cleared);
+    m_history.clear();
     return true;
 }
 
@@ -149,14 +152,10 @@ bool Document::validateUserInterfaceItem(const QString & /*action*/) const
 
 void Document::updateChangeCount(Change change)
 {
-    const bool isEdited = change == Change::Done;
-    if (std::exchange(m_isEdited, isEdited) != isEdited)
-        emit documentEditedChanged();
-}
-
-void Document::documentWasSaved()
-{
-    updateChangeCount(Change::Cleared);
+    if (change == Change::Done)
+        m_history.resetClean();
+    else
+        m_history.setClean();
 }
 
 QString Document::savedText() const
@@ -252,13 +251,14 @@ void Document::reviewSave(const QByteArray &bytes, SavePurpose /*purpose*/,
     decided(bytes);
 }
 
-void Document::wasWritten(const FileState &written)
+void Document::wasWritten(const FileState &written, quint64 changeCount)
 {
     m_known = written;
     m_suggestedUrl.clear();
     const QUrl url = QUrl::fromLocalFile(written.path());
     const bool isNewPlace = url != m_fileUrl;
     setFileUrl(url);
+    updateChangeCount(changeCount == m_history.changeCount() ? Change::Cleared : Change::Done);
     documentWasSaved();
     if (isNewPlace)
         emit placeWasChosen();

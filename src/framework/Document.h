@@ -3,6 +3,7 @@
 #include "files/Error.h"
 #include "files/FileState.h"
 #include "framework/DocumentSaving.h"
+#include "framework/UndoHistory.h"
 
 #include <QByteArray>
 #include <QObject>
@@ -89,9 +90,14 @@ public:
     /// Whether the command with that name (an action's objectName) is enabled; the base says no.
     [[nodiscard]] virtual bool validateUserInterfaceItem(const QString &action) const;
 
+    /// The steps that can be undone, whose clean state is the one truth of whether there are
+    /// changes.
+    [[nodiscard]] UndoHistory &history() { return m_history; }
+    [[nodiscard]] const UndoHistory &history() const { return m_history; }
+    /// Notes a change that cannot be undone, or that there is none any more.
     void updateChangeCount(Change change);
     /// Drives the window's modified mark: changes since opening or the last save.
-    [[nodiscard]] bool isDocumentEdited() const { return m_isEdited; }
+    [[nodiscard]] bool isDocumentEdited() const { return !m_history.isClean(); }
     /// Whether closing must ask first.
     [[nodiscard]] bool hasUnautosavedChanges() const { return isDocumentEdited(); }
 
@@ -136,8 +142,8 @@ protected:
                             const SaveJob::Client::Decided &decided);
     /// Shows the alert; `answered` gets the answer, with button -1 when nobody can be asked.
     void ask(const Alert &alert, const std::function<void(const AlertAnswer &)> &answered);
-    /// Called after the file was written; the base clears the change count.
-    virtual void documentWasSaved();
+    /// Called after the file was written.
+    virtual void documentWasSaved() {}
     /// What to say of that afterwards, in sentences.
     [[nodiscard]] virtual QString savedText() const;
     /// Deleting later takes the windows away first.
@@ -154,19 +160,21 @@ private:
     /// Answers an empty path when none was chosen or nobody can be asked.
     void askForPlace(const SavePanel &panel, const std::function<void(const QString &)> &answered);
     /// Makes the file just written the document's own.
-    void wasWritten(const FileState &written);
+    /// `changeCount` is that of the history when the bytes were made: what was done since then is
+    /// not in the file.
+    void wasWritten(const FileState &written, quint64 changeCount);
     void revert();
     void reload();
     /// Reads the file again and refills every window. A failure is shown and changes nothing.
     bool readAgain();
 
+    UndoHistory m_history;
     QUrl m_fileUrl;
     QUrl m_suggestedUrl;
     QUrl m_untouchedUrl; ///< of the file that saving must not write to
     QString m_fileType;
     Prompts *m_prompts = nullptr;
     FileOperations *m_fileOperations;
-    bool m_isEdited = false;
     bool m_showsFolder = false;
     bool m_isAsking = false;
     Lookup m_lookup;

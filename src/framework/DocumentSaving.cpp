@@ -84,6 +84,7 @@ QString DocumentSaving::refusal(const QString &place) const
 
 QByteArray DocumentSaving::makeBytes(Error &error)
 {
+    m_changeCount = m_document.history().changeCount();
     return m_document.dataOfType(m_typeName, error);
 }
 
@@ -116,7 +117,7 @@ void DocumentSaving::finished(const SaveJob::Result &result)
     switch (result.outcome) {
     case SaveJob::Outcome::Written:
         if (m_purpose == SavePurpose::Save)
-            m_document.wasWritten(*result.written);
+            m_document.wasWritten(*result.written, m_changeCount);
         else
             emit m_document.told(qtTrId("kToldExported").arg(shownPath(shortPath(m_path))));
         if (result.notKept.empty())

@@ -59,6 +59,7 @@ private:
     QString m_typeName;
     Done m_done;
     QString m_path;                   ///< of the file to write
+    quint64 m_changeCount = 0;        ///< of the document's history, as its bytes were made
     std::optional<SavePanel> m_panel; ///< that the place was chosen in
     Error m_lastError;                ///< of an attempt that has failed
     Choice m_next = Choice::Cancel;   ///< what follows the job that ends

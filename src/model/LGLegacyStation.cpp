@@ -61,11 +61,15 @@ QStringList LGLegacyStation::numberMarks()
 
 QString LGLegacyStation::stationName() const
 {
-    if (name().isEmpty()) {
-        const QString *given = entry().string(keys().keyStationName);
-        keepName(given ? *given : QStringLiteral("??"));
-    }
+    if (name().isEmpty())
+        keepName(readName());
     return name();
+}
+
+QString LGLegacyStation::readName() const
+{
+    const QString *given = entry().string(keys().keyStationName);
+    return given ? *given : QStringLiteral("??");
 }
 
 int LGLegacyStation::mappedSourceIndex() const
@@ -82,6 +86,20 @@ void LGLegacyStation::setProgramNum(qint64 number)
     setValue(keys().keyProgNum, Value(number));
     for (const QString &mark : numberMarks())
         setValue(mark, Value(qint64(1)));
+    keepRawNumber(number, canCarry(number));
+}
+
+QStringList LGLegacyStation::numberKeys() const
+{
+    return QStringList{keys().keyProgNum} + numberMarks();
+}
+
+bool LGLegacyStation::readsPlainNumber() const
+{
+    const QStringList marks = numberMarks();
+    return field(keys().keyProgNum) == Value(progNum()) &&
+           std::all_of(marks.begin(), marks.end(),
+                       [this](const QString &mark) { return field(mark) == Value(qint64(1)); });
 }
 
 std::optional<bool> LGLegacyStation::getBoolValue(const QString &key) const

@@ -22,6 +22,7 @@ public:
     [[nodiscard]] int mappedSourceIndex() const override;
     /// Stores the number as a number, without a radio mark, and marks it as given by the user.
     void setProgramNum(qint64 number) override;
+    [[nodiscard]] QStringList numberKeys() const override;
     [[nodiscard]] QString description() const override;
 
     /// The station as compact JSON; none when its entry cannot be expressed in it.
@@ -31,6 +32,8 @@ protected:
     /// Only real booleans count.
     [[nodiscard]] std::optional<bool> getBoolValue(const QString &key) const override;
     void setBoolValue(bool value, const QString &key) override;
+    [[nodiscard]] bool readsPlainNumber() const override;
+    [[nodiscard]] QString readName() const override;
 };
 
 } // namespace quillet

@@ -79,7 +79,7 @@ LGStation::LGStation(Dictionary entry, qint64 origIndex)
 {
     // Deliberately the base class's reading: a subclass brings its own keys afterwards.
     m_rawNumber = LGStation::getIntValue(m_keys->keyProgNum);
-    m_knowsRawNumber = true;
+    m_numberState = NumberState::Read;
     m_isRadio = m_rawNumber && (*m_rawNumber & radioMark) != 0;
 }
 
@@ -120,15 +120,20 @@ QString LGStation::stationName() const
 {
     if (!m_name.isEmpty())
         return m_name;
+    m_name = LGStation::readName();
+    if (!m_name.isEmpty())
+        m_usesEnvelope = true;
+    return m_name;
+}
+
+QString LGStation::readName() const
+{
     QString candidate;
     if (const QString *name = m_entry.string(m_keys->keyStationName))
         candidate = *name;
     else if (const QString *hex = m_entry.string(m_keys->keyStationHexName))
         candidate = decodeHexName(*hex);
-    m_name = decodeUtf8Envelope(candidate);
-    if (!m_name.isEmpty())
-        m_usesEnvelope = true;
-    return m_name;
+    return decodeUtf8Envelope(candidate);
 }
 
 void LGStation::setStationName(const QString &name)
@@ -148,32 +153,34 @@ bool LGStation::isRenamed() const
 QString LGStation::shownName() const
 {
     QString cached = stationName();
-    return isRenamed() ? textValue(m_keys->keyStationName).value_or(cached) : cached;
+    if (!m_nameAsMade)
+        return cached;
+    return isRenamed() ? textValue(m_keys->keyStationName).value_or(cached) : readName();
 }
 
 void LGStation::setEntry(Dictionary entry)
 {
     m_entry = std::move(entry);
-    m_knowsRawNumber = false;
+    m_numberState = NumberState::Unknown;
 }
 
 void LGStation::setKeys(const StationKeys &keys)
 {
     m_keys = &keys;
-    m_knowsRawNumber = false;
+    m_numberState = NumberState::Unknown;
 }
 
 void LGStation::setValue(const QString &key, Value value)
 {
     m_entry.insert(key, std::move(value));
-    m_knowsRawNumber = false;
+    m_numberState = NumberState::Unknown;
 }
 
 std::optional<qint64> LGStation::rawNumber() const
 {
-    if (!m_knowsRawNumber) {
+    if (m_numberState == NumberState::Unknown) {
         m_rawNumber = getIntValue(m_keys->keyProgNum);
-        m_knowsRawNumber = true;
+        m_numberState = NumberState::Read;
     }
     return m_rawNumber;
 }
@@ -196,7 +203,52 @@ QString LGStation::progNumString() const
 
 void LGStation::setProgramNum(qint64 number)
 {
-    setValue(m_keys->keyProgNum, QString::number(m_isRadio ? number | radioMark : number));
+    const qint64 raw = m_isRadio ? number | radioMark : number;
+    setValue(m_keys->keyProgNum, QString::number(raw));
+    keepRawNumber(raw, canCarry(number));
+}
+
+void LGStation::keepRawNumber(qint64 raw, bool isPlain)
+{
+    m_rawNumber = raw;
+    m_numberState = isPlain ? NumberState::Plain : NumberState::Read;
+}
+
+bool LGStation::hasPlainNumber() const
+{
+    if (m_numberState != NumberState::Plain && readsPlainNumber())
+        m_numberState = NumberState::Plain;
+    return m_numberState == NumberState::Plain;
+}
+
+bool LGStation::readsPlainNumber() const
+{
+    const QString *text = m_entry.string(m_keys->keyProgNum);
+    return text && *text == QString::number(m_isRadio ? progNum() | radioMark : progNum());
+}
+
+QStringList LGStation::numberKeys() const
+{
+    return {m_keys->keyProgNum};
+}
+
+std::optional<Value> LGStation::field(const QString &key) const
+{
+    const Value *value = m_entry.find(key);
+    return value ? std::optional(*value) : std::nullopt;
+}
+
+void LGStation::setField(const QString &key, const std::optional<Value> &content)
+{
+    if (content) {
+        setValue(key, *content);
+    } else {
+        m_entry.remove(key);
+        m_numberState = NumberState::Unknown;
+    }
+    // A name that was first read from a field that is no more was never the station's.
+    if (key == m_keys->keyStationName && m_nameAsMade && !isRenamed() && m_name != readName())
+        m_name.clear();
 }
 
 bool LGStation::isInvisible() const

@@ -75,6 +75,16 @@ public:
     [[nodiscard]] QString progNumString() const;
     /// Stores the number, with the radio mark added for a radio station. Not range-checked.
     virtual void setProgramNum(qint64 number);
+    /// Whether giving the station the number it has would leave its entry as it is.
+    [[nodiscard]] bool hasPlainNumber() const;
+    /// The fields that setProgramNum() writes, in the order in which it adds them.
+    [[nodiscard]] virtual QStringList numberKeys() const;
+
+    /// What the entry holds under a key; none when there is no such field.
+    [[nodiscard]] std::optional<Value> field(const QString &key) const;
+    /// Makes the entry hold that under the key, in its place or, where it is new, as the last
+    /// field.
+    void setField(const QString &key, const std::optional<Value> &content);
 
     [[nodiscard]] bool isInvisible() const;
     [[nodiscard]] bool isSkipped() const;
@@ -129,6 +139,13 @@ protected:
     [[nodiscard]] virtual std::optional<bool> getBoolValue(const QString &key) const;
     virtual void setBoolValue(bool value, const QString &key);
     void setValue(const QString &key, Value value);
+    /// Says what getIntValue() will find as program number, which was just stored, and whether it
+    /// is a plain one: that saves reading it again.
+    void keepRawNumber(qint64 raw, bool isPlain);
+    /// What hasPlainNumber() tells of a number that was read.
+    [[nodiscard]] virtual bool readsPlainNumber() const;
+    /// The name as the entry tells it, whatever was read before.
+    [[nodiscard]] virtual QString readName() const;
     /// Keeps the name that was read.
     void keepName(const QString &name) const { m_name = name; }
     [[nodiscard]] QString describedAs(QLatin1String className) const;
@@ -146,7 +163,8 @@ private:
     /// What the entry holds as program number, read once after each change: whole lists are walked
     /// for it.
     mutable std::optional<qint64> m_rawNumber;
-    mutable bool m_knowsRawNumber = false;
+    enum class NumberState { Unknown, Read, Plain };
+    mutable NumberState m_numberState = NumberState::Unknown;
     qint64 m_origPos;
     bool m_isDirty = false;
     bool m_isRadio = false;

@@ -76,6 +76,7 @@ public:
     void showEmptyHint(EmptyHint shown) override { hint = shown; }
     void showNotice(const Notice &shown) override { notice = shown; }
     void tell(const QString &text) override { told = text; }
+    void tellEdit(const QString &text) override { told = text; }
     [[nodiscard]] QWidget *sheetWindow() const override { return nullptr; }
 };
 

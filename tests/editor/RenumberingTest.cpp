@@ -87,7 +87,8 @@ private slots:
         for (const QChar letter : moved)
             wanted.push_back(stations.at(letter.unicode() - u'A'));
         const MovePlan plan = planMove(stations, wanted, target, fillGaps);
-        moveElemList(stations, plan);
+        EditRecord unused;
+        moveElemList(stations, plan, unused);
         const QStringList selection = plan.selection;
         QTEST(numbersAndLetters(stations), "after");
         QTEST(selection.join(u' '), "selected");

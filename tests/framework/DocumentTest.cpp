@@ -117,6 +117,16 @@ private slots:
         QVERIFY(m_document->hadWaitCursor && !isShown());
     }
 
+    /// What is done while a save asks something is not in the file.
+    void changeDuringASave()
+    {
+        m_document->edit("one");
+        m_document->duringReview = [this] { m_document->edit("two"); };
+        QCOMPARE(save(), std::optional<bool>(true));
+        QCOMPARE(contentOf(m_path), QByteArray("one"));
+        QVERIFY(m_document->isDocumentEdited());
+    }
+
     void savingWritesAndClearsTheChanges()
     {
         QSignalSpy edited(m_document.get(), &Document::documentEditedChanged);

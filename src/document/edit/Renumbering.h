@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/edit/ListStretch.h"
+#include "document/edit/EditRecord.h"
 #include "model/LGStation.h"
 
 #include <QStringList>
@@ -34,6 +34,8 @@ struct MovePlan
 
     /// How many stations get a number that they cannot carry.
     [[nodiscard]] std::size_t beyond() const;
+    /// Whether everything stands there and has these numbers already, as a move would write them.
+    [[nodiscard]] bool changesNothingIn(const StationList &stations) const;
 };
 
 /// Takes the moved stations (at least one) out of the list and puts them back, in their order, at
@@ -47,7 +49,10 @@ struct MovePlan
                                 qint64 target, bool fillGaps);
 /// Carries out a plan for that very list. Returns how many stations besides the moved ones got
 /// another number.
-std::size_t moveElemList(StationList &stations, const MovePlan &plan);
+std::size_t moveElemList(StationList &stations, const MovePlan &plan, EditRecord &record);
+
+/// How many of the numbers a station cannot carry.
+[[nodiscard]] std::size_t countBeyond(const std::vector<qint64> &numbers);
 
 /// How many stations would get a number that they cannot carry by being numbered 1, 2, 3 and so on.
 [[nodiscard]] std::size_t beyondAfterClosingGaps(const StationList &stations);
@@ -57,6 +62,11 @@ struct ClosedGaps
     std::size_t count = 0; ///< of stations with another number
 };
 /// Numbers the list 1, 2, 3 and so on.
-ClosedGaps closeGaps(const StationList &stations);
+ClosedGaps closeGaps(const StationList &stations, EditRecord &record);
+
+/// Raises every number that is not above its predecessor to the next free one. Returns where.
+ListStretch raiseNumbers(std::vector<qint64> &numbers);
+/// Makes the numbers 1, 2, 3 and so on. Returns where they changed.
+ListStretch countUp(std::vector<qint64> &numbers);
 
 } // namespace quillet

@@ -11,14 +11,27 @@ bool isSet(const LGStation &station, StationFlag flag)
     return flag == StationFlag::Skipped ? station.isSkipped() : station.isBlocked();
 }
 
-void setFlag(const StationList &stations, StationFlag flag, bool set)
+void setFlag(const StationList &stations, StationFlag flag, bool set, EditRecord &record)
 {
+    const auto isSo = [=](const StationPtr &station) { return isSet(*station, flag) == set; };
+    if (std::all_of(stations.begin(), stations.end(), isSo))
+        return;
     for (const StationPtr &station : stations) {
+        const StationKeys &keys = station->keys();
         if (flag == StationFlag::Skipped)
-            station->setSkipped(set);
+            record.changeField(station, keys.keySkipped,
+                               [set](LGStation &each) { each.setSkipped(set); });
         else
-            station->setBlocked(set);
+            record.changeField(station, keys.keyBlocked,
+                               [set](LGStation &each) { each.setBlocked(set); });
     }
+}
+
+void rename(const StationPtr &station, const QString &name, EditRecord &record)
+{
+    if (name != station->shownName())
+        record.changeField(station, station->keys().keyStationName,
+                           [&name](LGStation &each) { each.setStationName(name); });
 }
 
 bool toggledFlag(const StationList &stations, StationFlag flag)

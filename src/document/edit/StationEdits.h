@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/edit/EditRecord.h"
 #include "document/edit/ListStretch.h"
 #include "model/LGStation.h"
 
@@ -11,7 +12,10 @@ namespace quillet {
 enum class StationFlag { Skipped, Blocked };
 
 [[nodiscard]] bool isSet(const LGStation &station, StationFlag flag);
-void setFlag(const StationList &stations, StationFlag flag, bool set);
+/// Does nothing when all of them have that state already.
+void setFlag(const StationList &stations, StationFlag flag, bool set, EditRecord &record);
+/// Gives a station a name. Does nothing when the name is empty or the one that is shown.
+void rename(const StationPtr &station, const QString &name, EditRecord &record);
 
 /// What toggling gives to all of them (at least one): the opposite of the first one's state.
 [[nodiscard]] bool toggledFlag(const StationList &stations, StationFlag flag);

@@ -119,8 +119,17 @@ void addListing(QLatin1String title, const StationList &stations, LogLines &log)
 
 } // namespace
 
-ReferenceOrderResult applyReferenceOrder(StationList &stations, const ReferenceList &entries)
+ReferenceOrderResult applyReferenceOrder(StationList &stations, const ReferenceList &entries,
+                                         EditRecord *record)
 {
+    const auto add = [&stations, record](const StationPtr &station, qint64 number) {
+        stations.push_back(station);
+        if (record)
+            record->setNumber(stations, stations.size() - 1, number);
+        else
+            station->setProgramNum(number);
+    };
+    const StationList before = record ? stations : StationList();
     LogLines log(QStringLiteral("XT"));
     log.add(QStringView(QString::asprintf(
         "\n========= Begin applying external sort order (%ld items) to %ld stations =========",
@@ -130,8 +139,7 @@ ReferenceOrderResult applyReferenceOrder(StationList &stations, const ReferenceL
     const auto take = [&](const MatchedStation &matched, qint64 number) {
         log.add(matched.mark, QLatin1String(" Found Elem ("),
                 QStringView(matched.station->stationName()), QLatin1String(") by "), matched.by);
-        matched.station->setProgramNum(number);
-        stations.push_back(matched.station);
+        add(matched.station, number);
         last = number;
     };
     const StationList remaining = match(std::exchange(stations, {}), entries, take);
@@ -139,10 +147,10 @@ ReferenceOrderResult applyReferenceOrder(StationList &stations, const ReferenceL
     addListing(QLatin1String("========= List of remaining items:\n"), remaining, log);
     log.flush();
     const ReferenceOrderResult result{stations.size(), remaining.size(), last};
-    for (const StationPtr &station : remaining) {
-        station->setProgramNum(++last);
-        stations.push_back(station);
-    }
+    for (const StationPtr &station : remaining)
+        add(station, ++last);
+    if (record)
+        record->reorder(OrderChange::between(before, stations));
     return result;
 }
 

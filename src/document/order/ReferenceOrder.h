@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/edit/EditRecord.h"
 #include "document/order/ReferenceList.h"
 #include "model/LGStation.h"
 
@@ -18,8 +19,10 @@ struct ReferenceOrderResult
 /// narrowed by transport stream and then by original network id; failing that, by the name as it is
 /// cached. The stations that no entry took follow in their old order, numbered on from the last
 /// matched one. Every station stands there once, however often it did before. The outcome is
-/// neither sorted nor freed of equal numbers. Writes what it did to the log.
-ReferenceOrderResult applyReferenceOrder(StationList &stations, const ReferenceList &entries);
+/// neither sorted nor freed of equal numbers. Writes what it did to the log, and to the record if
+/// there is one.
+ReferenceOrderResult applyReferenceOrder(StationList &stations, const ReferenceList &entries,
+                                         EditRecord *record = nullptr);
 
 /// How many stations of the list that would give a number that they cannot carry. Changes nothing.
 [[nodiscard]] std::size_t beyondAfterOrder(const StationList &stations,

@@ -119,10 +119,15 @@ ArrangeCommands::Plan ArrangeCommands::plan(Arrangement command, bool fillGaps) 
     QSet<const LGStation *> chosen;
     for (const StationPtr &station : made.stations)
         chosen.insert(station.get());
+    const auto isChosenAt = [&](std::size_t place) { return chosen.contains(list[place].get()); };
     std::vector<bool> isChosen;
     for (const std::size_t place : places)
-        isChosen.push_back(chosen.contains(list[place].get()));
-    made.plan = planArrangement(list, places, facts.reorder(places, isChosen), fillGaps);
+        isChosen.push_back(isChosenAt(place));
+    const PlaceOrder order = facts.reorder(places, isChosen);
+    made.plan = planArrangement(list, places, order, fillGaps);
+    made.plan.moved = 0; // their neighbours make way, but nobody counts those
+    for (std::size_t i = 0; i < places.size(); ++i)
+        made.plan.moved += order[i] != places[i] && isChosenAt(order[i]) ? 1 : 0;
     return made;
 }
 

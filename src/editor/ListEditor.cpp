@@ -58,7 +58,7 @@ void ListEditor::arrange(const ArrangePlan &plan, const StationList &stations, K
           .places = {places},
           .fields = StationField::Number,
           .summary = {.kind = kind,
-                      .stations = kind == Kind::Arranged ? plan.moved : stations.size(),
+                      .stations = plan.moved,
                       .first = stations.front()->progNum(),
                       .last = stations.back()->progNum()},
           .stations = stations.size() < list().size() ? stations : StationList()},

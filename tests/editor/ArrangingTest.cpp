@@ -64,8 +64,13 @@ private slots:
         editor.outlets.selectRows(rows);
         const StationList selected = editor.controller.shown().stationsAt(rows);
         QCOMPARE(editor.controller.arranging().reasonAgainst(command).isEmpty(), !after.isEmpty());
+        const std::size_t told = editor.controller.arranging().plan(command, false).plan.moved;
         editor.controller.arrange(command);
+        std::size_t moved = 0; // no more at its row
+        for (std::size_t i = 0; i < selected.size(); ++i)
+            moved += editor.controller.shown().stationsAt({rows[qsizetype(i)]})[0] != selected[i];
         QCOMPARE(editor.rows(), after.isEmpty() ? before : after);
+        QCOMPARE(told, moved);
         QCOMPARE(editor.document.isDirty(), !after.isEmpty());
         const StationList now = editor.controller.shown().stationsAt(editor.outlets.rows);
         QVERIFY(std::is_permutation(now.begin(), now.end(), selected.begin(), selected.end()));

@@ -22,7 +22,7 @@ using PlaceOrder = std::vector<std::size_t>;
 struct ArrangePlan
 {
     OrderChange order;
-    std::size_t moved = 0;       ///< stations that stand elsewhere afterwards
+    std::size_t moved = 0;       ///< stations, of those it is about, that stand elsewhere then
     std::vector<qint64> numbers; ///< of the whole list afterwards
 
     /// How many stations get a number that they cannot carry.

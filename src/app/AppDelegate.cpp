@@ -3,13 +3,14 @@
 #include "app/HelpLoader.h"
 #include "app/LGWindowController.h"
 #include "app/MainMenu.h"
+#include "app/OpenRequest.h"
 #include "app/help/HelpProcess.h"
 #include "document/TLLDocument.h"
 #include "document/repair/FileDiagnosis.h"
 #include "editor/EditorView.h"
 #include "files/FileNames.h"
+#include "files/Places.h"
 
-#include <QDir>
 #include <QEventLoop>
 #include <QFileInfo>
 #include <QFileOpenEvent>
@@ -17,12 +18,19 @@
 #include <QMainWindow>
 #include <QSessionManager>
 #include <QUrl>
+#include <QWindow>
 
 #include <algorithm>
 #include <cstdio>
 #include <new>
 
 namespace quillet {
+
+namespace {
+
+constexpr char waylandToken[] = "XDG_ACTIVATION_TOKEN";
+
+} // namespace
 
 AppDelegate::AppDelegate(Prompts &prompts, QObject *parent)
     : QObject(parent),
@@ -36,6 +44,10 @@ AppDelegate::AppDelegate(Prompts &prompts, QObject *parent)
     connect(qApp, &QGuiApplication::commitDataRequest, this, &AppDelegate::commitData,
             Qt::DirectConnection);
     qApp->installEventFilter(this);
+    connect(qApp, &QGuiApplication::focusWindowChanged, this, [this] {
+        if (Document *active = m_documents.currentDocument())
+            m_lastActive = active;
+    });
 }
 
 AppDelegate::~AppDelegate() = default;
@@ -91,12 +103,42 @@ void AppDelegate::openRepairedCopy(const TLLDocument &damaged)
 
 void AppDelegate::applicationDidFinishLaunching(const QStringList &paths)
 {
-    QList<QUrl> urls;
-    for (const QString &path : paths)
-        urls.append(QUrl::fromLocalFile(QDir::cleanPath(absolutePath(path))));
-    m_documents.openDocuments(urls);
+    open(paths);
     if (m_documents.documents().empty())
         m_documents.newDocument();
+}
+
+Document *AppDelegate::open(const QStringList &paths)
+{
+    QList<QUrl> urls;
+    for (const QString &path : paths)
+        urls.append(QUrl::fromLocalFile(tidyPath(path)));
+    return m_documents.openDocuments(urls);
+}
+
+void AppDelegate::openRequested(const OpenRequest &request)
+{
+    // From where Qt takes it on Wayland when a window is activated.
+    if (!request.activationToken.isEmpty())
+        qputenv(waylandToken, request.activationToken);
+    const Document *shown = open(request.files);
+    if (!shown)
+        shown = lastActive();
+    shown->raiseWindows();
+    qunsetenv(waylandToken);
+}
+
+const Document *AppDelegate::lastActive() const
+{
+    const auto &open = m_documents.documents();
+    const bool isOpen = std::any_of(
+        open.begin(), open.end(), [this](const auto &each) { return each.get() == m_lastActive; });
+    return isOpen ? m_lastActive.data() : open.back().get();
+}
+
+bool AppDelegate::mayOpen() const
+{
+    return !m_documents.documents().empty() && !m_documents.isClosingAll();
 }
 
 void AppDelegate::showHelpWindow()

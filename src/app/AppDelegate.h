@@ -6,6 +6,7 @@
 #include "framework/Prompts.h"
 
 #include <QObject>
+#include <QPointer>
 #include <QStringList>
 
 #include <functional>
@@ -16,6 +17,7 @@ class QSessionManager;
 namespace quillet {
 
 class TLLDocument;
+struct OpenRequest;
 
 /// The running application: owns the document controller, gives every document its window and ends
 /// the program. Made by main, or by a test with prompts of its own.
@@ -34,6 +36,11 @@ public:
 
     /// Opens the files the program was started with; without any, an empty window.
     void applicationDidFinishLaunching(const QStringList &paths);
+    /// Opens what another start of the program was asked to open and raises the window; without
+    /// files the last one that was active.
+    void openRequested(const OpenRequest &request);
+    /// Whether files can still be opened: not while it is being asked whether to quit.
+    [[nodiscard]] bool mayOpen() const;
     /// Opens what can be mended of a damaged file as an untitled document.
     void openRepairedCopy(const TLLDocument &damaged);
     /// What is used instead of the desktop's own services; must outlive the delegate.
@@ -56,6 +63,10 @@ protected:
 
 private:
     [[nodiscard]] std::unique_ptr<TLLDocument> makeDocument();
+    /// Opens the files; the last of those that are open now, none when there is none.
+    Document *open(const QStringList &paths);
+    /// The open document whose window was active last, or any.
+    [[nodiscard]] const Document *lastActive() const;
     /// Takes over what is being typed.
     void commitEditing();
     /// Has the questions answered before the person logs out, as far as the session lets us ask.
@@ -68,6 +79,7 @@ private:
     QStringList m_helpArguments;
     std::unique_ptr<HelpBrowser> m_inAppBrowserWindow;
     DocumentController m_documents;
+    QPointer<Document> m_lastActive;
 };
 
 } // namespace quillet

@@ -23,6 +23,9 @@ constexpr Option snapshotOption{
     "Save a picture of the window that shows FILE as <picture> (PNG) and end. "
     "Needs no display."};
 constexpr Option darkOption{"dark", nullptr, "Use dark colours, whatever the desktop's are."};
+constexpr Option newInstanceOption{
+    "new-instance", nullptr,
+    "Start a program of its own instead of opening the files in one that is running."};
 constexpr Option helpOption{"h,help", nullptr, "Show this help."};
 constexpr Option allHelpOption{"help-all", nullptr, "Show this help and Qt's own options."};
 constexpr Option versionOption{"v,version", nullptr, "Show the program's version."};
@@ -71,8 +74,8 @@ CommandLine CommandLine::parse(const QStringList &arguments)
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     parser.setApplicationDescription(
         QStringLiteral("Edits the channel lists (TLL files) of LG television sets."));
-    for (const Option &option :
-         {helpOption, allHelpOption, versionOption, languageOption, snapshotOption, darkOption})
+    for (const Option &option : {helpOption, allHelpOption, versionOption, languageOption,
+                                 snapshotOption, darkOption, newInstanceOption})
         parser.addOption(made(option));
     QCommandLineOption hidden = made(helpWindowOption);
     hidden.setFlags(QCommandLineOption::HiddenFromHelp);
@@ -92,6 +95,7 @@ CommandLine CommandLine::parse(const QStringList &arguments)
     line.language = parser.value(firstName(languageOption));
     line.snapshot = parser.value(firstName(snapshotOption));
     line.isDark = parser.isSet(firstName(darkOption));
+    line.isNewInstance = parser.isSet(firstName(newInstanceOption));
     line.isHelpWindow = parser.isSet(firstName(helpWindowOption));
 
     line.helpWindow = platform.ofEveryWindow;

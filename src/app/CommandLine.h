@@ -14,6 +14,7 @@ struct CommandLine
     QString snapshot;              ///< the picture to make instead of opening a window; empty: none
     bool isDark = false;           ///< dark colours, whatever the desktop's are
     QString language;              ///< of the texts; empty: the system's
+    bool isNewInstance = false;    ///< to be a program of its own, even beside another
     bool isHelpWindow = false;     ///< to be the process of another one's help window
     QStringList helpWindow;        ///< the arguments that such a process is started with
     std::optional<QString> answer; ///< a text to print (help, version) instead of anything else

@@ -12,7 +12,6 @@
 
 #include <QApplication>
 #include <QBuffer>
-#include <QDir>
 #include <QMainWindow>
 #include <QPixmap>
 #include <QSettings>
@@ -94,7 +93,7 @@ QString makeSnapshot(const QString &file, const QString &picture)
     OpenFileLog(QStringLiteral("XT"), QStringLiteral("quillet-snapshot"));
     SilentPrompts prompts;
     AppDelegate delegate(prompts);
-    const QString path = file.isEmpty() ? file : QDir::cleanPath(absolutePath(file));
+    const QString path = file.isEmpty() ? file : tidyPath(file);
     Document *document = file.isEmpty()
                              ? delegate.documents().newDocument()
                              : delegate.documents().openDocument(QUrl::fromLocalFile(path));

@@ -2,13 +2,16 @@
 #include "app/CommandLine.h"
 #include "app/Environment.h"
 #include "app/HelpProgram.h"
+#include "app/OneInstance.h"
 #include "app/Palettes.h"
+#include "app/SessionFolder.h"
 #include "app/Snapshot.h"
 #include "app/TerminationSignals.h"
 #include "app/Translations.h"
 #include "files/FileNames.h"
 #include "framework/QtPrompts.h"
 #include "support/KXFileLog.h"
+#include "support/LogClaim.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -50,16 +53,31 @@ int makePicture(const CommandLine &line)
     return problem.isEmpty() ? Succeeded : fail(Failed, problem);
 }
 
-int edit(const CommandLine &line)
+/// Where the programs of the session meet; empty when this one keeps to itself.
+QString meetingPlace(const CommandLine &line)
 {
-    OpenFileLog(QStringLiteral("XT")); // before the files of the command line are read
+    const QString folder = line.isNewInstance ? QString() : sessionFolder();
+    return folder.isEmpty() ? folder
+                            : folder + QLatin1String("/quillet-") + sessionName(line.helpWindow);
+}
+
+int edit(const CommandLine &line, const OpenRequest &request)
+{
+    OneInstance instance(meetingPlace(line));
+    if (instance.begin(request) == OneInstance::Role::HandedOver)
+        return Succeeded; // the log is the other program's
+    const LogClaim log;
+    OpenFileLog(QStringLiteral("XT"), log.applicationName()); // before any file is read
     QtPrompts prompts;
     AppDelegate delegate(prompts);
     delegate.setHelpArguments(line.helpWindow);
     const TerminationSignals termination;
     QObject::connect(&termination, &TerminationSignals::received, &delegate,
                      &AppDelegate::terminate);
-    delegate.applicationDidFinishLaunching(line.files);
+    instance.setMayTake([&delegate] { return delegate.mayOpen(); });
+    QObject::connect(&instance, &OneInstance::requested, &delegate, &AppDelegate::openRequested);
+    QObject::connect(qApp, &QCoreApplication::aboutToQuit, &instance, &OneInstance::stop);
+    delegate.applicationDidFinishLaunching(request.files);
     return QApplication::exec();
 }
 
@@ -98,7 +116,8 @@ int main(int argc, char *argv[])
 
     if (line.isHelpWindow)
         QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts); // the engine's wish
-    QApplication app(argc, argv);                                   // takes Qt's own options
+    const OpenRequest request = OpenRequest::ofThisStart(line.files);
+    QApplication app(argc, argv); // takes Qt's own options
     QApplication::setDesktopFileName(QStringLiteral("quillet"));
     QApplication::setWindowIcon(applicationIcon());
     installTranslations(line.language);
@@ -106,5 +125,5 @@ int main(int argc, char *argv[])
         return makePicture(line);
     if (line.isDark)
         useDarkPalette();
-    return line.isHelpWindow ? runHelpWindow() : edit(line);
+    return line.isHelpWindow ? runHelpWindow() : edit(line, request);
 }

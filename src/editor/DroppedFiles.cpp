@@ -24,8 +24,10 @@ void DroppedFiles::load(TLLDocument &document, const EditorQuestions &questions,
 /// read: half-read content could be saved over the file that could not.
 void DroppedFiles::readDroppedFile(TLLDocument &document, const QString &path)
 {
-    if (const Document *other = document.otherDocumentAt(path))
-        return other->raiseWindows();
+    if (Document *other = document.otherDocumentAt(path)) {
+        other->raiseWindows();
+        return emit other->fileWasOpened();
+    }
     Error error;
     document.readFromUrl(QUrl::fromLocalFile(path), TLLDocument::typeName(), error);
     const bool holdsStations = std::any_of(
@@ -36,6 +38,8 @@ void DroppedFiles::readDroppedFile(TLLDocument &document, const QString &path)
         emit refused(error);
     else
         emit loaded(error);
+    if (error.isEmpty())
+        emit document.fileWasOpened();
 }
 
 } // namespace quillet

@@ -4,6 +4,7 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
 #include <filesystem>
 #include <system_error>
 
@@ -70,6 +71,13 @@ QString placeOf(const QString &path)
     const QString place = canonicalText(nativePath(path));
     // A link may lead to a file that is not there.
     return place.isEmpty() ? placeToBe(resolveLinks(path).value_or(path)) : place;
+}
+
+QString tidyPath(const QString &path)
+{
+    const fs::path absolute = nativePath(absolutePath(path));
+    const bool goesUp = std::find(absolute.begin(), absolute.end(), "..") != absolute.end();
+    return goesUp ? placeToBe(path) : pathFromNative(absolute.lexically_normal());
 }
 
 bool samePlace(const QString &a, const QString &b)

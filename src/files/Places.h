@@ -14,6 +14,9 @@ namespace quillet {
 [[nodiscard]] std::optional<QString> resolveLinks(const QString &path);
 /// The path without links; of a file that is not there, where it would be.
 [[nodiscard]] QString placeOf(const QString &path);
+/// An absolute path that leads to the same file, without "." and "..". For the latter its folder is
+/// spelt without links.
+[[nodiscard]] QString tidyPath(const QString &path);
 /// Whether two paths lead to one file: by what the system says of files that are there (links, hard
 /// links and the case of names included), by where they would be of those that are not. An empty
 /// path leads nowhere.

@@ -132,6 +132,8 @@ signals:
     void documentEditedChanged();
     /// The document was saved to another place than before and has its URL from here on.
     void placeWasChosen();
+    /// A file was opened into a window of the document, or would have been if it were not open.
+    void fileWasOpened();
     /// Something was done without asking that a person should hear of.
     void told(const QString &text);
 

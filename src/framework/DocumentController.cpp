@@ -100,17 +100,21 @@ Document *DocumentController::openDocument(const QUrl &url)
     return document;
 }
 
-void DocumentController::openDocuments(const QList<QUrl> &urls)
+Document *DocumentController::openDocuments(const QList<QUrl> &urls)
 {
     // A file that opens may replace the window that a message about another one belongs to.
     std::vector<std::pair<QUrl, Error>> failures;
+    Document *last = nullptr;
     for (const QUrl &url : urls) {
         Error error;
-        if (!open(url, error))
+        if (Document *document = open(url, error))
+            last = document;
+        else
             failures.emplace_back(url, error);
     }
     for (const auto &[url, error] : failures)
         presentOpenError(url, error);
+    return last;
 }
 
 Document *DocumentController::open(const QUrl &url, Error &error)
@@ -169,8 +173,9 @@ Document *DocumentController::adopt(std::unique_ptr<Document> document, Document
     added->setLookup(
         [this](const QString &path, const Document *except) { return documentAt(path, except); });
     connect(added, &Document::fileUrlChanged, this, &DocumentController::tellNamesApart);
-    connect(added, &Document::placeWasChosen, this,
-            [this, added] { m_recentFiles->add(added->fileUrl().toLocalFile()); });
+    for (const auto isAtFile : {&Document::placeWasChosen, &Document::fileWasOpened})
+        connect(added, isAtFile, this,
+                [this, added] { m_recentFiles->add(added->fileUrl().toLocalFile()); });
     added->makeWindowControllers();
     for (const auto &controller : added->windowControllers()) {
         connect(controller.get(), &WindowController::closeRequested, this,

@@ -53,8 +53,9 @@ public:
     /// Opens a file in a window and puts it first among the recent files. Returns none after
     /// showing what was wrong.
     Document *openDocument(const QUrl &url);
-    /// Opens each file, then shows what was wrong with those that could not be opened.
-    void openDocuments(const QList<QUrl> &urls);
+    /// Opens each file, then shows what was wrong with those that could not be opened. Returns the
+    /// last one that was opened, or had a window already.
+    Document *openDocuments(const QList<QUrl> &urls);
     /// Asks for files and opens each.
     void showOpenPanel(const QStringList &nameFilters);
 
@@ -64,6 +65,9 @@ public:
     /// Asks about unsaved changes, document after document, and then closes them all. As soon as
     /// one answer is to cancel, every document stays open and `done` gets false.
     void closeAllDocuments(std::function<void(bool)> done);
+
+    /// Whether that is being asked now.
+    [[nodiscard]] bool isClosingAll() const { return m_isReviewing; }
 
 signals:
     void documentsChanged();

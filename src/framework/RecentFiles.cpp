@@ -1,8 +1,7 @@
 #include "framework/RecentFiles.h"
 
-#include "files/FileNames.h"
+#include "files/Places.h"
 
-#include <QDir>
 #include <QSettings>
 
 namespace quillet {
@@ -23,7 +22,7 @@ QStringList RecentFiles::paths() const
 
 void RecentFiles::add(const QString &path)
 {
-    const QString absolute = QDir::cleanPath(absolutePath(path));
+    const QString absolute = tidyPath(path);
     QStringList list = paths();
     list.removeAll(absolute);
     list.prepend(absolute);

@@ -29,6 +29,12 @@ constexpr qsizetype longest = 65536;
 constexpr std::array<QByteArrayView, 3> ofTheBytes{"security.capability", "security.evm",
                                                    "security.ima"};
 
+/// Whether that errno says that the file system keeps no attributes.
+bool hasNone(int error)
+{
+    return error == ENOTSUP || error == ENOSYS;
+}
+
 /// What a call puts into the buffer that it is given; none when it fails.
 template<typename Call>
 std::optional<QByteArray> taken(const Call &call)
@@ -53,7 +59,7 @@ bool copyExtendedAttributes(const QString &path, int handle)
     const auto names = taken(
         [&from](char *to, std::size_t size) { return ::listxattr(from.constData(), to, size); });
     if (!names)
-        return errno == ENOTSUP;
+        return hasNone(errno);
     bool areAll = true;
     for (const QByteArray &name : names->split('\0')) {
         if (!isCopied(name))
@@ -80,7 +86,7 @@ std::optional<QByteArray> accessListOf(const QString &path)
     const auto list = taken([&from](char *to, std::size_t size) {
         return ::getxattr(from.constData(), accessListName, to, size);
     });
-    if (list || (errno != ENODATA && errno != ENOTSUP))
+    if (list || (errno != ENODATA && !hasNone(errno)))
         return list;
     return QByteArray();
 }

@@ -37,6 +37,14 @@ bool succeeded(int result, QString &reason)
     return false;
 }
 
+#ifndef Q_OS_WIN
+/// Whether a file system has no such thing as was asked of it; the errno.
+bool isUnknown(int error)
+{
+    return error == EINVAL || error == ENOTSUP || error == ENOSYS;
+}
+#endif
+
 } // namespace
 
 bool FileOperations::create(QFile &file, bool isPrivate, QString &reason)
@@ -163,9 +171,10 @@ bool FileOperations::sync(QFile &file, QString &reason)
     return succeeded(::_commit(file.handle()), reason);
 #elif defined(Q_OS_DARWIN)
     // Plain fsync() there leaves the bytes in the drive's own cache.
-    return ::fcntl(file.handle(), F_FULLFSYNC) == 0 || succeeded(::fsync(file.handle()), reason);
+    return ::fcntl(file.handle(), F_FULLFSYNC) == 0 || ::fsync(file.handle()) == 0 ||
+           isUnknown(errno) || succeeded(-1, reason);
 #else
-    return succeeded(::fsync(file.handle()), reason);
+    return ::fsync(file.handle()) == 0 || isUnknown(errno) || succeeded(-1, reason);
 #endif
 }
 

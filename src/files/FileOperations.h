@@ -31,7 +31,8 @@ public:
     /// An empty list takes away the one there is.
     virtual bool setAccessList(QFile &file, const QByteArray &list);
     virtual bool setMode(QFile &file, quint32 mode, QString &reason);
-    /// Returns when the open file's bytes have reached the disk.
+    /// Returns when the open file's bytes have reached the disk; on a file system that cannot tell,
+    /// at once.
     virtual bool sync(QFile &file, QString &reason);
     virtual bool readBack(const QString &path, QByteArray &bytes, QString &reason);
     /// Puts one file in the place of another in a single step.

@@ -17,6 +17,7 @@ FileState FileState::of(const QString &path, const QByteArray &bytes)
 {
     FileState state = none(path);
     state.m_exists = true;
+    state.m_isReadable = true;
     state.m_bytes = bytes;
     return state;
 }
@@ -26,14 +27,17 @@ FileState FileState::at(const QString &path)
     FileState state = none(path);
     state.m_exists = isThere(path);
     Error unused;
-    if (state.m_exists && !readFile(QUrl::fromLocalFile(path), state.m_bytes, unused))
+    state.m_isReadable = readFile(QUrl::fromLocalFile(path), state.m_bytes, unused);
+    if (!state.m_isReadable)
         state.m_bytes.clear();
     return state;
 }
 
 FileState::Change FileState::changeSince(const FileState &earlier) const
 {
-    if (m_device != earlier.m_device || (earlier.m_exists && !m_exists))
+    const bool isMissing = earlier.m_exists && !m_exists;
+    const bool cannotBeRead = earlier.m_isReadable && !m_isReadable;
+    if (m_device != earlier.m_device || isMissing || cannotBeRead)
         return Change::Gone;
     const bool isSame = m_exists == earlier.m_exists && m_bytes == earlier.m_bytes;
     return isSame ? Change::None : Change::Content;

@@ -22,7 +22,7 @@ public:
     enum class Change {
         None,
         Content, ///< another content, or a file where there was none
-        Gone,    ///< no file any more, or its folder lies on another device than before
+        Gone,    ///< no file any more, or none that can be read, or on another device than before
     };
     /// What has become of an earlier state of the path.
     [[nodiscard]] Change changeSince(const FileState &earlier) const;
@@ -31,6 +31,7 @@ public:
 private:
     QString m_path;
     bool m_exists = false;
+    bool m_isReadable = false;
     QByteArray m_bytes; ///< of a file that could not be read: none
     std::optional<quint64> m_device;
 };

@@ -21,17 +21,67 @@ namespace {
 
 constexpr int longestChain = 40; ///< of links, as systems have it
 
-#ifdef Q_OS_WIN
-constexpr Qt::CaseSensitivity nameCase = Qt::CaseInsensitive;
-#else
-constexpr Qt::CaseSensitivity nameCase = Qt::CaseSensitive;
-
+#ifndef Q_OS_WIN
 std::optional<struct stat> statusOf(const QString &path)
 {
     struct stat status = {};
     if (::stat(bytesOfPath(path).constData(), &status) != 0)
         return {};
     return status;
+}
+
+/// The names in a folder as the folder itself spells them.
+QStringList namesIn(const fs::path &folder)
+{
+    QStringList names;
+    std::error_code code;
+    for (fs::directory_iterator files(folder, code), end; !code && files != end;
+         files.increment(code))
+        names.append(pathFromNative(files->path().filename()));
+    return names;
+}
+
+/// Whether the two places, where there is something at both, are one: some systems number a file
+/// anew for each spelling. Then a folder knows only one of the names, and answers to both.
+bool differInCaseOnly(const QString &a, const QString &b)
+{
+    if (a.compare(b, Qt::CaseInsensitive) != 0)
+        return false;
+    fs::path folder;
+    const fs::path pathA = nativePath(a);
+    const fs::path pathB = nativePath(b);
+    auto inB = pathB.begin();
+    for (const fs::path &name : pathA) {
+        const fs::path &other = *inB++;
+        if (name != other) {
+            const QStringList names = namesIn(folder);
+            if (names.contains(pathFromNative(name)) && names.contains(pathFromNative(other)))
+                return false;
+        }
+        folder /= name;
+    }
+    return true;
+}
+
+/// Whether the folder answers to a name in another case than it has; false when it is empty.
+bool ignoresCase(const QString &folder)
+{
+    const QStringList names = namesIn(nativePath(folder));
+    for (const QString &name : names) {
+        const QString other = name.toUpper() == name ? name.toLower() : name.toUpper();
+        if (!names.contains(other))
+            return isThere(folder + u'/' + other);
+    }
+    return false;
+}
+
+/// The same of two places where nothing is.
+bool wouldBeSame(const QString &a, const QString &b)
+{
+    if (a == b || a.compare(b, Qt::CaseInsensitive) != 0)
+        return a == b;
+    const QString folder = QFileInfo(a).path();
+    return ignoresCase(folder) && samePlace(folder, QFileInfo(b).path());
 }
 #endif
 
@@ -77,22 +127,27 @@ QString tidyPath(const QString &path)
 {
     const fs::path absolute = nativePath(absolutePath(path));
     const bool goesUp = std::find(absolute.begin(), absolute.end(), "..") != absolute.end();
-    return goesUp ? placeToBe(path) : pathFromNative(absolute.lexically_normal());
+    if (goesUp && isThere(pathFromNative(absolute.parent_path())))
+        return placeToBe(path);
+    const fs::path normal = absolute.lexically_normal();
+    return pathFromNative(normal.has_filename() ? normal : normal.parent_path());
 }
 
 bool samePlace(const QString &a, const QString &b)
 {
     if (a.isEmpty() || b.isEmpty())
         return false;
-#ifndef Q_OS_WIN
+#ifdef Q_OS_WIN
+    return placeOf(a).compare(placeOf(b), Qt::CaseInsensitive) == 0;
+#else
     const auto first = statusOf(a);
     const auto second = statusOf(b);
-    if (first && second)
-        return first->st_dev == second->st_dev && first->st_ino == second->st_ino;
-    if (first || second)
+    if (first.has_value() != second.has_value() || (first && first->st_dev != second->st_dev))
         return false;
+    if (first && first->st_ino == second->st_ino)
+        return true;
+    return first ? differInCaseOnly(placeOf(a), placeOf(b)) : wouldBeSame(placeOf(a), placeOf(b));
 #endif
-    return placeOf(a).compare(placeOf(b), nameCase) == 0;
 }
 
 std::optional<quint64> deviceOf(const QString &path)

@@ -14,12 +14,12 @@ namespace quillet {
 [[nodiscard]] std::optional<QString> resolveLinks(const QString &path);
 /// The path without links; of a file that is not there, where it would be.
 [[nodiscard]] QString placeOf(const QString &path);
-/// An absolute path that leads to the same file, without "." and "..". For the latter its folder is
-/// spelt without links.
+/// An absolute path that leads to the same file, without "." and "..". For the latter its folder,
+/// when there is one, is spelt without links.
 [[nodiscard]] QString tidyPath(const QString &path);
-/// Whether two paths lead to one file: by what the system says of files that are there (links, hard
-/// links and the case of names included), by where they would be of those that are not. An empty
-/// path leads nowhere.
+/// Whether two paths lead to one file: by what the system says of files that are there (links and
+/// hard links included), by where they would be of those that are not. Names that differ in case
+/// only are one where their folder takes them for one. An empty path leads nowhere.
 [[nodiscard]] bool samePlace(const QString &a, const QString &b);
 /// A number of the device that the file's folder lies on, which is another one as soon as the
 /// device is gone; none when there is no such folder or the system does not tell.

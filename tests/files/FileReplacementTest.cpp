@@ -45,6 +45,7 @@ enum class Fault {
     AccessList,
     Mode,
     ModeLies,
+    NoPermissions, // every file has the same ones
     Sync,
     ReadBack,
     Rename
@@ -82,7 +83,10 @@ public:
     }
     bool readRights(const QString &path, FileRights &rights, QString &reason) override
     {
-        return !fails(Fault::Rights, reason) && FileOperations::readRights(path, rights, reason);
+        if (m_fault == Fault::NoPermissions)
+            rights = {1000, 1000, 0755, 1, {}};
+        return m_fault == Fault::NoPermissions ||
+               (!fails(Fault::Rights, reason) && FileOperations::readRights(path, rights, reason));
     }
     bool copyAttributes(const QString &path, QFile &file) override
     {
@@ -90,16 +94,19 @@ public:
     }
     bool setOwner(QFile &file, const FileRights &wanted) override
     {
-        return m_fault != Fault::Owner && FileOperations::setOwner(file, wanted);
+        return m_fault != Fault::Owner && m_fault != Fault::NoPermissions &&
+               FileOperations::setOwner(file, wanted);
     }
     bool setAccessList(QFile &file, const QByteArray &list) override
     {
-        return m_fault != Fault::AccessList && FileOperations::setAccessList(file, list);
+        return m_fault != Fault::AccessList && m_fault != Fault::NoPermissions &&
+               FileOperations::setAccessList(file, list);
     }
     bool setMode(QFile &file, quint32 mode, QString &reason) override
     {
         const quint32 set = m_fault == Fault::ModeLies ? 0666 : mode;
-        return !fails(Fault::Mode, reason) && FileOperations::setMode(file, set, reason);
+        return !fails(Fault::Mode, reason) && !fails(Fault::NoPermissions, reason) &&
+               FileOperations::setMode(file, set, reason);
     }
     bool sync(QFile &file, QString &reason) override
     {
@@ -363,6 +370,23 @@ private slots:
         if (fault == Fault::None)
             QCOMPARE(attribute(m_path, "system.posix_acl_access"), listBefore);
 #endif
+    }
+
+    /// As on sticks, where also nothing can be said of what has reached the disk.
+    void nothingIsMissedWithoutPermissions()
+    {
+        FaultyOperations operations(Fault::NoPermissions);
+        FileReplacement replacement(operations);
+        Error error;
+        QVERIFY2(replacement.replace(m_path, "new", error), qPrintable(error.text()));
+        QVERIFY(replacement.notKept().empty());
+        int ends[2] = {};
+        QCOMPARE(::pipe(ends), 0);
+        QFile pipe; // cannot be synchronized
+        QVERIFY(pipe.open(ends[1], QIODevice::WriteOnly, QFileDevice::AutoCloseHandle));
+        QString reason;
+        QVERIFY2(operations.sync(pipe, reason), qPrintable(reason));
+        ::close(ends[0]);
     }
 
     void otherNamesKeepTheOldContent()

@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -76,6 +77,58 @@ private:
     const char *m_options;
     bool m_isMounted = false;
     int m_errorNumber = 0;
+};
+
+/// A stick with a FAT file system, made and put in where the tools for that are and may be used.
+class FatStick
+{
+public:
+    FatStick()
+    {
+        writeFile(m_image, QByteArray(8 << 20, '\0'));
+        run(QStringLiteral("mkfs.vfat"), {m_image});
+        putIn();
+    }
+    ~FatStick() { takeOut(); }
+    Q_DISABLE_COPY_MOVE(FatStick)
+
+    void putIn()
+    {
+        m_driver.start(QStringLiteral("fusefat"),
+                       {QStringLiteral("-f"), QStringLiteral("-o"), QStringLiteral("rw+"), m_image,
+                        m_folder.path()});
+        const bool isIn = QTest::qWaitFor(
+            [this] { return m_driver.state() == QProcess::NotRunning || isMounted(); });
+        if (!isIn || !isMounted())
+            m_reason = QStringLiteral("no FAT file system can be mounted: ") +
+                       QString::fromLocal8Bit(m_driver.readAllStandardError());
+    }
+    /// Pulled without a word, though what was written is on it.
+    void takeOut()
+    {
+        if (isMounted())
+            ::umount2(QFile::encodeName(m_folder.path()).constData(), MNT_DETACH);
+        m_driver.waitForFinished();
+    }
+    [[nodiscard]] QByteArray reason() const { return m_reason.toLocal8Bit(); }
+    [[nodiscard]] QString filePath(const char *name) const
+    {
+        return m_folder.filePath(QString::fromLatin1(name));
+    }
+
+private:
+    static void run(const QString &program, const QStringList &arguments)
+    {
+        QProcess process;
+        process.start(program, arguments);
+        process.waitForFinished();
+    }
+    [[nodiscard]] bool isMounted() const { return deviceOf(filePath("x")) != deviceOf(m_image); }
+
+    QTemporaryDir m_folder, m_home;
+    QString m_image = m_home.filePath(QStringLiteral("image"));
+    QProcess m_driver;
+    QString m_reason;
 };
 
 /// Makes a file that leaves so many bytes of its disk free.
@@ -159,6 +212,36 @@ private slots:
         m_prompts->answerAlert(QStringLiteral("kSaveHereAnyway"));
         QVERIFY(save());
         QVERIFY(m_prompts->isSettled());
+    }
+
+    void fatIsNoObstacle()
+    {
+        FatStick stick;
+        if (!stick.reason().isEmpty())
+            QSKIP(stick.reason().constData());
+        const QString path = stick.filePath("List.tll");
+        const QString otherCase = stick.filePath("LIST.TLL");
+        writeFile(path, "old");
+        writeFile(stick.filePath("other.tll"), "other");
+        QVERIFY(samePlace(path, otherCase) && !samePlace(path, stick.filePath("other.tll")));
+        QVERIFY(samePlace(stick.filePath("new.tll"), stick.filePath("NEW.tll")));
+        open(otherCase, "new");
+        QVERIFY(save());
+        QVERIFY2(m_prompts->alerts().empty(), qPrintable(m_prompts->lastText()));
+        QCOMPARE(contentOf(path), QByteArray("new"));
+        QCOMPARE(QDir(QFileInfo(path).path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
+
+        m_document->edit("newer");
+        stick.takeOut();
+        m_prompts->answerAlert(QStringLiteral("kCancel"));
+        QVERIFY(!save() && m_document->isDocumentEdited());
+        QVERIFY(m_prompts->lastText().startsWith(QLatin1String("kGoneMessage")));
+        stick.putIn();
+        QCOMPARE(contentOf(path), QByteArray("new"));
+        m_prompts->answerAlert(
+            QStringLiteral("kSaveHereAnyway")); // another device, for all we know
+        QVERIFY(save());
+        QCOMPARE(contentOf(path), QByteArray("newer"));
     }
 #endif
 

@@ -8,6 +8,7 @@
 #include <QProcess>
 #include <QTest>
 
+#include <csignal>
 #include <fstream>
 
 using namespace quillet::testing;
@@ -102,24 +103,46 @@ private slots:
         QCOMPARE(limited.exitCode(), 1);
     }
 
-    void logCountsTheStationsOfTheFirstFile()
+    /// The log counts the stations of the files that a later start was given, too.
+    void programIsStartedOnce()
     {
         const QTemporaryDir home;
         // A name that is no text.
         const QByteArray odd = QFile::encodeName(home.path()) + "/\xE4.tll";
         std::ofstream(odd.toStdString()) << readSample(u"antenna.tll"_s).toStdString();
-        QProcess program;
+        writeFile(home.filePath(u"b.txt"_s), readSample(u"antenna.tll"_s));
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(u"XDG_DATA_HOME"_s, home.path());
-        environment.insert(u"XDG_CONFIG_HOME"_s, home.path());
-        program.setProcessEnvironment(environment);
-        program.start(u"/bin/sh"_s, {u"-c"_s, u"cd \"$1\"; exec \"$0\" *.tll"_s,
-                                     QStringLiteral(QUILLET_EXECUTABLE), home.path()});
-        QTRY_VERIFY_WITH_TIMEOUT(
-            contentOf(home.filePath(u"Logs/quillet/XT.log"_s)).contains("Radio[3] = "), 60000);
-        program.kill();
-        QVERIFY(program.waitForFinished());
+        environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
+        for (const char *folder : {"XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR"})
+            environment.insert(QLatin1String(folder), home.path());
+        const auto start = [&](QProcess &program, const QString &arguments) {
+            program.setProcessEnvironment(environment);
+            program.start(u"/bin/sh"_s, {u"-c"_s, u"cd \"$1\"; exec \"$0\" "_s + arguments,
+                                         QStringLiteral(QUILLET_EXECUTABLE), home.path()});
+        };
+        const auto filesInLog = [&](const char *folder) {
+            return contentOf(home.filePath(u"Logs/%1/XT.log"_s.arg(QLatin1String(folder))))
+                .count("Radio[3] = ");
+        };
+        QProcess first, second, third, other;
+        start(first, u"*.tll"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(filesInLog("quillet"), 1, 60000);
         QVERIFY(!contentOf(home.filePath(u"Logs/quillet/XT.log"_s)).contains("TV[2] = 0"));
+        start(second, u"./b.txt"_s);
+        QVERIFY(second.waitForFinished());
+        QCOMPARE(second.exitCode(), 0);
+        QTRY_COMPARE(filesInLog("quillet"), 2);
+
+        start(other, u"--new-instance *.tll"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(filesInLog("quillet-2"), 1, 60000);
+        QCOMPARE(::kill(static_cast<pid_t>(first.processId()), SIGSTOP), 0);
+        start(third, u"*.tll"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(filesInLog("quillet-3"), 1, 60000);
+        for (QProcess *program : {&first, &other, &third}) {
+            program->kill();
+            QVERIFY(program->waitForFinished());
+        }
+        QCOMPARE(filesInLog("quillet"), 2);
     }
 #endif
 

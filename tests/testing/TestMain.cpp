@@ -25,10 +25,12 @@ quillet::testing::TestRegistration::TestRegistration(Factory factory)
 
 int main(int argc, char *argv[])
 {
-    // Settings, logs and recent files of a test run never reach the user's own.
+    // Settings, logs and recent files of a test run never reach the user's own, nor its programs
+    // those of the user's session.
     const QTemporaryDir home;
     qputenv("XDG_DATA_HOME", QFile::encodeName(home.filePath(QStringLiteral("data"))));
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(home.filePath(QStringLiteral("config"))));
+    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(home.path()));
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("quillet-test"));
     QApplication::setOrganizationName(QStringLiteral("quillet-test"));

@@ -186,6 +186,10 @@
         <source></source>
         <translation>Die höchste Nummer ist %1. Ein Sender darüber hätte danach eine niedrige Nummer wie 0 und wäre womöglich als Radiosender gekennzeichnet.</translation>
     </message>
+    <message id="kBringBack">
+        <source></source>
+        <translation>Zurückholen</translation>
+    </message>
     <message id="kCable">
         <source></source>
         <translation>Kabel</translation>
@@ -302,9 +306,28 @@
         <source></source>
         <translation>Fernseher:</translation>
     </message>
+    <message id="kDiscard">
+        <source></source>
+        <translation>Verwerfen</translation>
+    </message>
     <message id="kDiscardChanges">
         <source></source>
         <translation>Änderungen verwerfen</translation>
+    </message>
+    <message id="kDiscardOneMessage">
+        <source></source>
+        <translation>Möchten Sie die ungespeicherten Änderungen an „%1“ verwerfen?</translation>
+    </message>
+    <message id="kDiscardSomeMessage" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Möchten Sie die ungespeicherten Änderungen an %n Liste verwerfen?</numerusform>
+            <numerusform>Möchten Sie die ungespeicherten Änderungen an %n Listen verwerfen?</numerusform>
+        </translation>
+    </message>
+    <message id="kDiscardText">
+        <source></source>
+        <translation>Danach können sie nicht mehr zurückgeholt werden.</translation>
     </message>
     <message id="kExportFailedMessage">
         <source></source>
@@ -505,6 +528,10 @@
     <message id="kIsAFolderReason">
         <source></source>
         <translation>„%1“ ist ein Ordner.</translation>
+    </message>
+    <message id="kLater">
+        <source></source>
+        <translation>Später</translation>
     </message>
     <message id="kLinkCircleReason">
         <source></source>
@@ -733,6 +760,10 @@
         <source></source>
         <translation>&amp;Radiosender</translation>
     </message>
+    <message id="kMenuRecoveryFolder">
+        <source></source>
+        <translation>Wieder&amp;herstellungsordner öffnen</translation>
+    </message>
     <message id="kMenuRedo">
         <source></source>
         <translation>&amp;Wiederholen</translation>
@@ -804,6 +835,10 @@
     <message id="kMenuUndoStep">
         <source></source>
         <translation>%1 &amp;rückgängig machen</translation>
+    </message>
+    <message id="kMenuUnsavedLists">
+        <source></source>
+        <translation>Un&amp;gespeicherte Listen …</translation>
     </message>
     <message id="kMenuView">
         <source></source>
@@ -1029,6 +1064,54 @@
     <message id="kRecentFileMissingMessage">
         <source></source>
         <translation>%1 ist nicht mehr vorhanden.</translation>
+    </message>
+    <message id="kRecoveryChanges">
+        <source></source>
+        <translation>Änderungen</translation>
+    </message>
+    <message id="kRecoveryDamagedReason">
+        <source></source>
+        <translation>Was von den Änderungen aufbewahrt wurde, ist beschädigt.</translation>
+    </message>
+    <message id="kRecoveryFailedMessage">
+        <source></source>
+        <translation>Nicht alles konnte zurückgeholt werden.</translation>
+    </message>
+    <message id="kRecoveryFolder">
+        <source></source>
+        <translation>Ordner</translation>
+    </message>
+    <message id="kRecoveryName">
+        <source></source>
+        <translation>Name</translation>
+    </message>
+    <message id="kRecoveryNewerReason">
+        <source></source>
+        <translation>Die Änderungen wurden von einer neueren Version des Programms aufbewahrt.</translation>
+    </message>
+    <message id="kRecoveryOpenReason">
+        <source></source>
+        <translation>Die Liste ist in einem Fenster geöffnet und dort geändert. Speichern oder verwerfen Sie erst diese Änderungen.</translation>
+    </message>
+    <message id="kRecoveryOriginalAt">
+        <source></source>
+        <translation>Die Liste vor den Änderungen liegt unter %1</translation>
+    </message>
+    <message id="kRecoveryText">
+        <source></source>
+        <translation>Das Programm wurde beendet, bevor diese Listen gespeichert waren. Ihre Änderungen sind noch da und können zurückgeholt werden.</translation>
+    </message>
+    <message id="kRecoveryTime">
+        <source></source>
+        <translation>Letzte Änderung</translation>
+    </message>
+    <message id="kRecoveryTitle">
+        <source></source>
+        <translation>Ungespeicherte Listen</translation>
+    </message>
+    <message id="kRecoveryUnreadable">
+        <source></source>
+        <translation>Nicht lesbar</translation>
     </message>
     <message id="kReload">
         <source></source>
@@ -1373,6 +1456,10 @@ Diese folgen ab Nummer: %3</translation>
             <numerusform>%n Sender stehen jetzt an anderer Stelle</numerusform>
         </translation>
     </message>
+    <message id="kToldBroughtBack">
+        <source></source>
+        <translation>Die Änderungen an „%1“ sind wieder da, aber noch nicht gespeichert</translation>
+    </message>
     <message id="kToldClosedGaps" numerus="yes">
         <source></source>
         <translation>
@@ -1437,6 +1524,10 @@ Diese folgen ab Nummer: %3</translation>
     <message id="kToldNotKept">
         <source></source>
         <translation>„%1“ wurde gespeichert, aber die Datei verlor: %2.</translation>
+    </message>
+    <message id="kToldNotKeptSafe">
+        <source></source>
+        <translation>Die Änderungen an „%1“ gingen bei einem Absturz verloren, denn sie können nicht aufbewahrt werden: %2</translation>
     </message>
     <message id="kToldNotMoved">
         <source></source>

@@ -186,6 +186,10 @@
         <source></source>
         <translation>The highest number there is is %1. A station beyond it comes out with a low number such as 0, and may be marked as radio.</translation>
     </message>
+    <message id="kBringBack">
+        <source></source>
+        <translation>Bring Back</translation>
+    </message>
     <message id="kCable">
         <source></source>
         <translation>Cable</translation>
@@ -302,9 +306,28 @@
         <source></source>
         <translation>Television:</translation>
     </message>
+    <message id="kDiscard">
+        <source></source>
+        <translation>Discard</translation>
+    </message>
     <message id="kDiscardChanges">
         <source></source>
         <translation>Discard Changes</translation>
+    </message>
+    <message id="kDiscardOneMessage">
+        <source></source>
+        <translation>Do you want to discard the unsaved changes to “%1”?</translation>
+    </message>
+    <message id="kDiscardSomeMessage" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Do you want to discard the unsaved changes to %n list?</numerusform>
+            <numerusform>Do you want to discard the unsaved changes to %n lists?</numerusform>
+        </translation>
+    </message>
+    <message id="kDiscardText">
+        <source></source>
+        <translation>They cannot be brought back afterwards.</translation>
     </message>
     <message id="kExportFailedMessage">
         <source></source>
@@ -505,6 +528,10 @@
     <message id="kIsAFolderReason">
         <source></source>
         <translation>“%1” is a folder.</translation>
+    </message>
+    <message id="kLater">
+        <source></source>
+        <translation>Later</translation>
     </message>
     <message id="kLinkCircleReason">
         <source></source>
@@ -733,6 +760,10 @@
         <source></source>
         <translation>&amp;Radio Stations</translation>
     </message>
+    <message id="kMenuRecoveryFolder">
+        <source></source>
+        <translation>Open Recovery &amp;Folder</translation>
+    </message>
     <message id="kMenuRedo">
         <source></source>
         <translation>&amp;Redo</translation>
@@ -804,6 +835,10 @@
     <message id="kMenuUndoStep">
         <source></source>
         <translation>&amp;Undo %1</translation>
+    </message>
+    <message id="kMenuUnsavedLists">
+        <source></source>
+        <translation>&amp;Unsaved Lists…</translation>
     </message>
     <message id="kMenuView">
         <source></source>
@@ -1029,6 +1064,54 @@
     <message id="kRecentFileMissingMessage">
         <source></source>
         <translation>%1 is no longer there.</translation>
+    </message>
+    <message id="kRecoveryChanges">
+        <source></source>
+        <translation>Changes</translation>
+    </message>
+    <message id="kRecoveryDamagedReason">
+        <source></source>
+        <translation>What was kept of the changes is damaged.</translation>
+    </message>
+    <message id="kRecoveryFailedMessage">
+        <source></source>
+        <translation>Not everything could be brought back.</translation>
+    </message>
+    <message id="kRecoveryFolder">
+        <source></source>
+        <translation>Folder</translation>
+    </message>
+    <message id="kRecoveryName">
+        <source></source>
+        <translation>Name</translation>
+    </message>
+    <message id="kRecoveryNewerReason">
+        <source></source>
+        <translation>The changes were kept by a newer version of the program.</translation>
+    </message>
+    <message id="kRecoveryOpenReason">
+        <source></source>
+        <translation>The list is open in a window and has changes there. Save or discard those first.</translation>
+    </message>
+    <message id="kRecoveryOriginalAt">
+        <source></source>
+        <translation>The list as it was before the changes is at %1</translation>
+    </message>
+    <message id="kRecoveryText">
+        <source></source>
+        <translation>The program ended before these lists were saved. Their changes were kept and can be brought back.</translation>
+    </message>
+    <message id="kRecoveryTime">
+        <source></source>
+        <translation>Last Change</translation>
+    </message>
+    <message id="kRecoveryTitle">
+        <source></source>
+        <translation>Unsaved Lists</translation>
+    </message>
+    <message id="kRecoveryUnreadable">
+        <source></source>
+        <translation>Cannot be read</translation>
     </message>
     <message id="kReload">
         <source></source>
@@ -1373,6 +1456,10 @@ These go on from number: %3</translation>
             <numerusform>%n stations have another place now</numerusform>
         </translation>
     </message>
+    <message id="kToldBroughtBack">
+        <source></source>
+        <translation>The changes to “%1” are back, but not saved yet</translation>
+    </message>
     <message id="kToldClosedGaps" numerus="yes">
         <source></source>
         <translation>
@@ -1437,6 +1524,10 @@ These go on from number: %3</translation>
     <message id="kToldNotKept">
         <source></source>
         <translation>“%1” was saved, but the file lost: %2.</translation>
+    </message>
+    <message id="kToldNotKeptSafe">
+        <source></source>
+        <translation>The changes to “%1” would be lost in a crash, because they cannot be kept elsewhere: %2</translation>
     </message>
     <message id="kToldNotMoved">
         <source></source>

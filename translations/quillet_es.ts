@@ -186,6 +186,10 @@
         <source></source>
         <translation>El número más alto es %1. Un canal por encima acaba con un número bajo, como 0, y quizá marcado como radio.</translation>
     </message>
+    <message id="kBringBack">
+        <source></source>
+        <translation>Recuperar</translation>
+    </message>
     <message id="kCable">
         <source></source>
         <translation>Cable</translation>
@@ -302,9 +306,28 @@
         <source></source>
         <translation>Televisor:</translation>
     </message>
+    <message id="kDiscard">
+        <source></source>
+        <translation>Descartar</translation>
+    </message>
     <message id="kDiscardChanges">
         <source></source>
         <translation>Descartar los cambios</translation>
+    </message>
+    <message id="kDiscardOneMessage">
+        <source></source>
+        <translation>¿Desea descartar los cambios sin guardar de «%1»?</translation>
+    </message>
+    <message id="kDiscardSomeMessage" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>¿Desea descartar los cambios sin guardar de %n lista?</numerusform>
+            <numerusform>¿Desea descartar los cambios sin guardar de %n listas?</numerusform>
+        </translation>
+    </message>
+    <message id="kDiscardText">
+        <source></source>
+        <translation>Después ya no se podrán recuperar.</translation>
     </message>
     <message id="kExportFailedMessage">
         <source></source>
@@ -505,6 +528,10 @@
     <message id="kIsAFolderReason">
         <source></source>
         <translation>«%1» es una carpeta.</translation>
+    </message>
+    <message id="kLater">
+        <source></source>
+        <translation>Más tarde</translation>
     </message>
     <message id="kLinkCircleReason">
         <source></source>
@@ -733,6 +760,10 @@
         <source></source>
         <translation>Emisoras de &amp;radio</translation>
     </message>
+    <message id="kMenuRecoveryFolder">
+        <source></source>
+        <translation>A&amp;brir la carpeta de recuperación</translation>
+    </message>
     <message id="kMenuRedo">
         <source></source>
         <translation>&amp;Rehacer</translation>
@@ -804,6 +835,10 @@
     <message id="kMenuUndoStep">
         <source></source>
         <translation>&amp;Deshacer: %1</translation>
+    </message>
+    <message id="kMenuUnsavedLists">
+        <source></source>
+        <translation>Listas sin g&amp;uardar…</translation>
     </message>
     <message id="kMenuView">
         <source></source>
@@ -1029,6 +1064,54 @@
     <message id="kRecentFileMissingMessage">
         <source></source>
         <translation>%1 ya no existe.</translation>
+    </message>
+    <message id="kRecoveryChanges">
+        <source></source>
+        <translation>Cambios</translation>
+    </message>
+    <message id="kRecoveryDamagedReason">
+        <source></source>
+        <translation>Lo que se conservó de los cambios está dañado.</translation>
+    </message>
+    <message id="kRecoveryFailedMessage">
+        <source></source>
+        <translation>No se ha podido recuperar todo.</translation>
+    </message>
+    <message id="kRecoveryFolder">
+        <source></source>
+        <translation>Carpeta</translation>
+    </message>
+    <message id="kRecoveryName">
+        <source></source>
+        <translation>Nombre</translation>
+    </message>
+    <message id="kRecoveryNewerReason">
+        <source></source>
+        <translation>Los cambios los conservó una versión más reciente del programa.</translation>
+    </message>
+    <message id="kRecoveryOpenReason">
+        <source></source>
+        <translation>La lista está abierta en una ventana y tiene cambios en ella. Guárdelos o descártelos antes.</translation>
+    </message>
+    <message id="kRecoveryOriginalAt">
+        <source></source>
+        <translation>La lista anterior a los cambios está en %1</translation>
+    </message>
+    <message id="kRecoveryText">
+        <source></source>
+        <translation>El programa terminó antes de que se guardaran estas listas. Sus cambios se han conservado y se pueden recuperar.</translation>
+    </message>
+    <message id="kRecoveryTime">
+        <source></source>
+        <translation>Último cambio</translation>
+    </message>
+    <message id="kRecoveryTitle">
+        <source></source>
+        <translation>Listas sin guardar</translation>
+    </message>
+    <message id="kRecoveryUnreadable">
+        <source></source>
+        <translation>No se puede leer</translation>
     </message>
     <message id="kReload">
         <source></source>
@@ -1373,6 +1456,10 @@ Estos continúan a partir del número: %3</translation>
             <numerusform>%n canales ocupan ahora otro lugar</numerusform>
         </translation>
     </message>
+    <message id="kToldBroughtBack">
+        <source></source>
+        <translation>Los cambios de «%1» están de vuelta, pero aún sin guardar</translation>
+    </message>
     <message id="kToldClosedGaps" numerus="yes">
         <source></source>
         <translation>
@@ -1437,6 +1524,10 @@ Estos continúan a partir del número: %3</translation>
     <message id="kToldNotKept">
         <source></source>
         <translation>«%1» se guardó, pero el archivo perdió: %2.</translation>
+    </message>
+    <message id="kToldNotKeptSafe">
+        <source></source>
+        <translation>Los cambios de «%1» se perderían en un fallo, porque no se pueden conservar aparte: %2</translation>
     </message>
     <message id="kToldNotMoved">
         <source></source>

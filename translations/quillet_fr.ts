@@ -186,6 +186,10 @@
         <source></source>
         <translation>Le numéro le plus élevé est %1. Une chaîne au-delà se retrouve avec un petit numéro tel que 0 et parfois marquée comme radio.</translation>
     </message>
+    <message id="kBringBack">
+        <source></source>
+        <translation>Récupérer</translation>
+    </message>
     <message id="kCable">
         <source></source>
         <translation>Câble</translation>
@@ -302,9 +306,28 @@
         <source></source>
         <translation>Téléviseur :</translation>
     </message>
+    <message id="kDiscard">
+        <source></source>
+        <translation>Abandonner</translation>
+    </message>
     <message id="kDiscardChanges">
         <source></source>
         <translation>Abandonner les modifications</translation>
+    </message>
+    <message id="kDiscardOneMessage">
+        <source></source>
+        <translation>Voulez-vous abandonner les modifications non enregistrées de « %1 » ?</translation>
+    </message>
+    <message id="kDiscardSomeMessage" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Voulez-vous abandonner les modifications non enregistrées de %n liste ?</numerusform>
+            <numerusform>Voulez-vous abandonner les modifications non enregistrées de %n listes ?</numerusform>
+        </translation>
+    </message>
+    <message id="kDiscardText">
+        <source></source>
+        <translation>Elles ne pourront plus être récupérées ensuite.</translation>
     </message>
     <message id="kExportFailedMessage">
         <source></source>
@@ -505,6 +528,10 @@
     <message id="kIsAFolderReason">
         <source></source>
         <translation>« %1 » est un dossier.</translation>
+    </message>
+    <message id="kLater">
+        <source></source>
+        <translation>Plus tard</translation>
     </message>
     <message id="kLinkCircleReason">
         <source></source>
@@ -733,6 +760,10 @@
         <source></source>
         <translation>Stations de &amp;radio</translation>
     </message>
+    <message id="kMenuRecoveryFolder">
+        <source></source>
+        <translation>Ouvrir le &amp;dossier de récupération</translation>
+    </message>
     <message id="kMenuRedo">
         <source></source>
         <translation>Ré&amp;tablir</translation>
@@ -804,6 +835,10 @@
     <message id="kMenuUndoStep">
         <source></source>
         <translation>&amp;Annuler : %1</translation>
+    </message>
+    <message id="kMenuUnsavedLists">
+        <source></source>
+        <translation>&amp;Listes non enregistrées…</translation>
     </message>
     <message id="kMenuView">
         <source></source>
@@ -1029,6 +1064,54 @@
     <message id="kRecentFileMissingMessage">
         <source></source>
         <translation>%1 n’existe plus.</translation>
+    </message>
+    <message id="kRecoveryChanges">
+        <source></source>
+        <translation>Modifications</translation>
+    </message>
+    <message id="kRecoveryDamagedReason">
+        <source></source>
+        <translation>Ce qui a été conservé des modifications est endommagé.</translation>
+    </message>
+    <message id="kRecoveryFailedMessage">
+        <source></source>
+        <translation>Tout n’a pas pu être récupéré.</translation>
+    </message>
+    <message id="kRecoveryFolder">
+        <source></source>
+        <translation>Dossier</translation>
+    </message>
+    <message id="kRecoveryName">
+        <source></source>
+        <translation>Nom</translation>
+    </message>
+    <message id="kRecoveryNewerReason">
+        <source></source>
+        <translation>Les modifications ont été conservées par une version plus récente du programme.</translation>
+    </message>
+    <message id="kRecoveryOpenReason">
+        <source></source>
+        <translation>La liste est ouverte dans une fenêtre et y a été modifiée. Enregistrez ou abandonnez d’abord ces modifications.</translation>
+    </message>
+    <message id="kRecoveryOriginalAt">
+        <source></source>
+        <translation>La liste d’avant les modifications se trouve ici : %1</translation>
+    </message>
+    <message id="kRecoveryText">
+        <source></source>
+        <translation>Le programme s’est arrêté avant que ces listes soient enregistrées. Leurs modifications ont été conservées et peuvent être récupérées.</translation>
+    </message>
+    <message id="kRecoveryTime">
+        <source></source>
+        <translation>Dernière modification</translation>
+    </message>
+    <message id="kRecoveryTitle">
+        <source></source>
+        <translation>Listes non enregistrées</translation>
+    </message>
+    <message id="kRecoveryUnreadable">
+        <source></source>
+        <translation>Illisible</translation>
     </message>
     <message id="kReload">
         <source></source>
@@ -1373,6 +1456,10 @@ Ces dernières suivent à partir du numéro : %3</translation>
             <numerusform>%n chaînes ont maintenant une autre place</numerusform>
         </translation>
     </message>
+    <message id="kToldBroughtBack">
+        <source></source>
+        <translation>Les modifications de « %1 » sont de retour, mais pas encore enregistrées</translation>
+    </message>
     <message id="kToldClosedGaps" numerus="yes">
         <source></source>
         <translation>
@@ -1437,6 +1524,10 @@ Ces dernières suivent à partir du numéro : %3</translation>
     <message id="kToldNotKept">
         <source></source>
         <translation>« %1 » a été enregistré, mais le fichier a perdu : %2.</translation>
+    </message>
+    <message id="kToldNotKeptSafe">
+        <source></source>
+        <translation>Les modifications de « %1 » seraient perdues en cas de plantage, car elles ne peuvent pas être conservées à part : %2</translation>
     </message>
     <message id="kToldNotMoved">
         <source></source>

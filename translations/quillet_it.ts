@@ -186,6 +186,10 @@
         <source></source>
         <translation>Il numero più alto è %1. Un canale oltre quel numero ne riceve uno basso, come 0, e può risultare una radio.</translation>
     </message>
+    <message id="kBringBack">
+        <source></source>
+        <translation>Recupera</translation>
+    </message>
     <message id="kCable">
         <source></source>
         <translation>Cavo</translation>
@@ -302,9 +306,28 @@
         <source></source>
         <translation>Televisore:</translation>
     </message>
+    <message id="kDiscard">
+        <source></source>
+        <translation>Scarta</translation>
+    </message>
     <message id="kDiscardChanges">
         <source></source>
         <translation>Scarta le modifiche</translation>
+    </message>
+    <message id="kDiscardOneMessage">
+        <source></source>
+        <translation>Vuoi scartare le modifiche non salvate a “%1”?</translation>
+    </message>
+    <message id="kDiscardSomeMessage" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Vuoi scartare le modifiche non salvate a %n lista?</numerusform>
+            <numerusform>Vuoi scartare le modifiche non salvate a %n liste?</numerusform>
+        </translation>
+    </message>
+    <message id="kDiscardText">
+        <source></source>
+        <translation>Poi non si potranno più recuperare.</translation>
     </message>
     <message id="kExportFailedMessage">
         <source></source>
@@ -505,6 +528,10 @@
     <message id="kIsAFolderReason">
         <source></source>
         <translation>“%1” è una cartella.</translation>
+    </message>
+    <message id="kLater">
+        <source></source>
+        <translation>Più tardi</translation>
     </message>
     <message id="kLinkCircleReason">
         <source></source>
@@ -733,6 +760,10 @@
         <source></source>
         <translation>Stazioni &amp;radio</translation>
     </message>
+    <message id="kMenuRecoveryFolder">
+        <source></source>
+        <translation>Apri la cartella di recu&amp;pero</translation>
+    </message>
     <message id="kMenuRedo">
         <source></source>
         <translation>&amp;Ripeti</translation>
@@ -804,6 +835,10 @@
     <message id="kMenuUndoStep">
         <source></source>
         <translation>Annu&amp;lla: %1</translation>
+    </message>
+    <message id="kMenuUnsavedLists">
+        <source></source>
+        <translation>Liste n&amp;on salvate…</translation>
     </message>
     <message id="kMenuView">
         <source></source>
@@ -1029,6 +1064,54 @@
     <message id="kRecentFileMissingMessage">
         <source></source>
         <translation>%1 non esiste più.</translation>
+    </message>
+    <message id="kRecoveryChanges">
+        <source></source>
+        <translation>Modifiche</translation>
+    </message>
+    <message id="kRecoveryDamagedReason">
+        <source></source>
+        <translation>Ciò che era stato conservato delle modifiche è danneggiato.</translation>
+    </message>
+    <message id="kRecoveryFailedMessage">
+        <source></source>
+        <translation>Non è stato possibile recuperare tutto.</translation>
+    </message>
+    <message id="kRecoveryFolder">
+        <source></source>
+        <translation>Cartella</translation>
+    </message>
+    <message id="kRecoveryName">
+        <source></source>
+        <translation>Nome</translation>
+    </message>
+    <message id="kRecoveryNewerReason">
+        <source></source>
+        <translation>Le modifiche sono state conservate da una versione più recente del programma.</translation>
+    </message>
+    <message id="kRecoveryOpenReason">
+        <source></source>
+        <translation>La lista è aperta in una finestra e lì è stata modificata. Prima salva o scarta quelle modifiche.</translation>
+    </message>
+    <message id="kRecoveryOriginalAt">
+        <source></source>
+        <translation>La lista prima delle modifiche si trova in %1</translation>
+    </message>
+    <message id="kRecoveryText">
+        <source></source>
+        <translation>Il programma è terminato prima che queste liste fossero salvate. Le loro modifiche sono state conservate e si possono recuperare.</translation>
+    </message>
+    <message id="kRecoveryTime">
+        <source></source>
+        <translation>Ultima modifica</translation>
+    </message>
+    <message id="kRecoveryTitle">
+        <source></source>
+        <translation>Liste non salvate</translation>
+    </message>
+    <message id="kRecoveryUnreadable">
+        <source></source>
+        <translation>Illeggibile</translation>
     </message>
     <message id="kReload">
         <source></source>
@@ -1373,6 +1456,10 @@ Questi proseguono dal numero: %3</translation>
             <numerusform>%n canali sono ora in un altro posto</numerusform>
         </translation>
     </message>
+    <message id="kToldBroughtBack">
+        <source></source>
+        <translation>Le modifiche a “%1” sono tornate, ma non sono ancora salvate</translation>
+    </message>
     <message id="kToldClosedGaps" numerus="yes">
         <source></source>
         <translation>
@@ -1437,6 +1524,10 @@ Questi proseguono dal numero: %3</translation>
     <message id="kToldNotKept">
         <source></source>
         <translation>“%1” è stata salvata, ma il file ha perso: %2.</translation>
+    </message>
+    <message id="kToldNotKeptSafe">
+        <source></source>
+        <translation>Le modifiche a “%1” andrebbero perse in un arresto anomalo, perché non si possono conservare a parte: %2</translation>
     </message>
     <message id="kToldNotMoved">
         <source></source>

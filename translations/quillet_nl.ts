@@ -186,6 +186,10 @@
         <source></source>
         <translation>Het hoogste nummer is %1. Een zender daarboven krijgt een laag nummer, zoals 0, en wordt soms als radio gemarkeerd.</translation>
     </message>
+    <message id="kBringBack">
+        <source></source>
+        <translation>Terughalen</translation>
+    </message>
     <message id="kCable">
         <source></source>
         <translation>Kabel</translation>
@@ -302,9 +306,28 @@
         <source></source>
         <translation>Televisie:</translation>
     </message>
+    <message id="kDiscard">
+        <source></source>
+        <translation>Weggooien</translation>
+    </message>
     <message id="kDiscardChanges">
         <source></source>
         <translation>Wijzigingen weggooien</translation>
+    </message>
+    <message id="kDiscardOneMessage">
+        <source></source>
+        <translation>Wilt u de niet-opgeslagen wijzigingen in “%1” weggooien?</translation>
+    </message>
+    <message id="kDiscardSomeMessage" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Wilt u de niet-opgeslagen wijzigingen in %n lijst weggooien?</numerusform>
+            <numerusform>Wilt u de niet-opgeslagen wijzigingen in %n lijsten weggooien?</numerusform>
+        </translation>
+    </message>
+    <message id="kDiscardText">
+        <source></source>
+        <translation>Daarna kunnen ze niet meer worden teruggehaald.</translation>
     </message>
     <message id="kExportFailedMessage">
         <source></source>
@@ -505,6 +528,10 @@
     <message id="kIsAFolderReason">
         <source></source>
         <translation>“%1” is een map.</translation>
+    </message>
+    <message id="kLater">
+        <source></source>
+        <translation>Later</translation>
     </message>
     <message id="kLinkCircleReason">
         <source></source>
@@ -733,6 +760,10 @@
         <source></source>
         <translation>&amp;Radiozenders</translation>
     </message>
+    <message id="kMenuRecoveryFolder">
+        <source></source>
+        <translation>&amp;Herstelmap openen</translation>
+    </message>
     <message id="kMenuRedo">
         <source></source>
         <translation>Opnie&amp;uw uitvoeren</translation>
@@ -804,6 +835,10 @@
     <message id="kMenuUndoStep">
         <source></source>
         <translation>%1 ongedaan &amp;maken</translation>
+    </message>
+    <message id="kMenuUnsavedLists">
+        <source></source>
+        <translation>Niet-op&amp;geslagen lijsten…</translation>
     </message>
     <message id="kMenuView">
         <source></source>
@@ -1029,6 +1064,54 @@
     <message id="kRecentFileMissingMessage">
         <source></source>
         <translation>%1 bestaat niet meer.</translation>
+    </message>
+    <message id="kRecoveryChanges">
+        <source></source>
+        <translation>Wijzigingen</translation>
+    </message>
+    <message id="kRecoveryDamagedReason">
+        <source></source>
+        <translation>Wat er van de wijzigingen is bewaard, is beschadigd.</translation>
+    </message>
+    <message id="kRecoveryFailedMessage">
+        <source></source>
+        <translation>Niet alles kon worden teruggehaald.</translation>
+    </message>
+    <message id="kRecoveryFolder">
+        <source></source>
+        <translation>Map</translation>
+    </message>
+    <message id="kRecoveryName">
+        <source></source>
+        <translation>Naam</translation>
+    </message>
+    <message id="kRecoveryNewerReason">
+        <source></source>
+        <translation>De wijzigingen zijn bewaard door een nieuwere versie van het programma.</translation>
+    </message>
+    <message id="kRecoveryOpenReason">
+        <source></source>
+        <translation>De lijst is geopend in een venster en daar gewijzigd. Sla die wijzigingen eerst op of gooi ze weg.</translation>
+    </message>
+    <message id="kRecoveryOriginalAt">
+        <source></source>
+        <translation>De lijst van vóór de wijzigingen staat in %1</translation>
+    </message>
+    <message id="kRecoveryText">
+        <source></source>
+        <translation>Het programma werd beëindigd voordat deze lijsten waren opgeslagen. De wijzigingen zijn bewaard en kunnen worden teruggehaald.</translation>
+    </message>
+    <message id="kRecoveryTime">
+        <source></source>
+        <translation>Laatste wijziging</translation>
+    </message>
+    <message id="kRecoveryTitle">
+        <source></source>
+        <translation>Niet-opgeslagen lijsten</translation>
+    </message>
+    <message id="kRecoveryUnreadable">
+        <source></source>
+        <translation>Onleesbaar</translation>
     </message>
     <message id="kReload">
         <source></source>
@@ -1373,6 +1456,10 @@ Deze gaan verder vanaf nummer: %3</translation>
             <numerusform>%n zenders staan nu op een andere plaats</numerusform>
         </translation>
     </message>
+    <message id="kToldBroughtBack">
+        <source></source>
+        <translation>De wijzigingen in “%1” zijn terug, maar nog niet opgeslagen</translation>
+    </message>
     <message id="kToldClosedGaps" numerus="yes">
         <source></source>
         <translation>
@@ -1437,6 +1524,10 @@ Deze gaan verder vanaf nummer: %3</translation>
     <message id="kToldNotKept">
         <source></source>
         <translation>“%1” is opgeslagen, maar het bestand verloor: %2.</translation>
+    </message>
+    <message id="kToldNotKeptSafe">
+        <source></source>
+        <translation>De wijzigingen in “%1” zouden bij een crash verloren gaan, want ze kunnen niet apart worden bewaard: %2</translation>
     </message>
     <message id="kToldNotMoved">
         <source></source>

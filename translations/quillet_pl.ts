@@ -191,6 +191,10 @@
         <source></source>
         <translation>Najwyższy numer to %1. Kanał powyżej niego dostaje niski numer, na przykład 0, a czasem także oznaczenie radia.</translation>
     </message>
+    <message id="kBringBack">
+        <source></source>
+        <translation>Przywróć</translation>
+    </message>
     <message id="kCable">
         <source></source>
         <translation>Kabel</translation>
@@ -307,9 +311,29 @@
         <source></source>
         <translation>Telewizor:</translation>
     </message>
+    <message id="kDiscard">
+        <source></source>
+        <translation>Odrzuć</translation>
+    </message>
     <message id="kDiscardChanges">
         <source></source>
         <translation>Odrzuć zmiany</translation>
+    </message>
+    <message id="kDiscardOneMessage">
+        <source></source>
+        <translation>Czy chcesz odrzucić niezapisane zmiany w pliku „%1”?</translation>
+    </message>
+    <message id="kDiscardSomeMessage" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Czy chcesz odrzucić niezapisane zmiany w %n liście?</numerusform>
+            <numerusform>Czy chcesz odrzucić niezapisane zmiany w %n listach?</numerusform>
+            <numerusform>Czy chcesz odrzucić niezapisane zmiany w %n listach?</numerusform>
+        </translation>
+    </message>
+    <message id="kDiscardText">
+        <source></source>
+        <translation>Potem nie będzie można ich przywrócić.</translation>
     </message>
     <message id="kExportFailedMessage">
         <source></source>
@@ -510,6 +534,10 @@
     <message id="kIsAFolderReason">
         <source></source>
         <translation>„%1” jest folderem.</translation>
+    </message>
+    <message id="kLater">
+        <source></source>
+        <translation>Później</translation>
     </message>
     <message id="kLinkCircleReason">
         <source></source>
@@ -743,6 +771,10 @@
         <source></source>
         <translation>Stacje &amp;radiowe</translation>
     </message>
+    <message id="kMenuRecoveryFolder">
+        <source></source>
+        <translation>Otwórz &amp;folder odzyskiwania</translation>
+    </message>
     <message id="kMenuRedo">
         <source></source>
         <translation>Ponó&amp;w</translation>
@@ -814,6 +846,10 @@
     <message id="kMenuUndoStep">
         <source></source>
         <translation>&amp;Cofnij: %1</translation>
+    </message>
+    <message id="kMenuUnsavedLists">
+        <source></source>
+        <translation>Niezap&amp;isane listy…</translation>
     </message>
     <message id="kMenuView">
         <source></source>
@@ -1042,6 +1078,54 @@
     <message id="kRecentFileMissingMessage">
         <source></source>
         <translation>%1 już nie istnieje.</translation>
+    </message>
+    <message id="kRecoveryChanges">
+        <source></source>
+        <translation>Zmiany</translation>
+    </message>
+    <message id="kRecoveryDamagedReason">
+        <source></source>
+        <translation>To, co zachowano ze zmian, jest uszkodzone.</translation>
+    </message>
+    <message id="kRecoveryFailedMessage">
+        <source></source>
+        <translation>Nie wszystko udało się przywrócić.</translation>
+    </message>
+    <message id="kRecoveryFolder">
+        <source></source>
+        <translation>Folder</translation>
+    </message>
+    <message id="kRecoveryName">
+        <source></source>
+        <translation>Nazwa</translation>
+    </message>
+    <message id="kRecoveryNewerReason">
+        <source></source>
+        <translation>Zmiany zachowała nowsza wersja programu.</translation>
+    </message>
+    <message id="kRecoveryOpenReason">
+        <source></source>
+        <translation>Lista jest otwarta w oknie i ma tam zmiany. Najpierw je zapisz lub odrzuć.</translation>
+    </message>
+    <message id="kRecoveryOriginalAt">
+        <source></source>
+        <translation>Lista sprzed zmian znajduje się w %1</translation>
+    </message>
+    <message id="kRecoveryText">
+        <source></source>
+        <translation>Program zakończył działanie, zanim te listy zostały zapisane. Ich zmiany zachowano i można je przywrócić.</translation>
+    </message>
+    <message id="kRecoveryTime">
+        <source></source>
+        <translation>Ostatnia zmiana</translation>
+    </message>
+    <message id="kRecoveryTitle">
+        <source></source>
+        <translation>Niezapisane listy</translation>
+    </message>
+    <message id="kRecoveryUnreadable">
+        <source></source>
+        <translation>Nie można odczytać</translation>
     </message>
     <message id="kReload">
         <source></source>
@@ -1401,6 +1485,10 @@ Te następują od numeru: %3</translation>
             <numerusform>%n kanałów ma teraz inne miejsce</numerusform>
         </translation>
     </message>
+    <message id="kToldBroughtBack">
+        <source></source>
+        <translation>Zmiany w pliku „%1” są z powrotem, ale jeszcze niezapisane</translation>
+    </message>
     <message id="kToldClosedGaps" numerus="yes">
         <source></source>
         <translation>
@@ -1472,6 +1560,10 @@ Te następują od numeru: %3</translation>
     <message id="kToldNotKept">
         <source></source>
         <translation>Zapisano „%1”, ale plik utracił: %2.</translation>
+    </message>
+    <message id="kToldNotKeptSafe">
+        <source></source>
+        <translation>Zmiany w pliku „%1” przepadłyby przy awarii, bo nie można ich zachować osobno: %2</translation>
     </message>
     <message id="kToldNotMoved">
         <source></source>

@@ -181,6 +181,10 @@
         <source></source>
         <translation>En yüksek numara %1. Bunu aşan bir kanal 0 gibi küçük bir numara alır ve radyo olarak işaretlenebilir.</translation>
     </message>
+    <message id="kBringBack">
+        <source></source>
+        <translation>Geri Getir</translation>
+    </message>
     <message id="kCable">
         <source></source>
         <translation>Kablo</translation>
@@ -297,9 +301,27 @@
         <source></source>
         <translation>Televizyon:</translation>
     </message>
+    <message id="kDiscard">
+        <source></source>
+        <translation>At</translation>
+    </message>
     <message id="kDiscardChanges">
         <source></source>
         <translation>Değişiklikleri At</translation>
+    </message>
+    <message id="kDiscardOneMessage">
+        <source></source>
+        <translation>“%1” dosyasındaki kaydedilmemiş değişiklikleri atmak istiyor musunuz?</translation>
+    </message>
+    <message id="kDiscardSomeMessage" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n listedeki kaydedilmemiş değişiklikleri atmak istiyor musunuz?</numerusform>
+        </translation>
+    </message>
+    <message id="kDiscardText">
+        <source></source>
+        <translation>Sonra geri getirilemezler.</translation>
     </message>
     <message id="kExportFailedMessage">
         <source></source>
@@ -500,6 +522,10 @@
     <message id="kIsAFolderReason">
         <source></source>
         <translation>“%1” bir klasör.</translation>
+    </message>
+    <message id="kLater">
+        <source></source>
+        <translation>Daha Sonra</translation>
     </message>
     <message id="kLinkCircleReason">
         <source></source>
@@ -723,6 +749,10 @@
         <source></source>
         <translation>&amp;Radyo Kanalları</translation>
     </message>
+    <message id="kMenuRecoveryFolder">
+        <source></source>
+        <translation>Kurtarma K&amp;lasörünü Aç</translation>
+    </message>
     <message id="kMenuRedo">
         <source></source>
         <translation>&amp;Yinele</translation>
@@ -794,6 +824,10 @@
     <message id="kMenuUndoStep">
         <source></source>
         <translation>&amp;Geri Al: %1</translation>
+    </message>
+    <message id="kMenuUnsavedLists">
+        <source></source>
+        <translation>Kaydedil&amp;memiş Listeler…</translation>
     </message>
     <message id="kMenuView">
         <source></source>
@@ -1016,6 +1050,54 @@
     <message id="kRecentFileMissingMessage">
         <source></source>
         <translation>%1 artık yerinde değil.</translation>
+    </message>
+    <message id="kRecoveryChanges">
+        <source></source>
+        <translation>Değişiklikler</translation>
+    </message>
+    <message id="kRecoveryDamagedReason">
+        <source></source>
+        <translation>Değişikliklerden saklananlar hasarlı.</translation>
+    </message>
+    <message id="kRecoveryFailedMessage">
+        <source></source>
+        <translation>Her şey geri getirilemedi.</translation>
+    </message>
+    <message id="kRecoveryFolder">
+        <source></source>
+        <translation>Klasör</translation>
+    </message>
+    <message id="kRecoveryName">
+        <source></source>
+        <translation>Ad</translation>
+    </message>
+    <message id="kRecoveryNewerReason">
+        <source></source>
+        <translation>Değişiklikler programın daha yeni bir sürümü tarafından saklandı.</translation>
+    </message>
+    <message id="kRecoveryOpenReason">
+        <source></source>
+        <translation>Liste bir pencerede açık ve orada değiştirilmiş. Önce o değişiklikleri kaydedin veya atın.</translation>
+    </message>
+    <message id="kRecoveryOriginalAt">
+        <source></source>
+        <translation>Listenin değişikliklerden önceki hâli burada: %1</translation>
+    </message>
+    <message id="kRecoveryText">
+        <source></source>
+        <translation>Program, bu listeler kaydedilmeden sona erdi. Değişiklikleri saklandı ve geri getirilebilir.</translation>
+    </message>
+    <message id="kRecoveryTime">
+        <source></source>
+        <translation>Son Değişiklik</translation>
+    </message>
+    <message id="kRecoveryTitle">
+        <source></source>
+        <translation>Kaydedilmemiş Listeler</translation>
+    </message>
+    <message id="kRecoveryUnreadable">
+        <source></source>
+        <translation>Okunamıyor</translation>
     </message>
     <message id="kReload">
         <source></source>
@@ -1345,6 +1427,10 @@ Bunların devam ettiği numara: %3</translation>
             <numerusform>%n kanal artık başka bir yerde</numerusform>
         </translation>
     </message>
+    <message id="kToldBroughtBack">
+        <source></source>
+        <translation>“%1” dosyasındaki değişiklikler geri geldi, ama henüz kaydedilmedi</translation>
+    </message>
     <message id="kToldClosedGaps" numerus="yes">
         <source></source>
         <translation>
@@ -1402,6 +1488,10 @@ Bunların devam ettiği numara: %3</translation>
     <message id="kToldNotKept">
         <source></source>
         <translation>“%1” kaydedildi, ama dosya şunları yitirdi: %2.</translation>
+    </message>
+    <message id="kToldNotKeptSafe">
+        <source></source>
+        <translation>“%1” dosyasındaki değişiklikler bir çökmede kaybolur, çünkü ayrıca saklanamıyorlar: %2</translation>
     </message>
     <message id="kToldNotMoved">
         <source></source>

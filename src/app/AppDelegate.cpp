@@ -4,12 +4,15 @@
 #include "app/LGWindowController.h"
 #include "app/MainMenu.h"
 #include "app/OpenRequest.h"
+#include "app/RecoveryDialog.h"
 #include "app/help/HelpProcess.h"
 #include "document/TLLDocument.h"
 #include "document/repair/FileDiagnosis.h"
 #include "editor/EditorView.h"
 #include "files/FileNames.h"
 #include "files/Places.h"
+#include "files/PrivateFolders.h"
+#include "files/ShownPath.h"
 
 #include <QEventLoop>
 #include <QFileInfo>
@@ -50,7 +53,10 @@ AppDelegate::AppDelegate(Prompts &prompts, QObject *parent)
     });
 }
 
-AppDelegate::~AppDelegate() = default;
+AppDelegate::~AppDelegate()
+{
+    delete m_unsavedLists;
+}
 
 QStringList AppDelegate::nameFilters()
 {
@@ -66,6 +72,9 @@ std::unique_ptr<TLLDocument> AppDelegate::makeDocument()
         auto *menu = new MainMenu(*controller, m_documents, controller->window());
         connect(menu, &MainMenu::quitRequested, this, &AppDelegate::terminate);
         connect(menu, &MainMenu::helpRequested, this, &AppDelegate::showHelpWindow);
+        menu->setUnsavedLists([this] { return m_recovery && m_recovery->store().hasLeftovers(); });
+        connect(menu, &MainMenu::unsavedListsRequested, this, &AppDelegate::showUnsavedLists);
+        connect(menu, &MainMenu::recoveryFolderRequested, this, &AppDelegate::openRecoveryFolder);
         connect(&controller->editor().controller(), &ViewController::repairedCopyRequested, this,
                 [this, window = controller.get()] {
                     TLLDocument *damaged = window->tlldoc();
@@ -104,7 +113,7 @@ void AppDelegate::openRepairedCopy(const TLLDocument &damaged)
 void AppDelegate::applicationDidFinishLaunching(const QStringList &paths)
 {
     open(paths);
-    if (m_documents.documents().empty())
+    if (!showUnsavedLists() && m_documents.documents().empty())
         m_documents.newDocument();
 }
 
@@ -124,7 +133,10 @@ void AppDelegate::openRequested(const OpenRequest &request)
     const Document *shown = open(request.files);
     if (!shown)
         shown = lastActive();
-    shown->raiseWindows();
+    if (shown)
+        shown->raiseWindows();
+    else
+        showUnsavedLists();
     qunsetenv(waylandToken);
 }
 
@@ -133,12 +145,84 @@ const Document *AppDelegate::lastActive() const
     const auto &open = m_documents.documents();
     const bool isOpen = std::any_of(
         open.begin(), open.end(), [this](const auto &each) { return each.get() == m_lastActive; });
-    return isOpen ? m_lastActive.data() : open.back().get();
+    if (isOpen)
+        return m_lastActive;
+    return open.empty() ? nullptr : open.back().get();
 }
 
 bool AppDelegate::mayOpen() const
 {
-    return !m_documents.documents().empty() && !m_documents.isClosingAll();
+    return (m_unsavedLists || !m_documents.documents().empty()) && !m_documents.isClosingAll();
+}
+
+void AppDelegate::keepChanges(RecoveryStore &store, const RecoveryTiming &timing)
+{
+    m_recovery = std::make_unique<RecoveryKeeper>(store, timing);
+    connect(&m_documents, &DocumentController::documentOpened, m_recovery.get(),
+            [this](Document *document) { m_recovery->watch(*document); });
+    connect(&m_documents, &DocumentController::documentClosed, m_recovery.get(),
+            [this](Document *document) { m_recovery->forget(*document); });
+}
+
+bool AppDelegate::showUnsavedLists()
+{
+    if (!m_recovery)
+        return false;
+    if (!m_unsavedLists) {
+        auto leftovers = m_recovery->store().leftovers();
+        if (leftovers.empty())
+            return false;
+        m_unsavedLists = new RecoveryDialog(
+            std::move(leftovers), m_documents.prompts(),
+            [this](RecoveryStore::Leftover &leftover) { return bringBack(leftover); });
+        m_unsavedLists->setAttribute(Qt::WA_DeleteOnClose);
+        connect(m_unsavedLists, &QDialog::finished, this, [this] {
+            if (m_documents.documents().empty())
+                m_documents.newDocument();
+        });
+    }
+    m_unsavedLists->show();
+    m_unsavedLists->raise();
+    m_unsavedLists->activateWindow();
+    return true;
+}
+
+QString AppDelegate::bringBack(RecoveryStore::Leftover &leftover)
+{
+    const Document *open = m_documents.documentAt(leftover.state->path);
+    if (open && open->hasUnautosavedChanges())
+        return qtTrId("kRecoveryOpenReason");
+    std::unique_ptr<TLLDocument> document = makeDocument();
+    Error error;
+    if (!RecoveryKeeper::restore(*document, leftover, error))
+        return leftover.problem = error.text();
+    TLLDocument &opened = *document;
+    const int source = opened.curSource();
+    const StationListPtr shown = opened.stations();
+    m_documents.openRestored(std::move(document));
+    opened.setDirtyFlag(true); // showing a document makes it unchanged
+    m_recovery->goOn(opened, std::move(leftover));
+    for (const auto &each : opened.windowControllers()) {
+        auto *window = qobject_cast<LGWindowController *>(each.get());
+        if (window && opened.hasDataForSource(source))
+            window->editor().controller().showList(shown);
+    }
+    emit opened.told(qtTrId("kToldBroughtBack").arg(opened.displayName()));
+    return {};
+}
+
+void AppDelegate::openRecoveryFolder()
+{
+    if (!m_recovery)
+        return;
+    const QString &folder = m_recovery->store().root();
+    QString reason;
+    if (makePrivateFolder(folder, reason))
+        return m_services->openUrl(QUrl::fromLocalFile(folder));
+    Alert alert;
+    alert.message = qtTrId("kCreateFailedReason").arg(shownPath(folder), reason);
+    alert.buttons = {qtTrId("kOK")};
+    m_documents.prompts().showAlert(nullptr, alert, [](const AlertAnswer &) {});
 }
 
 void AppDelegate::showHelpWindow()
@@ -161,6 +245,19 @@ void AppDelegate::showHelpWindow()
 void AppDelegate::terminate()
 {
     askAndQuit([](bool) {});
+}
+
+void AppDelegate::terminateSoon()
+{
+    commitEditing();
+    writeRecovery();
+    terminate();
+}
+
+void AppDelegate::writeRecovery()
+{
+    if (m_recovery)
+        m_recovery->writeNow();
 }
 
 bool AppDelegate::terminateNow()
@@ -187,7 +284,10 @@ void AppDelegate::commitData(QSessionManager &session)
     const bool isClean = std::none_of(documents.begin(), documents.end(), [](const auto &each) {
         return each->hasUnautosavedChanges();
     });
-    if (isClean || !session.allowsInteraction())
+    if (isClean)
+        return;
+    writeRecovery(); // whatever the session does next
+    if (!session.allowsInteraction())
         return;
     if (!terminateNow())
         session.cancel();

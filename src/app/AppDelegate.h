@@ -4,6 +4,7 @@
 #include "app/help/HelpBrowser.h"
 #include "framework/DocumentController.h"
 #include "framework/Prompts.h"
+#include "framework/RecoveryKeeper.h"
 
 #include <QObject>
 #include <QPointer>
@@ -16,6 +17,7 @@ class QSessionManager;
 
 namespace quillet {
 
+class RecoveryDialog;
 class TLLDocument;
 struct OpenRequest;
 
@@ -34,13 +36,20 @@ public:
     /// What the open panel offers, channel lists first.
     [[nodiscard]] static QStringList nameFilters();
 
-    /// Opens the files the program was started with; without any, an empty window.
+    /// Has the changes of every document kept in that store, which must outlive the delegate, so
+    /// that they survive whatever ends the program. Without it nothing is kept.
+    void keepChanges(RecoveryStore &store, const RecoveryTiming &timing = {});
+    /// Opens the files the program was started with, and shows what can be brought back; without
+    /// any of these, an empty window.
     void applicationDidFinishLaunching(const QStringList &paths);
     /// Opens what another start of the program was asked to open and raises the window; without
     /// files the last one that was active.
     void openRequested(const OpenRequest &request);
     /// Whether files can still be opened: not while it is being asked whether to quit.
     [[nodiscard]] bool mayOpen() const;
+    /// Shows what programs that ended too early have left, if there is anything. Returns whether.
+    bool showUnsavedLists();
+    void openRecoveryFolder();
     /// Opens what can be mended of a damaged file as an untitled document.
     void openRepairedCopy(const TLLDocument &damaged);
     /// What is used instead of the desktop's own services; must outlive the delegate.
@@ -54,7 +63,11 @@ public:
     [[nodiscard]] HelpBrowser *inAppBrowserWindow() const { return m_inAppBrowserWindow.get(); }
     /// Asks about unsaved changes, then quits. Does nothing while that is being asked.
     void terminate();
-    /// The same, but returns only when the questions are answered: whether the program ends.
+    /// The same, for a system that may not wait for the answers: first all changes are kept.
+    void terminateSoon();
+    /// Has all changes on the disk before it returns, as far as the disk lets us.
+    void writeRecovery();
+    /// As terminate(), but returns only when the questions are answered: whether the program ends.
     [[nodiscard]] bool terminateNow();
 
 protected:
@@ -65,8 +78,10 @@ private:
     [[nodiscard]] std::unique_ptr<TLLDocument> makeDocument();
     /// Opens the files; the last of those that are open now, none when there is none.
     Document *open(const QStringList &paths);
-    /// The open document whose window was active last, or any.
+    /// The open document whose window was active last, or any; null when none is open.
     [[nodiscard]] const Document *lastActive() const;
+    /// Opens what can be brought back. Returns why that failed; empty when it did not.
+    [[nodiscard]] QString bringBack(RecoveryStore::Leftover &leftover);
     /// Takes over what is being typed.
     void commitEditing();
     /// Has the questions answered before the person logs out, as far as the session lets us ask.
@@ -80,6 +95,8 @@ private:
     std::unique_ptr<HelpBrowser> m_inAppBrowserWindow;
     DocumentController m_documents;
     QPointer<Document> m_lastActive;
+    std::unique_ptr<RecoveryKeeper> m_recovery; ///< null: nothing is kept
+    QPointer<RecoveryDialog> m_unsavedLists;
 };
 
 } // namespace quillet

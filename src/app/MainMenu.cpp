@@ -86,6 +86,12 @@ void MainMenu::makeFileMenu(QMenuBar &bar)
     auto *recentFiles = new RecentFilesMenu(*recent, m_documents.recentFiles(), this);
     connect(recentFiles, &RecentFilesMenu::fileChosen, this,
             [this](const QString &path) { m_documents.openDocument(QUrl::fromLocalFile(path)); });
+    QAction *unsaved = add(menu, {"kMenuUnsavedLists", "showUnsavedLists", {}},
+                           [this] { emit unsavedListsRequested(); });
+    connect(&menu, &QMenu::aboutToShow, unsaved,
+            [this, unsaved] { unsaved->setVisible(m_areUnsaved && m_areUnsaved()); });
+    add(menu, {"kMenuRecoveryFolder", "openRecoveryFolder", {}},
+        [this] { emit recoveryFolderRequested(); });
     menu.addSeparator();
     add(menu, {"kMenuClose", "performClose", Qt::CTRL | Qt::Key_W},
         [this] { emit m_window.closeRequested(); });

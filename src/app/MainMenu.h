@@ -5,6 +5,8 @@
 #include <QObject>
 #include <QPointer>
 
+#include <functional>
+#include <utility>
 #include <vector>
 
 class QMenu;
@@ -27,7 +29,12 @@ class MainMenu : public QObject
 public:
     MainMenu(LGWindowController &window, DocumentController &documents, QObject *parent);
 
+    /// What says whether there are lists to bring back, for which there is an item then.
+    void setUnsavedLists(std::function<bool()> areThere) { m_areUnsaved = std::move(areThere); }
+
 signals:
+    void unsavedListsRequested();
+    void recoveryFolderRequested();
     void quitRequested();
     void helpRequested();
 
@@ -58,6 +65,7 @@ private:
     std::vector<QAction *> m_sources;
     std::vector<QAction *> m_filters;
     EditMenu *m_edit = nullptr;
+    std::function<bool()> m_areUnsaved;
     QAction *m_save = nullptr;
     QAction *m_reload = nullptr;
     QAction *m_alwaysRepair = nullptr;

@@ -1,6 +1,7 @@
 #include "app/AppDelegate.h"
 #include "app/CommandLine.h"
 #include "app/Environment.h"
+#include "app/ExitHook.h"
 #include "app/HelpProgram.h"
 #include "app/OneInstance.h"
 #include "app/Palettes.h"
@@ -9,6 +10,8 @@
 #include "app/TerminationSignals.h"
 #include "app/Translations.h"
 #include "files/FileNames.h"
+#include "files/FileOperations.h"
+#include "files/RecoveryStore.h"
 #include "framework/QtPrompts.h"
 #include "support/KXFileLog.h"
 #include "support/LogClaim.h"
@@ -68,12 +71,16 @@ int edit(const CommandLine &line, const OpenRequest &request)
         return Succeeded; // the log is the other program's
     const LogClaim log;
     OpenFileLog(QStringLiteral("XT"), log.applicationName()); // before any file is read
+    FileOperations operations;
+    RecoveryStore recovery(RecoveryStore::usualRoot(), operations);
     QtPrompts prompts;
     AppDelegate delegate(prompts);
     delegate.setHelpArguments(line.helpWindow);
+    delegate.keepChanges(recovery);
+    const ExitHook atExit([&delegate] { delegate.writeRecovery(); });
     const TerminationSignals termination;
     QObject::connect(&termination, &TerminationSignals::received, &delegate,
-                     &AppDelegate::terminate);
+                     &AppDelegate::terminateSoon);
     instance.setMayTake([&delegate] { return delegate.mayOpen(); });
     QObject::connect(&instance, &OneInstance::requested, &delegate, &AppDelegate::openRequested);
     QObject::connect(qApp, &QCoreApplication::aboutToQuit, &instance, &OneInstance::stop);

@@ -4,6 +4,7 @@
 #include "document/SaveReview.h"
 #include "document/TLLWindowController.h"
 #include "document/order/ReferenceOrder.h"
+#include "document/recovery/ListEdits.h"
 #include "document/repair/RepairedWriter.h"
 #include "document/review/Rehearsal.h"
 #include "document/write/TLLWriter.h"
@@ -98,6 +99,31 @@ bool TLLDocument::replaceContent(const QByteArray &data, const QString &typeName
     m_list = std::move(fresh);
     m_repair.reset();
     m_savesRepaired = false;
+    return true;
+}
+
+std::optional<Document::Recoverable> TLLDocument::recoverable() const
+{
+    const DocumentState state{m_usesTV, m_curSource, m_savesRepaired, m_repair};
+    return Recoverable{m_list.text.bytes(), [state, edits = ListEdits::of(m_list)] {
+                           return state.encodedWith(edits.encoded());
+                       }};
+}
+
+bool TLLDocument::restoreContent(const QByteArray &original, const QByteArray &bytes, Error &)
+{
+    QByteArray editBytes;
+    const std::optional<DocumentState> state = DocumentState::decoded(bytes, editBytes);
+    const auto edits = state ? ListEdits::decoded(editBytes) : std::nullopt;
+    ChannelList fresh;
+    if (!edits || readInto(fresh, original) != Reading::Done || !edits->applyTo(fresh))
+        return false;
+    logLoading(fresh, Reading::Done);
+    m_list = std::move(fresh);
+    m_repair = state->repair;
+    m_savesRepaired = state->savesRepaired;
+    switchToMode(state->usesTV);
+    switchToSource(state->source);
     return true;
 }
 

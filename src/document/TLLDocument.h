@@ -1,8 +1,8 @@
 #pragma once
 
+#include "document/DocumentState.h"
 #include "document/list/ChannelList.h"
 #include "document/order/ReferenceList.h"
-#include "document/repair/Mending.h"
 #include "framework/Document.h"
 
 #include <QPointer>
@@ -45,12 +45,10 @@ public:
     /// Reads the mended text of the file with that name.
     [[nodiscard]] bool readRepaired(const MendedText &mended, const QString &fileName);
     /// What was mended in the text that was read, until it is saved; none when nothing was.
-    struct Repair
-    {
-        Mending mending;
-        QString fileName; ///< of the damaged file
-    };
     [[nodiscard]] const std::optional<Repair> &repair() const { return m_repair; }
+    [[nodiscard]] std::optional<Recoverable> recoverable() const override;
+    /// The current list becomes the one that was.
+    bool restoreContent(const QByteArray &original, const QByteArray &edits, Error &error) override;
     /// Empties the lists and forgets what was remembered of the text.
     void clearVars();
     /// Makes the URL that of this document; always true.

@@ -65,7 +65,7 @@ constexpr std::array mendingTexts{
     MendingText{&Mending::strays, "kMendedStrays"},
 };
 
-QString textOf(const TLLDocument::Repair &repair)
+QString textOf(const Repair &repair)
 {
     const Mending &mending = repair.mending;
     QStringList sentences;

@@ -8,10 +8,9 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QRandomGenerator>
-#include <QRegularExpression>
 #include <QScopeGuard>
 
-#include <chrono>
+#include <algorithm>
 #include <filesystem>
 #include <optional>
 #include <system_error>
@@ -52,24 +51,33 @@ QString unusedPath(const QString &folder)
     return path;
 }
 
-/// Removes the new files that crashes left in the folder. Those of the last day may be of somebody
-/// who is writing right now, or be wanted back.
-void removeLeftovers(const QString &folder)
+/// By hand: this may run when the program ends and has no static objects any more.
+bool isLeftoverName(QStringView name)
 {
-    static const QRegularExpression pattern(QStringLiteral("\\A\\.quillet-[0-9a-f]{8}\\z"));
-    const auto yesterday = fs::file_time_type::clock::now() - std::chrono::hours(24);
+    constexpr QLatin1String start(".quillet-");
+    constexpr qsizetype digits = 8;
+    const auto isDigit = [](QChar c) {
+        return (c >= u'0' && c <= u'9') || (c >= u'a' && c <= u'f');
+    };
+    return name.size() == start.size() + digits && name.startsWith(start) &&
+           std::all_of(name.begin() + start.size(), name.end(), isDigit);
+}
+
+} // namespace
+
+void FileReplacement::removeLeftovers(const QString &folder, std::chrono::hours age)
+{
+    const auto latest = fs::file_time_type::clock::now() - age;
     std::error_code code;
     for (fs::directory_iterator files(nativePath(folder), code), end; !code && files != end;
          files.increment(code)) {
         std::error_code of;
-        const bool isLeftover = pattern.match(pathFromNative(files->path().filename())).hasMatch();
-        if (isLeftover && files->symlink_status(of).type() == fs::file_type::regular &&
-            files->last_write_time(of) < yesterday && !of)
+        if (isLeftoverName(pathFromNative(files->path().filename())) &&
+            files->symlink_status(of).type() == fs::file_type::regular &&
+            files->last_write_time(of) <= latest && !of)
             fs::remove(files->path(), of);
     }
 }
-
-} // namespace
 
 bool FileReplacement::replace(const QString &path, const QByteArray &bytes, Error &error,
                               const Check &mayReplace)
@@ -97,10 +105,12 @@ Error FileReplacement::replaceTarget(const QString &target, const QByteArray &by
     if (hasOldFile && !isWritable(target))
         return failure(Failure::Target, qtTrId("kWriteProtectedReason").arg(name));
 
-    removeLeftovers(info.path());
+    const bool isForOwner = m_readers == Readers::OwnerAlone;
+    // Those of the last day may be of somebody who is writing right now, or be wanted back.
+    removeLeftovers(info.path(), std::chrono::hours(24));
     NamedFile file(unusedPath(info.path()));
     QString reason;
-    if (!m_operations.create(file, hasOldFile, reason))
+    if (!m_operations.create(file, hasOldFile || isForOwner, reason))
         return failure(Failure::Create,
                        qtTrId("kCreateFailedReason").arg(shownPath(info.path()), reason));
     auto removeNewFile = qScopeGuard([&file] {
@@ -110,7 +120,7 @@ Error FileReplacement::replaceTarget(const QString &target, const QByteArray &by
     });
     if (m_operations.write(file, bytes, reason) != bytes.size())
         return failure(Failure::Write, qtTrId("kWriteFailedReason").arg(reason));
-    if (hasOldFile && !keepRights(m_operations, target, file, m_notKept, reason))
+    if (hasOldFile && !isForOwner && !keepRights(m_operations, target, file, m_notKept, reason))
         return failure(Failure::Permissions, qtTrId("kPermissionsFailedReason").arg(reason));
     if (!m_operations.sync(file, reason))
         return failure(Failure::Sync, qtTrId("kWriteFailedReason").arg(reason));

@@ -6,6 +6,7 @@
 #include <QByteArray>
 #include <QString>
 
+#include <chrono>
 #include <functional>
 
 namespace quillet {
@@ -33,7 +34,15 @@ public:
     enum class Failure { Target = 1, Create, Write, Permissions, Sync, Compare, Rename, Changed };
     static constexpr char errorDomain[] = "FileReplacement";
 
-    explicit FileReplacement(FileOperations &operations) : m_operations(operations) {}
+    /// Who may read the new file.
+    enum class Readers {
+        AsBefore,   ///< as the old file's; of the first one whoever the system lets read it
+        OwnerAlone, ///< whatever there was before
+    };
+    explicit FileReplacement(FileOperations &operations, Readers readers = Readers::AsBefore)
+        : m_operations(operations), m_readers(readers)
+    {
+    }
 
     /// Answers whether the old file may still be replaced; asked in the very moment before it is.
     using Check = std::function<bool()>;
@@ -44,11 +53,15 @@ public:
     /// that failed.
     [[nodiscard]] const std::vector<NotKept> &notKept() const { return m_notKept; }
 
+    /// Removes the new files that crashes left in a folder, as far as they are that old.
+    static void removeLeftovers(const QString &folder, std::chrono::hours age);
+
 private:
     [[nodiscard]] Error replaceTarget(const QString &target, const QByteArray &bytes,
                                       const Check &mayReplace);
 
     FileOperations &m_operations;
+    Readers m_readers;
     std::vector<NotKept> m_notKept;
 };
 

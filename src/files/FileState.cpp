@@ -22,6 +22,13 @@ FileState FileState::of(const QString &path, const QByteArray &bytes)
     return state;
 }
 
+FileState FileState::remembered(const QString &path, const QByteArray &bytes)
+{
+    FileState state = of(path, bytes);
+    state.m_isRemembered = true;
+    return state;
+}
+
 FileState FileState::at(const QString &path)
 {
     FileState state = none(path);
@@ -35,9 +42,10 @@ FileState FileState::at(const QString &path)
 
 FileState::Change FileState::changeSince(const FileState &earlier) const
 {
+    const bool isElsewhere = m_device != earlier.m_device && !earlier.m_isRemembered;
     const bool isMissing = earlier.m_exists && !m_exists;
     const bool cannotBeRead = earlier.m_isReadable && !m_isReadable;
-    if (m_device != earlier.m_device || isMissing || cannotBeRead)
+    if (isElsewhere || isMissing || cannotBeRead)
         return Change::Gone;
     const bool isSame = m_exists == earlier.m_exists && m_bytes == earlier.m_bytes;
     return isSame ? Change::None : Change::Content;

@@ -16,6 +16,9 @@ public:
     [[nodiscard]] static FileState at(const QString &path);
     /// A file that was just read or written.
     [[nodiscard]] static FileState of(const QString &path, const QByteArray &bytes);
+    /// A file that another run of the program had read or written, on whatever device, for those
+    /// get other numbers when the system starts.
+    [[nodiscard]] static FileState remembered(const QString &path, const QByteArray &bytes);
     /// Nothing yet: a file that is there was put there by somebody else.
     [[nodiscard]] static FileState none(const QString &path);
 
@@ -27,6 +30,8 @@ public:
     /// What has become of an earlier state of the path.
     [[nodiscard]] Change changeSince(const FileState &earlier) const;
     [[nodiscard]] const QString &path() const { return m_path; }
+    [[nodiscard]] bool exists() const { return m_exists; }
+    [[nodiscard]] const QByteArray &bytes() const { return m_bytes; }
 
 private:
     QString m_path;
@@ -34,6 +39,7 @@ private:
     bool m_isReadable = false;
     QByteArray m_bytes; ///< of a file that could not be read: none
     std::optional<quint64> m_device;
+    bool m_isRemembered = false; ///< from an earlier run, so that the device says nothing
 };
 
 } // namespace quillet

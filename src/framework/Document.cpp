@@ -111,6 +111,17 @@ bool Document::readFromUrl(const QUrl &url, const QString &typeName, Error &erro
     return true;
 }
 
+std::optional<Document::Recoverable> Document::recoverable() const
+{
+    return {};
+}
+
+bool Document::restoreContent(const QByteArray & /*original*/, const QByteArray & /*edits*/,
+                              Error & /*error*/)
+{
+    return false;
+}
+
 Document *Document::otherDocumentAt(const QString &path) const
 {
     return m_lookup ? m_lookup(path, this) : nullptr;
@@ -262,6 +273,7 @@ void Document::wasWritten(const FileState &written, quint64 changeCount)
     documentWasSaved();
     if (isNewPlace)
         emit placeWasChosen();
+    emit fileWasWritten();
     emit told(savedText());
 }
 

@@ -76,6 +76,21 @@ public:
     /// On failure the error is always set and the document is untouched.
     bool readFromUrl(const QUrl &url, const QString &typeName, Error &error);
 
+    /// What brings the content back after the program has ended without a save.
+    struct Recoverable
+    {
+        QByteArray original;               ///< that the content was read from
+        std::function<QByteArray()> edits; ///< made since then; may be called on any thread
+    };
+    /// The content as it is now, which must not take long. The base has none.
+    [[nodiscard]] virtual std::optional<Recoverable> recoverable() const;
+    /// Fills the document, which must be new, with what was recoverable. A failure may leave
+    /// `error` empty.
+    virtual bool restoreContent(const QByteArray &original, const QByteArray &edits, Error &error);
+    /// Of the document's file, as it was last read or written; none when it never was.
+    [[nodiscard]] const std::optional<FileState> &lastKnownState() const { return m_known; }
+    void setLastKnownState(const FileState &known) { m_known = known; }
+
     /// Called once after the document was opened or made new. The base makes none.
     virtual void makeWindowControllers();
     void addWindowController(std::unique_ptr<WindowController> controller);
@@ -134,6 +149,8 @@ signals:
     void placeWasChosen();
     /// A file was opened into a window of the document, or would have been if it were not open.
     void fileWasOpened();
+    /// The document's own file was written, by whichever save.
+    void fileWasWritten();
     /// Something was done without asking that a person should hear of.
     void told(const QString &text);
 

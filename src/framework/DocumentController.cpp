@@ -91,6 +91,21 @@ Document *DocumentController::openUntitled(std::unique_ptr<Document> document,
     return adopt(std::move(document), nullptr);
 }
 
+Document *DocumentController::openRestored(std::unique_ptr<Document> document)
+{
+    document->setPrompts(&m_prompts);
+    const QString path = document->fileUrl().toLocalFile();
+    Document *replaced = documentAt(path);
+    if (!replaced)
+        replaced = untouchedDocument();
+    Document *opened = adopt(std::move(document), replaced);
+    if (replaced)
+        remove(replaced);
+    if (!path.isEmpty())
+        m_recentFiles->add(path);
+    return opened;
+}
+
 Document *DocumentController::openDocument(const QUrl &url)
 {
     Error error;
@@ -185,6 +200,7 @@ Document *DocumentController::adopt(std::unique_ptr<Document> document, Document
         controller->showWindow();
     }
     emit documentsChanged();
+    emit documentOpened(added);
     return added;
 }
 
@@ -201,6 +217,7 @@ void DocumentController::remove(Document *document)
     found->release()->setParent(this);
     document->deleteLater();
     m_documents.erase(found);
+    emit documentClosed(document);
     emit documentsChanged();
     if (m_documents.empty())
         emit lastDocumentClosed();

@@ -47,6 +47,8 @@ public:
     /// other file is never written to.
     Document *openUntitled(std::unique_ptr<Document> document, const QUrl &suggested,
                            const QUrl &untouched);
+    /// The document, not the excepted one, whose file the path leads to; null when there is none.
+    [[nodiscard]] Document *documentAt(const QString &path, const Document *except = nullptr) const;
     /// Raises the window of an open document made from that file, which stays untouched. Returns
     /// whether there is one.
     bool raiseCopyOf(const QUrl &untouched);
@@ -56,6 +58,9 @@ public:
     /// Opens each file, then shows what was wrong with those that could not be opened. Returns the
     /// last one that was opened, or had a window already.
     Document *openDocuments(const QList<QUrl> &urls);
+    /// Opens a document that was brought back, with its file and its changes, in the place of an
+    /// unchanged one of that file or of an untouched one.
+    Document *openRestored(std::unique_ptr<Document> document);
     /// Asks for files and opens each.
     void showOpenPanel(const QStringList &nameFilters);
 
@@ -71,6 +76,9 @@ public:
 
 signals:
     void documentsChanged();
+    void documentOpened(Document *document);
+    /// The document goes soon; its changes are saved or given up.
+    void documentClosed(Document *document);
     void lastDocumentClosed();
 
 private:
@@ -81,8 +89,6 @@ private:
     void presentOpenError(const QUrl &url, const Error &error);
     void reviewNext(std::vector<Document *> givenUp, const std::function<void(bool)> &done);
     void closeAllReviewed(const std::function<void(bool)> &done);
-    /// The document, not the excepted one, whose file the path leads to.
-    [[nodiscard]] Document *documentAt(const QString &path, const Document *except = nullptr) const;
     [[nodiscard]] Document *untouchedDocument() const;
     /// Has the windows of documents with one name show their folders.
     void tellNamesApart();

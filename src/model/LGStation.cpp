@@ -158,6 +158,21 @@ QString LGStation::shownName() const
     return isRenamed() ? textValue(m_keys->keyStationName).value_or(cached) : readName();
 }
 
+LGStation::RememberedName LGStation::rememberedName() const
+{
+    RememberedName name{m_name, {}};
+    if (m_nameAsMade)
+        name.asMade = *m_nameAsMade;
+    return name;
+}
+
+void LGStation::setRememberedName(const RememberedName &name)
+{
+    m_name = name.read;
+    m_nameAsMade =
+        name.asMade ? std::make_unique<const std::optional<QString>>(*name.asMade) : nullptr;
+}
+
 void LGStation::setEntry(Dictionary entry)
 {
     m_entry = std::move(entry);

@@ -68,6 +68,18 @@ public:
     /// The name to show: the new one of a renamed station, else stationName().
     [[nodiscard]] QString shownName() const;
 
+    /// What is remembered of the name besides the fields of the entry.
+    struct RememberedName
+    {
+        QString read; ///< as name() gives it
+        /// What the entry held as name before it was first given another; none when it never was.
+        std::optional<std::optional<QString>> asMade;
+
+        bool operator==(const RememberedName &) const = default;
+    };
+    [[nodiscard]] RememberedName rememberedName() const;
+    void setRememberedName(const RememberedName &name);
+
     /// The number a person sees, 0 to 16383; missingProgNum when there is none.
     [[nodiscard]] qint64 progNum() const;
     /// The whole stored number; missingProgNum when there is none.

@@ -168,6 +168,7 @@ private slots:
             const char *fault = faultOfReading(*list);
             for (int round = 0; round < 3 && !fault; ++round) {
                 fault = faultOfSaving(*list, true, chance.below(4), &losses);
+                fault = fault ? fault : faultOfBringingBack(*list);
                 for (int i = chance.below(6); i > 0; --i)
                     chance.edit(*list);
             }

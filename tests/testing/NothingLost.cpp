@@ -2,6 +2,7 @@
 
 #include "document/list/ChannelList.h"
 #include "document/read/ListReading.h"
+#include "document/recovery/ListEdits.h"
 #include "document/repair/FileDiagnosis.h"
 #include "document/repair/RepairedWriter.h"
 #include "document/review/Rehearsal.h"
@@ -78,6 +79,32 @@ const char *faultOfSurroundings(const ChannelList &list, const QByteArray &plain
     return nullptr;
 }
 
+bool areSame(const LGStation &a, const LGStation &b)
+{
+    if (a.entry().count() != b.entry().count() || !(a.rememberedName() == b.rememberedName()))
+        return false;
+    for (qsizetype i = 0; i < a.entry().count(); ++i) {
+        const auto &[key, value] = a.entry().at(i);
+        if (b.entry().at(i).key != key || !(b.entry().at(i).value == value))
+            return false;
+    }
+    return a.getRawProgNum() == b.getRawProgNum() && a.hasPlainNumber() == b.hasPlainNumber() &&
+           a.isRadio() == b.isRadio() && a.origPos() == b.origPos();
+}
+
+/// The places on the roll of the stations of a list.
+std::vector<std::ptrdiff_t> placesIn(const ChannelList &list, bool isTV, int source)
+{
+    const std::vector<FiledStation> &roll = list.lists.roll();
+    std::vector<std::ptrdiff_t> places;
+    for (const StationPtr &station : *list.lists.list(isTV, source))
+        places.push_back(
+            std::find_if(roll.begin(), roll.end(),
+                         [&](const FiledStation &filed) { return filed.station == station; }) -
+            roll.begin());
+    return places;
+}
+
 } // namespace
 
 const char *faultOfReading(const ChannelList &list)
@@ -149,6 +176,32 @@ const char *faultOfSaving(const ChannelList &list, bool isTV, int source, int *l
         return "the repaired writing keeps what is around the stations";
     if (ofRepaired.changed.count > 0 && !list.parseError)
         return "the repaired writing changes no station";
+    return nullptr;
+}
+
+const char *faultOfBringingBack(const ChannelList &list)
+{
+    const std::optional<ListEdits> edits = ListEdits::decoded(ListEdits::of(list).encoded());
+    std::optional<ChannelList> again = channelListFromBytes(list.text.bytes());
+    if (!edits || !again || !edits->applyTo(*again))
+        return "edits are made again in a list of the same bytes";
+    if (!std::equal(list.lists.roll().begin(), list.lists.roll().end(), again->lists.roll().begin(),
+                    again->lists.roll().end(), [](const FiledStation &a, const FiledStation &b) {
+                        return areSame(*a.station, *b.station);
+                    }))
+        return "every station comes back as it was";
+    for (const StationSource source : stationSources) {
+        const int index = static_cast<int>(source);
+        for (const bool isTV : {true, false}) {
+            if (placesIn(list, isTV, index) != placesIn(*again, isTV, index))
+                return "every list comes back in its order";
+            if (writeTLL(list, list.lists.list(isTV, index)) !=
+                writeTLL(*again, again->lists.list(isTV, index)))
+                return "what comes back is written as before";
+        }
+    }
+    if (repairedTLL(list) != repairedTLL(*again))
+        return "what comes back is written in the repaired form as before";
     return nullptr;
 }
 

@@ -19,6 +19,10 @@ namespace testing {
 [[nodiscard]] const char *faultOfSaving(const ChannelList &list, bool isTV, int source,
                                         int *losses = nullptr);
 
+/// Of a list with any edits: what recovery keeps of them makes the same list of the bytes again,
+/// its entries, orders and remembered names, and a save writes the same of it.
+[[nodiscard]] const char *faultOfBringingBack(const ChannelList &list);
+
 } // namespace testing
 
 } // namespace quillet

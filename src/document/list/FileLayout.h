@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <optional>
+#include <utility>
 
 namespace quillet {
 
@@ -13,6 +14,15 @@ namespace quillet {
 class FileLayout
 {
 public:
+    FileLayout() = default;
+    /// As another one was that had these; see the operations of those names.
+    FileLayout(qsizetype headerLenATV, qsizetype headerLenDTV, qsizetype headerLenLegacy,
+               std::optional<QString> footer)
+        : m_headerLenATV(headerLenATV), m_headerLenDTV(headerLenDTV),
+          m_headerLenLegacy(headerLenLegacy), m_footer(std::move(footer))
+    {
+    }
+
     /// Length of the text before the first ITEM of the analogue and of the digital section; 0 when
     /// none was found.
     [[nodiscard]] qsizetype headerLenATV() const { return m_headerLenATV; }

@@ -1,0 +1,233 @@
+#include "app/RecoveryDialog.h"
+
+#include "editor/RoomyCells.h"
+#include "files/FileNames.h"
+#include "files/ShownPath.h"
+#include "framework/Mnemonics.h"
+#include "framework/PlainToolTip.h"
+#include "framework/Prompts.h"
+
+#include <QDialogButtonBox>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLocale>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace quillet {
+
+namespace {
+
+enum Column { Name, Folder, LastChange, Changes };
+constexpr std::array columnTitles{"kRecoveryName", "kRecoveryFolder", "kRecoveryTime",
+                                  "kRecoveryChanges"};
+
+/// Where a person finds what cannot be brought back.
+QString detailOf(const RecoveryStore::Leftover &leftover)
+{
+    using Part = RecoveryFolder::Part;
+    if (leftover.problem.isEmpty() || !leftover.folder->has(Part::Original))
+        return leftover.problem;
+    return leftover.problem + u'\n' +
+           qtTrId("kRecoveryOriginalAt").arg(shownPath(leftover.folder->pathOf(Part::Original)));
+}
+
+} // namespace
+
+RecoveryDialog::RecoveryDialog(std::vector<RecoveryStore::Leftover> leftovers, Prompts &prompts,
+                               BringBack bringBack)
+    : m_leftovers(std::move(leftovers)), m_prompts(prompts), m_bringBack(std::move(bringBack)),
+      m_list(new QTableWidget), m_detail(new QLabel)
+{
+    setObjectName(QStringLiteral("recoveryDialog"));
+    setWindowTitle(qtTrId("kRecoveryTitle"));
+    auto *message = new QLabel(qtTrId("kRecoveryText"));
+    message->setWordWrap(true);
+    m_detail->setObjectName(QStringLiteral("recoveryDetail"));
+    m_detail->setTextFormat(Qt::PlainText);
+    m_detail->setWordWrap(true);
+    m_detail->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+
+    const QStringList titles =
+        withMnemonics({qtTrId("kBringBack"), qtTrId("kLater"), qtTrId("kDiscard")});
+    auto *buttons = new QDialogButtonBox;
+    m_bringBackButton = buttons->addButton(titles[0], QDialogButtonBox::AcceptRole);
+    m_bringBackButton->setObjectName(QStringLiteral("bringBack"));
+    m_bringBackButton->setDefault(true);
+    QPushButton *later = buttons->addButton(titles[1], QDialogButtonBox::RejectRole);
+    later->setObjectName(QStringLiteral("later"));
+    m_discardButton = buttons->addButton(titles[2], QDialogButtonBox::DestructiveRole);
+    m_discardButton->setObjectName(QStringLiteral("discard"));
+
+    makeRows();
+    auto *rows = new QVBoxLayout(this);
+    rows->setSpacing(12);
+    rows->addWidget(message);
+    rows->addWidget(m_list, 1);
+    rows->addWidget(m_detail);
+    rows->addWidget(buttons);
+    connect(m_bringBackButton, &QPushButton::clicked, this, &RecoveryDialog::bringBackChosen);
+    connect(later, &QPushButton::clicked, this, &RecoveryDialog::reject);
+    connect(m_discardButton, &QPushButton::clicked, this, &RecoveryDialog::askToDiscard);
+    connect(m_list, &QTableWidget::itemSelectionChanged, this, &RecoveryDialog::showState);
+    connect(m_list, &QTableWidget::currentCellChanged, this, &RecoveryDialog::showState);
+    showState();
+    m_list->setFocus();
+}
+
+void RecoveryDialog::makeRows()
+{
+    m_list->setObjectName(QStringLiteral("recoveryList"));
+    m_list->setAccessibleName(qtTrId("kRecoveryTitle"));
+    m_list->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_list->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_list->setTabKeyNavigation(false);
+    m_list->setShowGrid(false);
+    m_list->setTextElideMode(Qt::ElideMiddle);
+    m_list->verticalHeader()->hide();
+    RoomyCells::applyTo(*m_list);
+    QStringList titles;
+    for (const char *id : columnTitles)
+        titles.append(qtTrId(id));
+    m_list->setColumnCount(static_cast<int>(titles.size()));
+    m_list->setHorizontalHeaderLabels(titles);
+    QHeaderView &header = *m_list->horizontalHeader();
+    header.setHighlightSections(false);
+    header.setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    header.setSectionResizeMode(QHeaderView::ResizeToContents);
+    header.setSectionResizeMode(Folder, QHeaderView::Stretch);
+    for (const RecoveryStore::Leftover &leftover : m_leftovers)
+        addRow(leftover);
+    m_list->setMinimumWidth(fontMetrics().averageCharWidth() * 100);
+}
+
+/// What can be brought back is selected to begin with.
+void RecoveryDialog::addRow(const RecoveryStore::Leftover &leftover)
+{
+    const QString place = leftover.state ? leftover.state->place() : leftover.folder->path();
+    const QFileInfo file(place);
+    const QString name = place.isEmpty() ? qtTrId("kUntitled") : shownPath(file.fileName());
+    const int row = m_list->rowCount();
+    const auto put = [this, row](Column column, const QString &text) {
+        auto *item = new QTableWidgetItem(text);
+        item->setToolTip(plainToolTip(text));
+        m_list->setItem(row, column, item);
+    };
+    m_list->insertRow(row);
+    put(Name, leftover.state ? name : qtTrId("kRecoveryUnreadable"));
+    put(Folder, place.isEmpty() ? QString() : shownPath(shortPath(file.path())));
+    if (leftover.state) {
+        const QLocale locale;
+        put(LastChange, locale.toString(leftover.state->changedAt, QLocale::ShortFormat));
+        put(Changes, locale.toString(leftover.state->changes));
+    }
+    if (row == 0)
+        m_list->setCurrentCell(0, Name, QItemSelectionModel::NoUpdate);
+    if (leftover.problem.isEmpty())
+        m_list->selectionModel()->select(m_list->model()->index(row, Name),
+                                         QItemSelectionModel::Select | QItemSelectionModel::Rows);
+}
+
+std::vector<int> RecoveryDialog::chosen() const
+{
+    std::vector<int> rows;
+    for (int row = m_list->rowCount() - 1; row >= 0; --row) {
+        if (m_list->item(row, Name)->isSelected())
+            rows.push_back(row);
+    }
+    return rows;
+}
+
+RecoveryStore::Leftover &RecoveryDialog::leftoverAt(int row)
+{
+    return m_leftovers.at(static_cast<std::size_t>(row));
+}
+
+void RecoveryDialog::bringBackChosen()
+{
+    QStringList failures;
+    for (const int row : chosen()) {
+        RecoveryStore::Leftover &leftover = leftoverAt(row);
+        if (!leftover.problem.isEmpty())
+            continue;
+        const QString reason = m_bringBack(leftover);
+        if (reason.isEmpty())
+            removeRow(row);
+        else
+            failures.append(m_list->item(row, Name)->text() + QLatin1String(": ") + reason);
+    }
+    if (m_leftovers.empty())
+        return accept();
+    showState();
+    raise();
+    activateWindow();
+    if (failures.isEmpty())
+        return;
+    Alert alert;
+    alert.message = qtTrId("kRecoveryFailedMessage");
+    alert.informativeText = failures.join(u'\n');
+    alert.buttons = {qtTrId("kOK")};
+    m_prompts.showAlert(this, alert, [](const AlertAnswer &) {});
+}
+
+void RecoveryDialog::askToDiscard()
+{
+    enum { Cancel, Discard };
+    const std::vector<int> rows = chosen();
+    const auto count = static_cast<int>(rows.size());
+    Alert alert;
+    alert.message = count == 1
+                        ? qtTrId("kDiscardOneMessage").arg(m_list->item(rows[0], Name)->text())
+                        : qtTrId("kDiscardSomeMessage", count);
+    alert.informativeText = qtTrId("kDiscardText");
+    alert.buttons = {qtTrId("kCancel"), qtTrId("kDiscard")};
+    alert.cancelButton = Cancel;
+    alert.destructiveButton = Discard;
+    m_prompts.showAlert(this, alert, [this](const AlertAnswer &answer) {
+        if (answer.button == Discard)
+            discardChosen();
+    });
+}
+
+/// Nothing else can be selected while the question is open.
+void RecoveryDialog::discardChosen()
+{
+    for (const int row : chosen()) {
+        leftoverAt(row).folder->remove();
+        removeRow(row);
+    }
+    if (m_leftovers.empty())
+        return accept();
+    showState();
+}
+
+void RecoveryDialog::removeRow(int row)
+{
+    const QSignalBlocker quiet(m_list); // until both are without the row
+    m_leftovers.erase(m_leftovers.begin() + row);
+    m_list->removeRow(row);
+}
+
+void RecoveryDialog::showState()
+{
+    const std::vector<int> rows = chosen();
+    m_discardButton->setEnabled(!rows.empty());
+    m_bringBackButton->setEnabled(std::any_of(
+        rows.begin(), rows.end(), [this](int row) { return leftoverAt(row).problem.isEmpty(); }));
+    const int row = m_list->currentRow();
+    const QString detail = row < 0 || row >= static_cast<int>(m_leftovers.size())
+                               ? QString()
+                               : detailOf(leftoverAt(row));
+    m_detail->setText(detail);
+    m_detail->setVisible(!detail.isEmpty());
+}
+
+} // namespace quillet

@@ -1,0 +1,232 @@
+#include "document/recovery/ListDifference.h"
+
+#include "document/list/ChannelList.h"
+#include "document/list/SectionItems.h"
+#include "document/recovery/TakenList.h"
+#include "model/FileWords.h"
+#include "model/LGLegacyStation.h"
+#include "support/TextConversion.h"
+
+#include <QCryptographicHash>
+#include <QHash>
+
+#include <algorithm>
+#include <limits>
+
+namespace quillet {
+
+namespace {
+
+/// The entries of a file's tree by the places of its stations.
+class OriginalEntries
+{
+public:
+    OriginalEntries(const Dictionary &tree, Array channels)
+        : m_items{Array(), sectionItems(tree, fileword::atv), sectionItems(tree, fileword::dtv),
+                  std::move(channels)}
+    {
+    }
+
+    [[nodiscard]] Dictionary at(const FilePlace &place) const
+    {
+        const Array &items = m_items.at(static_cast<std::size_t>(place.section));
+        if (place.index < 0 || place.index >= items.count())
+            return {};
+        const Dictionary *entry = items.at(place.index).dictionary();
+        return entry ? *entry : Dictionary();
+    }
+
+private:
+    std::array<Array, 4> m_items; ///< by FilePlace::Section
+};
+
+template<typename Stations> ///< each with its place
+QByteArray originOf(const FileText &text, const Stations &stations)
+{
+    QCryptographicHash hash(QCryptographicHash::Blake2b_256);
+    QByteArray places;
+    places.reserve(static_cast<qsizetype>(stations.size()) * 8);
+    for (const auto &station : stations) {
+        places += QByteArray::number(static_cast<int>(station.place.section)) + ' ';
+        places += QByteArray::number(station.place.index) + '\n';
+    }
+    hash.addData(places + '\n');
+    hash.addData(text.bytes());
+    return hash.result();
+}
+
+bool areSame(const Dictionary &a, const Dictionary &b)
+{
+    if (a.isEmpty() || b.isEmpty())
+        return a.isEmpty() && b.isEmpty();
+    return a.hasEqualValues(b) && a.keys()->hasSameOrder(*b.keys());
+}
+
+/// Whether one begins with the fields of the other, whatever they hold.
+bool beginsWithFieldsOf(const Dictionary &entry, const Dictionary &original)
+{
+    if (entry.keys() == original.keys())
+        return true;
+    if (entry.count() < original.count())
+        return false;
+    for (qsizetype i = 0; i < original.count(); ++i) {
+        if (entry.at(i).key != original.at(i).key)
+            return false;
+    }
+    return true;
+}
+
+void noteFields(const Dictionary &entry, const Dictionary &original,
+                ListDifference::Station &station)
+{
+    station.isWhole = !beginsWithFieldsOf(entry, original);
+    for (qsizetype i = 0; i < entry.count(); ++i) {
+        const auto &[key, value] = entry.at(i);
+        if (station.isWhole || i >= original.count() || !(value == original.at(i).value))
+            station.fields.emplace_back(key, value);
+    }
+}
+
+/// The name that a station with the entry reads first.
+QString nameIn(const Dictionary &entry, bool isLegacyFormat)
+{
+    return isLegacyFormat ? LGLegacyStation(entry, 0).stationName()
+                          : LGStation(entry, 0).stationName();
+}
+
+/// A station that is not on the roll makes it unsound.
+std::vector<ListDifference::Run> runsOf(const std::vector<const LGStation *> &list,
+                                        const QHash<const LGStation *, quint32> &places)
+{
+    std::vector<ListDifference::Run> runs;
+    for (const LGStation *station : list) {
+        const quint32 place = places.value(station, std::numeric_limits<quint32>::max());
+        if (!runs.empty() && runs.back().first + runs.back().count == place)
+            ++runs.back().count;
+        else
+            runs.push_back({place, 1});
+    }
+    return runs;
+}
+
+std::optional<ListDifference::Footer> footerOf(const TakenList &list)
+{
+    const std::optional<QString> &footer = list.layout.footer();
+    if (!footer)
+        return {};
+    const QByteArray utf8 = footer->toUtf8();
+    if (list.text.utf8().endsWith(utf8) && textFromUtf8(utf8) == *footer)
+        return ListDifference::Footer{utf8.size(), {}};
+    return ListDifference::Footer{0, footer};
+}
+
+} // namespace
+
+ListDifference ListDifference::of(const TakenList &list)
+{
+    ListDifference result;
+    result.origin = originOf(list.text, list.stations);
+    result.stationCount = static_cast<quint32>(list.stations.size());
+    result.headerLengths = {list.layout.headerLenATV(), list.layout.headerLenDTV(),
+                            list.layout.headerLenLegacy()};
+    result.footer = footerOf(list);
+
+    const OriginalEntries originals(list.tree, list.channels);
+    QHash<const LGStation *, quint32> places;
+    places.reserve(static_cast<qsizetype>(list.stations.size()));
+    result.namesRead.resize(static_cast<qsizetype>(list.stations.size()));
+    for (quint32 place = 0; place < result.stationCount; ++place) {
+        const TakenList::Station &taken = list.stations[place];
+        places.insert(taken.id, place);
+        const Dictionary original = originals.at(taken.place);
+        Station station;
+        station.place = place;
+        station.nameAsMade = taken.name.asMade;
+        const bool isAsRead = areSame(taken.entry, original);
+        if (!isAsRead)
+            noteFields(taken.entry, original, station);
+        if (!taken.name.read.isEmpty()) {
+            result.namesRead.setBit(place);
+            if (taken.name.read != nameIn(original, list.isLegacyFormat))
+                station.nameRead = taken.name.read;
+        }
+        if (!isAsRead || station.nameRead || station.nameAsMade)
+            result.stations.push_back(std::move(station));
+    }
+    for (std::size_t i = 0; i < result.lists.size(); ++i)
+        result.lists[i] = runsOf(list.lists[i], places);
+    return result;
+}
+
+bool ListDifference::isSound() const
+{
+    const auto isLength = [](qint64 length) { return length >= 0; };
+    if (!std::all_of(headerLengths.begin(), headerLengths.end(), isLength) ||
+        (footer && !isLength(footer->bytesAtEnd)) || namesRead.size() != stationCount)
+        return false;
+    qint64 next = 0;
+    for (const Station &station : stations) {
+        if (station.place < next || station.place >= stationCount)
+            return false;
+        next = qint64(station.place) + 1;
+    }
+    // Edits exchange the stations of a list and never make it longer.
+    quint64 listed = 0;
+    for (const std::vector<Run> &runs : lists) {
+        for (const Run &run : runs) {
+            if (quint64(run.first) + run.count > stationCount)
+                return false;
+            listed += run.count;
+        }
+    }
+    return listed <= stationCount;
+}
+
+bool ListDifference::applyTo(ChannelList &fresh) const
+{
+    const std::vector<FiledStation> &roll = fresh.lists.roll();
+    const QByteArray text = footer ? fresh.text.utf8() : QByteArray();
+    if (roll.size() != stationCount || (footer && footer->bytesAtEnd > text.size()) ||
+        originOf(fresh.text, roll) != origin)
+        return false;
+
+    std::optional<QString> footerText;
+    if (footer)
+        footerText = footer->text ? *footer->text
+                                  : textFromUtf8(QByteArrayView(text).last(footer->bytesAtEnd));
+    fresh.layout = FileLayout(headerLengths[0], headerLengths[1], headerLengths[2], footerText);
+
+    const OriginalEntries originals(fresh.tree, fresh.broadcast.channelList());
+    auto changed = stations.begin();
+    for (std::size_t place = 0; place < roll.size(); ++place) {
+        const StationPtr &station = roll[place].station;
+        Dictionary entry = originals.at(roll[place].place);
+        LGStation::RememberedName name;
+        if (namesRead.testBit(static_cast<qsizetype>(place)))
+            name.read = station->stationName();
+        if (changed != stations.end() && changed->place == place) {
+            if (changed->isWhole)
+                entry = Dictionary();
+            for (const auto &[key, value] : changed->fields)
+                entry.insert(key, value);
+            name.read = changed->nameRead.value_or(name.read);
+            name.asMade = changed->nameAsMade;
+            ++changed;
+        }
+        station->setEntry(std::move(entry));
+        station->setRememberedName(name);
+    }
+    for (std::size_t i = 0; i < lists.size(); ++i) {
+        const StationListPtr &list = fresh.lists.list(i % 2 == 0, static_cast<int>(i / 2));
+        if (!list)
+            continue;
+        list->clear();
+        for (const Run &run : lists[i]) {
+            for (quint32 place = run.first; place < run.first + run.count; ++place)
+                list->push_back(roll[place].station);
+        }
+    }
+    return true;
+}
+
+} // namespace quillet

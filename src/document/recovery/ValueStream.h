@@ -1,0 +1,18 @@
+#pragma once
+
+#include "xml/Value.h"
+
+#include <QDataStream>
+
+#include <optional>
+
+namespace quillet {
+
+/// A value of any kind, with all that is in it, to and from a stream. What is read back equals what
+/// was written, the order of fields and halves of characters included.
+void writeValue(QDataStream &stream, const Value &value);
+/// None, with the stream's status set, when there is no value or one nested deeper than any that is
+/// read from a file.
+[[nodiscard]] std::optional<Value> readValue(QDataStream &stream);
+
+} // namespace quillet

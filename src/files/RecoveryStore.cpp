@@ -1,0 +1,129 @@
+#include "files/RecoveryStore.h"
+
+#include "files/FileNames.h"
+#include "files/Places.h"
+#include "files/PrivateFolders.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <system_error>
+#include <utility>
+
+namespace fs = std::filesystem;
+
+namespace quillet {
+
+namespace {
+
+/// A folder that a program made and ended before it kept anything in it.
+bool isEmpty(const QString &path)
+{
+    std::error_code code;
+    for (fs::directory_iterator files(nativePath(path), code), end; !code && files != end;
+         files.increment(code)) {
+        if (files->path().filename() != "lock")
+            return false;
+    }
+    return !code;
+}
+
+bool hasState(const QString &path)
+{
+    return isThere(RecoveryFolder::pathIn(path, RecoveryFolder::Part::State));
+}
+
+QString problemOf(RecoveryState::Reading reading)
+{
+    switch (reading) {
+    case RecoveryState::Reading::Newer:
+        return qtTrId("kRecoveryNewerReason");
+    case RecoveryState::Reading::Damaged:
+        return qtTrId("kRecoveryDamagedReason");
+    case RecoveryState::Reading::Done:
+        break;
+    }
+    return {};
+}
+
+RecoveryStore::Leftover leftoverIn(std::unique_ptr<RecoveryFolder> folder)
+{
+    using Part = RecoveryFolder::Part;
+    RecoveryStore::Leftover found{std::move(folder), {}, {}};
+    QByteArray bytes;
+    Error error;
+    if (!found.folder->read(Part::State, bytes, error)) {
+        found.problem = error.localizedDescription;
+        return found;
+    }
+    RecoveryState state;
+    found.problem = problemOf(state.decode(bytes));
+    if (!found.problem.isEmpty())
+        return found;
+    if (!found.folder->has(Part::Original))
+        found.problem = qtTrId("kRecoveryDamagedReason");
+    found.state = std::move(state);
+    return found;
+}
+
+} // namespace
+
+RecoveryStore::RecoveryStore(QString root, FileOperations &operations)
+    : m_root(std::move(root)), m_operations(operations)
+{
+}
+
+QString RecoveryStore::usualRoot()
+{
+    return stateFolder() + QLatin1String("/recovery");
+}
+
+std::unique_ptr<RecoveryFolder> RecoveryStore::makeFolder(Error &error)
+{
+    return RecoveryFolder::make(m_root, m_operations, error);
+}
+
+/// Those with names that a folder is given; whatever links there are lead elsewhere.
+std::vector<QString> RecoveryStore::folders() const
+{
+    std::vector<QString> found;
+    std::error_code code;
+    for (fs::directory_iterator entries(nativePath(m_root), code), end; !code && entries != end;
+         entries.increment(code)) {
+        std::error_code of;
+        const QString name = pathFromNative(entries->path().filename());
+        if (RecoveryFolder::isName(name) &&
+            entries->symlink_status(of).type() == fs::file_type::directory)
+            found.push_back(m_root + u'/' + name);
+    }
+    return found;
+}
+
+std::vector<RecoveryStore::Leftover> RecoveryStore::leftovers()
+{
+    std::vector<Leftover> found;
+    for (const QString &path : folders()) {
+        if (!hasState(path) && !isEmpty(path))
+            continue;
+        auto folder = RecoveryFolder::take(path, m_operations);
+        if (folder && hasState(path))
+            found.push_back(leftoverIn(std::move(folder)));
+        else if (folder && isEmpty(path))
+            folder->remove();
+    }
+    const auto time = [](const Leftover &each) {
+        return each.state ? each.state->changedAt : QDateTime();
+    };
+    std::stable_sort(found.begin(), found.end(),
+                     [&time](const Leftover &a, const Leftover &b) { return time(b) < time(a); });
+    return found;
+}
+
+bool RecoveryStore::hasLeftovers() const
+{
+    const std::vector<QString> there = folders();
+    return std::any_of(there.begin(), there.end(), [this](const QString &path) {
+        return hasState(path) && RecoveryFolder::take(path, m_operations);
+    });
+}
+
+} // namespace quillet

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "files/RecoveryFolder.h"
+#include "files/RecoveryState.h"
+
+#include <QString>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace quillet {
+
+/// The folder in which programs keep their changed documents from being lost, one folder a
+/// document, and what programs that ended too early have left there. Deletes nothing but folders
+/// that are empty.
+class RecoveryStore
+{
+public:
+    /// The operations must outlive the store and its folders.
+    RecoveryStore(QString root, FileOperations &operations);
+    /// In the state folder of the person.
+    [[nodiscard]] static QString usualRoot();
+
+    [[nodiscard]] const QString &root() const { return m_root; }
+    [[nodiscard]] std::unique_ptr<RecoveryFolder> makeFolder(Error &error);
+
+    /// A document that can be brought back, or a folder that cannot be read any more.
+    struct Leftover
+    {
+        std::unique_ptr<RecoveryFolder> folder;
+        std::optional<RecoveryState> state; ///< none when it cannot be read
+        QString problem; ///< why the document cannot be brought back; empty: it can
+    };
+    /// What programs that live no more have left, the latest change first. Each folder is locked as
+    /// long as its leftover is kept. What is no leftover of a document is left as it is.
+    [[nodiscard]] std::vector<Leftover> leftovers();
+    /// Whether there are any; cheaper.
+    [[nodiscard]] bool hasLeftovers() const;
+
+private:
+    [[nodiscard]] std::vector<QString> folders() const;
+
+    QString m_root;
+    FileOperations &m_operations;
+};
+
+} // namespace quillet

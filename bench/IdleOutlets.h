@@ -32,6 +32,7 @@ public:
     void showEmptyHint(EmptyHint) override {}
     void showForeignRows(const std::optional<ForeignRows> &) override {}
     void showNotice(const Notice &) override {}
+    void showFileNotice(const FileNotice &) override {}
     void tell(const QString &) override {}
     void tellEdit(const QString &) override {}
     [[nodiscard]] QWidget *sheetWindow() const override { return nullptr; }

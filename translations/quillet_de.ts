@@ -329,13 +329,17 @@
         <source></source>
         <translation>Danach können sie nicht mehr zurückgeholt werden.</translation>
     </message>
+    <message id="kExportExplanation">
+        <source></source>
+        <translation>Geschrieben wird eine Kopie der ganzen Senderliste, so wie „Speichern“ sie schreiben würde, unter dem Namen, den Sie wählen. Die Datei dieses Fensters bleibt, wie sie ist. Ihre Reihenfolge lässt sich auf andere Listen anwenden, wenn ihr Name auf „.tll“ endet.</translation>
+    </message>
     <message id="kExportFailedMessage">
         <source></source>
         <translation>Die Liste konnte nicht als „%1“ exportiert werden.</translation>
     </message>
     <message id="kExportTitle">
         <source></source>
-        <translation>Als Referenzliste exportieren</translation>
+        <translation>Als Referenzliste exportieren (Kopie der ganzen Datei)</translation>
     </message>
     <message id="kFileMissingReason">
         <source></source>
@@ -400,6 +404,14 @@
     <message id="kFilterUHD">
         <source></source>
         <translation>UHD</translation>
+    </message>
+    <message id="kFolderGoneMessage">
+        <source></source>
+        <translation>Der Ordner „%1“ ist nicht mehr da.</translation>
+    </message>
+    <message id="kFolderGoneText">
+        <source></source>
+        <translation>Er wurde verschoben oder gelöscht, oder sein Datenträger wurde entfernt. Es wurde nichts gespeichert, und nichts ist verloren: Die Liste ist mit allen Änderungen noch in diesem Fenster.</translation>
     </message>
     <message id="kForeignRows">
         <source></source>
@@ -528,6 +540,10 @@
     <message id="kIsAFolderReason">
         <source></source>
         <translation>„%1“ ist ein Ordner.</translation>
+    </message>
+    <message id="kKeepMine">
+        <source></source>
+        <translation>Meine behalten</translation>
     </message>
     <message id="kLater">
         <source></source>
@@ -792,6 +808,10 @@
         <source></source>
         <translation>&amp;Speichern</translation>
     </message>
+    <message id="kMenuSaveAs">
+        <source></source>
+        <translation>Speichern &amp;unter …</translation>
+    </message>
     <message id="kMenuSelect">
         <source></source>
         <translation>Auswä&amp;hlen</translation>
@@ -913,6 +933,18 @@
     <message id="kNoticeDeclaration">
         <source></source>
         <translation>Die Datei gibt die Codierung %1 an, aber ihre Buchstaben sind UTF-8. Quillet lässt beides, wie es ist; ein Fernseher, der der Angabe glaubt, zeigt Buchstaben mit Akzent falsch an.</translation>
+    </message>
+    <message id="kNoticeFileChanged">
+        <source></source>
+        <translation>„%1“ wurde von einem anderen Programm geändert. „Neu laden“ zeigt den neuen Inhalt; mit „Meine behalten“ bleibt die Liste, wie sie hier ist, und das nächste Speichern ersetzt die Datei.</translation>
+    </message>
+    <message id="kNoticeFileGone">
+        <source></source>
+        <translation>„%1“ ist nicht mehr da: Die Datei wurde verschoben, umbenannt oder gelöscht, oder ihr Datenträger wurde entfernt. Die Liste ist noch in diesem Fenster; Sie können sie an einem anderen Ort speichern.</translation>
+    </message>
+    <message id="kNoticeFileUnreadable">
+        <source></source>
+        <translation>„%1“ kann nicht mehr gelesen werden. %2 Die Liste ist noch in diesem Fenster; Sie können sie an einem anderen Ort speichern.</translation>
     </message>
     <message id="kNoticeJSON">
         <source></source>
@@ -1139,7 +1171,7 @@
     </message>
     <message id="kRevertFailedMessage">
         <source></source>
-        <translation>„%1“ konnte nicht erneut gelesen werden. Ihre Änderungen sind noch vorhanden.</translation>
+        <translation>„%1“ konnte nicht erneut gelesen werden. Die Liste in diesem Fenster bleibt, wie sie ist.</translation>
     </message>
     <message id="kRevertMessage">
         <source></source>
@@ -1246,6 +1278,14 @@
     <message id="kSaveAnyway">
         <source></source>
         <translation>Trotzdem speichern</translation>
+    </message>
+    <message id="kSaveAs">
+        <source></source>
+        <translation>Speichern unter …</translation>
+    </message>
+    <message id="kSaveAsTitle">
+        <source></source>
+        <translation>Senderliste speichern unter</translation>
     </message>
     <message id="kSaveChangesMessage">
         <source></source>
@@ -1623,6 +1663,14 @@ Diese folgen ab Nummer: %3</translation>
     <message id="kUndoLink">
         <source></source>
         <translation>Rückgängig</translation>
+    </message>
+    <message id="kUnreadableMessage">
+        <source></source>
+        <translation>Was jetzt an der Stelle von „%1“ liegt, kann nicht gelesen werden.</translation>
+    </message>
+    <message id="kUnreadableText">
+        <source></source>
+        <translation>Es lässt sich nicht sagen, ob ein anderes Programm die Datei geändert hat. Wenn Sie jetzt speichern, geht verloren, was dort ist.</translation>
     </message>
     <message id="kUntitled">
         <source></source>

@@ -329,13 +329,17 @@
         <source></source>
         <translation>They cannot be brought back afterwards.</translation>
     </message>
+    <message id="kExportExplanation">
+        <source></source>
+        <translation>What is written is a copy of the whole channel list, as “Save” would write it, under the name you choose. The file of this window stays as it is. Its order can be applied to other lists if its name ends in “.tll”.</translation>
+    </message>
     <message id="kExportFailedMessage">
         <source></source>
         <translation>The list could not be exported as “%1”.</translation>
     </message>
     <message id="kExportTitle">
         <source></source>
-        <translation>Export as Reference List</translation>
+        <translation>Export as Reference List (Copy of the Whole File)</translation>
     </message>
     <message id="kFileMissingReason">
         <source></source>
@@ -400,6 +404,14 @@
     <message id="kFilterUHD">
         <source></source>
         <translation>UHD</translation>
+    </message>
+    <message id="kFolderGoneMessage">
+        <source></source>
+        <translation>The folder “%1” is no longer there.</translation>
+    </message>
+    <message id="kFolderGoneText">
+        <source></source>
+        <translation>It was moved or deleted, or its disk was removed. Nothing was saved, and nothing is lost: the list with all its changes is still in this window.</translation>
     </message>
     <message id="kForeignRows">
         <source></source>
@@ -528,6 +540,10 @@
     <message id="kIsAFolderReason">
         <source></source>
         <translation>“%1” is a folder.</translation>
+    </message>
+    <message id="kKeepMine">
+        <source></source>
+        <translation>Keep Mine</translation>
     </message>
     <message id="kLater">
         <source></source>
@@ -792,6 +808,10 @@
         <source></source>
         <translation>&amp;Save</translation>
     </message>
+    <message id="kMenuSaveAs">
+        <source></source>
+        <translation>Save &amp;As…</translation>
+    </message>
     <message id="kMenuSelect">
         <source></source>
         <translation>&amp;Select</translation>
@@ -913,6 +933,18 @@
     <message id="kNoticeDeclaration">
         <source></source>
         <translation>The file declares the encoding %1, but its letters are UTF-8. Quillet keeps both as they are; a television that believes the declaration shows accented letters wrongly.</translation>
+    </message>
+    <message id="kNoticeFileChanged">
+        <source></source>
+        <translation>“%1” has been changed by another program. “Reload” shows the new content; with “Keep Mine” the list stays as it is here, and the next save replaces the file.</translation>
+    </message>
+    <message id="kNoticeFileGone">
+        <source></source>
+        <translation>“%1” is no longer there: it was moved, renamed or deleted, or its disk was removed. The list is still in this window; you can save it elsewhere.</translation>
+    </message>
+    <message id="kNoticeFileUnreadable">
+        <source></source>
+        <translation>“%1” can no longer be read. %2 The list is still in this window; you can save it elsewhere.</translation>
     </message>
     <message id="kNoticeJSON">
         <source></source>
@@ -1139,7 +1171,7 @@
     </message>
     <message id="kRevertFailedMessage">
         <source></source>
-        <translation>“%1” could not be read again. Your changes are still here.</translation>
+        <translation>“%1” could not be read again. The list in this window stays as it is.</translation>
     </message>
     <message id="kRevertMessage">
         <source></source>
@@ -1246,6 +1278,14 @@
     <message id="kSaveAnyway">
         <source></source>
         <translation>Save Anyway</translation>
+    </message>
+    <message id="kSaveAs">
+        <source></source>
+        <translation>Save As…</translation>
+    </message>
+    <message id="kSaveAsTitle">
+        <source></source>
+        <translation>Save Channel List As</translation>
     </message>
     <message id="kSaveChangesMessage">
         <source></source>
@@ -1623,6 +1663,14 @@ These go on from number: %3</translation>
     <message id="kUndoLink">
         <source></source>
         <translation>Undo</translation>
+    </message>
+    <message id="kUnreadableMessage">
+        <source></source>
+        <translation>What is now in the place of “%1” cannot be read.</translation>
+    </message>
+    <message id="kUnreadableText">
+        <source></source>
+        <translation>There is no telling whether another program has changed the file. If you save now, what is there will be lost.</translation>
     </message>
     <message id="kUntitled">
         <source></source>

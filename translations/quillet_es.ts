@@ -329,13 +329,17 @@
         <source></source>
         <translation>Después ya no se podrán recuperar.</translation>
     </message>
+    <message id="kExportExplanation">
+        <source></source>
+        <translation>Se escribe una copia de toda la lista de canales, tal como la escribiría «Guardar», con el nombre que elija. El archivo de esta ventana se queda como está. Su orden se puede aplicar a otras listas si su nombre termina en «.tll».</translation>
+    </message>
     <message id="kExportFailedMessage">
         <source></source>
         <translation>No se ha podido exportar la lista como «%1».</translation>
     </message>
     <message id="kExportTitle">
         <source></source>
-        <translation>Exportar como lista de referencia</translation>
+        <translation>Exportar como lista de referencia (copia de todo el archivo)</translation>
     </message>
     <message id="kFileMissingReason">
         <source></source>
@@ -400,6 +404,14 @@
     <message id="kFilterUHD">
         <source></source>
         <translation>UHD</translation>
+    </message>
+    <message id="kFolderGoneMessage">
+        <source></source>
+        <translation>La carpeta «%1» ya no está.</translation>
+    </message>
+    <message id="kFolderGoneText">
+        <source></source>
+        <translation>Se ha movido o eliminado, o se ha retirado su unidad. No se ha guardado nada y no se ha perdido nada: la lista sigue en esta ventana con todos sus cambios.</translation>
     </message>
     <message id="kForeignRows">
         <source></source>
@@ -528,6 +540,10 @@
     <message id="kIsAFolderReason">
         <source></source>
         <translation>«%1» es una carpeta.</translation>
+    </message>
+    <message id="kKeepMine">
+        <source></source>
+        <translation>Conservar la mía</translation>
     </message>
     <message id="kLater">
         <source></source>
@@ -792,6 +808,10 @@
         <source></source>
         <translation>&amp;Guardar</translation>
     </message>
+    <message id="kMenuSaveAs">
+        <source></source>
+        <translation>Guardar c&amp;omo…</translation>
+    </message>
     <message id="kMenuSelect">
         <source></source>
         <translation>&amp;Seleccionar</translation>
@@ -913,6 +933,18 @@
     <message id="kNoticeDeclaration">
         <source></source>
         <translation>El archivo declara la codificación %1, pero sus letras están en UTF-8. Quillet deja ambas cosas como están; un televisor que se fíe de la declaración muestra mal las letras con acento.</translation>
+    </message>
+    <message id="kNoticeFileChanged">
+        <source></source>
+        <translation>Otro programa ha modificado «%1». «Volver a cargar» muestra el contenido nuevo; con «Conservar la mía» la lista se queda como está aquí y, al guardar, sustituye al archivo.</translation>
+    </message>
+    <message id="kNoticeFileGone">
+        <source></source>
+        <translation>«%1» ya no está: se ha movido, renombrado o eliminado, o se ha retirado su unidad. La lista sigue en esta ventana; puede guardarla en otro lugar.</translation>
+    </message>
+    <message id="kNoticeFileUnreadable">
+        <source></source>
+        <translation>«%1» ya no se puede leer. %2 La lista sigue en esta ventana; puede guardarla en otro lugar.</translation>
     </message>
     <message id="kNoticeJSON">
         <source></source>
@@ -1139,7 +1171,7 @@
     </message>
     <message id="kRevertFailedMessage">
         <source></source>
-        <translation>No se ha podido volver a leer «%1». Sus cambios siguen aquí.</translation>
+        <translation>No se ha podido volver a leer «%1». La lista de esta ventana se queda como está.</translation>
     </message>
     <message id="kRevertMessage">
         <source></source>
@@ -1246,6 +1278,14 @@
     <message id="kSaveAnyway">
         <source></source>
         <translation>Guardar de todos modos</translation>
+    </message>
+    <message id="kSaveAs">
+        <source></source>
+        <translation>Guardar como…</translation>
+    </message>
+    <message id="kSaveAsTitle">
+        <source></source>
+        <translation>Guardar la lista de canales como</translation>
     </message>
     <message id="kSaveChangesMessage">
         <source></source>
@@ -1623,6 +1663,14 @@ Estos continúan a partir del número: %3</translation>
     <message id="kUndoLink">
         <source></source>
         <translation>Deshacer</translation>
+    </message>
+    <message id="kUnreadableMessage">
+        <source></source>
+        <translation>No se puede leer lo que hay ahora en el lugar de «%1».</translation>
+    </message>
+    <message id="kUnreadableText">
+        <source></source>
+        <translation>No se puede saber si otro programa ha modificado el archivo. Si guarda ahora, se perderá lo que haya allí.</translation>
     </message>
     <message id="kUntitled">
         <source></source>

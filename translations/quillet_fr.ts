@@ -329,13 +329,17 @@
         <source></source>
         <translation>Elles ne pourront plus être récupérées ensuite.</translation>
     </message>
+    <message id="kExportExplanation">
+        <source></source>
+        <translation>Une copie de toute la liste de chaînes est écrite, telle que « Enregistrer » l’écrirait, sous le nom que vous choisissez. Le fichier de cette fenêtre reste tel quel. Son ordre peut être appliqué à d’autres listes si son nom se termine par « .tll ».</translation>
+    </message>
     <message id="kExportFailedMessage">
         <source></source>
         <translation>Impossible d’exporter la liste sous le nom « %1 ».</translation>
     </message>
     <message id="kExportTitle">
         <source></source>
-        <translation>Exporter comme liste de référence</translation>
+        <translation>Exporter comme liste de référence (copie du fichier entier)</translation>
     </message>
     <message id="kFileMissingReason">
         <source></source>
@@ -400,6 +404,14 @@
     <message id="kFilterUHD">
         <source></source>
         <translation>UHD</translation>
+    </message>
+    <message id="kFolderGoneMessage">
+        <source></source>
+        <translation>Le dossier « %1 » n’est plus là.</translation>
+    </message>
+    <message id="kFolderGoneText">
+        <source></source>
+        <translation>Il a été déplacé ou supprimé, ou son disque a été retiré. Rien n’a été enregistré et rien n’est perdu : la liste est toujours dans cette fenêtre, avec toutes ses modifications.</translation>
     </message>
     <message id="kForeignRows">
         <source></source>
@@ -528,6 +540,10 @@
     <message id="kIsAFolderReason">
         <source></source>
         <translation>« %1 » est un dossier.</translation>
+    </message>
+    <message id="kKeepMine">
+        <source></source>
+        <translation>Garder la mienne</translation>
     </message>
     <message id="kLater">
         <source></source>
@@ -792,6 +808,10 @@
         <source></source>
         <translation>&amp;Enregistrer</translation>
     </message>
+    <message id="kMenuSaveAs">
+        <source></source>
+        <translation>Enregistrer &amp;sous…</translation>
+    </message>
     <message id="kMenuSelect">
         <source></source>
         <translation>&amp;Sélectionner</translation>
@@ -913,6 +933,18 @@
     <message id="kNoticeDeclaration">
         <source></source>
         <translation>Le fichier déclare l’encodage %1, mais ses lettres sont en UTF-8. Quillet garde les deux tels quels ; un téléviseur qui se fie à la déclaration affiche mal les lettres accentuées.</translation>
+    </message>
+    <message id="kNoticeFileChanged">
+        <source></source>
+        <translation>« %1 » a été modifié par un autre programme. « Recharger » affiche le nouveau contenu ; avec « Garder la mienne », la liste reste telle qu’elle est ici et le prochain enregistrement remplace le fichier.</translation>
+    </message>
+    <message id="kNoticeFileGone">
+        <source></source>
+        <translation>« %1 » n’est plus là : le fichier a été déplacé, renommé ou supprimé, ou son disque a été retiré. La liste est toujours dans cette fenêtre ; vous pouvez l’enregistrer ailleurs.</translation>
+    </message>
+    <message id="kNoticeFileUnreadable">
+        <source></source>
+        <translation>« %1 » ne peut plus être lu. %2 La liste est toujours dans cette fenêtre ; vous pouvez l’enregistrer ailleurs.</translation>
     </message>
     <message id="kNoticeJSON">
         <source></source>
@@ -1139,7 +1171,7 @@
     </message>
     <message id="kRevertFailedMessage">
         <source></source>
-        <translation>Impossible de relire « %1 ». Vos modifications sont toujours là.</translation>
+        <translation>Impossible de relire « %1 ». La liste de cette fenêtre reste telle quelle.</translation>
     </message>
     <message id="kRevertMessage">
         <source></source>
@@ -1246,6 +1278,14 @@
     <message id="kSaveAnyway">
         <source></source>
         <translation>Enregistrer quand même</translation>
+    </message>
+    <message id="kSaveAs">
+        <source></source>
+        <translation>Enregistrer sous…</translation>
+    </message>
+    <message id="kSaveAsTitle">
+        <source></source>
+        <translation>Enregistrer la liste de chaînes sous</translation>
     </message>
     <message id="kSaveChangesMessage">
         <source></source>
@@ -1623,6 +1663,14 @@ Ces dernières suivent à partir du numéro : %3</translation>
     <message id="kUndoLink">
         <source></source>
         <translation>Annuler</translation>
+    </message>
+    <message id="kUnreadableMessage">
+        <source></source>
+        <translation>Ce qui se trouve maintenant à la place de « %1 » ne peut pas être lu.</translation>
+    </message>
+    <message id="kUnreadableText">
+        <source></source>
+        <translation>Impossible de savoir si un autre programme a modifié le fichier. Si vous enregistrez maintenant, ce qui s’y trouve sera perdu.</translation>
     </message>
     <message id="kUntitled">
         <source></source>

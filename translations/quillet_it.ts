@@ -329,13 +329,17 @@
         <source></source>
         <translation>Poi non si potranno più recuperare.</translation>
     </message>
+    <message id="kExportExplanation">
+        <source></source>
+        <translation>Viene scritta una copia dell’intera lista di canali, come la scriverebbe “Salva”, con il nome che scegli. Il file di questa finestra resta com’è. Il suo ordine può essere applicato ad altre liste se il suo nome termina con “.tll”.</translation>
+    </message>
     <message id="kExportFailedMessage">
         <source></source>
         <translation>Impossibile esportare la lista come “%1”.</translation>
     </message>
     <message id="kExportTitle">
         <source></source>
-        <translation>Esporta come lista di riferimento</translation>
+        <translation>Esporta come lista di riferimento (copia dell’intero file)</translation>
     </message>
     <message id="kFileMissingReason">
         <source></source>
@@ -400,6 +404,14 @@
     <message id="kFilterUHD">
         <source></source>
         <translation>UHD</translation>
+    </message>
+    <message id="kFolderGoneMessage">
+        <source></source>
+        <translation>La cartella “%1” non c’è più.</translation>
+    </message>
+    <message id="kFolderGoneText">
+        <source></source>
+        <translation>È stata spostata o eliminata, oppure il suo disco è stato rimosso. Non è stato salvato nulla e nulla è andato perso: la lista è ancora in questa finestra con tutte le modifiche.</translation>
     </message>
     <message id="kForeignRows">
         <source></source>
@@ -528,6 +540,10 @@
     <message id="kIsAFolderReason">
         <source></source>
         <translation>“%1” è una cartella.</translation>
+    </message>
+    <message id="kKeepMine">
+        <source></source>
+        <translation>Mantieni la mia</translation>
     </message>
     <message id="kLater">
         <source></source>
@@ -792,6 +808,10 @@
         <source></source>
         <translation>&amp;Salva</translation>
     </message>
+    <message id="kMenuSaveAs">
+        <source></source>
+        <translation>Salva c&amp;on nome…</translation>
+    </message>
     <message id="kMenuSelect">
         <source></source>
         <translation>S&amp;eleziona</translation>
@@ -913,6 +933,18 @@
     <message id="kNoticeDeclaration">
         <source></source>
         <translation>Il file dichiara la codifica %1, ma le sue lettere sono in UTF-8. Quillet lascia entrambe come sono; un televisore che si fida della dichiarazione mostra male le lettere accentate.</translation>
+    </message>
+    <message id="kNoticeFileChanged">
+        <source></source>
+        <translation>“%1” è stato modificato da un altro programma. “Ricarica” mostra il nuovo contenuto; con “Mantieni la mia” la lista resta com’è qui e il prossimo salvataggio sostituisce il file.</translation>
+    </message>
+    <message id="kNoticeFileGone">
+        <source></source>
+        <translation>“%1” non c’è più: è stato spostato, rinominato o eliminato, oppure il suo disco è stato rimosso. La lista è ancora in questa finestra; puoi salvarla altrove.</translation>
+    </message>
+    <message id="kNoticeFileUnreadable">
+        <source></source>
+        <translation>“%1” non può più essere letto. %2 La lista è ancora in questa finestra; puoi salvarla altrove.</translation>
     </message>
     <message id="kNoticeJSON">
         <source></source>
@@ -1139,7 +1171,7 @@
     </message>
     <message id="kRevertFailedMessage">
         <source></source>
-        <translation>Impossibile rileggere “%1”. Le tue modifiche sono ancora presenti.</translation>
+        <translation>Impossibile rileggere “%1”. La lista in questa finestra resta com’è.</translation>
     </message>
     <message id="kRevertMessage">
         <source></source>
@@ -1246,6 +1278,14 @@
     <message id="kSaveAnyway">
         <source></source>
         <translation>Salva comunque</translation>
+    </message>
+    <message id="kSaveAs">
+        <source></source>
+        <translation>Salva con nome…</translation>
+    </message>
+    <message id="kSaveAsTitle">
+        <source></source>
+        <translation>Salva lista di canali con nome</translation>
     </message>
     <message id="kSaveChangesMessage">
         <source></source>
@@ -1623,6 +1663,14 @@ Questi proseguono dal numero: %3</translation>
     <message id="kUndoLink">
         <source></source>
         <translation>Annulla</translation>
+    </message>
+    <message id="kUnreadableMessage">
+        <source></source>
+        <translation>Ciò che ora si trova al posto di “%1” non può essere letto.</translation>
+    </message>
+    <message id="kUnreadableText">
+        <source></source>
+        <translation>Non si può sapere se un altro programma ha modificato il file. Se salvi ora, ciò che vi si trova andrà perso.</translation>
     </message>
     <message id="kUntitled">
         <source></source>

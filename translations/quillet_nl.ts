@@ -329,13 +329,17 @@
         <source></source>
         <translation>Daarna kunnen ze niet meer worden teruggehaald.</translation>
     </message>
+    <message id="kExportExplanation">
+        <source></source>
+        <translation>Er wordt een kopie van de hele zenderlijst geschreven, zoals “Opslaan” die zou schrijven, onder de naam die u kiest. Het bestand van dit venster blijft zoals het is. De volgorde ervan kan op andere lijsten worden toegepast als de naam op “.tll” eindigt.</translation>
+    </message>
     <message id="kExportFailedMessage">
         <source></source>
         <translation>De lijst kon niet als “%1” worden geëxporteerd.</translation>
     </message>
     <message id="kExportTitle">
         <source></source>
-        <translation>Exporteren als referentielijst</translation>
+        <translation>Exporteren als referentielijst (kopie van het hele bestand)</translation>
     </message>
     <message id="kFileMissingReason">
         <source></source>
@@ -400,6 +404,14 @@
     <message id="kFilterUHD">
         <source></source>
         <translation>UHD</translation>
+    </message>
+    <message id="kFolderGoneMessage">
+        <source></source>
+        <translation>De map “%1” is er niet meer.</translation>
+    </message>
+    <message id="kFolderGoneText">
+        <source></source>
+        <translation>De map is verplaatst of verwijderd, of de schijf is losgekoppeld. Er is niets opgeslagen en niets verloren: de lijst staat met alle wijzigingen nog in dit venster.</translation>
     </message>
     <message id="kForeignRows">
         <source></source>
@@ -528,6 +540,10 @@
     <message id="kIsAFolderReason">
         <source></source>
         <translation>“%1” is een map.</translation>
+    </message>
+    <message id="kKeepMine">
+        <source></source>
+        <translation>Die van mij behouden</translation>
     </message>
     <message id="kLater">
         <source></source>
@@ -792,6 +808,10 @@
         <source></source>
         <translation>Op&amp;slaan</translation>
     </message>
+    <message id="kMenuSaveAs">
+        <source></source>
+        <translation>O&amp;pslaan als…</translation>
+    </message>
     <message id="kMenuSelect">
         <source></source>
         <translation>&amp;Selecteren</translation>
@@ -913,6 +933,18 @@
     <message id="kNoticeDeclaration">
         <source></source>
         <translation>Het bestand geeft de codering %1 op, maar de letters zijn UTF-8. Quillet laat beide zoals ze zijn; een televisie die de opgave gelooft, toont letters met accenten verkeerd.</translation>
+    </message>
+    <message id="kNoticeFileChanged">
+        <source></source>
+        <translation>“%1” is door een ander programma gewijzigd. “Opnieuw laden” toont de nieuwe inhoud; met “Die van mij behouden” blijft de lijst zoals ze hier is en vervangt de volgende keer opslaan het bestand.</translation>
+    </message>
+    <message id="kNoticeFileGone">
+        <source></source>
+        <translation>“%1” is er niet meer: het bestand is verplaatst, hernoemd of verwijderd, of de schijf is losgekoppeld. De lijst staat nog in dit venster; u kunt haar elders opslaan.</translation>
+    </message>
+    <message id="kNoticeFileUnreadable">
+        <source></source>
+        <translation>“%1” kan niet meer worden gelezen. %2 De lijst staat nog in dit venster; u kunt haar elders opslaan.</translation>
     </message>
     <message id="kNoticeJSON">
         <source></source>
@@ -1139,7 +1171,7 @@
     </message>
     <message id="kRevertFailedMessage">
         <source></source>
-        <translation>“%1” kon niet opnieuw worden gelezen. Uw wijzigingen zijn er nog.</translation>
+        <translation>“%1” kon niet opnieuw worden gelezen. De lijst in dit venster blijft zoals ze is.</translation>
     </message>
     <message id="kRevertMessage">
         <source></source>
@@ -1246,6 +1278,14 @@
     <message id="kSaveAnyway">
         <source></source>
         <translation>Toch opslaan</translation>
+    </message>
+    <message id="kSaveAs">
+        <source></source>
+        <translation>Opslaan als…</translation>
+    </message>
+    <message id="kSaveAsTitle">
+        <source></source>
+        <translation>Zenderlijst opslaan als</translation>
     </message>
     <message id="kSaveChangesMessage">
         <source></source>
@@ -1623,6 +1663,14 @@ Deze gaan verder vanaf nummer: %3</translation>
     <message id="kUndoLink">
         <source></source>
         <translation>Ongedaan maken</translation>
+    </message>
+    <message id="kUnreadableMessage">
+        <source></source>
+        <translation>Wat nu op de plaats van “%1” staat, kan niet worden gelezen.</translation>
+    </message>
+    <message id="kUnreadableText">
+        <source></source>
+        <translation>Het is niet te zeggen of een ander programma het bestand heeft gewijzigd. Als u nu opslaat, gaat verloren wat daar staat.</translation>
     </message>
     <message id="kUntitled">
         <source></source>

@@ -335,13 +335,17 @@
         <source></source>
         <translation>Potem nie będzie można ich przywrócić.</translation>
     </message>
+    <message id="kExportExplanation">
+        <source></source>
+        <translation>Zapisywana jest kopia całej listy kanałów, taka jaką zapisałoby „Zapisz”, pod wybraną nazwą. Plik tego okna pozostaje bez zmian. Jej kolejność można zastosować do innych list, jeśli jej nazwa kończy się na „.tll”.</translation>
+    </message>
     <message id="kExportFailedMessage">
         <source></source>
         <translation>Nie można wyeksportować listy jako „%1”.</translation>
     </message>
     <message id="kExportTitle">
         <source></source>
-        <translation>Eksportuj jako listę wzorcową</translation>
+        <translation>Eksportuj jako listę wzorcową (kopia całego pliku)</translation>
     </message>
     <message id="kFileMissingReason">
         <source></source>
@@ -406,6 +410,14 @@
     <message id="kFilterUHD">
         <source></source>
         <translation>UHD</translation>
+    </message>
+    <message id="kFolderGoneMessage">
+        <source></source>
+        <translation>Folderu „%1” już nie ma.</translation>
+    </message>
+    <message id="kFolderGoneText">
+        <source></source>
+        <translation>Został przeniesiony lub usunięty albo odłączono jego dysk. Niczego nie zapisano i niczego nie utracono: lista ze wszystkimi zmianami nadal jest w tym oknie.</translation>
     </message>
     <message id="kForeignRows">
         <source></source>
@@ -534,6 +546,10 @@
     <message id="kIsAFolderReason">
         <source></source>
         <translation>„%1” jest folderem.</translation>
+    </message>
+    <message id="kKeepMine">
+        <source></source>
+        <translation>Zachowaj moją</translation>
     </message>
     <message id="kLater">
         <source></source>
@@ -803,6 +819,10 @@
         <source></source>
         <translation>&amp;Zapisz</translation>
     </message>
+    <message id="kMenuSaveAs">
+        <source></source>
+        <translation>Zapisz j&amp;ako…</translation>
+    </message>
     <message id="kMenuSelect">
         <source></source>
         <translation>Wybie&amp;rz</translation>
@@ -926,6 +946,18 @@
     <message id="kNoticeDeclaration">
         <source></source>
         <translation>Plik deklaruje kodowanie %1, ale jego litery są w UTF-8. Quillet pozostawia jedno i drugie bez zmian; telewizor, który zaufa deklaracji, źle pokaże litery ze znakami diakrytycznymi.</translation>
+    </message>
+    <message id="kNoticeFileChanged">
+        <source></source>
+        <translation>Plik „%1” został zmieniony przez inny program. „Wczytaj ponownie” pokaże nową zawartość; „Zachowaj moją” pozostawi listę taką, jaka jest tutaj, a następny zapis zastąpi plik.</translation>
+    </message>
+    <message id="kNoticeFileGone">
+        <source></source>
+        <translation>Pliku „%1” już nie ma: został przeniesiony, przemianowany lub usunięty albo odłączono jego dysk. Lista nadal jest w tym oknie; możesz zapisać ją w innym miejscu.</translation>
+    </message>
+    <message id="kNoticeFileUnreadable">
+        <source></source>
+        <translation>Pliku „%1” nie można już odczytać. %2 Lista nadal jest w tym oknie; możesz zapisać ją w innym miejscu.</translation>
     </message>
     <message id="kNoticeJSON">
         <source></source>
@@ -1153,7 +1185,7 @@
     </message>
     <message id="kRevertFailedMessage">
         <source></source>
-        <translation>Nie można ponownie odczytać pliku „%1”. Twoje zmiany nadal tu są.</translation>
+        <translation>Nie można ponownie odczytać pliku „%1”. Lista w tym oknie pozostaje bez zmian.</translation>
     </message>
     <message id="kRevertMessage">
         <source></source>
@@ -1266,6 +1298,14 @@
     <message id="kSaveAnyway">
         <source></source>
         <translation>Zapisz mimo to</translation>
+    </message>
+    <message id="kSaveAs">
+        <source></source>
+        <translation>Zapisz jako…</translation>
+    </message>
+    <message id="kSaveAsTitle">
+        <source></source>
+        <translation>Zapisz listę kanałów jako</translation>
     </message>
     <message id="kSaveChangesMessage">
         <source></source>
@@ -1664,6 +1704,14 @@ Te następują od numeru: %3</translation>
     <message id="kUndoLink">
         <source></source>
         <translation>Cofnij</translation>
+    </message>
+    <message id="kUnreadableMessage">
+        <source></source>
+        <translation>Nie można odczytać tego, co jest teraz w miejscu „%1”.</translation>
+    </message>
+    <message id="kUnreadableText">
+        <source></source>
+        <translation>Nie wiadomo, czy inny program zmienił plik. Jeśli teraz zapiszesz, to, co tam jest, zostanie utracone.</translation>
     </message>
     <message id="kUntitled">
         <source></source>

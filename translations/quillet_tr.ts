@@ -323,13 +323,17 @@
         <source></source>
         <translation>Sonra geri getirilemezler.</translation>
     </message>
+    <message id="kExportExplanation">
+        <source></source>
+        <translation>Kanal listesinin tamamının “Kaydet” komutunun yazacağı gibi bir kopyası, seçtiğiniz adla yazılır. Bu pencerenin dosyası olduğu gibi kalır. Adı “.tll” ile bitiyorsa sırası başka listelere uygulanabilir.</translation>
+    </message>
     <message id="kExportFailedMessage">
         <source></source>
         <translation>Liste “%1” olarak dışa aktarılamadı.</translation>
     </message>
     <message id="kExportTitle">
         <source></source>
-        <translation>Referans Listesi Olarak Dışa Aktar</translation>
+        <translation>Referans Listesi Olarak Dışa Aktar (Tüm Dosyanın Kopyası)</translation>
     </message>
     <message id="kFileMissingReason">
         <source></source>
@@ -394,6 +398,14 @@
     <message id="kFilterUHD">
         <source></source>
         <translation>UHD</translation>
+    </message>
+    <message id="kFolderGoneMessage">
+        <source></source>
+        <translation>“%1” klasörü artık yerinde değil.</translation>
+    </message>
+    <message id="kFolderGoneText">
+        <source></source>
+        <translation>Taşındı veya silindi ya da diski çıkarıldı. Hiçbir şey kaydedilmedi ve hiçbir şey kaybolmadı: liste tüm değişiklikleriyle hâlâ bu pencerede.</translation>
     </message>
     <message id="kForeignRows">
         <source></source>
@@ -522,6 +534,10 @@
     <message id="kIsAFolderReason">
         <source></source>
         <translation>“%1” bir klasör.</translation>
+    </message>
+    <message id="kKeepMine">
+        <source></source>
+        <translation>Benimkini Koru</translation>
     </message>
     <message id="kLater">
         <source></source>
@@ -781,6 +797,10 @@
         <source></source>
         <translation>Kay&amp;det</translation>
     </message>
+    <message id="kMenuSaveAs">
+        <source></source>
+        <translation>&amp;Farklı Kaydet…</translation>
+    </message>
     <message id="kMenuSelect">
         <source></source>
         <translation>Seç&amp;im</translation>
@@ -900,6 +920,18 @@
     <message id="kNoticeDeclaration">
         <source></source>
         <translation>Dosya %1 kodlamasını bildiriyor, ama harfleri UTF-8. Quillet ikisini de olduğu gibi bırakır; bildirime güvenen bir televizyon aksanlı harfleri yanlış gösterir.</translation>
+    </message>
+    <message id="kNoticeFileChanged">
+        <source></source>
+        <translation>“%1” başka bir program tarafından değiştirildi. “Yeniden Yükle” yeni içeriği gösterir; “Benimkini Koru” ile liste buradaki gibi kalır ve bir sonraki kaydetme dosyanın yerini alır.</translation>
+    </message>
+    <message id="kNoticeFileGone">
+        <source></source>
+        <translation>“%1” artık yerinde değil: taşındı, adı değiştirildi veya silindi ya da diski çıkarıldı. Liste hâlâ bu pencerede; başka bir yere kaydedebilirsiniz.</translation>
+    </message>
+    <message id="kNoticeFileUnreadable">
+        <source></source>
+        <translation>“%1” artık okunamıyor. %2 Liste hâlâ bu pencerede; başka bir yere kaydedebilirsiniz.</translation>
     </message>
     <message id="kNoticeJSON">
         <source></source>
@@ -1125,7 +1157,7 @@
     </message>
     <message id="kRevertFailedMessage">
         <source></source>
-        <translation>“%1” yeniden okunamadı. Değişiklikleriniz hâlâ duruyor.</translation>
+        <translation>“%1” yeniden okunamadı. Bu penceredeki liste olduğu gibi kalır.</translation>
     </message>
     <message id="kRevertMessage">
         <source></source>
@@ -1226,6 +1258,14 @@
     <message id="kSaveAnyway">
         <source></source>
         <translation>Yine de Kaydet</translation>
+    </message>
+    <message id="kSaveAs">
+        <source></source>
+        <translation>Farklı Kaydet…</translation>
+    </message>
+    <message id="kSaveAsTitle">
+        <source></source>
+        <translation>Kanal Listesini Farklı Kaydet</translation>
     </message>
     <message id="kSaveChangesMessage">
         <source></source>
@@ -1582,6 +1622,14 @@ Bunların devam ettiği numara: %3</translation>
     <message id="kUndoLink">
         <source></source>
         <translation>Geri Al</translation>
+    </message>
+    <message id="kUnreadableMessage">
+        <source></source>
+        <translation>“%1” dosyasının yerinde şimdi bulunan şey okunamıyor.</translation>
+    </message>
+    <message id="kUnreadableText">
+        <source></source>
+        <translation>Dosyayı başka bir programın değiştirip değiştirmediği bilinemiyor. Şimdi kaydederseniz orada bulunan kaybolur.</translation>
     </message>
     <message id="kUntitled">
         <source></source>

@@ -97,6 +97,14 @@ void MainMenu::makeFileMenu(QMenuBar &bar)
         [this] { emit m_window.closeRequested(); });
     m_save = add(menu, {"kMenuSave", "saveDocument", QKeySequence::Save}, [this] { save(); });
     m_documentItems.push_back(m_save);
+    const QKeySequence saveAs(QKeySequence::SaveAs); // which not every platform has
+    m_saveAs = add(menu,
+                   {"kMenuSaveAs", "saveDocumentAs",
+                    saveAs.isEmpty() ? QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S) : saveAs},
+                   [this] {
+                       m_editor.commitEditing();
+                       m_window.tlldoc()->saveDocumentAs();
+                   });
     m_documentItems.push_back(add(menu, {"kMenuRevert", "revertDocumentToSaved", {}},
                                   [this] { m_window.tlldoc()->revertDocumentToSaved(); }));
     m_reload = add(menu, {"kMenuReload", "reloadDocument", Qt::Key_F5}, [this] {
@@ -219,6 +227,7 @@ void MainMenu::validate()
     m_edit->validate();
     if (document && m_editor.isEditing())
         m_save->setEnabled(true); // for what is being typed
+    m_saveAs->setEnabled(document && document->canSaveAs());
     m_reload->setEnabled(document && document->canReload());
     m_reload->setToolTip(m_reload->isEnabled() ? QString() : qtTrId("kTipNoFile"));
     // Set in the sheet of a save, so there is nothing here to set it by.

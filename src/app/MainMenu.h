@@ -67,6 +67,7 @@ private:
     EditMenu *m_edit = nullptr;
     std::function<bool()> m_areUnsaved;
     QAction *m_save = nullptr;
+    QAction *m_saveAs = nullptr;
     QAction *m_reload = nullptr;
     QAction *m_alwaysRepair = nullptr;
     QAction *m_print = nullptr;

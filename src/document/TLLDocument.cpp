@@ -207,7 +207,8 @@ void TLLDocument::exportAsReferenceList()
         .title = qtTrId("kExportTitle"),
         .suggestedPath = file.path() + u'/' + file.completeBaseName() + QLatin1String(".txt"),
         .nameFilters = {qtTrId("kFilterTextFiles") + QLatin1String(" (*.txt)"),
-                        qtTrId("kFilterChannelLists") + QLatin1String(" (*.tll)")}};
+                        qtTrId("kFilterChannelLists") + QLatin1String(" (*.tll)")},
+        .explanation = qtTrId("kExportExplanation")};
     exportDocument(panel, QStringLiteral("Reference list"), [](bool isWritten, const Error &error) {
         if (isWritten)
             qCInfo(log, "File export succeeded!");

@@ -29,6 +29,13 @@ struct Notice
     bool offersRepair = false; ///< with a button that opens a repaired copy
 };
 
+/// What the bar says of a file that others have changed or taken away.
+struct FileNotice
+{
+    QString text;              ///< empty: there is no bar
+    bool offersReload = false; ///< or to keep what is shown; else to save elsewhere
+};
+
 /// Rows that are of another list than the one that is chosen.
 struct ForeignRows
 {
@@ -84,6 +91,8 @@ public:
     virtual void showForeignRows(const std::optional<ForeignRows> &rows) = 0;
     /// In the place of an earlier one, also one that was closed.
     virtual void showNotice(const Notice &notice) = 0;
+    /// The same in a bar of its own, for both may be there.
+    virtual void showFileNotice(const FileNotice &notice) = 0;
 
     /// Says in the line at the bottom what has just happened, in the place of what it said before.
     virtual void tell(const QString &text) = 0;

@@ -67,6 +67,7 @@ void EditorView::setUpControls()
     }
     m_ui->foreignRowsBar->setClosable(false);
     m_ui->foreignRowsBar->setTabOrderAfter(*m_ui->filterPop);
+    m_ui->fileBar->setTabOrderAfter(*m_ui->filterPop);
     m_ui->noticeBar->setTabOrderAfter(*m_ui->filterPop);
     for (std::size_t i = 0; i < filterTitles.size(); ++i)
         m_ui->filterPop->addItem(qtTrId(filterTitles[i]), static_cast<int>(i));
@@ -114,6 +115,12 @@ void EditorView::connectControls()
             &ViewController::repairedCopyRequested);
     connect(m_ui->foreignRowsBar, &NoticeBar::actionTriggered, &m_controller,
             &ViewController::clearFilters);
+    connect(m_ui->fileBar, &NoticeBar::actionTriggered, this, [this] {
+        commitEditing();
+        m_controller.followFileNotice();
+    });
+    connect(m_ui->fileBar, &NoticeBar::otherActionTriggered, &m_controller,
+            &ViewController::keepMine);
     connect(&m_controller, &ViewController::stateChanged, this, &EditorView::stateChanged);
     connect(&m_controller, &ViewController::stateChanged, m_ui->fillGapsButton,
             [this] { m_ui->fillGapsButton->setChecked(m_controller.fillGaps()); });
@@ -401,6 +408,17 @@ void EditorView::showNotice(const Notice &notice)
         m_ui->noticeBar->showNotice(
             notice.isWarning ? NoticeBar::Kind::Warning : NoticeBar::Kind::Information, notice.text,
             notice.offersRepair ? qtTrId("kOpenRepairedCopy") : QString());
+}
+
+void EditorView::showFileNotice(const FileNotice &notice)
+{
+    if (notice.text.isEmpty())
+        m_ui->fileBar->dismiss();
+    else if (notice.offersReload)
+        m_ui->fileBar->showNotice(NoticeBar::Kind::Warning, notice.text, qtTrId("kReload"),
+                                  qtTrId("kKeepMine"));
+    else
+        m_ui->fileBar->showNotice(NoticeBar::Kind::Warning, notice.text, qtTrId("kSaveAs"));
 }
 
 QWidget *EditorView::sheetWindow() const

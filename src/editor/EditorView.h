@@ -82,6 +82,7 @@ public:
     void showEmptyHint(EmptyHint hint) override;
     void showForeignRows(const std::optional<ForeignRows> &rows) override;
     void showNotice(const Notice &notice) override;
+    void showFileNotice(const FileNotice &notice) override;
     void tell(const QString &text) override { emit told(text); }
     void tellEdit(const QString &text) override { emit editTold(text); }
     [[nodiscard]] QWidget *sheetWindow() const override;

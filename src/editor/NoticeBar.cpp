@@ -25,7 +25,7 @@ QAccessibleInterface *alertInterface(const QString &, QObject *object)
 
 NoticeBar::NoticeBar(QWidget *parent)
     : QWidget(parent), m_icon(new QLabel), m_text(new QLabel), m_action(new QPushButton),
-      m_close(new QToolButton)
+      m_other(new QPushButton), m_close(new QToolButton)
 {
     static const bool hasInterface = (QAccessible::installFactory(alertInterface), true);
     Q_UNUSED(hasInterface)
@@ -35,6 +35,7 @@ NoticeBar::NoticeBar(QWidget *parent)
     row->addWidget(m_icon);
     row->addWidget(m_text, 1);
     row->addWidget(m_action);
+    row->addWidget(m_other);
     row->addWidget(m_close, 0, Qt::AlignTop);
 
     m_text->setObjectName(QStringLiteral("noticeText"));
@@ -43,7 +44,9 @@ NoticeBar::NoticeBar(QWidget *parent)
     m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_text->installEventFilter(this);
     m_action->setObjectName(QStringLiteral("noticeAction"));
-    m_action->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    m_other->setObjectName(QStringLiteral("noticeOther"));
+    for (QPushButton *button : {m_action, m_other})
+        button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     m_close->setObjectName(QStringLiteral("noticeClose"));
     m_close->setText(QStringLiteral("×"));
     m_close->setAutoRaise(true);
@@ -52,6 +55,7 @@ NoticeBar::NoticeBar(QWidget *parent)
     m_close->setAccessibleName(qtTrId("kNoticeClose"));
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     connect(m_action, &QPushButton::clicked, this, &NoticeBar::actionTriggered);
+    connect(m_other, &QPushButton::clicked, this, &NoticeBar::otherActionTriggered);
     connect(m_close, &QToolButton::clicked, this, &NoticeBar::dismiss);
     hide();
 }
@@ -69,10 +73,12 @@ QString NoticeBar::text() const
 void NoticeBar::setTabOrderAfter(QWidget &widget)
 {
     setTabOrder(&widget, m_action);
-    setTabOrder(m_action, m_close);
+    setTabOrder(m_action, m_other);
+    setTabOrder(m_other, m_close);
 }
 
-void NoticeBar::showNotice(Kind kind, const QString &text, const QString &actionTitle)
+void NoticeBar::showNotice(Kind kind, const QString &text, const QString &actionTitle,
+                           const QString &otherTitle)
 {
     const bool isNews = isHidden() || text != m_text->text();
     m_kind = kind;
@@ -80,6 +86,8 @@ void NoticeBar::showNotice(Kind kind, const QString &text, const QString &action
     m_text->setMinimumHeight(0);
     m_action->setText(actionTitle);
     m_action->setHidden(actionTitle.isEmpty());
+    m_other->setText(otherTitle);
+    m_other->setHidden(otherTitle.isEmpty());
     setAccessibleName(text);
     updateIcon();
     show();

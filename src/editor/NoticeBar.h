@@ -8,9 +8,9 @@ class QToolButton;
 
 namespace quillet {
 
-/// A bar that says something without stopping anybody: an icon, a text of one or more lines, a
-/// button if there is something to be done about it, and one that closes the bar. Screen readers
-/// are told when it appears. Hidden at first.
+/// A bar that says something without stopping anybody: an icon, a text of one or more lines, up to
+/// two buttons if there is something to be done about it, and one that closes the bar. Screen
+/// readers are told when it appears. Hidden at first.
 class NoticeBar : public QWidget
 {
     Q_OBJECT
@@ -19,8 +19,9 @@ public:
     explicit NoticeBar(QWidget *parent = nullptr);
 
     enum class Kind { Information, Warning };
-    /// Shows the text, in the place of an earlier one. Without a title there is no button.
-    void showNotice(Kind kind, const QString &text, const QString &actionTitle = {});
+    /// Shows the text, in the place of an earlier one. Without its title a button is not there.
+    void showNotice(Kind kind, const QString &text, const QString &actionTitle = {},
+                    const QString &otherTitle = {});
     void dismiss() { hide(); }
     /// Without its closing button only dismiss() takes the bar away.
     void setClosable(bool closable);
@@ -29,8 +30,9 @@ public:
     void setTabOrderAfter(QWidget &widget);
 
 signals:
-    /// The button was pressed.
+    /// A button was pressed, the first or the other.
     void actionTriggered();
+    void otherActionTriggered();
     /// Screen readers were told of a bar that appeared or has a new text.
     void announced(const QString &text);
 
@@ -47,6 +49,7 @@ private:
     QLabel *m_icon;
     QLabel *m_text;
     QPushButton *m_action;
+    QPushButton *m_other;
     QToolButton *m_close;
 };
 

@@ -105,4 +105,20 @@ Notice noticeFor(const TLLDocument &document)
     return notice;
 }
 
+FileNotice fileNoticeFor(const TLLDocument &document)
+{
+    const QString name = drawnName(document.displayName());
+    switch (document.fileNews()) {
+    case FileState::Change::None:
+        break;
+    case FileState::Change::Content:
+        return {qtTrId("kNoticeFileChanged").arg(name), true};
+    case FileState::Change::Gone:
+        return {qtTrId("kNoticeFileGone").arg(name)};
+    case FileState::Change::Unreadable:
+        return {qtTrId("kNoticeFileUnreadable").arg(name, document.fileObstacle())};
+    }
+    return {};
+}
+
 } // namespace quillet

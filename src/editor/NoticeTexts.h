@@ -10,4 +10,7 @@ class TLLDocument;
 /// there is nothing to say.
 [[nodiscard]] Notice noticeFor(const TLLDocument &document);
 
+/// What it says of what others have done to that file; no text when they have not.
+[[nodiscard]] FileNotice fileNoticeFor(const TLLDocument &document);
+
 } // namespace quillet

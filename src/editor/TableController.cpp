@@ -99,6 +99,12 @@ void TableController::showNotice()
     m_outlets.showNotice(m_loadFailed ? Notice() : noticeFor(*stationDoc()));
 }
 
+void TableController::showFileNotice()
+{
+    if (stationDoc())
+        m_outlets.showFileNotice(fileNoticeFor(*stationDoc()));
+}
+
 void TableController::showDeviceInfo()
 {
     m_outlets.setText(EditorOutlets::Field::DeviceName,

@@ -79,6 +79,8 @@ public:
     void showFileName();
     /// Shows in the bar what there is to say about the document's file now.
     void showNotice();
+    /// Shows in the other bar what others have done to it.
+    void showFileNotice();
 
     // Showing what was done
 

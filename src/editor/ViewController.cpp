@@ -2,6 +2,7 @@
 
 #include "document/ReferenceListFile.h"
 #include "editor/EditorQuestions.h"
+#include "editor/NoticeTexts.h"
 #include "editor/SourceTitles.h"
 #include "editor/StationColumns.h"
 #include "files/FileNames.h"
@@ -338,6 +339,22 @@ void ViewController::fileLoaded(const Error &error)
 void ViewController::fileRefused(const Error &error)
 {
     showError(error.text(), qtTrId("kLoadingProblem"));
+}
+
+void ViewController::followFileNotice()
+{
+    if (!stationDoc())
+        return;
+    if (fileNoticeFor(*stationDoc()).offersReload)
+        stationDoc()->reloadDocument();
+    else
+        stationDoc()->saveDocumentAs();
+}
+
+void ViewController::keepMine()
+{
+    if (stationDoc())
+        stationDoc()->keepMine();
 }
 
 bool ViewController::validateUserInterfaceItem(const QString &action) const

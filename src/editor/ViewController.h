@@ -79,6 +79,13 @@ public:
     /// show would be lost.
     void loadTLLFile(const QString &path);
 
+    // What others do to the file
+
+    /// Reads a file that others have changed again, or saves the list elsewhere.
+    void followFileNotice();
+    /// Lets their content be, to be replaced by the next save.
+    void keepMine();
+
 signals:
     /// The person wants a repaired copy of the document's file.
     void repairedCopyRequested();

@@ -17,7 +17,6 @@ FileState FileState::of(const QString &path, const QByteArray &bytes)
 {
     FileState state = none(path);
     state.m_exists = true;
-    state.m_isReadable = true;
     state.m_bytes = bytes;
     return state;
 }
@@ -32,23 +31,40 @@ FileState FileState::remembered(const QString &path, const QByteArray &bytes)
 FileState FileState::at(const QString &path)
 {
     FileState state = none(path);
-    state.m_exists = isThere(path);
-    Error unused;
-    state.m_isReadable = readFile(QUrl::fromLocalFile(path), state.m_bytes, unused);
-    if (!state.m_isReadable)
-        state.m_bytes.clear();
+    Error error;
+    state.m_exists = readFile(QUrl::fromLocalFile(path), state.m_bytes, error);
+    if (state.m_exists)
+        return state;
+    state.m_bytes.clear();
+    if (isMissing(path))
+        return state;
+    state.m_exists = true;
+    state.m_obstacle = error.localizedDescription;
     return state;
 }
 
 FileState::Change FileState::changeSince(const FileState &earlier) const
 {
-    const bool isElsewhere = m_device != earlier.m_device && !earlier.m_isRemembered;
-    const bool isMissing = earlier.m_exists && !m_exists;
-    const bool cannotBeRead = earlier.m_isReadable && !m_isReadable;
-    if (isElsewhere || isMissing || cannotBeRead)
+    return isOnDeviceOf(earlier) ? contentChangeSince(earlier) : Change::Gone;
+}
+
+FileState::Change FileState::contentChangeSince(const FileState &earlier) const
+{
+    if (hasSameContent(earlier))
+        return Change::None;
+    if (!m_exists)
         return Change::Gone;
-    const bool isSame = m_exists == earlier.m_exists && m_bytes == earlier.m_bytes;
-    return isSame ? Change::None : Change::Content;
+    return m_obstacle.isEmpty() ? Change::Content : Change::Unreadable;
+}
+
+bool FileState::hasSameContent(const FileState &other) const
+{
+    return m_exists == other.m_exists && m_obstacle == other.m_obstacle && m_bytes == other.m_bytes;
+}
+
+bool FileState::isOnDeviceOf(const FileState &other) const
+{
+    return other.m_isRemembered || m_device == other.m_device;
 }
 
 } // namespace quillet

@@ -7,8 +7,9 @@
 
 namespace quillet {
 
-/// What was at a path at one moment: a file with its bytes or none, and the device of its folder.
-/// The bytes are shared with whoever read or wrote them.
+/// What was at a path at one moment: a file with its bytes, nothing, or something that could not be
+/// read, which is never the same as an empty file; and the device of its folder. The bytes are
+/// shared with whoever read or wrote them.
 class FileState
 {
 public:
@@ -24,20 +25,29 @@ public:
 
     enum class Change {
         None,
-        Content, ///< another content, or a file where there was none
-        Gone,    ///< no file any more, or none that can be read, or on another device than before
+        Content,    ///< another content, or a file where there was none
+        Gone,       ///< no file any more, or its folder lies on another device than before
+        Unreadable, ///< something is there, but what it holds cannot be told
     };
     /// What has become of an earlier state of the path.
     [[nodiscard]] Change changeSince(const FileState &earlier) const;
-    [[nodiscard]] const QString &path() const { return m_path; }
+    /// The same, wherever the device has gone.
+    [[nodiscard]] Change contentChangeSince(const FileState &earlier) const;
+    /// Whether both are files with the same bytes, or the same obstacle, or nothing.
+    [[nodiscard]] bool hasSameContent(const FileState &other) const;
+    [[nodiscard]] bool isOnDeviceOf(const FileState &other) const;
     [[nodiscard]] bool exists() const { return m_exists; }
+    /// Why what is there could not be read, for people; empty otherwise.
+    [[nodiscard]] const QString &obstacle() const { return m_obstacle; }
+    /// Of a file that was read.
     [[nodiscard]] const QByteArray &bytes() const { return m_bytes; }
+    [[nodiscard]] const QString &path() const { return m_path; }
 
 private:
     QString m_path;
     bool m_exists = false;
-    bool m_isReadable = false;
-    QByteArray m_bytes; ///< of a file that could not be read: none
+    QByteArray m_bytes;
+    QString m_obstacle;
     std::optional<quint64> m_device;
     bool m_isRemembered = false; ///< from an earlier run, so that the device says nothing
 };

@@ -167,6 +167,12 @@ bool isThere(const QString &path)
     return fs::exists(nativePath(path), code);
 }
 
+bool isMissing(const QString &path)
+{
+    std::error_code code;
+    return fs::status(nativePath(path), code).type() == fs::file_type::not_found;
+}
+
 bool isOrdinaryFile(const QString &path)
 {
     std::error_code code;

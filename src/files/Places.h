@@ -26,6 +26,8 @@ namespace quillet {
 [[nodiscard]] std::optional<quint64> deviceOf(const QString &path);
 /// Whether there is anything at the path, at the end of its links.
 [[nodiscard]] bool isThere(const QString &path);
+/// Whether there is nothing for certain: what may not be looked at, or fails, is not missing.
+[[nodiscard]] bool isMissing(const QString &path);
 /// Whether that is an ordinary file.
 [[nodiscard]] bool isOrdinaryFile(const QString &path);
 /// Of the file there, in bytes; 0 when there is none.

@@ -48,7 +48,8 @@ void SaveJob::make()
 
 bool SaveJob::isRefused()
 {
-    const QString reason = m_client->refusal(placeOf(m_path));
+    m_place = placeOf(m_path);
+    const QString reason = m_client->refusal(m_place);
     if (!reason.isEmpty())
         finish(Outcome::Refused, {QStringLiteral("SaveJob"), 1, reason, m_path});
     return !reason.isEmpty();
@@ -76,7 +77,8 @@ void SaveJob::replace(const QByteArray &bytes)
     Error error;
     FileReplacement replacement(m_operations);
     const auto isAsExpected = [this] {
-        return FileState::at(m_path).changeSince(m_expected) == FileState::Change::None;
+        return placeOf(m_path) == m_place &&
+               FileState::at(m_path).changeSince(m_expected) == FileState::Change::None;
     };
     if (!replacement.replace(m_path, bytes, error, isAsExpected)) {
         const bool wasChanged = error.code == static_cast<int>(FileReplacement::Failure::Changed);

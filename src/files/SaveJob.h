@@ -72,6 +72,7 @@ private:
     void finish(const Result &result);
 
     QString m_path;
+    QString m_place; ///< where its links led at the last look
     FileState m_expected;
     std::shared_ptr<Client> m_client;
     FileOperations &m_operations;

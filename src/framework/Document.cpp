@@ -3,6 +3,7 @@
 #include "files/FileNames.h"
 #include "files/FileOperations.h"
 #include "files/FileReading.h"
+#include "files/FileWatch.h"
 #include "files/Places.h"
 #include "files/ShownPath.h"
 #include "framework/WaitCursor.h"
@@ -106,7 +107,7 @@ bool Document::readFromUrl(const QUrl &url, const QString &typeName, Error &erro
     if (url != m_fileUrl)
         m_untouchedUrl.clear();
     setFileUrl(url);
-    m_known = FileState::of(path, bytes);
+    setKnown(FileState::of(path, bytes));
     m_history.clear();
     return true;
 }
@@ -224,12 +225,26 @@ void Document::saveDocument(std::function<void(bool)> done)
     const auto saving = std::make_shared<DocumentSaving>(
         *this, SavePurpose::Save, m_fileType,
         [done](bool isWritten, const Error &) { done(isWritten); });
-    if (m_fileUrl.isEmpty())
-        saving->writeToChosenPlace({.title = qtTrId("kSaveTitle"),
-                                    .suggestedPath = m_suggestedUrl.toLocalFile(),
-                                    .nameFilters = {}});
+    if (m_fileUrl.isEmpty() || fileNews() == FileState::Change::Gone)
+        saving->writeToNewPlace(qtTrId("kSaveTitle"));
     else
         saving->writeToFile();
+}
+
+void Document::saveDocumentAs(std::function<void(bool)> done)
+{
+    if (!done)
+        done = [](bool) {};
+    if (m_isAsking || !canSaveAs())
+        return done(false);
+    std::make_shared<DocumentSaving>(*this, SavePurpose::Save, m_fileType,
+                                     [done](bool isWritten, const Error &) { done(isWritten); })
+        ->writeToNewPlace(qtTrId("kSaveAsTitle"));
+}
+
+bool Document::canSaveAs() const
+{
+    return !m_fileUrl.isEmpty() || !m_suggestedUrl.isEmpty() || isDocumentEdited();
 }
 
 void Document::exportDocument(const SavePanel &panel, const QString &typeName,
@@ -264,7 +279,7 @@ void Document::reviewSave(const QByteArray &bytes, SavePurpose /*purpose*/,
 
 void Document::wasWritten(const FileState &written, quint64 changeCount)
 {
-    m_known = written;
+    setKnown(written);
     m_suggestedUrl.clear();
     const QUrl url = QUrl::fromLocalFile(written.path());
     const bool isNewPlace = url != m_fileUrl;
@@ -283,6 +298,8 @@ void Document::revertDocumentToSaved()
         return;
     if (!hasUnautosavedChanges())
         return revert();
+    if (isUnreadable())
+        return;
     enum { Cancel, Discard };
     Alert alert;
     alert.message = qtTrId("kRevertMessage").arg(displayName());
@@ -320,6 +337,8 @@ void Document::reloadDocument()
         return;
     if (!hasUnautosavedChanges())
         return reload();
+    if (isUnreadable())
+        return;
     enum { Cancel, Discard };
     Alert alert;
     alert.message = qtTrId("kReloadMessage").arg(displayName());
@@ -348,6 +367,56 @@ void Document::reload()
     for (const auto &goBack : places)
         goBack();
     emit told(qtTrId("kToldReloaded").arg(displayName()));
+}
+
+bool Document::isUnreadable()
+{
+    QByteArray unused;
+    Error error;
+    if (readFile(m_fileUrl, unused, error))
+        return false;
+    presentError(qtTrId("kRevertFailedMessage").arg(displayName()), error);
+    return true;
+}
+
+void Document::setKnown(const FileState &known)
+{
+    m_known = known;
+    if (m_watch)
+        m_watch->watch(known);
+}
+
+void Document::watchFile()
+{
+    if (m_watch)
+        return;
+    m_watch = std::make_unique<FileWatch>();
+    connect(m_watch.get(), &FileWatch::newsChanged, this, [this] {
+        if (m_watch->known()) // which may have come back on another device
+            m_known = m_watch->known();
+        emit fileNewsChanged();
+    });
+    if (m_known)
+        m_watch->watch(*m_known);
+}
+
+FileState::Change Document::fileNews() const
+{
+    return m_watch ? m_watch->news() : FileState::Change::None;
+}
+
+QString Document::fileObstacle() const
+{
+    return m_watch && m_watch->found() ? m_watch->found()->obstacle() : QString();
+}
+
+void Document::keepMine()
+{
+    if (fileNews() != FileState::Change::Content)
+        return;
+    const FileState theirs = *m_watch->found();
+    setKnown(theirs);
+    updateChangeCount(Change::Done);
 }
 
 void Document::askToClose(std::function<void(bool)> done)

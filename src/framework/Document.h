@@ -17,6 +17,7 @@
 namespace quillet {
 
 class FileOperations;
+class FileWatch;
 class WindowController;
 
 /// One open file: its URL, whether it has changes, reading, safe writing and reverting. A subclass
@@ -122,6 +123,11 @@ public:
     /// `done` (may be empty) gets whether a file was written: false at once when there is no place
     /// to write to and while another question of this document is open.
     void saveDocument(std::function<void(bool)> done = {});
+    /// Asks for a place, writes there by the same steps, and goes on with the file written, whether
+    /// there are changes or not.
+    void saveDocumentAs(std::function<void(bool)> done = {});
+    /// Whether there is anything to save so: what was read, mended or edited.
+    [[nodiscard]] bool canSaveAs() const;
     /// Asks for a place and writes the document's bytes of that type there, by the same steps as a
     /// save. The document's own file, which is not to be chosen, and its changes stay as they are.
     void exportDocument(const SavePanel &panel, const QString &typeName,
@@ -134,6 +140,17 @@ public:
     /// Reads the file again if another program has changed it, or if there are changes, after
     /// asking whether they may be given up. Goes on where the person was, and tells what it did.
     void reloadDocument();
+
+    /// Tells from here on what others do to the document's file, whichever that is.
+    void watchFile();
+    /// What they have done to it; None while it is as it was last read or written.
+    [[nodiscard]] FileState::Change fileNews() const;
+    /// Why what is there now cannot be read, for people; empty otherwise.
+    [[nodiscard]] QString fileObstacle() const;
+    /// Lets the other content of the file be: the next save replaces it without asking. Until then
+    /// the document counts as changed.
+    void keepMine();
+
     /// Asks about unsaved changes if there are any. `done` gets true when the document may be
     /// closed (saved, or changes given up), false at once while another question is open.
     void askToClose(std::function<void(bool)> done);
@@ -151,6 +168,8 @@ signals:
     void fileWasOpened();
     /// The document's own file was written, by whichever save.
     void fileWasWritten();
+    /// What others have done to the file has changed.
+    void fileNewsChanged();
     /// Something was done without asking that a person should hear of.
     void told(const QString &text);
 
@@ -186,6 +205,9 @@ private:
     void reload();
     /// Reads the file again and refills every window. A failure is shown and changes nothing.
     bool readAgain();
+    /// Says so when it cannot be read, before anything is asked.
+    [[nodiscard]] bool isUnreadable();
+    void setKnown(const FileState &known);
 
     UndoHistory m_history;
     QUrl m_fileUrl;
@@ -198,6 +220,7 @@ private:
     bool m_isAsking = false;
     Lookup m_lookup;
     std::optional<FileState> m_known; ///< of the file last read or written
+    std::unique_ptr<FileWatch> m_watch;
     std::vector<std::unique_ptr<WindowController>> m_windowControllers;
 };
 

@@ -192,6 +192,7 @@ Document *DocumentController::adopt(std::unique_ptr<Document> document, Document
         connect(added, isAtFile, this,
                 [this, added] { m_recentFiles->add(added->fileUrl().toLocalFile()); });
     added->makeWindowControllers();
+    added->watchFile();
     for (const auto &controller : added->windowControllers()) {
         connect(controller.get(), &WindowController::closeRequested, this,
                 [this, added] { closeDocument(added); });

@@ -31,6 +31,26 @@ constexpr std::array notKeptTexts{
     NotKeptText{NotKept::HardLinks, "kNotKeptHardLinks"},
 };
 
+struct ChangeTexts
+{
+    FileState::Change change;
+    const char *message;
+    const char *text;
+};
+
+constexpr std::array changeTexts{
+    ChangeTexts{FileState::Change::Content, "kChangedOnDiskMessage", "kChangedOnDiskText"},
+    ChangeTexts{FileState::Change::Gone, "kGoneMessage", "kGoneText"},
+    ChangeTexts{FileState::Change::Unreadable, "kUnreadableMessage", "kUnreadableText"},
+};
+
+const ChangeTexts &textsOf(FileState::Change change)
+{
+    const auto found = std::find_if(changeTexts.begin(), changeTexts.end(),
+                                    [change](const auto &each) { return each.change == change; });
+    return found == changeTexts.end() ? changeTexts.front() : *found;
+}
+
 /// Says what the file has lost besides its old content.
 QString notKeptText(const QString &fileName, const std::vector<NotKept> &notKept)
 {
@@ -55,6 +75,26 @@ void DocumentSaving::writeToFile()
     write(m_document.fileUrl().toLocalFile(), m_document.knownState());
 }
 
+void DocumentSaving::writeToNewPlace(const QString &title)
+{
+    writeToChosenPlace({.title = title, .suggestedPath = suggestedPath(), .nameFilters = {}});
+}
+
+/// A folder whose disk was taken out may still be there; who saved in it would look for the list on
+/// the disk.
+QString DocumentSaving::suggestedPath() const
+{
+    const QUrl &own = m_document.fileUrl();
+    const QString path = (own.isEmpty() ? m_document.suggestedUrl() : own).toLocalFile();
+    const bool isOnItsDisk =
+        own.isEmpty() || FileState::none(path).isOnDeviceOf(m_document.knownState());
+    if (!path.isEmpty() && isOnItsDisk && isThere(QFileInfo(placeOf(path)).path()))
+        return path;
+    return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) + u'/' +
+           (path.isEmpty() ? qtTrId("kUntitled") + QLatin1String(".tll")
+                           : QFileInfo(path).fileName());
+}
+
 void DocumentSaving::writeToChosenPlace(const SavePanel &panel)
 {
     m_panel = panel;
@@ -62,8 +102,18 @@ void DocumentSaving::writeToChosenPlace(const SavePanel &panel)
         if (path.isEmpty())
             self->m_done(false, self->m_lastError);
         else
-            self->write(path, {});
+            self->write(path, self->expectedAt(path));
     });
+}
+
+/// Who chooses the document's own file to be replaced need not know that others have changed it.
+std::optional<FileState> DocumentSaving::expectedAt(const QString &path) const
+{
+    if (!samePlace(path, m_document.fileUrl().toLocalFile()))
+        return {};
+    const FileState known = m_document.knownState();
+    const bool isChanged = FileState::at(path).contentChangeSince(known) != FileState::Change::None;
+    return isChanged ? std::optional(known) : std::nullopt;
 }
 
 void DocumentSaving::write(const QString &path, const std::optional<FileState> &expected)
@@ -96,20 +146,29 @@ void DocumentSaving::review(const QByteArray &bytes, const Decided &decided)
 
 void DocumentSaving::confirm(FileState::Change change, const std::function<void(bool)> &answered)
 {
+    const auto chosen = [self = shared_from_this(), answered](Choice choice) {
+        self->m_next = choice;
+        answered(choice == Choice::Write);
+    };
+    const QString folder = QFileInfo(placeOf(m_path)).path();
+    if (!isThere(folder))
+        return offer({.message = qtTrId("kFolderGoneMessage").arg(shownPath(shortPath(folder))),
+                      .informativeText = qtTrId("kFolderGoneText"),
+                      .buttons = {},
+                      .cancelButton = 1},
+                     {Choice::OtherPlace, Choice::Cancel}, chosen);
     const bool isGone = change == FileState::Change::Gone;
+    const ChangeTexts &texts = textsOf(change);
     Alert alert;
-    alert.message = qtTrId(isGone ? "kGoneMessage" : "kChangedOnDiskMessage").arg(targetName());
-    alert.informativeText = qtTrId(isGone ? "kGoneText" : "kChangedOnDiskText");
+    alert.message = qtTrId(texts.message).arg(targetName());
+    alert.informativeText = qtTrId(texts.text);
     alert.buttons = {qtTrId("kCancel"), qtTrId(isGone ? "kSaveHereAnyway" : "kSaveAnyway")};
     alert.cancelButton = 0;
     alert.destructiveButton = 1;
     std::vector<Choice> choices{Choice::Cancel, Choice::Write, Choice::OtherPlace};
     if (isOwnFile() && !isGone)
         choices.push_back(Choice::Reload);
-    offer(std::move(alert), choices, [self = shared_from_this(), answered](Choice choice) {
-        self->m_next = choice;
-        answered(choice == Choice::Write);
-    });
+    offer(std::move(alert), choices, chosen);
 }
 
 void DocumentSaving::finished(const SaveJob::Result &result)

@@ -31,6 +31,9 @@ public:
 
     /// Writes to the document's own file.
     void writeToFile();
+    /// Asks for a place with a panel of that title, which suggests the document's own or the one
+    /// suggested for it, and writes there.
+    void writeToNewPlace(const QString &title);
     /// Asks for a place and writes there.
     void writeToChosenPlace(const SavePanel &panel);
 
@@ -50,7 +53,10 @@ private:
     void write(const QString &path, const std::optional<FileState> &expected);
     void presentFailure(const Error &error);
     void tellNotKept(const std::vector<NotKept> &notKept);
+    [[nodiscard]] QString suggestedPath() const;
     [[nodiscard]] SavePanel panelForCopy() const;
+    /// What is expected at a place that was chosen; none: whatever is there.
+    [[nodiscard]] std::optional<FileState> expectedAt(const QString &path) const;
     [[nodiscard]] QString targetName() const;
     [[nodiscard]] bool isOwnFile() const;
 

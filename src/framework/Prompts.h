@@ -46,6 +46,7 @@ struct SavePanel
     QString title;
     QString suggestedPath; ///< folder and name it starts with
     QStringList nameFilters;
+    QString explanation = {}; ///< of what is written, where the platform's panel has room for it
 };
 
 /// What a panel that asks how to print offers besides all pages, some and the current one.

@@ -141,6 +141,19 @@ void showAsPlainText(QMessageBox &box)
         label->setTextFormat(Qt::PlainText);
 }
 
+/// Only a panel of Qt's own has a layout to put it in.
+void addExplanation(QFileDialog &dialog, const QString &text)
+{
+    auto *grid = qobject_cast<QGridLayout *>(dialog.layout());
+    if (text.isEmpty() || !grid)
+        return;
+    auto *label = new QLabel(text, &dialog);
+    label->setObjectName(QStringLiteral("panelExplanation"));
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    grid->addWidget(label, grid->rowCount(), 0, 1, grid->columnCount());
+}
+
 int indexOfClickedButton(const QMessageBox &box, const Alert &alert)
 {
     for (int i = 0; i < alert.buttons.size(); ++i) {
@@ -207,6 +220,7 @@ void QtPrompts::showSavePanel(QWidget *window, const SavePanel &panel,
     dialog->setNameFilters(panel.nameFilters);
     dialog->setDefaultSuffix(suggested.suffix());
     dialog->selectFile(readable(suggested.fileName()));
+    addExplanation(*dialog, panel.explanation);
     // The name typed changes with the type by itself.
     QObject::connect(dialog, &QFileDialog::filterSelected, dialog, [dialog](const QString &filter) {
         const qsizetype dot = filter.indexOf(QLatin1String("(*."));

@@ -29,6 +29,7 @@ public:
     bool nameIsEditable = false;
     EmptyHint hint = EmptyHint::None;
     Notice notice;
+    FileNotice fileNotice;
     std::function<void()> selectionChanged = [] {};
     std::function<void()> reloaded = [] {};
     std::function<void(const ListChange &)> changed = [](const ListChange &) {};
@@ -75,6 +76,7 @@ public:
     void setNameColumnEditable(bool editable) override { nameIsEditable = editable; }
     void showEmptyHint(EmptyHint shown) override { hint = shown; }
     void showNotice(const Notice &shown) override { notice = shown; }
+    void showFileNotice(const FileNotice &shown) override { fileNotice = shown; }
     void tell(const QString &text) override { told = text; }
     void tellEdit(const QString &text) override { told = text; }
     [[nodiscard]] QWidget *sheetWindow() const override { return nullptr; }

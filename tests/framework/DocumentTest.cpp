@@ -8,6 +8,7 @@
 #include <QGuiApplication>
 #include <QMainWindow>
 #include <QSignalSpy>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -404,6 +405,104 @@ private slots:
         QVERIFY(m_prompts->isSettled() && m_prompts->alerts().empty());
     }
 
+    void otherContentIsKeptOrReplaced()
+    {
+        m_document->watchFile();
+        writeFile(m_path, "theirs");
+        QTRY_COMPARE_WITH_TIMEOUT(m_document->fileNews(), FileState::Change::Content, 2000);
+        QCOMPARE(m_document->content, QByteArray("old"));
+        QVERIFY(!m_document->isDocumentEdited());
+        m_document->keepMine();
+        QCOMPARE(m_document->fileNews(), FileState::Change::None);
+        QVERIFY(m_document->isDocumentEdited());
+        QCOMPARE(save(), std::optional<bool>(true)); // without a question
+        QCOMPARE(contentOf(m_path), QByteArray("old"));
+        writeFile(m_path, "theirs");
+        QTRY_COMPARE_WITH_TIMEOUT(m_document->fileNews(), FileState::Change::Content, 2000);
+        m_document->reloadDocument();
+        QCOMPARE(m_document->fileNews(), FileState::Change::None);
+        QCOMPARE(m_document->content, QByteArray("theirs"));
+        QVERIFY(m_prompts->alerts().empty());
+    }
+
+    void saveOfAFileThatIsGoneAsksForAPlace_data()
+    {
+        QTest::addColumn<bool>("withItsFolder");
+        QTest::newRow("renamed") << false;
+        QTest::newRow("with its folder") << true;
+    }
+    void saveOfAFileThatIsGoneAsksForAPlace()
+    {
+        QFETCH(bool, withItsFolder);
+        const QString folder = m_folder->filePath(id("folder"));
+        const QString path = folder + id("/list.tll");
+        QVERIFY(QDir().mkdir(folder) && QFile::copy(m_path, path));
+        Error error;
+        QVERIFY(m_document->readFromUrl(QUrl::fromLocalFile(path), {}, error));
+        m_document->watchFile();
+        m_document->edit("mine");
+        QVERIFY(QDir().rename(withItsFolder ? folder : path, m_folder->filePath(id("away"))));
+        QTRY_COMPARE_WITH_TIMEOUT(m_document->fileNews(), FileState::Change::Gone, 2000);
+        for (const bool isReload : {false, true}) { // nothing to ask, nothing to read
+            m_prompts->answerAlert(id("kOK"));
+            isReload ? m_document->reloadDocument() : m_document->revertDocumentToSaved();
+            QVERIFY(m_prompts->lastText().startsWith(
+                id("kRevertFailedMessage list.tll %2\nkFileMissingReason")));
+        }
+        QTRY_VERIFY(m_prompts->isSettled());
+        m_prompts->answerSavePanel(m_folder->filePath(id("new.tll")));
+        QCOMPARE(save(), std::optional<bool>(true));
+        const QString documents =
+            QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+        QCOMPARE(m_prompts->savePanels().front().suggestedPath,
+                 withItsFolder ? documents + id("/list.tll") : path);
+        QCOMPARE(contentOf(m_folder->filePath(id("new.tll"))), QByteArray("mine"));
+        QCOMPARE(m_document->fileNews(), FileState::Change::None);
+    }
+
+    void folderThatGoesWhileASaveAsksIsMissed()
+    {
+        const QString path = m_folder->filePath(id("folder/new.tll"));
+        const auto folderGoes = [&] { QVERIFY(QDir(QFileInfo(path).path()).removeRecursively()); };
+        QVERIFY(QDir().mkdir(QFileInfo(path).path()));
+        m_document->edit("mine");
+        m_document->duringReview = folderGoes;
+        m_prompts->answerSavePanel(path);
+        m_prompts->answerAlert(id("kChoosePlace"));
+        m_prompts->answerSavePanel({});
+        QCOMPARE(saveAs(), std::optional<bool>(false));
+        QVERIFY(m_prompts->isSettled());
+        QVERIFY(m_prompts->lastText().startsWith(id("kFolderGoneMessage")));
+        QVERIFY(m_document->isDocumentEdited());
+        QCOMPARE(m_document->fileUrl(), QUrl::fromLocalFile(m_path));
+    }
+
+    void savedAsItIsTheDocumentsFile()
+    {
+        const QString path = m_folder->filePath(id("copy.tll"));
+        const QSignalSpy chosen(m_document.get(), &Document::placeWasChosen);
+        QVERIFY(m_document->canSaveAs()); // also without changes
+        m_prompts->answerSavePanel(path);
+        QCOMPARE(saveAs(), std::optional<bool>(true));
+        QCOMPARE(m_prompts->savePanels().front().suggestedPath, m_path);
+        QCOMPARE(m_document->fileUrl(), QUrl::fromLocalFile(path));
+        QCOMPARE(chosen.count(), 1);
+        QCOMPARE(contentOf(path), QByteArray("old"));
+        m_document->edit("mine");
+        QCOMPARE(save(), std::optional<bool>(true));
+        QCOMPARE(contentOf(path), QByteArray("mine"));
+        QCOMPARE(contentOf(m_path), QByteArray("old"));
+        QVERIFY(m_prompts->alerts().empty());
+        // In its own place it is a save like any other.
+        writeFile(path, "theirs");
+        m_prompts->answerSavePanel(path);
+        m_prompts->answerAlert(id("kCancel"));
+        QCOMPARE(saveAs(), std::optional<bool>(false));
+        QCOMPARE(m_prompts->lastText().section(u' ', 0, 0), id("kChangedOnDiskMessage"));
+        QCOMPARE(contentOf(path), QByteArray("theirs"));
+        QVERIFY(!BytesDocument().canSaveAs());
+    }
+
     void saveThatExhaustsTheMemoryTouchesNothing()
     {
         m_document->edit("mine");
@@ -451,8 +550,16 @@ private slots:
 private:
     std::optional<bool> save()
     {
+        return answerOf(&Document::saveDocument);
+    }
+    std::optional<bool> saveAs()
+    {
+        return answerOf(&Document::saveDocumentAs);
+    }
+    std::optional<bool> answerOf(void (Document::*command)(std::function<void(bool)>))
+    {
         std::optional<bool> answer;
-        m_document->saveDocument([&answer](bool saved) { answer = saved; });
+        (*m_document.*command)([&answer](bool saved) { answer = saved; });
         [&] { QTRY_VERIFY(answer.has_value()); }();
         return answer;
     }

@@ -155,9 +155,12 @@ private slots:
             m_window.get(),
             {.title = {},
              .suggestedPath = folder.filePath(QStringLiteral("list.txt")),
-             .nameFilters = {QStringLiteral("A (*.txt)"), QStringLiteral("B (*.tll)")}},
+             .nameFilters = {QStringLiteral("A (*.txt)"), QStringLiteral("B (*.tll)")},
+             .explanation = QStringLiteral("a copy")},
             [&path](const QString &answer) { path = answer; });
         auto *dialog = m_window->findChild<QFileDialog *>(QStringLiteral("savePanel"));
+        auto *explanation = dialog->findChild<QLabel *>(QStringLiteral("panelExplanation"));
+        QVERIFY(explanation && explanation->isVisible());
         auto *type = dialog->findChild<QComboBox *>(QStringLiteral("fileTypeCombo"));
         QVERIFY(type && type->count() == 2);
         type->setCurrentIndex(1);

@@ -14,6 +14,7 @@
 
 #include <cerrno>
 #include <cstring>
+#include <functional>
 #include <optional>
 #include <utility>
 
@@ -143,6 +144,22 @@ bool fillUp(const QString &path, qint64 free)
 }
 #endif
 
+/// Somebody else does something, once, while the new file is brought onto the disk.
+class Meddling : public FileOperations
+{
+public:
+    explicit Meddling(std::function<void()> happens) : m_happens(std::move(happens)) {}
+    bool sync(QFile &file, QString &reason) override
+    {
+        if (const auto happens = std::exchange(m_happens, {}))
+            happens();
+        return FileOperations::sync(file, reason);
+    }
+
+private:
+    std::function<void()> m_happens;
+};
+
 } // namespace
 
 /// Saving on real disks that refuse it.
@@ -243,31 +260,61 @@ private slots:
         QVERIFY(save());
         QCOMPARE(contentOf(path), QByteArray("newer"));
     }
+
+    void diskThatComesBackIsKnown()
+    {
+        SmallDisk disk("size=64k");
+        if (!disk.isMounted())
+            QSKIP(disk.reason());
+        const QString path = disk.filePath("list.tll");
+        writeFile(path, "old");
+        open(path, "new");
+        m_document->watchFile();
+        disk.takeOut();
+        QTRY_COMPARE_WITH_TIMEOUT(m_document->fileNews(), FileState::Change::Gone, 2000);
+        m_prompts->answerSavePanel({});
+        QVERIFY(!save()); // the folder is there, but not on the disk that the file was on
+        QVERIFY(QFileInfo(m_prompts->savePanels().front().suggestedPath).path() !=
+                QFileInfo(path).path());
+        disk.putIn(); // as another device
+        writeFile(path, "old");
+        QTRY_COMPARE_WITH_TIMEOUT(m_document->fileNews(), FileState::Change::None, 2000);
+        QVERIFY(save());
+        QCOMPARE(contentOf(path), QByteArray("new"));
+        QVERIFY(m_prompts->isSettled() && m_prompts->alerts().empty());
+    }
 #endif
+
+    void linkThatIsChangedWhileItIsWrittenIsFollowed()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("link.tll"));
+        const QString first = folder.filePath(QStringLiteral("first.tll"));
+        const QString second = folder.filePath(QStringLiteral("second.tll"));
+        for (const QString &each : {first, second})
+            writeFile(each, "old");
+        QVERIFY(QFile::link(first, path));
+        open(path, "new");
+        Meddling operations([&] {
+            QVERIFY(QFile::remove(path) && QFile::link(second, path));
+            writeFile(first, "theirs");
+        });
+        m_document->setFileOperations(operations);
+        QVERIFY(save());
+        QCOMPARE(contentOf(first), QByteArray("theirs"));
+        QCOMPARE(contentOf(second), QByteArray("new"));
+    }
 
     void changeWhileItIsWrittenIsAskedAbout()
     {
-        /// Somebody else writes the file while the new one is brought onto the disk.
-        class MeddledOperations : public FileOperations
-        {
-        public:
-            QString path;
-            bool sync(QFile &file, QString &reason) override
-            {
-                if (!path.isEmpty())
-                    writeFile(std::exchange(path, {}), "theirs");
-                return FileOperations::sync(file, reason);
-            }
-        };
         const QTemporaryDir folder;
         const QString path = folder.filePath(QStringLiteral("list.tll"));
         writeFile(path, "old");
         open(path, "new");
-        MeddledOperations operations;
-        m_document->setFileOperations(operations);
         for (const bool mayWrite : {false, true}) {
             writeFile(path, "old");
-            operations.path = path;
+            Meddling operations([&] { writeFile(path, "theirs"); });
+            m_document->setFileOperations(operations);
             m_prompts->answerAlert(mayWrite ? QStringLiteral("kSaveAnyway")
                                             : QStringLiteral("kCancel"));
             QCOMPARE(save(), mayWrite);

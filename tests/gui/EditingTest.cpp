@@ -360,8 +360,8 @@ private slots:
         app.delegate.applicationDidFinishLaunching({app.write("a.tll", listOf(2))});
         QMainWindow *window = app.window(); // in the place of the empty one
         QVERIFY(window);
-        const QStringList opened{u"exportAsReferenceList"_s, u"printDocument"_s,
-                                 u"applyOrderClicked"_s, u"useRadioClicked"_s};
+        const QStringList opened{u"saveDocumentAs"_s, u"exportAsReferenceList"_s,
+                                 u"printDocument"_s, u"applyOrderClicked"_s, u"useRadioClicked"_s};
         QCOMPARE(enabledItems(*window), opened);
         selectRows(*window, {0});
         QCOMPARE(enabledItems(*window),
@@ -385,9 +385,9 @@ private:
     {
         QStringList names;
         for (const char *name :
-             {"saveDocument", "revertDocumentToSaved", "exportAsReferenceList", "printDocument",
-              "applyOrderClicked", "useRadioClicked", "moveItemsToClicked", "showInfo",
-              "skipSelectedItems", "changeChildLockForSelectedItems"}) {
+             {"saveDocument", "saveDocumentAs", "revertDocumentToSaved", "exportAsReferenceList",
+              "printDocument", "applyOrderClicked", "useRadioClicked", "moveItemsToClicked",
+              "showInfo", "skipSelectedItems", "changeChildLockForSelectedItems"}) {
             if (menuItem(window, name).isEnabled())
                 names.append(QString::fromLatin1(name));
         }

@@ -9,6 +9,7 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QAction>
+#include <QFile>
 #include <QLabel>
 #include <QSignalSpy>
 #include <QTest>
@@ -153,6 +154,47 @@ private slots:
         selectRows(*window, {0});
         menuItem(*window, "skipSelectedItems").trigger();
         QVERIFY(menuItem(*window, "revertDocumentToSaved").isEnabled());
+    }
+
+    void fileThatOthersChange()
+    {
+        App app;
+        const QMainWindow *window = app.open("a.tll", damagedList());
+        QVERIFY(window);
+        auto &bar = part<NoticeBar>(*window, "fileBar");
+        const auto press = [&bar](const char *name) {
+            QTest::keyClick(&part<QAbstractButton>(bar, name), Qt::Key_Space);
+        };
+        QVERIFY(!app.write("a.tll", listOf(4)).isEmpty());
+        QTRY_VERIFY_WITH_TIMEOUT(bar.isVisible(), 2000);
+        QVERIFY(barOf(*window).isVisible());
+        QCOMPARE(bar.text(), qtTrId("kNoticeFileChanged").arg(u"a.tll"_s));
+        QCOMPARE(part<QAbstractButton>(bar, "noticeAction").text(), label("kReload"));
+        QCOMPARE(tableOf(*window).model()->rowCount(), 3); // never by itself
+        press("noticeAction");
+        QVERIFY(!bar.isVisible() && !barOf(*window).isVisible());
+        QCOMPARE(tableOf(*window).model()->rowCount(), 4);
+
+        QVERIFY(!app.write("a.tll", listOf(5)).isEmpty());
+        QTRY_VERIFY_WITH_TIMEOUT(bar.isVisible(), 2000);
+        QVERIFY(!menuItem(*window, "saveDocument").isEnabled());
+        QCOMPARE(part<QAbstractButton>(bar, "noticeOther").text(), label("kKeepMine"));
+        press("noticeOther");
+        QVERIFY(!bar.isVisible() && window->isWindowModified());
+        menuItem(*window, "saveDocument").trigger();
+        QTRY_VERIFY(!window->isWindowModified());
+        QCOMPARE(contentOf(app.folder.filePath(u"a.tll"_s)), listOf(4));
+
+        QVERIFY(QFile::remove(app.folder.filePath(u"a.tll"_s)));
+        QTRY_VERIFY_WITH_TIMEOUT(bar.isVisible(), 2000);
+        QCOMPARE(bar.text(), qtTrId("kNoticeFileGone").arg(u"a.tll"_s));
+        QVERIFY(part<QAbstractButton>(bar, "noticeOther").isHidden());
+        QCOMPARE(part<QAbstractButton>(bar, "noticeAction").text(), label("kSaveAs"));
+        app.preset.answerSavePanel(app.folder.filePath(u"b.tll"_s));
+        press("noticeAction");
+        QTRY_COMPARE(documentOf(app, 0).displayName(), u"b.tll"_s);
+        QCOMPARE(contentOf(app.folder.filePath(u"b.tll"_s)), listOf(4));
+        QVERIFY(!bar.isVisible() && app.preset.isSettled() && app.preset.alerts().empty());
     }
 
     void badFileFormat_data()

@@ -3,6 +3,7 @@
 #include "app/Translations.h"
 #include "editor/EditorView.h"
 #include "editor/ElidedLabel.h"
+#include "editor/NoticeBar.h"
 #include "framework/Mnemonics.h"
 #include "framework/QtPrompts.h"
 #include "testing/TLLText.h"
@@ -330,6 +331,9 @@ private slots:
         QMainWindow *window = app.open("a.tll", list.first(list.lastIndexOf("</vchName>")));
         QVERIFY(window && part<QWidget>(*window, "noticeAction").isVisible());
         QCOMPARE(part<QLabel>(*window, "noticeText").text().count(u'\n'), 1);
+        part<NoticeBar>(*window, "fileBar")
+            .showNotice(NoticeBar::Kind::Warning, qtTrId("kNoticeFileChanged").arg(u"a.tll"_s),
+                        label("kReload"), label("kKeepMine"));
         QCOMPARE(clippedAtAnySize(*window), QString());
 
         part<QAbstractButton>(*window, "noticeAction").click();

@@ -1,0 +1,86 @@
+#include "files/FileWatch.h"
+
+#include "files/FileLooks.h"
+
+#include <QDeadlineTimer>
+#include <QThread>
+
+#include <chrono>
+
+namespace quillet {
+
+namespace {
+
+/// A look that takes longer waits for a disk that does not answer.
+constexpr std::chrono::milliseconds longestWait{200};
+
+} // namespace
+
+FileWatch::FileWatch(QObject *parent) : QObject(parent) {}
+
+FileWatch::~FileWatch()
+{
+    if (!m_thread)
+        return;
+    m_thread->quit();
+    if (m_thread->wait(QDeadlineTimer(longestWait)))
+        delete m_thread;
+    else // until the disk answers, which may be never
+        connect(m_thread, &QThread::finished, m_thread, &QObject::deleteLater);
+}
+
+void FileWatch::watch(const FileState &known)
+{
+    if (!m_thread) {
+        m_thread = new QThread;
+        m_thread->setObjectName(QStringLiteral("FileWatch"));
+        m_looks = new FileLooks;
+        m_looks->moveToThread(m_thread);
+        connect(m_looks, &FileLooks::found, this, &FileWatch::compare);
+        connect(m_thread, &QThread::finished, m_looks, &QObject::deleteLater);
+        m_thread->start();
+    }
+    m_known = known;
+    m_wasAway = false;
+    ++m_number;
+    QMetaObject::invokeMethod(
+        m_looks, [looks = m_looks, known, number = m_number] { looks->start(known, number); },
+        Qt::QueuedConnection);
+    tell(FileState::Change::None, {});
+}
+
+void FileWatch::stop()
+{
+    m_known.reset();
+    ++m_number;
+    if (m_looks)
+        QMetaObject::invokeMethod(m_looks, &FileLooks::stop, Qt::QueuedConnection);
+    tell(FileState::Change::None, {});
+}
+
+void FileWatch::compare(const FileState &state, quint64 number)
+{
+    if (number != m_number || !m_known)
+        return;
+    // A disk that was taken out may come back as another device. When nothing was there in between,
+    // the file is told by its content alone.
+    m_wasAway = m_wasAway || !state.exists();
+    const FileState::Change news =
+        m_wasAway ? state.contentChangeSince(*m_known) : state.changeSince(*m_known);
+    if (news != FileState::Change::None)
+        return tell(news, state);
+    m_wasAway = false;
+    m_known = state;
+    tell(news, {});
+}
+
+void FileWatch::tell(FileState::Change news, const std::optional<FileState> &found)
+{
+    const bool isNews = news != m_news || (found && m_found && !found->hasSameContent(*m_found));
+    m_news = news;
+    m_found = found;
+    if (isNews)
+        emit newsChanged();
+}
+
+} // namespace quillet

@@ -331,7 +331,7 @@
     </message>
     <message id="kExportExplanation">
         <source></source>
-        <translation>Geschrieben wird eine Kopie der ganzen Senderliste, so wie „Speichern“ sie schreiben würde, unter dem Namen, den Sie wählen. Die Datei dieses Fensters bleibt, wie sie ist. Ihre Reihenfolge lässt sich auf andere Listen anwenden, wenn ihr Name auf „.tll“ endet.</translation>
+        <translation>Geschrieben wird eine Kopie der ganzen Senderliste, so wie „Speichern“ sie schreiben würde, unter dem Namen, den Sie wählen. Die Datei dieses Fensters bleibt, wie sie ist. Die Reihenfolge der Kopie lässt sich auf andere Listen anwenden, wenn ihr Name auf „.tll“ endet.</translation>
     </message>
     <message id="kExportFailedMessage">
         <source></source>

@@ -331,7 +331,7 @@
     </message>
     <message id="kExportExplanation">
         <source></source>
-        <translation>Viene scritta una copia dell’intera lista di canali, come la scriverebbe “Salva”, con il nome che scegli. Il file di questa finestra resta com’è. Il suo ordine può essere applicato ad altre liste se il suo nome termina con “.tll”.</translation>
+        <translation>Viene scritta una copia dell’intera lista di canali, come la scriverebbe “Salva”, con il nome che scegli. Il file di questa finestra resta com’è. L’ordine della copia può essere applicato ad altre liste se il suo nome termina con “.tll”.</translation>
     </message>
     <message id="kExportFailedMessage">
         <source></source>

@@ -331,7 +331,7 @@
     </message>
     <message id="kExportExplanation">
         <source></source>
-        <translation>Er wordt een kopie van de hele zenderlijst geschreven, zoals “Opslaan” die zou schrijven, onder de naam die u kiest. Het bestand van dit venster blijft zoals het is. De volgorde ervan kan op andere lijsten worden toegepast als de naam op “.tll” eindigt.</translation>
+        <translation>Er wordt een kopie van de hele zenderlijst geschreven, zoals “Opslaan” die zou schrijven, onder de naam die u kiest. Het bestand van dit venster blijft zoals het is. De volgorde van de kopie kan op andere lijsten worden toegepast als de naam op “.tll” eindigt.</translation>
     </message>
     <message id="kExportFailedMessage">
         <source></source>

@@ -337,7 +337,7 @@
     </message>
     <message id="kExportExplanation">
         <source></source>
-        <translation>Zapisywana jest kopia całej listy kanałów, taka jaką zapisałoby „Zapisz”, pod wybraną nazwą. Plik tego okna pozostaje bez zmian. Jej kolejność można zastosować do innych list, jeśli jej nazwa kończy się na „.tll”.</translation>
+        <translation>Zapisywana jest kopia całej listy kanałów, taka jaką zapisałoby „Zapisz”, pod wybraną nazwą. Plik tego okna pozostaje bez zmian. Kolejność kopii można zastosować do innych list, jeśli jej nazwa kończy się na „.tll”.</translation>
     </message>
     <message id="kExportFailedMessage">
         <source></source>

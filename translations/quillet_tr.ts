@@ -325,7 +325,7 @@
     </message>
     <message id="kExportExplanation">
         <source></source>
-        <translation>Kanal listesinin tamamının “Kaydet” komutunun yazacağı gibi bir kopyası, seçtiğiniz adla yazılır. Bu pencerenin dosyası olduğu gibi kalır. Adı “.tll” ile bitiyorsa sırası başka listelere uygulanabilir.</translation>
+        <translation>Kanal listesinin tamamının “Kaydet” komutunun yazacağı gibi bir kopyası, seçtiğiniz adla yazılır. Bu pencerenin dosyası olduğu gibi kalır. Kopyanın adı “.tll” ile bitiyorsa sırası başka listelere uygulanabilir.</translation>
     </message>
     <message id="kExportFailedMessage">
         <source></source>

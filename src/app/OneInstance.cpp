@@ -110,8 +110,6 @@ void OneInstance::welcome()
                 [this, socket, received = QByteArray()]() mutable { read(socket, received); });
         connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
         QTimer::singleShot(patience, socket, &QObject::deleteLater);
-        if (socket->bytesAvailable() > 0)
-            emit socket->readyRead();
     }
 }
 

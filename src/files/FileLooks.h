@@ -5,9 +5,9 @@
 
 #include <QElapsedTimer>
 #include <QObject>
+#include <QStringList>
 
 #include <chrono>
-#include <optional>
 
 class QFileSystemWatcher;
 class QTimer;
@@ -26,11 +26,12 @@ public:
     static constexpr std::chrono::milliseconds interval{900};
     /// Nothing may have happened for so long before the file is read.
     static constexpr std::chrono::milliseconds settling{600};
+    /// A file that never comes to rest is read all the same.
+    static constexpr std::chrono::milliseconds patience{10'000};
 
-    /// Looks at the path of that state from here on, once at least. The number comes back with
-    /// what is found.
-    void start(const quillet::FileState &known, quint64 number);
-    void stop();
+    /// Looks at that path from here on and reads what is there, once at least. The number comes
+    /// back with what is found.
+    void start(const QString &path, quint64 number);
 
 signals:
     /// The file was read: what is there, whether anything has changed or not.
@@ -39,15 +40,19 @@ signals:
 private:
     void setUp();
     void look();
+    void lookSoon();
+    void read(bool isLate);
     void expectMore();
     void watchPaths();
 
     QTimer *m_timer = nullptr;
     QFileSystemWatcher *m_watcher = nullptr;
-    std::optional<FileState> m_known; ///< none: nothing to look at
+    QString m_path;
     quint64 m_number = 0;
     FileMark m_mark;
-    QElapsedTimer m_quiet; ///< since something was last seen to happen; invalid: settled
+    QStringList m_unwatchable; ///< paths that are only looked at
+    QElapsedTimer m_quiet;     ///< since something was last seen to happen; invalid: settled
+    QElapsedTimer m_restless;  ///< since the file was settled
 };
 
 } // namespace quillet

@@ -44,17 +44,9 @@ void FileWatch::watch(const FileState &known)
     m_wasAway = false;
     ++m_number;
     QMetaObject::invokeMethod(
-        m_looks, [looks = m_looks, known, number = m_number] { looks->start(known, number); },
+        m_looks,
+        [looks = m_looks, path = known.path(), number = m_number] { looks->start(path, number); },
         Qt::QueuedConnection);
-    tell(FileState::Change::None, {});
-}
-
-void FileWatch::stop()
-{
-    m_known.reset();
-    ++m_number;
-    if (m_looks)
-        QMetaObject::invokeMethod(m_looks, &FileLooks::stop, Qt::QueuedConnection);
     tell(FileState::Change::None, {});
 }
 
@@ -69,8 +61,9 @@ void FileWatch::compare(const FileState &state, quint64 number)
         m_wasAway ? state.contentChangeSince(*m_known) : state.changeSince(*m_known);
     if (news != FileState::Change::None)
         return tell(news, state);
+    if (m_wasAway)
+        m_known = state;
     m_wasAway = false;
-    m_known = state;
     tell(news, {});
 }
 

@@ -26,8 +26,6 @@ public:
 
     /// Watches the path of that state, from which everything else is a change; nothing is news.
     void watch(const FileState &known);
-    /// Watches nothing.
-    void stop();
 
     /// What has become of the file; None while it is as known.
     [[nodiscard]] FileState::Change news() const { return m_news; }

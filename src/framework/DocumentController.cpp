@@ -149,7 +149,7 @@ Document *DocumentController::open(const QUrl &url, Error &error)
         if (untouched)
             remove(untouched);
     }
-    m_recentFiles->add(url.toLocalFile());
+    m_recentFiles->add(document->fileUrl().toLocalFile());
     return document;
 }
 

@@ -51,6 +51,12 @@ const ChangeTexts &textsOf(FileState::Change change)
     return found == changeTexts.end() ? changeTexts.front() : *found;
 }
 
+/// A list is saved under any name.
+QString allFiles()
+{
+    return qtTrId("kFilterAllFiles") + QLatin1String(" (*)");
+}
+
 /// Says what the file has lost besides its old content.
 QString notKeptText(const QString &fileName, const std::vector<NotKept> &notKept)
 {
@@ -77,7 +83,8 @@ void DocumentSaving::writeToFile()
 
 void DocumentSaving::writeToNewPlace(const QString &title)
 {
-    writeToChosenPlace({.title = title, .suggestedPath = suggestedPath(), .nameFilters = {}});
+    writeToChosenPlace(
+        {.title = title, .suggestedPath = suggestedPath(), .nameFilters = {allFiles()}});
 }
 
 /// A folder whose disk was taken out may still be there; who saved in it would look for the list on
@@ -262,7 +269,8 @@ SavePanel DocumentSaving::panelForCopy() const
     if (!canBeReplaced(suggested))
         suggested = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) + u'/' +
                     file.fileName();
-    return {.title = qtTrId("kSaveCopyTitle"), .suggestedPath = suggested, .nameFilters = {}};
+    return {
+        .title = qtTrId("kSaveCopyTitle"), .suggestedPath = suggested, .nameFilters = {allFiles()}};
 }
 
 QString DocumentSaving::targetName() const

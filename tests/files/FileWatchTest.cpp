@@ -5,6 +5,7 @@
 #include "testing/TestFiles.h"
 #include "testing/TestMain.h"
 
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QSignalSpy>
@@ -12,8 +13,11 @@
 #include <QTest>
 #include <QTimer>
 
+#include <deque>
 #include <filesystem>
 #include <functional>
+#include <memory>
+#include <vector>
 
 #ifndef Q_OS_WIN
 #include "files/OrdinaryUser.h"
@@ -42,9 +46,6 @@ void replaceFile(const QString &path, const QByteArray &bytes)
 
 } // namespace
 
-Q_DECLARE_METATYPE(quillet::FileState::Change)
-Q_DECLARE_METATYPE(std::function<void()>)
-
 /// What others do to a file that is watched; every wait is bounded by what is promised.
 class FileWatchTest : public QObject
 {
@@ -60,65 +61,63 @@ private slots:
         writeFile(m_path, "old");
     }
 
-    void changesAreTold_data()
-    {
-        QTest::addColumn<std::function<void()>>("happens");
-        QTest::addColumn<Change>("news");
-        const auto row = [](const char *name, const std::function<void()> &happens, Change news) {
-            QTest::newRow(name) << happens << news;
-        };
-        row(
-            "written", [this] { writeFile(m_path, "newer"); }, Change::Content);
-        row(
-            "truncated", [this] { writeFile(m_path, ""); }, Change::Content);
-        row(
-            "replaced", [this] { replaceFile(m_path, "new"); }, Change::Content);
-        row(
-            "as long and as old",
-            [this] {
-                const auto time = fs::last_write_time(nativePath(m_path));
-                writeFile(m_path, "new");
-                fs::last_write_time(nativePath(m_path), time);
-            },
-            Change::Content);
-        row(
-            "removed", [this] { QFile::remove(m_path); }, Change::Gone);
-        row(
-            "renamed", [this] { QFile::rename(m_path, m_path + u'2'); }, Change::Gone);
-        row(
-            "its folder renamed", [this] { QDir().rename(m_folder, m_folder + u'2'); },
-            Change::Gone);
-        row(
-            "its folder exchanged",
-            [this] {
-                QVERIFY(QDir().rename(m_folder, m_folder + u'2') && QDir().mkdir(m_folder));
-                writeFile(m_path, "new");
-            },
-            Change::Content);
-        row(
-            "a folder in its place",
-            [this] { QVERIFY(QFile::remove(m_path) && QDir().mkdir(m_path)); }, Change::Unreadable);
-#ifndef Q_OS_WIN
-        row(
-            "a pipe in its place",
-            [this] {
-                QVERIFY(QFile::remove(m_path));
-                QCOMPARE(::mkfifo(bytesOfPath(m_path).constData(), 0600), 0);
-            },
-            Change::Unreadable);
-#endif
-    }
+    /// All at once, each to a file in a folder of its own.
     void changesAreTold()
     {
-        QFETCH(std::function<void()>, happens);
-        QFETCH(Change, news);
-        FileWatch watch;
-        watch.watch(FileState::at(m_path));
-        const QSignalSpy told(&watch, &FileWatch::newsChanged);
-        happens();
-        QTRY_COMPARE_WITH_TIMEOUT(watch.news(), news, promised);
-        QCOMPARE(watch.found()->obstacle().isEmpty(), news != Change::Unreadable);
-        QCOMPARE(told.count(), 1);
+        struct Case
+        {
+            const char *name;
+            std::function<void(const QString &path, const QString &folder)> happens;
+            Change news;
+        };
+        const auto exchange = [](const QString &folder) {
+            QVERIFY(QDir().rename(folder, folder + u'2') && QDir().mkdir(folder));
+        };
+        const std::vector<Case> cases{
+            {"written", [](auto &path, auto &) { writeFile(path, "newer"); }, Change::Content},
+            {"truncated", [](auto &path, auto &) { writeFile(path, ""); }, Change::Content},
+            {"replaced", [](auto &path, auto &) { replaceFile(path, "new"); }, Change::Content},
+            {"removed", [](auto &path, auto &) { QFile::remove(path); }, Change::Gone},
+            {"renamed", [](auto &path, auto &) { QFile::rename(path, path + u'2'); }, Change::Gone},
+            {"folder renamed", [](auto &, auto &folder) { QDir().rename(folder, folder + u'2'); },
+             Change::Gone},
+            {"folder exchanged",
+             [&](auto &path, auto &folder) {
+                 exchange(folder);
+                 writeFile(path, "new");
+             },
+             Change::Content},
+            {"a folder in its place",
+             [&](auto &path, auto &) { QVERIFY(QFile::remove(path) && QDir().mkdir(path)); },
+             Change::Unreadable},
+#ifndef Q_OS_WIN
+            {"a pipe in its place",
+             [](auto &path, auto &) {
+                 QVERIFY(QFile::remove(path));
+                 QCOMPARE(::mkfifo(bytesOfPath(path).constData(), 0600), 0);
+             },
+             Change::Unreadable},
+#endif
+        };
+        std::deque<FileWatch> watches(cases.size());
+        std::vector<std::unique_ptr<QSignalSpy>> told;
+        for (std::size_t i = 0; i < cases.size(); ++i) {
+            const QString folder = m_root->filePath(QString::fromLatin1(cases[i].name));
+            const QString path = folder + u"/list.tll"_s;
+            QVERIFY(QDir().mkdir(folder));
+            writeFile(path, "old");
+            watches[i].watch(FileState::at(path));
+            told.push_back(std::make_unique<QSignalSpy>(&watches[i], &FileWatch::newsChanged));
+            cases[i].happens(path, folder);
+        }
+        const auto isTold = [&](std::size_t i) { return watches[i].news() == cases[i].news; };
+        const QDeadlineTimer deadline(promised);
+        for (std::size_t i = 0; i < cases.size(); ++i) {
+            const auto left = static_cast<int>(deadline.remainingTime());
+            QVERIFY2(QTest::qWaitFor([&] { return isTold(i); }, left), cases[i].name);
+            QCOMPARE(told[i]->count(), 1);
+            QCOMPARE(watches[i].found()->obstacle().isEmpty(), cases[i].news != Change::Unreadable);
+        }
     }
 
 #ifndef Q_OS_WIN
@@ -160,10 +159,16 @@ private slots:
         const QString folder = pathFromBytes(bytesOfPath(m_root->path()) + "/f\xFFr");
         fs::create_directory(nativePath(folder));
         const QString path = folder + u"/list.tll"_s;
+        writeFile(m_folder + u"/new"_s, "new");
         fs::copy(nativePath(m_path), nativePath(path));
         FileWatch watch;
         watch.watch(FileState::at(path));
-        QVERIFY(awaitLooks(path, 1));
+        QVERIFY(awaitLooks(path) && awaitLooks(path));
+        const auto time = fs::last_write_time(nativePath(path));
+        fs::copy(nativePath(m_folder + u"/new"_s), nativePath(path),
+                 fs::copy_options::overwrite_existing);
+        fs::last_write_time(nativePath(path), time); // as long and as old as before
+        QTRY_COMPARE_WITH_TIMEOUT(watch.news(), Change::Content, promised);
         fs::remove(nativePath(path));
         QTRY_COMPARE_WITH_TIMEOUT(watch.news(), Change::Gone, promised);
         fs::remove(nativePath(folder)); // which its own folder could not be
@@ -195,12 +200,12 @@ private slots:
         FileWatch watch;
         watch.watch(FileState::at(m_path));
         const QSignalSpy told(&watch, &FileWatch::newsChanged);
-        QVERIFY(awaitLooks(m_path, 1));
+        QVERIFY(awaitLooks(m_path));
         replaceFile(m_path, "old"); // with another time
-        QVERIFY(awaitLooks(m_path, 1));
+        QVERIFY(awaitLooks(m_path));
         replaceFile(m_path, "mine");
         watch.watch(FileState::of(m_path, "mine"));
-        QVERIFY(awaitLooks(m_path, 1));
+        QVERIFY(awaitLooks(m_path));
         QCOMPARE(told.count(), 0);
         replaceFile(m_path, "theirs");
         QTRY_COMPARE_WITH_TIMEOUT(told.count(), 1, promised);
@@ -224,13 +229,13 @@ private slots:
     }
 
 private:
-    /// Waits until looks that began now, beside the watch's own, have read the file so often.
-    static bool awaitLooks(const QString &path, int times)
+    /// Waits until looks that began now, beside the watch's own, have read the file.
+    static bool awaitLooks(const QString &path)
     {
         FileLooks looks;
-        const QSignalSpy found(&looks, &FileLooks::found);
-        looks.start(FileState::at(path), 0);
-        return QTest::qWaitFor([&] { return found.count() >= times; }, promised);
+        QSignalSpy found(&looks, &FileLooks::found);
+        looks.start(path, 0);
+        return found.wait(promised);
     }
 
     const ParameterTexts m_texts;

@@ -1,17 +1,23 @@
 #include "AppFixture.h"
 
+#include "app/OpenRequest.h"
 #include "app/TerminationSignals.h"
 #include "app/Translations.h"
 #include "document/SaveReview.h"
 #include "editor/EditorView.h"
+#include "files/FileNames.h"
+#include "framework/RecentFiles.h"
 #include "testing/TestMain.h"
 
 #include <QAccessible>
 #include <QAction>
 #include <QDialogButtonBox>
+#include <QDropEvent>
+#include <QFileOpenEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMimeData>
 #include <QPushButton>
 #include <QSettings>
 #include <QSignalSpy>
@@ -19,9 +25,46 @@
 #include <QTimer>
 
 #include <csignal>
+#include <filesystem>
 
 using namespace quillet;
 using namespace quillet::testing;
+
+namespace {
+
+enum class Way { Panel, Recent, Drop, OtherStart, FileManager };
+
+void openBy(Way way, App &app, QMainWindow &window, const QUrl &url)
+{
+    const QString path = pathFromUrl(url);
+    switch (way) {
+    case Way::Panel:
+        app.preset.answerOpenPanel({path});
+        return menuItem(window, "openDocument").trigger();
+    case Way::Recent:
+        app.delegate.documents().recentFiles().add(path);
+        emit part<QMenu>(window, "recentFiles").aboutToShow();
+        return part<QMenu>(window, "recentFiles").actions().constFirst()->trigger();
+    case Way::Drop: {
+        QMimeData data;
+        data.setUrls({url});
+        auto *editor = window.findChild<EditorView *>();
+        QDragEnterEvent enter({20, 20}, Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(editor, &enter);
+        QDropEvent event({20, 20}, Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(editor, &event);
+        return;
+    }
+    case Way::OtherStart:
+        return app.delegate.openRequested({{path}, {}});
+    case Way::FileManager: {
+        QFileOpenEvent event(url);
+        QApplication::sendEvent(qApp, &event);
+    }
+    }
+}
+
+} // namespace
 
 /// Several windows, the controls of one, and files that are no channel lists.
 class WindowsTest : public QObject
@@ -43,17 +86,69 @@ private slots:
         QVERIFY(!menuItem(*first, "fillGapsClicked").isChecked());
     }
 
-    void droppedFileOfAnotherWindowIsRaised()
+    void fileIsOpenOnce_data()
     {
+        QTest::addColumn<Way>("way");
+        QTest::addColumn<QByteArray>("name"); // percent-encoded
+        QTest::newRow("panel") << Way::Panel << QByteArray("link.tll");
+        QTest::newRow("recent") << Way::Recent << QByteArray("link.tll");
+        QTest::newRow("drop") << Way::Drop << QByteArray("hard.tll");
+        QTest::newRow("drop, encoded") << Way::Drop << QByteArray("%61%E4.tll");
+        QTest::newRow("other start") << Way::OtherStart << QByteArray("link.tll");
+        QTest::newRow("other start, up") << Way::OtherStart << QByteArray("far/../../a%E4.tll");
+        QTest::newRow("file manager") << Way::FileManager << QByteArray("a%E4.tll");
+    }
+    /// By whichever way it comes and whatever it is called.
+    void fileIsOpenOnce()
+    {
+        QFETCH(Way, way);
+        QFETCH(QByteArray, name);
+        namespace fs = std::filesystem;
         App app;
-        QMainWindow *first = app.open("a.tll", listOf(3));
+        const fs::path folder = nativePath(app.folder.path());
+        const fs::path file = folder / "a\xE4.tll"; // no text
+        fs::copy_file(nativePath(app.write("a.tll", listOf(3))), file);
+        fs::remove(folder / "a.tll");
+        fs::create_symlink(file, folder / "link.tll");
+        fs::create_hard_link(file, folder / "hard.tll");
+        fs::create_directories(folder / "x/y");
+        fs::create_directory_symlink("x/y", folder / "far");
+        app.delegate.applicationDidFinishLaunching({pathFromNative(file)});
+        QMainWindow *first = app.window();
         app.delegate.documents().newDocument();
         QMainWindow *second = app.window(2);
         QVERIFY(first && second);
-        second->findChild<EditorView *>()->controller().loadTLLFile(
-            app.folder.filePath(QStringLiteral("a.tll")));
+        RecentFiles &recent = app.delegate.documents().recentFiles();
+        recent.clear();
+
+        const QUrl url =
+            QUrl::fromEncoded("file://" + QFile::encodeName(app.folder.path()) + '/' + name);
+        const QString path = pathFromUrl(url);
+        openBy(way, app, *second, url);
         QVERIFY(QTest::qWaitForWindowActive(first));
+        QVERIFY(app.preset.isSettled());
+        QCOMPARE(app.delegate.documents().documents().size(), std::size_t{2});
         QCOMPARE(tableOf(*second).model()->rowCount(), 0);
+        QCOMPARE(recent.paths().constFirst(), pathFromNative(file));
+    }
+
+    void droppedFileIsRecent()
+    {
+        App app;
+        app.delegate.applicationDidFinishLaunching({});
+        const QString path = app.write("a.tll", listOf(3));
+        openBy(Way::Drop, app, *app.window(), QUrl::fromLocalFile(path));
+        QTRY_COMPARE(app.delegate.documents().recentFiles().paths(), QStringList{path});
+        // A start without files brings a window to the front, and none when it is asked to quit.
+        app.window()->showMinimized();
+        QVERIFY(app.delegate.mayOpen());
+        app.delegate.openRequested({});
+        QVERIFY(app.window() && !app.window()->isMinimized());
+        app.delegate.documents().documents().front()->updateChangeCount(Document::Change::Done);
+        app.delegate.terminate();
+        QVERIFY(!app.delegate.mayOpen());
+        app.preset.answerAlert(label("kCancel"));
+        QTRY_VERIFY(app.delegate.mayOpen());
     }
 
     void whatIsDoneSilentlyIsToldAndUndone()

@@ -112,9 +112,16 @@ void RecoveryDialog::makeRows()
 /// What can be brought back is selected to begin with.
 void RecoveryDialog::addRow(const RecoveryStore::Leftover &leftover)
 {
-    const QString place = leftover.state ? leftover.state->place() : leftover.folder->path();
+    const QString place = leftover.state ? leftover.state->place() : QString();
     const QFileInfo file(place);
-    const QString name = place.isEmpty() ? qtTrId("kUntitled") : shownPath(file.fileName());
+    QString name = place.isEmpty() ? qtTrId("kUntitled") : shownPath(file.fileName());
+    QString folder = place.isEmpty() ? QString() : file.path();
+    if (!leftover.state) {
+        name = qtTrId("kRecoveryUnreadable");
+        folder = leftover.folder->path();
+    } else if (!leftover.problem.isEmpty()) {
+        name += QStringLiteral(u" \u2014 ") + qtTrId("kRecoveryUnreadable");
+    }
     const int row = m_list->rowCount();
     const auto put = [this, row](Column column, const QString &text) {
         auto *item = new QTableWidgetItem(text);
@@ -122,8 +129,8 @@ void RecoveryDialog::addRow(const RecoveryStore::Leftover &leftover)
         m_list->setItem(row, column, item);
     };
     m_list->insertRow(row);
-    put(Name, leftover.state ? name : qtTrId("kRecoveryUnreadable"));
-    put(Folder, place.isEmpty() ? QString() : shownPath(shortPath(file.path())));
+    put(Name, name);
+    put(Folder, shownPath(shortPath(folder)));
     if (leftover.state) {
         const QLocale locale;
         put(LastChange, locale.toString(leftover.state->changedAt, QLocale::ShortFormat));

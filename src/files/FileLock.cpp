@@ -8,6 +8,7 @@
 #include <QCoreApplication>
 #include <QSysInfo>
 
+#include <cerrno>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -22,12 +23,14 @@ FileLock::FileLock(std::unique_ptr<QLockFile> file) : m_file(std::move(file)) {}
 
 FileLock::~FileLock() = default;
 
-std::unique_ptr<FileLock> FileLock::take(const QString &path)
+std::unique_ptr<FileLock> FileLock::take(const QString &path, QString &reason)
 {
     auto file = std::make_unique<QLockFile>(path);
     file->setStaleLockTime(0); // only a program that has ended leaves one
-    if (!file->tryLock(0))
+    if (!file->tryLock(0)) {
+        reason = qt_error_string();
         return nullptr;
+    }
     return std::unique_ptr<FileLock>(new FileLock(std::move(file)));
 }
 
@@ -51,15 +54,19 @@ FileLock::~FileLock()
     ::close(m_handle);
 }
 
-std::unique_ptr<FileLock> FileLock::take(const QString &path)
+std::unique_ptr<FileLock> FileLock::take(const QString &path, QString &reason)
 {
     const QByteArray name = bytesOfPath(path);
     const int handle = ::open(name.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW,
                               mode_t{S_IRUSR | S_IWUSR});
-    if (handle < 0)
+    if (handle < 0) {
+        reason = qt_error_string(errno);
         return nullptr;
+    }
     std::unique_ptr<FileLock> lock(new FileLock(handle));
-    if (::flock(handle, LOCK_EX | LOCK_NB) != 0 || !isStillThere(handle, name))
+    const bool isLocked = ::flock(handle, LOCK_EX | LOCK_NB) == 0;
+    reason = qt_error_string(isLocked ? ENOENT : errno);
+    if (!isLocked || !isStillThere(handle, name))
         return nullptr;
     const QByteArray owner = QByteArray::number(QCoreApplication::applicationPid()) + ' ' +
                              QSysInfo::machineHostName().toUtf8() + '\n';

@@ -17,8 +17,8 @@ class FileLock
 {
 public:
     /// Makes the file if need be. Null when another object or program holds it, when it vanished
-    /// meanwhile, or when it cannot be made.
-    [[nodiscard]] static std::unique_ptr<FileLock> take(const QString &path);
+    /// meanwhile, or when it cannot be made; then the reason is the system's.
+    [[nodiscard]] static std::unique_ptr<FileLock> take(const QString &path, QString &reason);
     ~FileLock();
     Q_DISABLE_COPY_MOVE(FileLock)
 

@@ -8,6 +8,7 @@
 #include "files/PrivateFolders.h"
 #include "files/ShownPath.h"
 
+#include <QFileInfo>
 #include <QRandomGenerator>
 #include <QUrl>
 
@@ -52,8 +53,11 @@ std::unique_ptr<RecoveryFolder> RecoveryFolder::make(const QString &root,
             continue;
         if (!makePrivateFolder(path, reason))
             break;
-        if (auto folder = take(path, operations))
+        if (auto folder = take(path, operations, reason)) {
+            for (const QString &above : {root, QFileInfo(root).path()})
+                operations.syncFolder(above);
             return folder;
+        }
         std::error_code unused;
         fs::remove(nativePath(path), unused);
     }
@@ -65,7 +69,14 @@ std::unique_ptr<RecoveryFolder> RecoveryFolder::make(const QString &root,
 std::unique_ptr<RecoveryFolder> RecoveryFolder::take(const QString &path,
                                                      FileOperations &operations)
 {
-    auto lock = FileLock::take(path + u'/' + lockName);
+    QString unused;
+    return take(path, operations, unused);
+}
+
+std::unique_ptr<RecoveryFolder> RecoveryFolder::take(const QString &path,
+                                                     FileOperations &operations, QString &reason)
+{
+    auto lock = FileLock::take(path + u'/' + lockName, reason);
     if (!lock)
         return nullptr;
     return std::unique_ptr<RecoveryFolder>(new RecoveryFolder(path, std::move(lock), operations));

@@ -31,6 +31,8 @@ public:
     /// One that is there; null when a living program has it.
     [[nodiscard]] static std::unique_ptr<RecoveryFolder> take(const QString &path,
                                                               FileOperations &operations);
+    [[nodiscard]] static std::unique_ptr<RecoveryFolder>
+    take(const QString &path, FileOperations &operations, QString &reason);
 
     /// Whether it is spelt as the names that folders are given.
     [[nodiscard]] static bool isName(QStringView name);

@@ -42,7 +42,7 @@ RecoveryState::Reading RecoveryState::decode(const QByteArray &bytes)
     quint32 foundMark = 0;
     quint32 version = 0;
     stream >> foundMark >> version;
-    if (foundMark != mark)
+    if (foundMark != mark || version == 0)
         return Reading::Damaged;
     if (version > currentVersion)
         return Reading::Newer;
@@ -51,10 +51,11 @@ RecoveryState::Reading RecoveryState::decode(const QByteArray &bytes)
     quint8 knownAs = 0;
     stream >> read.path >> read.suggested >> read.untouched >> read.fileType >> time >>
         read.changes >> knownAs >> read.content;
-    if (stream.status() != QDataStream::Ok || !stream.atEnd() ||
-        knownAs > static_cast<quint8>(Known::Own))
-        return Reading::Damaged;
     read.changedAt = QDateTime::fromMSecsSinceEpoch(time);
+    if (stream.status() != QDataStream::Ok || !stream.atEnd() || read.changes < 0 ||
+        knownAs > static_cast<quint8>(Known::Own) ||
+        read.changedAt.toMSecsSinceEpoch() != time) // out of the range of dates
+        return Reading::Damaged;
     read.known = static_cast<Known>(knownAs);
     *this = std::move(read);
     return Reading::Done;

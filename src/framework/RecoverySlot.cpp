@@ -20,6 +20,8 @@ RecoverySlot::RecoverySlot(RecoveryStore &store, std::unique_ptr<RecoveryFolder>
 bool RecoverySlot::write(const RecoverySnapshot &snapshot, Error &error)
 {
     try {
+        if (m_kept.folder && !m_kept.folder->has(Part::Original))
+            remove(); // somebody has cleared it away
         if (m_kept.folder && m_kept.original == snapshot.original)
             return writeInto(m_kept, snapshot, error);
         Kept other{m_store.makeFolder(error), snapshot.original};

@@ -1,6 +1,7 @@
 #include "EditorFixture.h"
 
 #include "document/write/TLLWriter.h"
+#include "testing/NothingLost.h"
 #include "testing/TestMain.h"
 
 #include <QDir>
@@ -40,7 +41,8 @@ struct State
 } // namespace
 
 /// Edits of every kind in both variants of the file, undone and made again at random: every state
-/// on the way back and forth is the one that was there before, to the last byte.
+/// on the way back and forth is the one that was there before, to the last byte, and recovery would
+/// bring it back.
 class RandomEditsTest : public QObject
 {
     Q_OBJECT
@@ -79,6 +81,9 @@ private slots:
                 states[index] = now;
             }
             QVERIFY2(now == states.at(index), qPrintable(u"turn %1"_s.arg(turn)));
+            if (const char *fault =
+                    turn % 5 == 0 ? faultOfBringingBack(editor.document.list()) : nullptr)
+                QFAIL(qPrintable(u"turn %1: "_s.arg(turn) + QLatin1String(fault)));
             QCOMPARE(states.size(), static_cast<std::size_t>(steps.count()) + 1);
             if (m_random.bounded(12) == 0) {
                 editor.document.setDirtyFlag(false); // as a save does

@@ -204,6 +204,20 @@ private slots:
         QCOMPARE(found[0].state->content, "d");
     }
 
+    void whatWasClearedAwayIsWrittenAgain()
+    {
+        watch({1ms, 1ms});
+        m_document->type("a");
+        m_keeper->writeNow();
+        QVERIFY(QDir(m_store->root()).removeRecursively());
+        m_document->type("b");
+        m_keeper.reset();
+        const auto found = m_store->leftovers();
+        QCOMPARE(found.size(), std::size_t{1});
+        QVERIFY(found[0].problem.isEmpty());
+        QCOMPARE(found[0].state->content, "b");
+    }
+
     void aFailureKeepsTheOlderState()
     {
         watch({1ms, 1ms});

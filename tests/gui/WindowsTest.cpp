@@ -6,12 +6,14 @@
 #include "document/SaveReview.h"
 #include "editor/EditorView.h"
 #include "files/FileNames.h"
+#include "files/FileOperations.h"
 #include "framework/RecentFiles.h"
 #include "testing/TestMain.h"
 
 #include <QAccessible>
 #include <QAction>
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QDropEvent>
 #include <QFileOpenEvent>
 #include <QLabel>
@@ -24,6 +26,7 @@
 #include <QTest>
 #include <QTimer>
 
+#include <chrono>
 #include <csignal>
 #include <filesystem>
 
@@ -172,21 +175,27 @@ private slots:
 
     void quitAsksAboutChanges()
     {
+        const QTemporaryDir state;
+        FileOperations operations;
+        RecoveryStore store(state.filePath(QStringLiteral("recovery")), operations);
         App app;
+        app.delegate.keepChanges(store, {std::chrono::hours(1), std::chrono::hours(1)});
         QMainWindow *window = app.open("a.tll", listOf(3));
         QVERIFY(window);
         selectRows(*window, {2});
         app.preset.answerAlert(label("kMovingOK"), QStringLiteral("1"));
         menuItem(*window, "moveItemsToClicked").trigger();
         QTRY_VERIFY(window->isWindowModified());
+        QVERIFY(QDir(store.root()).isEmpty());
         // Whatever asks for it, there is one question.
         const TerminationSignals termination;
         QSignalSpy received(&termination, &TerminationSignals::received);
         connect(&termination, &TerminationSignals::received, &app.delegate,
-                &AppDelegate::terminate);
+                &AppDelegate::terminateSoon);
         for (const int number : {SIGTERM, SIGINT, SIGHUP})
             QCOMPARE(std::raise(number), 0);
         QTRY_COMPARE(received.size(), 3);
+        QCOMPARE(QDir(store.root()).count(), 3u); // what may come now loses nothing
         menuItem(*window, "terminate").trigger();
         QVERIFY(!app.delegate.terminateNow());
         QCOMPARE(app.preset.alerts().size(), std::size_t{2}); // with the one of the move
@@ -203,6 +212,7 @@ private slots:
         QVERIFY(isEnding);
         QVERIFY(app.preset.isSettled() && app.delegate.documents().documents().empty());
         QCOMPARE(contentOf(app.folder.filePath(QStringLiteral("a.tll"))), listOf(3));
+        QTRY_VERIFY(QDir(store.root()).isEmpty());
     }
 
     void tabVisitsEveryControlOnce()

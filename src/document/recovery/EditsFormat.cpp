@@ -76,7 +76,6 @@ private:
             m_stream << part;
     }
     void put(const QByteArray &bytes) { m_stream << bytes; }
-    void put(const QBitArray &bits) { m_stream << bits; }
     void put(const QString &text) { m_stream << text; }
     void put(const Value &value) { writeValue(m_stream, value); }
     template<typename T, typename U>
@@ -136,7 +135,6 @@ private:
             m_stream >> part;
     }
     void take(QByteArray &bytes) { m_stream >> bytes; }
-    void take(QBitArray &bits) { m_stream >> bits; }
     void take(QString &text) { m_stream >> text; }
     void take(Value &value) { value = readValue(m_stream).value_or(Value()); }
     template<typename T, typename U>
@@ -151,8 +149,11 @@ private:
         bool isThere = false;
         m_stream >> isThere;
         part.reset();
-        if (isThere)
-            take(part.emplace());
+        if (!isThere)
+            return;
+        T content{};
+        take(content);
+        part = std::move(content);
     }
     template<typename T>
     void take(std::vector<T> &parts)

@@ -134,7 +134,7 @@ ListDifference ListDifference::of(const TakenList &list)
     const OriginalEntries originals(list.tree, list.channels);
     QHash<const LGStation *, quint32> places;
     places.reserve(static_cast<qsizetype>(list.stations.size()));
-    result.namesRead.resize(static_cast<qsizetype>(list.stations.size()));
+    result.namesRead.fill('\0', static_cast<qsizetype>(list.stations.size()));
     for (quint32 place = 0; place < result.stationCount; ++place) {
         const TakenList::Station &taken = list.stations[place];
         places.insert(taken.id, place);
@@ -146,7 +146,7 @@ ListDifference ListDifference::of(const TakenList &list)
         if (!isAsRead)
             noteFields(taken.entry, original, station);
         if (!taken.name.read.isEmpty()) {
-            result.namesRead.setBit(place);
+            result.namesRead[place] = 1;
             if (taken.name.read != nameIn(original, list.isLegacyFormat))
                 station.nameRead = taken.name.read;
         }
@@ -202,7 +202,7 @@ bool ListDifference::applyTo(ChannelList &fresh) const
         const StationPtr &station = roll[place].station;
         Dictionary entry = originals.at(roll[place].place);
         LGStation::RememberedName name;
-        if (namesRead.testBit(static_cast<qsizetype>(place)))
+        if (namesRead[static_cast<qsizetype>(place)] != 0)
             name.read = station->stationName();
         if (changed != stations.end() && changed->place == place) {
             if (changed->isWhole)

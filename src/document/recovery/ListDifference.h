@@ -3,7 +3,6 @@
 #include "model/StationSource.h"
 #include "xml/Value.h"
 
-#include <QBitArray>
 #include <QByteArray>
 #include <QString>
 
@@ -51,7 +50,7 @@ struct ListDifference
     std::array<qint64, 3> headerLengths{}; ///< of ATV, DTV and JSON
     std::optional<Footer> footer;
     std::vector<Station> stations;
-    QBitArray namesRead; ///< by places on the roll
+    QByteArray namesRead; ///< by places on the roll: 1 where a name was read, else 0
     std::array<std::vector<Run>, std::size_t{2} * stationSourceCount> lists;
 
     [[nodiscard]] static ListDifference of(const TakenList &list);

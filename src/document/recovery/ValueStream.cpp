@@ -4,6 +4,7 @@
 #include "xml/ParseLimits.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 #include <vector>
 
@@ -95,7 +96,9 @@ Value readNested(QDataStream &stream, int depth)
     case Kind::Unsigned:
         return Value(read<quint64>(stream));
     case Kind::Double:
-        return Value(read<double>(stream));
+        if (const auto number = read<double>(stream); !std::isnan(number))
+            return Value(number);
+        break; // in no file, and no value equal to itself
     case Kind::Dictionary:
     case Kind::Array:
         if (depth == deepest)

@@ -11,8 +11,8 @@ namespace quillet {
 /// A value of any kind, with all that is in it, to and from a stream. What is read back equals what
 /// was written, the order of fields and halves of characters included.
 void writeValue(QDataStream &stream, const Value &value);
-/// None, with the stream's status set, when there is no value or one nested deeper than any that is
-/// read from a file.
+/// None, with the stream's status set, when there is no value or one that no file can hold: nested
+/// too deep or no number.
 [[nodiscard]] std::optional<Value> readValue(QDataStream &stream);
 
 } // namespace quillet

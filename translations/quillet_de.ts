@@ -306,6 +306,77 @@
         <source></source>
         <translation>Fernseher:</translation>
     </message>
+    <message id="kDiffFewer" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n Sender weniger</numerusform>
+            <numerusform>%n Sender weniger</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffFields" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n mit anderen Angaben</numerusform>
+            <numerusform>%n mit anderen Angaben</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffGone" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n Sender, der seither fehlt</numerusform>
+            <numerusform>%n Sender, die seither fehlen</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffLocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n anders bei der Sperre</numerusform>
+            <numerusform>%n anders bei der Sperre</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffMore" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n Sender mehr</numerusform>
+            <numerusform>%n Sender mehr</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffNames" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n mit anderem Namen</numerusform>
+            <numerusform>%n mit anderen Namen</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffNew" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>ohne %n, der neu ist</numerusform>
+            <numerusform>ohne %n, die neu sind</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffNumbers" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n unter anderer Nummer</numerusform>
+            <numerusform>%n unter anderen Nummern</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffOrder">
+        <source></source>
+        <translation>Dieselben Sender in anderer Reihenfolge</translation>
+    </message>
+    <message id="kDiffSame">
+        <source></source>
+        <translation>Dieselben Sender in derselben Reihenfolge</translation>
+    </message>
+    <message id="kDiffSkipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n anders beim Überspringen</numerusform>
+            <numerusform>%n anders beim Überspringen</numerusform>
+        </translation>
+    </message>
     <message id="kDiscard">
         <source></source>
         <translation>Verwerfen</translation>
@@ -860,6 +931,10 @@
         <source></source>
         <translation>Un&amp;gespeicherte Listen …</translation>
     </message>
+    <message id="kMenuVersions">
+        <source></source>
+        <translation>Frühere &amp;Versionen …</translation>
+    </message>
     <message id="kMenuView">
         <source></source>
         <translation>&amp;Ansicht</translation>
@@ -936,7 +1011,7 @@
     </message>
     <message id="kNoticeFileChanged">
         <source></source>
-        <translation>„%1“ wurde von einem anderen Programm geändert. „Neu laden“ zeigt den neuen Inhalt; mit „Meine behalten“ bleibt die Liste, wie sie hier ist, und das nächste Speichern ersetzt die Datei.</translation>
+        <translation>„%1“ wurde von einem anderen Programm geändert. Mit „Meine behalten“ bleibt die Liste, wie sie hier ist, und das nächste Speichern ersetzt die Datei.</translation>
     </message>
     <message id="kNoticeFileGone">
         <source></source>
@@ -1084,6 +1159,22 @@
     <message id="kPrintFailedReason">
         <source></source>
         <translation>Der Drucker oder die Datei konnte nicht geöffnet werden oder hat nicht alle Seiten angenommen.</translation>
+    </message>
+    <message id="kPutBack">
+        <source></source>
+        <translation>Zurückholen</translation>
+    </message>
+    <message id="kPutBackOthers">
+        <source></source>
+        <translation>Ihre Sender sind nicht Stück für Stück dieselben wie jetzt in der Liste; sie lässt sich nur öffnen.</translation>
+    </message>
+    <message id="kPutBackSame">
+        <source></source>
+        <translation>Die Liste ist jetzt so, wie sie damals war.</translation>
+    </message>
+    <message id="kPutBackText">
+        <source></source>
+        <translation>Zurückholen ist ein Schritt, der sich rückgängig machen lässt; gespeichert wird dabei nichts.</translation>
     </message>
     <message id="kRadio">
         <source></source>
@@ -1319,6 +1410,10 @@
         <source></source>
         <translation>Senderliste speichern</translation>
     </message>
+    <message id="kSaveUnkept">
+        <source></source>
+        <translation>Speichern, ohne sie aufzuheben</translation>
+    </message>
     <message id="kSaveWithout" numerus="yes">
         <source></source>
         <translation>
@@ -1387,6 +1482,10 @@ Diese folgen ab Nummer: %3</translation>
     <message id="kStepOrdered">
         <source></source>
         <translation>Reihenfolge von %1</translation>
+    </message>
+    <message id="kStepPutBack">
+        <source></source>
+        <translation>Version vom %1</translation>
     </message>
     <message id="kStepRenamed">
         <source></source>
@@ -1468,6 +1567,10 @@ Diese folgen ab Nummer: %3</translation>
     <message id="kTipNotTold">
         <source></source>
         <translation>Die Datei enthält diese Angabe zu diesen Sendern nicht</translation>
+    </message>
+    <message id="kTipNoVersions">
+        <source></source>
+        <translation>Beim Speichern wird die ersetzte Version der Datei aufgehoben; von dieser Liste gibt es noch keine</translation>
     </message>
     <message id="kTipRenameAnalogue">
         <source></source>
@@ -1591,6 +1694,10 @@ Diese folgen ab Nummer: %3</translation>
             <numerusform>%n weitere Nummern geändert</numerusform>
         </translation>
     </message>
+    <message id="kToldPutBack">
+        <source></source>
+        <translation>Version vom %1 zurückgeholt</translation>
+    </message>
     <message id="kToldRedone">
         <source></source>
         <translation>Wiederholt: %1</translation>
@@ -1664,6 +1771,14 @@ Diese folgen ab Nummer: %3</translation>
         <source></source>
         <translation>Rückgängig</translation>
     </message>
+    <message id="kUnkeptMessage">
+        <source></source>
+        <translation>Die Fassung von „%1“, die ersetzt würde, konnte nicht aufgehoben werden.</translation>
+    </message>
+    <message id="kUnkeptText">
+        <source></source>
+        <translation>Beim Speichern wird sie endgültig ersetzt: Sie wird nicht unter den früheren Versionen sein.</translation>
+    </message>
     <message id="kUnreadableMessage">
         <source></source>
         <translation>Was jetzt an der Stelle von „%1“ liegt, kann nicht gelesen werden.</translation>
@@ -1683,6 +1798,62 @@ Diese folgen ab Nummer: %3</translation>
     <message id="kUsualColumns">
         <source></source>
         <translation>Übliche Spalten</translation>
+    </message>
+    <message id="kVersionDamaged">
+        <source></source>
+        <translation>Beschädigt oder nicht mehr da; sie kann nicht mehr gelesen werden</translation>
+    </message>
+    <message id="kVersionDamagedReason">
+        <source></source>
+        <translation>Diese Version ist beschädigt: Sie ist nicht mehr, was aufgehoben wurde.</translation>
+    </message>
+    <message id="kVersionDifference">
+        <source></source>
+        <translation>Verglichen mit jetzt</translation>
+    </message>
+    <message id="kVersionFirst">
+        <source></source>
+        <translation>%1 (die erste)</translation>
+    </message>
+    <message id="kVersionNoList">
+        <source></source>
+        <translation>Aus ihr lässt sich keine Senderliste lesen</translation>
+    </message>
+    <message id="kVersionOpen">
+        <source></source>
+        <translation>Öffnen</translation>
+    </message>
+    <message id="kVersionReading">
+        <source></source>
+        <translation>Wird verglichen …</translation>
+    </message>
+    <message id="kVersionsIntro">
+        <source></source>
+        <translation>Was „%1“ enthielt, bevor darüber gespeichert wurde:</translation>
+    </message>
+    <message id="kVersionSize">
+        <source></source>
+        <translation>Größe</translation>
+    </message>
+    <message id="kVersionsLockedReason">
+        <source></source>
+        <translation>Ein anderes Programm legt gerade eine Version in „%1“ ab und wird nicht fertig.</translation>
+    </message>
+    <message id="kVersionStations">
+        <source></source>
+        <translation>Sender</translation>
+    </message>
+    <message id="kVersionsTitle">
+        <source></source>
+        <translation>Frühere Versionen</translation>
+    </message>
+    <message id="kVersionTime">
+        <source></source>
+        <translation>Zuletzt geändert</translation>
+    </message>
+    <message id="kVersionTimeUnknown">
+        <source></source>
+        <translation>Unbekannt</translation>
     </message>
     <message id="kWriteFailedReason">
         <source></source>

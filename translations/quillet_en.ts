@@ -306,6 +306,77 @@
         <source></source>
         <translation>Television:</translation>
     </message>
+    <message id="kDiffFewer" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n station fewer</numerusform>
+            <numerusform>%n stations fewer</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffFields" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n with other details</numerusform>
+            <numerusform>%n with other details</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffGone" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n station that has gone since</numerusform>
+            <numerusform>%n stations that have gone since</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffLocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n locked differently</numerusform>
+            <numerusform>%n locked differently</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffMore" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n station more</numerusform>
+            <numerusform>%n stations more</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffNames" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n with another name</numerusform>
+            <numerusform>%n with other names</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffNew" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>without %n that is new</numerusform>
+            <numerusform>without %n that are new</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffNumbers" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n at another number</numerusform>
+            <numerusform>%n at other numbers</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffOrder">
+        <source></source>
+        <translation>The same stations in another order</translation>
+    </message>
+    <message id="kDiffSame">
+        <source></source>
+        <translation>The same stations in the same order</translation>
+    </message>
+    <message id="kDiffSkipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n skipped differently</numerusform>
+            <numerusform>%n skipped differently</numerusform>
+        </translation>
+    </message>
     <message id="kDiscard">
         <source></source>
         <translation>Discard</translation>
@@ -860,6 +931,10 @@
         <source></source>
         <translation>&amp;Unsaved Lists…</translation>
     </message>
+    <message id="kMenuVersions">
+        <source></source>
+        <translation>Earl&amp;ier Versions…</translation>
+    </message>
     <message id="kMenuView">
         <source></source>
         <translation>&amp;View</translation>
@@ -936,7 +1011,7 @@
     </message>
     <message id="kNoticeFileChanged">
         <source></source>
-        <translation>“%1” has been changed by another program. “Reload” shows the new content; with “Keep Mine” the list stays as it is here, and the next save replaces the file.</translation>
+        <translation>“%1” has been changed by another program. With “Keep Mine” the list stays as it is here, and the next save replaces the file.</translation>
     </message>
     <message id="kNoticeFileGone">
         <source></source>
@@ -1084,6 +1159,22 @@
     <message id="kPrintFailedReason">
         <source></source>
         <translation>The printer or the file could not be opened, or did not take every page.</translation>
+    </message>
+    <message id="kPutBack">
+        <source></source>
+        <translation>Put Back</translation>
+    </message>
+    <message id="kPutBackOthers">
+        <source></source>
+        <translation>Its stations are not the same one to one as those in the list now, so it can only be opened.</translation>
+    </message>
+    <message id="kPutBackSame">
+        <source></source>
+        <translation>The list is now as it was then.</translation>
+    </message>
+    <message id="kPutBackText">
+        <source></source>
+        <translation>Putting it back is one step, which can be undone; nothing is saved by it.</translation>
     </message>
     <message id="kRadio">
         <source></source>
@@ -1319,6 +1410,10 @@
         <source></source>
         <translation>Save Channel List</translation>
     </message>
+    <message id="kSaveUnkept">
+        <source></source>
+        <translation>Save Without Keeping It</translation>
+    </message>
     <message id="kSaveWithout" numerus="yes">
         <source></source>
         <translation>
@@ -1387,6 +1482,10 @@ These go on from number: %3</translation>
     <message id="kStepOrdered">
         <source></source>
         <translation>Order of %1</translation>
+    </message>
+    <message id="kStepPutBack">
+        <source></source>
+        <translation>Version of %1</translation>
     </message>
     <message id="kStepRenamed">
         <source></source>
@@ -1468,6 +1567,10 @@ These go on from number: %3</translation>
     <message id="kTipNotTold">
         <source></source>
         <translation>The file does not tell this of these stations</translation>
+    </message>
+    <message id="kTipNoVersions">
+        <source></source>
+        <translation>A version is kept each time you save over a file; there is none of this list yet</translation>
     </message>
     <message id="kTipRenameAnalogue">
         <source></source>
@@ -1591,6 +1694,10 @@ These go on from number: %3</translation>
             <numerusform>%n other numbers changed</numerusform>
         </translation>
     </message>
+    <message id="kToldPutBack">
+        <source></source>
+        <translation>Version of %1 put back</translation>
+    </message>
     <message id="kToldRedone">
         <source></source>
         <translation>Redone: %1</translation>
@@ -1664,6 +1771,14 @@ These go on from number: %3</translation>
         <source></source>
         <translation>Undo</translation>
     </message>
+    <message id="kUnkeptMessage">
+        <source></source>
+        <translation>The version of “%1” that would be replaced could not be kept.</translation>
+    </message>
+    <message id="kUnkeptText">
+        <source></source>
+        <translation>Saving replaces it for good: it will not be among the earlier versions.</translation>
+    </message>
     <message id="kUnreadableMessage">
         <source></source>
         <translation>What is now in the place of “%1” cannot be read.</translation>
@@ -1683,6 +1798,62 @@ These go on from number: %3</translation>
     <message id="kUsualColumns">
         <source></source>
         <translation>Usual Columns</translation>
+    </message>
+    <message id="kVersionDamaged">
+        <source></source>
+        <translation>Damaged or missing; it can no longer be read</translation>
+    </message>
+    <message id="kVersionDamagedReason">
+        <source></source>
+        <translation>This version is damaged: it is not what was once kept.</translation>
+    </message>
+    <message id="kVersionDifference">
+        <source></source>
+        <translation>Compared with Now</translation>
+    </message>
+    <message id="kVersionFirst">
+        <source></source>
+        <translation>%1 (the first)</translation>
+    </message>
+    <message id="kVersionNoList">
+        <source></source>
+        <translation>No channel list can be read from it</translation>
+    </message>
+    <message id="kVersionOpen">
+        <source></source>
+        <translation>Open</translation>
+    </message>
+    <message id="kVersionReading">
+        <source></source>
+        <translation>Being compared…</translation>
+    </message>
+    <message id="kVersionsIntro">
+        <source></source>
+        <translation>What “%1” held before it was saved over:</translation>
+    </message>
+    <message id="kVersionSize">
+        <source></source>
+        <translation>Size</translation>
+    </message>
+    <message id="kVersionsLockedReason">
+        <source></source>
+        <translation>Another program has been keeping a version in “%1” for too long.</translation>
+    </message>
+    <message id="kVersionStations">
+        <source></source>
+        <translation>Stations</translation>
+    </message>
+    <message id="kVersionsTitle">
+        <source></source>
+        <translation>Earlier Versions</translation>
+    </message>
+    <message id="kVersionTime">
+        <source></source>
+        <translation>Last Changed</translation>
+    </message>
+    <message id="kVersionTimeUnknown">
+        <source></source>
+        <translation>Unknown</translation>
     </message>
     <message id="kWriteFailedReason">
         <source></source>

@@ -306,6 +306,77 @@
         <source></source>
         <translation>Televisor:</translation>
     </message>
+    <message id="kDiffFewer" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canal menos</numerusform>
+            <numerusform>%n canales menos</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffFields" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n con otros datos</numerusform>
+            <numerusform>%n con otros datos</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffGone" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canal que ya no está</numerusform>
+            <numerusform>%n canales que ya no están</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffLocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n con otro bloqueo</numerusform>
+            <numerusform>%n con otro bloqueo</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffMore" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canal más</numerusform>
+            <numerusform>%n canales más</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffNames" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n con otro nombre</numerusform>
+            <numerusform>%n con otros nombres</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffNew" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>sin %n que es nuevo</numerusform>
+            <numerusform>sin %n que son nuevos</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffNumbers" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n con otro número</numerusform>
+            <numerusform>%n con otros números</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffOrder">
+        <source></source>
+        <translation>Los mismos canales en otro orden</translation>
+    </message>
+    <message id="kDiffSame">
+        <source></source>
+        <translation>Los mismos canales en el mismo orden</translation>
+    </message>
+    <message id="kDiffSkipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n con otra marca de omisión</numerusform>
+            <numerusform>%n con otra marca de omisión</numerusform>
+        </translation>
+    </message>
     <message id="kDiscard">
         <source></source>
         <translation>Descartar</translation>
@@ -860,6 +931,10 @@
         <source></source>
         <translation>Listas sin g&amp;uardar…</translation>
     </message>
+    <message id="kMenuVersions">
+        <source></source>
+        <translation>Versiones an&amp;teriores…</translation>
+    </message>
     <message id="kMenuView">
         <source></source>
         <translation>&amp;Ver</translation>
@@ -936,7 +1011,7 @@
     </message>
     <message id="kNoticeFileChanged">
         <source></source>
-        <translation>Otro programa ha modificado «%1». «Volver a cargar» muestra el contenido nuevo; con «Conservar la mía» la lista se queda como está aquí y, al guardar, sustituye al archivo.</translation>
+        <translation>Otro programa ha modificado «%1». Con «Conservar la mía» la lista se queda como está aquí y, al guardar, sustituye al archivo.</translation>
     </message>
     <message id="kNoticeFileGone">
         <source></source>
@@ -1084,6 +1159,22 @@
     <message id="kPrintFailedReason">
         <source></source>
         <translation>No se ha podido abrir la impresora o el archivo, o no ha aceptado todas las páginas.</translation>
+    </message>
+    <message id="kPutBack">
+        <source></source>
+        <translation>Recuperar</translation>
+    </message>
+    <message id="kPutBackOthers">
+        <source></source>
+        <translation>Sus canales no son uno a uno los que hay ahora en la lista; solo se puede abrir.</translation>
+    </message>
+    <message id="kPutBackSame">
+        <source></source>
+        <translation>La lista está ahora como entonces.</translation>
+    </message>
+    <message id="kPutBackText">
+        <source></source>
+        <translation>Recuperarla es un solo paso, que se puede deshacer; con ello no se guarda nada.</translation>
     </message>
     <message id="kRadio">
         <source></source>
@@ -1319,6 +1410,10 @@
         <source></source>
         <translation>Guardar la lista de canales</translation>
     </message>
+    <message id="kSaveUnkept">
+        <source></source>
+        <translation>Guardar sin conservarla</translation>
+    </message>
     <message id="kSaveWithout" numerus="yes">
         <source></source>
         <translation>
@@ -1387,6 +1482,10 @@ Estos continúan a partir del número: %3</translation>
     <message id="kStepOrdered">
         <source></source>
         <translation>Orden de %1</translation>
+    </message>
+    <message id="kStepPutBack">
+        <source></source>
+        <translation>Versión de %1</translation>
     </message>
     <message id="kStepRenamed">
         <source></source>
@@ -1468,6 +1567,10 @@ Estos continúan a partir del número: %3</translation>
     <message id="kTipNotTold">
         <source></source>
         <translation>El archivo no indica este dato de estos canales</translation>
+    </message>
+    <message id="kTipNoVersions">
+        <source></source>
+        <translation>Cada vez que guarda sobre un archivo se conserva su versión; de esta lista aún no hay ninguna</translation>
     </message>
     <message id="kTipRenameAnalogue">
         <source></source>
@@ -1591,6 +1694,10 @@ Estos continúan a partir del número: %3</translation>
             <numerusform>%n números más cambiados</numerusform>
         </translation>
     </message>
+    <message id="kToldPutBack">
+        <source></source>
+        <translation>Versión de %1 recuperada</translation>
+    </message>
     <message id="kToldRedone">
         <source></source>
         <translation>Rehecho: %1</translation>
@@ -1664,6 +1771,14 @@ Estos continúan a partir del número: %3</translation>
         <source></source>
         <translation>Deshacer</translation>
     </message>
+    <message id="kUnkeptMessage">
+        <source></source>
+        <translation>No se ha podido conservar la versión de «%1» que se va a sustituir.</translation>
+    </message>
+    <message id="kUnkeptText">
+        <source></source>
+        <translation>Al guardar se sustituirá definitivamente: no estará entre las versiones anteriores.</translation>
+    </message>
     <message id="kUnreadableMessage">
         <source></source>
         <translation>No se puede leer lo que hay ahora en el lugar de «%1».</translation>
@@ -1683,6 +1798,62 @@ Estos continúan a partir del número: %3</translation>
     <message id="kUsualColumns">
         <source></source>
         <translation>Columnas habituales</translation>
+    </message>
+    <message id="kVersionDamaged">
+        <source></source>
+        <translation>Dañada o desaparecida; ya no se puede leer</translation>
+    </message>
+    <message id="kVersionDamagedReason">
+        <source></source>
+        <translation>Esta versión está dañada: ya no es lo que se conservó.</translation>
+    </message>
+    <message id="kVersionDifference">
+        <source></source>
+        <translation>Comparada con ahora</translation>
+    </message>
+    <message id="kVersionFirst">
+        <source></source>
+        <translation>%1 (la primera)</translation>
+    </message>
+    <message id="kVersionNoList">
+        <source></source>
+        <translation>No se puede leer ninguna lista de canales en ella</translation>
+    </message>
+    <message id="kVersionOpen">
+        <source></source>
+        <translation>Abrir</translation>
+    </message>
+    <message id="kVersionReading">
+        <source></source>
+        <translation>Comparando…</translation>
+    </message>
+    <message id="kVersionsIntro">
+        <source></source>
+        <translation>Lo que contenía «%1» antes de guardar encima:</translation>
+    </message>
+    <message id="kVersionSize">
+        <source></source>
+        <translation>Tamaño</translation>
+    </message>
+    <message id="kVersionsLockedReason">
+        <source></source>
+        <translation>Otro programa está conservando una versión en «%1» y no termina.</translation>
+    </message>
+    <message id="kVersionStations">
+        <source></source>
+        <translation>Canales</translation>
+    </message>
+    <message id="kVersionsTitle">
+        <source></source>
+        <translation>Versiones anteriores</translation>
+    </message>
+    <message id="kVersionTime">
+        <source></source>
+        <translation>Última modificación</translation>
+    </message>
+    <message id="kVersionTimeUnknown">
+        <source></source>
+        <translation>Desconocida</translation>
     </message>
     <message id="kWriteFailedReason">
         <source></source>

@@ -306,6 +306,77 @@
         <source></source>
         <translation>Téléviseur :</translation>
     </message>
+    <message id="kDiffFewer" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n chaîne de moins</numerusform>
+            <numerusform>%n chaînes de moins</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffFields" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n avec d’autres données</numerusform>
+            <numerusform>%n avec d’autres données</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffGone" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n chaîne disparue depuis</numerusform>
+            <numerusform>%n chaînes disparues depuis</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffLocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n au verrouillage différent</numerusform>
+            <numerusform>%n au verrouillage différent</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffMore" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n chaîne de plus</numerusform>
+            <numerusform>%n chaînes de plus</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffNames" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n sous un autre nom</numerusform>
+            <numerusform>%n sous d’autres noms</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffNew" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>sans %n qui est nouvelle</numerusform>
+            <numerusform>sans %n qui sont nouvelles</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffNumbers" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n à un autre numéro</numerusform>
+            <numerusform>%n à d’autres numéros</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffOrder">
+        <source></source>
+        <translation>Les mêmes chaînes dans un autre ordre</translation>
+    </message>
+    <message id="kDiffSame">
+        <source></source>
+        <translation>Les mêmes chaînes dans le même ordre</translation>
+    </message>
+    <message id="kDiffSkipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n à l’état « ignorée » différent</numerusform>
+            <numerusform>%n à l’état « ignorée » différent</numerusform>
+        </translation>
+    </message>
     <message id="kDiscard">
         <source></source>
         <translation>Abandonner</translation>
@@ -860,6 +931,10 @@
         <source></source>
         <translation>&amp;Listes non enregistrées…</translation>
     </message>
+    <message id="kMenuVersions">
+        <source></source>
+        <translation>Versions &amp;antérieures…</translation>
+    </message>
     <message id="kMenuView">
         <source></source>
         <translation>&amp;Affichage</translation>
@@ -936,7 +1011,7 @@
     </message>
     <message id="kNoticeFileChanged">
         <source></source>
-        <translation>« %1 » a été modifié par un autre programme. « Recharger » affiche le nouveau contenu ; avec « Garder la mienne », la liste reste telle qu’elle est ici et le prochain enregistrement remplace le fichier.</translation>
+        <translation>« %1 » a été modifié par un autre programme. Avec « Garder la mienne », la liste reste telle qu’elle est ici et le prochain enregistrement remplace le fichier.</translation>
     </message>
     <message id="kNoticeFileGone">
         <source></source>
@@ -1084,6 +1159,22 @@
     <message id="kPrintFailedReason">
         <source></source>
         <translation>L’imprimante ou le fichier n’a pas pu être ouvert, ou n’a pas accepté toutes les pages.</translation>
+    </message>
+    <message id="kPutBack">
+        <source></source>
+        <translation>Rétablir</translation>
+    </message>
+    <message id="kPutBackOthers">
+        <source></source>
+        <translation>Ses chaînes ne sont pas exactement celles de la liste actuelle ; elle peut seulement être ouverte.</translation>
+    </message>
+    <message id="kPutBackSame">
+        <source></source>
+        <translation>La liste est maintenant telle qu’elle était alors.</translation>
+    </message>
+    <message id="kPutBackText">
+        <source></source>
+        <translation>La rétablir est une seule étape, qui peut être annulée ; rien n’est enregistré.</translation>
     </message>
     <message id="kRadio">
         <source></source>
@@ -1319,6 +1410,10 @@
         <source></source>
         <translation>Enregistrer la liste de chaînes</translation>
     </message>
+    <message id="kSaveUnkept">
+        <source></source>
+        <translation>Enregistrer sans la conserver</translation>
+    </message>
     <message id="kSaveWithout" numerus="yes">
         <source></source>
         <translation>
@@ -1387,6 +1482,10 @@ Ces dernières suivent à partir du numéro : %3</translation>
     <message id="kStepOrdered">
         <source></source>
         <translation>Ordre de %1</translation>
+    </message>
+    <message id="kStepPutBack">
+        <source></source>
+        <translation>Version du %1</translation>
     </message>
     <message id="kStepRenamed">
         <source></source>
@@ -1468,6 +1567,10 @@ Ces dernières suivent à partir du numéro : %3</translation>
     <message id="kTipNotTold">
         <source></source>
         <translation>Le fichier n’indique pas cette information pour ces chaînes</translation>
+    </message>
+    <message id="kTipNoVersions">
+        <source></source>
+        <translation>Une version est conservée à chaque enregistrement par-dessus un fichier ; il n’y en a pas encore de cette liste</translation>
     </message>
     <message id="kTipRenameAnalogue">
         <source></source>
@@ -1591,6 +1694,10 @@ Ces dernières suivent à partir du numéro : %3</translation>
             <numerusform>%n autres numéros modifiés</numerusform>
         </translation>
     </message>
+    <message id="kToldPutBack">
+        <source></source>
+        <translation>Version du %1 rétablie</translation>
+    </message>
     <message id="kToldRedone">
         <source></source>
         <translation>Rétabli : %1</translation>
@@ -1664,6 +1771,14 @@ Ces dernières suivent à partir du numéro : %3</translation>
         <source></source>
         <translation>Annuler</translation>
     </message>
+    <message id="kUnkeptMessage">
+        <source></source>
+        <translation>La version de « %1 » qui serait remplacée n’a pas pu être conservée.</translation>
+    </message>
+    <message id="kUnkeptText">
+        <source></source>
+        <translation>L’enregistrement la remplace définitivement : elle ne sera pas parmi les versions antérieures.</translation>
+    </message>
     <message id="kUnreadableMessage">
         <source></source>
         <translation>Ce qui se trouve maintenant à la place de « %1 » ne peut pas être lu.</translation>
@@ -1683,6 +1798,62 @@ Ces dernières suivent à partir du numéro : %3</translation>
     <message id="kUsualColumns">
         <source></source>
         <translation>Colonnes habituelles</translation>
+    </message>
+    <message id="kVersionDamaged">
+        <source></source>
+        <translation>Endommagée ou disparue ; elle ne peut plus être lue</translation>
+    </message>
+    <message id="kVersionDamagedReason">
+        <source></source>
+        <translation>Cette version est endommagée : elle n’est plus ce qui a été conservé.</translation>
+    </message>
+    <message id="kVersionDifference">
+        <source></source>
+        <translation>Par rapport à maintenant</translation>
+    </message>
+    <message id="kVersionFirst">
+        <source></source>
+        <translation>%1 (la première)</translation>
+    </message>
+    <message id="kVersionNoList">
+        <source></source>
+        <translation>Aucune liste de chaînes ne peut y être lue</translation>
+    </message>
+    <message id="kVersionOpen">
+        <source></source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message id="kVersionReading">
+        <source></source>
+        <translation>Comparaison en cours…</translation>
+    </message>
+    <message id="kVersionsIntro">
+        <source></source>
+        <translation>Ce que contenait « %1 » avant d’être remplacé :</translation>
+    </message>
+    <message id="kVersionSize">
+        <source></source>
+        <translation>Taille</translation>
+    </message>
+    <message id="kVersionsLockedReason">
+        <source></source>
+        <translation>Un autre programme conserve une version dans « %1 » et n’en finit pas.</translation>
+    </message>
+    <message id="kVersionStations">
+        <source></source>
+        <translation>Chaînes</translation>
+    </message>
+    <message id="kVersionsTitle">
+        <source></source>
+        <translation>Versions antérieures</translation>
+    </message>
+    <message id="kVersionTime">
+        <source></source>
+        <translation>Dernière modification</translation>
+    </message>
+    <message id="kVersionTimeUnknown">
+        <source></source>
+        <translation>Inconnue</translation>
     </message>
     <message id="kWriteFailedReason">
         <source></source>

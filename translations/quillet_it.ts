@@ -306,6 +306,77 @@
         <source></source>
         <translation>Televisore:</translation>
     </message>
+    <message id="kDiffFewer" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canale in meno</numerusform>
+            <numerusform>%n canali in meno</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffFields" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n con altri dati</numerusform>
+            <numerusform>%n con altri dati</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffGone" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canale che non c’è più</numerusform>
+            <numerusform>%n canali che non ci sono più</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffLocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n bloccato diversamente</numerusform>
+            <numerusform>%n bloccati diversamente</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffMore" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canale in più</numerusform>
+            <numerusform>%n canali in più</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffNames" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n con un altro nome</numerusform>
+            <numerusform>%n con altri nomi</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffNew" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>senza %n che è nuovo</numerusform>
+            <numerusform>senza %n che sono nuovi</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffNumbers" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n a un altro numero</numerusform>
+            <numerusform>%n ad altri numeri</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffOrder">
+        <source></source>
+        <translation>Gli stessi canali in un altro ordine</translation>
+    </message>
+    <message id="kDiffSame">
+        <source></source>
+        <translation>Gli stessi canali nello stesso ordine</translation>
+    </message>
+    <message id="kDiffSkipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n saltato diversamente</numerusform>
+            <numerusform>%n saltati diversamente</numerusform>
+        </translation>
+    </message>
     <message id="kDiscard">
         <source></source>
         <translation>Scarta</translation>
@@ -860,6 +931,10 @@
         <source></source>
         <translation>Liste n&amp;on salvate…</translation>
     </message>
+    <message id="kMenuVersions">
+        <source></source>
+        <translation>Versioni &amp;precedenti…</translation>
+    </message>
     <message id="kMenuView">
         <source></source>
         <translation>&amp;Visualizza</translation>
@@ -936,7 +1011,7 @@
     </message>
     <message id="kNoticeFileChanged">
         <source></source>
-        <translation>“%1” è stato modificato da un altro programma. “Ricarica” mostra il nuovo contenuto; con “Mantieni la mia” la lista resta com’è qui e il prossimo salvataggio sostituisce il file.</translation>
+        <translation>“%1” è stato modificato da un altro programma. Con “Mantieni la mia” la lista resta com’è qui e il prossimo salvataggio sostituisce il file.</translation>
     </message>
     <message id="kNoticeFileGone">
         <source></source>
@@ -1084,6 +1159,22 @@
     <message id="kPrintFailedReason">
         <source></source>
         <translation>Non è stato possibile aprire la stampante o il file, oppure non sono state accettate tutte le pagine.</translation>
+    </message>
+    <message id="kPutBack">
+        <source></source>
+        <translation>Ripristina</translation>
+    </message>
+    <message id="kPutBackOthers">
+        <source></source>
+        <translation>I suoi canali non sono uno per uno gli stessi della lista attuale; si può soltanto aprire.</translation>
+    </message>
+    <message id="kPutBackSame">
+        <source></source>
+        <translation>La lista è ora com’era allora.</translation>
+    </message>
+    <message id="kPutBackText">
+        <source></source>
+        <translation>Ripristinarla è un solo passo, che si può annullare; non viene salvato nulla.</translation>
     </message>
     <message id="kRadio">
         <source></source>
@@ -1319,6 +1410,10 @@
         <source></source>
         <translation>Salva lista di canali</translation>
     </message>
+    <message id="kSaveUnkept">
+        <source></source>
+        <translation>Salva senza conservarla</translation>
+    </message>
     <message id="kSaveWithout" numerus="yes">
         <source></source>
         <translation>
@@ -1387,6 +1482,10 @@ Questi proseguono dal numero: %3</translation>
     <message id="kStepOrdered">
         <source></source>
         <translation>Ordine di %1</translation>
+    </message>
+    <message id="kStepPutBack">
+        <source></source>
+        <translation>Versione del %1</translation>
     </message>
     <message id="kStepRenamed">
         <source></source>
@@ -1468,6 +1567,10 @@ Questi proseguono dal numero: %3</translation>
     <message id="kTipNotTold">
         <source></source>
         <translation>Il file non indica questo dato per questi canali</translation>
+    </message>
+    <message id="kTipNoVersions">
+        <source></source>
+        <translation>A ogni salvataggio viene conservata la versione sostituita del file; di questa lista non ce n’è ancora nessuna</translation>
     </message>
     <message id="kTipRenameAnalogue">
         <source></source>
@@ -1591,6 +1694,10 @@ Questi proseguono dal numero: %3</translation>
             <numerusform>altri %n numeri cambiati</numerusform>
         </translation>
     </message>
+    <message id="kToldPutBack">
+        <source></source>
+        <translation>Versione del %1 ripristinata</translation>
+    </message>
     <message id="kToldRedone">
         <source></source>
         <translation>Ripetuto: %1</translation>
@@ -1664,6 +1771,14 @@ Questi proseguono dal numero: %3</translation>
         <source></source>
         <translation>Annulla</translation>
     </message>
+    <message id="kUnkeptMessage">
+        <source></source>
+        <translation>Non è stato possibile conservare la versione di “%1” che verrebbe sostituita.</translation>
+    </message>
+    <message id="kUnkeptText">
+        <source></source>
+        <translation>Salvando viene sostituita definitivamente: non sarà tra le versioni precedenti.</translation>
+    </message>
     <message id="kUnreadableMessage">
         <source></source>
         <translation>Ciò che ora si trova al posto di “%1” non può essere letto.</translation>
@@ -1683,6 +1798,62 @@ Questi proseguono dal numero: %3</translation>
     <message id="kUsualColumns">
         <source></source>
         <translation>Colonne abituali</translation>
+    </message>
+    <message id="kVersionDamaged">
+        <source></source>
+        <translation>Danneggiata o mancante; non si può più leggere</translation>
+    </message>
+    <message id="kVersionDamagedReason">
+        <source></source>
+        <translation>Questa versione è danneggiata: non è più ciò che era stato conservato.</translation>
+    </message>
+    <message id="kVersionDifference">
+        <source></source>
+        <translation>Rispetto a ora</translation>
+    </message>
+    <message id="kVersionFirst">
+        <source></source>
+        <translation>%1 (la prima)</translation>
+    </message>
+    <message id="kVersionNoList">
+        <source></source>
+        <translation>Non se ne può leggere alcuna lista di canali</translation>
+    </message>
+    <message id="kVersionOpen">
+        <source></source>
+        <translation>Apri</translation>
+    </message>
+    <message id="kVersionReading">
+        <source></source>
+        <translation>Confronto in corso…</translation>
+    </message>
+    <message id="kVersionsIntro">
+        <source></source>
+        <translation>Che cosa conteneva “%1” prima di essere sovrascritto:</translation>
+    </message>
+    <message id="kVersionSize">
+        <source></source>
+        <translation>Dimensione</translation>
+    </message>
+    <message id="kVersionsLockedReason">
+        <source></source>
+        <translation>Un altro programma sta conservando una versione in “%1” e non finisce.</translation>
+    </message>
+    <message id="kVersionStations">
+        <source></source>
+        <translation>Canali</translation>
+    </message>
+    <message id="kVersionsTitle">
+        <source></source>
+        <translation>Versioni precedenti</translation>
+    </message>
+    <message id="kVersionTime">
+        <source></source>
+        <translation>Ultima modifica</translation>
+    </message>
+    <message id="kVersionTimeUnknown">
+        <source></source>
+        <translation>Sconosciuta</translation>
     </message>
     <message id="kWriteFailedReason">
         <source></source>

@@ -306,6 +306,77 @@
         <source></source>
         <translation>Televisie:</translation>
     </message>
+    <message id="kDiffFewer" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n zender minder</numerusform>
+            <numerusform>%n zenders minder</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffFields" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n met andere gegevens</numerusform>
+            <numerusform>%n met andere gegevens</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffGone" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n zender die sindsdien weg is</numerusform>
+            <numerusform>%n zenders die sindsdien weg zijn</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffLocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n anders wat vergrendeling betreft</numerusform>
+            <numerusform>%n anders wat vergrendeling betreft</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffMore" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n zender meer</numerusform>
+            <numerusform>%n zenders meer</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffNames" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n met een andere naam</numerusform>
+            <numerusform>%n met andere namen</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffNew" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>zonder %n die nieuw is</numerusform>
+            <numerusform>zonder %n die nieuw zijn</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffNumbers" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n op een ander nummer</numerusform>
+            <numerusform>%n op andere nummers</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffOrder">
+        <source></source>
+        <translation>Dezelfde zenders in een andere volgorde</translation>
+    </message>
+    <message id="kDiffSame">
+        <source></source>
+        <translation>Dezelfde zenders in dezelfde volgorde</translation>
+    </message>
+    <message id="kDiffSkipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n anders wat overslaan betreft</numerusform>
+            <numerusform>%n anders wat overslaan betreft</numerusform>
+        </translation>
+    </message>
     <message id="kDiscard">
         <source></source>
         <translation>Weggooien</translation>
@@ -860,6 +931,10 @@
         <source></source>
         <translation>Niet-op&amp;geslagen lijsten…</translation>
     </message>
+    <message id="kMenuVersions">
+        <source></source>
+        <translation>Eerdere &amp;versies…</translation>
+    </message>
     <message id="kMenuView">
         <source></source>
         <translation>Bee&amp;ld</translation>
@@ -936,7 +1011,7 @@
     </message>
     <message id="kNoticeFileChanged">
         <source></source>
-        <translation>“%1” is door een ander programma gewijzigd. “Opnieuw laden” toont de nieuwe inhoud; met “Die van mij behouden” blijft de lijst zoals ze hier is en vervangt de volgende keer opslaan het bestand.</translation>
+        <translation>“%1” is door een ander programma gewijzigd. Met “Die van mij behouden” blijft de lijst zoals ze hier is en vervangt de volgende keer opslaan het bestand.</translation>
     </message>
     <message id="kNoticeFileGone">
         <source></source>
@@ -1084,6 +1159,22 @@
     <message id="kPrintFailedReason">
         <source></source>
         <translation>De printer of het bestand kon niet worden geopend of heeft niet alle pagina’s aangenomen.</translation>
+    </message>
+    <message id="kPutBack">
+        <source></source>
+        <translation>Terugzetten</translation>
+    </message>
+    <message id="kPutBackOthers">
+        <source></source>
+        <translation>De zenders zijn niet één voor één dezelfde als nu in de lijst; ze kan alleen worden geopend.</translation>
+    </message>
+    <message id="kPutBackSame">
+        <source></source>
+        <translation>De lijst is nu zoals ze toen was.</translation>
+    </message>
+    <message id="kPutBackText">
+        <source></source>
+        <translation>Terugzetten is één stap, die ongedaan kan worden gemaakt; er wordt niets opgeslagen.</translation>
     </message>
     <message id="kRadio">
         <source></source>
@@ -1319,6 +1410,10 @@
         <source></source>
         <translation>Zenderlijst opslaan</translation>
     </message>
+    <message id="kSaveUnkept">
+        <source></source>
+        <translation>Opslaan zonder te bewaren</translation>
+    </message>
     <message id="kSaveWithout" numerus="yes">
         <source></source>
         <translation>
@@ -1387,6 +1482,10 @@ Deze gaan verder vanaf nummer: %3</translation>
     <message id="kStepOrdered">
         <source></source>
         <translation>Volgorde van %1</translation>
+    </message>
+    <message id="kStepPutBack">
+        <source></source>
+        <translation>Versie van %1</translation>
     </message>
     <message id="kStepRenamed">
         <source></source>
@@ -1468,6 +1567,10 @@ Deze gaan verder vanaf nummer: %3</translation>
     <message id="kTipNotTold">
         <source></source>
         <translation>Het bestand vermeldt dit niet van deze zenders</translation>
+    </message>
+    <message id="kTipNoVersions">
+        <source></source>
+        <translation>Bij elke keer opslaan wordt de vervangen versie van het bestand bewaard; van deze lijst is er nog geen</translation>
     </message>
     <message id="kTipRenameAnalogue">
         <source></source>
@@ -1591,6 +1694,10 @@ Deze gaan verder vanaf nummer: %3</translation>
             <numerusform>%n andere nummers gewijzigd</numerusform>
         </translation>
     </message>
+    <message id="kToldPutBack">
+        <source></source>
+        <translation>Versie van %1 teruggezet</translation>
+    </message>
     <message id="kToldRedone">
         <source></source>
         <translation>Opnieuw uitgevoerd: %1</translation>
@@ -1664,6 +1771,14 @@ Deze gaan verder vanaf nummer: %3</translation>
         <source></source>
         <translation>Ongedaan maken</translation>
     </message>
+    <message id="kUnkeptMessage">
+        <source></source>
+        <translation>De versie van “%1” die zou worden vervangen, kon niet worden bewaard.</translation>
+    </message>
+    <message id="kUnkeptText">
+        <source></source>
+        <translation>Bij het opslaan wordt ze voorgoed vervangen: ze zal niet bij de eerdere versies staan.</translation>
+    </message>
     <message id="kUnreadableMessage">
         <source></source>
         <translation>Wat nu op de plaats van “%1” staat, kan niet worden gelezen.</translation>
@@ -1683,6 +1798,62 @@ Deze gaan verder vanaf nummer: %3</translation>
     <message id="kUsualColumns">
         <source></source>
         <translation>Gebruikelijke kolommen</translation>
+    </message>
+    <message id="kVersionDamaged">
+        <source></source>
+        <translation>Beschadigd of verdwenen; ze kan niet meer worden gelezen</translation>
+    </message>
+    <message id="kVersionDamagedReason">
+        <source></source>
+        <translation>Deze versie is beschadigd: ze is niet meer wat er werd bewaard.</translation>
+    </message>
+    <message id="kVersionDifference">
+        <source></source>
+        <translation>Vergeleken met nu</translation>
+    </message>
+    <message id="kVersionFirst">
+        <source></source>
+        <translation>%1 (de eerste)</translation>
+    </message>
+    <message id="kVersionNoList">
+        <source></source>
+        <translation>Er kan geen zenderlijst uit worden gelezen</translation>
+    </message>
+    <message id="kVersionOpen">
+        <source></source>
+        <translation>Openen</translation>
+    </message>
+    <message id="kVersionReading">
+        <source></source>
+        <translation>Wordt vergeleken…</translation>
+    </message>
+    <message id="kVersionsIntro">
+        <source></source>
+        <translation>Wat “%1” bevatte voordat het werd overschreven:</translation>
+    </message>
+    <message id="kVersionSize">
+        <source></source>
+        <translation>Grootte</translation>
+    </message>
+    <message id="kVersionsLockedReason">
+        <source></source>
+        <translation>Een ander programma bewaart al te lang een versie in “%1”.</translation>
+    </message>
+    <message id="kVersionStations">
+        <source></source>
+        <translation>Zenders</translation>
+    </message>
+    <message id="kVersionsTitle">
+        <source></source>
+        <translation>Eerdere versies</translation>
+    </message>
+    <message id="kVersionTime">
+        <source></source>
+        <translation>Laatst gewijzigd</translation>
+    </message>
+    <message id="kVersionTimeUnknown">
+        <source></source>
+        <translation>Onbekend</translation>
     </message>
     <message id="kWriteFailedReason">
         <source></source>

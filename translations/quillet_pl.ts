@@ -311,6 +311,86 @@
         <source></source>
         <translation>Telewizor:</translation>
     </message>
+    <message id="kDiffFewer" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n kanał mniej</numerusform>
+            <numerusform>%n kanały mniej</numerusform>
+            <numerusform>%n kanałów mniej</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffFields" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n z innymi danymi</numerusform>
+            <numerusform>%n z innymi danymi</numerusform>
+            <numerusform>%n z innymi danymi</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffGone" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n kanał, którego już nie ma</numerusform>
+            <numerusform>%n kanały, których już nie ma</numerusform>
+            <numerusform>%n kanałów, których już nie ma</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffLocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n z inną blokadą</numerusform>
+            <numerusform>%n z inną blokadą</numerusform>
+            <numerusform>%n z inną blokadą</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffMore" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n kanał więcej</numerusform>
+            <numerusform>%n kanały więcej</numerusform>
+            <numerusform>%n kanałów więcej</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffNames" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n z inną nazwą</numerusform>
+            <numerusform>%n z innymi nazwami</numerusform>
+            <numerusform>%n z innymi nazwami</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffNew" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>bez %n nowego</numerusform>
+            <numerusform>bez %n nowych</numerusform>
+            <numerusform>bez %n nowych</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffNumbers" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n pod innym numerem</numerusform>
+            <numerusform>%n pod innymi numerami</numerusform>
+            <numerusform>%n pod innymi numerami</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffOrder">
+        <source></source>
+        <translation>Te same kanały w innej kolejności</translation>
+    </message>
+    <message id="kDiffSame">
+        <source></source>
+        <translation>Te same kanały w tej samej kolejności</translation>
+    </message>
+    <message id="kDiffSkipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n z innym znakiem pomijania</numerusform>
+            <numerusform>%n z innym znakiem pomijania</numerusform>
+            <numerusform>%n z innym znakiem pomijania</numerusform>
+        </translation>
+    </message>
     <message id="kDiscard">
         <source></source>
         <translation>Odrzuć</translation>
@@ -871,6 +951,10 @@
         <source></source>
         <translation>Niezap&amp;isane listy…</translation>
     </message>
+    <message id="kMenuVersions">
+        <source></source>
+        <translation>Wcześniejsze wer&amp;sje…</translation>
+    </message>
     <message id="kMenuView">
         <source></source>
         <translation>&amp;Widok</translation>
@@ -949,7 +1033,7 @@
     </message>
     <message id="kNoticeFileChanged">
         <source></source>
-        <translation>Plik „%1” został zmieniony przez inny program. „Wczytaj ponownie” pokaże nową zawartość; „Zachowaj moją” pozostawi listę taką, jaka jest tutaj, a następny zapis zastąpi plik.</translation>
+        <translation>Plik „%1” został zmieniony przez inny program. „Zachowaj moją” pozostawi listę taką, jaka jest tutaj, a następny zapis zastąpi plik.</translation>
     </message>
     <message id="kNoticeFileGone">
         <source></source>
@@ -1098,6 +1182,22 @@
     <message id="kPrintFailedReason">
         <source></source>
         <translation>Nie udało się otworzyć drukarki lub pliku albo nie przyjęto wszystkich stron.</translation>
+    </message>
+    <message id="kPutBack">
+        <source></source>
+        <translation>Przywróć</translation>
+    </message>
+    <message id="kPutBackOthers">
+        <source></source>
+        <translation>Jej kanały nie są dokładnie tymi samymi, które są teraz na liście; można ją tylko otworzyć.</translation>
+    </message>
+    <message id="kPutBackSame">
+        <source></source>
+        <translation>Lista jest teraz taka, jak wtedy.</translation>
+    </message>
+    <message id="kPutBackText">
+        <source></source>
+        <translation>Przywrócenie to jeden krok, który można cofnąć; nic nie zostaje przy tym zapisane.</translation>
     </message>
     <message id="kRadio">
         <source></source>
@@ -1339,6 +1439,10 @@
         <source></source>
         <translation>Zapisz listę kanałów</translation>
     </message>
+    <message id="kSaveUnkept">
+        <source></source>
+        <translation>Zapisz bez zachowania</translation>
+    </message>
     <message id="kSaveWithout" numerus="yes">
         <source></source>
         <translation>
@@ -1412,6 +1516,10 @@ Te następują od numeru: %3</translation>
     <message id="kStepOrdered">
         <source></source>
         <translation>Kolejność z %1</translation>
+    </message>
+    <message id="kStepPutBack">
+        <source></source>
+        <translation>Wersja z %1</translation>
     </message>
     <message id="kStepRenamed">
         <source></source>
@@ -1496,6 +1604,10 @@ Te następują od numeru: %3</translation>
     <message id="kTipNotTold">
         <source></source>
         <translation>Plik nie zawiera tej informacji o tych kanałach</translation>
+    </message>
+    <message id="kTipNoVersions">
+        <source></source>
+        <translation>Przy każdym zapisie zachowywana jest zastąpiona wersja pliku; tej listy jeszcze żadnej nie ma</translation>
     </message>
     <message id="kTipRenameAnalogue">
         <source></source>
@@ -1629,6 +1741,10 @@ Te następują od numeru: %3</translation>
             <numerusform>zmieniono %n innych numerów</numerusform>
         </translation>
     </message>
+    <message id="kToldPutBack">
+        <source></source>
+        <translation>Przywrócono wersję z %1</translation>
+    </message>
     <message id="kToldRedone">
         <source></source>
         <translation>Ponowiono: %1</translation>
@@ -1705,6 +1821,14 @@ Te następują od numeru: %3</translation>
         <source></source>
         <translation>Cofnij</translation>
     </message>
+    <message id="kUnkeptMessage">
+        <source></source>
+        <translation>Nie udało się zachować wersji pliku „%1”, która zostałaby zastąpiona.</translation>
+    </message>
+    <message id="kUnkeptText">
+        <source></source>
+        <translation>Zapis zastąpi ją na zawsze: nie będzie jej wśród wcześniejszych wersji.</translation>
+    </message>
     <message id="kUnreadableMessage">
         <source></source>
         <translation>Nie można odczytać tego, co jest teraz w miejscu „%1”.</translation>
@@ -1724,6 +1848,62 @@ Te następują od numeru: %3</translation>
     <message id="kUsualColumns">
         <source></source>
         <translation>Zwykłe kolumny</translation>
+    </message>
+    <message id="kVersionDamaged">
+        <source></source>
+        <translation>Uszkodzona lub brakująca; nie można jej już odczytać</translation>
+    </message>
+    <message id="kVersionDamagedReason">
+        <source></source>
+        <translation>Ta wersja jest uszkodzona: nie jest już tym, co zachowano.</translation>
+    </message>
+    <message id="kVersionDifference">
+        <source></source>
+        <translation>W porównaniu z obecną</translation>
+    </message>
+    <message id="kVersionFirst">
+        <source></source>
+        <translation>%1 (pierwsza)</translation>
+    </message>
+    <message id="kVersionNoList">
+        <source></source>
+        <translation>Nie da się z niej odczytać listy kanałów</translation>
+    </message>
+    <message id="kVersionOpen">
+        <source></source>
+        <translation>Otwórz</translation>
+    </message>
+    <message id="kVersionReading">
+        <source></source>
+        <translation>Porównywanie…</translation>
+    </message>
+    <message id="kVersionsIntro">
+        <source></source>
+        <translation>Co zawierał plik „%1”, zanim zapisano na nim zmiany:</translation>
+    </message>
+    <message id="kVersionSize">
+        <source></source>
+        <translation>Rozmiar</translation>
+    </message>
+    <message id="kVersionsLockedReason">
+        <source></source>
+        <translation>Inny program zbyt długo zachowuje wersję w „%1”.</translation>
+    </message>
+    <message id="kVersionStations">
+        <source></source>
+        <translation>Kanały</translation>
+    </message>
+    <message id="kVersionsTitle">
+        <source></source>
+        <translation>Wcześniejsze wersje</translation>
+    </message>
+    <message id="kVersionTime">
+        <source></source>
+        <translation>Ostatnia zmiana</translation>
+    </message>
+    <message id="kVersionTimeUnknown">
+        <source></source>
+        <translation>Nieznana</translation>
     </message>
     <message id="kWriteFailedReason">
         <source></source>

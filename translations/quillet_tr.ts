@@ -301,6 +301,68 @@
         <source></source>
         <translation>Televizyon:</translation>
     </message>
+    <message id="kDiffFewer" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n kanal eksik</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffFields" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n kanalın bilgileri farklı</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffGone" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>artık olmayan %n kanal var</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffLocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n kanalın kilidi farklı</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffMore" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n kanal fazla</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffNames" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n kanal başka adla</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffNew" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n yeni kanal yok</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffNumbers" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n kanal başka numarada</numerusform>
+        </translation>
+    </message>
+    <message id="kDiffOrder">
+        <source></source>
+        <translation>Aynı kanallar başka bir sırada</translation>
+    </message>
+    <message id="kDiffSame">
+        <source></source>
+        <translation>Aynı kanallar aynı sırada</translation>
+    </message>
+    <message id="kDiffSkipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n kanalın atlama işareti farklı</numerusform>
+        </translation>
+    </message>
     <message id="kDiscard">
         <source></source>
         <translation>At</translation>
@@ -849,6 +911,10 @@
         <source></source>
         <translation>Kaydedil&amp;memiş Listeler…</translation>
     </message>
+    <message id="kMenuVersions">
+        <source></source>
+        <translation>Önceki Sürü&amp;mler…</translation>
+    </message>
     <message id="kMenuView">
         <source></source>
         <translation>&amp;Görünüm</translation>
@@ -923,7 +989,7 @@
     </message>
     <message id="kNoticeFileChanged">
         <source></source>
-        <translation>“%1” başka bir program tarafından değiştirildi. “Yeniden Yükle” yeni içeriği gösterir; “Benimkini Koru” ile liste buradaki gibi kalır ve bir sonraki kaydetme dosyanın yerini alır.</translation>
+        <translation>“%1” başka bir program tarafından değiştirildi. “Benimkini Koru” ile liste buradaki gibi kalır ve bir sonraki kaydetme dosyanın yerini alır.</translation>
     </message>
     <message id="kNoticeFileGone">
         <source></source>
@@ -1070,6 +1136,22 @@
     <message id="kPrintFailedReason">
         <source></source>
         <translation>Yazıcı veya dosya açılamadı ya da bütün sayfaları almadı.</translation>
+    </message>
+    <message id="kPutBack">
+        <source></source>
+        <translation>Geri Getir</translation>
+    </message>
+    <message id="kPutBackOthers">
+        <source></source>
+        <translation>Kanalları şu anda listede olanlarla birebir aynı değil; yalnızca açılabilir.</translation>
+    </message>
+    <message id="kPutBackSame">
+        <source></source>
+        <translation>Liste şu anda o zamanki gibi.</translation>
+    </message>
+    <message id="kPutBackText">
+        <source></source>
+        <translation>Geri getirmek, geri alınabilen tek bir adımdır; hiçbir şey kaydedilmez.</translation>
     </message>
     <message id="kRadio">
         <source></source>
@@ -1299,6 +1381,10 @@
         <source></source>
         <translation>Kanal Listesini Kaydet</translation>
     </message>
+    <message id="kSaveUnkept">
+        <source></source>
+        <translation>Saklamadan Kaydet</translation>
+    </message>
     <message id="kSaveWithout" numerus="yes">
         <source></source>
         <translation>
@@ -1362,6 +1448,10 @@ Bunların devam ettiği numara: %3</translation>
     <message id="kStepOrdered">
         <source></source>
         <translation>%1 Sıralaması</translation>
+    </message>
+    <message id="kStepPutBack">
+        <source></source>
+        <translation>%1 Sürümü</translation>
     </message>
     <message id="kStepRenamed">
         <source></source>
@@ -1440,6 +1530,10 @@ Bunların devam ettiği numara: %3</translation>
     <message id="kTipNotTold">
         <source></source>
         <translation>Dosya bu kanallar için bunu belirtmiyor</translation>
+    </message>
+    <message id="kTipNoVersions">
+        <source></source>
+        <translation>Bir dosyanın üzerine her kaydettiğinizde önceki sürümü saklanır; bu listenin henüz sürümü yok</translation>
     </message>
     <message id="kTipRenameAnalogue">
         <source></source>
@@ -1553,6 +1647,10 @@ Bunların devam ettiği numara: %3</translation>
             <numerusform>%n başka numara değişti</numerusform>
         </translation>
     </message>
+    <message id="kToldPutBack">
+        <source></source>
+        <translation>%1 sürümü geri getirildi</translation>
+    </message>
     <message id="kToldRedone">
         <source></source>
         <translation>Yinelendi: %1</translation>
@@ -1623,6 +1721,14 @@ Bunların devam ettiği numara: %3</translation>
         <source></source>
         <translation>Geri Al</translation>
     </message>
+    <message id="kUnkeptMessage">
+        <source></source>
+        <translation>“%1” dosyasının değiştirilecek sürümü saklanamadı.</translation>
+    </message>
+    <message id="kUnkeptText">
+        <source></source>
+        <translation>Kaydettiğinizde tümüyle değiştirilir: önceki sürümler arasında yer almaz.</translation>
+    </message>
     <message id="kUnreadableMessage">
         <source></source>
         <translation>“%1” dosyasının yerinde şimdi bulunan şey okunamıyor.</translation>
@@ -1642,6 +1748,62 @@ Bunların devam ettiği numara: %3</translation>
     <message id="kUsualColumns">
         <source></source>
         <translation>Olağan Sütunlar</translation>
+    </message>
+    <message id="kVersionDamaged">
+        <source></source>
+        <translation>Bozuk veya eksik; artık okunamıyor</translation>
+    </message>
+    <message id="kVersionDamagedReason">
+        <source></source>
+        <translation>Bu sürüm bozulmuş: artık saklanan içerik değil.</translation>
+    </message>
+    <message id="kVersionDifference">
+        <source></source>
+        <translation>Şimdikine Göre</translation>
+    </message>
+    <message id="kVersionFirst">
+        <source></source>
+        <translation>%1 (ilk sürüm)</translation>
+    </message>
+    <message id="kVersionNoList">
+        <source></source>
+        <translation>İçinden kanal listesi okunamıyor</translation>
+    </message>
+    <message id="kVersionOpen">
+        <source></source>
+        <translation>Aç</translation>
+    </message>
+    <message id="kVersionReading">
+        <source></source>
+        <translation>Karşılaştırılıyor…</translation>
+    </message>
+    <message id="kVersionsIntro">
+        <source></source>
+        <translation>“%1” dosyasının üzerine kaydedilmeden önceki içeriği:</translation>
+    </message>
+    <message id="kVersionSize">
+        <source></source>
+        <translation>Boyut</translation>
+    </message>
+    <message id="kVersionsLockedReason">
+        <source></source>
+        <translation>Başka bir program “%1” içinde bir sürüm saklıyor ve bitirmiyor.</translation>
+    </message>
+    <message id="kVersionStations">
+        <source></source>
+        <translation>Kanallar</translation>
+    </message>
+    <message id="kVersionsTitle">
+        <source></source>
+        <translation>Önceki Sürümler</translation>
+    </message>
+    <message id="kVersionTime">
+        <source></source>
+        <translation>Son Değişiklik</translation>
+    </message>
+    <message id="kVersionTimeUnknown">
+        <source></source>
+        <translation>Bilinmiyor</translation>
     </message>
     <message id="kWriteFailedReason">
         <source></source>

@@ -67,6 +67,7 @@ QStringList AppDelegate::nameFilters()
 std::unique_ptr<TLLDocument> AppDelegate::makeDocument()
 {
     auto document = std::make_unique<TLLDocument>();
+    document->setVersionStore(&m_versions);
     document->setWindowFactory([this] {
         auto controller = std::make_unique<LGWindowController>();
         auto *menu = new MainMenu(*controller, m_documents, controller->window());
@@ -75,6 +76,7 @@ std::unique_ptr<TLLDocument> AppDelegate::makeDocument()
         menu->setUnsavedLists([this] { return m_recovery && m_recovery->store().hasLeftovers(); });
         connect(menu, &MainMenu::unsavedListsRequested, this, &AppDelegate::showUnsavedLists);
         connect(menu, &MainMenu::recoveryFolderRequested, this, &AppDelegate::openRecoveryFolder);
+        connect(menu, &MainMenu::versionRequested, this, &AppDelegate::openVersion);
         connect(&controller->editor().controller(), &ViewController::repairedCopyRequested, this,
                 [this, window = controller.get()] {
                     TLLDocument *damaged = window->tlldoc();
@@ -108,6 +110,16 @@ void AppDelegate::openRepairedCopy(const TLLDocument &damaged)
     m_documents.openUntitled(std::move(copy), QUrl::fromLocalFile(file.path() + u'/' + name),
                              damaged.fileUrl());
     opened.setDirtyFlag(true); // showing a document makes it unchanged
+}
+
+void AppDelegate::openVersion(const QByteArray &bytes, const QString &suggestedPath)
+{
+    std::unique_ptr<TLLDocument> version = makeDocument();
+    Error error;
+    if (version->readFromData(bytes, TLLDocument::typeName(), error))
+        m_documents.openUntitled(std::move(version), QUrl::fromLocalFile(suggestedPath), {});
+    else if (Document *current = m_documents.currentDocument())
+        current->presentError(qtTrId("kLoadingProblem"), error);
 }
 
 void AppDelegate::applicationDidFinishLaunching(const QStringList &paths)

@@ -2,6 +2,8 @@
 
 #include "app/DesktopServices.h"
 #include "app/help/HelpBrowser.h"
+#include "files/FileOperations.h"
+#include "files/VersionStore.h"
 #include "framework/DocumentController.h"
 #include "framework/Prompts.h"
 #include "framework/RecoveryKeeper.h"
@@ -52,6 +54,8 @@ public:
     void openRecoveryFolder();
     /// Opens what can be mended of a damaged file as an untitled document.
     void openRepairedCopy(const TLLDocument &damaged);
+    /// Opens the bytes of a list as an untitled document, for which that place is suggested.
+    void openVersion(const QByteArray &bytes, const QString &suggestedPath);
     /// What is used instead of the desktop's own services; must outlive the delegate.
     void setSystemServices(SystemServices &services) { m_services = &services; }
     /// Shows the start page of the user guide, in the help window or, when the program came without
@@ -89,6 +93,8 @@ private:
     /// Asks, then quits; `done` gets whether.
     void askAndQuit(const std::function<void(bool)> &done);
 
+    FileOperations m_fileOperations;
+    VersionStore m_versions{VersionStore::standardFolder(), m_fileOperations};
     DesktopServices m_desktop;
     SystemServices *m_services = &m_desktop;
     QStringList m_helpArguments;

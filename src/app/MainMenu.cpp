@@ -9,6 +9,7 @@
 #include "document/TLLDocument.h"
 #include "editor/EditorView.h"
 #include "editor/HistoryPanel.h"
+#include "editor/VersionsDialog.h"
 #include "framework/DocumentController.h"
 #include "framework/RecentFilesMenu.h"
 
@@ -111,6 +112,8 @@ void MainMenu::makeFileMenu(QMenuBar &bar)
         m_editor.commitEditing();
         m_window.tlldoc()->reloadDocument();
     });
+    m_versions = add(menu, {"kMenuVersions", "showVersions", {}}, [this] { showVersions(); });
+    connect(&menu, &QMenu::aboutToShow, this, &MainMenu::validateVersions);
     m_documentItems.push_back(add(menu,
                                   {"kMenuExport", "exportAsReferenceList", Qt::CTRL | Qt::Key_E},
                                   [this] { m_window.tlldoc()->exportAsReferenceList(); }));
@@ -200,6 +203,23 @@ void MainMenu::save()
     TLLDocument *document = m_window.tlldoc();
     if (document && document->isDirty())
         document->saveDocument();
+}
+
+/// What is being typed is a part of what the versions are compared with.
+void MainMenu::showVersions()
+{
+    m_editor.commitEditing();
+    auto *dialog = new VersionsDialog(m_editor.controller(), m_window.window());
+    connect(dialog, &VersionsDialog::openRequested, this, &MainMenu::versionRequested);
+    dialog->open();
+}
+
+/// The disk is asked, so only when the menu is opened.
+void MainMenu::validateVersions()
+{
+    const TLLDocument *document = m_window.tlldoc();
+    m_versions->setEnabled(document && EarlierVersions::hasAny(*document));
+    m_versions->setToolTip(m_versions->isEnabled() ? QString() : qtTrId("kTipNoVersions"));
 }
 
 /// What is being typed belongs to a row that will be gone.

@@ -37,6 +37,8 @@ signals:
     void recoveryFolderRequested();
     void quitRequested();
     void helpRequested();
+    /// The person wants an earlier version opened as an untitled list, to be saved there.
+    void versionRequested(const QByteArray &bytes, const QString &suggestedPath);
 
 private:
     struct Item
@@ -52,10 +54,12 @@ private:
     void makeViewMenu(QMenuBar &bar);
     void makeHelpMenu(QMenuBar &bar);
     void save();
+    void showVersions();
     void showAbout();
     void chooseMode(bool isTV);
     void chooseSource(int source);
     void validate();
+    void validateVersions();
 
     LGWindowController &m_window;
     DocumentController &m_documents;
@@ -69,6 +73,7 @@ private:
     QAction *m_save = nullptr;
     QAction *m_saveAs = nullptr;
     QAction *m_reload = nullptr;
+    QAction *m_versions = nullptr;
     QAction *m_alwaysRepair = nullptr;
     QAction *m_print = nullptr;
     QAction *m_showTV = nullptr;

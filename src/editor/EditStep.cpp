@@ -8,13 +8,12 @@
 
 namespace quillet {
 
-EditStep::EditStep(ListEditor &editor, ListChange change, EditRecord record)
-    : m_editor(&editor), m_content(std::make_shared<Content>())
+EditStep::EditStep(ListEditor &editor, Content parts)
+    : m_editor(&editor), m_content(std::make_shared<Content>(std::move(parts)))
 {
-    setText(stepName(change.summary));
-    m_content->change = std::move(change);
-    m_content->change.places.clear(); // which the records tell as well
-    m_content->records.push_back(std::move(record));
+    setText(stepName(m_content->front().change.summary));
+    for (Part &part : *m_content)
+        part.change.places.clear(); // which the records tell as well
 }
 
 EditStep::EditStep(const EditStep &other)
@@ -26,8 +25,10 @@ EditStep::EditStep(const EditStep &other)
 void EditStep::undo()
 {
     m_isDone = false;
-    for (auto record = m_content->records.rbegin(); record != m_content->records.rend(); ++record)
-        record->undo(*m_content->change.list);
+    for (auto &[change, records] : *m_content) {
+        for (auto record = records.rbegin(); record != records.rend(); ++record)
+            record->undo(*change.list);
+    }
     tell(ListChange::Cause::Undo);
 }
 
@@ -35,8 +36,10 @@ void EditStep::redo()
 {
     if (std::exchange(m_isDone, true))
         return;
-    for (EditRecord &record : m_content->records)
-        record.redo(*m_content->change.list);
+    for (auto &[change, records] : *m_content) {
+        for (EditRecord &record : records)
+            record.redo(*change.list);
+    }
     tell(ListChange::Cause::Redo);
 }
 
@@ -44,11 +47,23 @@ void EditStep::tell(ListChange::Cause cause) const
 {
     if (!m_editor)
         return;
-    ListChange change = m_content->change;
+    std::vector<ListChange> changes;
+    for (const Part &part : *m_content)
+        changes.push_back(changeOf(part, cause));
+    m_editor->tell(std::move(changes));
+}
+
+ListChange EditStep::changeOf(const Part &part, ListChange::Cause cause)
+{
+    ListChange change = part.change;
     change.cause = cause;
+    if (change.fields.testFlag(StationField::All)) {
+        change.places = {{0, change.list->size()}};
+        return change;
+    }
     ListStretch places;
     bool hasMoved = false;
-    for (const EditRecord &record : m_content->records) {
+    for (const EditRecord &record : part.records) {
         places.include(record.places());
         hasMoved = hasMoved || record.movesStations();
     }
@@ -63,38 +78,40 @@ void EditStep::tell(ListChange::Cause cause) const
         change.stations.assign(first + static_cast<std::ptrdiff_t>(places.first),
                                first + static_cast<std::ptrdiff_t>(places.end));
     }
-    emit m_editor->changed(change);
+    return change;
 }
 
 int EditStep::id() const
 {
     using Kind = EditSummary::Kind;
-    const Kind kind = m_content->change.summary.kind;
+    const Kind kind = m_content->front().change.summary.kind;
     return kind == Kind::MovedUp || kind == Kind::MovedDown ? static_cast<int>(kind) : -1;
 }
 
+/// Both have one part.
 bool EditStep::mergeWith(const QUndoCommand *other)
 {
     const auto &next = static_cast<const EditStep &>(*other);
-    const ListChange &change = next.m_content->change;
-    if (next.m_isCopy || change.list != m_content->change.list ||
-        change.stations != m_content->change.stations)
+    const Part &added = next.m_content->front();
+    Part &part = m_content->front();
+    if (next.m_isCopy || added.change.list != part.change.list ||
+        added.change.stations != part.change.stations)
         return false;
-    for (const EditRecord &record : next.m_content->records)
-        m_content->records.push_back(record);
+    part.records.insert(part.records.end(), added.records.begin(), added.records.end());
     return true;
 }
 
 std::size_t EditStep::byteCount() const
 {
-    const ListChange &change = m_content->change;
-    const std::vector<EditRecord> &records = m_content->records;
-    const qsizetype letters = text().capacity() + change.summary.name.capacity();
-    std::size_t bytes = sizeof(*this) + sizeof(Content) + records.capacity() * sizeof(EditRecord) +
-                        change.stations.capacity() * sizeof(StationPtr) +
-                        static_cast<std::size_t>(letters) * sizeof(QChar);
-    for (const EditRecord &record : records)
-        bytes += record.byteCount();
+    std::size_t bytes = sizeof(*this) + sizeof(Content) +
+                        static_cast<std::size_t>(text().capacity()) * sizeof(QChar);
+    for (const auto &[change, records] : *m_content) {
+        bytes += sizeof(Part) + records.capacity() * sizeof(EditRecord) +
+                 change.stations.capacity() * sizeof(StationPtr) +
+                 static_cast<std::size_t>(change.summary.name.capacity()) * sizeof(QChar);
+        for (const EditRecord &record : records)
+            bytes += record.byteCount();
+    }
     return bytes;
 }
 

@@ -18,13 +18,16 @@ class ListEditor;
 class EditStep : public UndoStep
 {
 public:
-    struct Content
+    /// What it did to one list.
+    struct Part
     {
         ListChange change;
         std::vector<EditRecord> records; ///< one after another
     };
+    using Content = std::vector<Part>;
 
-    EditStep(ListEditor &editor, ListChange change, EditRecord record);
+    /// The parts (at least one) are of one list each, and have one summary.
+    EditStep(ListEditor &editor, Content parts);
 
     void undo() override;
     void redo() override;
@@ -37,6 +40,7 @@ public:
 private:
     EditStep(const EditStep &other);
     void tell(ListChange::Cause cause) const;
+    [[nodiscard]] static ListChange changeOf(const Part &part, ListChange::Cause cause);
 
     QPointer<ListEditor> m_editor;
     std::shared_ptr<Content> m_content;

@@ -38,6 +38,7 @@ constexpr std::array kindTexts{
     KindTexts{Kind::Locked, "kToldLocked", true, "kStepLocked", true},
     KindTexts{Kind::Unlocked, "kToldUnlocked", true, "kStepUnlocked", true},
     KindTexts{Kind::Ordered, "kToldOrdered", false, "kStepOrdered", false},
+    KindTexts{Kind::PutBack, "kToldPutBack", false, "kStepPutBack", false},
 };
 
 const KindTexts &textsOf(Kind kind)

@@ -24,6 +24,7 @@ struct EditSummary
         Locked,
         Unlocked,
         Ordered, ///< as a reference list says
+        PutBack, ///< an earlier version
     };
 
     Kind kind = Kind::Moved;
@@ -31,7 +32,7 @@ struct EditSummary
     qint64 first = 0;         ///< the number of the first that was moved, now
     qint64 last = 0;          ///< and of the last
     std::size_t others = 0;   ///< stations besides them that got another number
-    QString name = {};        ///< that was given; after an order, that of its file
+    QString name = {};        ///< that was given; after an order, that of its file; of a version
 };
 
 /// The summary in a sentence, without a full stop.

@@ -11,7 +11,7 @@
 namespace quillet {
 
 /// What can be changed of a station.
-enum class StationField { Number = 1, Name = 2, Skipped = 4, Blocked = 8 };
+enum class StationField { Number = 1, Name = 2, Skipped = 4, Blocked = 8, All = 16 };
 Q_DECLARE_FLAGS(StationFields, StationField)
 
 /// What an edit changed, told once it is made, undone or made again.
@@ -32,6 +32,9 @@ struct ListChange
     EditSummary summary = {};
     StationList stations = {}; ///< that the edit was about; empty: all in those places
     Cause cause = Cause::Edit;
+    /// An edit of several lists is told once for each; the one on show, if it is among them, comes
+    /// last.
+    bool isLast = true;
 };
 
 } // namespace quillet

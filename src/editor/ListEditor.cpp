@@ -1,7 +1,14 @@
 #include "editor/ListEditor.h"
 
+#include "document/compare/ListComparison.h"
+#include "document/edit/PuttingBack.h"
 #include "document/order/ReferenceOrder.h"
 #include "editor/EditStep.h"
+
+#include <QHash>
+#include <QSet>
+
+#include <algorithm>
 
 namespace quillet {
 
@@ -14,6 +21,34 @@ Kind kindOf(StationFlag flag, bool set)
     if (flag == StationFlag::Skipped)
         return set ? Kind::Skipped : Kind::Unskipped;
     return set ? Kind::Locked : Kind::Unlocked;
+}
+
+/// Whether a station stands in its list twice.
+bool hasTwins(const ListComparison &comparison)
+{
+    QSet<const LGStation *> seen;
+    for (const ComparedLists &lists : comparison.lists) {
+        for (const ComparedStation &station : lists.stations) {
+            const qsizetype before = seen.size();
+            seen.insert(station.first.get());
+            if (seen.size() == before)
+                return true;
+        }
+    }
+    return false;
+}
+
+/// The stations of lists that have the same ones, in the order of the second.
+std::vector<StationState> statesOf(const ComparedLists &compared, const StationList &second)
+{
+    QHash<const LGStation *, StationPtr> own;
+    for (const ComparedStation &station : compared.stations)
+        own.insert(station.second.get(), station.first);
+    std::vector<StationState> states;
+    states.reserve(second.size());
+    for (const StationPtr &state : second)
+        states.push_back({own.value(state.get()), state});
+    return states;
 }
 
 } // namespace
@@ -33,7 +68,7 @@ bool ListEditor::move(const MovePlan &plan, Beyond beyond)
         return true;
     EditRecord record;
     const std::size_t others = moveElemList(list(), plan, record);
-    tell({.kind = ListChange::Kind::Moved,
+    push({.kind = ListChange::Kind::Moved,
           .places = {plan.changed},
           .fields = StationField::Number,
           .summary = {.kind = Kind::Moved,
@@ -54,7 +89,7 @@ void ListEditor::arrange(const ArrangePlan &plan, const StationList &stations, K
     EditRecord record;
     quillet::arrange(list(), plan, record);
     const ListStretch places = record.places();
-    tell({.kind = ListChange::Kind::Moved,
+    push({.kind = ListChange::Kind::Moved,
           .places = {places},
           .fields = StationField::Number,
           .summary = {.kind = kind,
@@ -81,7 +116,7 @@ void ListEditor::closeGaps(Beyond beyond)
         return;
     EditRecord record;
     const auto [changed, count] = quillet::closeGaps(list(), record);
-    tell({.places = {changed},
+    push({.places = {changed},
           .fields = StationField::Number,
           .summary = {.kind = Kind::ClosedGaps, .stations = count}},
          std::move(record));
@@ -93,7 +128,7 @@ void ListEditor::rename(const StationPtr &station, const QString &name)
         return;
     EditRecord record;
     quillet::rename(station, name, record);
-    tell({.places = placesOf({station}, list()),
+    push({.places = placesOf({station}, list()),
           .fields = StationField::Name,
           .summary = {.kind = Kind::Renamed, .stations = 1, .name = name},
           .stations = {station}},
@@ -106,7 +141,7 @@ void ListEditor::setFlag(const StationList &stations, StationFlag flag, bool set
         return;
     EditRecord record;
     quillet::setFlag(stations, flag, set, record);
-    tell({.places = placesOf(stations, list()),
+    push({.places = placesOf(stations, list()),
           .fields = flag == StationFlag::Skipped ? StationField::Skipped : StationField::Blocked,
           .summary = {.kind = kindOf(flag, set), .stations = stations.size()},
           .stations = stations},
@@ -119,19 +154,65 @@ void ListEditor::applyOrder(const ReferenceList &entries, const QString &fileNam
         return;
     EditRecord record;
     m_document->applyOrderFromRefList(entries, fileName, &record);
-    tell({.kind = ListChange::Kind::Reordered,
+    push({.kind = ListChange::Kind::Reordered,
           .places = {{0, list().size()}},
           .fields = StationField::Number,
           .summary = {.kind = Kind::Ordered, .stations = list().size(), .name = fileName}},
          std::move(record));
 }
 
-void ListEditor::tell(ListChange change, EditRecord record)
+bool ListEditor::putBack(const ChannelList &version, const QString &name)
+{
+    const ChannelList &now = m_document->list();
+    const ListComparison comparison = compare(now.lists, version.lists);
+    if (now.isLegacyFormat != version.isLegacyFormat || !comparison.isOneToOne() ||
+        hasTwins(comparison))
+        return false;
+    EditStep::Content parts;
+    std::vector<ListChange> changes;
+    for (const ComparedLists &compared : comparison.lists) {
+        const StationListPtr &list = now.lists.list(compared.isTV, compared.source);
+        EditRecord record;
+        const StationList changed = quillet::putBack(
+            *list, statesOf(compared, *version.lists.list(compared.isTV, compared.source)), record);
+        if (record.isEmpty())
+            continue;
+        changes.push_back({.kind = ListChange::Kind::Moved,
+                           .list = list,
+                           .places = {{0, list->size()}},
+                           .fields = StationField::All,
+                           .summary = {.kind = Kind::PutBack, .name = name},
+                           .stations = changed});
+        parts.push_back({changes.back(), {std::move(record)}});
+    }
+    if (parts.empty())
+        return true;
+    m_document->history().push(std::make_unique<EditStep>(*this, std::move(parts)));
+    tell(std::move(changes));
+    return true;
+}
+
+void ListEditor::tell(std::vector<ListChange> changes)
+{
+    const auto isOnShow = [this](const ListChange &change) {
+        return m_document && change.list == m_document->stations();
+    };
+    const auto shown = std::find_if(changes.begin(), changes.end(), isOnShow);
+    if (shown != changes.end())
+        std::iter_swap(shown, changes.end() - 1);
+    for (ListChange &change : changes) {
+        change.isLast = &change == &changes.back();
+        emit changed(change);
+    }
+}
+
+void ListEditor::push(ListChange change, EditRecord record)
 {
     if (record.isEmpty())
         return;
     change.list = m_document->stations();
-    m_document->history().push(std::make_unique<EditStep>(*this, change, std::move(record)));
+    m_document->history().push(
+        std::make_unique<EditStep>(*this, EditStep::Content{{change, {std::move(record)}}}));
     emit changed(change);
 }
 

@@ -13,7 +13,8 @@ namespace quillet {
 
 /// The one gate for edits: every change of a station or of the order of a list is made here,
 /// becomes a step of the document's history and is told; and so is its undoing. Works on the
-/// document's current list; asked for stations of another one it does nothing. An edit that changes
+/// document's current list, but for what puts back a whole version; asked for stations of another
+/// list it does nothing. An edit that changes
 /// nothing leaves no step, but a reference list counts as a change by itself. Shows nothing but the
 /// document's own report of an order. Owned by the window's ViewController; holds the document
 /// weakly, without which nothing may be asked of it.
@@ -51,12 +52,19 @@ public:
     /// Imposes a reference list. The file name is for the document's report.
     void applyOrder(const ReferenceList &entries, const QString &fileName,
                     Beyond beyond = Beyond::Refused);
+    /// Makes all lists of the document what they are in that version, whose stations must be the
+    /// same one to one; they become part of the step. The name is that of the version, for people.
+    /// Returns whether everything is so now.
+    bool putBack(const ChannelList &version, const QString &name);
+
+    /// Tells the changes of one edit, each of another list.
+    void tell(std::vector<ListChange> changes);
 
 signals:
     void changed(const quillet::ListChange &change);
 
 private:
-    void tell(ListChange change, EditRecord record);
+    void push(ListChange change, EditRecord record);
     [[nodiscard]] StationList &list() const { return *m_document->stations(); }
 
     QPointer<TLLDocument> m_document;

@@ -161,6 +161,11 @@ bool StationTableModel::rearrange(const StationList &list)
 void StationTableModel::tellFields(const ListChange &change)
 {
     const std::vector<ListStretch> rows = rowsOf(change.places, *change.list, m_rows);
+    if (change.fields.testFlag(StationField::All)) {
+        for (const ListStretch &stretch : rows)
+            tellCells(stretch, 0, columnCount() - 1);
+        return;
+    }
     for (const auto &[field, content] : fieldColumns) {
         if (!change.fields.testFlag(field))
             continue;

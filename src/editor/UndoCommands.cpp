@@ -26,6 +26,8 @@ void UndoCommands::goToStep(int step)
 
 void UndoCommands::showStep(const ListChange &change)
 {
+    if (!change.isLast)
+        return;
     if (m_table.stationDoc()->history().isJumping()) {
         m_lastOfJump = change;
         return;

@@ -45,7 +45,12 @@ void ViewController::followDocument(TLLDocument *document)
 
 void ViewController::editWasMade(const ListChange &change)
 {
-    showChange(change);
+    if (!change.isLast)
+        return;
+    if (change.list == stationDoc()->stations())
+        showChange(change);
+    else
+        showList(change.list);
     outlets().tellEdit(textOf(change.summary));
 }
 
@@ -282,6 +287,19 @@ void ViewController::applyOrder(const ReferenceList &entries, const QString &fil
     m_editor.applyOrder(entries, fileName, beyond);
     updateButtons();
     saveSelection();
+}
+
+bool ViewController::putBack(const ChannelList &version, const QString &name)
+{
+    if (!stationDoc())
+        return false;
+    const StationList selected = shown().ownStationsAt(outlets().selectedRows());
+    const StationListPtr list = stationDoc()->stations();
+    const bool isBack = m_editor.putBack(version, name);
+    if (list == stationDoc()->stations())
+        reveal(selected);
+    updateButtons();
+    return isBack;
 }
 
 StationPtr ViewController::stationForInfo() const

@@ -52,6 +52,9 @@ public:
     void applyOrderFile(const QString &path);
     /// The same, called when the panel that asked for the file has gone.
     void applyOrderFileWait(const QString &path);
+    /// Makes all lists of the document what they are in an earlier version of it, if that has the
+    /// same stations one to one. The name is that of the version. Returns whether it did.
+    bool putBack(const ChannelList &version, const QString &name);
     /// The station of the first selected row; null when none is selected.
     [[nodiscard]] StationPtr stationForInfo() const;
     /// Whether the command with that name, one of the editor's own, is enabled.

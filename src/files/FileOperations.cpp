@@ -4,6 +4,7 @@
 #include "files/FileNames.h"
 #include "files/FileReading.h"
 #include "files/FileRights.h"
+#include "files/PrivateFolders.h"
 
 #include <QFile>
 
@@ -46,6 +47,11 @@ bool isUnknown(int error)
 #endif
 
 } // namespace
+
+bool FileOperations::makePrivateFolder(const QString &path, QString &reason)
+{
+    return quillet::makePrivateFolder(path, reason);
+}
 
 bool FileOperations::create(QFile &file, bool isPrivate, QString &reason)
 {

@@ -17,6 +17,8 @@ class FileOperations
 public:
     virtual ~FileOperations() = default;
 
+    /// Makes the folder and those above it, unless they are there, for their owner alone.
+    virtual bool makePrivateFolder(const QString &path, QString &reason);
     /// Makes the file, which must not exist yet, and opens it for writing without a buffer. A
     /// private one can be read and written by nobody but its owner.
     virtual bool create(QFile &file, bool isPrivate, QString &reason);

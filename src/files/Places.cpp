@@ -186,6 +186,18 @@ qint64 sizeOf(const QString &path)
     return code ? 0 : static_cast<qint64>(size);
 }
 
+std::optional<QDateTime> timeOf(const QString &path)
+{
+#ifdef Q_OS_WIN
+    const QDateTime time = QFileInfo(path).lastModified().toUTC();
+    return time.isValid() ? std::optional(time) : std::nullopt;
+#else
+    const auto status = statusOf(path);
+    return status ? std::optional(QDateTime::fromSecsSinceEpoch(status->st_mtime, Qt::UTC))
+                  : std::nullopt;
+#endif
+}
+
 bool isWritable(const QString &path)
 {
 #ifdef Q_OS_WIN

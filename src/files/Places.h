@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDateTime>
 #include <QString>
 
 #include <optional>
@@ -32,6 +33,8 @@ namespace quillet {
 [[nodiscard]] bool isOrdinaryFile(const QString &path);
 /// Of the file there, in bytes; 0 when there is none.
 [[nodiscard]] qint64 sizeOf(const QString &path);
+/// When the file there was last written; none when there is no such file.
+[[nodiscard]] std::optional<QDateTime> timeOf(const QString &path);
 /// Whether the system lets us write to what is there, so far as it tells before.
 [[nodiscard]] bool isWritable(const QString &path);
 /// Whether the system lets us replace the file, so far as it tells before.

@@ -5,7 +5,6 @@
 #include "files/FileReading.h"
 #include "files/FileReplacement.h"
 #include "files/Places.h"
-#include "files/PrivateFolders.h"
 #include "files/ShownPath.h"
 
 #include <QFileInfo>
@@ -51,7 +50,7 @@ std::unique_ptr<RecoveryFolder> RecoveryFolder::make(const QString &root,
             QRandomGenerator::global()->generate64(), nameLength, 16, QLatin1Char('0'));
         if (isThere(path))
             continue;
-        if (!makePrivateFolder(path, reason))
+        if (!operations.makePrivateFolder(path, reason))
             break;
         if (auto folder = take(path, operations, reason)) {
             for (const QString &above : {root, QFileInfo(root).path()})

@@ -63,11 +63,30 @@ void SaveJob::lookAtTheDisk(const QByteArray &bytes)
     const FileState now = FileState::at(m_path);
     const FileState::Change change = now.changeSince(m_expected);
     if (change == FileState::Change::None)
-        return replace(bytes);
+        return keepOld(now, bytes);
     m_client->confirm(change, [job = shared_from_this(), now, bytes](bool mayWrite) {
         if (!mayWrite)
             return job->finish(Outcome::GivenUp);
         job->m_expected = now;
+        job->lookAtTheDisk(bytes);
+    });
+}
+
+void SaveJob::keepOld(const FileState &now, const QByteArray &bytes)
+{
+    // What is no file is not replaced either.
+    const bool mayBeLost = !now.exists() || !isOrdinaryFile(m_path) ||
+                           (now.obstacle().isEmpty() && now.bytes() == bytes) ||
+                           (m_unkept && now.changeSince(*m_unkept) == FileState::Change::None);
+    Error error;
+    if (!mayBeLost && !now.obstacle().isEmpty())
+        error = {QStringLiteral("SaveJob"), 3, now.obstacle(), m_path};
+    if (mayBeLost || (error.isEmpty() && m_client->keep(m_path, now.bytes(), error)))
+        return replace(bytes);
+    m_client->confirmUnkept(error, [job = shared_from_this(), now, bytes](bool mayWrite) {
+        if (!mayWrite)
+            return job->finish(Outcome::GivenUp);
+        job->m_unkept = now;
         job->lookAtTheDisk(bytes);
     });
 }

@@ -26,7 +26,9 @@ class FileOperations;
 ///   6. the disk is looked at. Any answer so far may have taken an hour, so only now: whether what
 ///      is there is still what was there, on the same device. If not, that is asked about, and then
 ///      the disk is looked at again, until it is as it was agreed to be;
-///   7. the file is replaced; writing takes a while, so the last look is taken right before that.
+///   7. the very bytes that are there, if they are others, are kept. If that fails, that is asked
+///      about, and then the disk is looked at again;
+///   8. the file is replaced; writing takes a while, so the last look is taken right before that.
 class SaveJob : public std::enable_shared_from_this<SaveJob>
 {
 public:
@@ -53,6 +55,13 @@ public:
         /// Whether to write all the same, after such a change on the disk.
         virtual void confirm(FileState::Change change,
                              const std::function<void(bool)> &answered) = 0;
+        /// Keeps the bytes that the file at the path has and is about to lose; false, with why,
+        /// when that failed.
+        [[nodiscard]] virtual bool keep(const QString &path, const QByteArray &replaced,
+                                        Error &error) = 0;
+        /// Whether to write all the same, though what is there could not be kept.
+        virtual void confirmUnkept(const Error &error,
+                                   const std::function<void(bool)> &answered) = 0;
         virtual void finished(const Result &result) = 0;
     };
 
@@ -67,6 +76,7 @@ private:
     void make();
     [[nodiscard]] bool isRefused();
     void lookAtTheDisk(const QByteArray &bytes);
+    void keepOld(const FileState &now, const QByteArray &bytes);
     void replace(const QByteArray &bytes);
     void finish(Outcome outcome, const Error &error = {});
     void finish(const Result &result);
@@ -74,6 +84,7 @@ private:
     QString m_path;
     QString m_place; ///< where its links led at the last look
     FileState m_expected;
+    std::optional<FileState> m_unkept; ///< which may be replaced without being kept
     std::shared_ptr<Client> m_client;
     FileOperations &m_operations;
     bool m_isFinished = false;

@@ -18,6 +18,7 @@ namespace quillet {
 
 class FileOperations;
 class FileWatch;
+class VersionStore;
 class WindowController;
 
 /// One open file: its URL, whether it has changes, reading, safe writing and reverting. A subclass
@@ -57,6 +58,9 @@ public:
     [[nodiscard]] Prompts *prompts() const { return m_prompts; }
     /// What saving writes with, which must outlive the document; a plain one unless set.
     void setFileOperations(FileOperations &operations) { m_fileOperations = &operations; }
+    /// Where what a save replaces is kept, which must outlive the document; none: nowhere.
+    void setVersionStore(VersionStore *store) { m_versionStore = store; }
+    [[nodiscard]] VersionStore *versionStore() const { return m_versionStore; }
     /// Finds the document, not that one, whose file a path leads to; the DocumentController sets
     /// it.
     using Lookup = std::function<Document *(const QString &path, const Document *except)>;
@@ -216,6 +220,7 @@ private:
     QString m_fileType;
     Prompts *m_prompts = nullptr;
     FileOperations *m_fileOperations;
+    VersionStore *m_versionStore = nullptr;
     bool m_showsFolder = false;
     bool m_isAsking = false;
     Lookup m_lookup;

@@ -301,7 +301,8 @@ bool DocumentController::raiseCopyOf(const QUrl &untouched)
 Document *DocumentController::untouchedDocument() const
 {
     const auto found = std::find_if(m_documents.begin(), m_documents.end(), [](const auto &each) {
-        return each->fileUrl().isEmpty() && !each->isDocumentEdited();
+        return each->fileUrl().isEmpty() && each->suggestedUrl().isEmpty() &&
+               !each->isDocumentEdited();
     });
     return found == m_documents.end() ? nullptr : found->get();
 }

@@ -3,6 +3,7 @@
 #include "files/FileNames.h"
 #include "files/Places.h"
 #include "files/ShownPath.h"
+#include "files/VersionStore.h"
 #include "framework/Document.h"
 #include "framework/WaitCursor.h"
 
@@ -49,6 +50,13 @@ const ChangeTexts &textsOf(FileState::Change change)
     const auto found = std::find_if(changeTexts.begin(), changeTexts.end(),
                                     [change](const auto &each) { return each.change == change; });
     return found == changeTexts.end() ? changeTexts.front() : *found;
+}
+
+/// Whether what was suggested was taken out, or its folder away, before a name in it was chosen.
+bool hasLostItsDisk(const FileState &suggested, const QString &chosen)
+{
+    const bool isInIt = samePlace(QFileInfo(suggested.path()).path(), QFileInfo(chosen).path());
+    return isInIt && !FileState::none(chosen).isOnDeviceOf(suggested);
 }
 
 /// A list is saved under any name.
@@ -105,11 +113,12 @@ QString DocumentSaving::suggestedPath() const
 void DocumentSaving::writeToChosenPlace(const SavePanel &panel)
 {
     m_panel = panel;
-    m_document.askForPlace(panel, [self = shared_from_this()](const QString &path) {
+    const FileState suggested = FileState::none(panel.suggestedPath);
+    m_document.askForPlace(panel, [suggested, self = shared_from_this()](const QString &path) {
         if (path.isEmpty())
             self->m_done(false, self->m_lastError);
         else
-            self->write(path, self->expectedAt(path));
+            self->write(path, hasLostItsDisk(suggested, path) ? suggested : self->expectedAt(path));
     });
 }
 
@@ -176,6 +185,27 @@ void DocumentSaving::confirm(FileState::Change change, const std::function<void(
     if (isOwnFile() && !isGone)
         choices.push_back(Choice::Reload);
     offer(std::move(alert), choices, chosen);
+}
+
+bool DocumentSaving::keep(const QString &path, const QByteArray &replaced, Error &error)
+{
+    VersionStore *store = m_document.versionStore();
+    return !store || store->keep(path, replaced, error);
+}
+
+void DocumentSaving::confirmUnkept(const Error &error, const std::function<void(bool)> &answered)
+{
+    Alert alert;
+    alert.message = qtTrId("kUnkeptMessage").arg(targetName());
+    alert.informativeText = error.text() + QLatin1String("\n\n") + qtTrId("kUnkeptText");
+    alert.buttons = {qtTrId("kCancel"), qtTrId("kSaveUnkept")};
+    alert.cancelButton = 0;
+    alert.destructiveButton = 1;
+    offer(std::move(alert), {Choice::Cancel, Choice::Write, Choice::OtherPlace},
+          [self = shared_from_this(), answered](Choice choice) {
+              self->m_next = choice;
+              answered(choice == Choice::Write);
+          });
 }
 
 void DocumentSaving::finished(const SaveJob::Result &result)

@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <array>
 #include <limits>
+#include <utility>
 
 namespace quillet {
 
@@ -177,6 +178,17 @@ void LGStation::setEntry(Dictionary entry)
 {
     m_entry = std::move(entry);
     m_numberState = NumberState::Unknown;
+}
+
+void LGStation::swapContent(LGStation &other)
+{
+    std::swap(m_entry, other.m_entry);
+    std::swap(m_name, other.m_name);
+    std::swap(m_nameAsMade, other.m_nameAsMade);
+    std::swap(m_rawNumber, other.m_rawNumber);
+    std::swap(m_numberState, other.m_numberState);
+    std::swap(m_isRadio, other.m_isRadio);
+    std::swap(m_usesEnvelope, other.m_usesEnvelope);
 }
 
 void LGStation::setKeys(const StationKeys &keys)

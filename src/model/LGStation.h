@@ -42,6 +42,9 @@ public:
     [[nodiscard]] const Dictionary &entry() const { return m_entry; }
     [[nodiscard]] Dictionary getEntry() const { return m_entry; }
     void setEntry(Dictionary entry);
+    /// Exchanges all that was read or edited, name and all, with another station of the same kind.
+    /// Each keeps its place in its file.
+    void swapContent(LGStation &other);
     [[nodiscard]] qint64 origPos() const { return m_origPos; }
     void setOrigPos(qint64 position) { m_origPos = position; }
     [[nodiscard]] bool isDirty() const { return m_isDirty; }

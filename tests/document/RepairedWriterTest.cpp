@@ -23,7 +23,7 @@ private slots:
             u"<ITEM>\n  <prNum> 1 </prNum><isSkipped/><!-- one --><x n='1'>1</x><sourceIndex>3"
             "</sourceIndex><serviceType>1</serviceType><vchName>&#65;</vchName></ITEM>"_s;
         const QString b =
-            u"<ITEM><prNum>2</prNum><isBlocked>0</isBlocked><sourceIndex>3</sourceIndex>"
+            u"<ITEM><prNum>2</prNum>\r\n  <isBlocked>0</isBlocked><sourceIndex>3</sourceIndex>"
             "<serviceType>1</serviceType><x>2</x><x>3</x><vchName>B</vchName></ITEM>"_s;
         const QString between = u"\n<ITEM/><ITEM> </ITEM>\n  <more/><!-- <ITEM> -->"_s;
         const QString end = u"\n<!-- & -->\n"_s;
@@ -34,6 +34,7 @@ private slots:
         list[0]->setSkipped(true);
         list[0]->setBlocked(true);
         list[1]->setStationName(u"<B> & \"C\""_s);
+        list[1]->setField(u"isBlocked"_s, {});
         std::swap(list[0], list[1]);
         list[0]->setProgramNum(1);
         list[1]->setProgramNum(2);
@@ -46,6 +47,7 @@ private slots:
                 .replace(u"</vchName><isSkipped>1</isSkipped>\n"_s, u"</vchName>"_s);
         const QString newB = QString(b)
                                  .replace(u"<prNum>2"_s, u"<prNum>1"_s)
+                                 .remove(u"\r\n  <isBlocked>0</isBlocked>"_s)
                                  .replace(u">B<"_s, u">&lt;B&gt; &amp; &quot;C&quot;<"_s);
         const QString expected = digital(newB + between + newA + end);
         QCOMPARE(QString::fromUtf8(repairedTLL(document.list())), expected);

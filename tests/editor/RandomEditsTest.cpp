@@ -1,5 +1,8 @@
 #include "EditorFixture.h"
 
+#include "document/compare/ListComparison.h"
+#include "document/read/ListReading.h"
+#include "document/repair/RepairedWriter.h"
 #include "document/write/TLLWriter.h"
 #include "testing/NothingLost.h"
 #include "testing/TestMain.h"
@@ -62,6 +65,7 @@ private slots:
         QFETCH(quint32, seed);
         QFETCH(bool, isJSON);
         m_random.seed(seed);
+        m_putBack = 0;
         Editor editor({});
         editor.show(isJSON ? channels() : items());
         const QUndoStack &steps = editor.document.history().stack();
@@ -91,7 +95,7 @@ private slots:
             }
             QCOMPARE(editor.document.isDirty(), steps.index() != saved);
         }
-        QVERIFY(made > 20 && steps.count() > 5);
+        QVERIFY(made > 20 && steps.count() > 5 && m_putBack > 0);
         const auto goTo = [&](int index) {
             editor.controller.undoing().goToStep(index);
             QCOMPARE(steps.index(), index);
@@ -110,6 +114,8 @@ private slots:
 private:
     QRandomGenerator m_random;
     bool m_mayMerge = false; ///< what was done last, with the step before
+    QByteArray m_version;    ///< what the list was written as at some time
+    int m_putBack = 0;       ///< versions that were
 
     bool oneIn(int count) { return m_random.bounded(count) == 0; }
 
@@ -213,6 +219,10 @@ private:
         case 11:
             order(editor);
             return true;
+        case 12:
+        case 15:
+            putBack(editor);
+            return true;
         case 13:
             editor.outlets.selectRows(rows.mid(0, 2));
             controller.arrange(Arrangement::Swap);
@@ -226,6 +236,19 @@ private:
             controller.moveSelectedElements(rows, target);
             return true;
         }
+    }
+
+    /// What was kept last time, and keeps what there is now.
+    void putBack(Editor &editor)
+    {
+        const QByteArray now = repairedTLL(editor.document.list());
+        const QByteArray bytes = std::exchange(m_version, now);
+        auto version = channelListFromBytes(bytes);
+        if (!version || !editor.controller.putBack(*version, u"name"_s))
+            return;
+        ++m_putBack;
+        version = channelListFromBytes(bytes);
+        QVERIFY(compare(editor.document.lists(), version->lists).isEmpty());
     }
 
     /// With numbers given twice, so that stations are moved in the place of others.

@@ -83,7 +83,7 @@ std::vector<qint64> EditRecord::numbersOfPlaces(const StationList &list) const
 
 bool EditRecord::isEmpty() const
 {
-    return m_order.isEmpty() && m_numbers.empty() && m_fields.empty();
+    return m_order.isEmpty() && m_numbers.empty() && m_fields.empty() && m_contents.empty();
 }
 
 /// Exactly backwards, for a station may stand in the list twice.
@@ -100,6 +100,7 @@ void EditRecord::undo(StationList &list)
     for (auto field = m_numberFields.rbegin(); field != m_numberFields.rend(); ++field)
         field->station->setField(field->key, field->content);
     swapFields();
+    swapContents();
 }
 
 void EditRecord::redo(StationList &list)
@@ -113,6 +114,7 @@ void EditRecord::redo(StationList &list)
             list[run.place + i]->setProgramNum(run.after + static_cast<qint64>(i));
     }
     swapFields();
+    swapContents();
 }
 
 /// Each station has each field once here, so the way through them does not matter.
@@ -123,6 +125,19 @@ void EditRecord::swapFields()
         station->setField(key, content);
         content = std::move(now);
     }
+}
+
+void EditRecord::replaceContent(const StationPtr &station, const StationPtr &other)
+{
+    station->swapContent(*other);
+    m_contents.emplace_back(station, other);
+}
+
+/// Each station is here once.
+void EditRecord::swapContents()
+{
+    for (const auto &[station, other] : m_contents)
+        station->swapContent(*other);
 }
 
 ListStretch EditRecord::places() const
@@ -136,8 +151,15 @@ ListStretch EditRecord::places() const
 
 std::size_t EditRecord::byteCount() const
 {
-    return m_order.byteCount() + m_numbers.capacity() * sizeof(Numbers) +
-           byteCountOf(m_numberFields) + byteCountOf(m_fields);
+    std::size_t bytes = m_order.byteCount() + m_numbers.capacity() * sizeof(Numbers) +
+                        byteCountOf(m_numberFields) + byteCountOf(m_fields) +
+                        m_contents.capacity() * sizeof(m_contents.front());
+    for (const auto &[station, other] : m_contents) {
+        bytes += sizeof(LGStation);
+        for (const auto &[key, value] : other->entry())
+            bytes += sizeof(Value) + byteCountOf(std::optional(value));
+    }
+    return bytes;
 }
 
 } // namespace quillet

@@ -3,6 +3,7 @@
 #include "document/edit/OrderChange.h"
 
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace quillet {
@@ -31,6 +32,9 @@ public:
         if (station->field(key) != before)
             m_fields.push_back({station, key, before});
     }
+
+    /// Gives the station the content of another one, which must be this edit's alone from then on.
+    void replaceContent(const StationPtr &station, const StationPtr &other);
 
     // Afterwards
 
@@ -66,6 +70,7 @@ private:
     void giveToPlaces(const StationList &list, const std::vector<qint64> &numbers);
     [[nodiscard]] std::vector<qint64> numbersOfPlaces(const StationList &list) const;
     void swapFields();
+    void swapContents();
 
     OrderChange m_order;
     bool m_numbersStay = false; ///< with their places, in the stretch of the order
@@ -74,6 +79,8 @@ private:
     /// bring that back.
     std::vector<Field> m_numberFields;
     std::vector<Field> m_fields; ///< before, or after once the edit was taken back
+    /// Stations of the list, and others with what they were before, or after.
+    std::vector<std::pair<StationPtr, StationPtr>> m_contents;
 };
 
 } // namespace quillet

@@ -65,6 +65,17 @@ qsizetype placeForFields(const QByteArray &item, const std::vector<ElementSpan> 
     return last == fields.rend() ? -1 : last->whole.end;
 }
 
+/// Where the blanks begin that stand before that place, on its own line and at the end of the one
+/// before.
+qsizetype startOfBlanks(const QByteArray &text, qsizetype place)
+{
+    while (place > 0 && (text[place - 1] == ' ' || text[place - 1] == '\t'))
+        --place;
+    if (place > 0 && text[place - 1] == '\n')
+        --place;
+    return place > 0 && text[place - 1] == '\r' ? place - 1 : place;
+}
+
 /// An ITEM element, as it was read, with the fields of the entry that differ from the original's.
 /// One that is not whole ends with the text; a field that is not, stays.
 QByteArray editedItem(const QByteArray &item, const Dictionary &original, const Dictionary &entry,
@@ -96,6 +107,11 @@ QByteArray editedItem(const QByteArray &item, const Dictionary &original, const 
         }
         if (!isWritten)
             added += element + (item.contains("\r\n") ? "\r\n" : "\n");
+    }
+    for (const ElementSpan &field : fields) {
+        const QString key = QString::fromUtf8(field.name);
+        if (field.isClosed && original.contains(key) && !entry.contains(key))
+            replacements.push_back({{startOfBlanks(item, field.whole.start), field.whole.end}, {}});
     }
     const qsizetype end = placeForFields(item, fields, isWhole);
     if (end >= 0 && !added.isEmpty())

@@ -1,0 +1,79 @@
+#pragma once
+
+#include "document/compare/ListComparison.h"
+#include "files/VersionStore.h"
+
+#include <QObject>
+#include <QString>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+class QThread;
+
+namespace quillet {
+
+struct ChannelList;
+class TLLDocument;
+
+/// The versions that are kept of a document's file, the newest first, and how each differs from the
+/// list as it is when this is made. The rows are there at once; what they hold is read on another
+/// thread and told row by row. Changes nothing. Owned by the window that lists them; the document
+/// and its store must outlive it.
+class EarlierVersions : public QObject
+{
+    Q_OBJECT
+
+public:
+    struct Row
+    {
+        enum class State {
+            Reading,
+            Read,
+            Damaged, ///< what was kept is not there any more
+            NoList,  ///< the bytes are, but no list can be read from them
+        };
+
+        KeptVersion version;
+        State state = State::Reading;
+        qsizetype stations = 0; ///< once it is read
+        QString difference = {};
+        QString obstacle = {}; ///< to putting it back; empty when it can be
+    };
+
+    explicit EarlierVersions(const TLLDocument &document, QObject *parent = nullptr);
+    /// Waits until the version that is being read was read.
+    ~EarlierVersions() override;
+
+    /// Whether any are kept of the document's file.
+    [[nodiscard]] static bool hasAny(const TLLDocument &document);
+
+    [[nodiscard]] const std::vector<Row> &rows() const { return m_rows; }
+    /// When it was made, as people say it.
+    [[nodiscard]] QString timeText(std::size_t row) const;
+    /// How it differs, or why that is not told.
+    [[nodiscard]] QString differenceText(std::size_t row) const;
+    [[nodiscard]] bool canBeOpened(std::size_t row) const;
+    /// Empty when it can be put back.
+    [[nodiscard]] QString reasonAgainstPuttingBack(std::size_t row) const;
+
+    [[nodiscard]] bool readBytes(std::size_t row, QByteArray &bytes, Error &error) const;
+    /// None when it cannot be read any more.
+    [[nodiscard]] std::optional<ChannelList> readList(std::size_t row) const;
+    /// Where to suggest to save it as a file of its own: beside the document's, named by its day.
+    [[nodiscard]] QString suggestedPath(std::size_t row) const;
+
+signals:
+    void rowRead(int row);
+
+private:
+    void readAll();
+
+    const TLLDocument &m_document;
+    const VersionStore *m_store;
+    std::vector<Row> m_rows;
+    std::unique_ptr<QThread> m_reader;
+};
+
+} // namespace quillet

@@ -1,0 +1,175 @@
+#include "editor/VersionsDialog.h"
+
+#include "editor/RoomyCells.h"
+#include "editor/ViewController.h"
+#include "framework/WaitCursor.h"
+
+#include <QDialogButtonBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLocale>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+#include <new>
+
+namespace quillet {
+
+namespace {
+
+enum Column { Time, Size, Stations, Difference };
+
+QLabel *makeLabel(const QString &text)
+{
+    auto *label = new QLabel(text);
+    label->setTextFormat(Qt::PlainText); // names of files may look like markup
+    label->setWordWrap(true);
+    return label;
+}
+
+} // namespace
+
+VersionsDialog::VersionsDialog(ViewController &controller, QWidget *parent)
+    : QDialog(parent), m_controller(controller), m_versions(*controller.stationDoc()),
+      m_list(makeList()), m_reason(makeLabel({}))
+{
+    setObjectName(QStringLiteral("versionsDialog"));
+    setWindowTitle(qtTrId("kVersionsTitle"));
+    setWindowModality(Qt::WindowModal);
+    setAttribute(Qt::WA_DeleteOnClose);
+    m_reason->setObjectName(QStringLiteral("versionReason"));
+    m_reason->setAlignment(Qt::AlignTop);
+    m_reason->setMinimumHeight(3 * fontMetrics().lineSpacing()); // so that nothing jumps
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close);
+    m_open = buttons->addButton(qtTrId("kVersionOpen"), QDialogButtonBox::ActionRole);
+    m_open->setObjectName(QStringLiteral("openVersion"));
+    m_putBack = buttons->addButton(qtTrId("kPutBack"), QDialogButtonBox::ActionRole);
+    m_putBack->setObjectName(QStringLiteral("putBackVersion"));
+    auto *column = new QVBoxLayout(this);
+    column->addWidget(
+        makeLabel(qtTrId("kVersionsIntro").arg(controller.stationDoc()->displayName())));
+    column->addWidget(m_list, 1);
+    column->addWidget(m_reason);
+    column->addWidget(buttons);
+    m_open->setDefault(true);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connect(m_open, &QPushButton::clicked, this, &VersionsDialog::openChosen);
+    connect(m_putBack, &QPushButton::clicked, this, &VersionsDialog::putBackChosen);
+    connect(m_list, &QTableWidget::currentItemChanged, this, &VersionsDialog::showChoice);
+    connect(m_list, &QTableWidget::itemDoubleClicked, this, &VersionsDialog::openChosen);
+    connect(&m_versions, &EarlierVersions::rowRead, this, &VersionsDialog::showRow);
+    for (int row = 0; row < m_list->rowCount(); ++row)
+        showRow(row);
+    m_list->resizeColumnsToContents();
+    m_list->setCurrentCell(0, 0);
+    const int line = fontMetrics().height();
+    resize(56 * line, 26 * line);
+    m_list->setFocus();
+}
+
+QTableWidget *VersionsDialog::makeList() const
+{
+    auto *list = new QTableWidget(static_cast<int>(m_versions.rows().size()), 4);
+    RoomyCells::applyTo(*list);
+    list->setObjectName(QStringLiteral("versionList"));
+    list->setAccessibleName(qtTrId("kVersionsTitle"));
+    list->setHorizontalHeaderLabels({qtTrId("kVersionTime"), qtTrId("kVersionSize"),
+                                     qtTrId("kVersionStations"), qtTrId("kVersionDifference")});
+    list->setSelectionBehavior(QAbstractItemView::SelectRows);
+    list->setSelectionMode(QAbstractItemView::SingleSelection);
+    list->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    list->setAlternatingRowColors(true);
+    list->setShowGrid(false);
+    list->setTabKeyNavigation(false);
+    list->setWordWrap(false);
+    list->verticalHeader()->hide();
+    list->horizontalHeader()->setStretchLastSection(true);
+    list->horizontalHeader()->setHighlightSections(false);
+    list->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    for (int row = 0; row < list->rowCount(); ++row) {
+        for (const Column each : {Time, Size, Stations, Difference}) {
+            auto *item = new QTableWidgetItem;
+            const bool isNumber = each == Size || each == Stations;
+            item->setTextAlignment((isNumber ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+            list->setItem(row, each, item);
+        }
+    }
+    return list;
+}
+
+void VersionsDialog::showRow(int row)
+{
+    const auto index = static_cast<std::size_t>(row);
+    const EarlierVersions::Row &shown = m_versions.rows()[index];
+    const QString time = m_versions.timeText(index);
+    m_list->item(row, Time)->setText(shown.version.isFirst ? qtTrId("kVersionFirst").arg(time)
+                                                           : time);
+    m_list->item(row, Size)->setText(
+        QLocale().formattedDataSize(shown.version.size, 1, QLocale::DataSizeSIFormat));
+    if (shown.state == EarlierVersions::Row::State::Read)
+        m_list->item(row, Stations)->setText(QString::number(shown.stations));
+    const QString difference = m_versions.differenceText(index);
+    m_list->item(row, Difference)->setText(difference);
+    m_list->item(row, Difference)->setToolTip(difference);
+    if (chosen() == index)
+        showChoice();
+}
+
+std::optional<std::size_t> VersionsDialog::chosen() const
+{
+    const int row = m_list->currentRow();
+    return row < 0 ? std::nullopt : std::optional(static_cast<std::size_t>(row));
+}
+
+/// A difference may be longer than its column is wide.
+void VersionsDialog::showChoice()
+{
+    const std::optional<std::size_t> row = chosen();
+    if (!row)
+        return;
+    const QString reason = m_versions.reasonAgainstPuttingBack(*row);
+    const QString difference = m_versions.differenceText(*row);
+    m_open->setEnabled(m_versions.canBeOpened(*row));
+    m_putBack->setEnabled(reason.isEmpty());
+    m_putBack->setToolTip(reason);
+    const QString next = reason.isEmpty() ? qtTrId("kPutBackText") : reason;
+    m_reason->setText(next == difference ? next : difference + u'\n' + next);
+}
+
+void VersionsDialog::openChosen()
+{
+    const std::optional<std::size_t> row = chosen();
+    if (!row || !m_open->isEnabled())
+        return;
+    QByteArray bytes;
+    Error error;
+    const bool isRead = m_versions.readBytes(*row, bytes, error);
+    const QString path = m_versions.suggestedPath(*row);
+    accept();
+    if (isRead)
+        emit openRequested(bytes, path);
+    else
+        m_controller.showError(error.text(), qtTrId("kLoadingProblem"));
+}
+
+/// What a row tells may have gone from the disk since.
+void VersionsDialog::putBackChosen()
+{
+    const std::optional<std::size_t> row = chosen();
+    if (!row)
+        return;
+    const QString name = m_versions.timeText(*row);
+    bool isBack = false;
+    try {
+        const WaitCursor wait(WaitCursor::Work::Opening, m_versions.rows()[*row].version.size);
+        const std::optional<ChannelList> list = m_versions.readList(*row);
+        isBack = list && m_controller.putBack(*list, name);
+    } catch (const std::bad_alloc &) {
+    }
+    accept();
+    if (!isBack)
+        m_controller.showError(qtTrId("kVersionDamaged"), qtTrId("kLoadingProblem"));
+}
+
+} // namespace quillet

@@ -1,0 +1,115 @@
+#include "files/VersionHistory.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+
+#include <algorithm>
+
+namespace quillet {
+
+namespace {
+
+constexpr QLatin1String placeKey("path");
+constexpr QLatin1String versionsKey("versions");
+constexpr QLatin1String digestKey("sha256");
+constexpr QLatin1String sizeKey("size");
+constexpr QLatin1String timeKey("time");
+constexpr QLatin1String firstKey("first");
+constexpr qint64 largestSize = qint64{1} << 40; ///< of what a damaged file tells
+
+/// It is a part of a file's name, so nothing else may stand there.
+bool isDigest(const QByteArray &text)
+{
+    constexpr qsizetype digits = 64;
+    return text.size() == digits && std::all_of(text.begin(), text.end(), [](char c) {
+               return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'f');
+           });
+}
+
+std::optional<KeptVersion> versionOf(const QJsonValue &value)
+{
+    const QJsonObject object = value.toObject();
+    const QByteArray digest = object[digestKey].toString().toLatin1();
+    if (!isDigest(digest))
+        return {};
+    return KeptVersion{digest, std::clamp<qint64>(object[sizeKey].toInteger(), 0, largestSize),
+                       QDateTime::fromString(object[timeKey].toString(), Qt::ISODateWithMs),
+                       object[firstKey].toBool()};
+}
+
+QJsonObject objectOf(const KeptVersion &version)
+{
+    QJsonObject object{{digestKey, QString::fromLatin1(version.digest)},
+                       {sizeKey, version.size},
+                       {timeKey, version.time.toString(Qt::ISODateWithMs)}};
+    if (version.isFirst)
+        object.insert(firstKey, true);
+    return object;
+}
+
+} // namespace
+
+VersionHistory::VersionHistory(const QString &place) : m_object{{placeKey, place}} {}
+
+std::optional<VersionHistory> VersionHistory::fromJSON(const QByteArray &json)
+{
+    VersionHistory history;
+    history.m_object = QJsonDocument::fromJson(json).object();
+    if (history.place().isEmpty() || !history.m_object[versionsKey].isArray())
+        return {};
+    return history;
+}
+
+QByteArray VersionHistory::toJSON() const
+{
+    return QJsonDocument(m_object).toJson();
+}
+
+QString VersionHistory::place() const
+{
+    return m_object[placeKey].toString();
+}
+
+std::vector<KeptVersion> VersionHistory::versions() const
+{
+    std::vector<KeptVersion> versions;
+    for (const QJsonValue &value : m_object[versionsKey].toArray()) {
+        const std::optional<KeptVersion> version = versionOf(value);
+        const auto isSame = [&version](const auto &each) { return each.digest == version->digest; };
+        if (version && std::none_of(versions.begin(), versions.end(), isSame))
+            versions.push_back(*version);
+    }
+    return versions;
+}
+
+bool VersionHistory::add(const KeptVersion &version)
+{
+    const std::vector<KeptVersion> before = versions();
+    const auto same = std::find_if(before.begin(), before.end(), [&version](const auto &each) {
+        return each.digest == version.digest;
+    });
+    if (same != before.end()) {
+        if (same->isFirst || same + 1 == before.end())
+            return false;
+        remove(version.digest);
+    }
+    KeptVersion added = version;
+    added.isFirst = before.empty();
+    QJsonArray array = m_object[versionsKey].toArray();
+    array.append(objectOf(added));
+    m_object.insert(versionsKey, array);
+    return true;
+}
+
+void VersionHistory::remove(const QByteArray &digest)
+{
+    QJsonArray left;
+    for (const QJsonValue &value : m_object[versionsKey].toArray()) {
+        const std::optional<KeptVersion> version = versionOf(value);
+        if (!version || version->digest != digest)
+            left.append(value);
+    }
+    m_object.insert(versionsKey, left);
+}
+
+} // namespace quillet

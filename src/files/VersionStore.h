@@ -1,0 +1,56 @@
+#pragma once
+
+#include "files/Error.h"
+#include "files/VersionHistory.h"
+
+#include <QString>
+
+#include <vector>
+
+namespace quillet {
+
+class FileOperations;
+
+/// Keeps what this program has replaced of owners' files, in a folder of the user's: of each path
+/// the first content ever for good, and the last ten; equal contents once. What all take together
+/// is bounded: the oldest of the longest histories go first, never a first one, nor the one that
+/// was just kept. Two programs may use one folder. What is found damaged there is passed over and
+/// left alone. Owns no file but those in its folder, which nobody else can read:
+///   contents/<digest>       the bytes
+///   histories/<name>.json   which of them a path has had (VersionHistory)
+class VersionStore
+{
+public:
+    static constexpr std::size_t mostLater = 10; ///< versions of a path besides the first
+    static constexpr qint64 usualLimit = qint64{200} << 20;
+
+    /// The operations must outlive the store. The limit is in bytes.
+    VersionStore(QString folder, FileOperations &operations, qint64 limit = usualLimit);
+    /// The folder in the user's data.
+    [[nodiscard]] static QString standardFolder();
+
+    /// Keeps the bytes, which the file there has now and is about to lose. Returns whether they are
+    /// on the disk; if not, why.
+    [[nodiscard]] bool keep(const QString &path, const QByteArray &bytes, Error &error);
+    /// What is kept of the file that the path leads to, the newest first.
+    [[nodiscard]] std::vector<KeptVersion> versionsOf(const QString &path) const;
+    /// The bytes of a version. Fails when they are missing or are not what was kept.
+    [[nodiscard]] bool read(const KeptVersion &version, QByteArray &bytes, Error &error) const;
+
+private:
+    struct HistoryFile;
+    using HistoryFiles = std::vector<HistoryFile>;
+
+    [[nodiscard]] HistoryFiles readHistories() const;
+    [[nodiscard]] QString contentPath(const QByteArray &digest) const;
+    [[nodiscard]] bool write(const QString &path, const QByteArray &bytes, Error &error);
+    [[nodiscard]] bool keepLocked(const QString &path, const QByteArray &bytes, Error &error);
+    void makeRoom(HistoryFiles &files, const QByteArray &justKept);
+    [[nodiscard]] bool drop(HistoryFiles &files, std::size_t from, const QByteArray &digest);
+
+    QString m_folder;
+    FileOperations &m_operations;
+    qint64 m_limit;
+};
+
+} // namespace quillet

@@ -1,0 +1,280 @@
+#include "files/VersionStore.h"
+#include "files/FileOperations.h"
+#include "files/Places.h"
+#include "testing/TestFiles.h"
+#include "testing/TestMain.h"
+
+#include <QDir>
+#include <QFile>
+#include <QLockFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace quillet;
+using namespace quillet::testing;
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+enum class Fault { None, Folder, Create, Write, Sync, ReadBack, Rename };
+
+/// The real operations, of which one fails from the given call on.
+class FaultyOperations : public FileOperations
+{
+public:
+    Fault fault = Fault::None;
+    int passed = 0; ///< calls that go well
+
+    bool makePrivateFolder(const QString &path, QString &reason) override
+    {
+        return !fails(Fault::Folder, reason) && FileOperations::makePrivateFolder(path, reason);
+    }
+    bool create(QFile &file, bool isPrivate, QString &reason) override
+    {
+        return !fails(Fault::Create, reason) && FileOperations::create(file, isPrivate, reason);
+    }
+    qint64 write(QFile &file, const QByteArray &bytes, QString &reason) override
+    {
+        const bool isShort = fails(Fault::Write, reason);
+        return FileOperations::write(file, isShort ? bytes.chopped(1) : bytes, reason);
+    }
+    bool sync(QFile &file, QString &reason) override
+    {
+        return !fails(Fault::Sync, reason) && FileOperations::sync(file, reason);
+    }
+    bool readBack(const QString &path, QByteArray &bytes, QString &reason) override
+    {
+        return !fails(Fault::ReadBack, reason) && FileOperations::readBack(path, bytes, reason);
+    }
+    bool rename(const QString &from, const QString &to, QString &reason) override
+    {
+        return !fails(Fault::Rename, reason) && FileOperations::rename(from, to, reason);
+    }
+
+private:
+    bool fails(Fault each, QString &reason)
+    {
+        if (each != fault || passed-- > 0)
+            return false;
+        reason = u"fault"_s;
+        return true;
+    }
+};
+
+} // namespace
+
+class VersionStoreTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_operations = {};
+    }
+
+    void firstAndLastTenAreKept()
+    {
+        VersionStore store = makeStore();
+        keep(store, u"a.tll"_s, "0");
+        for (int i = 1; i <= 14; ++i)
+            keep(store, u"a.tll"_s, QByteArray::number(i));
+        QCOMPARE(contents(store, u"a.tll"_s), u"14 13 12 11 10 9 8 7 6 5 0*"_s);
+        QCOMPARE(files(u"contents"_s).size(), 11); // and no more lie on the disk
+    }
+
+    void equalBytesAreKeptOnce()
+    {
+        VersionStore store = makeStore();
+        for (const char *bytes : {"one", "one", "two", "three", "two", "one"})
+            keep(store, u"a.tll"_s, bytes);
+        keep(store, u"b.tll"_s, "two");
+        QCOMPARE(contents(store, u"a.tll"_s), u"two three one*"_s);
+        QCOMPARE(contents(store, u"b.tll"_s), u"two*"_s);
+        QCOMPARE(files(u"contents"_s).size(), 3);
+    }
+
+    void limitTakesTheOldestOfTheLongestHistories()
+    {
+        VersionStore store = makeStore(60);
+        const auto tens = [](char letter) { return QByteArray(10, letter); };
+        for (const char letter : {'a', 'b', 'c'})
+            keep(store, u"long.tll"_s, tens(letter));
+        for (const char letter : {'x', 'b', 'y'}) // "b" takes no further room
+            keep(store, u"short.tll"_s, tens(letter));
+        QCOMPARE(firstLetters(store, u"long.tll"_s), u"c b a*"_s);
+        keep(store, u"long.tll"_s, tens('d'));
+        keep(store, u"long.tll"_s, tens('e'));
+        QCOMPARE(firstLetters(store, u"long.tll"_s), u"e d a*"_s);
+        QCOMPARE(firstLetters(store, u"short.tll"_s), u"y b x*"_s);
+        // The first ones stay for good, and what was just kept until the next time.
+        keep(store, u"huge.tll"_s, QByteArray(100, 'h'));
+        keep(store, u"huge.tll"_s, tens('i'));
+        QCOMPARE(firstLetters(store, u"long.tll"_s), u"a*"_s);
+        QCOMPARE(firstLetters(store, u"short.tll"_s), u"x*"_s);
+        QCOMPARE(firstLetters(store, u"huge.tll"_s), u"i h*"_s);
+        QCOMPARE(files(u"contents"_s).size(), 4);
+    }
+
+    void faultKeepsWhatIsThere_data()
+    {
+        QTest::addColumn<Fault>("fault");
+        QTest::addColumn<int>("passed");
+        for (const auto &[name, fault] :
+             {std::pair{"create", Fault::Create}, std::pair{"write", Fault::Write},
+              std::pair{"sync", Fault::Sync}, std::pair{"read back", Fault::ReadBack},
+              std::pair{"rename", Fault::Rename}}) {
+            QTest::addRow("%s the content", name) << fault << 0;
+            QTest::addRow("%s the history", name) << fault << 1;
+        }
+        QTest::newRow("make the folder") << Fault::Folder << 0;
+    }
+    void faultKeepsWhatIsThere()
+    {
+        QFETCH(Fault, fault);
+        QFETCH(int, passed);
+        VersionStore store = makeStore();
+        keep(store, u"a.tll"_s, "old");
+        m_operations.fault = fault;
+        m_operations.passed = passed;
+        writeFile(path(u"a.tll"_s), "new");
+        Error error;
+        QVERIFY(!store.keep(path(u"a.tll"_s), "new", error));
+        QVERIFY(!error.localizedDescription.isEmpty());
+        QCOMPARE(contents(store, u"a.tll"_s), u"old*"_s);
+
+        m_operations.fault = Fault::None;
+        keep(store, u"a.tll"_s, "new");
+        QCOMPARE(contents(store, u"a.tll"_s), u"new old*"_s);
+        QCOMPARE(files(u"contents"_s).size() + files(u"histories"_s).size(), 3);
+    }
+
+    void damagedHistoryIsLeftAlone_data()
+    {
+        QTest::addColumn<QByteArray>("damaged");
+        QTest::addColumn<QString>("kept");
+        const QByteArray digest(64, 'a');
+        QTest::newRow("empty") << QByteArray() << u"new*"_s;
+        QTest::newRow("broken off") << QByteArray(R"({"path": "%1", "versions": [{)") << u"new*"_s;
+        QTest::newRow("another type") << QByteArray("[1, 2]") << u"new*"_s;
+        QTest::newRow("no versions") << QByteArray(R"({"path": "%1", "versions": 5})") << u"new*"_s;
+        QTest::newRow("strange versions")
+            << QByteArray(R"({"path": "%1", "versions": [7, {"sha256": "../../x"}, {"sha256": ")" +
+                          digest + R"(", "size": -5, "time": [], "first": true}], "more": 1})")
+            << u"new <missing>*"_s;
+    }
+    void damagedHistoryIsLeftAlone()
+    {
+        QFETCH(QByteArray, damaged);
+        QFETCH(QString, kept);
+        VersionStore store = makeStore();
+        keep(store, u"a.tll"_s, "old");
+        const QString history =
+            m_folder->filePath(u"store/histories/"_s) + files(u"histories"_s).value(0);
+        damaged.replace("%1", placeOf(path(u"a.tll"_s)).toUtf8());
+        writeFile(history, damaged);
+        keep(store, u"a.tll"_s, "new");
+        QCOMPARE(contents(store, u"a.tll"_s), kept);
+        QCOMPARE(files(u"contents"_s).size(), 2); // what it told of may be wanted back
+        for (const char *part : {"\"more\": 1", "../../x"})
+            QCOMPARE(contentOf(history).contains(part), damaged.contains(part));
+        if (kept == u"new*"_s)
+            QCOMPARE(contentOf(history), damaged);
+    }
+
+    void damagedContentIsTold()
+    {
+        VersionStore store = makeStore();
+        keep(store, u"a.tll"_s, "old");
+        const QString content =
+            m_folder->filePath(u"store/contents/"_s) + files(u"contents"_s).value(0);
+        writeFile(content, "odl");
+        QCOMPARE(contents(store, u"a.tll"_s), u"<missing>*"_s);
+        keep(store, u"a.tll"_s, "old"); // which mends it
+        QCOMPARE(contents(store, u"a.tll"_s), u"old*"_s);
+    }
+
+#ifndef Q_OS_WIN
+    void fileIsFoundByItsLinks()
+    {
+        VersionStore store = makeStore();
+        keep(store, u"a.tll"_s, "old");
+        QVERIFY(QFile::link(path(u"a.tll"_s), path(u"link.tll"_s)));
+        QCOMPARE(contents(store, u"link.tll"_s), u"old*"_s);
+        QCOMPARE(contents(store, u"./a.tll"_s), u"old*"_s);
+        QCOMPARE(contents(store, u"b.tll"_s), QString());
+    }
+
+    void nobodyElseReadsTheStore()
+    {
+        VersionStore store = makeStore();
+        keep(store, u"a.tll"_s, "old");
+        constexpr auto others = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup |
+                                QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
+        const QString root = m_folder->filePath(u"store"_s);
+        for (const QString &each : {root, root + u"/contents"_s, root + u"/histories"_s,
+                                    root + u"/contents/"_s + files(u"contents"_s).value(0),
+                                    root + u"/histories/"_s + files(u"histories"_s).value(0)})
+            QVERIFY2(!(QFile::permissions(each) & others), qPrintable(each));
+    }
+#endif
+
+    void anotherProgramIsWaitedFor()
+    {
+        VersionStore store = makeStore();
+        keep(store, u"a.tll"_s, "old");
+        QLockFile other(m_folder->filePath(u"store/lock"_s));
+        QVERIFY(other.lock());
+        Error error;
+        QVERIFY(!store.keep(path(u"a.tll"_s), "new", error));
+        QCOMPARE(error.localizedDescription, u"kVersionsLockedReason"_s);
+        other.unlock();
+        QVERIFY(store.keep(path(u"a.tll"_s), "new", error));
+        QCOMPARE(contents(store, u"a.tll"_s), u"new old*"_s);
+    }
+
+private:
+    VersionStore makeStore(qint64 limit = VersionStore::usualLimit)
+    {
+        return VersionStore(m_folder->filePath(u"store"_s), m_operations, limit);
+    }
+    QString path(const QString &name) const
+    {
+        return m_folder->filePath(name);
+    }
+    void keep(VersionStore &store, const QString &name, const QByteArray &bytes)
+    {
+        writeFile(path(name), bytes);
+        Error error;
+        QVERIFY2(store.keep(path(name), bytes, error), qPrintable(error.localizedDescription));
+    }
+    /// What is kept, the newest first; "*" is behind the first of all.
+    QString contents(const VersionStore &store, const QString &name, qsizetype most = 9) const
+    {
+        QStringList texts;
+        for (const KeptVersion &version : store.versionsOf(path(name))) {
+            QByteArray bytes;
+            Error error;
+            texts.append((store.read(version, bytes, error) ? QString::fromUtf8(bytes).left(most)
+                                                            : u"<missing>"_s) +
+                         (version.isFirst ? u"*"_s : QString()));
+        }
+        return texts.join(u' ');
+    }
+    QString firstLetters(const VersionStore &store, const QString &name) const
+    {
+        return contents(store, name, 1);
+    }
+    QStringList files(const QString &folder) const
+    {
+        return QDir(m_folder->filePath(u"store/"_s + folder)).entryList(QDir::Files | QDir::Hidden);
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    FaultyOperations m_operations;
+};
+
+QUILLET_TEST(VersionStoreTest)
+
+#include "VersionStoreTest.moc"

@@ -83,6 +83,8 @@ public:
     [[nodiscard]] Iterator end() const { return {this, count()}; }
 
     [[nodiscard]] bool operator==(const Dictionary &other) const;
+    /// Whether neither was changed since one was a copy of the other; false tells nothing.
+    [[nodiscard]] bool isSharedWith(const Dictionary &other) const { return d == other.d; }
 
     /// The table of the keys, which may be shared with other dictionaries; null when there are
     /// none.

@@ -8,7 +8,6 @@
 
 #include <QTest>
 
-#include <cmath>
 #include <limits>
 
 using namespace quillet;
@@ -103,6 +102,20 @@ private slots:
         QCOMPARE(formattedDescription(entry), formattedDescription(station->entry()));
         if (value == Value(-0.0))
             QCOMPARE(entry.find(u"added")->description(), value.description());
+    }
+
+    void equalFieldsMayDiffer()
+    {
+        const QByteArray bytes =
+            "<TLLDATA><CHANNEL><legacybroadcast>{\"channelList\":[" +
+            makeChannel("A", "1", {.more = ",\"x\":0.0,\"y\":{\"a\":1,\"b\":2}"}) +
+            "]}</legacybroadcast></CHANNEL></TLLDATA>";
+        const auto list = channelListFromBytes(bytes);
+        const StationPtr &station = firstStation(*list);
+        station->setField(u"x"_s, Value(-0.0));
+        station->setField(u"y"_s,
+                          Dictionary{{u"b"_s, Value(qint64(2))}, {u"a"_s, Value(qint64(1))}});
+        QCOMPARE(faultOfBringingBack(*list), nullptr); // to the bytes that are written
     }
 
     void nestingIsBounded()

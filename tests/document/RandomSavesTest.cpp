@@ -76,7 +76,7 @@ public:
             return static_cast<std::size_t>(below(static_cast<int>(stations.size())));
         };
         const std::size_t row = place(), other = place();
-        switch (below(7)) {
+        switch (below(8)) {
         case 0:
             return stations[row]->setStationName(name());
         case 1:
@@ -90,7 +90,9 @@ public:
         case 5:
             stations[row] = stations[other]; // as when one is moved over another of its number
             return;
-        case 6:
+        case 6: // as when it becomes what it was in another file
+            return stations[row]->setIsRadio(oneIn(2));
+        case 7:
             static_cast<void>(applyReferenceOrder(
                 stations,
                 {{QString::number(below(9)), name(), u"x-x-"_s + QString::number(below(9))}}));

@@ -26,6 +26,7 @@ class TroubledOperations : public FileOperations
 public:
     qint64 write(QFile &file, const QByteArray &bytes, QString &reason) override
     {
+        ++waiting;
         if (isSlow)
             going.acquire();
         ++writes;
@@ -37,6 +38,7 @@ public:
 
     std::atomic<bool> isFull = false;
     std::atomic<bool> isSlow = false;
+    std::atomic<int> waiting = 0; ///< or done
     std::atomic<int> writes = 0;
     QSemaphore going; ///< how many writes a slow disk still takes
 };
@@ -202,6 +204,21 @@ private slots:
         const auto found = m_store->leftovers();
         QCOMPARE(found.size(), std::size_t{1});
         QCOMPARE(found[0].state->content, "d");
+    }
+
+    void editsDuringASlowWriteFollowIt()
+    {
+        watch({1ms, 1ms});
+        m_operations->isSlow = true;
+        m_document->type("a");
+        QTRY_COMPARE(m_operations->waiting, 1);
+        m_document->type("b");
+        QTimer later;
+        QSignalSpy ranOut(&later, &QTimer::timeout);
+        later.start(10);
+        QVERIFY(ranOut.wait());
+        m_operations->going.release(100);
+        QTRY_COMPARE(m_operations->writes, 3); // the original and two states
     }
 
     void whatWasClearedAwayIsWrittenAgain()

@@ -46,7 +46,8 @@ void exchangeParts(Exchange &exchange, Part &part)
         exchange(part.origin, part.stationCount, part.headerLengths, part.footer, part.stations,
                  part.namesRead, part.lists);
     else if constexpr (std::is_same_v<Known, ListDifference::Station>)
-        exchange(part.place, part.isWhole, part.fields, part.nameRead, part.nameAsMade);
+        exchange(part.place, part.isWhole, part.fields, part.nameRead, part.nameAsMade,
+                 part.changesRadio);
     else if constexpr (std::is_same_v<Known, ListDifference::Footer>)
         exchange(part.bytesAtEnd, part.text);
     else

@@ -3,6 +3,7 @@
 #include "document/list/ChannelList.h"
 #include "document/list/SectionItems.h"
 #include "document/recovery/TakenList.h"
+#include "document/recovery/ValueStream.h"
 #include "model/FileWords.h"
 #include "model/LGLegacyStation.h"
 #include "support/TextConversion.h"
@@ -55,13 +56,6 @@ QByteArray originOf(const FileText &text, const Stations &stations)
     return hash.result();
 }
 
-bool areSame(const Dictionary &a, const Dictionary &b)
-{
-    if (a.isEmpty() || b.isEmpty())
-        return a.isEmpty() && b.isEmpty();
-    return a.hasEqualValues(b) && a.keys()->hasSameOrder(*b.keys());
-}
-
 /// Whether one begins with the fields of the other, whatever they hold.
 bool beginsWithFieldsOf(const Dictionary &entry, const Dictionary &original)
 {
@@ -76,22 +70,35 @@ bool beginsWithFieldsOf(const Dictionary &entry, const Dictionary &original)
     return true;
 }
 
+/// Notes what tells an entry from the one that was read.
 void noteFields(const Dictionary &entry, const Dictionary &original,
                 ListDifference::Station &station)
 {
+    if (entry.isSharedWith(original))
+        return;
     station.isWhole = !beginsWithFieldsOf(entry, original);
     for (qsizetype i = 0; i < entry.count(); ++i) {
         const auto &[key, value] = entry.at(i);
-        if (station.isWhole || i >= original.count() || !(value == original.at(i).value))
+        if (station.isWhole || i >= original.count() ||
+            !areWrittenAlike(value, original.at(i).value))
             station.fields.emplace_back(key, value);
     }
 }
 
-/// The name that a station with the entry reads first.
-QString nameIn(const Dictionary &entry, bool isLegacyFormat)
+/// The same for what a station remembers.
+void noteMemory(const TakenList::Station &taken, const LGStation &asRead,
+                ListDifference::Station &station)
 {
-    return isLegacyFormat ? LGLegacyStation(entry, 0).stationName()
-                          : LGStation(entry, 0).stationName();
+    if (!taken.name.read.isEmpty() && taken.name.read != asRead.stationName())
+        station.nameRead = taken.name.read;
+    station.nameAsMade = taken.name.asMade;
+    station.changesRadio = taken.isRadio != asRead.isRadio();
+}
+
+bool tellsAnything(const ListDifference::Station &station)
+{
+    return station.isWhole || !station.fields.empty() || station.nameRead || station.nameAsMade ||
+           station.changesRadio;
 }
 
 /// A station that is not on the roll makes it unsound.
@@ -141,16 +148,14 @@ ListDifference ListDifference::of(const TakenList &list)
         const Dictionary original = originals.at(taken.place);
         Station station;
         station.place = place;
-        station.nameAsMade = taken.name.asMade;
-        const bool isAsRead = areSame(taken.entry, original);
-        if (!isAsRead)
-            noteFields(taken.entry, original, station);
-        if (!taken.name.read.isEmpty()) {
+        noteFields(taken.entry, original, station);
+        if (list.isLegacyFormat)
+            noteMemory(taken, LGLegacyStation(original, 0), station);
+        else
+            noteMemory(taken, LGStation(original, 0), station);
+        if (!taken.name.read.isEmpty())
             result.namesRead[place] = 1;
-            if (taken.name.read != nameIn(original, list.isLegacyFormat))
-                station.nameRead = taken.name.read;
-        }
-        if (!isAsRead || station.nameRead || station.nameAsMade)
+        if (tellsAnything(station))
             result.stations.push_back(std::move(station));
     }
     for (std::size_t i = 0; i < result.lists.size(); ++i)
@@ -211,6 +216,8 @@ bool ListDifference::applyTo(ChannelList &fresh) const
                 entry.insert(key, value);
             name.read = changed->nameRead.value_or(name.read);
             name.asMade = changed->nameAsMade;
+            if (changed->changesRadio)
+                station->setIsRadio(!station->isRadio());
             ++changed;
         }
         station->setEntry(std::move(entry));

@@ -37,6 +37,7 @@ struct ListDifference
         /// The name that it keeps, where that is another than the file tells.
         std::optional<QString> nameRead;
         std::optional<std::optional<QString>> nameAsMade; ///< see LGStation::RememberedName
+        bool changesRadio = false; ///< it is one where the file tells none, or the reverse
     };
     /// The text behind the last station: the end of the file's or, where it is not, all of it.
     struct Footer

@@ -26,8 +26,8 @@ ListEdits ListEdits::of(const ChannelList &list)
     taken->isLegacyFormat = list.isLegacyFormat;
     taken->stations.reserve(list.lists.roll().size());
     for (const auto &[station, place] : list.lists.roll())
-        taken->stations.push_back(
-            {station.get(), place, station->entry(), station->rememberedName()});
+        taken->stations.push_back({station.get(), place, station->entry(),
+                                   station->rememberedName(), station->isRadio()});
     for (std::size_t i = 0; i < taken->lists.size(); ++i) {
         const StationListPtr &stations = list.lists.list(i % 2 == 0, static_cast<int>(i / 2));
         if (!stations)

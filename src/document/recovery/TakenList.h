@@ -21,6 +21,7 @@ struct TakenList
         FilePlace place;
         Dictionary entry;
         LGStation::RememberedName name;
+        bool isRadio;
     };
 
     FileText text;

@@ -3,6 +3,9 @@
 #include "xml/JSON.h"
 #include "xml/ParseLimits.h"
 
+#include <QByteArray>
+#include <QIODevice>
+
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -115,6 +118,30 @@ Value readNested(QDataStream &stream, int depth)
 void writeValue(QDataStream &stream, const Value &value)
 {
     value.visit(Write{stream});
+}
+
+bool areWrittenAlike(const Value &a, const Value &b)
+{
+    if (!(a == b))
+        return false;
+    struct MayDiffer
+    {
+        bool operator()(double number) const { return number == 0; } // by its sign
+        bool operator()(const Dictionary &) const { return true; }   // by their order
+        bool operator()(const Array &) const { return true; }
+        bool operator()(std::monostate) const { return false; }
+        bool operator()(const QString &) const { return false; }
+        bool operator()(bool) const { return false; }
+        bool operator()(qint64) const { return false; }
+        bool operator()(quint64) const { return false; }
+    };
+    if (!a.visit(MayDiffer{}))
+        return true;
+    QByteArray bytesOfA, bytesOfB;
+    QDataStream ofA(&bytesOfA, QIODevice::WriteOnly), ofB(&bytesOfB, QIODevice::WriteOnly);
+    writeValue(ofA, a);
+    writeValue(ofB, b);
+    return bytesOfA == bytesOfB;
 }
 
 std::optional<Value> readValue(QDataStream &stream)

@@ -1412,7 +1412,7 @@
     </message>
     <message id="kSaveUnkept">
         <source></source>
-        <translation>Save Without Keeping It</translation>
+        <translation>Save without keeping it</translation>
     </message>
     <message id="kSaveWithout" numerus="yes">
         <source></source>

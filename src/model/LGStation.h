@@ -51,7 +51,11 @@ public:
     void setIsDirty(bool dirty) { m_isDirty = dirty; }
     /// Whether the raw program number carried the radio mark when the record was made.
     [[nodiscard]] bool isRadio() const { return m_isRadio; }
-    void setIsRadio(bool radio) { m_isRadio = radio; }
+    void setIsRadio(bool radio)
+    {
+        m_isRadio = radio;
+        m_numberState = NumberState::Unknown;
+    }
     /// True once a name that is not empty has been read.
     [[nodiscard]] bool usesBinaryDataInUtf8Envelope() const { return m_usesEnvelope; }
     void setUsesBinaryDataInUtf8Envelope(bool uses) { m_usesEnvelope = uses; }

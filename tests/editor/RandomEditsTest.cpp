@@ -25,16 +25,10 @@ struct State
     QByteArray entries; ///< with the order of their fields
     QByteArray bytes;
 
-    explicit State(TLLDocument &document)
+    explicit State(TLLDocument &document) : entries(stationsText(document.list()))
     {
-        for (int list = 0; list < 2 * stationSourceCount; ++list) {
+        for (int list = 0; list < 2 * stationSourceCount; ++list)
             lists.push_back(*document.lists().list(list % 2 == 0, list / 2));
-            for (const StationPtr &station : lists.back()) {
-                for (const auto &[key, value] : station->entry())
-                    entries += (key + u'=' + value.description() + u';').toUtf8();
-                entries += station->progNumString().toUtf8() + station->shownName().toUtf8() + '\n';
-            }
-        }
         // Of the channels only those of one list are written.
         bytes = writeTLL(document.list(), document.lists().list(true, 1));
     }

@@ -179,6 +179,20 @@ const char *faultOfSaving(const ChannelList &list, bool isTV, int source, int *l
     return nullptr;
 }
 
+QByteArray stationsText(const ChannelList &list)
+{
+    QByteArray text;
+    for (int i = 0; i < 2 * stationSourceCount; ++i) {
+        for (const StationPtr &station : *list.lists.list(i % 2 == 0, i / 2)) {
+            for (const auto &[key, value] : station->entry())
+                text += (key + u'=' + value.description() + u';').toUtf8();
+            text += station->progNumString().toUtf8() + station->shownName().toUtf8() + '\n';
+        }
+        text += '\n';
+    }
+    return text;
+}
+
 const char *faultOfBringingBack(const ChannelList &list)
 {
     const std::optional<ListEdits> edits = ListEdits::decoded(ListEdits::of(list).encoded());

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QByteArray>
+
 namespace quillet {
 
 struct ChannelList;
@@ -18,6 +20,9 @@ namespace testing {
 /// The losses count up when a save would lose stations or have some twice.
 [[nodiscard]] const char *faultOfSaving(const ChannelList &list, bool isTV, int source,
                                         int *losses = nullptr);
+
+/// All that an edit may change of the stations of a list, in the lists' order.
+[[nodiscard]] QByteArray stationsText(const ChannelList &list);
 
 /// Of a list with any edits: what recovery keeps of them makes the same list of the bytes again,
 /// its entries, orders and remembered names, and a save writes the same of it.

@@ -1773,11 +1773,11 @@ Diese folgen ab Nummer: %3</translation>
     </message>
     <message id="kUnkeptMessage">
         <source></source>
-        <translation>Die Fassung von „%1“, die ersetzt würde, konnte nicht aufgehoben werden.</translation>
+        <translation>Die Version von „%1“, die ersetzt würde, konnte nicht aufgehoben werden.</translation>
     </message>
     <message id="kUnkeptText">
         <source></source>
-        <translation>Beim Speichern wird sie endgültig ersetzt: Sie wird nicht unter den früheren Versionen sein.</translation>
+        <translation>Beim Speichern wird sie endgültig ersetzt: Sie wird nicht unter den früheren Versionen sein, die in „%1“ aufgehoben werden.</translation>
     </message>
     <message id="kUnreadableMessage">
         <source></source>

@@ -1777,7 +1777,7 @@ These go on from number: %3</translation>
     </message>
     <message id="kUnkeptText">
         <source></source>
-        <translation>Saving replaces it for good: it will not be among the earlier versions.</translation>
+        <translation>Saving replaces it for good: it will not be among the earlier versions, which are kept in “%1”.</translation>
     </message>
     <message id="kUnreadableMessage">
         <source></source>

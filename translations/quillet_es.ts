@@ -1777,7 +1777,7 @@ Estos continúan a partir del número: %3</translation>
     </message>
     <message id="kUnkeptText">
         <source></source>
-        <translation>Al guardar se sustituirá definitivamente: no estará entre las versiones anteriores.</translation>
+        <translation>Al guardar se sustituirá definitivamente: no estará entre las versiones anteriores, que se conservan en «%1».</translation>
     </message>
     <message id="kUnreadableMessage">
         <source></source>

@@ -1777,7 +1777,7 @@ Ces dernières suivent à partir du numéro : %3</translation>
     </message>
     <message id="kUnkeptText">
         <source></source>
-        <translation>L’enregistrement la remplace définitivement : elle ne sera pas parmi les versions antérieures.</translation>
+        <translation>L’enregistrement la remplace définitivement : elle ne sera pas parmi les versions antérieures, conservées dans « %1 ».</translation>
     </message>
     <message id="kUnreadableMessage">
         <source></source>

@@ -1777,7 +1777,7 @@ Questi proseguono dal numero: %3</translation>
     </message>
     <message id="kUnkeptText">
         <source></source>
-        <translation>Salvando viene sostituita definitivamente: non sarà tra le versioni precedenti.</translation>
+        <translation>Salvando viene sostituita definitivamente: non sarà tra le versioni precedenti, che vengono conservate in “%1”.</translation>
     </message>
     <message id="kUnreadableMessage">
         <source></source>

@@ -1777,7 +1777,7 @@ Deze gaan verder vanaf nummer: %3</translation>
     </message>
     <message id="kUnkeptText">
         <source></source>
-        <translation>Bij het opslaan wordt ze voorgoed vervangen: ze zal niet bij de eerdere versies staan.</translation>
+        <translation>Bij het opslaan wordt ze voorgoed vervangen: ze zal niet bij de eerdere versies staan, die in “%1” worden bewaard.</translation>
     </message>
     <message id="kUnreadableMessage">
         <source></source>

@@ -1827,7 +1827,7 @@ Te następują od numeru: %3</translation>
     </message>
     <message id="kUnkeptText">
         <source></source>
-        <translation>Zapis zastąpi ją na zawsze: nie będzie jej wśród wcześniejszych wersji.</translation>
+        <translation>Zapis zastąpi ją na zawsze: nie będzie jej wśród wcześniejszych wersji, przechowywanych w „%1”.</translation>
     </message>
     <message id="kUnreadableMessage">
         <source></source>

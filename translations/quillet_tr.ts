@@ -1727,7 +1727,7 @@ Bunların devam ettiği numara: %3</translation>
     </message>
     <message id="kUnkeptText">
         <source></source>
-        <translation>Kaydettiğinizde tümüyle değiştirilir: önceki sürümler arasında yer almaz.</translation>
+        <translation>Kaydettiğinizde tümüyle değiştirilir: “%1” içinde saklanan önceki sürümler arasında yer almaz.</translation>
     </message>
     <message id="kUnreadableMessage">
         <source></source>

@@ -11,8 +11,8 @@
 #include "editor/EditorView.h"
 #include "files/FileNames.h"
 #include "files/Places.h"
-#include "files/PrivateFolders.h"
 #include "files/ShownPath.h"
+#include "framework/WaitCursor.h"
 
 #include <QEventLoop>
 #include <QFileInfo>
@@ -204,6 +204,8 @@ QString AppDelegate::bringBack(RecoveryStore::Leftover &leftover)
     const Document *open = m_documents.documentAt(leftover.state->path);
     if (open && open->hasUnautosavedChanges())
         return qtTrId("kRecoveryOpenReason");
+    const QString original = leftover.folder->pathOf(RecoveryFolder::Part::Original);
+    const WaitCursor wait(WaitCursor::Work::Opening, sizeOf(original));
     std::unique_ptr<TLLDocument> document = makeDocument();
     Error error;
     if (!RecoveryKeeper::restore(*document, leftover, error))
@@ -229,7 +231,7 @@ void AppDelegate::openRecoveryFolder()
         return;
     const QString &folder = m_recovery->store().root();
     QString reason;
-    if (makePrivateFolder(folder, reason))
+    if (m_recovery->store().makeRoot(reason))
         return m_services->openUrl(QUrl::fromLocalFile(folder));
     Alert alert;
     alert.message = qtTrId("kCreateFailedReason").arg(shownPath(folder), reason);

@@ -80,6 +80,7 @@ RecoveryDialog::RecoveryDialog(std::vector<RecoveryStore::Leftover> leftovers, P
     connect(m_list, &QTableWidget::itemSelectionChanged, this, &RecoveryDialog::showState);
     connect(m_list, &QTableWidget::currentCellChanged, this, &RecoveryDialog::showState);
     showState();
+    resize(fontMetrics().averageCharWidth() * 110, sizeHint().height());
     m_list->setFocus();
 }
 
@@ -106,7 +107,7 @@ void RecoveryDialog::makeRows()
     header.setSectionResizeMode(Folder, QHeaderView::Stretch);
     for (const RecoveryStore::Leftover &leftover : m_leftovers)
         addRow(leftover);
-    m_list->setMinimumWidth(fontMetrics().averageCharWidth() * 100);
+    m_list->setMinimumWidth(fontMetrics().averageCharWidth() * 60);
 }
 
 /// What can be brought back is selected to begin with.

@@ -4,7 +4,6 @@
 #include "files/FileNames.h"
 #include "files/FileReading.h"
 #include "files/FileRights.h"
-#include "files/PrivateFolders.h"
 
 #include <QFile>
 
@@ -50,7 +49,24 @@ bool isUnknown(int error)
 
 bool FileOperations::makePrivateFolder(const QString &path, QString &reason)
 {
-    return quillet::makePrivateFolder(path, reason);
+    namespace fs = std::filesystem;
+    const fs::path folder = nativePath(path);
+    std::error_code code;
+    if (fs::is_directory(folder, code))
+        return true;
+    const fs::path above = folder.parent_path();
+    if (above != folder && !above.empty() && !makePrivateFolder(pathFromNative(above), reason))
+        return false;
+#ifdef Q_OS_WIN
+    fs::create_directory(folder, code); // access rights come from the folder above
+    if (code)
+        reason = text(code);
+    return !code;
+#else
+    // Another program may make it at the same moment.
+    const bool isMade = succeeded(::mkdir(folder.c_str(), S_IRWXU), reason);
+    return isMade || fs::is_directory(folder, code);
+#endif
 }
 
 bool FileOperations::create(QFile &file, bool isPrivate, QString &reason)

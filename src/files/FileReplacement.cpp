@@ -105,12 +105,11 @@ Error FileReplacement::replaceTarget(const QString &target, const QByteArray &by
     if (hasOldFile && !isWritable(target))
         return failure(Failure::Target, qtTrId("kWriteProtectedReason").arg(name));
 
-    const bool isForOwner = m_readers == Readers::OwnerAlone;
     // Those of the last day may be of somebody who is writing right now, or be wanted back.
     removeLeftovers(info.path(), std::chrono::hours(24));
     NamedFile file(unusedPath(info.path()));
     QString reason;
-    if (!m_operations.create(file, hasOldFile || isForOwner, reason))
+    if (!m_operations.create(file, hasOldFile || m_readers == Readers::OwnerAlone, reason))
         return failure(Failure::Create,
                        qtTrId("kCreateFailedReason").arg(shownPath(info.path()), reason));
     auto removeNewFile = qScopeGuard([&file] {
@@ -120,7 +119,7 @@ Error FileReplacement::replaceTarget(const QString &target, const QByteArray &by
     });
     if (m_operations.write(file, bytes, reason) != bytes.size())
         return failure(Failure::Write, qtTrId("kWriteFailedReason").arg(reason));
-    if (hasOldFile && !isForOwner && !keepRights(m_operations, target, file, m_notKept, reason))
+    if (hasOldFile && !keepRights(m_operations, target, file, m_notKept, reason))
         return failure(Failure::Permissions, qtTrId("kPermissionsFailedReason").arg(reason));
     if (!m_operations.sync(file, reason))
         return failure(Failure::Sync, qtTrId("kWriteFailedReason").arg(reason));

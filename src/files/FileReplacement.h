@@ -34,12 +34,9 @@ public:
     enum class Failure { Target = 1, Create, Write, Permissions, Sync, Compare, Rename, Changed };
     static constexpr char errorDomain[] = "FileReplacement";
 
-    /// Who may read the new file.
-    enum class Readers {
-        AsBefore,   ///< as the old file's; of the first one whoever the system lets read it
-        OwnerAlone, ///< whatever there was before
-    };
-    explicit FileReplacement(FileOperations &operations, Readers readers = Readers::AsBefore)
+    /// Who can read a file that was not there before.
+    enum class Readers { Usual, OwnerAlone };
+    explicit FileReplacement(FileOperations &operations, Readers readers = Readers::Usual)
         : m_operations(operations), m_readers(readers)
     {
     }

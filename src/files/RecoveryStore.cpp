@@ -1,8 +1,11 @@
 #include "files/RecoveryStore.h"
 
 #include "files/FileNames.h"
+#include "files/FileOperations.h"
 #include "files/Places.h"
-#include "files/PrivateFolders.h"
+
+#include <QDir>
+#include <QStandardPaths>
 
 #include <algorithm>
 #include <filesystem>
@@ -74,7 +77,21 @@ RecoveryStore::RecoveryStore(QString root, FileOperations &operations)
 
 QString RecoveryStore::usualRoot()
 {
-    return stateFolder() + QLatin1String("/recovery");
+#if defined(Q_OS_WIN) || defined(Q_OS_DARWIN)
+    const QString state = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+#else
+    // A place that QStandardPaths has no name for.
+    const QByteArray wanted = qgetenv("XDG_STATE_HOME");
+    const QString state = wanted.startsWith('/')
+                              ? pathFromBytes(wanted)
+                              : QDir::homePath() + QLatin1String("/.local/state");
+#endif
+    return state + QLatin1String("/Quillet/recovery");
+}
+
+bool RecoveryStore::makeRoot(QString &reason)
+{
+    return m_operations.makePrivateFolder(m_root, reason);
 }
 
 std::unique_ptr<RecoveryFolder> RecoveryStore::makeFolder(Error &error)

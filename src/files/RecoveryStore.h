@@ -19,10 +19,12 @@ class RecoveryStore
 public:
     /// The operations must outlive the store and its folders.
     RecoveryStore(QString root, FileOperations &operations);
-    /// In the state folder of the person.
+    /// In the folder where a person's programs keep their state.
     [[nodiscard]] static QString usualRoot();
 
     [[nodiscard]] const QString &root() const { return m_root; }
+    /// Makes the folder of them all, unless it is there.
+    [[nodiscard]] bool makeRoot(QString &reason);
     [[nodiscard]] std::unique_ptr<RecoveryFolder> makeFolder(Error &error);
 
     /// A document that can be brought back, or a folder that cannot be read any more.

@@ -28,6 +28,7 @@ public:
     VersionStore(QString folder, FileOperations &operations, qint64 limit = usualLimit);
     /// The folder in the user's data.
     [[nodiscard]] static QString standardFolder();
+    [[nodiscard]] const QString &folder() const { return m_folder; }
 
     /// Keeps the bytes, which the file there has now and is about to lose. Returns whether they are
     /// on the disk; if not, why.

@@ -195,9 +195,12 @@ bool DocumentSaving::keep(const QString &path, const QByteArray &replaced, Error
 
 void DocumentSaving::confirmUnkept(const Error &error, const std::function<void(bool)> &answered)
 {
+    const VersionStore *store = m_document.versionStore();
+    const QString folder = store ? store->folder() : QString();
     Alert alert;
     alert.message = qtTrId("kUnkeptMessage").arg(targetName());
-    alert.informativeText = error.text() + QLatin1String("\n\n") + qtTrId("kUnkeptText");
+    alert.informativeText = error.text() + QLatin1String("\n\n") +
+                            qtTrId("kUnkeptText").arg(shownPath(shortPath(folder)));
     alert.buttons = {qtTrId("kCancel"), qtTrId("kSaveUnkept")};
     alert.cancelButton = 0;
     alert.destructiveButton = 1;

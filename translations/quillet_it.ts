@@ -849,7 +849,7 @@
     </message>
     <message id="kMenuRecoveryFolder">
         <source></source>
-        <translation>Apri la cartella di recu&amp;pero</translation>
+        <translation>Apri la cartella &amp;di recupero</translation>
     </message>
     <message id="kMenuRedo">
         <source></source>
@@ -929,7 +929,7 @@
     </message>
     <message id="kMenuUnsavedLists">
         <source></source>
-        <translation>Liste n&amp;on salvate…</translation>
+        <translation>Liste da rec&amp;uperare…</translation>
     </message>
     <message id="kMenuVersions">
         <source></source>

@@ -909,7 +909,7 @@
     </message>
     <message id="kMenuUnsavedLists">
         <source></source>
-        <translation>Kaydedil&amp;memiş Listeler…</translation>
+        <translation>Kaydedilmemiş Lis&amp;teler…</translation>
     </message>
     <message id="kMenuVersions">
         <source></source>

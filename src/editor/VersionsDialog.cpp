@@ -133,6 +133,7 @@ void VersionsDialog::showChoice()
     m_open->setEnabled(m_versions.canBeOpened(*row));
     m_putBack->setEnabled(reason.isEmpty());
     m_putBack->setToolTip(reason);
+    m_putBack->setAccessibleDescription(reason);
     const QString next = reason.isEmpty() ? qtTrId("kPutBackText") : reason;
     m_reason->setText(next == difference ? next : difference + u'\n' + next);
 }

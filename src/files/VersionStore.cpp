@@ -30,11 +30,6 @@ QByteArray digestOf(const QByteArray &bytes)
     return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex();
 }
 
-bool leadsTo(const VersionHistory &history, const QString &place)
-{
-    return history.place() == place || samePlace(history.place(), place);
-}
-
 } // namespace
 
 /// A file that tells a history, or did.
@@ -86,17 +81,29 @@ VersionStore::HistoryFiles VersionStore::readHistories() const
     return files;
 }
 
+/// The disk is asked about other names of the file only when it has none by its own.
+VersionStore::HistoryFiles::iterator VersionStore::historyOf(const QString &place,
+                                                             HistoryFiles &files)
+{
+    const auto find = [&files](const auto &isIt) {
+        return std::find_if(files.begin(), files.end(), [&isIt](const HistoryFile &file) {
+            return file.history && isIt(file.history->place());
+        });
+    };
+    const auto found = find([&place](const QString &each) { return each == place; });
+    return found != files.end()
+               ? found
+               : find([&place](const QString &each) { return samePlace(each, place); });
+}
+
 std::vector<KeptVersion> VersionStore::versionsOf(const QString &path) const
 {
-    const QString place = placeOf(path);
-    std::vector<KeptVersion> versions;
-    for (const HistoryFile &file : readHistories()) {
-        if (!file.history || !leadsTo(*file.history, place))
-            continue;
-        versions = file.history->versions();
-        std::reverse(versions.begin(), versions.end());
-        break;
-    }
+    HistoryFiles files = readHistories();
+    const auto own = historyOf(placeOf(path), files);
+    if (own == files.end())
+        return {};
+    std::vector<KeptVersion> versions = own->history->versions();
+    std::reverse(versions.begin(), versions.end());
     return versions;
 }
 
@@ -137,9 +144,7 @@ bool VersionStore::keepLocked(const QString &path, const QByteArray &bytes, Erro
 {
     const QString place = placeOf(path);
     HistoryFiles files = readHistories();
-    auto own = std::find_if(files.begin(), files.end(), [&place](const HistoryFile &file) {
-        return file.history && leadsTo(*file.history, place);
-    });
+    auto own = historyOf(place, files);
     if (own == files.end()) {
         // A damaged one may have the name.
         const QString name = m_folder + QStringLiteral("/histories/") +

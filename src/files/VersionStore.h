@@ -43,6 +43,8 @@ private:
     using HistoryFiles = std::vector<HistoryFile>;
 
     [[nodiscard]] HistoryFiles readHistories() const;
+    [[nodiscard]] static HistoryFiles::iterator historyOf(const QString &place,
+                                                          HistoryFiles &files);
     [[nodiscard]] QString contentPath(const QByteArray &digest) const;
     [[nodiscard]] bool write(const QString &path, const QByteArray &bytes, Error &error);
     [[nodiscard]] bool keepLocked(const QString &path, const QByteArray &bytes, Error &error);

@@ -94,7 +94,7 @@ public:
     virtual bool restoreContent(const QByteArray &original, const QByteArray &edits, Error &error);
     /// Of the document's file, as it was last read or written; none when it never was.
     [[nodiscard]] const std::optional<FileState> &lastKnownState() const { return m_known; }
-    void setLastKnownState(const FileState &known) { m_known = known; }
+    void setLastKnownState(const FileState &known) { setKnown(known); }
 
     /// Called once after the document was opened or made new. The base makes none.
     virtual void makeWindowControllers();

@@ -172,7 +172,7 @@ private slots:
         m_document->edit("mine");
         if (isClosing)
             m_prompts->answerAlert(id("kSave"));
-        m_prompts->answerAlert(id("kSaveHereAnyway")); // although the file is gone
+        m_prompts->answerAlert(id("kSaveAnyway")); // although what is there cannot be read
         m_prompts->answerAlert(id("kSaveCopy"));
         const QString path = place.isEmpty() ? place : m_folder->filePath(place);
         m_prompts->answerSavePanel(path);

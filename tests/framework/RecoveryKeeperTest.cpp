@@ -329,8 +329,6 @@ private:
     std::unique_ptr<RecoveryKeeper> m_keeper;
 };
 
-Q_DECLARE_METATYPE(std::function<void(RecoveryKeeperTest &)>)
-
 QUILLET_TEST(RecoveryKeeperTest)
 
 #include "RecoveryKeeperTest.moc"

@@ -87,7 +87,7 @@ public:
     FatStick()
     {
         writeFile(m_image, QByteArray(8 << 20, '\0'));
-        run(QStringLiteral("mkfs.vfat"), {m_image});
+        QProcess::execute(QStringLiteral("mkfs.vfat"), {m_image});
         putIn();
     }
     ~FatStick() { takeOut(); }
@@ -103,7 +103,9 @@ public:
     /// Pulled without a word, though what was written is on it.
     void takeOut()
     {
-        run(QStringLiteral("fusermount"), {QStringLiteral("-uz"), m_folder.path()});
+        if (isIn())
+            QProcess::execute(QStringLiteral("fusermount"),
+                              {QStringLiteral("-uz"), m_folder.path()});
         m_driver.waitForFinished();
     }
     [[nodiscard]] bool isIn() const { return deviceOf(filePath("x")) != deviceOf(m_image); }
@@ -113,13 +115,6 @@ public:
     }
 
 private:
-    static void run(const QString &program, const QStringList &arguments)
-    {
-        QProcess process;
-        process.start(program, arguments);
-        process.waitForFinished();
-    }
-
     QTemporaryDir m_folder, m_home;
     QString m_image = m_home.filePath(QStringLiteral("image"));
     QProcess m_driver;

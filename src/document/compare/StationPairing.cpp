@@ -9,12 +9,19 @@ namespace quillet {
 
 namespace {
 
-/// One text for several that no other texts give.
-QString joined(const QStringList &texts)
+/// Adds a text so that no other texts give the same.
+void add(const QString &text, QString &all)
+{
+    all += QChar(static_cast<char16_t>(text.size()));
+    all += QChar(static_cast<char16_t>(text.size() >> 16));
+    all += text;
+}
+
+QString joined(std::initializer_list<QString> texts)
 {
     QString all;
     for (const QString &text : texts)
-        all += QString::number(text.size()) + u':' + text;
+        add(text, all);
     return all;
 }
 
@@ -23,26 +30,29 @@ QString joined(const QStringList &texts)
 std::optional<QString> identityOf(const LGStation &station)
 {
     const StationKeys &keys = station.keys();
-    QStringList parts;
+    QString all;
     for (const QString &key :
          {keys.keyOriginalNetwork_id, keys.keyTransport_id, keys.keyService_id}) {
         const Value *part = station.entry().find(key);
         const QString text = part ? part->description() : QString();
         if (text.isEmpty())
             return {};
-        parts.append(text);
+        add(text, all);
     }
-    return joined(parts);
+    return all;
 }
 
 QString textOf(const LGStation &station, const QStringList &without)
 {
-    QStringList texts;
+    QString all;
     for (const auto &[key, value] : station.entry()) {
-        if (!without.contains(key))
-            texts += {key, value.description()};
+        if (without.contains(key))
+            continue;
+        add(key, all);
+        const QString *text = value.string();
+        add(text ? *text : value.description(), all);
     }
-    return joined(texts);
+    return all;
 }
 
 std::optional<QString> everything(const LGStation &station)

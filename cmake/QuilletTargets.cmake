@@ -21,14 +21,24 @@ if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
     endif()
 endif()
 
-# quillet_library(NAME SOURCES ... LINK ...): the static library quillet_<name>, alias Quillet::NAME.
+# What most sources of any target include, and those named as well.
+function(quillet_headers target)
+    if(QUILLET_PCH)
+        target_precompile_headers(${target} PRIVATE
+            <QByteArray> <QList> <QObject> <QString> <QUrl> <algorithm> <functional> <memory>
+            <optional> <vector> ${ARGN})
+    endif()
+endfunction()
+
+# quillet_library(NAME SOURCES ... LINK ... [HEADERS ...]): the static library quillet_<name>, alias Quillet::NAME.
 function(quillet_library name)
-    cmake_parse_arguments(arg "" "" "SOURCES;LINK" ${ARGN})
+    cmake_parse_arguments(arg "" "" "SOURCES;LINK;HEADERS" ${ARGN})
     string(TOLOWER quillet_${name} target)
     add_library(${target} STATIC ${arg_SOURCES})
     add_library(Quillet::${name} ALIAS ${target})
     target_include_directories(${target} PUBLIC ${PROJECT_SOURCE_DIR}/src)
     target_link_libraries(${target} PUBLIC ${arg_LINK} PRIVATE quillet_options)
+    quillet_headers(${target} ${arg_HEADERS})
 endfunction()
 
 # quillet_test(FOLDER SOURCES ... LINK ...): one test executable of Qt Test classes.
@@ -44,6 +54,7 @@ function(quillet_test folder)
         QUILLET_SAMPLES="${PROJECT_SOURCE_DIR}/samples"
         QUILLET_TEST_DATA="${PROJECT_SOURCE_DIR}/tests/data")
     target_link_libraries(${target} PRIVATE ${arg_LINK} Qt6::Test Qt6::Widgets quillet_options)
+    quillet_headers(${target} <QApplication> <QSignalSpy> <QTest>)
     add_test(NAME ${folder} COMMAND ${target})
     set_tests_properties(${folder} PROPERTIES
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;QTEST_DISABLE_STACK_DUMP=1" TIMEOUT 300)

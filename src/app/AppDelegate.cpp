@@ -303,9 +303,10 @@ void AppDelegate::commitData(QSessionManager &session)
     writeRecovery(); // whatever the session does next
     if (!session.allowsInteraction())
         return;
-    if (!terminateNow())
-        session.cancel();
-    session.release();
+    if (terminateNow())
+        session.release();
+    else
+        session.cancel(); // releasing as well would first let the others go on
 }
 
 void AppDelegate::commitEditing()

@@ -222,6 +222,10 @@
         <source></source>
         <translation>Suche leeren</translation>
     </message>
+    <message id="kCloseUnsaved">
+        <source></source>
+        <translation>Schließen, ohne zu speichern</translation>
+    </message>
     <message id="kColumnBlocked">
         <source></source>
         <translation>Sperren</translation>
@@ -1397,6 +1401,14 @@
     <message id="kSaveFailedMessage">
         <source></source>
         <translation>„%1“ konnte nicht gespeichert werden. Die Datei auf dem Datenträger wurde nicht verändert.</translation>
+    </message>
+    <message id="kSaveGoneMessage">
+        <source></source>
+        <translation>„%1“ ist nicht mehr da. Möchten Sie die Liste an einem anderen Ort speichern?</translation>
+    </message>
+    <message id="kSaveGoneText">
+        <source></source>
+        <translation>Die Datei wurde verschoben, umbenannt oder gelöscht. Wurde sie gelöscht, gibt es die Liste nur noch in diesem Fenster.</translation>
     </message>
     <message id="kSaveHereAnyway">
         <source></source>

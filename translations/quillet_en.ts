@@ -222,6 +222,10 @@
         <source></source>
         <translation>Clear search</translation>
     </message>
+    <message id="kCloseUnsaved">
+        <source></source>
+        <translation>Close Without Saving</translation>
+    </message>
     <message id="kColumnBlocked">
         <source></source>
         <translation>Lock</translation>
@@ -1397,6 +1401,14 @@
     <message id="kSaveFailedMessage">
         <source></source>
         <translation>“%1” could not be saved. The file on the disk was not changed.</translation>
+    </message>
+    <message id="kSaveGoneMessage">
+        <source></source>
+        <translation>“%1” is no longer there. Do you want to save the list in another place?</translation>
+    </message>
+    <message id="kSaveGoneText">
+        <source></source>
+        <translation>The file was moved, renamed or deleted. If it was deleted, the list in this window is the only one there is.</translation>
     </message>
     <message id="kSaveHereAnyway">
         <source></source>

@@ -222,6 +222,10 @@
         <source></source>
         <translation>Borrar la búsqueda</translation>
     </message>
+    <message id="kCloseUnsaved">
+        <source></source>
+        <translation>Cerrar sin guardar</translation>
+    </message>
     <message id="kColumnBlocked">
         <source></source>
         <translation>Bloquear</translation>
@@ -1397,6 +1401,14 @@
     <message id="kSaveFailedMessage">
         <source></source>
         <translation>No se ha podido guardar «%1». El archivo del disco no se ha modificado.</translation>
+    </message>
+    <message id="kSaveGoneMessage">
+        <source></source>
+        <translation>«%1» ya no está. ¿Desea guardar la lista en otro lugar?</translation>
+    </message>
+    <message id="kSaveGoneText">
+        <source></source>
+        <translation>El archivo se ha movido, renombrado o eliminado. Si se ha eliminado, la lista solo existe en esta ventana.</translation>
     </message>
     <message id="kSaveHereAnyway">
         <source></source>

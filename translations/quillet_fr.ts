@@ -222,6 +222,10 @@
         <source></source>
         <translation>Effacer la recherche</translation>
     </message>
+    <message id="kCloseUnsaved">
+        <source></source>
+        <translation>Fermer sans enregistrer</translation>
+    </message>
     <message id="kColumnBlocked">
         <source></source>
         <translation>Verrouiller</translation>
@@ -1397,6 +1401,14 @@
     <message id="kSaveFailedMessage">
         <source></source>
         <translation>Impossible d’enregistrer « %1 ». Le fichier sur le disque n’a pas été modifié.</translation>
+    </message>
+    <message id="kSaveGoneMessage">
+        <source></source>
+        <translation>« %1 » n’est plus là. Voulez-vous enregistrer la liste à un autre endroit ?</translation>
+    </message>
+    <message id="kSaveGoneText">
+        <source></source>
+        <translation>Le fichier a été déplacé, renommé ou supprimé. S’il a été supprimé, la liste n’existe plus que dans cette fenêtre.</translation>
     </message>
     <message id="kSaveHereAnyway">
         <source></source>

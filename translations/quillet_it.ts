@@ -222,6 +222,10 @@
         <source></source>
         <translation>Azzera la ricerca</translation>
     </message>
+    <message id="kCloseUnsaved">
+        <source></source>
+        <translation>Chiudi senza salvare</translation>
+    </message>
     <message id="kColumnBlocked">
         <source></source>
         <translation>Blocca</translation>
@@ -1397,6 +1401,14 @@
     <message id="kSaveFailedMessage">
         <source></source>
         <translation>Impossibile salvare “%1”. Il file sul disco non è stato modificato.</translation>
+    </message>
+    <message id="kSaveGoneMessage">
+        <source></source>
+        <translation>“%1” non c’è più. Vuoi salvare la lista altrove?</translation>
+    </message>
+    <message id="kSaveGoneText">
+        <source></source>
+        <translation>Il file è stato spostato, rinominato o eliminato. Se è stato eliminato, la lista esiste solo in questa finestra.</translation>
     </message>
     <message id="kSaveHereAnyway">
         <source></source>

@@ -222,6 +222,10 @@
         <source></source>
         <translation>Zoekopdracht wissen</translation>
     </message>
+    <message id="kCloseUnsaved">
+        <source></source>
+        <translation>Sluiten zonder op te slaan</translation>
+    </message>
     <message id="kColumnBlocked">
         <source></source>
         <translation>Slot</translation>
@@ -1397,6 +1401,14 @@
     <message id="kSaveFailedMessage">
         <source></source>
         <translation>“%1” kon niet worden opgeslagen. Het bestand op de schijf is niet gewijzigd.</translation>
+    </message>
+    <message id="kSaveGoneMessage">
+        <source></source>
+        <translation>“%1” is er niet meer. Wilt u de lijst op een andere plek opslaan?</translation>
+    </message>
+    <message id="kSaveGoneText">
+        <source></source>
+        <translation>Het bestand is verplaatst, hernoemd of verwijderd. Als het verwijderd is, bestaat de lijst alleen nog in dit venster.</translation>
     </message>
     <message id="kSaveHereAnyway">
         <source></source>

@@ -227,6 +227,10 @@
         <source></source>
         <translation>Wyczyść wyszukiwanie</translation>
     </message>
+    <message id="kCloseUnsaved">
+        <source></source>
+        <translation>Zamknij bez zapisywania</translation>
+    </message>
     <message id="kColumnBlocked">
         <source></source>
         <translation>Blokada</translation>
@@ -1426,6 +1430,14 @@
     <message id="kSaveFailedMessage">
         <source></source>
         <translation>Nie można zapisać pliku „%1”. Plik na dysku nie został zmieniony.</translation>
+    </message>
+    <message id="kSaveGoneMessage">
+        <source></source>
+        <translation>Pliku „%1” już nie ma. Czy chcesz zapisać listę w innym miejscu?</translation>
+    </message>
+    <message id="kSaveGoneText">
+        <source></source>
+        <translation>Plik został przeniesiony, przemianowany lub usunięty. Jeśli został usunięty, lista istnieje już tylko w tym oknie.</translation>
     </message>
     <message id="kSaveHereAnyway">
         <source></source>

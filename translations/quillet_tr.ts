@@ -217,6 +217,10 @@
         <source></source>
         <translation>Aramayı temizle</translation>
     </message>
+    <message id="kCloseUnsaved">
+        <source></source>
+        <translation>Kaydetmeden Kapat</translation>
+    </message>
     <message id="kColumnBlocked">
         <source></source>
         <translation>Kilit</translation>
@@ -1368,6 +1372,14 @@
     <message id="kSaveFailedMessage">
         <source></source>
         <translation>“%1” kaydedilemedi. Diskteki dosya değiştirilmedi.</translation>
+    </message>
+    <message id="kSaveGoneMessage">
+        <source></source>
+        <translation>“%1” artık yerinde değil. Listeyi başka bir yere kaydetmek istiyor musunuz?</translation>
+    </message>
+    <message id="kSaveGoneText">
+        <source></source>
+        <translation>Dosya taşındı, adı değiştirildi veya silindi. Silindiyse liste yalnızca bu pencerede bulunuyor.</translation>
     </message>
     <message id="kSaveHereAnyway">
         <source></source>

@@ -76,6 +76,8 @@ bool LGWindowController::populateFromTLLDoc(TLLDocument &document, const Error &
             &ViewController::showNotice, Qt::UniqueConnection);
     connect(&document, &Document::fileNewsChanged, &m_editor->controller(),
             &ViewController::showFileNotice, Qt::UniqueConnection);
+    connect(&document, &Document::fileNewsChanged, m_editor, &EditorView::stateChanged,
+            Qt::UniqueConnection);
     connect(&document, &Document::told, m_told, &ToldRow::tell, Qt::UniqueConnection);
     m_history->setHistory(&document.history());
     const bool succeeded = m_editor->controller().populateFromTLLDoc(document, error);

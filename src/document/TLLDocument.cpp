@@ -231,7 +231,7 @@ void TLLDocument::setDirtyFlag(bool dirty)
 bool TLLDocument::validateUserInterfaceItem(const QString &action) const
 {
     if (action == QLatin1String("saveDocument"))
-        return isDirty();
+        return isDirty() || fileNews() == FileState::Change::Gone;
     if (action == QLatin1String("revertDocumentToSaved"))
         return isDirty() && suggestedUrl().isEmpty();
     if (action == QLatin1String("exportAsReferenceList"))

@@ -3,6 +3,8 @@
 #include "files/FileReading.h"
 #include "files/Places.h"
 
+#include <QFileInfo>
+
 namespace quillet {
 
 FileState FileState::none(const QString &path)
@@ -65,6 +67,18 @@ bool FileState::hasSameContent(const FileState &other) const
 bool FileState::isOnDeviceOf(const FileState &other) const
 {
     return other.m_isRemembered || m_device == other.m_device;
+}
+
+bool FileState::isItsDiskThere() const
+{
+    QString path = m_path;
+    std::optional<quint64> device = deviceOf(path);
+    for (QString above = QFileInfo(path).path(); !device && above != path;) {
+        path = above;
+        above = QFileInfo(path).path();
+        device = deviceOf(path);
+    }
+    return device == m_device;
 }
 
 } // namespace quillet

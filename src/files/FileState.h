@@ -36,6 +36,8 @@ public:
     /// Whether both are files with the same bytes, or the same obstacle, or nothing.
     [[nodiscard]] bool hasSameContent(const FileState &other) const;
     [[nodiscard]] bool isOnDeviceOf(const FileState &other) const;
+    /// Whether its disk is there now, with or without the file and its folder. Asks the disk.
+    [[nodiscard]] bool isItsDiskThere() const;
     [[nodiscard]] bool exists() const { return m_exists; }
     /// Why what is there could not be read, for people; empty otherwise.
     [[nodiscard]] const QString &obstacle() const { return m_obstacle; }

@@ -296,7 +296,7 @@ void Document::revertDocumentToSaved()
 {
     if (m_fileUrl.isEmpty() || m_isAsking)
         return;
-    if (!hasUnautosavedChanges())
+    if (!isDocumentEdited())
         return revert();
     if (isUnreadable())
         return;
@@ -335,7 +335,7 @@ void Document::reloadDocument()
 {
     if (m_fileUrl.isEmpty() || m_isAsking)
         return;
-    if (!hasUnautosavedChanges())
+    if (!isDocumentEdited())
         return reload();
     if (isUnreadable())
         return;
@@ -355,7 +355,7 @@ void Document::reloadDocument()
 void Document::reload()
 {
     const FileState now = FileState::at(m_fileUrl.toLocalFile());
-    if (!hasUnautosavedChanges() && now.changeSince(knownState()) == FileState::Change::None) {
+    if (!isDocumentEdited() && now.changeSince(knownState()) == FileState::Change::None) {
         emit told(qtTrId("kToldUnchanged").arg(displayName()));
         return;
     }
@@ -419,6 +419,12 @@ void Document::keepMine()
     updateChangeCount(Change::Done);
 }
 
+bool Document::hasUnautosavedChanges() const
+{
+    return isDocumentEdited() ||
+           (fileNews() == FileState::Change::Gone && m_known && m_known->isItsDiskThere());
+}
+
 void Document::askToClose(std::function<void(bool)> done)
 {
     if (m_isAsking)
@@ -426,15 +432,24 @@ void Document::askToClose(std::function<void(bool)> done)
     if (!hasUnautosavedChanges())
         return done(true);
     enum { Save, Discard, Cancel };
+    const bool isEdited = isDocumentEdited();
     Alert alert;
-    alert.message = qtTrId("kSaveChangesMessage").arg(displayName());
-    alert.informativeText = qtTrId("kSaveChangesText");
-    alert.buttons = {qtTrId("kSave"), qtTrId("kDiscardChanges"), qtTrId("kCancel")};
+    alert.message =
+        qtTrId(isEdited ? "kSaveChangesMessage" : "kSaveGoneMessage").arg(displayName());
+    alert.informativeText = qtTrId(isEdited ? "kSaveChangesText" : "kSaveGoneText");
+    alert.buttons = {qtTrId("kSave"), qtTrId(isEdited ? "kDiscardChanges" : "kCloseUnsaved"),
+                     qtTrId("kCancel")};
     alert.cancelButton = Cancel;
     alert.destructiveButton = Discard;
     ask(alert, [this, done](const AlertAnswer &answer) {
         if (answer.button == Save)
-            saveDocument(done);
+            saveDocument([guard = QPointer<Document>(this), done](bool isWritten) {
+                // What was done while the save asked is not in the file.
+                if (isWritten && guard && guard->hasUnautosavedChanges())
+                    guard->askToClose(done);
+                else
+                    done(isWritten);
+            });
         else
             done(answer.button == Discard);
     });

@@ -118,8 +118,9 @@ public:
     void updateChangeCount(Change change);
     /// Drives the window's modified mark: changes since opening or the last save.
     [[nodiscard]] bool isDocumentEdited() const { return !m_history.isClean(); }
-    /// Whether closing must ask first.
-    [[nodiscard]] bool hasUnautosavedChanges() const { return isDocumentEdited(); }
+    /// Whether closing must ask first: there are changes, or the file was deleted, so that nothing
+    /// but the document has its content. A disk that was taken out has the file on it.
+    [[nodiscard]] bool hasUnautosavedChanges() const;
 
     /// Writes the document to its file, or asks for a place when it is untitled and one was
     /// suggested. Whatever stands in the way is asked about or shown in a sheet and leaves the old

@@ -5,6 +5,7 @@
 #include "framework/ScreenPlace.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QEvent>
 #include <QMainWindow>
 #include <QScreen>
@@ -88,7 +89,13 @@ void WindowController::raiseWindow()
     m_window->setWindowState(m_window->windowState() & ~Qt::WindowMinimized);
     showWindow();
     m_window->raise();
-    m_window->activateWindow();
+    // A question of the window gets the keys, not the window that it blocks.
+    QWidget *active = m_window.get();
+    for (QDialog *dialog : m_window->findChildren<QDialog *>()) {
+        if (dialog->isVisible() && dialog->isModal())
+            active = dialog;
+    }
+    active->activateWindow();
 }
 
 std::function<void()> WindowController::keepPlace() const

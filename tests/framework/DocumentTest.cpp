@@ -440,6 +440,37 @@ private slots:
         QCOMPARE(m_document->fileNews(), FileState::Change::None);
     }
 
+    void onlyCopyIsNotClosedUnasked()
+    {
+        m_document->watchFile();
+        QVERIFY(QFile::remove(m_path));
+        QTRY_COMPARE_WITH_TIMEOUT(m_document->fileNews(), FileState::Change::Gone, 2000);
+        const QString copy = m_folder->filePath(id("copy.tll"));
+        m_prompts->answerSavePanel(copy);
+        for (const auto &[button, mayClose] :
+             {std::pair("kCancel", false), {"kCloseUnsaved", true}, {"kSave", true}}) {
+            m_prompts->answerAlert(id(button));
+            std::optional<bool> answer;
+            m_document->askToClose([&answer](bool is) { answer = is; });
+            QTRY_COMPARE(answer, std::optional(mayClose));
+        }
+        QVERIFY(m_prompts->isSettled());
+        QCOMPARE(contentOf(copy), QByteArray("old"));
+    }
+
+    void editDuringTheSaveOfAClosingIsAskedAbout()
+    {
+        m_document->edit("one");
+        m_document->duringReview = [this] { m_document->edit("two"); };
+        m_prompts->answerAlert(id("kSave"));
+        m_prompts->answerAlert(id("kCancel"));
+        std::optional<bool> answer;
+        m_document->askToClose([&answer](bool is) { answer = is; });
+        QTRY_COMPARE(answer, std::optional(false));
+        QVERIFY(m_prompts->isSettled() && m_document->isDocumentEdited());
+        QCOMPARE(contentOf(m_path), QByteArray("one"));
+    }
+
     void folderThatGoesWhileASaveAsksIsMissed_data()
     {
         QTest::addColumn<bool>("isLate");

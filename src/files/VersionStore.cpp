@@ -213,10 +213,12 @@ void VersionStore::makeRoom(HistoryFiles &files, const QByteArray &justKept)
                 std::find_if(versions.begin(), versions.end(), [&](const KeptVersion &version) {
                     return !version.isFirst && version.digest != justKept;
                 });
+            if (droppable == versions.end())
+                continue;
             const bool isLonger =
-                versions.size() > mostVersions ||
-                (versions.size() == mostVersions && longest && droppable->time < oldest.time);
-            if (droppable == versions.end() || !isLonger)
+                !longest || versions.size() > mostVersions ||
+                (versions.size() == mostVersions && droppable->time < oldest.time);
+            if (!isLonger)
                 continue;
             longest = i;
             mostVersions = versions.size();

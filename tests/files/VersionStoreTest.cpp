@@ -94,6 +94,18 @@ private slots:
         QCOMPARE(files(u"contents"_s).size(), 3);
     }
 
+    void historiesOfOneLength()
+    {
+        VersionStore store = makeStore();
+        const QStringList names{u"a.tll"_s, u"b.tll"_s, u"c.tll"_s, u"d.tll"_s};
+        for (const char *bytes : {"one", "two"}) {
+            for (const QString &name : names)
+                keep(store, name, bytes + name.toUtf8());
+        }
+        for (const QString &name : names)
+            QCOMPARE(contents(store, name), u"two%1 one%1*"_s.arg(name));
+    }
+
     void limitTakesTheOldestOfTheLongestHistories()
     {
         VersionStore store = makeStore(60);

@@ -16,9 +16,17 @@ namespace quillet {
 class FileLock
 {
 public:
-    /// Makes the file if need be. Null when another object or program holds it, when it vanished
-    /// meanwhile, or when it cannot be made; then the reason is the system's.
-    [[nodiscard]] static std::unique_ptr<FileLock> take(const QString &path, QString &reason);
+    struct Obstacle
+    {
+        bool isHeld = false; ///< by another object or program, or removed by one just now
+        QString reason;      ///< the system's
+    };
+    /// Makes the file if need be; one that may only be read is locked as well. Null, with the
+    /// obstacle, when it is held, and when nobody can tell.
+    [[nodiscard]] static std::unique_ptr<FileLock> take(const QString &path, Obstacle &obstacle);
+    /// Whether another object or program holds it, as far as can be told. Writes nothing, and
+    /// keeps nobody from taking it.
+    [[nodiscard]] static bool isHeld(const QString &path);
     ~FileLock();
     Q_DISABLE_COPY_MOVE(FileLock)
 

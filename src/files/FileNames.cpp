@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QStringDecoder>
 
+#include <algorithm>
 #include <system_error>
 
 namespace quillet {
@@ -115,6 +116,13 @@ QString shortPath(const QString &path)
     const QString home = QDir::homePath();
     const bool isInHome = path == home || path.startsWith(home + u'/');
     return readable(isInHome ? u'~' + path.sliced(home.size()) : path);
+}
+
+bool isHexNumber(QStringView name, qsizetype digits)
+{
+    return name.size() == digits && std::all_of(name.begin(), name.end(), [](QChar c) {
+               return (c >= u'0' && c <= u'9') || (c >= u'a' && c <= u'f');
+           });
 }
 
 } // namespace quillet

@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringView>
 #include <QUrl>
 
 #include <filesystem>
@@ -31,5 +32,9 @@ namespace quillet {
 [[nodiscard]] QString readable(const QString &path);
 /// The same, with "~" for the person's own folder.
 [[nodiscard]] QString shortPath(const QString &path);
+
+/// Whether a name that the program made up consists of that many digits, 0 to f. May be asked when
+/// the program ends and has no static objects any more.
+[[nodiscard]] bool isHexNumber(QStringView name, qsizetype digits);
 
 } // namespace quillet

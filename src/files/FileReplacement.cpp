@@ -10,7 +10,6 @@
 #include <QRandomGenerator>
 #include <QScopeGuard>
 
-#include <algorithm>
 #include <filesystem>
 #include <optional>
 #include <system_error>
@@ -51,16 +50,11 @@ QString unusedPath(const QString &folder)
     return path;
 }
 
-/// By hand: this may run when the program ends and has no static objects any more.
 bool isLeftoverName(QStringView name)
 {
     constexpr QLatin1String start(".quillet-");
     constexpr qsizetype digits = 8;
-    const auto isDigit = [](QChar c) {
-        return (c >= u'0' && c <= u'9') || (c >= u'a' && c <= u'f');
-    };
-    return name.size() == start.size() + digits && name.startsWith(start) &&
-           std::all_of(name.begin() + start.size(), name.end(), isDigit);
+    return name.startsWith(start) && isHexNumber(name.sliced(start.size()), digits);
 }
 
 } // namespace

@@ -9,9 +9,9 @@
 
 #include <QFileInfo>
 #include <QRandomGenerator>
+#include <QStringList>
 #include <QUrl>
 
-#include <algorithm>
 #include <array>
 #include <filesystem>
 #include <system_error>
@@ -26,10 +26,28 @@ namespace {
 constexpr QLatin1String lockName("lock");
 constexpr int nameLength = 16; // hexadecimal digits
 
-void removeFile(const fs::path &path)
+QString lockOf(const QString &folder)
+{
+    return folder + u'/' + lockName;
+}
+
+bool removeFile(const QString &path)
 {
     std::error_code unused;
-    fs::remove(path, unused);
+    return fs::remove(nativePath(path), unused);
+}
+
+/// Whose entries change when the folder gets one: itself and, unless it is there, those above it.
+QStringList changedBy(const QString &folder)
+{
+    QStringList changed{folder};
+    while (!isThere(changed.back())) {
+        const QString above = QFileInfo(changed.back()).path();
+        if (above == changed.back())
+            break;
+        changed.append(above);
+    }
+    return changed;
 }
 
 } // namespace
@@ -44,48 +62,48 @@ std::unique_ptr<RecoveryFolder> RecoveryFolder::make(const QString &root,
                                                      FileOperations &operations, Error &error)
 {
     constexpr int mostAttempts = 8; // another program may clear away a folder that is still empty
-    QString reason;
+    const QStringList changed = changedBy(root);
+    FileLock::Obstacle obstacle;
     for (int attempt = 0; attempt < mostAttempts; ++attempt) {
         const QString path = QStringLiteral("%1/%2").arg(root).arg(
             QRandomGenerator::global()->generate64(), nameLength, 16, QLatin1Char('0'));
         if (isThere(path))
             continue;
-        if (!operations.makePrivateFolder(path, reason))
+        if (!operations.makePrivateFolder(path, obstacle.reason))
             break;
-        if (auto folder = take(path, operations, reason)) {
-            for (const QString &above : {root, QFileInfo(root).path()})
+        if (auto lock = FileLock::take(lockOf(path), obstacle)) {
+            for (const QString &above : changed)
                 operations.syncFolder(above);
-            return folder;
+            return std::unique_ptr<RecoveryFolder>(
+                new RecoveryFolder(path, std::move(lock), operations));
         }
-        std::error_code unused;
-        fs::remove(nativePath(path), unused);
+        if (!obstacle.isHeld)
+            removeFile(lockOf(path));
+        removeFile(path);
     }
     error = {QStringLiteral("RecoveryFolder"), 1,
-             qtTrId("kCreateFailedReason").arg(shownPath(root), reason), root};
+             qtTrId("kCreateFailedReason").arg(shownPath(root), obstacle.reason), root};
     return nullptr;
 }
 
 std::unique_ptr<RecoveryFolder> RecoveryFolder::take(const QString &path,
                                                      FileOperations &operations)
 {
-    QString unused;
-    return take(path, operations, unused);
-}
-
-std::unique_ptr<RecoveryFolder> RecoveryFolder::take(const QString &path,
-                                                     FileOperations &operations, QString &reason)
-{
-    auto lock = FileLock::take(path + u'/' + lockName, reason);
-    if (!lock)
+    FileLock::Obstacle obstacle;
+    auto lock = FileLock::take(lockOf(path), obstacle);
+    if (!lock && obstacle.isHeld)
         return nullptr;
     return std::unique_ptr<RecoveryFolder>(new RecoveryFolder(path, std::move(lock), operations));
 }
 
+bool RecoveryFolder::isHeld(const QString &path)
+{
+    return FileLock::isHeld(lockOf(path));
+}
+
 bool RecoveryFolder::isName(QStringView name)
 {
-    return name.size() == nameLength && std::all_of(name.begin(), name.end(), [](QChar c) {
-               return (c >= u'0' && c <= u'9') || (c >= u'a' && c <= u'f');
-           });
+    return isHexNumber(name, nameLength);
 }
 
 QString RecoveryFolder::pathIn(const QString &folder, Part part)
@@ -97,6 +115,11 @@ QString RecoveryFolder::pathIn(const QString &folder, Part part)
 bool RecoveryFolder::has(Part part) const
 {
     return isThere(pathOf(part));
+}
+
+bool RecoveryFolder::lacks(Part part) const
+{
+    return isMissing(pathOf(part));
 }
 
 bool RecoveryFolder::write(Part part, const QByteArray &bytes, Error &error)
@@ -112,13 +135,18 @@ bool RecoveryFolder::read(Part part, QByteArray &bytes, Error &error) const
 
 void RecoveryFolder::remove()
 {
+    FileLock::Obstacle obstacle;
+    if (!m_lock)
+        m_lock = FileLock::take(lockOf(m_path), obstacle);
+    if (obstacle.isHeld)
+        return;
     for (const Part part : {Part::State, Part::Known, Part::Original})
-        removeFile(nativePath(pathOf(part)));
+        removeFile(pathOf(part));
     FileReplacement::removeLeftovers(m_path, {});
-    removeFile(nativePath(m_path + u'/' + lockName));
+    removeFile(lockOf(m_path));
     m_lock.reset(); // where an open file cannot be removed, it goes now
-    std::error_code unused;
-    fs::remove(nativePath(m_path), unused); // fails unless it is empty
+    const bool isEmpty = removeFile(m_path);
+    m_operations.syncFolder(isEmpty ? QFileInfo(m_path).path() : m_path);
 }
 
 } // namespace quillet

@@ -13,8 +13,9 @@ namespace quillet {
 class FileOperations;
 
 /// The folder in which one changed document is kept from being lost, with its files. As long as
-/// this object lives the folder is locked, so that no other program takes it for a leftover. Its
-/// files are the person's alone, and each is replaced as carefully as one of theirs.
+/// this object lives the folder is locked, so that no other program takes it for a leftover, unless
+/// it was found where nothing can be locked. Its files are the person's alone, and each is replaced
+/// as carefully as one of theirs.
 class RecoveryFolder
 {
 public:
@@ -28,11 +29,13 @@ public:
     /// that fails. The operations must outlive it.
     [[nodiscard]] static std::unique_ptr<RecoveryFolder>
     make(const QString &root, FileOperations &operations, Error &error);
-    /// One that is there; null when a living program has it.
+    /// One that is there; null when a living program has it. Without a lock where there can be
+    /// none, as on a disk that may only be read: it can still be read, and nobody is to go on in
+    /// it.
     [[nodiscard]] static std::unique_ptr<RecoveryFolder> take(const QString &path,
                                                               FileOperations &operations);
-    [[nodiscard]] static std::unique_ptr<RecoveryFolder>
-    take(const QString &path, FileOperations &operations, QString &reason);
+    /// Whether a living program has it, as far as can be told; changes nothing.
+    [[nodiscard]] static bool isHeld(const QString &path);
 
     /// Whether it is spelt as the names that folders are given.
     [[nodiscard]] static bool isName(QStringView name);
@@ -40,11 +43,15 @@ public:
 
     [[nodiscard]] const QString &path() const { return m_path; }
     [[nodiscard]] QString pathOf(Part part) const { return pathIn(m_path, part); }
+    [[nodiscard]] bool isLocked() const { return m_lock != nullptr; }
     [[nodiscard]] bool has(Part part) const;
+    /// Whether it is not there for certain; what cannot be looked at just now may be.
+    [[nodiscard]] bool lacks(Part part) const;
     [[nodiscard]] bool write(Part part, const QByteArray &bytes, Error &error);
     [[nodiscard]] bool read(Part part, QByteArray &bytes, Error &error) const;
     /// Removes the files and then the folder, in an order in which a crash leaves nothing that
-    /// passes for a document. What somebody else put there stays.
+    /// passes for a document. What somebody else put there stays, and all of it when it turns out
+    /// that a living program has the folder.
     void remove();
 
 private:

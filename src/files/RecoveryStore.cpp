@@ -18,23 +18,6 @@ namespace quillet {
 
 namespace {
 
-/// A folder that a program made and ended before it kept anything in it.
-bool isEmpty(const QString &path)
-{
-    std::error_code code;
-    for (fs::directory_iterator files(nativePath(path), code), end; !code && files != end;
-         files.increment(code)) {
-        if (files->path().filename() != "lock")
-            return false;
-    }
-    return !code;
-}
-
-bool hasState(const QString &path)
-{
-    return isThere(RecoveryFolder::pathIn(path, RecoveryFolder::Part::State));
-}
-
 QString problemOf(RecoveryState::Reading reading)
 {
     switch (reading) {
@@ -62,7 +45,7 @@ RecoveryStore::Leftover leftoverIn(std::unique_ptr<RecoveryFolder> folder)
     found.problem = problemOf(state.decode(bytes));
     if (!found.problem.isEmpty())
         return found;
-    if (!found.folder->has(Part::Original))
+    if (found.folder->lacks(Part::Original))
         found.problem = qtTrId("kRecoveryDamagedReason");
     found.state = std::move(state);
     return found;
@@ -119,13 +102,11 @@ std::vector<RecoveryStore::Leftover> RecoveryStore::leftovers()
 {
     std::vector<Leftover> found;
     for (const QString &path : folders()) {
-        if (!hasState(path) && !isEmpty(path))
-            continue;
         auto folder = RecoveryFolder::take(path, m_operations);
-        if (folder && hasState(path))
+        if (folder && !folder->lacks(RecoveryFolder::Part::State))
             found.push_back(leftoverIn(std::move(folder)));
-        else if (folder && isEmpty(path))
-            folder->remove();
+        else if (folder && folder->isLocked())
+            folder->remove(); // its program ended before it kept an edit, or while removing it
     }
     const auto time = [](const Leftover &each) {
         return each.state ? each.state->changedAt : QDateTime();
@@ -138,8 +119,9 @@ std::vector<RecoveryStore::Leftover> RecoveryStore::leftovers()
 bool RecoveryStore::hasLeftovers() const
 {
     const std::vector<QString> there = folders();
-    return std::any_of(there.begin(), there.end(), [this](const QString &path) {
-        return hasState(path) && RecoveryFolder::take(path, m_operations);
+    return std::any_of(there.begin(), there.end(), [](const QString &path) {
+        return !isMissing(RecoveryFolder::pathIn(path, RecoveryFolder::Part::State)) &&
+               !RecoveryFolder::isHeld(path);
     });
 }
 

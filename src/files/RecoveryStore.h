@@ -12,8 +12,8 @@
 namespace quillet {
 
 /// The folder in which programs keep their changed documents from being lost, one folder a
-/// document, and what programs that ended too early have left there. Deletes nothing but folders
-/// that are empty.
+/// document, and what programs that ended too early have left there. Deletes nothing but what holds
+/// no edit.
 class RecoveryStore
 {
 public:
@@ -35,9 +35,10 @@ public:
         QString problem; ///< why the document cannot be brought back; empty: it can
     };
     /// What programs that live no more have left, the latest change first. Each folder is locked as
-    /// long as its leftover is kept. What is no leftover of a document is left as it is.
+    /// long as its leftover is kept, if it can be. Where a program ended before it had kept any
+    /// edit, its files are cleared away; nobody else's are.
     [[nodiscard]] std::vector<Leftover> leftovers();
-    /// Whether there are any; cheaper.
+    /// Whether there are any; cheaper, and changes nothing.
     [[nodiscard]] bool hasLeftovers() const;
 
 private:

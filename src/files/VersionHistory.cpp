@@ -1,5 +1,7 @@
 #include "files/VersionHistory.h"
 
+#include "files/FileNames.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 
@@ -15,24 +17,17 @@ constexpr QLatin1String digestKey("sha256");
 constexpr QLatin1String sizeKey("size");
 constexpr QLatin1String timeKey("time");
 constexpr QLatin1String firstKey("first");
+constexpr qsizetype digestDigits = 64;
 constexpr qint64 largestSize = qint64{1} << 40; ///< of what a damaged file tells
-
-/// It is a part of a file's name, so nothing else may stand there.
-bool isDigest(const QByteArray &text)
-{
-    constexpr qsizetype digits = 64;
-    return text.size() == digits && std::all_of(text.begin(), text.end(), [](char c) {
-               return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'f');
-           });
-}
 
 std::optional<KeptVersion> versionOf(const QJsonValue &value)
 {
     const QJsonObject object = value.toObject();
-    const QByteArray digest = object[digestKey].toString().toLatin1();
-    if (!isDigest(digest))
+    const QString digest = object[digestKey].toString();
+    if (!isHexNumber(digest, digestDigits)) // as it is a part of a file's name
         return {};
-    return KeptVersion{digest, std::clamp<qint64>(object[sizeKey].toInteger(), 0, largestSize),
+    return KeptVersion{digest.toLatin1(),
+                       std::clamp<qint64>(object[sizeKey].toInteger(), 0, largestSize),
                        QDateTime::fromString(object[timeKey].toString(), Qt::ISODateWithMs),
                        object[firstKey].toBool()};
 }

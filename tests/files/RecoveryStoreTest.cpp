@@ -9,6 +9,8 @@
 #include <QTest>
 
 #ifndef Q_OS_WIN
+#include "files/OrdinaryUser.h"
+
 #include <sys/stat.h>
 #endif
 
@@ -40,13 +42,23 @@ private slots:
         QTest::newRow("empty") << u"empty"_s << u"kRecoveryDamagedReason"_s;
         QTest::newRow("no original") << u"original"_s << u"kRecoveryDamagedReason"_s;
         QTest::newRow("no file") << u"folder"_s << u"kIsAFolderReason"_s;
+#ifndef Q_OS_WIN
+        QTest::newRow("may only be read") << u"read-only"_s << QString();
+        QTest::newRow("may not be locked") << u"no lock"_s << QString();
+#endif
     }
     void leftoversAreListed()
     {
         QFETCH(QString, fault);
         QFETCH(QString, problem);
+#ifndef Q_OS_WIN
+        QVERIFY(OrdinaryUser::own(m_home->path()));
+        const OrdinaryUser user; // may not write everywhere
+#endif
         const QString path = leave(state());
         const QString file = RecoveryFolder::pathIn(path, Part::State);
+        const QString lock = path + u"/lock"_s;
+        writeFile(lock, "as it was");
         QByteArray bytes = contentOf(file);
         if (fault == u"byte")
             bytes[bytes.size() / 2] = static_cast<char>(bytes[bytes.size() / 2] ^ 1);
@@ -57,8 +69,16 @@ private slots:
             QVERIFY(QFile::remove(RecoveryFolder::pathIn(path, Part::Original)));
         if (fault == u"folder")
             QVERIFY(QFile::remove(file) && QDir().mkdir(file));
+        if (fault == u"no lock")
+            QVERIFY(QFile::remove(lock));
+        if (fault == u"read-only")
+            QVERIFY(QFile::setPermissions(lock, QFile::ReadOwner));
+        const bool isReadOnly = fault == u"no lock" || fault == u"read-only";
+        if (isReadOnly)
+            QVERIFY(QFile::setPermissions(path, QFile::ReadOwner | QFile::ExeOwner));
 
         QVERIFY(m_store->hasLeftovers());
+        QVERIFY(fault == u"no lock" || contentOf(lock) == "as it was");
         const auto found = m_store->leftovers();
         QCOMPARE(found.size(), std::size_t{1});
         QCOMPARE(found[0].problem, problem);
@@ -68,8 +88,13 @@ private slots:
             QCOMPARE(read.encoded(), state().encoded());
             QCOMPARE(read.place(), state().path);
         }
-        QVERIFY(!m_store->hasLeftovers() && m_store->leftovers().empty()); // while it is held
+        const bool isHeld = fault != u"no lock";
+        QCOMPARE(m_store->hasLeftovers(), !isHeld);
+        QCOMPARE(m_store->leftovers().empty(), isHeld);
         QVERIFY(QFileInfo::exists(file));
+        if (isReadOnly)
+            QVERIFY(QFile::setPermissions(path,
+                                          QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
     }
 
     void livingDocumentsAreNoLeftovers()
@@ -77,6 +102,7 @@ private slots:
         Error error;
         const auto living = m_store->makeFolder(error);
         QVERIFY2(living && living->write(Part::Original, "list", error), qPrintable(error.text()));
+        QVERIFY(!m_store->hasLeftovers() && m_store->leftovers().empty());
         QVERIFY(living->write(Part::State, state().encoded(), error));
         QVERIFY(!m_store->hasLeftovers() && m_store->leftovers().empty());
         QVERIFY(living->has(Part::State));
@@ -87,14 +113,19 @@ private slots:
         const QString path = leave(state());
         const QString root = m_store->root();
         QVERIFY(QDir(root).mkpath(u"notes"_s) && QDir(root).mkpath(u"0123456789abcdef"_s));
-        QVERIFY(QDir(root).mkpath(u"00000000000000aa"_s));
-        writeFile(root + u"/00000000000000aa/original"_s, "kept, but nothing of its edits yet");
-        writeFile(path + u"/note"_s, "somebody's");
+        for (const QString &folder : {u"/00000000000000aa/"_s, u"/00000000000000cc/"_s}) {
+            QVERIFY(QDir(root).mkpath(root + folder)); // kept, but nothing of its edits yet
+            for (const char *file : {"original", "known", "lock", ".quillet-0123abcd"})
+                writeFile(root + folder + QLatin1String(file), "list");
+        }
+        for (const QString &folder : {path, root + u"/00000000000000aa"_s})
+            writeFile(folder + u"/note"_s, "somebody's");
         QVERIFY(QFile::link(path, root + u"/00000000000000bb"_s));
         auto found = m_store->leftovers();
         QCOMPARE(found.size(), std::size_t{1});
         found[0].folder->remove();
-        QCOMPARE(QDir(path).entryList(QDir::Files), QStringList{u"note"_s});
+        for (const QString &folder : {path, root + u"/00000000000000aa"_s})
+            QCOMPARE(QDir(folder).entryList(QDir::Files | QDir::Hidden), QStringList{u"note"_s});
         QCOMPARE(QDir(root).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
                  (QStringList{u"00000000000000aa"_s, u"00000000000000bb"_s,
                               QFileInfo(path).fileName(), u"notes"_s}));

@@ -106,7 +106,8 @@ std::optional<Document::Recoverable> TLLDocument::recoverable() const
 {
     const DocumentState state{m_usesTV, m_curSource, m_savesRepaired, m_repair};
     return Recoverable{m_list.text.bytes(), [state, edits = ListEdits::of(m_list)] {
-                           return state.encodedWith(edits.encoded());
+                           const QByteArray bytes = edits.encoded();
+                           return bytes.isNull() ? bytes : state.encodedWith(bytes);
                        }};
 }
 

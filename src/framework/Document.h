@@ -84,8 +84,9 @@ public:
     /// What brings the content back after the program has ended without a save.
     struct Recoverable
     {
-        QByteArray original;               ///< that the content was read from
-        std::function<QByteArray()> edits; ///< made since then; may be called on any thread
+        QByteArray original; ///< that the content was read from
+        /// Made since then; may be called on any thread. Null: they cannot be told.
+        std::function<QByteArray()> edits;
     };
     /// The content as it is now, which must not take long. The base has none.
     [[nodiscard]] virtual std::optional<Recoverable> recoverable() const;

@@ -20,9 +20,7 @@ RecoverySlot::RecoverySlot(RecoveryStore &store, std::unique_ptr<RecoveryFolder>
 bool RecoverySlot::write(const RecoverySnapshot &snapshot, Error &error)
 {
     try {
-        if (m_kept.folder && !m_kept.folder->has(Part::Original))
-            remove(); // somebody has cleared it away
-        if (m_kept.folder && m_kept.original == snapshot.original)
+        if (mayGoOn(snapshot))
             return writeInto(m_kept, snapshot, error);
         Kept other{m_store.makeFolder(error), snapshot.original};
         if (!other.folder)
@@ -42,6 +40,13 @@ bool RecoverySlot::write(const RecoverySnapshot &snapshot, Error &error)
     }
 }
 
+/// Somebody may have cleared it away. One that cannot be looked at just now is not given up.
+bool RecoverySlot::mayGoOn(const RecoverySnapshot &snapshot) const
+{
+    return m_kept.folder && m_kept.folder->isLocked() && !m_kept.folder->lacks(Part::Original) &&
+           m_kept.original == snapshot.original;
+}
+
 /// What the file held is written before the state that speaks of it. After a crash in between it
 /// is later than the state, and still what the file was left with.
 bool RecoverySlot::writeInto(Kept &kept, const RecoverySnapshot &snapshot, Error &error)
@@ -57,6 +62,10 @@ bool RecoverySlot::writeInto(Kept &kept, const RecoverySnapshot &snapshot, Error
         kept.known = snapshot.known;
     }
     state.content = snapshot.content();
+    if (state.content.isNull()) {
+        error = {QStringLiteral("RecoverySlot"), 2, qtTrId("kRecoveryDamagedReason"), {}};
+        return false;
+    }
     return kept.folder->write(Part::State, state.encoded(), error);
 }
 

@@ -14,14 +14,15 @@ namespace quillet {
 /// to another thread.
 struct RecoverySnapshot
 {
-    QByteArray original;               ///< what the document was read from
-    std::optional<QByteArray> known{}; ///< what its file was known to hold; none: no file
-    RecoveryState state{};             ///< but for `known` and `content`
-    std::function<QByteArray()> content;
+    QByteArray original;                 ///< what the document was read from
+    std::optional<QByteArray> known{};   ///< what its file was known to hold; none: no file
+    RecoveryState state{};               ///< but for `known` and `content`
+    std::function<QByteArray()> content; ///< of the state; null bytes: it cannot be told
 };
 
 /// The place on the disk for one document, which has a folder from the first snapshot on, and
-/// another one when the document was read from other bytes. Used by one thread at a time.
+/// another one when the document was read from other bytes or the folder is no good any more. Used
+/// by one thread at a time.
 class RecoverySlot
 {
 public:
@@ -41,6 +42,8 @@ private:
         QByteArray original;               ///< as it is in the folder
         std::optional<QByteArray> known{}; ///< the same; none when that is not known
     };
+    /// Whether the snapshot can go into the folder there is.
+    [[nodiscard]] bool mayGoOn(const RecoverySnapshot &snapshot) const;
     [[nodiscard]] static bool writeInto(Kept &kept, const RecoverySnapshot &snapshot, Error &error);
 
     RecoveryStore &m_store;

@@ -118,6 +118,14 @@ private slots:
         QCOMPARE(faultOfBringingBack(*list), nullptr); // to the bytes that are written
     }
 
+    void whatCannotComeBackIsNotTold()
+    {
+        const auto list = channelListFromBytes(twoStations());
+        const auto other = channelListFromBytes(twoStations());
+        list->lists.list(true, 0)->push_back(firstStation(*other));
+        QVERIFY(ListEdits::of(*list).encoded().isNull());
+    }
+
     void nestingIsBounded()
     {
         const auto list = channelListFromBytes(twoStations());

@@ -55,7 +55,8 @@ std::shared_ptr<const ListDifference> ListEdits::difference() const
 
 QByteArray ListEdits::encoded() const
 {
-    return editsformat::encoded(*difference());
+    const std::shared_ptr<const ListDifference> edits = difference();
+    return edits->isSound() ? editsformat::encoded(*edits) : QByteArray();
 }
 
 bool ListEdits::applyTo(ChannelList &fresh) const

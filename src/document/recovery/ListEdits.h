@@ -24,7 +24,8 @@ public:
     /// None when any of the bytes is damaged, and when a newer program made them.
     [[nodiscard]] static std::optional<ListEdits> decoded(QByteArrayView bytes);
 
-    /// On any thread; takes about as long as reading the file.
+    /// On any thread; takes about as long as reading the file. Null when the list is not one that
+    /// can be brought back, which editing cannot make it.
     [[nodiscard]] QByteArray encoded() const;
     /// Makes the edits in a list that was just read from the same bytes. False when it was not, and
     /// then it stays as it is.

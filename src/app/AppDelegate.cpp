@@ -268,10 +268,9 @@ void AppDelegate::terminateSoon()
     terminate();
 }
 
-void AppDelegate::writeRecovery()
+bool AppDelegate::writeRecovery()
 {
-    if (m_recovery)
-        m_recovery->writeNow();
+    return m_recovery && m_recovery->writeNow();
 }
 
 bool AppDelegate::terminateNow()

@@ -69,8 +69,8 @@ public:
     void terminate();
     /// The same, for a system that may not wait for the answers: first all changes are kept.
     void terminateSoon();
-    /// Has all changes on the disk before it returns, as far as the disk lets us.
-    void writeRecovery();
+    /// Has all changes on the disk before it returns, as far as the disk lets us: whether they are.
+    bool writeRecovery();
     /// As terminate(), but returns only when the questions are answered: whether the program ends.
     [[nodiscard]] bool terminateNow();
 

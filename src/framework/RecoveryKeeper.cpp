@@ -52,11 +52,14 @@ void RecoveryKeeper::erase(const Document &document)
                        m_recoveries.end());
 }
 
-void RecoveryKeeper::writeNow()
+bool RecoveryKeeper::writeNow()
 {
+    m_writer.finish(); // what fails now is tried once more
     for (const auto &recovery : m_recoveries)
         recovery->writeNow();
     m_writer.finish();
+    return std::all_of(m_recoveries.begin(), m_recoveries.end(),
+                       [](const auto &each) { return each->isKept(); });
 }
 
 bool RecoveryKeeper::restore(Document &document, const RecoveryStore::Leftover &leftover,
@@ -100,10 +103,14 @@ void RecoveryKeeper::goOn(Document &document, RecoveryStore::Leftover leftover)
 {
     watch(document);
     DocumentRecovery *recovery = recoveryOf(document);
-    std::optional<Document::Recoverable> content = document.recoverable();
-    const auto slot = std::make_shared<RecoverySlot>(m_store, std::move(leftover.folder),
-                                                     content ? content->original : QByteArray());
-    recovery->continueIn(slot, leftover.state->changes);
+    QByteArray original; // unknown: it goes on in another folder, and this one stays until then
+    try {
+        if (const std::optional<Document::Recoverable> content = document.recoverable())
+            original = content->original;
+    } catch (const std::bad_alloc &) {
+    }
+    const auto slot = std::make_shared<RecoverySlot>(m_store, std::move(leftover.folder), original);
+    recovery->continueIn(slot, *leftover.state);
 }
 
 } // namespace quillet

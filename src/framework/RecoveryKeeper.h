@@ -27,8 +27,9 @@ public:
     void watch(Document &document);
     /// Called when a document is closed: its changes are saved, or nobody wants them.
     void forget(Document &document);
-    /// Returns when all changes of all documents are on the disk, as far as the disk lets us.
-    void writeNow();
+    /// Returns when all changes of all documents are on the disk, as far as the disk lets us:
+    /// whether they are.
+    bool writeNow();
 
     [[nodiscard]] RecoveryStore &store() const { return m_store; }
     /// Makes a new document, without a window yet, what it was. On failure the document is of no

@@ -12,15 +12,18 @@ RecoveryWriter::~RecoveryWriter()
     finish();
 }
 
-void RecoveryWriter::write(const std::shared_ptr<RecoverySlot> &slot,
-                           const RecoverySnapshot &snapshot, const Done &done)
+RecoveryWriter::Writing RecoveryWriter::write(const std::shared_ptr<RecoverySlot> &slot,
+                                              const RecoverySnapshot &snapshot, const Done &done)
 {
-    m_thread.start([this, slot, snapshot, done] {
+    const auto outcome = std::make_shared<std::atomic<Outcome>>(Outcome::Underway);
+    m_thread.start([this, slot, snapshot, done, outcome] {
         Error error;
         const bool isWritten = slot->write(snapshot, error);
+        *outcome = isWritten ? Outcome::Written : Outcome::Failed;
         QMetaObject::invokeMethod(
             this, [=] { done(isWritten, error); }, Qt::QueuedConnection);
     });
+    return outcome;
 }
 
 void RecoveryWriter::remove(const std::shared_ptr<RecoverySlot> &slot)

@@ -5,6 +5,7 @@
 #include <QObject>
 #include <QThreadPool>
 
+#include <atomic>
 #include <functional>
 #include <memory>
 
@@ -18,13 +19,16 @@ class RecoveryWriter : public QObject
 
 public:
     using Done = std::function<void(bool isWritten, const Error &error)>;
+    enum class Outcome { Underway, Written, Failed };
+    /// Known as soon as the writing has ended, earlier than `done` is called.
+    using Writing = std::shared_ptr<const std::atomic<Outcome>>;
 
     explicit RecoveryWriter(QObject *parent = nullptr);
     ~RecoveryWriter() override;
 
     /// `done` is called on the writer's own thread, in a later turn of its event loop.
-    void write(const std::shared_ptr<RecoverySlot> &slot, const RecoverySnapshot &snapshot,
-               const Done &done);
+    [[nodiscard]] Writing write(const std::shared_ptr<RecoverySlot> &slot,
+                                const RecoverySnapshot &snapshot, const Done &done);
     void remove(const std::shared_ptr<RecoverySlot> &slot);
     /// Returns when everything asked for so far was done.
     void finish() { m_thread.waitForDone(); }

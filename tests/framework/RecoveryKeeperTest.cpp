@@ -11,7 +11,12 @@
 #include <QTest>
 
 #include <atomic>
+#include <new>
 #include <utility>
+
+#ifndef Q_OS_WIN
+#include "files/OrdinaryUser.h"
+#endif
 
 using namespace quillet;
 using namespace quillet::testing;
@@ -77,7 +82,11 @@ public:
     }
     [[nodiscard]] std::optional<Recoverable> recoverable() const override
     {
-        return Recoverable{m_read, [bytes = content] { return bytes; }};
+        if (content.startsWith("hog"))
+            throw std::bad_alloc();
+        const bool isUntold = content.startsWith("untold");
+        return Recoverable{m_read,
+                           [isUntold, bytes = content] { return isUntold ? QByteArray() : bytes; }};
     }
     bool restoreContent(const QByteArray &original, const QByteArray &edits, Error &) override
     {
@@ -221,13 +230,45 @@ private slots:
         QTRY_COMPARE(m_operations->writes, 3); // the original and two states
     }
 
+    void failuresAreTriedAgain()
+    {
+        watch({1ms, 1ms, 20ms});
+        const QSignalSpy told(m_document.get(), &Document::told);
+        m_operations->isFull = true;
+        m_document->type("a");
+        QTRY_COMPARE(told.size(), 1);
+        m_operations->isFull = false;
+        QTRY_VERIFY(!QDir(m_store->root()).isEmpty());
+    }
+
+    void whatWasClearedAwayIsWrittenAgain_data()
+    {
+        QTest::addColumn<bool>("comesBack");
+        QTest::newRow("cleared away") << false;
+#ifndef Q_OS_WIN
+        QTest::newRow("out of reach for a while") << true;
+#endif
+    }
     void whatWasClearedAwayIsWrittenAgain()
     {
-        watch({1ms, 1ms});
+        QFETCH(bool, comesBack);
+#ifndef Q_OS_WIN
+        QVERIFY(OrdinaryUser::own(m_folder->path()));
+        const OrdinaryUser user;
+#endif
+        watch({1h, 1h});
         m_document->type("a");
-        m_keeper->writeNow();
-        QVERIFY(QDir(m_store->root()).removeRecursively());
+        QVERIFY(m_keeper->writeNow());
         m_document->type("b");
+        if (comesBack) {
+            const QString folder = m_store->root() + u'/' + QDir(m_store->root())[2];
+            QVERIFY(QFile::setPermissions(folder, {}));
+            QVERIFY(!m_keeper->writeNow());
+            QVERIFY(QFile::setPermissions(folder,
+                                          QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+        } else {
+            QVERIFY(QDir(m_store->root()).removeRecursively());
+        }
         m_keeper.reset();
         const auto found = m_store->leftovers();
         QCOMPARE(found.size(), std::size_t{1});
@@ -235,17 +276,57 @@ private slots:
         QCOMPARE(found[0].state->content, "b");
     }
 
+    void aFailureKeepsTheOlderState_data()
+    {
+        QTest::addColumn<bool>("isFull");
+        QTest::addColumn<QByteArray>("content");
+        QTest::newRow("the disk is full") << true << QByteArray("b");
+        QTest::newRow("no memory") << false << QByteArray("hog");
+        QTest::newRow("edits that cannot be told") << false << QByteArray("untold");
+    }
     void aFailureKeepsTheOlderState()
     {
-        watch({1ms, 1ms});
-        m_document->type("a");
-        m_keeper->writeNow();
+        QFETCH(const bool, isFull);
+        QFETCH(const QByteArray, content);
+        watch({1h, 1h});
+        m_document->type("old");
         m_operations->isFull = true;
-        m_document->type("b");
+        QVERIFY(!m_keeper->writeNow());
+        m_operations->isFull = false;
+        QVERIFY(m_keeper->writeNow()); // although nobody has heard of the failure yet
+        m_operations->isFull = isFull;
+        m_document->type(content);
+        QVERIFY(!m_keeper->writeNow());
+        const QSignalSpy told(m_document.get(), &Document::told);
+        QTRY_COMPARE(told.size(), 2);
         m_keeper.reset();
         const auto found = m_store->leftovers();
         QCOMPARE(found.size(), std::size_t{1});
-        QCOMPARE(found[0].state->content, "a");
+        QCOMPARE(found[0].state->content, "old");
+    }
+
+    void keepMineIsRemembered_data()
+    {
+        QTest::addColumn<bool>("isEdited");
+        QTest::newRow("edited") << true;
+        QTest::newRow("nothing else") << false;
+    }
+    void keepMineIsRemembered()
+    {
+        QFETCH(bool, isEdited);
+        watch({1h, 1h});
+        m_document->watchFile();
+        if (isEdited)
+            m_document->type("new");
+        writeFile(m_path, "theirs");
+        QTRY_COMPARE(m_document->fileNews(), FileState::Change::Content);
+        QVERIFY(m_keeper->writeNow());
+        m_document->keepMine();
+        m_keeper.reset();
+        const auto found = m_store->leftovers();
+        QCOMPARE(found.size(), std::size_t{1});
+        QCOMPARE(found[0].state->changes, 1);
+        QCOMPARE(contentOf(found[0].folder->pathOf(RecoveryFolder::Part::Known)), "theirs");
     }
 
     void savesAfterwardsAskAsBefore_data()
@@ -293,7 +374,14 @@ private slots:
         QCOMPARE(m_document->fileUrl(), QUrl::fromLocalFile(m_path));
         m_keeper = std::make_unique<RecoveryKeeper>(*m_store);
         m_document->updateChangeCount(Document::Change::Done);
+        const RecoveryState left = *found[0].state;
+        const QString kept = found[0].folder->pathOf(RecoveryFolder::Part::State);
         m_keeper->goOn(*m_document, std::move(found[0]));
+        QVERIFY(QFile::remove(kept) && m_keeper->writeNow());
+        RecoveryState again;
+        QCOMPARE(again.decode(contentOf(kept)), RecoveryState::Reading::Done);
+        QCOMPARE(again.changedAt, left.changedAt); // nothing was edited since then
+        QCOMPARE(again.changes, left.changes);
         if (!question.isEmpty())
             m_prompts->answerAlert(disk.isNull() ? u"kSaveHereAnyway"_s : u"kSaveAnyway"_s);
         m_document->saveDocument();

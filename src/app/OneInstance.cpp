@@ -27,9 +27,8 @@ int millisecondsLeft(const QDeadlineTimer &deadline)
 } // namespace
 
 OneInstance::OneInstance(const QString &socketPath, QObject *parent)
-    : QObject(parent), m_path(socketPath), m_lock(socketPath + QLatin1String(".lock"))
+    : QObject(parent), m_path(socketPath)
 {
-    m_lock.setStaleLockTime(0); // only when the one that holds it is gone
     m_server.setSocketOptions(QLocalServer::UserAccessOption);
     m_server.setMaxPendingConnections(mostVisitors);
     connect(&m_server, &QLocalServer::newConnection, this, &OneInstance::welcome);
@@ -45,9 +44,11 @@ OneInstance::Role OneInstance::begin(const OpenRequest &request)
     const std::optional<QByteArray> message = request.toMessage();
     const QDeadlineTimer deadline(patience);
     while (!m_path.isEmpty() && !deadline.hasExpired()) {
-        if (m_lock.tryLock(0))
+        FileLock::Obstacle obstacle;
+        m_lock = FileLock::take(m_path + QLatin1String(".lock"), obstacle);
+        if (m_lock)
             return listen() ? Role::First : Role::Alone;
-        if (m_lock.error() != QLockFile::LockFailedError || !message)
+        if (!obstacle.isHeld || !message)
             return Role::Alone;
         switch (offer(*message, deadline)) {
         case Answer::Taken:
@@ -67,7 +68,7 @@ bool OneInstance::listen()
     QLocalServer::removeServer(m_path); // of a program that crashed: we hold the lock
     if (m_server.listen(m_path))
         return true;
-    m_lock.unlock();
+    m_lock.reset();
     return false;
 }
 
@@ -129,13 +130,13 @@ void OneInstance::read(QLocalSocket *socket, QByteArray &received)
 
 void OneInstance::stop()
 {
-    if (!m_lock.isLocked())
+    if (!m_lock)
         return;
     m_server.close();
     const auto visitors = m_server.findChildren<QLocalSocket *>();
     for (QLocalSocket *socket : visitors)
         socket->abort();
-    m_lock.unlock();
+    m_lock.reset();
 }
 
 } // namespace quillet

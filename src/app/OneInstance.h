@@ -1,13 +1,14 @@
 #pragma once
 
 #include "app/OpenRequest.h"
+#include "files/FileLock.h"
 
 #include <QLocalServer>
-#include <QLockFile>
 #include <QObject>
 
 #include <chrono>
 #include <functional>
+#include <memory>
 
 class QDeadlineTimer;
 class QLocalSocket;
@@ -55,7 +56,7 @@ private:
     void read(QLocalSocket *socket, QByteArray &received);
 
     QString m_path;
-    QLockFile m_lock;
+    std::unique_ptr<FileLock> m_lock; ///< null: another program may listen
     QLocalServer m_server;
     std::function<bool()> m_mayTake = [] { return true; };
 };

@@ -146,7 +146,7 @@ private slots:
     void crashedFirstIsReplaced()
     {
         { // What a crash leaves: a socket that nobody listens at, and the lock of a process that is
-          // gone.
+          // gone, when the computer had another name.
             QLocalServer crashed;
             QVERIFY(crashed.listen(m_path));
             QCOMPARE(::link(QFile::encodeName(m_path).constData(),
@@ -154,7 +154,7 @@ private slots:
                      0);
         }
         QVERIFY(QFile::rename(m_path + u".2"_s, m_path));
-        writeFile(m_path + u".lock"_s, "999999999\nquillet\n\n\n\n");
+        writeFile(m_path + u".lock"_s, "999999999\nquillet\nearlier\n\n\n");
         OneInstance next(m_path);
         QCOMPARE(next.begin({}), Role::First);
         QCOMPARE(roleOfLater({}), Role::HandedOver);

@@ -329,6 +329,23 @@ private slots:
         QCOMPARE(contentOf(found[0].folder->pathOf(RecoveryFolder::Part::Known)), "theirs");
     }
 
+#ifndef Q_OS_WIN
+    void withoutALockItGoesOnElsewhere()
+    {
+        watch({1h, 1h});
+        m_document->type("a");
+        m_keeper.reset();
+        const QString lock = m_store->leftovers().at(0).folder->path() + u"/lock"_s;
+        QVERIFY(QFile::remove(lock) && QFile::link(m_path + u'?', lock)); // to nothing
+        auto found = m_store->leftovers();
+        QCOMPARE(found.size(), std::size_t{1});
+        m_keeper = std::make_unique<RecoveryKeeper>(*m_store);
+        m_keeper->goOn(*m_document, std::move(found[0]));
+        QVERIFY(m_keeper->writeNow());
+        QVERIFY(m_store->leftovers().empty()); // it is one of a living program
+    }
+#endif
+
     void savesAfterwardsAskAsBefore_data()
     {
         QTest::addColumn<bool>("isSavedBetween"); // while the document is edited on

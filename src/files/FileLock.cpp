@@ -51,7 +51,7 @@ bool lockFile(int handle)
 {
     constexpr int mostAttempts = 3;
     for (int attempt = 1; ::flock(handle, LOCK_EX | LOCK_NB) != 0; ++attempt) {
-        if (errno != EWOULDBLOCK || attempt == mostAttempts)
+        if ((errno != EWOULDBLOCK && errno != EINTR) || attempt == mostAttempts)
             return false;
         ::usleep(1000);
     }

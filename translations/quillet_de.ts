@@ -1859,6 +1859,10 @@ Diese folgen ab Nummer: %3</translation>
         <source></source>
         <translation>Frühere Versionen</translation>
     </message>
+    <message id="kVersionsUnreadableReason">
+        <source></source>
+        <translation>Was in „%1“ schon von dieser Datei aufgehoben ist, lässt sich zurzeit nicht lesen.</translation>
+    </message>
     <message id="kVersionTime">
         <source></source>
         <translation>Zuletzt geändert</translation>

@@ -1859,6 +1859,10 @@ These go on from number: %3</translation>
         <source></source>
         <translation>Earlier Versions</translation>
     </message>
+    <message id="kVersionsUnreadableReason">
+        <source></source>
+        <translation>What “%1” already keeps of this file cannot be read at the moment.</translation>
+    </message>
     <message id="kVersionTime">
         <source></source>
         <translation>Last Changed</translation>

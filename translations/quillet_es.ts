@@ -1859,6 +1859,10 @@ Estos continúan a partir del número: %3</translation>
         <source></source>
         <translation>Versiones anteriores</translation>
     </message>
+    <message id="kVersionsUnreadableReason">
+        <source></source>
+        <translation>Lo que ya se conserva de este archivo en «%1» no se puede leer en este momento.</translation>
+    </message>
     <message id="kVersionTime">
         <source></source>
         <translation>Última modificación</translation>

@@ -1859,6 +1859,10 @@ Ces dernières suivent à partir du numéro : %3</translation>
         <source></source>
         <translation>Versions antérieures</translation>
     </message>
+    <message id="kVersionsUnreadableReason">
+        <source></source>
+        <translation>Ce qui est déjà conservé de ce fichier dans « %1 » ne peut pas être lu pour le moment.</translation>
+    </message>
     <message id="kVersionTime">
         <source></source>
         <translation>Dernière modification</translation>

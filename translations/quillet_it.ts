@@ -1859,6 +1859,10 @@ Questi proseguono dal numero: %3</translation>
         <source></source>
         <translation>Versioni precedenti</translation>
     </message>
+    <message id="kVersionsUnreadableReason">
+        <source></source>
+        <translation>Quanto già conservato di questo file in “%1” al momento non può essere letto.</translation>
+    </message>
     <message id="kVersionTime">
         <source></source>
         <translation>Ultima modifica</translation>

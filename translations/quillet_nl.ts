@@ -1859,6 +1859,10 @@ Deze gaan verder vanaf nummer: %3</translation>
         <source></source>
         <translation>Eerdere versies</translation>
     </message>
+    <message id="kVersionsUnreadableReason">
+        <source></source>
+        <translation>Wat in “%1” al van dit bestand wordt bewaard, kan op dit moment niet worden gelezen.</translation>
+    </message>
     <message id="kVersionTime">
         <source></source>
         <translation>Laatst gewijzigd</translation>

@@ -1909,6 +1909,10 @@ Te następują od numeru: %3</translation>
         <source></source>
         <translation>Wcześniejsze wersje</translation>
     </message>
+    <message id="kVersionsUnreadableReason">
+        <source></source>
+        <translation>Tego, co w „%1” już zachowano z tego pliku, nie można w tej chwili odczytać.</translation>
+    </message>
     <message id="kVersionTime">
         <source></source>
         <translation>Ostatnia zmiana</translation>

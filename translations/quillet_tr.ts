@@ -1809,6 +1809,10 @@ Bunların devam ettiği numara: %3</translation>
         <source></source>
         <translation>Önceki Sürümler</translation>
     </message>
+    <message id="kVersionsUnreadableReason">
+        <source></source>
+        <translation>Bu dosyadan “%1” içinde saklanmış olanlar şu anda okunamıyor.</translation>
+    </message>
     <message id="kVersionTime">
         <source></source>
         <translation>Son Değişiklik</translation>

@@ -150,6 +150,17 @@ bool samePlace(const QString &a, const QString &b)
 #endif
 }
 
+bool isOtherSpelling(const QString &a, const QString &b)
+{
+    if (a.compare(b, Qt::CaseInsensitive) != 0 || !samePlace(a, b))
+        return false;
+#ifdef Q_OS_WIN
+    return true;
+#else
+    return differInCaseOnly(a, b);
+#endif
+}
+
 std::optional<quint64> deviceOf(const QString &path)
 {
 #ifdef Q_OS_WIN

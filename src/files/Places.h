@@ -22,6 +22,9 @@ namespace quillet {
 /// hard links included), by where they would be of those that are not. Names that differ in case
 /// only are one where their folder takes them for one. An empty path leads nowhere.
 [[nodiscard]] bool samePlace(const QString &a, const QString &b);
+/// Whether two paths that differ in case only are spellings of one file. The disk is not asked
+/// about others, and a hard link is another file here.
+[[nodiscard]] bool isOtherSpelling(const QString &a, const QString &b);
 /// A number of the device that the file's folder lies on, which is another one as soon as the
 /// device is gone; none when there is no such folder or the system does not tell.
 [[nodiscard]] std::optional<quint64> deviceOf(const QString &path);

@@ -19,15 +19,15 @@ constexpr QLatin1String timeKey("time");
 constexpr QLatin1String firstKey("first");
 constexpr qsizetype digestDigits = 64;
 constexpr qint64 largestSize = qint64{1} << 40; ///< of what a damaged file tells
+constexpr qsizetype mostVersions = 100;         ///< in one that is no damaged one
 
 std::optional<KeptVersion> versionOf(const QJsonValue &value)
 {
     const QJsonObject object = value.toObject();
-    const QString digest = object[digestKey].toString();
-    if (!isHexNumber(digest, digestDigits)) // as it is a part of a file's name
+    const QByteArray digest = object[digestKey].toString().toLatin1();
+    if (!VersionHistory::isDigest(digest))
         return {};
-    return KeptVersion{digest.toLatin1(),
-                       std::clamp<qint64>(object[sizeKey].toInteger(), 0, largestSize),
+    return KeptVersion{digest, std::clamp<qint64>(object[sizeKey].toInteger(), 0, largestSize),
                        QDateTime::fromString(object[timeKey].toString(), Qt::ISODateWithMs),
                        object[firstKey].toBool()};
 }
@@ -46,11 +46,19 @@ QJsonObject objectOf(const KeptVersion &version)
 
 VersionHistory::VersionHistory(const QString &place) : m_object{{placeKey, place}} {}
 
+/// It is a part of a file's name, so nothing else may stand there.
+bool VersionHistory::isDigest(const QByteArray &text)
+{
+    return isHexNumber(QString::fromLatin1(text), digestDigits);
+}
+
 std::optional<VersionHistory> VersionHistory::fromJSON(const QByteArray &json)
 {
     VersionHistory history;
     history.m_object = QJsonDocument::fromJson(json).object();
-    if (history.place().isEmpty() || !history.m_object[versionsKey].isArray())
+    const QJsonValue versions = history.m_object[versionsKey];
+    if (history.place().isEmpty() || !versions.isArray() ||
+        versions.toArray().size() > mostVersions)
         return {};
     return history;
 }
@@ -75,6 +83,13 @@ std::vector<KeptVersion> VersionHistory::versions() const
             versions.push_back(*version);
     }
     return versions;
+}
+
+bool VersionHistory::isWhole() const
+{
+    const QJsonArray array = m_object[versionsKey].toArray();
+    return std::all_of(array.begin(), array.end(),
+                       [](const QJsonValue &value) { return versionOf(value).has_value(); });
 }
 
 bool VersionHistory::add(const KeptVersion &version)

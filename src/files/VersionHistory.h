@@ -25,7 +25,9 @@ class VersionHistory
 {
 public:
     explicit VersionHistory(const QString &place);
-    /// None when that is no history at all.
+    /// Whether that could be the digest of a content.
+    [[nodiscard]] static bool isDigest(const QByteArray &text);
+    /// None when that is no history at all, or has more versions than any.
     [[nodiscard]] static std::optional<VersionHistory> fromJSON(const QByteArray &json);
     [[nodiscard]] QByteArray toJSON() const;
 
@@ -33,6 +35,8 @@ public:
     [[nodiscard]] QString place() const;
     /// Each content once, the oldest first.
     [[nodiscard]] std::vector<KeptVersion> versions() const;
+    /// Whether every version in it is understood.
+    [[nodiscard]] bool isWhole() const;
     /// Adds a version as the newest one, and as the first when there is none. The same content from
     /// before goes, but the first stays as it is. Returns whether anything changed.
     bool add(const KeptVersion &version);

@@ -7,14 +7,15 @@
 #include "files/Places.h"
 
 #include <QCryptographicHash>
-#include <QHash>
 #include <QLockFile>
+#include <QSet>
 #include <QStandardPaths>
 
 #include <algorithm>
 #include <chrono>
 #include <filesystem>
-#include <optional>
+#include <new>
+#include <numeric>
 #include <utility>
 
 namespace fs = std::filesystem;
@@ -24,6 +25,7 @@ namespace quillet {
 namespace {
 
 constexpr std::chrono::milliseconds longestWait(2000); ///< for another program to be done
+constexpr qint64 largestHistory = 1 << 20;             ///< in bytes; a usual one has a few thousand
 
 QByteArray digestOf(const QByteArray &bytes)
 {
@@ -46,6 +48,17 @@ struct VersionStore::HistoryFile
     }
 };
 
+/// What the folder of histories tells.
+struct VersionStore::Histories
+{
+    HistoryFiles files;
+    QStringList unread;   ///< paths of files that cannot be read at this moment
+    bool isListed = true; ///< whether the folder has told all its files
+
+    /// Only then is known what no path has.
+    [[nodiscard]] bool isWhole() const { return isListed && unread.isEmpty(); }
+};
+
 VersionStore::VersionStore(QString folder, FileOperations &operations, qint64 limit)
     : m_folder(std::move(folder)), m_operations(operations), m_limit(limit)
 {
@@ -62,26 +75,38 @@ QString VersionStore::contentPath(const QByteArray &digest) const
     return m_folder + QStringLiteral("/contents/") + QString::fromLatin1(digest);
 }
 
-VersionStore::HistoryFiles VersionStore::readHistories() const
+/// Without an ending; a second one of the same place has a number behind it.
+QString VersionStore::historyName(const QString &place) const
 {
-    HistoryFiles files;
+    return m_folder + QStringLiteral("/histories/") +
+           QString::fromLatin1(digestOf(bytesOfPath(place)).first(16));
+}
+
+VersionStore::Histories VersionStore::readHistories() const
+{
+    Histories histories;
     std::error_code code;
     const fs::path folder = nativePath(m_folder + QStringLiteral("/histories"));
     for (fs::directory_iterator each(folder, code), end; !code && each != end;
          each.increment(code)) {
         HistoryFile file;
         file.path = pathFromNative(each->path());
-        Error unused;
-        if (!file.path.endsWith(QLatin1String(".json")) ||
-            !readFile(QUrl::fromLocalFile(file.path), file.bytes, unused))
+        if (!file.path.endsWith(QLatin1String(".json")))
             continue;
+        Error unused;
+        if (sizeOf(file.path) > largestHistory ||
+            !readFile(QUrl::fromLocalFile(file.path), file.bytes, unused)) {
+            histories.unread.append(file.path);
+            continue;
+        }
         file.history = VersionHistory::fromJSON(file.bytes);
-        files.push_back(std::move(file));
+        histories.files.push_back(std::move(file));
     }
-    return files;
+    histories.isListed = !code;
+    return histories;
 }
 
-/// The disk is asked about other names of the file only when it has none by its own.
+/// The disk is asked about no file that is called otherwise: it may lie where nothing answers.
 VersionStore::HistoryFiles::iterator VersionStore::historyOf(const QString &place,
                                                              HistoryFiles &files)
 {
@@ -93,16 +118,37 @@ VersionStore::HistoryFiles::iterator VersionStore::historyOf(const QString &plac
     const auto found = find([&place](const QString &each) { return each == place; });
     return found != files.end()
                ? found
-               : find([&place](const QString &each) { return samePlace(each, place); });
+               : find([&place](const QString &each) { return isOtherSpelling(each, place); });
 }
 
+/// While a history is not understood, a second one is begun; both are the file's when it is again.
 std::vector<KeptVersion> VersionStore::versionsOf(const QString &path) const
 {
-    HistoryFiles files = readHistories();
+    HistoryFiles files = readHistories().files;
     const auto own = historyOf(placeOf(path), files);
     if (own == files.end())
         return {};
     std::vector<KeptVersion> versions = own->history->versions();
+    const std::size_t count = versions.size();
+    for (auto other = own + 1; other != files.end(); ++other) {
+        if (!other->history || other->history->place() != own->history->place())
+            continue;
+        for (const KeptVersion &version : other->history->versions()) {
+            const auto isSame = [&version](const auto &each) {
+                return each.digest == version.digest;
+            };
+            const auto same = std::find_if(versions.begin(), versions.end(), isSame);
+            if (same == versions.end())
+                versions.push_back(version);
+            else
+                same->isFirst = same->isFirst || version.isFirst;
+        }
+    }
+    if (versions.size() > count) {
+        std::stable_sort(versions.begin(), versions.end(), [](const auto &a, const auto &b) {
+            return a.time.toMSecsSinceEpoch() < b.time.toMSecsSinceEpoch();
+        });
+    }
     std::reverse(versions.begin(), versions.end());
     return versions;
 }
@@ -130,6 +176,7 @@ bool VersionStore::keep(const QString &path, const QByteArray &bytes, Error &err
         return false;
     }
     QLockFile lock(m_folder + QStringLiteral("/lock"));
+    lock.setStaleLockTime(0); // a slow disk takes nobody's lock away
     // Where there can be no lock, what is written next says better why, if it matters.
     if (!lock.tryLock(static_cast<int>(longestWait.count())) &&
         lock.error() == QLockFile::LockFailedError) {
@@ -137,23 +184,36 @@ bool VersionStore::keep(const QString &path, const QByteArray &bytes, Error &err
                  qtTrId("kVersionsLockedReason").arg(readable(m_folder)), m_folder};
         return false;
     }
-    return keepLocked(path, bytes, error);
+    try {
+        return keepLocked(path, bytes, error);
+    } catch (const std::bad_alloc &) {
+        error = {QStringLiteral("VersionStore"), 5, qtTrId("kNoMemoryReason"), m_folder};
+        return false;
+    }
 }
 
 bool VersionStore::keepLocked(const QString &path, const QByteArray &bytes, Error &error)
 {
     const QString place = placeOf(path);
-    HistoryFiles files = readHistories();
-    auto own = historyOf(place, files);
-    if (own == files.end()) {
+    Histories histories = readHistories();
+    auto own = historyOf(place, histories.files);
+    if (own == histories.files.end()) {
+        const QString name = historyName(place);
+        const bool mayHaveOne =
+            !histories.isListed ||
+            std::any_of(histories.unread.begin(), histories.unread.end(),
+                        [&name](const QString &each) { return each.startsWith(name); });
+        if (mayHaveOne) { // a new one would begin with a wrong first version
+            error = {QStringLiteral("VersionStore"), 4,
+                     qtTrId("kVersionsUnreadableReason").arg(readable(m_folder)), m_folder};
+            return false;
+        }
         // A damaged one may have the name.
-        const QString name = m_folder + QStringLiteral("/histories/") +
-                             QString::fromLatin1(digestOf(bytesOfPath(place)).first(16));
         HistoryFile made{name + QLatin1String(".json"), {}, VersionHistory(place)};
         for (int i = 2; isThere(made.path); ++i)
             made.path = QStringLiteral("%1-%2.json").arg(name).arg(i);
-        files.push_back(std::move(made));
-        own = files.end() - 1;
+        histories.files.push_back(std::move(made));
+        own = histories.files.end() - 1;
     }
 
     const KeptVersion version{.digest = digestOf(bytes),
@@ -167,7 +227,8 @@ bool VersionStore::keepLocked(const QString &path, const QByteArray &bytes, Erro
         return true;
     if (!write(own->path, own->history->toJSON(), error))
         return false;
-    makeRoom(files, version.digest);
+    if (histories.isWhole()) // else somebody else's may be wanted
+        makeRoom(histories.files, version.digest);
     return true;
 }
 
@@ -191,15 +252,60 @@ bool VersionStore::drop(HistoryFiles &files, std::size_t from, const QByteArray 
     std::error_code code;
     if (std::none_of(files.begin(), files.end(), mentions))
         fs::remove(nativePath(contentPath(digest)), code);
-    return true;
+    return !code;
+}
+
+/// What the contents really take, for a history may tell anything.
+std::optional<VersionStore::Sizes> VersionStore::contentSizes() const
+{
+    Sizes sizes;
+    std::error_code code;
+    const fs::path folder = nativePath(m_folder + QStringLiteral("/contents"));
+    for (fs::directory_iterator each(folder, code), end; !code && each != end;
+         each.increment(code)) {
+        const QString path = pathFromNative(each->path());
+        const QByteArray name = pathFromNative(each->path().filename()).toLatin1();
+        if (VersionHistory::isDigest(name))
+            sizes.insert(name, sizeOf(path));
+    }
+    return code ? std::nullopt : std::optional(sizes);
+}
+
+/// Takes away the contents that no history tells of; a crash before it was written leaves one. They
+/// stay as long as any history is not what was once written, for it may have told of them.
+void VersionStore::removeUnwanted(const HistoryFiles &files, const QByteArray &justKept,
+                                  Sizes &sizes)
+{
+    QSet<QByteArray> wanted{justKept};
+    for (const HistoryFile &file : files) {
+        if (!file.history || !file.history->isWhole())
+            return;
+        for (const KeptVersion &version : file.history->versions())
+            wanted.insert(version.digest);
+    }
+    const auto isThereStill = [&sizes](const QByteArray &each) { return sizes.contains(each); };
+    if (!std::all_of(wanted.begin(), wanted.end(), isThereStill))
+        return;
+    const QByteArrayList all = sizes.keys();
+    for (const QByteArray &digest : all) {
+        std::error_code code;
+        if (!wanted.contains(digest) && fs::remove(nativePath(contentPath(digest)), code))
+            sizes.remove(digest);
+    }
 }
 
 /// What cannot be dropped now, a later save drops.
 void VersionStore::makeRoom(HistoryFiles &files, const QByteArray &justKept)
 {
+    std::optional<Sizes> sizes = contentSizes();
+    if (!sizes)
+        return;
+    const auto isTooMuch = [this, &sizes] {
+        return std::accumulate(sizes->cbegin(), sizes->cend(), qint64{0}) > m_limit;
+    };
+    if (isTooMuch())
+        removeUnwanted(files, justKept, *sizes);
     for (bool isDone = false; !isDone;) {
-        qint64 bytes = 0;
-        QHash<QByteArray, qint64> sizes;
         std::optional<std::size_t> longest;
         std::size_t mostVersions = 0;
         KeptVersion oldest; // of the longest that has one to drop
@@ -207,8 +313,6 @@ void VersionStore::makeRoom(HistoryFiles &files, const QByteArray &justKept)
             if (!files[i].history)
                 continue;
             const std::vector<KeptVersion> versions = files[i].history->versions();
-            for (const KeptVersion &version : versions)
-                sizes.insert(version.digest, version.size);
             const auto droppable =
                 std::find_if(versions.begin(), versions.end(), [&](const KeptVersion &version) {
                     return !version.isFirst && version.digest != justKept;
@@ -224,10 +328,10 @@ void VersionStore::makeRoom(HistoryFiles &files, const QByteArray &justKept)
             mostVersions = versions.size();
             oldest = *droppable;
         }
-        for (const qint64 size : std::as_const(sizes))
-            bytes += size;
-        const bool isTooMuch = bytes > m_limit || mostVersions > 1 + mostLater;
-        isDone = !longest || !isTooMuch || !drop(files, *longest, oldest.digest);
+        isDone = !longest || (mostVersions <= 1 + mostLater && !isTooMuch()) ||
+                 !drop(files, *longest, oldest.digest);
+        if (!isDone && !isThere(contentPath(oldest.digest)))
+            sizes->remove(oldest.digest);
     }
 }
 

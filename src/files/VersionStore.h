@@ -3,8 +3,10 @@
 #include "files/Error.h"
 #include "files/VersionHistory.h"
 
+#include <QHash>
 #include <QString>
 
+#include <optional>
 #include <vector>
 
 namespace quillet {
@@ -15,7 +17,9 @@ class FileOperations;
 /// the first content ever for good, and the last ten; equal contents once. What all take together
 /// is bounded: the oldest of the longest histories go first, never a first one, nor the one that
 /// was just kept. Two programs may use one folder. What is found damaged there is passed over and
-/// left alone. Owns no file but those in its folder, which nobody else can read:
+/// left alone, and while something cannot be read nothing is dropped. Of other files than the one
+/// that is asked about it looks only at the names. Owns no file but those in its folder, which
+/// nobody else can read:
 ///   contents/<digest>       the bytes
 ///   histories/<name>.json   which of them a path has had (VersionHistory)
 class VersionStore
@@ -40,14 +44,19 @@ public:
 
 private:
     struct HistoryFile;
+    struct Histories;
     using HistoryFiles = std::vector<HistoryFile>;
+    using Sizes = QHash<QByteArray, qint64>; ///< of contents, in bytes
 
-    [[nodiscard]] HistoryFiles readHistories() const;
+    [[nodiscard]] QString historyName(const QString &place) const;
+    [[nodiscard]] Histories readHistories() const;
     [[nodiscard]] static HistoryFiles::iterator historyOf(const QString &place,
                                                           HistoryFiles &files);
     [[nodiscard]] QString contentPath(const QByteArray &digest) const;
     [[nodiscard]] bool write(const QString &path, const QByteArray &bytes, Error &error);
     [[nodiscard]] bool keepLocked(const QString &path, const QByteArray &bytes, Error &error);
+    [[nodiscard]] std::optional<Sizes> contentSizes() const;
+    void removeUnwanted(const HistoryFiles &files, const QByteArray &justKept, Sizes &sizes);
     void makeRoom(HistoryFiles &files, const QByteArray &justKept);
     [[nodiscard]] bool drop(HistoryFiles &files, std::size_t from, const QByteArray &digest);
 

@@ -1,4 +1,5 @@
 #include "files/VersionStore.h"
+#include "files/FileNames.h"
 #include "files/FileOperations.h"
 #include "files/Places.h"
 #include "testing/TestFiles.h"
@@ -9,6 +10,8 @@
 #include <QLockFile>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <filesystem>
 
 using namespace quillet;
 using namespace quillet::testing;
@@ -112,9 +115,15 @@ private slots:
         const auto tens = [](char letter) { return QByteArray(10, letter); };
         for (const char letter : {'a', 'b', 'c'})
             keep(store, u"long.tll"_s, tens(letter));
+        QByteArray history = contentOf(historyPath());
+        QVERIFY(history.contains("\"size\": 10"));
+        writeFile(historyPath(), history.replace("\"size\": 10", "\"size\": 910"));
+        const QString ofNobody = m_folder->filePath(u"store/contents/"_s + QString(64, u'a'));
+        writeFile(ofNobody, QByteArray(100, 'n'));
         for (const char letter : {'x', 'b', 'y'}) // "b" takes no further room
             keep(store, u"short.tll"_s, tens(letter));
         QCOMPARE(firstLetters(store, u"long.tll"_s), u"c b a*"_s);
+        QVERIFY(!QFile::exists(ofNobody));
         keep(store, u"long.tll"_s, tens('d'));
         keep(store, u"long.tll"_s, tens('e'));
         QCOMPARE(firstLetters(store, u"long.tll"_s), u"e d a*"_s);
@@ -181,8 +190,8 @@ private slots:
         QFETCH(QString, kept);
         VersionStore store = makeStore();
         keep(store, u"a.tll"_s, "old");
-        const QString history =
-            m_folder->filePath(u"store/histories/"_s) + files(u"histories"_s).value(0);
+        const QString history = historyPath();
+        const QByteArray whole = contentOf(history);
         damaged.replace("%1", placeOf(path(u"a.tll"_s)).toUtf8());
         writeFile(history, damaged);
         keep(store, u"a.tll"_s, "new");
@@ -190,8 +199,12 @@ private slots:
         QCOMPARE(files(u"contents"_s).size(), 2); // what it told of may be wanted back
         for (const char *part : {"\"more\": 1", "../../x"})
             QCOMPARE(contentOf(history).contains(part), damaged.contains(part));
-        if (kept == u"new*"_s)
-            QCOMPARE(contentOf(history), damaged);
+        if (kept != u"new*"_s)
+            return;
+        QCOMPARE(contentOf(history), damaged);
+        writeFile(history, whole); // from a backup
+        for (const QString &each : {u"old*"_s, u"new*"_s})
+            QVERIFY(contents(store, u"a.tll"_s).contains(each));
     }
 
     void damagedContentIsTold()
@@ -214,7 +227,27 @@ private slots:
         QVERIFY(QFile::link(path(u"a.tll"_s), path(u"link.tll"_s)));
         QCOMPARE(contents(store, u"link.tll"_s), u"old*"_s);
         QCOMPARE(contents(store, u"./a.tll"_s), u"old*"_s);
-        QCOMPARE(contents(store, u"b.tll"_s), QString());
+        for (const QString &other : {u"b.tll"_s, u"A.tll"_s}) { // which is no name of the same file
+            std::filesystem::create_hard_link(nativePath(path(u"a.tll"_s)),
+                                              nativePath(path(other)));
+            QCOMPARE(contents(store, other), QString());
+        }
+    }
+
+    void nothingIsDroppedThatAHistoryMayTellOf()
+    {
+        VersionStore store = makeStore(25);
+        keep(store, u"a.tll"_s, "0123456789");
+        const QString history = historyPath(), aside = m_folder->filePath(u"aside"_s);
+        for (const char *bytes : {"first of b", "0123456789"})
+            keep(store, u"b.tll"_s, bytes);
+        QVERIFY(QFile::rename(history, aside) && QFile::link(history, history));
+        keep(store, u"b.tll"_s, "third of b");
+        Error error;
+        QVERIFY(!store.keep(path(u"a.tll"_s), "new", error)); // it would be a first one
+        QCOMPARE(error.localizedDescription, u"kVersionsUnreadableReason"_s);
+        QVERIFY(QFile::remove(history) && QFile::rename(aside, history));
+        QCOMPARE(contents(store, u"a.tll"_s, 10), u"0123456789*"_s);
     }
 
     void nobodyElseReadsTheStore()
@@ -276,6 +309,11 @@ private:
     QString firstLetters(const VersionStore &store, const QString &name) const
     {
         return contents(store, name, 1);
+    }
+    /// Of the only one.
+    QString historyPath() const
+    {
+        return m_folder->filePath(u"store/histories/"_s) + files(u"histories"_s).value(0);
     }
     QStringList files(const QString &folder) const
     {

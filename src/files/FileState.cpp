@@ -59,6 +59,14 @@ FileState::Change FileState::contentChangeSince(const FileState &earlier) const
     return m_obstacle.isEmpty() ? Change::Content : Change::Unreadable;
 }
 
+FileState FileState::movedTo(const FileState &other) const
+{
+    FileState moved = *this;
+    moved.m_device = other.m_device;
+    moved.m_isRemembered = other.m_isRemembered;
+    return moved;
+}
+
 bool FileState::hasSameContent(const FileState &other) const
 {
     return m_exists == other.m_exists && m_obstacle == other.m_obstacle && m_bytes == other.m_bytes;

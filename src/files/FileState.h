@@ -33,8 +33,12 @@ public:
     [[nodiscard]] Change changeSince(const FileState &earlier) const;
     /// The same, wherever the device has gone.
     [[nodiscard]] Change contentChangeSince(const FileState &earlier) const;
+    /// The same content, as if it lay on the device of the other.
+    [[nodiscard]] FileState movedTo(const FileState &other) const;
     /// Whether both are files with the same bytes, or the same obstacle, or nothing.
     [[nodiscard]] bool hasSameContent(const FileState &other) const;
+    /// Whether this, which is there now, is on the device that the other was known to be on: one
+    /// that is remembered was on any. Not the same asked the other way round.
     [[nodiscard]] bool isOnDeviceOf(const FileState &other) const;
     /// Whether its disk is there now, with or without the file and its folder. Asks the disk.
     [[nodiscard]] bool isItsDiskThere() const;

@@ -6,12 +6,13 @@
 #include <QThread>
 
 #include <chrono>
+#include <utility>
 
 namespace quillet {
 
 namespace {
 
-/// A look that takes longer waits for a disk that does not answer.
+/// At the end of the program; a look that takes longer waits for a disk that does not answer.
 constexpr std::chrono::milliseconds longestWait{200};
 
 } // namespace
@@ -20,17 +21,27 @@ FileWatch::FileWatch(QObject *parent) : QObject(parent) {}
 
 FileWatch::~FileWatch()
 {
-    if (!m_thread)
+    letGo();
+}
+
+/// The thread ends when the disk answers, which may be never.
+void FileWatch::letGo()
+{
+    QThread *thread = std::exchange(m_thread, nullptr);
+    if (!thread)
         return;
-    m_thread->quit();
-    if (m_thread->wait(QDeadlineTimer(longestWait)))
-        delete m_thread;
-    else // until the disk answers, which may be never
-        connect(m_thread, &QThread::finished, m_thread, &QObject::deleteLater);
+    connect(thread, &QThread::finished, thread, &QObject::deleteLater);
+    thread->quit();
+    // Where no loop is left that would delete it, the program is about to end.
+    if (QThread::currentThread()->loopLevel() == 0 && thread->wait(QDeadlineTimer(longestWait)))
+        delete thread;
 }
 
 void FileWatch::watch(const FileState &known)
 {
+    // Looks that wait for a disk would never come to another place.
+    if (m_known && m_known->path() != known.path())
+        letGo();
     if (!m_thread) {
         m_thread = new QThread;
         m_thread->setObjectName(QStringLiteral("FileWatch"));
@@ -56,15 +67,12 @@ void FileWatch::compare(const FileState &state, quint64 number)
         return;
     // A disk that was taken out may come back as another device. When nothing was there in between,
     // the file is told by its content alone.
-    m_wasAway = m_wasAway || !state.exists();
+    if (m_wasAway && state.exists())
+        m_known = m_known->movedTo(state);
+    m_wasAway = !state.exists();
     const FileState::Change news =
         m_wasAway ? state.contentChangeSince(*m_known) : state.changeSince(*m_known);
-    if (news != FileState::Change::None)
-        return tell(news, state);
-    if (m_wasAway)
-        m_known = state;
-    m_wasAway = false;
-    tell(news, {});
+    tell(news, news == FileState::Change::None ? std::nullopt : std::optional(state));
 }
 
 void FileWatch::tell(FileState::Change news, const std::optional<FileState> &found)

@@ -14,7 +14,8 @@ class FileLooks;
 
 /// Tells within two seconds when a file is no longer as it is known, whoever has changed, replaced
 /// or removed it, and when it is so again; contents count, not times. A file that is written in
-/// pieces is told of when that is over. Never waits for the disk. Owned by the file's document,
+/// pieces is told of when that is over. Never waits for the disk, not even for one that never
+/// answers again. Owned by the file's document,
 /// which says what it knows after every reading and writing, and so never hears of its own.
 class FileWatch : public QObject
 {
@@ -31,7 +32,7 @@ public:
     [[nodiscard]] FileState::Change news() const { return m_news; }
     /// What is there instead; none without news.
     [[nodiscard]] const std::optional<FileState> &found() const { return m_found; }
-    /// A file that was gone may come back on another device.
+    /// A file that was gone may come back on another device, changed or not.
     [[nodiscard]] const std::optional<FileState> &known() const { return m_known; }
 
 signals:
@@ -39,11 +40,12 @@ signals:
     void newsChanged();
 
 private:
+    void letGo();
     void compare(const FileState &state, quint64 number);
     void tell(FileState::Change news, const std::optional<FileState> &found);
 
     QThread *m_thread = nullptr;
-    FileLooks *m_looks = nullptr; ///< lives in the thread
+    FileLooks *m_looks = nullptr; ///< lives in the thread, and looks at the path of the known state
     quint64 m_number = 0;         ///< of the known state; what was found for an earlier is no news
     std::optional<FileState> m_known;
     std::optional<FileState> m_found;

@@ -1,6 +1,7 @@
 #include "BytesDocument.h"
 
 #include "files/FileOperations.h"
+#include "files/FileWatch.h"
 #include "files/Places.h"
 #include "testing/PresetPrompts.h"
 #include "testing/TestMain.h"
@@ -9,12 +10,15 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include <cerrno>
+#include <csignal>
 #include <cstring>
 #include <functional>
+#include <new>
 #include <optional>
 #include <utility>
 
@@ -107,6 +111,11 @@ public:
             QProcess::execute(QStringLiteral("fusermount"),
                               {QStringLiteral("-uz"), m_folder.path()});
         m_driver.waitForFinished();
+    }
+    /// While it hangs, whoever looks at it waits.
+    void hang(bool doesHang)
+    {
+        ::kill(static_cast<pid_t>(m_driver.processId()), doesHang ? SIGSTOP : SIGCONT);
     }
     [[nodiscard]] bool isIn() const { return deviceOf(filePath("x")) != deviceOf(m_image); }
     [[nodiscard]] QString filePath(const char *name) const
@@ -249,8 +258,37 @@ private slots:
         QCOMPARE(contentOf(path), QByteArray("newer"));
     }
 
+    void diskThatHangsHoldsUpNoOtherPlace()
+    {
+        FatStick stick;
+        if (!stick.isIn())
+            QSKIP("no FAT file system can be made and mounted here");
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("list.tll"));
+        writeFile(path, "old");
+        writeFile(stick.filePath("list.tll"), "old");
+        FileWatch watch, other;
+        watch.watch(FileState::at(stick.filePath("list.tll")));
+        stick.hang(true);
+        const auto goOn = qScopeGuard([&stick] { stick.hang(false); });
+        for (const char *known : {"1", "2"}) { // meanwhile it has begun to wait for the stick
+            other.watch(FileState::of(path, known));
+            QTRY_COMPARE_WITH_TIMEOUT(other.news(), FileState::Change::Content, 2000);
+        }
+        watch.watch(FileState::of(path, "1"));
+        QTRY_COMPARE_WITH_TIMEOUT(watch.news(), FileState::Change::Content, 2000);
+    }
+
+    void diskThatComesBackIsKnown_data()
+    {
+        QTest::addColumn<QByteArray>("content"); // of the file on it
+        QTest::newRow("as it was") << QByteArray("old");
+        QTest::newRow("changed") << QByteArray("theirs");
+    }
     void diskThatComesBackIsKnown()
     {
+        QFETCH(QByteArray, content);
+        const bool isChanged = content != "old";
         SmallDisk disk("size=64k");
         if (!disk.isMounted())
             QSKIP(disk.reason());
@@ -266,11 +304,16 @@ private slots:
                 QFileInfo(path).path());
         const SmallDisk other("size=64k"); // has the number of the device now
         disk.putIn();
-        writeFile(path, "old");
-        QTRY_COMPARE_WITH_TIMEOUT(m_document->fileNews(), FileState::Change::None, 2000);
+        writeFile(path, content);
+        QTRY_COMPARE_WITH_TIMEOUT(m_document->fileNews(),
+                                  isChanged ? FileState::Change::Content : FileState::Change::None,
+                                  2000);
+        if (isChanged)
+            m_prompts->answerAlert(QStringLiteral("kSaveAnyway")); // as the bar says it
         QVERIFY(save());
         QCOMPARE(contentOf(path), QByteArray("new"));
-        QVERIFY(m_prompts->isSettled() && m_prompts->alerts().empty());
+        QVERIFY(m_prompts->isSettled());
+        QCOMPARE(m_prompts->alerts().empty(), !isChanged);
     }
 #endif
 

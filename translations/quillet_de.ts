@@ -1799,6 +1799,14 @@ Diese folgen ab Nummer: %3</translation>
         <source></source>
         <translation>Es lässt sich nicht sagen, ob ein anderes Programm die Datei geändert hat. Wenn Sie jetzt speichern, geht verloren, was dort ist.</translation>
     </message>
+    <message id="kUnsureMessage">
+        <source></source>
+        <translation>„%1“ wurde geschrieben, aber der Datenträger bestätigt nicht, dass es dabei bleibt.</translation>
+    </message>
+    <message id="kUnsureText">
+        <source></source>
+        <translation>Die Liste gilt weiter als geändert. Speichern Sie sie noch einmal, oder speichern Sie eine Kopie auf einem anderen Datenträger.</translation>
+    </message>
     <message id="kUntitled">
         <source></source>
         <translation>Unbenannt</translation>

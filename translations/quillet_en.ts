@@ -1799,6 +1799,14 @@ These go on from number: %3</translation>
         <source></source>
         <translation>There is no telling whether another program has changed the file. If you save now, what is there will be lost.</translation>
     </message>
+    <message id="kUnsureMessage">
+        <source></source>
+        <translation>“%1” was written, but the disk does not confirm that it will stay so.</translation>
+    </message>
+    <message id="kUnsureText">
+        <source></source>
+        <translation>The list stays marked as changed. Save it again, or save a copy on another disk.</translation>
+    </message>
     <message id="kUntitled">
         <source></source>
         <translation>Untitled</translation>

@@ -1799,6 +1799,14 @@ Estos continúan a partir del número: %3</translation>
         <source></source>
         <translation>No se puede saber si otro programa ha modificado el archivo. Si guarda ahora, se perderá lo que haya allí.</translation>
     </message>
+    <message id="kUnsureMessage">
+        <source></source>
+        <translation>«%1» se ha escrito, pero la unidad no confirma que vaya a quedar así.</translation>
+    </message>
+    <message id="kUnsureText">
+        <source></source>
+        <translation>La lista sigue marcada como modificada. Guárdela de nuevo o guarde una copia en otra unidad.</translation>
+    </message>
     <message id="kUntitled">
         <source></source>
         <translation>Sin título</translation>

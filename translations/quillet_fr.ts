@@ -1799,6 +1799,14 @@ Ces dernières suivent à partir du numéro : %3</translation>
         <source></source>
         <translation>Impossible de savoir si un autre programme a modifié le fichier. Si vous enregistrez maintenant, ce qui s’y trouve sera perdu.</translation>
     </message>
+    <message id="kUnsureMessage">
+        <source></source>
+        <translation>« %1 » a été écrit, mais le disque ne confirme pas que cela restera ainsi.</translation>
+    </message>
+    <message id="kUnsureText">
+        <source></source>
+        <translation>La liste reste marquée comme modifiée. Enregistrez-la à nouveau, ou enregistrez une copie sur un autre disque.</translation>
+    </message>
     <message id="kUntitled">
         <source></source>
         <translation>Sans titre</translation>

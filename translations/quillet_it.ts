@@ -1799,6 +1799,14 @@ Questi proseguono dal numero: %3</translation>
         <source></source>
         <translation>Non si può sapere se un altro programma ha modificato il file. Se salvi ora, ciò che vi si trova andrà perso.</translation>
     </message>
+    <message id="kUnsureMessage">
+        <source></source>
+        <translation>“%1” è stato scritto, ma il disco non conferma che rimarrà così.</translation>
+    </message>
+    <message id="kUnsureText">
+        <source></source>
+        <translation>La lista resta contrassegnata come modificata. Salvala di nuovo, oppure salva una copia su un altro disco.</translation>
+    </message>
     <message id="kUntitled">
         <source></source>
         <translation>Senza titolo</translation>

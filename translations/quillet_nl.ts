@@ -1799,6 +1799,14 @@ Deze gaan verder vanaf nummer: %3</translation>
         <source></source>
         <translation>Het is niet te zeggen of een ander programma het bestand heeft gewijzigd. Als u nu opslaat, gaat verloren wat daar staat.</translation>
     </message>
+    <message id="kUnsureMessage">
+        <source></source>
+        <translation>“%1” is geschreven, maar de schijf bevestigt niet dat het zo blijft.</translation>
+    </message>
+    <message id="kUnsureText">
+        <source></source>
+        <translation>De lijst blijft als gewijzigd gemarkeerd. Sla haar nogmaals op, of sla een kopie op een andere schijf op.</translation>
+    </message>
     <message id="kUntitled">
         <source></source>
         <translation>Naamloos</translation>

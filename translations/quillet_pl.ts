@@ -1849,6 +1849,14 @@ Te następują od numeru: %3</translation>
         <source></source>
         <translation>Nie wiadomo, czy inny program zmienił plik. Jeśli teraz zapiszesz, to, co tam jest, zostanie utracone.</translation>
     </message>
+    <message id="kUnsureMessage">
+        <source></source>
+        <translation>Zapisano „%1”, ale dysk nie potwierdza, że tak pozostanie.</translation>
+    </message>
+    <message id="kUnsureText">
+        <source></source>
+        <translation>Lista pozostaje oznaczona jako zmieniona. Zapisz ją ponownie albo zapisz kopię na innym dysku.</translation>
+    </message>
     <message id="kUntitled">
         <source></source>
         <translation>Bez nazwy</translation>

@@ -1749,6 +1749,14 @@ Bunların devam ettiği numara: %3</translation>
         <source></source>
         <translation>Dosyayı başka bir programın değiştirip değiştirmediği bilinemiyor. Şimdi kaydederseniz orada bulunan kaybolur.</translation>
     </message>
+    <message id="kUnsureMessage">
+        <source></source>
+        <translation>“%1” yazıldı, ancak disk bunun böyle kalacağını onaylamıyor.</translation>
+    </message>
+    <message id="kUnsureText">
+        <source></source>
+        <translation>Liste değiştirilmiş olarak işaretli kalır. Yeniden kaydedin veya başka bir diske bir kopya kaydedin.</translation>
+    </message>
     <message id="kUntitled">
         <source></source>
         <translation>Adsız</translation>

@@ -43,6 +43,12 @@ bool isUnknown(int error)
 {
     return error == EINVAL || error == ENOTSUP || error == ENOSYS;
 }
+
+/// Whether that tells of a disk which has failed or is full; the errno.
+bool isOfTheDisk(int error)
+{
+    return error == EIO || error == ENOSPC || error == EDQUOT || error == EROFS;
+}
 #endif
 
 } // namespace
@@ -218,16 +224,19 @@ bool FileOperations::rename(const QString &from, const QString &to, QString &rea
     return !code;
 }
 
-void FileOperations::syncFolder(const QString &folder)
+bool FileOperations::syncFolder(const QString &folder, QString &reason)
 {
 #ifdef Q_OS_WIN
     Q_UNUSED(folder);
+    Q_UNUSED(reason);
+    return true;
 #else
     const int handle = ::open(bytesOfPath(folder).constData(), O_RDONLY | O_CLOEXEC);
-    if (handle < 0)
-        return;
-    ::fsync(handle);
-    ::close(handle);
+    const bool isOnDisk =
+        (handle >= 0 && ::fsync(handle) == 0) || !isOfTheDisk(errno) || succeeded(-1, reason);
+    if (handle >= 0)
+        ::close(handle);
+    return isOnDisk;
 #endif
 }
 

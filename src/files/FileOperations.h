@@ -39,8 +39,9 @@ public:
     virtual bool readBack(const QString &path, QByteArray &bytes, QString &reason);
     /// Puts one file in the place of another in a single step.
     virtual bool rename(const QString &from, const QString &to, QString &reason);
-    /// Brings a rename in that folder onto the disk, on file systems that can.
-    virtual void syncFolder(const QString &folder);
+    /// Brings a rename in that folder onto the disk, on file systems that can. False only when the
+    /// disk says that it is not there, not when nobody can tell.
+    virtual bool syncFolder(const QString &folder, QString &reason);
 };
 
 } // namespace quillet

@@ -82,7 +82,8 @@ bool FileReplacement::replace(const QString &path, const QByteArray &bytes, Erro
                    : failure(Failure::Target, qtTrId("kLinkCircleReason"));
     if (error.isEmpty())
         return true;
-    m_notKept.clear();
+    if (error.code != static_cast<int>(Failure::Folder))
+        m_notKept.clear();
     error.filePath = path;
     return false;
 }
@@ -129,7 +130,8 @@ Error FileReplacement::replaceTarget(const QString &target, const QByteArray &by
     if (!m_operations.rename(file.fileName(), target, reason))
         return failure(Failure::Rename, qtTrId("kReplaceFailedReason").arg(reason));
     removeNewFile.dismiss();
-    m_operations.syncFolder(info.path());
+    if (!m_operations.syncFolder(info.path(), reason))
+        return failure(Failure::Folder, qtTrId("kWriteFailedReason").arg(reason));
     return {};
 }
 

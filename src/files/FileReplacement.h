@@ -22,16 +22,27 @@ class FileOperations;
 ///   3. it is read back and compared, because a full disk may take a write without complaint;
 ///   4. it takes the old file's place in one step;
 ///   5. the folder is brought onto the disk (a crash before that may bring the old file back).
-/// Any failure removes the new file. A symbolic link stays; the file it points to is replaced. Of a
-/// file with several names only this one gets the new content, because there is no single step for
-/// all: writing the file itself would have moments in which neither content is whole, and would
-/// also change the backups of those who make them with hard links. What a crash left behind is
-/// removed by the next replacement in that folder that is a day later.
+/// Any failure up to step 4 removes the new file. A symbolic link stays; the file it points to is
+/// replaced. Of a file with several names only this one gets the new content, because there is no
+/// single step for all: writing the file itself would have moments in which neither content is
+/// whole, and would also change the backups of those who make them with hard links. What a crash
+/// left behind is removed by the next replacement in that folder that is a day later.
 class FileReplacement
 {
 public:
-    /// Which step failed: the code of the error.
-    enum class Failure { Target = 1, Create, Write, Permissions, Sync, Compare, Rename, Changed };
+    /// Which step failed: the code of the error. After Folder the new file is in its place, but a
+    /// crash may bring the old one back.
+    enum class Failure {
+        Target = 1,
+        Create,
+        Write,
+        Permissions,
+        Sync,
+        Compare,
+        Rename,
+        Changed,
+        Folder
+    };
     static constexpr char errorDomain[] = "FileReplacement";
 
     /// Who can read a file that was not there before.
@@ -47,7 +58,7 @@ public:
     [[nodiscard]] bool replace(const QString &path, const QByteArray &bytes, Error &error,
                                const Check &mayReplace = {});
     /// What the file has lost by the last replacement, which its owner should be told; empty when
-    /// that failed.
+    /// the old file is still there.
     [[nodiscard]] const std::vector<NotKept> &notKept() const { return m_notKept; }
 
     /// Removes the new files that crashes left in a folder, as far as they are that old.

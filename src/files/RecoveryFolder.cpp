@@ -73,7 +73,7 @@ std::unique_ptr<RecoveryFolder> RecoveryFolder::make(const QString &root,
             break;
         if (auto lock = FileLock::take(lockOf(path), obstacle)) {
             for (const QString &above : changed)
-                operations.syncFolder(above);
+                operations.syncFolder(above, obstacle.reason);
             return std::unique_ptr<RecoveryFolder>(
                 new RecoveryFolder(path, std::move(lock), operations));
         }
@@ -146,7 +146,8 @@ void RecoveryFolder::remove()
     removeFile(lockOf(m_path));
     m_lock.reset(); // where an open file cannot be removed, it goes now
     const bool isEmpty = removeFile(m_path);
-    m_operations.syncFolder(isEmpty ? QFileInfo(m_path).path() : m_path);
+    QString unused;
+    m_operations.syncFolder(isEmpty ? QFileInfo(m_path).path() : m_path, unused);
 }
 
 } // namespace quillet

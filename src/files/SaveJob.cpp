@@ -8,6 +8,17 @@
 
 namespace quillet {
 
+namespace {
+
+constexpr int mostAttempts = 3;
+
+Error noMemory(const QString &path)
+{
+    return {QStringLiteral("SaveJob"), 2, qtTrId("kNoMemoryReason"), path};
+}
+
+} // namespace
+
 void SaveJob::start(const QString &path, const std::optional<FileState> &expected,
                     std::shared_ptr<Client> client, FileOperations &operations)
 {
@@ -27,22 +38,33 @@ void SaveJob::make()
 {
     if (isRefused())
         return;
-    // Writing and rehearsing a large list may need more memory than there is; nothing has touched
-    // the disk by then.
+    // Writing and rehearsing a large list may need more memory than there is.
+    Error error;
     try {
-        Error error;
         const QByteArray bytes = m_client->makeBytes(error);
-        if (!error.isEmpty())
-            return finish(Outcome::Failed, error);
-        m_client->review(bytes,
-                         [job = shared_from_this()](const std::optional<QByteArray> &reviewed) {
-                             if (reviewed)
-                                 job->lookAtTheDisk(*reviewed);
-                             else
-                                 job->finish(Outcome::GivenUp);
-                         });
+        if (error.isEmpty())
+            m_client->review(bytes,
+                             [job = shared_from_this()](const std::optional<QByteArray> &reviewed) {
+                                 if (reviewed)
+                                     job->goOn(*reviewed);
+                                 else
+                                     job->finish(Outcome::GivenUp);
+                             });
     } catch (const std::bad_alloc &) {
-        finish(Outcome::Failed, {QStringLiteral("SaveJob"), 2, qtTrId("kNoMemoryReason"), m_path});
+        error = noMemory(m_path);
+    }
+    if (!error.isEmpty())
+        finish(Outcome::Failed, error);
+}
+
+/// Once the file is written, nothing that goes wrong says that it is not.
+void SaveJob::goOn(const QByteArray &bytes)
+{
+    try {
+        if (!m_isFinished)
+            lookAtTheDisk(bytes);
+    } catch (const std::bad_alloc &) {
+        finish(Outcome::Failed, noMemory(m_path));
     }
 }
 
@@ -61,14 +83,17 @@ void SaveJob::lookAtTheDisk(const QByteArray &bytes)
     if (isRefused())
         return;
     const FileState now = FileState::at(m_path);
-    const FileState::Change change = now.changeSince(m_expected);
-    if (change == FileState::Change::None)
+    FileState::Change change = now.changeSince(m_expected);
+    if (change == FileState::Change::None && m_attempts < mostAttempts)
         return keepOld(now, bytes);
+    if (change == FileState::Change::None)
+        change = FileState::Change::Content;
     m_client->confirm(change, [job = shared_from_this(), now, bytes](bool mayWrite) {
         if (!mayWrite)
             return job->finish(Outcome::GivenUp);
         job->m_expected = now;
-        job->lookAtTheDisk(bytes);
+        job->m_attempts = 0;
+        job->goOn(bytes);
     });
 }
 
@@ -87,7 +112,7 @@ void SaveJob::keepOld(const FileState &now, const QByteArray &bytes)
         if (!mayWrite)
             return job->finish(Outcome::GivenUp);
         job->m_unkept = now;
-        job->lookAtTheDisk(bytes);
+        job->goOn(bytes);
     });
 }
 
@@ -99,11 +124,14 @@ void SaveJob::replace(const QByteArray &bytes)
         return placeOf(m_path) == m_place &&
                FileState::at(m_path).changeSince(m_expected) == FileState::Change::None;
     };
-    if (!replacement.replace(m_path, bytes, error, isAsExpected)) {
-        const bool wasChanged = error.code == static_cast<int>(FileReplacement::Failure::Changed);
-        return wasChanged ? lookAtTheDisk(bytes) : finish(Outcome::Failed, error);
-    }
-    finish({Outcome::Written, {}, FileState::of(m_path, bytes), replacement.notKept()});
+    const bool isWritten = replacement.replace(m_path, bytes, error, isAsExpected);
+    if (isWritten || error.code == static_cast<int>(FileReplacement::Failure::Folder))
+        return finish({isWritten ? Outcome::Written : Outcome::Unsure, error,
+                       FileState::of(m_path, bytes), replacement.notKept()});
+    if (error.code != static_cast<int>(FileReplacement::Failure::Changed))
+        return finish(Outcome::Failed, error);
+    ++m_attempts;
+    lookAtTheDisk(bytes);
 }
 
 void SaveJob::finish(Outcome outcome, const Error &error)

@@ -29,14 +29,21 @@ class FileOperations;
 ///   7. the very bytes that are there, if they are others, are kept. If that fails, that is asked
 ///      about, and then the disk is looked at again;
 ///   8. the file is replaced; writing takes a while, so the last look is taken right before that.
+///      A file that changes at every attempt, there and back, is asked about as well.
 class SaveJob : public std::enable_shared_from_this<SaveJob>
 {
 public:
-    enum class Outcome { Written, Refused, GivenUp, Failed };
+    enum class Outcome {
+        Written,
+        Unsure, ///< written, but the disk says that a crash may bring the old file back
+        Refused,
+        GivenUp,
+        Failed,
+    };
     struct Result
     {
         Outcome outcome = Outcome::GivenUp;
-        Error error;                        ///< of one that was refused or has failed
+        Error error;                        ///< of one that was refused, has failed or is unsure
         std::optional<FileState> written{}; ///< what is there now
         std::vector<NotKept> notKept{};     ///< what the file there before had besides its content
     };
@@ -74,6 +81,7 @@ private:
     SaveJob(const QString &path, FileState expected, std::shared_ptr<Client> client,
             FileOperations &operations);
     void make();
+    void goOn(const QByteArray &bytes);
     [[nodiscard]] bool isRefused();
     void lookAtTheDisk(const QByteArray &bytes);
     void keepOld(const FileState &now, const QByteArray &bytes);
@@ -87,6 +95,7 @@ private:
     std::optional<FileState> m_unkept; ///< which may be replaced without being kept
     std::shared_ptr<Client> m_client;
     FileOperations &m_operations;
+    int m_attempts = 0; ///< that came to nothing at the last look, since somebody was asked
     bool m_isFinished = false;
 };
 

@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <array>
+#include <new>
 
 namespace quillet {
 
@@ -215,19 +216,53 @@ void DocumentSaving::finished(const SaveJob::Result &result)
 {
     switch (result.outcome) {
     case SaveJob::Outcome::Written:
-        if (m_purpose == SavePurpose::Save)
-            m_document.wasWritten(*result.written, m_changeCount);
-        else
-            emit m_document.told(qtTrId("kToldExported").arg(shownPath(shortPath(m_path))));
+        takeOver(result);
         if (result.notKept.empty())
             return m_done(true, {});
         return tellNotKept(result.notKept);
+    case SaveJob::Outcome::Unsure:
+        if (m_purpose == SavePurpose::Save)
+            m_document.updateChangeCount(Document::Change::Done);
+        takeOver(result);
+        return presentUnsure(result);
     case SaveJob::Outcome::GivenUp:
         return goOn(m_next, {});
     case SaveJob::Outcome::Refused:
     case SaveJob::Outcome::Failed:
         return presentFailure(result.error);
     }
+}
+
+/// Makes what was written known. An unsure one leaves the document changed, for its history has
+/// gone on.
+void DocumentSaving::takeOver(const SaveJob::Result &result)
+{
+    try {
+        if (m_purpose == SavePurpose::Save)
+            m_document.wasWritten(*result.written, m_changeCount);
+        else
+            emit m_document.told(qtTrId("kToldExported").arg(shownPath(shortPath(m_path))));
+    } catch (const std::bad_alloc &) { // it is written all the same
+    }
+}
+
+/// The file has the new content, but only for as long as nothing crashes.
+void DocumentSaving::presentUnsure(const SaveJob::Result &result)
+{
+    m_lastError = result.error;
+    Alert alert;
+    alert.message = qtTrId("kUnsureMessage").arg(targetName());
+    alert.informativeText = result.error.text();
+    if (m_purpose == SavePurpose::Save)
+        alert.informativeText += QLatin1String("\n\n") + qtTrId("kUnsureText");
+    if (!result.notKept.empty())
+        alert.informativeText += QLatin1String("\n\n") + notKeptText(targetName(), result.notKept);
+    alert.buttons = {titleOf(Choice::OtherPlace), qtTrId("kOK")};
+    alert.cancelButton = 1;
+    offer(std::move(alert), {Choice::OtherPlace, Choice::Cancel},
+          [self = shared_from_this(), error = result.error](Choice choice) {
+              self->goOn(choice, error);
+          });
 }
 
 /// In a sheet, because the window may be about to close.

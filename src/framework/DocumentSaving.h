@@ -54,6 +54,8 @@ private:
     void goOn(Choice choice, const Error &error);
     void write(const QString &path, const std::optional<FileState> &expected);
     void presentFailure(const Error &error);
+    void takeOver(const SaveJob::Result &result);
+    void presentUnsure(const SaveJob::Result &result);
     void tellNotKept(const std::vector<NotKept> &notKept);
     [[nodiscard]] QString suggestedPath() const;
     [[nodiscard]] SavePanel panelForCopy() const;

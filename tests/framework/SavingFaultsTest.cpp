@@ -141,20 +141,35 @@ bool fillUp(const QString &path, qint64 free)
 }
 #endif
 
-/// Somebody else does something, once, while the new file is brought onto the disk.
+/// Somebody else does something, so many times, while the new file is brought onto the disk.
 class Meddling : public FileOperations
 {
 public:
-    explicit Meddling(std::function<void()> happens) : m_happens(std::move(happens)) {}
+    explicit Meddling(std::function<void()> happens, int times = 1)
+        : m_happens(std::move(happens)), m_times(times)
+    {
+    }
     bool sync(QFile &file, QString &reason) override
     {
-        if (const auto happens = std::exchange(m_happens, {}))
-            happens();
+        if (m_times-- > 0)
+            m_happens();
         return FileOperations::sync(file, reason);
     }
 
 private:
     std::function<void()> m_happens;
+    int m_times;
+};
+
+/// A disk that fails when the new file already has its name.
+class LateFault : public FileOperations
+{
+public:
+    bool syncFolder(const QString &, QString &reason) override
+    {
+        reason = QStringLiteral("fault");
+        return false;
+    }
 };
 
 } // namespace
@@ -335,6 +350,51 @@ private slots:
         QVERIFY(save());
         QCOMPARE(contentOf(first), QByteArray("theirs"));
         QCOMPARE(contentOf(second), QByteArray("new"));
+
+        m_document->edit("newer");
+        writeFile(first, "new");
+        Meddling endless(
+            [&, isFirst = true]() mutable {
+                QVERIFY(QFile::remove(path) && QFile::link(isFirst ? first : second, path));
+                isFirst = !isFirst;
+            },
+            1000);
+        m_document->setFileOperations(endless);
+        m_prompts->answerAlert(QStringLiteral("kCancel"));
+        QVERIFY(!save());
+        QVERIFY(m_prompts->lastText().startsWith(QLatin1String("kChangedOnDiskMessage")));
+    }
+
+    void diskThatFailsAfterTheReplacementLeavesChanges()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("list.tll"));
+        writeFile(path, "old");
+        open(path, "new");
+        LateFault operations;
+        m_document->setFileOperations(operations);
+        m_prompts->answerAlert(QStringLiteral("kOK"));
+        QVERIFY(!save());
+        const QString text = m_prompts->lastText();
+        QVERIFY(text.startsWith(QLatin1String("kUnsureMessage")) && text.contains(u"fault"));
+        QCOMPARE(contentOf(path), QByteArray("new"));
+        QVERIFY(m_document->isDocumentEdited());
+
+        FileOperations sound;
+        m_document->setFileOperations(sound);
+        QVERIFY(save() && m_prompts->alerts().size() == 1); // it is known as it was written
+        QVERIFY(!m_document->isDocumentEdited());
+    }
+
+    void lackOfMemoryAfterTheReplacementIsNoFailure()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("list.tll"));
+        writeFile(path, "old");
+        open(path, "new");
+        connect(&*m_document, &Document::fileWasWritten, this, [] { throw std::bad_alloc(); });
+        QVERIFY(save() && m_prompts->alerts().empty());
+        QCOMPARE(contentOf(path), QByteArray("new"));
     }
 
     void changeWhileItIsWrittenIsAskedAbout()

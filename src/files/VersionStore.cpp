@@ -185,14 +185,14 @@ bool VersionStore::keep(const QString &path, const QByteArray &bytes, Error &err
         return false;
     }
     try {
-        return keepLocked(path, bytes, error);
+        return keepNow(path, bytes, lock.isLocked(), error);
     } catch (const std::bad_alloc &) {
         error = {QStringLiteral("VersionStore"), 5, qtTrId("kNoMemoryReason"), m_folder};
         return false;
     }
 }
 
-bool VersionStore::keepLocked(const QString &path, const QByteArray &bytes, Error &error)
+bool VersionStore::keepNow(const QString &path, const QByteArray &bytes, bool isAlone, Error &error)
 {
     const QString place = placeOf(path);
     Histories histories = readHistories();
@@ -227,7 +227,8 @@ bool VersionStore::keepLocked(const QString &path, const QByteArray &bytes, Erro
         return true;
     if (!write(own->path, own->history->toJSON(), error))
         return false;
-    if (histories.isWhole()) // else somebody else's may be wanted
+    // Else a content may be another file's, or one that is just being kept.
+    if (isAlone && histories.isWhole())
         makeRoom(histories.files, version.digest);
     return true;
 }

@@ -54,7 +54,9 @@ private:
                                                           HistoryFiles &files);
     [[nodiscard]] QString contentPath(const QByteArray &digest) const;
     [[nodiscard]] bool write(const QString &path, const QByteArray &bytes, Error &error);
-    [[nodiscard]] bool keepLocked(const QString &path, const QByteArray &bytes, Error &error);
+    /// Nothing is dropped unless no other program keeps something meanwhile.
+    [[nodiscard]] bool keepNow(const QString &path, const QByteArray &bytes, bool isAlone,
+                               Error &error);
     [[nodiscard]] std::optional<Sizes> contentSizes() const;
     void removeUnwanted(const HistoryFiles &files, const QByteArray &justKept, Sizes &sizes);
     void makeRoom(HistoryFiles &files, const QByteArray &justKept);

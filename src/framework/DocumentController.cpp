@@ -12,7 +12,8 @@
 #include <QFileInfo>
 #include <QHash>
 #include <QMainWindow>
-#include <QPointer>
+#include <QTimer>
+#include <QWindow>
 
 #include <algorithm>
 
@@ -27,6 +28,12 @@ bool hasWindow(const Document &document, const QWidget *window)
                        [window](const auto &each) { return each->window() == window; });
 }
 
+/// None for no document.
+QWidget *windowOf(const Document *document)
+{
+    return document ? document->windowControllers().front()->window() : nullptr;
+}
+
 } // namespace
 
 DocumentController::DocumentController(Factory makeDocument, QString typeName, Prompts &prompts,
@@ -35,6 +42,10 @@ DocumentController::DocumentController(Factory makeDocument, QString typeName, P
       m_prompts(prompts), m_recentFiles(std::make_unique<RecentFiles>())
 {
     connect(this, &DocumentController::documentsChanged, this, &DocumentController::tellNamesApart);
+    connect(qApp, &QGuiApplication::focusWindowChanged, this, [this] {
+        if (Document *active = currentDocument())
+            m_lastActive = active;
+    });
 }
 
 DocumentController::~DocumentController()
@@ -59,6 +70,14 @@ Document *DocumentController::currentDocument() const
     return nullptr;
 }
 
+Document *DocumentController::lastActiveDocument() const
+{
+    const auto isIt = [this](const auto &each) { return each.get() == m_lastActive; };
+    if (std::any_of(m_documents.begin(), m_documents.end(), isIt))
+        return m_lastActive;
+    return m_documents.empty() ? nullptr : m_documents.back().get();
+}
+
 void DocumentController::tellNamesApart()
 {
     QHash<QString, int> documentsOfName;
@@ -66,12 +85,6 @@ void DocumentController::tellNamesApart()
         ++documentsOfName[document->displayName()];
     for (const auto &document : m_documents)
         document->setShowsFolder(documentsOfName.value(document->displayName()) > 1);
-}
-
-QWidget *DocumentController::currentWindow() const
-{
-    const Document *document = currentDocument();
-    return document ? document->windowControllers().front()->window() : nullptr;
 }
 
 Document *DocumentController::newDocument()
@@ -111,7 +124,7 @@ Document *DocumentController::openDocument(const QUrl &url)
     Error error;
     Document *document = open(url, error);
     if (!document)
-        presentOpenError(url, error);
+        presentOpenError(url, error, nullptr);
     return document;
 }
 
@@ -128,7 +141,7 @@ Document *DocumentController::openDocuments(const QList<QUrl> &urls)
             failures.emplace_back(url, error);
     }
     for (const auto &[url, error] : failures)
-        presentOpenError(url, error);
+        presentOpenError(url, error, last);
     return last;
 }
 
@@ -162,7 +175,7 @@ void DocumentController::showOpenPanel(const QStringList &nameFilters)
     panel.nameFilters = nameFilters;
     panel.allowsSeveral = true;
     const QPointer<DocumentController> guard(this);
-    m_prompts.showOpenPanel(currentWindow(), panel, [guard](const QStringList &paths) {
+    m_prompts.showOpenPanel(windowOf(currentDocument()), panel, [guard](const QStringList &paths) {
         QList<QUrl> urls;
         for (const QString &path : paths)
             urls.append(QUrl::fromLocalFile(path));
@@ -171,14 +184,20 @@ void DocumentController::showOpenPanel(const QStringList &nameFilters)
     });
 }
 
-void DocumentController::presentOpenError(const QUrl &url, const Error &error)
+void DocumentController::presentOpenError(const QUrl &url, const Error &error, Document *opened)
 {
+    const Document *owner = opened ? opened : currentDocument();
+    if (!owner) { // another program is in front
+        owner = lastActiveDocument();
+        if (owner)
+            owner->raiseWindows();
+    }
     Alert alert;
     alert.message =
         qtTrId("kOpenFailedMessage").arg(readable(QFileInfo(url.toLocalFile()).fileName()));
     alert.informativeText = error.text();
     alert.buttons = {qtTrId("kOK")};
-    m_prompts.showAlert(currentWindow(), alert, [](const AlertAnswer &) {});
+    m_prompts.showAlert(windowOf(owner), alert, [](const AlertAnswer &) {});
 }
 
 Document *DocumentController::adopt(std::unique_ptr<Document> document, Document *replaced)
@@ -218,6 +237,10 @@ void DocumentController::remove(Document *document)
     found->release()->setParent(this);
     document->deleteLater();
     m_documents.erase(found);
+    if (document == m_asked) { // and will never answer
+        m_asked = nullptr;
+        QTimer::singleShot(0, this, m_goOn);
+    }
     emit documentClosed(document);
     emit documentsChanged();
     if (m_documents.empty())
@@ -256,10 +279,13 @@ void DocumentController::reviewNext(std::vector<Document *> givenUp,
         return closeAllReviewed(done);
     Document *document = next->get();
     document->raiseWindows();
+    m_asked = document;
+    m_goOn = [this, givenUp, done] { reviewNext(givenUp, done); };
     const QPointer<DocumentController> guard(this);
     document->askToClose([guard, givenUp, document, done](bool mayClose) mutable {
-        if (!guard)
+        if (!guard || guard->m_asked != document)
             return;
+        guard->m_asked = nullptr;
         if (!mayClose) {
             guard->m_isReviewing = false;
             return done(false);

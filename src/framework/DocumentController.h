@@ -3,6 +3,7 @@
 #include "framework/Document.h"
 
 #include <QObject>
+#include <QPointer>
 #include <QStringList>
 #include <QUrl>
 
@@ -38,6 +39,8 @@ public:
     }
     /// The document of the active window; none when no window is active.
     [[nodiscard]] Document *currentDocument() const;
+    /// The one whose window was active last, or any; none when no document is open.
+    [[nodiscard]] Document *lastActiveDocument() const;
     [[nodiscard]] RecentFiles &recentFiles() const { return *m_recentFiles; }
     [[nodiscard]] Prompts &prompts() const { return m_prompts; }
 
@@ -86,20 +89,23 @@ private:
     /// Takes over the document and shows its windows, in the place of those of `replaced`.
     Document *adopt(std::unique_ptr<Document> document, Document *replaced);
     void remove(Document *document);
-    void presentOpenError(const QUrl &url, const Error &error);
+    /// Shown at the document that was opened last, or at the one the person was last at.
+    void presentOpenError(const QUrl &url, const Error &error, Document *opened);
     void reviewNext(std::vector<Document *> givenUp, const std::function<void(bool)> &done);
     void closeAllReviewed(const std::function<void(bool)> &done);
     [[nodiscard]] Document *untouchedDocument() const;
     /// Has the windows of documents with one name show their folders.
     void tellNamesApart();
-    [[nodiscard]] QWidget *currentWindow() const;
 
     Factory m_makeDocument;
     QString m_typeName;
     Prompts &m_prompts;
     std::unique_ptr<RecentFiles> m_recentFiles;
     std::vector<std::unique_ptr<Document>> m_documents;
+    QPointer<Document> m_lastActive;
     bool m_isReviewing = false;
+    Document *m_asked = nullptr;  ///< in the review; null: none is being asked
+    std::function<void()> m_goOn; ///< with the review, when that is closed without an answer
 };
 
 } // namespace quillet

@@ -286,6 +286,37 @@ private slots:
         QTRY_VERIFY(m_prompts->isSettled());
     }
 
+    void reviewGoesOnWithoutTheAsked()
+    {
+        Document *asked = open("a");
+        bytesOf(asked).edit("typed");
+        std::optional<bool> answer;
+        m_controller->closeAllDocuments([&answer](bool all) { answer = all; });
+        asked->updateChangeCount(Document::Change::Cleared); // and so it may be replaced
+        auto restored = std::make_unique<BytesDocument>();
+        restored->setFileUrl(asked->fileUrl());
+        m_controller->openRestored(std::move(restored));
+        QTRY_COMPARE(answer, std::optional<bool>(true));
+        QVERIFY(!m_controller->isClosingAll());
+    }
+
+    void failureIsShownAtTheLastActiveWindow()
+    {
+        Document *a = open("a");
+        QTRY_COMPARE(m_controller->currentDocument(), a);
+        open("b");
+        QTRY_VERIFY(m_controller->currentDocument() != a);
+        a->raiseWindows();
+        QTRY_COMPARE(m_controller->currentDocument(), a);
+        QWidget other; // of another program, as it were
+        other.show();
+        other.activateWindow();
+        QTRY_VERIFY(!m_controller->currentDocument());
+        QVERIFY(!open("none"));
+        QCOMPARE(m_prompts->alerts().back().window, windowOf(a));
+        QTRY_COMPARE(m_controller->currentDocument(), a);
+    }
+
     void documentChangedDuringTheReviewIsAskedAboutAgain()
     {
         Document *a = open("a");

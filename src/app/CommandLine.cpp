@@ -55,6 +55,8 @@ QString problem(const QCommandLineParser &parser)
     if (parser.isSet(firstName(languageOption)) && !hasTexts(chosen))
         return QStringLiteral("There are no texts in the language \"%1\", only in %2.")
             .arg(chosen, textLanguages().join(QLatin1String(", ")));
+    if (parser.positionalArguments().contains(QString()))
+        return QStringLiteral("A file needs a name.");
     if (!parser.isSet(firstName(snapshotOption)))
         return {};
     const QString picture = parser.value(firstName(snapshotOption));

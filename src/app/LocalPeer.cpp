@@ -49,7 +49,8 @@ void stopListening(QLocalSocket &socket)
 #ifdef Q_OS_LINUX
     ::shutdown(handleOf(socket), SHUT_RDWR);
 #else
-    Q_UNUSED(socket)                    // other systems throw away what has come
+    // Other systems throw away what has come.
+    Q_UNUSED(socket)
 #endif
 }
 

@@ -13,8 +13,9 @@ namespace quillet {
 /// gets the byte then.
 [[nodiscard]] bool sendNow(QLocalSocket &socket, char byte);
 
-/// Stops listening. What the other end has sent by then can still be read, and what it sends later
-/// fails there: so both agree whether a byte has come in time.
+/// Stops listening, where the system can do so and still let what the other end has sent by then be
+/// read, which is on Linux. What is sent later fails there: so both agree whether a byte has come
+/// in time. Elsewhere it does nothing, and a byte on its way at that moment may be missed.
 void stopListening(QLocalSocket &socket);
 
 } // namespace quillet

@@ -36,7 +36,7 @@ QIcon applicationIcon()
 
 enum ExitCode { Succeeded, Failed, Misused };
 
-constexpr char usage[] = "usage: quillet [FILE...]\n"
+constexpr char usage[] = "usage: quillet [--new-instance] [FILE...]\n"
                          "       quillet --snapshot <picture> [FILE]\n"
                          "       quillet --help\n";
 

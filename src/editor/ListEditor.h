@@ -14,10 +14,9 @@ namespace quillet {
 /// The one gate for edits: every change of a station or of the order of a list is made here,
 /// becomes a step of the document's history and is told; and so is its undoing. Works on the
 /// document's current list, but for what puts back a whole version; asked for stations of another
-/// list it does nothing. An edit that changes
-/// nothing leaves no step, but a reference list counts as a change by itself. Shows nothing but the
-/// document's own report of an order. Owned by the window's ViewController; holds the document
-/// weakly, without which nothing may be asked of it.
+/// list it does nothing. An edit that changes nothing leaves no step, but a reference list counts
+/// as a change by itself. Shows nothing but the document's own report of an order. Owned by the
+/// window's ViewController; holds the document weakly, without which nothing may be asked of it.
 ///
 /// An edit that would give a station a number that it cannot carry is made only when that is said
 /// to be wanted, whatever way it comes here.

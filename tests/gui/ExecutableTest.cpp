@@ -70,6 +70,7 @@ private slots:
         row("-reverse --unknown", 2, "", "'unknown'");
         row("-geometryy", 2, "", "'geometryy'");
         row("--language xx a.tll", 2, "", "\"xx\", only in de, en, es");
+        row("a.tll ", 2, "", "a name");
         row("--snapshot", 2, "", "--snapshot <picture> [FILE]");
         row("--snapshot= a.tll", 2, "", "--snapshot <picture> [FILE]");
         row("--snapshot /nowhere/a.png /nowhere/a.tll", 1, "", "/nowhere/a.tll");

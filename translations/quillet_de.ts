@@ -404,6 +404,10 @@
         <source></source>
         <translation>Danach können sie nicht mehr zurückgeholt werden.</translation>
     </message>
+    <message id="kDiscardUnreadableMessage">
+        <source></source>
+        <translation>Möchten Sie ungespeicherte Änderungen verwerfen, die nicht lesbar sind?</translation>
+    </message>
     <message id="kExportExplanation">
         <source></source>
         <translation>Geschrieben wird eine Kopie der ganzen Senderliste, so wie „Speichern“ sie schreiben würde, unter dem Namen, den Sie wählen. Die Datei dieses Fensters bleibt, wie sie ist. Die Reihenfolge der Kopie lässt sich auf andere Listen anwenden, wenn ihr Name auf „.tll“ endet.</translation>
@@ -487,6 +491,10 @@
     <message id="kFolderGoneText">
         <source></source>
         <translation>Er wurde verschoben oder gelöscht, oder sein Datenträger wurde entfernt. Es wurde nichts gespeichert, und nichts ist verloren: Die Liste ist mit allen Änderungen noch in diesem Fenster.</translation>
+    </message>
+    <message id="kFolderNotShownMessage">
+        <source></source>
+        <translation>Es konnte kein Programm gestartet werden, das den Ordner „%1“ zeigt.</translation>
     </message>
     <message id="kForeignRows">
         <source></source>
@@ -1216,6 +1224,10 @@
         <source></source>
         <translation>Die Änderungen wurden von einer neueren Version des Programms aufbewahrt.</translation>
     </message>
+    <message id="kRecoveryOlderReason">
+        <source></source>
+        <translation>Das ist ein älterer Stand einer Liste, die gerade zurückgeholt wurde. Er bleibt aufgehoben: Verwerfen Sie ihn, oder holen Sie ihn zurück, wenn die andere geschlossen ist.</translation>
+    </message>
     <message id="kRecoveryOpenReason">
         <source></source>
         <translation>Die Liste ist in einem Fenster geöffnet und dort geändert. Speichern oder verwerfen Sie erst diese Änderungen.</translation>
@@ -1226,7 +1238,7 @@
     </message>
     <message id="kRecoveryText">
         <source></source>
-        <translation>Das Programm wurde beendet, bevor diese Listen gespeichert waren. Ihre Änderungen sind noch da und können zurückgeholt werden.</translation>
+        <translation>Das Programm wurde beendet, bevor diese Änderungen gespeichert waren. Sie sind noch da und können zurückgeholt werden.</translation>
     </message>
     <message id="kRecoveryTime">
         <source></source>

@@ -404,6 +404,10 @@
         <source></source>
         <translation>They cannot be brought back afterwards.</translation>
     </message>
+    <message id="kDiscardUnreadableMessage">
+        <source></source>
+        <translation>Do you want to discard unsaved changes that cannot be read?</translation>
+    </message>
     <message id="kExportExplanation">
         <source></source>
         <translation>What is written is a copy of the whole channel list, as “Save” would write it, under the name you choose. The file of this window stays as it is. The order of the copy can be applied to other lists if its name ends in “.tll”.</translation>
@@ -487,6 +491,10 @@
     <message id="kFolderGoneText">
         <source></source>
         <translation>It was moved or deleted, or its disk was removed. Nothing was saved, and nothing is lost: the list with all its changes is still in this window.</translation>
+    </message>
+    <message id="kFolderNotShownMessage">
+        <source></source>
+        <translation>No program could be started to show the folder “%1”.</translation>
     </message>
     <message id="kForeignRows">
         <source></source>
@@ -1216,6 +1224,10 @@
         <source></source>
         <translation>The changes were kept by a newer version of the program.</translation>
     </message>
+    <message id="kRecoveryOlderReason">
+        <source></source>
+        <translation>This is an older state of a list that has just been brought back. It is still kept: discard it, or bring it back once the other is closed.</translation>
+    </message>
     <message id="kRecoveryOpenReason">
         <source></source>
         <translation>The list is open in a window and has changes there. Save or discard those first.</translation>
@@ -1226,7 +1238,7 @@
     </message>
     <message id="kRecoveryText">
         <source></source>
-        <translation>The program ended before these lists were saved. Their changes were kept and can be brought back.</translation>
+        <translation>The program ended before these changes were saved. They were kept and can be brought back.</translation>
     </message>
     <message id="kRecoveryTime">
         <source></source>

@@ -404,6 +404,10 @@
         <source></source>
         <translation>Después ya no se podrán recuperar.</translation>
     </message>
+    <message id="kDiscardUnreadableMessage">
+        <source></source>
+        <translation>¿Desea descartar unos cambios sin guardar que no se pueden leer?</translation>
+    </message>
     <message id="kExportExplanation">
         <source></source>
         <translation>Se escribe una copia de toda la lista de canales, tal como la escribiría «Guardar», con el nombre que elija. El archivo de esta ventana se queda como está. El orden de la copia se puede aplicar a otras listas si su nombre termina en «.tll».</translation>
@@ -487,6 +491,10 @@
     <message id="kFolderGoneText">
         <source></source>
         <translation>Se ha movido o eliminado, o se ha retirado su unidad. No se ha guardado nada y no se ha perdido nada: la lista sigue en esta ventana con todos sus cambios.</translation>
+    </message>
+    <message id="kFolderNotShownMessage">
+        <source></source>
+        <translation>No se ha podido iniciar ningún programa que muestre la carpeta «%1».</translation>
     </message>
     <message id="kForeignRows">
         <source></source>
@@ -1216,6 +1224,10 @@
         <source></source>
         <translation>Los cambios los conservó una versión más reciente del programa.</translation>
     </message>
+    <message id="kRecoveryOlderReason">
+        <source></source>
+        <translation>Es un estado anterior de una lista que se acaba de recuperar. Sigue conservado: descártelo, o recupérelo cuando la otra esté cerrada.</translation>
+    </message>
     <message id="kRecoveryOpenReason">
         <source></source>
         <translation>La lista está abierta en una ventana y tiene cambios en ella. Guárdelos o descártelos antes.</translation>
@@ -1226,7 +1238,7 @@
     </message>
     <message id="kRecoveryText">
         <source></source>
-        <translation>El programa terminó antes de que se guardaran estas listas. Sus cambios se han conservado y se pueden recuperar.</translation>
+        <translation>El programa terminó antes de que se guardaran estos cambios. Se han conservado y se pueden recuperar.</translation>
     </message>
     <message id="kRecoveryTime">
         <source></source>

@@ -404,6 +404,10 @@
         <source></source>
         <translation>Elles ne pourront plus être récupérées ensuite.</translation>
     </message>
+    <message id="kDiscardUnreadableMessage">
+        <source></source>
+        <translation>Voulez-vous abandonner des modifications non enregistrées qui sont illisibles ?</translation>
+    </message>
     <message id="kExportExplanation">
         <source></source>
         <translation>Une copie de toute la liste de chaînes est écrite, telle que « Enregistrer » l’écrirait, sous le nom que vous choisissez. Le fichier de cette fenêtre reste tel quel. L’ordre de la copie peut être appliqué à d’autres listes si son nom se termine par « .tll ».</translation>
@@ -487,6 +491,10 @@
     <message id="kFolderGoneText">
         <source></source>
         <translation>Il a été déplacé ou supprimé, ou son disque a été retiré. Rien n’a été enregistré et rien n’est perdu : la liste est toujours dans cette fenêtre, avec toutes ses modifications.</translation>
+    </message>
+    <message id="kFolderNotShownMessage">
+        <source></source>
+        <translation>Aucun programme n’a pu être lancé pour afficher le dossier « %1 ».</translation>
     </message>
     <message id="kForeignRows">
         <source></source>
@@ -1216,6 +1224,10 @@
         <source></source>
         <translation>Les modifications ont été conservées par une version plus récente du programme.</translation>
     </message>
+    <message id="kRecoveryOlderReason">
+        <source></source>
+        <translation>C’est un état plus ancien d’une liste qui vient d’être récupérée. Il reste conservé : abandonnez-le, ou récupérez-le une fois l’autre fermée.</translation>
+    </message>
     <message id="kRecoveryOpenReason">
         <source></source>
         <translation>La liste est ouverte dans une fenêtre et y a été modifiée. Enregistrez ou abandonnez d’abord ces modifications.</translation>
@@ -1226,7 +1238,7 @@
     </message>
     <message id="kRecoveryText">
         <source></source>
-        <translation>Le programme s’est arrêté avant que ces listes soient enregistrées. Leurs modifications ont été conservées et peuvent être récupérées.</translation>
+        <translation>Le programme s’est arrêté avant que ces modifications soient enregistrées. Elles ont été conservées et peuvent être récupérées.</translation>
     </message>
     <message id="kRecoveryTime">
         <source></source>

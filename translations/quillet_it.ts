@@ -404,6 +404,10 @@
         <source></source>
         <translation>Poi non si potranno più recuperare.</translation>
     </message>
+    <message id="kDiscardUnreadableMessage">
+        <source></source>
+        <translation>Vuoi scartare modifiche non salvate che non si possono leggere?</translation>
+    </message>
     <message id="kExportExplanation">
         <source></source>
         <translation>Viene scritta una copia dell’intera lista di canali, come la scriverebbe “Salva”, con il nome che scegli. Il file di questa finestra resta com’è. L’ordine della copia può essere applicato ad altre liste se il suo nome termina con “.tll”.</translation>
@@ -487,6 +491,10 @@
     <message id="kFolderGoneText">
         <source></source>
         <translation>È stata spostata o eliminata, oppure il suo disco è stato rimosso. Non è stato salvato nulla e nulla è andato perso: la lista è ancora in questa finestra con tutte le modifiche.</translation>
+    </message>
+    <message id="kFolderNotShownMessage">
+        <source></source>
+        <translation>Non è stato possibile avviare un programma che mostri la cartella “%1”.</translation>
     </message>
     <message id="kForeignRows">
         <source></source>
@@ -1216,6 +1224,10 @@
         <source></source>
         <translation>Le modifiche sono state conservate da una versione più recente del programma.</translation>
     </message>
+    <message id="kRecoveryOlderReason">
+        <source></source>
+        <translation>È uno stato precedente di una lista appena recuperata. Resta conservato: scartalo, oppure recuperalo quando l’altra è chiusa.</translation>
+    </message>
     <message id="kRecoveryOpenReason">
         <source></source>
         <translation>La lista è aperta in una finestra e lì è stata modificata. Prima salva o scarta quelle modifiche.</translation>
@@ -1226,7 +1238,7 @@
     </message>
     <message id="kRecoveryText">
         <source></source>
-        <translation>Il programma è terminato prima che queste liste fossero salvate. Le loro modifiche sono state conservate e si possono recuperare.</translation>
+        <translation>Il programma è terminato prima che queste modifiche fossero salvate. Sono state conservate e si possono recuperare.</translation>
     </message>
     <message id="kRecoveryTime">
         <source></source>

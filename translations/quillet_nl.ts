@@ -404,6 +404,10 @@
         <source></source>
         <translation>Daarna kunnen ze niet meer worden teruggehaald.</translation>
     </message>
+    <message id="kDiscardUnreadableMessage">
+        <source></source>
+        <translation>Wilt u niet-opgeslagen wijzigingen weggooien die onleesbaar zijn?</translation>
+    </message>
     <message id="kExportExplanation">
         <source></source>
         <translation>Er wordt een kopie van de hele zenderlijst geschreven, zoals “Opslaan” die zou schrijven, onder de naam die u kiest. Het bestand van dit venster blijft zoals het is. De volgorde van de kopie kan op andere lijsten worden toegepast als de naam op “.tll” eindigt.</translation>
@@ -487,6 +491,10 @@
     <message id="kFolderGoneText">
         <source></source>
         <translation>De map is verplaatst of verwijderd, of de schijf is losgekoppeld. Er is niets opgeslagen en niets verloren: de lijst staat met alle wijzigingen nog in dit venster.</translation>
+    </message>
+    <message id="kFolderNotShownMessage">
+        <source></source>
+        <translation>Er kon geen programma worden gestart dat de map “%1” toont.</translation>
     </message>
     <message id="kForeignRows">
         <source></source>
@@ -1216,6 +1224,10 @@
         <source></source>
         <translation>De wijzigingen zijn bewaard door een nieuwere versie van het programma.</translation>
     </message>
+    <message id="kRecoveryOlderReason">
+        <source></source>
+        <translation>Dit is een oudere toestand van een lijst die zojuist is teruggehaald. Ze blijft bewaard: gooi ze weg, of haal ze terug zodra de andere is gesloten.</translation>
+    </message>
     <message id="kRecoveryOpenReason">
         <source></source>
         <translation>De lijst is geopend in een venster en daar gewijzigd. Sla die wijzigingen eerst op of gooi ze weg.</translation>
@@ -1226,7 +1238,7 @@
     </message>
     <message id="kRecoveryText">
         <source></source>
-        <translation>Het programma werd beëindigd voordat deze lijsten waren opgeslagen. De wijzigingen zijn bewaard en kunnen worden teruggehaald.</translation>
+        <translation>Het programma werd beëindigd voordat deze wijzigingen waren opgeslagen. Ze zijn bewaard en kunnen worden teruggehaald.</translation>
     </message>
     <message id="kRecoveryTime">
         <source></source>

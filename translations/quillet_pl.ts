@@ -419,6 +419,10 @@
         <source></source>
         <translation>Potem nie będzie można ich przywrócić.</translation>
     </message>
+    <message id="kDiscardUnreadableMessage">
+        <source></source>
+        <translation>Czy chcesz odrzucić niezapisane zmiany, których nie można odczytać?</translation>
+    </message>
     <message id="kExportExplanation">
         <source></source>
         <translation>Zapisywana jest kopia całej listy kanałów, taka jaką zapisałoby „Zapisz”, pod wybraną nazwą. Plik tego okna pozostaje bez zmian. Kolejność kopii można zastosować do innych list, jeśli jej nazwa kończy się na „.tll”.</translation>
@@ -502,6 +506,10 @@
     <message id="kFolderGoneText">
         <source></source>
         <translation>Został przeniesiony lub usunięty albo odłączono jego dysk. Niczego nie zapisano i niczego nie utracono: lista ze wszystkimi zmianami nadal jest w tym oknie.</translation>
+    </message>
+    <message id="kFolderNotShownMessage">
+        <source></source>
+        <translation>Nie udało się uruchomić programu, który pokazałby folder „%1”.</translation>
     </message>
     <message id="kForeignRows">
         <source></source>
@@ -1239,6 +1247,10 @@
         <source></source>
         <translation>Zmiany zachowała nowsza wersja programu.</translation>
     </message>
+    <message id="kRecoveryOlderReason">
+        <source></source>
+        <translation>To starszy stan listy, którą właśnie przywrócono. Pozostaje zachowany: odrzuć go albo przywróć, gdy tamta zostanie zamknięta.</translation>
+    </message>
     <message id="kRecoveryOpenReason">
         <source></source>
         <translation>Lista jest otwarta w oknie i ma tam zmiany. Najpierw je zapisz lub odrzuć.</translation>
@@ -1249,7 +1261,7 @@
     </message>
     <message id="kRecoveryText">
         <source></source>
-        <translation>Program zakończył działanie, zanim te listy zostały zapisane. Ich zmiany zachowano i można je przywrócić.</translation>
+        <translation>Program zakończył działanie, zanim te zmiany zostały zapisane. Zachowano je i można je przywrócić.</translation>
     </message>
     <message id="kRecoveryTime">
         <source></source>

@@ -389,6 +389,10 @@
         <source></source>
         <translation>Sonra geri getirilemezler.</translation>
     </message>
+    <message id="kDiscardUnreadableMessage">
+        <source></source>
+        <translation>Okunamayan, kaydedilmemiş değişiklikleri atmak istiyor musunuz?</translation>
+    </message>
     <message id="kExportExplanation">
         <source></source>
         <translation>Kanal listesinin tamamının “Kaydet” komutunun yazacağı gibi bir kopyası, seçtiğiniz adla yazılır. Bu pencerenin dosyası olduğu gibi kalır. Kopyanın adı “.tll” ile bitiyorsa sırası başka listelere uygulanabilir.</translation>
@@ -472,6 +476,10 @@
     <message id="kFolderGoneText">
         <source></source>
         <translation>Taşındı veya silindi ya da diski çıkarıldı. Hiçbir şey kaydedilmedi ve hiçbir şey kaybolmadı: liste tüm değişiklikleriyle hâlâ bu pencerede.</translation>
+    </message>
+    <message id="kFolderNotShownMessage">
+        <source></source>
+        <translation>“%1” klasörünü gösterecek bir program başlatılamadı.</translation>
     </message>
     <message id="kForeignRows">
         <source></source>
@@ -1193,6 +1201,10 @@
         <source></source>
         <translation>Değişiklikler programın daha yeni bir sürümü tarafından saklandı.</translation>
     </message>
+    <message id="kRecoveryOlderReason">
+        <source></source>
+        <translation>Bu, az önce geri getirilen bir listenin daha eski hâli. Saklanmaya devam ediyor: atın ya da öteki kapandıktan sonra geri getirin.</translation>
+    </message>
     <message id="kRecoveryOpenReason">
         <source></source>
         <translation>Liste bir pencerede açık ve orada değiştirilmiş. Önce o değişiklikleri kaydedin veya atın.</translation>
@@ -1203,7 +1215,7 @@
     </message>
     <message id="kRecoveryText">
         <source></source>
-        <translation>Program, bu listeler kaydedilmeden sona erdi. Değişiklikleri saklandı ve geri getirilebilir.</translation>
+        <translation>Program, bu değişiklikler kaydedilmeden sona erdi. Değişiklikler saklandı ve geri getirilebilir.</translation>
     </message>
     <message id="kRecoveryTime">
         <source></source>

@@ -4,7 +4,7 @@
 #include "app/LGWindowController.h"
 #include "app/MainMenu.h"
 #include "app/OpenRequest.h"
-#include "app/RecoveryDialog.h"
+#include "app/UnsavedLists.h"
 #include "app/help/HelpProcess.h"
 #include "document/TLLDocument.h"
 #include "document/repair/FileDiagnosis.h"
@@ -12,7 +12,6 @@
 #include "files/FileNames.h"
 #include "files/Places.h"
 #include "files/ShownPath.h"
-#include "framework/WaitCursor.h"
 
 #include <QEventLoop>
 #include <QFileInfo>
@@ -23,7 +22,6 @@
 #include <QUrl>
 #include <QWindow>
 
-#include <algorithm>
 #include <cstdio>
 #include <new>
 
@@ -43,20 +41,17 @@ AppDelegate::AppDelegate(Prompts &prompts, QObject *parent)
     QGuiApplication::setQuitOnLastWindowClosed(false);
     connect(
         &m_documents, &DocumentController::lastDocumentClosed, this,
-        [] { QCoreApplication::exit(); }, Qt::QueuedConnection);
+        [this] {
+            if (!hasWindow())
+                QCoreApplication::exit();
+        },
+        Qt::QueuedConnection);
     connect(qApp, &QGuiApplication::commitDataRequest, this, &AppDelegate::commitData,
             Qt::DirectConnection);
     qApp->installEventFilter(this);
-    connect(qApp, &QGuiApplication::focusWindowChanged, this, [this] {
-        if (Document *active = m_documents.currentDocument())
-            m_lastActive = active;
-    });
 }
 
-AppDelegate::~AppDelegate()
-{
-    delete m_unsavedLists;
-}
+AppDelegate::~AppDelegate() = default;
 
 QStringList AppDelegate::nameFilters()
 {
@@ -73,22 +68,31 @@ std::unique_ptr<TLLDocument> AppDelegate::makeDocument()
         auto *menu = new MainMenu(*controller, m_documents, controller->window());
         connect(menu, &MainMenu::quitRequested, this, &AppDelegate::terminate);
         connect(menu, &MainMenu::helpRequested, this, &AppDelegate::showHelpWindow);
-        menu->setUnsavedLists([this] { return m_recovery && m_recovery->store().hasLeftovers(); });
+        menu->setUnsavedLists([this] { return m_unsavedLists && m_unsavedLists->areThere(); });
         connect(menu, &MainMenu::unsavedListsRequested, this, &AppDelegate::showUnsavedLists);
-        connect(menu, &MainMenu::recoveryFolderRequested, this, &AppDelegate::openRecoveryFolder);
-        connect(menu, &MainMenu::versionRequested, this, &AppDelegate::openVersion);
+        const auto whileOpen = [window = controller.get()](const auto &open) {
+            TLLDocument *shown = window->tlldoc();
+            if (!shown)
+                return;
+            try {
+                open(*shown);
+            } catch (const std::bad_alloc &) {
+                shown->presentError(
+                    qtTrId("kLoadingProblem"),
+                    {QStringLiteral("AppDelegate"), 1, qtTrId("kNoMemoryReason"), {}});
+            }
+        };
+        connect(menu, &MainMenu::recoveryFolderRequested, this, [this, whileOpen] {
+            whileOpen([this](TLLDocument &asking) { openRecoveryFolder(asking); });
+        });
+        connect(menu, &MainMenu::versionRequested, this,
+                [this, whileOpen](const QByteArray &bytes, const QString &suggestedPath) {
+                    whileOpen(
+                        [&](TLLDocument &later) { openVersion(bytes, suggestedPath, later); });
+                });
         connect(&controller->editor().controller(), &ViewController::repairedCopyRequested, this,
-                [this, window = controller.get()] {
-                    TLLDocument *damaged = window->tlldoc();
-                    if (!damaged)
-                        return;
-                    try {
-                        openRepairedCopy(*damaged);
-                    } catch (const std::bad_alloc &) {
-                        damaged->presentError(
-                            qtTrId("kLoadingProblem"),
-                            {QStringLiteral("AppDelegate"), 1, qtTrId("kNoMemoryReason"), {}});
-                    }
+                [this, whileOpen] {
+                    whileOpen([this](TLLDocument &damaged) { openRepairedCopy(damaged); });
                 });
         return controller;
     });
@@ -112,14 +116,15 @@ void AppDelegate::openRepairedCopy(const TLLDocument &damaged)
     opened.setDirtyFlag(true); // showing a document makes it unchanged
 }
 
-void AppDelegate::openVersion(const QByteArray &bytes, const QString &suggestedPath)
+void AppDelegate::openVersion(const QByteArray &bytes, const QString &suggestedPath,
+                              TLLDocument &later)
 {
     std::unique_ptr<TLLDocument> version = makeDocument();
     Error error;
     if (version->readFromData(bytes, TLLDocument::typeName(), error))
         m_documents.openUntitled(std::move(version), QUrl::fromLocalFile(suggestedPath), {});
-    else if (Document *current = m_documents.currentDocument())
-        current->presentError(qtTrId("kLoadingProblem"), error);
+    else
+        later.presentError(qtTrId("kLoadingProblem"), error);
 }
 
 void AppDelegate::applicationDidFinishLaunching(const QStringList &paths)
@@ -144,7 +149,7 @@ void AppDelegate::openRequested(const OpenRequest &request)
         qputenv(waylandToken, request.activationToken);
     const Document *shown = open(request.files);
     if (!shown)
-        shown = lastActive();
+        shown = m_documents.lastActiveDocument();
     if (shown)
         shown->raiseWindows();
     else
@@ -152,19 +157,14 @@ void AppDelegate::openRequested(const OpenRequest &request)
     qunsetenv(waylandToken);
 }
 
-const Document *AppDelegate::lastActive() const
-{
-    const auto &open = m_documents.documents();
-    const bool isOpen = std::any_of(
-        open.begin(), open.end(), [this](const auto &each) { return each.get() == m_lastActive; });
-    if (isOpen)
-        return m_lastActive;
-    return open.empty() ? nullptr : open.back().get();
-}
-
 bool AppDelegate::mayOpen() const
 {
-    return (m_unsavedLists || !m_documents.documents().empty()) && !m_documents.isClosingAll();
+    return hasWindow() && !m_isEnding && !m_documents.isClosingAll();
+}
+
+bool AppDelegate::hasWindow() const
+{
+    return !m_documents.documents().empty() || (m_unsavedLists && m_unsavedLists->areShown());
 }
 
 void AppDelegate::keepChanges(RecoveryStore &store, const RecoveryTiming &timing)
@@ -174,69 +174,25 @@ void AppDelegate::keepChanges(RecoveryStore &store, const RecoveryTiming &timing
             [this](Document *document) { m_recovery->watch(*document); });
     connect(&m_documents, &DocumentController::documentClosed, m_recovery.get(),
             [this](Document *document) { m_recovery->forget(*document); });
+    m_unsavedLists =
+        std::make_unique<UnsavedLists>(m_documents, *m_recovery, [this] { return makeDocument(); });
 }
 
 bool AppDelegate::showUnsavedLists()
 {
-    if (!m_recovery)
-        return false;
-    if (!m_unsavedLists) {
-        auto leftovers = m_recovery->store().leftovers();
-        if (leftovers.empty())
-            return false;
-        m_unsavedLists = new RecoveryDialog(
-            std::move(leftovers), m_documents.prompts(),
-            [this](RecoveryStore::Leftover &leftover) { return bringBack(leftover); });
-        m_unsavedLists->setAttribute(Qt::WA_DeleteOnClose);
-        connect(m_unsavedLists, &QDialog::finished, this, [this] {
-            if (m_documents.documents().empty())
-                m_documents.newDocument();
-        });
-    }
-    m_unsavedLists->show();
-    m_unsavedLists->raise();
-    m_unsavedLists->activateWindow();
-    return true;
+    return m_unsavedLists && m_unsavedLists->show();
 }
 
-QString AppDelegate::bringBack(RecoveryStore::Leftover &leftover)
-{
-    const Document *open = m_documents.documentAt(leftover.state->path);
-    if (open && open->hasUnautosavedChanges())
-        return qtTrId("kRecoveryOpenReason");
-    const QString original = leftover.folder->pathOf(RecoveryFolder::Part::Original);
-    const WaitCursor wait(WaitCursor::Work::Opening, sizeOf(original));
-    std::unique_ptr<TLLDocument> document = makeDocument();
-    Error error;
-    if (!RecoveryKeeper::restore(*document, leftover, error))
-        return leftover.problem = error.text();
-    TLLDocument &opened = *document;
-    const int source = opened.curSource();
-    const StationListPtr shown = opened.stations();
-    m_documents.openRestored(std::move(document));
-    opened.setDirtyFlag(true); // showing a document makes it unchanged
-    m_recovery->goOn(opened, std::move(leftover));
-    for (const auto &each : opened.windowControllers()) {
-        auto *window = qobject_cast<LGWindowController *>(each.get());
-        if (window && opened.hasDataForSource(source))
-            window->editor().controller().showList(shown);
-    }
-    emit opened.told(qtTrId("kToldBroughtBack").arg(opened.displayName()));
-    return {};
-}
-
-void AppDelegate::openRecoveryFolder()
+void AppDelegate::openRecoveryFolder(TLLDocument &asking)
 {
     if (!m_recovery)
         return;
     const QString &folder = m_recovery->store().root();
     QString reason;
-    if (m_recovery->store().makeRoot(reason))
-        return m_services->openUrl(QUrl::fromLocalFile(folder));
-    Alert alert;
-    alert.message = qtTrId("kCreateFailedReason").arg(shownPath(folder), reason);
-    alert.buttons = {qtTrId("kOK")};
-    m_documents.prompts().showAlert(nullptr, alert, [](const AlertAnswer &) {});
+    if (!m_recovery->store().makeRoot(reason))
+        asking.presentError(qtTrId("kCreateFailedReason").arg(shownPath(folder), reason), {});
+    else if (!m_services->openUrl(QUrl::fromLocalFile(folder)))
+        asking.presentError(qtTrId("kFolderNotShownMessage").arg(shownPath(folder)), {});
 }
 
 void AppDelegate::showHelpWindow()
@@ -321,7 +277,8 @@ void AppDelegate::commitEditing()
 void AppDelegate::askAndQuit(const std::function<void(bool)> &done)
 {
     commitEditing();
-    m_documents.closeAllDocuments([done](bool closed) {
+    m_documents.closeAllDocuments([this, done](bool closed) {
+        m_isEnding = closed;
         if (closed)
             QCoreApplication::exit(); // quit() would ask every window once more
         done(closed);

@@ -9,7 +9,6 @@
 #include "framework/RecoveryKeeper.h"
 
 #include <QObject>
-#include <QPointer>
 #include <QStringList>
 
 #include <functional>
@@ -19,8 +18,8 @@ class QSessionManager;
 
 namespace quillet {
 
-class RecoveryDialog;
 class TLLDocument;
+class UnsavedLists;
 struct OpenRequest;
 
 /// The running application: owns the document controller, gives every document its window and ends
@@ -47,15 +46,17 @@ public:
     /// Opens what another start of the program was asked to open and raises the window; without
     /// files the last one that was active.
     void openRequested(const OpenRequest &request);
-    /// Whether files can still be opened: not while it is being asked whether to quit.
+    /// Whether files can still be opened: not while it is being asked whether to quit, nor after.
     [[nodiscard]] bool mayOpen() const;
     /// Shows what programs that ended too early have left, if there is anything. Returns whether.
     bool showUnsavedLists();
-    void openRecoveryFolder();
+    /// Shows what is kept of changes in the desktop's own way, and a failure at that document.
+    void openRecoveryFolder(TLLDocument &asking);
     /// Opens what can be mended of a damaged file as an untitled document.
     void openRepairedCopy(const TLLDocument &damaged);
-    /// Opens the bytes of a list as an untitled document, for which that place is suggested.
-    void openVersion(const QByteArray &bytes, const QString &suggestedPath);
+    /// Opens the bytes of a list as an untitled document, for which that place is suggested. A
+    /// failure is shown at the document that they are an earlier version of.
+    void openVersion(const QByteArray &bytes, const QString &suggestedPath, TLLDocument &later);
     /// What is used instead of the desktop's own services; must outlive the delegate.
     void setSystemServices(SystemServices &services) { m_services = &services; }
     /// Shows the start page of the user guide, in the help window or, when the program came without
@@ -82,10 +83,8 @@ private:
     [[nodiscard]] std::unique_ptr<TLLDocument> makeDocument();
     /// Opens the files; the last of those that are open now, none when there is none.
     Document *open(const QStringList &paths);
-    /// The open document whose window was active last, or any; null when none is open.
-    [[nodiscard]] const Document *lastActive() const;
-    /// Opens what can be brought back. Returns why that failed; empty when it did not.
-    [[nodiscard]] QString bringBack(RecoveryStore::Leftover &leftover);
+    /// Whether the person has one to go on in: of a document, or the sheet of unsaved lists.
+    [[nodiscard]] bool hasWindow() const;
     /// Takes over what is being typed.
     void commitEditing();
     /// Has the questions answered before the person logs out, as far as the session lets us ask.
@@ -100,9 +99,9 @@ private:
     QStringList m_helpArguments;
     std::unique_ptr<HelpBrowser> m_inAppBrowserWindow;
     DocumentController m_documents;
-    QPointer<Document> m_lastActive;
-    std::unique_ptr<RecoveryKeeper> m_recovery; ///< null: nothing is kept
-    QPointer<RecoveryDialog> m_unsavedLists;
+    std::unique_ptr<RecoveryKeeper> m_recovery;   ///< null: nothing is kept
+    std::unique_ptr<UnsavedLists> m_unsavedLists; ///< null like that
+    bool m_isEnding = false;                      ///< nothing stands in the way any more
 };
 
 } // namespace quillet

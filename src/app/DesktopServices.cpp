@@ -26,9 +26,9 @@ QStringList usualApplications()
 
 } // namespace
 
-void DesktopServices::openUrl(const QUrl &url)
+bool DesktopServices::openUrl(const QUrl &url)
 {
-    QDesktopServices::openUrl(url);
+    return QDesktopServices::openUrl(url);
 }
 
 void DesktopServices::openUrlWith(const QUrl &url, const QString &application)

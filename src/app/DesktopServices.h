@@ -9,7 +9,7 @@ namespace quillet {
 class DesktopServices : public SystemServices
 {
 public:
-    void openUrl(const QUrl &url) override;
+    bool openUrl(const QUrl &url) override;
     void openUrlWith(const QUrl &url, const QString &application) override;
     [[nodiscard]] std::optional<QString> findChrome() const override;
 };

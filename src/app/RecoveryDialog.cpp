@@ -2,14 +2,14 @@
 
 #include "editor/RoomyCells.h"
 #include "files/FileNames.h"
+#include "files/Places.h"
 #include "files/ShownPath.h"
 #include "framework/Mnemonics.h"
 #include "framework/PlainToolTip.h"
 #include "framework/Prompts.h"
 
-#include <QDialogButtonBox>
 #include <QFileInfo>
-#include <QGuiApplication>
+#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLocale>
@@ -29,6 +29,24 @@ namespace {
 enum Column { Name, Folder, LastChange, Changes };
 constexpr std::array columnTitles{"kRecoveryName", "kRecoveryFolder", "kRecoveryTime",
                                   "kRecoveryChanges"};
+
+/// What the list was called; empty when that cannot be read.
+QString nameOf(const RecoveryStore::Leftover &leftover)
+{
+    if (!leftover.state)
+        return {};
+    const QString &place = leftover.state->place();
+    return place.isEmpty() ? qtTrId("kUntitled") : shownPath(QFileInfo(place).fileName());
+}
+
+/// An untitled list lies in none yet.
+QString folderOf(const RecoveryStore::Leftover &leftover)
+{
+    if (!leftover.state)
+        return leftover.folder->path();
+    const QString &path = leftover.state->path;
+    return path.isEmpty() ? QString() : QFileInfo(path).path();
+}
 
 /// Where a person finds what cannot be brought back.
 QString detailOf(const RecoveryStore::Leftover &leftover)
@@ -58,14 +76,19 @@ RecoveryDialog::RecoveryDialog(std::vector<RecoveryStore::Leftover> leftovers, P
 
     const QStringList titles =
         withMnemonics({qtTrId("kBringBack"), qtTrId("kLater"), qtTrId("kDiscard")});
-    auto *buttons = new QDialogButtonBox;
-    m_bringBackButton = buttons->addButton(titles[0], QDialogButtonBox::AcceptRole);
+    m_bringBackButton = new QPushButton(titles[0]);
     m_bringBackButton->setObjectName(QStringLiteral("bringBack"));
     m_bringBackButton->setDefault(true);
-    QPushButton *later = buttons->addButton(titles[1], QDialogButtonBox::RejectRole);
+    auto *later = new QPushButton(titles[1]);
     later->setObjectName(QStringLiteral("later"));
-    m_discardButton = buttons->addButton(titles[2], QDialogButtonBox::DestructiveRole);
+    m_discardButton = new QPushButton(titles[2]);
     m_discardButton->setObjectName(QStringLiteral("discard"));
+    // Every platform's own order has what throws away next to the default button.
+    auto *buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(m_bringBackButton);
+    buttons->addWidget(later);
+    buttons->addWidget(m_discardButton);
 
     makeRows();
     auto *rows = new QVBoxLayout(this);
@@ -73,7 +96,7 @@ RecoveryDialog::RecoveryDialog(std::vector<RecoveryStore::Leftover> leftovers, P
     rows->addWidget(message);
     rows->addWidget(m_list, 1);
     rows->addWidget(m_detail);
-    rows->addWidget(buttons);
+    rows->addLayout(buttons);
     connect(m_bringBackButton, &QPushButton::clicked, this, &RecoveryDialog::bringBackChosen);
     connect(later, &QPushButton::clicked, this, &RecoveryDialog::reject);
     connect(m_discardButton, &QPushButton::clicked, this, &RecoveryDialog::askToDiscard);
@@ -100,6 +123,7 @@ void RecoveryDialog::makeRows()
         titles.append(qtTrId(id));
     m_list->setColumnCount(static_cast<int>(titles.size()));
     m_list->setHorizontalHeaderLabels(titles);
+    m_list->horizontalHeaderItem(Changes)->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
     QHeaderView &header = *m_list->horizontalHeader();
     header.setHighlightSections(false);
     header.setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
@@ -113,16 +137,6 @@ void RecoveryDialog::makeRows()
 /// What can be brought back is selected to begin with.
 void RecoveryDialog::addRow(const RecoveryStore::Leftover &leftover)
 {
-    const QString place = leftover.state ? leftover.state->place() : QString();
-    const QFileInfo file(place);
-    QString name = place.isEmpty() ? qtTrId("kUntitled") : shownPath(file.fileName());
-    QString folder = place.isEmpty() ? QString() : file.path();
-    if (!leftover.state) {
-        name = qtTrId("kRecoveryUnreadable");
-        folder = leftover.folder->path();
-    } else if (!leftover.problem.isEmpty()) {
-        name += QStringLiteral(u" \u2014 ") + qtTrId("kRecoveryUnreadable");
-    }
     const int row = m_list->rowCount();
     const auto put = [this, row](Column column, const QString &text) {
         auto *item = new QTableWidgetItem(text);
@@ -130,12 +144,14 @@ void RecoveryDialog::addRow(const RecoveryStore::Leftover &leftover)
         m_list->setItem(row, column, item);
     };
     m_list->insertRow(row);
-    put(Name, name);
-    put(Folder, shownPath(shortPath(folder)));
+    put(Name, {});
+    showName(row);
+    put(Folder, shownPath(shortPath(folderOf(leftover))));
     if (leftover.state) {
         const QLocale locale;
         put(LastChange, locale.toString(leftover.state->changedAt, QLocale::ShortFormat));
         put(Changes, locale.toString(leftover.state->changes));
+        m_list->item(row, Changes)->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
     }
     if (row == 0)
         m_list->setCurrentCell(0, Name, QItemSelectionModel::NoUpdate);
@@ -144,10 +160,23 @@ void RecoveryDialog::addRow(const RecoveryStore::Leftover &leftover)
                                          QItemSelectionModel::Select | QItemSelectionModel::Rows);
 }
 
+/// With the word for what cannot be brought back, as soon as that is known.
+void RecoveryDialog::showName(int row)
+{
+    const RecoveryStore::Leftover &leftover = leftoverAt(row);
+    QString name = nameOf(leftover);
+    if (name.isEmpty())
+        name = qtTrId("kRecoveryUnreadable");
+    else if (!leftover.problem.isEmpty())
+        name += QStringLiteral(u" \u2014 ") + qtTrId("kRecoveryUnreadable");
+    m_list->item(row, Name)->setText(name);
+    m_list->item(row, Name)->setToolTip(plainToolTip(name));
+}
+
 std::vector<int> RecoveryDialog::chosen() const
 {
     std::vector<int> rows;
-    for (int row = m_list->rowCount() - 1; row >= 0; --row) {
+    for (int row = 0; row < m_list->rowCount(); ++row) {
         if (m_list->item(row, Name)->isSelected())
             rows.push_back(row);
     }
@@ -159,22 +188,33 @@ RecoveryStore::Leftover &RecoveryDialog::leftoverAt(int row)
     return m_leftovers.at(static_cast<std::size_t>(row));
 }
 
+/// Of several states of one file the latest comes back.
 void RecoveryDialog::bringBackChosen()
 {
     QStringList failures;
+    QStringList paths;
+    std::vector<int> done;
     for (const int row : chosen()) {
         RecoveryStore::Leftover &leftover = leftoverAt(row);
         if (!leftover.problem.isEmpty())
             continue;
-        const QString reason = m_bringBack(leftover);
-        if (reason.isEmpty())
-            removeRow(row);
-        else
-            failures.append(m_list->item(row, Name)->text() + QLatin1String(": ") + reason);
+        const QString name = nameOf(leftover);
+        const QString path = leftover.state->path;
+        const bool isOlder = std::any_of(paths.begin(), paths.end(), [&path](const QString &each) {
+            return samePlace(each, path);
+        });
+        const QString reason = isOlder ? qtTrId("kRecoveryOlderReason") : m_bringBack(leftover);
+        if (reason.isEmpty()) {
+            done.push_back(row);
+            paths.append(path);
+        } else {
+            failures.append(name + QLatin1String(": ") + reason);
+            showName(row);
+        }
     }
+    removeRows(done);
     if (m_leftovers.empty())
         return accept();
-    showState();
     raise();
     activateWindow();
     if (failures.isEmpty())
@@ -191,10 +231,14 @@ void RecoveryDialog::askToDiscard()
     enum { Cancel, Discard };
     const std::vector<int> rows = chosen();
     const auto count = static_cast<int>(rows.size());
+    const QString name = nameOf(leftoverAt(rows[0]));
     Alert alert;
-    alert.message = count == 1
-                        ? qtTrId("kDiscardOneMessage").arg(m_list->item(rows[0], Name)->text())
-                        : qtTrId("kDiscardSomeMessage", count);
+    if (count > 1)
+        alert.message = qtTrId("kDiscardSomeMessage", count);
+    else if (name.isEmpty())
+        alert.message = qtTrId("kDiscardUnreadableMessage");
+    else
+        alert.message = qtTrId("kDiscardOneMessage").arg(name);
     alert.informativeText = qtTrId("kDiscardText");
     alert.buttons = {qtTrId("kCancel"), qtTrId("kDiscard")};
     alert.cancelButton = Cancel;
@@ -208,20 +252,26 @@ void RecoveryDialog::askToDiscard()
 /// Nothing else can be selected while the question is open.
 void RecoveryDialog::discardChosen()
 {
-    for (const int row : chosen()) {
+    const std::vector<int> rows = chosen();
+    for (const int row : rows)
         leftoverAt(row).folder->remove();
-        removeRow(row);
-    }
+    removeRows(rows);
     if (m_leftovers.empty())
-        return accept();
-    showState();
+        accept();
 }
 
-void RecoveryDialog::removeRow(int row)
+void RecoveryDialog::removeRows(const std::vector<int> &rows)
 {
-    const QSignalBlocker quiet(m_list); // until both are without the row
-    m_leftovers.erase(m_leftovers.begin() + row);
-    m_list->removeRow(row);
+    {
+        const QSignalBlocker quiet(m_list); // until both are without the rows
+        for (auto row = rows.rbegin(); row != rows.rend(); ++row) {
+            m_leftovers.erase(m_leftovers.begin() + *row);
+            m_list->removeRow(*row);
+        }
+    }
+    if (!m_leftovers.empty() && !rows.empty() && chosen().empty())
+        m_list->selectRow(std::min(rows.front(), m_list->rowCount() - 1));
+    showState();
 }
 
 void RecoveryDialog::showState()

@@ -34,13 +34,15 @@ public:
 private:
     void makeRows();
     void addRow(const RecoveryStore::Leftover &leftover);
-    /// Of the rows that are selected, from the last one.
+    void showName(int row);
+    /// Of the rows that are selected, from the first one: the latest change comes first.
     [[nodiscard]] std::vector<int> chosen() const;
     [[nodiscard]] RecoveryStore::Leftover &leftoverAt(int row);
     void bringBackChosen();
     void askToDiscard();
     void discardChosen();
-    void removeRow(int row);
+    /// Takes rows, in that order, out of the list, and selects a neighbour if none is then.
+    void removeRows(const std::vector<int> &rows);
     void showState();
 
     std::vector<RecoveryStore::Leftover> m_leftovers; ///< one a row

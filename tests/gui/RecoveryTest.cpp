@@ -3,6 +3,7 @@
 #include "app/DesktopServices.h"
 #include "document/TLLDocument.h"
 #include "files/FileOperations.h"
+#include "framework/WindowController.h"
 #include "testing/TLLText.h"
 #include "testing/TestMain.h"
 
@@ -10,9 +11,12 @@
 #include <QAction>
 #include <QDialog>
 #include <QDir>
+#include <QEventLoop>
 #include <QLabel>
+#include <QMenu>
 #include <QTableWidget>
 #include <QTest>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -168,6 +172,7 @@ private slots:
             press("discard");
             QTRY_COMPARE(leftovers().rowCount(), 1);
             QVERIFY(leftovers().item(0, 0)->text() != name);
+            QVERIFY(part<QAbstractButton>(*dialog(), "bringBack").isEnabled());
         }
         QCOMPARE(m_store->leftovers().size(), std::size_t{1});
     }
@@ -176,7 +181,11 @@ private slots:
     {
         struct Desktop : DesktopServices
         {
-            void openUrl(const QUrl &url) override { opened = url; }
+            bool openUrl(const QUrl &url) override
+            {
+                opened = url;
+                return false; // there is nothing to show folders with
+            }
             QUrl opened;
         } desktop;
         Run run(*m_store);
@@ -186,6 +195,8 @@ private slots:
         menuItem(*window, "openRecoveryFolder").trigger();
         QCOMPARE(desktop.opened, QUrl::fromLocalFile(m_store->root()));
         QVERIFY(QDir(m_store->root()).exists());
+        QVERIFY(run.preset.lastText().contains(m_store->root()));
+        QCOMPARE(run.preset.alerts().back().window, window);
     }
 
     void damagedOnesAreShownAndKept()
@@ -198,6 +209,7 @@ private slots:
         press("bringBack");
         QVERIFY(run.delegate.documents().documents().empty());
         QVERIFY(run.preset.lastText().contains(label("kRecoveryDamagedReason")));
+        QVERIFY(leftovers().item(0, 0)->text().contains(label("kRecoveryUnreadable")));
         QVERIFY(part<QLabel>(*dialog(), "recoveryDetail").text().contains(folder));
         QVERIFY(!part<QAbstractButton>(*dialog(), "bringBack").isEnabled());
         press("later");
@@ -229,14 +241,47 @@ private slots:
         QTRY_VERIFY(QDir(m_store->root()).isEmpty());
     }
 
+    void latestOfOneFileComesBack()
+    {
+        for (const int stations : {3, 4})
+            leave({pathOf("a.tll")}, stations);
+        Run run(*m_store);
+        run.delegate.applicationDidFinishLaunching({});
+        press("bringBack");
+        QCOMPARE(run.document(0).stationCount(), 4);
+        QCOMPARE(leftovers().rowCount(), 1);
+        QVERIFY(run.preset.lastText().contains(label("kRecoveryOlderReason")));
+    }
+
+    void programStaysForTheSheet()
+    {
+        leave({pathOf("a.tll")});
+        Run run(*m_store);
+        run.delegate.applicationDidFinishLaunching({run.write("b.tll", listOf(1))});
+        QMainWindow *window = run.document(0).windowControllers().front()->window();
+        emit part<QMenu>(*window, "fileMenu").aboutToShow();
+        QVERIFY(menuItem(*window, "showUnsavedLists").isVisible());
+        window->close();
+        QVERIFY(run.delegate.documents().documents().empty());
+        QEventLoop loop;
+        QTimer::singleShot(0, &loop, [&loop] { loop.exit(1); });
+        QCOMPARE(loop.exec(), 1); // the end of the program would have been sooner
+        QVERIFY(run.delegate.mayOpen());
+        press("later");
+        QVERIFY(run.window());
+        run.delegate.showUnsavedLists();
+        run.delegate.terminate();
+        QVERIFY(!run.delegate.mayOpen());
+    }
+
 private:
     /// Leaves the files, changed, as a run that is killed.
-    void leave(const QStringList &paths) const
+    void leave(const QStringList &paths, int stations = 3) const
     {
         Run run(*m_store);
         for (const QString &path : paths) {
-            writeFile(path, listOf(3));
-            run.delegate.applicationDidFinishLaunching({path});
+            writeFile(path, listOf(stations));
+            run.delegate.documents().openDocument(QUrl::fromLocalFile(path));
             changeFirst(*run.window(run.delegate.documents().documents().size()));
         }
     }

@@ -14,7 +14,7 @@ public:
     virtual ~SystemServices() = default;
 
     /// Opens the address with whatever program the desktop has for it.
-    virtual void openUrl(const QUrl &url) = 0;
+    virtual bool openUrl(const QUrl &url) = 0;
     /// Opens the address with that program.
     virtual void openUrlWith(const QUrl &url, const QString &application) = 0;
     /// Where the Chrome browser is installed; none when it is not.

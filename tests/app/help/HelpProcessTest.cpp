@@ -26,7 +26,11 @@ const QUrl page(u"file:///guide/a%20page.html"_s);
 class FakeServices : public SystemServices
 {
 public:
-    void openUrl(const QUrl &url) override { opened.append(url); }
+    bool openUrl(const QUrl &url) override
+    {
+        opened.append(url);
+        return true;
+    }
     void openUrlWith(const QUrl &, const QString &) override {}
     [[nodiscard]] std::optional<QString> findChrome() const override { return {}; }
 

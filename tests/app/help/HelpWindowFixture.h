@@ -28,7 +28,11 @@ inline const QString givenTitle = QStringLiteral("The Guide");
 class FakeServices : public SystemServices
 {
 public:
-    void openUrl(const QUrl &url) override { opened.append(url); }
+    bool openUrl(const QUrl &url) override
+    {
+        opened.append(url);
+        return true;
+    }
     void openUrlWith(const QUrl &url, const QString &application) override
     {
         openedWith.append({url, application});

@@ -222,6 +222,10 @@
         <source></source>
         <translation>Suche leeren</translation>
     </message>
+    <message id="kClose">
+        <source></source>
+        <translation>Schließen</translation>
+    </message>
     <message id="kCloseUnsaved">
         <source></source>
         <translation>Schließen, ohne zu speichern</translation>
@@ -1176,6 +1180,10 @@
         <source></source>
         <translation>Zurückholen</translation>
     </message>
+    <message id="kPutBackFailed">
+        <source></source>
+        <translation>Die Version konnte nicht zurückgeholt werden.</translation>
+    </message>
     <message id="kPutBackOthers">
         <source></source>
         <translation>Ihre Sender sind nicht Stück für Stück dieselben wie jetzt in der Liste; sie lässt sich nur öffnen.</translation>
@@ -1616,6 +1624,10 @@ Diese folgen ab Nummer: %3</translation>
         <source></source>
         <translation>Es gibt nicht genug Sender zum Anordnen</translation>
     </message>
+    <message id="kTipVersionStations">
+        <source></source>
+        <translation>In der ganzen Datei: TV und Radio, aus allen Quellen</translation>
+    </message>
     <message id="kToldArranged" numerus="yes">
         <source></source>
         <translation>
@@ -1873,7 +1885,7 @@ Diese folgen ab Nummer: %3</translation>
     </message>
     <message id="kVersionStations">
         <source></source>
-        <translation>Sender</translation>
+        <translation>Alle Sender</translation>
     </message>
     <message id="kVersionsTitle">
         <source></source>

@@ -222,6 +222,10 @@
         <source></source>
         <translation>Clear search</translation>
     </message>
+    <message id="kClose">
+        <source></source>
+        <translation>Close</translation>
+    </message>
     <message id="kCloseUnsaved">
         <source></source>
         <translation>Close Without Saving</translation>
@@ -1176,6 +1180,10 @@
         <source></source>
         <translation>Put Back</translation>
     </message>
+    <message id="kPutBackFailed">
+        <source></source>
+        <translation>The version could not be put back.</translation>
+    </message>
     <message id="kPutBackOthers">
         <source></source>
         <translation>Its stations are not the same one to one as those in the list now, so it can only be opened.</translation>
@@ -1616,6 +1624,10 @@ These go on from number: %3</translation>
         <source></source>
         <translation>There are not enough stations to arrange</translation>
     </message>
+    <message id="kTipVersionStations">
+        <source></source>
+        <translation>In the whole file: TV and radio, of every source</translation>
+    </message>
     <message id="kToldArranged" numerus="yes">
         <source></source>
         <translation>
@@ -1873,7 +1885,7 @@ These go on from number: %3</translation>
     </message>
     <message id="kVersionStations">
         <source></source>
-        <translation>Stations</translation>
+        <translation>All Stations</translation>
     </message>
     <message id="kVersionsTitle">
         <source></source>

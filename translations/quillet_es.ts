@@ -222,6 +222,10 @@
         <source></source>
         <translation>Borrar la búsqueda</translation>
     </message>
+    <message id="kClose">
+        <source></source>
+        <translation>Cerrar</translation>
+    </message>
     <message id="kCloseUnsaved">
         <source></source>
         <translation>Cerrar sin guardar</translation>
@@ -1176,6 +1180,10 @@
         <source></source>
         <translation>Recuperar</translation>
     </message>
+    <message id="kPutBackFailed">
+        <source></source>
+        <translation>No se ha podido recuperar la versión.</translation>
+    </message>
     <message id="kPutBackOthers">
         <source></source>
         <translation>Sus canales no son uno a uno los que hay ahora en la lista; solo se puede abrir.</translation>
@@ -1616,6 +1624,10 @@ Estos continúan a partir del número: %3</translation>
         <source></source>
         <translation>No hay suficientes canales que ordenar</translation>
     </message>
+    <message id="kTipVersionStations">
+        <source></source>
+        <translation>En todo el archivo: TV y radio, de todas las fuentes</translation>
+    </message>
     <message id="kToldArranged" numerus="yes">
         <source></source>
         <translation>
@@ -1873,7 +1885,7 @@ Estos continúan a partir del número: %3</translation>
     </message>
     <message id="kVersionStations">
         <source></source>
-        <translation>Canales</translation>
+        <translation>Todos los canales</translation>
     </message>
     <message id="kVersionsTitle">
         <source></source>

@@ -222,6 +222,10 @@
         <source></source>
         <translation>Effacer la recherche</translation>
     </message>
+    <message id="kClose">
+        <source></source>
+        <translation>Fermer</translation>
+    </message>
     <message id="kCloseUnsaved">
         <source></source>
         <translation>Fermer sans enregistrer</translation>
@@ -1176,6 +1180,10 @@
         <source></source>
         <translation>Rétablir</translation>
     </message>
+    <message id="kPutBackFailed">
+        <source></source>
+        <translation>La version n’a pas pu être rétablie.</translation>
+    </message>
     <message id="kPutBackOthers">
         <source></source>
         <translation>Ses chaînes ne sont pas exactement celles de la liste actuelle ; elle peut seulement être ouverte.</translation>
@@ -1616,6 +1624,10 @@ Ces dernières suivent à partir du numéro : %3</translation>
         <source></source>
         <translation>Il n’y a pas assez de chaînes à classer</translation>
     </message>
+    <message id="kTipVersionStations">
+        <source></source>
+        <translation>Dans tout le fichier : TV et radio, de toutes les sources</translation>
+    </message>
     <message id="kToldArranged" numerus="yes">
         <source></source>
         <translation>
@@ -1873,7 +1885,7 @@ Ces dernières suivent à partir du numéro : %3</translation>
     </message>
     <message id="kVersionStations">
         <source></source>
-        <translation>Chaînes</translation>
+        <translation>Toutes les chaînes</translation>
     </message>
     <message id="kVersionsTitle">
         <source></source>

@@ -222,6 +222,10 @@
         <source></source>
         <translation>Azzera la ricerca</translation>
     </message>
+    <message id="kClose">
+        <source></source>
+        <translation>Chiudi</translation>
+    </message>
     <message id="kCloseUnsaved">
         <source></source>
         <translation>Chiudi senza salvare</translation>
@@ -1176,6 +1180,10 @@
         <source></source>
         <translation>Ripristina</translation>
     </message>
+    <message id="kPutBackFailed">
+        <source></source>
+        <translation>Impossibile ripristinare la versione.</translation>
+    </message>
     <message id="kPutBackOthers">
         <source></source>
         <translation>I suoi canali non sono uno per uno gli stessi della lista attuale; si può soltanto aprire.</translation>
@@ -1616,6 +1624,10 @@ Questi proseguono dal numero: %3</translation>
         <source></source>
         <translation>Non ci sono abbastanza canali da ordinare</translation>
     </message>
+    <message id="kTipVersionStations">
+        <source></source>
+        <translation>In tutto il file: TV e radio, di ogni sorgente</translation>
+    </message>
     <message id="kToldArranged" numerus="yes">
         <source></source>
         <translation>
@@ -1873,7 +1885,7 @@ Questi proseguono dal numero: %3</translation>
     </message>
     <message id="kVersionStations">
         <source></source>
-        <translation>Canali</translation>
+        <translation>Tutti i canali</translation>
     </message>
     <message id="kVersionsTitle">
         <source></source>

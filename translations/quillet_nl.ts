@@ -222,6 +222,10 @@
         <source></source>
         <translation>Zoekopdracht wissen</translation>
     </message>
+    <message id="kClose">
+        <source></source>
+        <translation>Sluiten</translation>
+    </message>
     <message id="kCloseUnsaved">
         <source></source>
         <translation>Sluiten zonder op te slaan</translation>
@@ -1176,6 +1180,10 @@
         <source></source>
         <translation>Terugzetten</translation>
     </message>
+    <message id="kPutBackFailed">
+        <source></source>
+        <translation>De versie kon niet worden teruggezet.</translation>
+    </message>
     <message id="kPutBackOthers">
         <source></source>
         <translation>De zenders zijn niet één voor één dezelfde als nu in de lijst; ze kan alleen worden geopend.</translation>
@@ -1616,6 +1624,10 @@ Deze gaan verder vanaf nummer: %3</translation>
         <source></source>
         <translation>Er zijn niet genoeg zenders om te rangschikken</translation>
     </message>
+    <message id="kTipVersionStations">
+        <source></source>
+        <translation>In het hele bestand: tv en radio, van alle bronnen</translation>
+    </message>
     <message id="kToldArranged" numerus="yes">
         <source></source>
         <translation>
@@ -1873,7 +1885,7 @@ Deze gaan verder vanaf nummer: %3</translation>
     </message>
     <message id="kVersionStations">
         <source></source>
-        <translation>Zenders</translation>
+        <translation>Alle zenders</translation>
     </message>
     <message id="kVersionsTitle">
         <source></source>

@@ -227,6 +227,10 @@
         <source></source>
         <translation>Wyczyść wyszukiwanie</translation>
     </message>
+    <message id="kClose">
+        <source></source>
+        <translation>Zamknij</translation>
+    </message>
     <message id="kCloseUnsaved">
         <source></source>
         <translation>Zamknij bez zapisywania</translation>
@@ -1199,6 +1203,10 @@
         <source></source>
         <translation>Przywróć</translation>
     </message>
+    <message id="kPutBackFailed">
+        <source></source>
+        <translation>Nie można przywrócić wersji.</translation>
+    </message>
     <message id="kPutBackOthers">
         <source></source>
         <translation>Jej kanały nie są dokładnie tymi samymi, które są teraz na liście; można ją tylko otworzyć.</translation>
@@ -1653,6 +1661,10 @@ Te następują od numeru: %3</translation>
         <source></source>
         <translation>Jest za mało kanałów do uporządkowania</translation>
     </message>
+    <message id="kTipVersionStations">
+        <source></source>
+        <translation>W całym pliku: TV i radio, ze wszystkich źródeł</translation>
+    </message>
     <message id="kToldArranged" numerus="yes">
         <source></source>
         <translation>
@@ -1923,7 +1935,7 @@ Te następują od numeru: %3</translation>
     </message>
     <message id="kVersionStations">
         <source></source>
-        <translation>Kanały</translation>
+        <translation>Wszystkie kanały</translation>
     </message>
     <message id="kVersionsTitle">
         <source></source>

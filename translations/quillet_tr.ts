@@ -217,6 +217,10 @@
         <source></source>
         <translation>Aramayı temizle</translation>
     </message>
+    <message id="kClose">
+        <source></source>
+        <translation>Kapat</translation>
+    </message>
     <message id="kCloseUnsaved">
         <source></source>
         <translation>Kaydetmeden Kapat</translation>
@@ -1153,6 +1157,10 @@
         <source></source>
         <translation>Geri Getir</translation>
     </message>
+    <message id="kPutBackFailed">
+        <source></source>
+        <translation>Sürüm geri getirilemedi.</translation>
+    </message>
     <message id="kPutBackOthers">
         <source></source>
         <translation>Kanalları şu anda listede olanlarla birebir aynı değil; yalnızca açılabilir.</translation>
@@ -1579,6 +1587,10 @@ Bunların devam ettiği numara: %3</translation>
         <source></source>
         <translation>Sıralamak için yeterli kanal yok</translation>
     </message>
+    <message id="kTipVersionStations">
+        <source></source>
+        <translation>Dosyanın tamamında: TV ve radyo, bütün kaynaklar</translation>
+    </message>
     <message id="kToldArranged" numerus="yes">
         <source></source>
         <translation>
@@ -1823,7 +1835,7 @@ Bunların devam ettiği numara: %3</translation>
     </message>
     <message id="kVersionStations">
         <source></source>
-        <translation>Kanallar</translation>
+        <translation>Tüm Kanallar</translation>
     </message>
     <message id="kVersionsTitle">
         <source></source>

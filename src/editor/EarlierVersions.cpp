@@ -3,12 +3,17 @@
 #include "document/TLLDocument.h"
 #include "document/read/ListReading.h"
 #include "editor/ComparisonTexts.h"
+#include "editor/ViewController.h"
 
 #include <QFileInfo>
 #include <QLocale>
-#include <QThread>
+#include <QMutex>
+#include <QMutexLocker>
+#include <QThreadPool>
 
+#include <algorithm>
 #include <new>
+#include <utility>
 
 namespace quillet {
 
@@ -51,7 +56,51 @@ QString pathOf(const TLLDocument &document)
     return document.fileUrl().toLocalFile();
 }
 
+QString shortText(const QDateTime &time, bool hasSeconds)
+{
+    const QLocale locale;
+    QString format = locale.dateTimeFormat(QLocale::ShortFormat);
+    const auto minutes = format.indexOf(QLatin1String("mm"));
+    const bool canAdd = minutes > 0 && !format.contains(QLatin1String("ss"));
+    if (hasSeconds && canAdd) // behind the sign that stands before the minutes
+        format.insert(minutes + 2, format[minutes - 1] + QLatin1String("ss"));
+    return locale.toString(time.toLocalTime(), format);
+}
+
+bool lookAlike(const std::vector<Row> &rows)
+{
+    QStringList times;
+    for (const Row &row : rows) {
+        if (row.version.time.isValid())
+            times.append(shortText(row.version.time, false));
+    }
+    return times.removeDuplicates() > 0;
+}
+
 } // namespace
+
+/// What the thread knows of the object, which may go first.
+struct EarlierVersions::Link
+{
+    QMutex mutex;
+    EarlierVersions *target; ///< null: nobody wants to hear any more
+
+    [[nodiscard]] bool isWanted()
+    {
+        const QMutexLocker lock(&mutex);
+        return target;
+    }
+    void tell(std::size_t i, const Row &row)
+    {
+        const QMutexLocker lock(&mutex);
+        const auto take = [versions = target, i, row] {
+            versions->m_rows[i] = row;
+            emit versions->rowRead(static_cast<int>(i));
+        };
+        if (target)
+            QMetaObject::invokeMethod(target, take, Qt::QueuedConnection);
+    }
+};
 
 EarlierVersions::EarlierVersions(const TLLDocument &document, QObject *parent)
     : QObject(parent), m_document(document), m_store(document.versionStore())
@@ -60,15 +109,18 @@ EarlierVersions::EarlierVersions(const TLLDocument &document, QObject *parent)
         return;
     for (const KeptVersion &version : m_store->versionsOf(pathOf(document)))
         m_rows.push_back({.version = version});
+    m_showsSeconds = lookAlike(m_rows);
+    m_link = std::make_shared<Link>();
+    m_link->target = this;
     readAll();
 }
 
 EarlierVersions::~EarlierVersions()
 {
-    if (!m_reader)
+    if (!m_link)
         return;
-    m_reader->requestInterruption();
-    m_reader->wait();
+    const QMutexLocker lock(&m_link->mutex);
+    m_link->target = nullptr;
 }
 
 bool EarlierVersions::hasAny(const TLLDocument &document)
@@ -80,27 +132,18 @@ bool EarlierVersions::hasAny(const TLLDocument &document)
 /// The thread has everything that it reads for itself.
 void EarlierVersions::readAll()
 {
-    const auto read = [this, store = *m_store, rows = m_rows, now = copyOf(m_document.lists()),
-                       isLegacyFormat = m_document.isLegacyFormat()] {
-        for (std::size_t i = 0; i < rows.size(); ++i) {
-            if (QThread::currentThread()->isInterruptionRequested())
-                return;
-            const auto take = [this, i, row = readRow(store, rows[i], now, isLegacyFormat)] {
-                m_rows[i] = row;
-                emit rowRead(static_cast<int>(i));
-            };
-            QMetaObject::invokeMethod(this, take, Qt::QueuedConnection);
-        }
+    auto read = [link = m_link, store = *m_store, rows = m_rows, now = copyOf(m_document.lists()),
+                 isLegacyFormat = m_document.isLegacyFormat()] {
+        for (std::size_t i = 0; i < rows.size() && link->isWanted(); ++i)
+            link->tell(i, readRow(store, rows[i], now, isLegacyFormat));
     };
-    m_reader.reset(QThread::create(read));
-    m_reader->start(QThread::LowPriority);
+    QThreadPool::globalInstance()->start(std::move(read)); // whose end the program waits for
 }
 
 QString EarlierVersions::timeText(std::size_t row) const
 {
     const QDateTime &time = m_rows[row].version.time;
-    return time.isValid() ? QLocale().toString(time.toLocalTime(), QLocale::ShortFormat)
-                          : qtTrId("kVersionTimeUnknown");
+    return time.isValid() ? shortText(time, m_showsSeconds) : qtTrId("kVersionTimeUnknown");
 }
 
 QString EarlierVersions::differenceText(std::size_t row) const
@@ -131,16 +174,28 @@ QString EarlierVersions::reasonAgainstPuttingBack(std::size_t row) const
 
 bool EarlierVersions::readBytes(std::size_t row, QByteArray &bytes, Error &error) const
 {
-    return m_store->read(m_rows[row].version, bytes, error);
+    try {
+        return m_store->read(m_rows[row].version, bytes, error);
+    } catch (const std::bad_alloc &) {
+        error = {QStringLiteral("EarlierVersions"), 1, qtTrId("kNoMemoryReason"), {}};
+    }
+    return false;
 }
 
-std::optional<ChannelList> EarlierVersions::readList(std::size_t row) const
+QString EarlierVersions::putBack(std::size_t row, ViewController &controller) const
 {
     QByteArray bytes;
-    Error unused;
-    if (!readBytes(row, bytes, unused))
-        return {};
-    return channelListFromBytes(bytes);
+    Error error;
+    if (!readBytes(row, bytes, error))
+        return error.text();
+    try {
+        const std::optional<ChannelList> list = channelListFromBytes(bytes);
+        if (!list)
+            return qtTrId("kContentUnknownReason");
+        return controller.putBack(*list, timeText(row)) ? QString() : qtTrId("kPutBackOthers");
+    } catch (const std::bad_alloc &) {
+        return qtTrId("kNoMemoryReason");
+    }
 }
 
 QString EarlierVersions::suggestedPath(std::size_t row) const
@@ -149,7 +204,7 @@ QString EarlierVersions::suggestedPath(std::size_t row) const
     const QDateTime time = m_rows[row].version.time.toLocalTime();
     QString path = file.path() + u'/' + file.completeBaseName();
     if (time.isValid())
-        path += u'-' + time.date().toString(Qt::ISODate);
+        path += time.toString(QStringLiteral("-yyyy-MM-dd-HHmmss"));
     return file.suffix().isEmpty() ? path : path + u'.' + file.suffix();
 }
 

@@ -7,20 +7,17 @@
 #include <QString>
 
 #include <memory>
-#include <optional>
 #include <vector>
-
-class QThread;
 
 namespace quillet {
 
-struct ChannelList;
 class TLLDocument;
+class ViewController;
 
 /// The versions that are kept of a document's file, the newest first, and how each differs from the
 /// list as it is when this is made. The rows are there at once; what they hold is read on another
-/// thread and told row by row. Changes nothing. Owned by the window that lists them; the document
-/// and its store must outlive it.
+/// thread and told row by row. Changes nothing but by the controller that it is given. Owned by the
+/// window that lists them; the document and its store must outlive it.
 class EarlierVersions : public QObject
 {
     Q_OBJECT
@@ -43,14 +40,14 @@ public:
     };
 
     explicit EarlierVersions(const TLLDocument &document, QObject *parent = nullptr);
-    /// Waits until the version that is being read was read.
+    /// Waits for nothing: the thread ends by itself, behind the version that it is reading.
     ~EarlierVersions() override;
 
     /// Whether any are kept of the document's file.
     [[nodiscard]] static bool hasAny(const TLLDocument &document);
 
     [[nodiscard]] const std::vector<Row> &rows() const { return m_rows; }
-    /// When it was made, as people say it.
+    /// When it was made, as people say it; with seconds where rows would look the same otherwise.
     [[nodiscard]] QString timeText(std::size_t row) const;
     /// How it differs, or why that is not told.
     [[nodiscard]] QString differenceText(std::size_t row) const;
@@ -59,21 +56,25 @@ public:
     [[nodiscard]] QString reasonAgainstPuttingBack(std::size_t row) const;
 
     [[nodiscard]] bool readBytes(std::size_t row, QByteArray &bytes, Error &error) const;
-    /// None when it cannot be read any more.
-    [[nodiscard]] std::optional<ChannelList> readList(std::size_t row) const;
-    /// Where to suggest to save it as a file of its own: beside the document's, named by its day.
+    /// Has the controller, of the same document, put it back. Returns why that failed, in a
+    /// sentence; empty when it did not.
+    [[nodiscard]] QString putBack(std::size_t row, ViewController &controller) const;
+    /// Where to suggest to save it as a file of its own: beside the document's, named by its time.
     [[nodiscard]] QString suggestedPath(std::size_t row) const;
 
 signals:
     void rowRead(int row);
 
 private:
+    struct Link;
+
     void readAll();
 
     const TLLDocument &m_document;
     const VersionStore *m_store;
     std::vector<Row> m_rows;
-    std::unique_ptr<QThread> m_reader;
+    bool m_showsSeconds = false;
+    std::shared_ptr<Link> m_link; ///< to the thread that reads
 };
 
 } // namespace quillet

@@ -2,6 +2,7 @@
 
 #include "editor/RoomyCells.h"
 #include "editor/ViewController.h"
+#include "framework/Mnemonics.h"
 #include "framework/WaitCursor.h"
 
 #include <QDialogButtonBox>
@@ -11,8 +12,6 @@
 #include <QPushButton>
 #include <QTableWidget>
 #include <QVBoxLayout>
-
-#include <new>
 
 namespace quillet {
 
@@ -41,11 +40,14 @@ VersionsDialog::VersionsDialog(ViewController &controller, QWidget *parent)
     m_reason->setObjectName(QStringLiteral("versionReason"));
     m_reason->setAlignment(Qt::AlignTop);
     m_reason->setMinimumHeight(3 * fontMetrics().lineSpacing()); // so that nothing jumps
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close);
-    m_open = buttons->addButton(qtTrId("kVersionOpen"), QDialogButtonBox::ActionRole);
+    const QStringList titles =
+        withMnemonics({qtTrId("kVersionOpen"), qtTrId("kPutBack"), qtTrId("kClose")});
+    auto *buttons = new QDialogButtonBox;
+    m_open = buttons->addButton(titles[0], QDialogButtonBox::ActionRole);
     m_open->setObjectName(QStringLiteral("openVersion"));
-    m_putBack = buttons->addButton(qtTrId("kPutBack"), QDialogButtonBox::ActionRole);
+    m_putBack = buttons->addButton(titles[1], QDialogButtonBox::ActionRole);
     m_putBack->setObjectName(QStringLiteral("putBackVersion"));
+    buttons->addButton(titles[2], QDialogButtonBox::RejectRole);
     auto *column = new QVBoxLayout(this);
     column->addWidget(
         makeLabel(qtTrId("kVersionsIntro").arg(controller.stationDoc()->displayName())));
@@ -76,6 +78,9 @@ QTableWidget *VersionsDialog::makeList() const
     list->setAccessibleName(qtTrId("kVersionsTitle"));
     list->setHorizontalHeaderLabels({qtTrId("kVersionTime"), qtTrId("kVersionSize"),
                                      qtTrId("kVersionStations"), qtTrId("kVersionDifference")});
+    list->horizontalHeaderItem(Stations)->setToolTip(qtTrId("kTipVersionStations"));
+    for (const Column each : {Size, Stations})
+        list->horizontalHeaderItem(each)->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
     list->setSelectionBehavior(QAbstractItemView::SelectRows);
     list->setSelectionMode(QAbstractItemView::SingleSelection);
     list->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -108,7 +113,7 @@ void VersionsDialog::showRow(int row)
     m_list->item(row, Size)->setText(
         QLocale().formattedDataSize(shown.version.size, 1, QLocale::DataSizeSIFormat));
     if (shown.state == EarlierVersions::Row::State::Read)
-        m_list->item(row, Stations)->setText(QString::number(shown.stations));
+        m_list->item(row, Stations)->setText(QLocale().toString(shown.stations));
     const QString difference = m_versions.differenceText(index);
     m_list->item(row, Difference)->setText(difference);
     m_list->item(row, Difference)->setToolTip(difference);
@@ -154,23 +159,19 @@ void VersionsDialog::openChosen()
         m_controller.showError(error.text(), qtTrId("kLoadingProblem"));
 }
 
-/// What a row tells may have gone from the disk since.
 void VersionsDialog::putBackChosen()
 {
     const std::optional<std::size_t> row = chosen();
     if (!row)
         return;
-    const QString name = m_versions.timeText(*row);
-    bool isBack = false;
-    try {
+    QString reason;
+    {
         const WaitCursor wait(WaitCursor::Work::Opening, m_versions.rows()[*row].version.size);
-        const std::optional<ChannelList> list = m_versions.readList(*row);
-        isBack = list && m_controller.putBack(*list, name);
-    } catch (const std::bad_alloc &) {
+        reason = m_versions.putBack(*row, m_controller);
     }
     accept();
-    if (!isBack)
-        m_controller.showError(qtTrId("kVersionDamaged"), qtTrId("kLoadingProblem"));
+    if (!reason.isEmpty())
+        m_controller.showError(reason, qtTrId("kPutBackFailed"));
 }
 
 } // namespace quillet

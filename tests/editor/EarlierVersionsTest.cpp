@@ -6,7 +6,10 @@
 #include "testing/TestFiles.h"
 #include "testing/TestMain.h"
 
+#include <QDateTime>
 #include <QDir>
+#include <QFile>
+#include <QSet>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -55,17 +58,23 @@ private slots:
         editor.document.setFileUrl(QUrl::fromLocalFile(path));
         QVERIFY(!EarlierVersions::hasAny(editor.document));
         const QByteArray now = fileOf(lettered({1, 2, 3}));
+        QDateTime time(QDate(2026, 3, 1), QTime(20, 15));
         Error error;
         for (const QByteArray &bytes :
              {fileOf(lettered({3, 2, 1})), fileOf(lettered({1, 2})), fileOf(lettered({1, 2, 3, 4})),
               QByteArray("<TLLDATA><CHANNEL><DTV>x</DTV>"), QByteArray("damaged"), now}) {
             writeFile(path, bytes);
+            QFile file(path);
+            QVERIFY(file.open(QIODevice::ReadWrite));
+            time = time.addSecs(1);
+            QVERIFY(file.setFileTime(time, QFileDevice::FileModificationTime));
             QVERIFY(store.keep(path, bytes, error));
         }
         const QByteArray damaged = store.versionsOf(path).at(1).digest;
         writeFile(folder.filePath(u"store/contents/"_s + QString::fromLatin1(damaged)), "other");
         editor.show(now);
 
+        (void)EarlierVersions(editor.document); // gone before its thread
         const EarlierVersions versions(editor.document);
         const auto &rows = versions.rows();
         QCOMPARE(rows.size(), std::size_t{6});
@@ -74,12 +83,16 @@ private slots:
             return row.state == EarlierVersions::Row::State::Reading;
         }));
         QStringList told;
-        for (std::size_t row = 0; row < rows.size(); ++row)
+        QSet<QString> names;
+        for (std::size_t row = 0; row < rows.size(); ++row) {
+            names += {versions.timeText(row), versions.suggestedPath(row)};
             told.append(
                 QStringLiteral("%1 %2 %3 %4")
                     .arg(rows[row].stations)
                     .arg(versions.canBeOpened(row))
                     .arg(versions.differenceText(row), versions.reasonAgainstPuttingBack(row)));
+        }
+        QCOMPARE(names.size(), 2 * rows.size());
         QCOMPARE(
             told,
             (QStringList{u"3 1 kDiffSame kPutBackSame"_s, u"0 0 kVersionDamaged kVersionDamaged"_s,

@@ -338,8 +338,8 @@
     <message id="kDiffLocked" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n anders bei der Sperre</numerusform>
-            <numerusform>%n anders bei der Sperre</numerusform>
+            <numerusform>%n anders gesperrt</numerusform>
+            <numerusform>%n anders gesperrt</numerusform>
         </translation>
     </message>
     <message id="kDiffMore" numerus="yes">
@@ -381,8 +381,8 @@
     <message id="kDiffSkipped" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n anders beim Überspringen</numerusform>
-            <numerusform>%n anders beim Überspringen</numerusform>
+            <numerusform>%n anders übersprungen</numerusform>
+            <numerusform>%n anders übersprungen</numerusform>
         </translation>
     </message>
     <message id="kDiscard">
@@ -414,7 +414,7 @@
     </message>
     <message id="kExportExplanation">
         <source></source>
-        <translation>Geschrieben wird eine Kopie der ganzen Senderliste, so wie „Speichern“ sie schreiben würde, unter dem Namen, den Sie wählen. Die Datei dieses Fensters bleibt, wie sie ist. Die Reihenfolge der Kopie lässt sich auf andere Listen anwenden, wenn ihr Name auf „.tll“ endet.</translation>
+        <translation>Geschrieben wird eine Kopie der ganzen Senderliste unter dem Namen, den Sie wählen. Die Datei dieses Fensters bleibt, wie sie ist. Die Reihenfolge der Kopie lässt sich auf andere Listen anwenden, wenn ihr Name auf „.tll“ endet.</translation>
     </message>
     <message id="kExportFailedMessage">
         <source></source>

@@ -414,7 +414,7 @@
     </message>
     <message id="kExportExplanation">
         <source></source>
-        <translation>What is written is a copy of the whole channel list, as “Save” would write it, under the name you choose. The file of this window stays as it is. The order of the copy can be applied to other lists if its name ends in “.tll”.</translation>
+        <translation>What is written is a copy of the whole channel list under the name you choose. The file of this window stays as it is. The order of the copy can be applied to other lists if its name ends in “.tll”.</translation>
     </message>
     <message id="kExportFailedMessage">
         <source></source>

@@ -414,7 +414,7 @@
     </message>
     <message id="kExportExplanation">
         <source></source>
-        <translation>Se escribe una copia de toda la lista de canales, tal como la escribiría «Guardar», con el nombre que elija. El archivo de esta ventana se queda como está. El orden de la copia se puede aplicar a otras listas si su nombre termina en «.tll».</translation>
+        <translation>Se escribe una copia de toda la lista de canales con el nombre que elija. El archivo de esta ventana se queda como está. El orden de la copia se puede aplicar a otras listas si su nombre termina en «.tll».</translation>
     </message>
     <message id="kExportFailedMessage">
         <source></source>

@@ -414,7 +414,7 @@
     </message>
     <message id="kExportExplanation">
         <source></source>
-        <translation>Une copie de toute la liste de chaînes est écrite, telle que « Enregistrer » l’écrirait, sous le nom que vous choisissez. Le fichier de cette fenêtre reste tel quel. L’ordre de la copie peut être appliqué à d’autres listes si son nom se termine par « .tll ».</translation>
+        <translation>Une copie de toute la liste de chaînes est écrite sous le nom que vous choisissez. Le fichier de cette fenêtre reste tel quel. L’ordre de la copie peut être appliqué à d’autres listes si son nom se termine par « .tll ».</translation>
     </message>
     <message id="kExportFailedMessage">
         <source></source>

@@ -414,7 +414,7 @@
     </message>
     <message id="kExportExplanation">
         <source></source>
-        <translation>Viene scritta una copia dell’intera lista di canali, come la scriverebbe “Salva”, con il nome che scegli. Il file di questa finestra resta com’è. L’ordine della copia può essere applicato ad altre liste se il suo nome termina con “.tll”.</translation>
+        <translation>Viene scritta una copia dell’intera lista di canali con il nome che scegli. Il file di questa finestra resta com’è. L’ordine della copia può essere applicato ad altre liste se il suo nome termina con “.tll”.</translation>
     </message>
     <message id="kExportFailedMessage">
         <source></source>
@@ -877,7 +877,7 @@
     </message>
     <message id="kMenuReload">
         <source></source>
-        <translation>Ri&amp;leggi dal disco</translation>
+        <translation>Rile&amp;ggi dal disco</translation>
     </message>
     <message id="kMenuRename">
         <source></source>
@@ -945,7 +945,7 @@
     </message>
     <message id="kMenuUnsavedLists">
         <source></source>
-        <translation>Liste da rec&amp;uperare…</translation>
+        <translation>&amp;Liste non salvate…</translation>
     </message>
     <message id="kMenuVersions">
         <source></source>

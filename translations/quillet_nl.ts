@@ -414,7 +414,7 @@
     </message>
     <message id="kExportExplanation">
         <source></source>
-        <translation>Er wordt een kopie van de hele zenderlijst geschreven, zoals “Opslaan” die zou schrijven, onder de naam die u kiest. Het bestand van dit venster blijft zoals het is. De volgorde van de kopie kan op andere lijsten worden toegepast als de naam op “.tll” eindigt.</translation>
+        <translation>Er wordt een kopie van de hele zenderlijst geschreven onder de naam die u kiest. Het bestand van dit venster blijft zoals het is. De volgorde van de kopie kan op andere lijsten worden toegepast als de naam op “.tll” eindigt.</translation>
     </message>
     <message id="kExportFailedMessage">
         <source></source>
@@ -630,7 +630,7 @@
     </message>
     <message id="kKeepMine">
         <source></source>
-        <translation>Die van mij behouden</translation>
+        <translation>Mijn versie behouden</translation>
     </message>
     <message id="kLater">
         <source></source>
@@ -1027,7 +1027,7 @@
     </message>
     <message id="kNoticeFileChanged">
         <source></source>
-        <translation>“%1” is door een ander programma gewijzigd. Met “Die van mij behouden” blijft de lijst zoals ze hier is en vervangt de volgende keer opslaan het bestand.</translation>
+        <translation>“%1” is door een ander programma gewijzigd. Met “Mijn versie behouden” blijft de lijst zoals ze hier is en vervangt de volgende keer opslaan het bestand.</translation>
     </message>
     <message id="kNoticeFileGone">
         <source></source>
@@ -1444,7 +1444,7 @@
     </message>
     <message id="kSaveUnkept">
         <source></source>
-        <translation>Opslaan zonder te bewaren</translation>
+        <translation>Opslaan zonder deze versie te behouden</translation>
     </message>
     <message id="kSaveWithout" numerus="yes">
         <source></source>

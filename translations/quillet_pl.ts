@@ -429,7 +429,7 @@
     </message>
     <message id="kExportExplanation">
         <source></source>
-        <translation>Zapisywana jest kopia całej listy kanałów, taka jaką zapisałoby „Zapisz”, pod wybraną nazwą. Plik tego okna pozostaje bez zmian. Kolejność kopii można zastosować do innych list, jeśli jej nazwa kończy się na „.tll”.</translation>
+        <translation>Zapisywana jest kopia całej listy kanałów pod wybraną nazwą. Plik tego okna pozostaje bez zmian. Kolejność kopii można zastosować do innych list, jeśli jej nazwa kończy się na „.tll”.</translation>
     </message>
     <message id="kExportFailedMessage">
         <source></source>
@@ -1473,7 +1473,7 @@
     </message>
     <message id="kSaveUnkept">
         <source></source>
-        <translation>Zapisz bez zachowania</translation>
+        <translation>Zapisz bez zachowania tej wersji</translation>
     </message>
     <message id="kSaveWithout" numerus="yes">
         <source></source>

@@ -348,7 +348,7 @@
     <message id="kDiffNew" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n yeni kanal yok</numerusform>
+            <numerusform>yeni olan %n kanal yok</numerusform>
         </translation>
     </message>
     <message id="kDiffNumbers" numerus="yes">
@@ -399,7 +399,7 @@
     </message>
     <message id="kExportExplanation">
         <source></source>
-        <translation>Kanal listesinin tamamının “Kaydet” komutunun yazacağı gibi bir kopyası, seçtiğiniz adla yazılır. Bu pencerenin dosyası olduğu gibi kalır. Kopyanın adı “.tll” ile bitiyorsa sırası başka listelere uygulanabilir.</translation>
+        <translation>Kanal listesinin tamamının bir kopyası, seçtiğiniz adla yazılır. Bu pencerenin dosyası olduğu gibi kalır. Kopyanın adı “.tll” ile bitiyorsa sırası başka listelere uygulanabilir.</translation>
     </message>
     <message id="kExportFailedMessage">
         <source></source>
@@ -1005,7 +1005,7 @@
     </message>
     <message id="kNoticeFileChanged">
         <source></source>
-        <translation>“%1” başka bir program tarafından değiştirildi. “Benimkini Koru” ile liste buradaki gibi kalır ve bir sonraki kaydetme dosyanın yerini alır.</translation>
+        <translation>“%1” başka bir program tarafından değiştirildi. “Benimkini Koru” ile liste buradaki gibi kalır ve bir sonraki kaydetme dosyanın üzerine yazar.</translation>
     </message>
     <message id="kNoticeFileGone">
         <source></source>

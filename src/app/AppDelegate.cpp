@@ -255,9 +255,12 @@ void AppDelegate::commitData(QSessionManager &session)
     });
     if (isClean)
         return;
-    writeRecovery(); // whatever the session does next
-    if (!session.allowsInteraction())
+    const bool isKept = writeRecovery(); // whatever the session does next
+    if (!session.allowsInteraction()) {
+        if (!isKept)
+            session.cancel();
         return;
+    }
     if (terminateNow())
         session.release();
     else

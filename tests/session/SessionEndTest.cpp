@@ -56,6 +56,8 @@ private slots:
         QTest::newRow("no answer")
             << true << true << none << QByteArrayList{"asks"} << false << true;
         QTest::newRow("no questions") << true << false << none << silent << false << true;
+        QTest::newRow("no questions, no place to keep it")
+            << true << false << none << QByteArrayList{"failed"} << false << false;
         QTest::newRow("no end") << false << false << none << silent << false << true;
     }
     void typedNumberLivesSomewhere()
@@ -80,7 +82,9 @@ private slots:
         environment.insert(QStringLiteral("SESSION_MANAGER"),
                            QString::fromLocal8Bit(manager.address()));
         program.setProcessEnvironment(environment);
-        QStringList arguments{list, folder.filePath(QStringLiteral("recovery"))};
+        // Changes that are neither asked about nor kept cannot be kept.
+        const QString recovery = mayAsk || isKept ? folder.path() : list;
+        QStringList arguments{list, recovery + QLatin1String("/recovery")};
         if (!button.isEmpty())
             arguments.append(QLatin1String(button));
         program.setProcessChannelMode(QProcess::ForwardedErrorChannel);

@@ -7,7 +7,7 @@
 #include "files/Places.h"
 
 #include <QCryptographicHash>
-#include <QLockFile>
+#include <QDeadlineTimer>
 #include <QSet>
 #include <QStandardPaths>
 
@@ -16,6 +16,7 @@
 #include <filesystem>
 #include <new>
 #include <numeric>
+#include <thread>
 #include <utility>
 
 namespace fs = std::filesystem;
@@ -175,20 +176,32 @@ bool VersionStore::keep(const QString &path, const QByteArray &bytes, Error &err
                  qtTrId("kCreateFailedReason").arg(readable(m_folder), reason), m_folder};
         return false;
     }
-    QLockFile lock(m_folder + QStringLiteral("/lock"));
-    lock.setStaleLockTime(0); // a slow disk takes nobody's lock away
+    FileLock::Obstacle obstacle;
+    const std::unique_ptr<FileLock> lock = takeLock(obstacle);
     // Where there can be no lock, what is written next says better why, if it matters.
-    if (!lock.tryLock(static_cast<int>(longestWait.count())) &&
-        lock.error() == QLockFile::LockFailedError) {
+    if (!lock && obstacle.isHeld) {
         error = {QStringLiteral("VersionStore"), 3,
                  qtTrId("kVersionsLockedReason").arg(readable(m_folder)), m_folder};
         return false;
     }
     try {
-        return keepNow(path, bytes, lock.isLocked(), error);
+        return keepNow(path, bytes, lock != nullptr, error);
     } catch (const std::bad_alloc &) {
         error = {QStringLiteral("VersionStore"), 5, qtTrId("kNoMemoryReason"), m_folder};
         return false;
+    }
+}
+
+/// Waits for another program, but not for ever.
+std::unique_ptr<FileLock> VersionStore::takeLock(FileLock::Obstacle &obstacle) const
+{
+    const QDeadlineTimer deadline(longestWait);
+    for (;;) {
+        obstacle = {};
+        auto lock = FileLock::take(m_folder + QStringLiteral("/lock"), obstacle);
+        if (lock || !obstacle.isHeld || deadline.hasExpired())
+            return lock;
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
     }
 }
 
@@ -318,12 +331,8 @@ void VersionStore::makeRoom(HistoryFiles &files, const QByteArray &justKept)
                 std::find_if(versions.begin(), versions.end(), [&](const KeptVersion &version) {
                     return !version.isFirst && version.digest != justKept;
                 });
-            if (droppable == versions.end())
-                continue;
-            const bool isLonger =
-                !longest || versions.size() > mostVersions ||
-                (versions.size() == mostVersions && droppable->time < oldest.time);
-            if (!isLonger)
+            if (droppable == versions.end() || versions.size() < mostVersions ||
+                (versions.size() == mostVersions && droppable->time >= oldest.time))
                 continue;
             longest = i;
             mostVersions = versions.size();

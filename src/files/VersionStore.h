@@ -1,11 +1,13 @@
 #pragma once
 
 #include "files/Error.h"
+#include "files/FileLock.h"
 #include "files/VersionHistory.h"
 
 #include <QHash>
 #include <QString>
 
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -54,6 +56,7 @@ private:
                                                           HistoryFiles &files);
     [[nodiscard]] QString contentPath(const QByteArray &digest) const;
     [[nodiscard]] bool write(const QString &path, const QByteArray &bytes, Error &error);
+    [[nodiscard]] std::unique_ptr<FileLock> takeLock(FileLock::Obstacle &obstacle) const;
     /// Nothing is dropped unless no other program keeps something meanwhile.
     [[nodiscard]] bool keepNow(const QString &path, const QByteArray &bytes, bool isAlone,
                                Error &error);

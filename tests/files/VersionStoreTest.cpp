@@ -7,7 +7,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QLockFile>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -268,12 +267,13 @@ private slots:
     {
         VersionStore store = makeStore();
         keep(store, u"a.tll"_s, "old");
-        QLockFile other(m_folder->filePath(u"store/lock"_s));
-        QVERIFY(other.lock());
+        FileLock::Obstacle obstacle;
+        auto other = FileLock::take(m_folder->filePath(u"store/lock"_s), obstacle);
+        QVERIFY(other);
         Error error;
         QVERIFY(!store.keep(path(u"a.tll"_s), "new", error));
         QCOMPARE(error.localizedDescription, u"kVersionsLockedReason"_s);
-        other.unlock();
+        other.reset();
         QVERIFY(store.keep(path(u"a.tll"_s), "new", error));
         QCOMPARE(contents(store, u"a.tll"_s), u"new old*"_s);
     }

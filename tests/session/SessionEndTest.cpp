@@ -81,6 +81,8 @@ private slots:
         environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
         environment.insert(QStringLiteral("SESSION_MANAGER"),
                            QString::fromLocal8Bit(manager.address()));
+        environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"),
+                           QStringLiteral("unix:path=/nobody"));
         program.setProcessEnvironment(environment);
         // Changes that are neither asked about nor kept cannot be kept.
         const QString recovery = mayAsk || isKept ? folder.path() : list;

@@ -29,11 +29,11 @@ struct SessionManager::Callbacks
         callbacks->save_yourself_done = {saveYourselfDone, self};
         callbacks->close_connection = {closeConnection, self};
         callbacks->set_properties = {setProperties, self};
+        callbacks->delete_properties = {deleteProperties, self};
         // The client has no reason for the others.
         callbacks->save_yourself_request = {[](SmsConn, SmPointer, int, Bool, int, Bool, Bool) {},
                                             self};
         callbacks->save_yourself_phase2_request = {[](SmsConn, SmPointer) {}, self};
-        callbacks->delete_properties = {[](SmsConn, SmPointer, int, char **) {}, self};
         callbacks->get_properties = {[](SmsConn, SmPointer) {}, self};
         manager(self).m_client = client;
         return 1;
@@ -74,6 +74,13 @@ struct SessionManager::Callbacks
         for (int i = 0; i < count; ++i)
             SmFreeProperty(properties[i]);
         std::free(properties);
+    }
+
+    static void deleteProperties(SmsConn, SmPointer, int count, char **names)
+    {
+        for (int i = 0; i < count; ++i)
+            std::free(names[i]);
+        std::free(names);
     }
 
     static Bool welcomeAnybody(char *) { return True; } // the socket is the test's own

@@ -19,7 +19,6 @@ constexpr QLatin1String timeKey("time");
 constexpr QLatin1String firstKey("first");
 constexpr qsizetype digestDigits = 64;
 constexpr qint64 largestSize = qint64{1} << 40; ///< of what a damaged file tells
-constexpr qsizetype mostVersions = 100;         ///< in one that is no damaged one
 
 std::optional<KeptVersion> versionOf(const QJsonValue &value)
 {
@@ -57,8 +56,7 @@ std::optional<VersionHistory> VersionHistory::fromJSON(const QByteArray &json)
     VersionHistory history;
     history.m_object = QJsonDocument::fromJson(json).object();
     const QJsonValue versions = history.m_object[versionsKey];
-    if (history.place().isEmpty() || !versions.isArray() ||
-        versions.toArray().size() > mostVersions)
+    if (history.place().isEmpty() || !versions.isArray())
         return {};
     return history;
 }
@@ -109,6 +107,19 @@ bool VersionHistory::add(const KeptVersion &version)
     array.append(objectOf(added));
     m_object.insert(versionsKey, array);
     return true;
+}
+
+void VersionHistory::shorten(std::size_t most)
+{
+    std::size_t tooMany = versions().size();
+    for (const KeptVersion &version : versions()) {
+        if (tooMany <= most)
+            return;
+        if (version.isFirst)
+            continue;
+        remove(version.digest);
+        --tooMany;
+    }
 }
 
 void VersionHistory::remove(const QByteArray &digest)

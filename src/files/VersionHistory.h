@@ -27,7 +27,7 @@ public:
     explicit VersionHistory(const QString &place);
     /// Whether that could be the digest of a content.
     [[nodiscard]] static bool isDigest(const QByteArray &text);
-    /// None when that is no history at all, or has more versions than any.
+    /// None when that is no history at all.
     [[nodiscard]] static std::optional<VersionHistory> fromJSON(const QByteArray &json);
     [[nodiscard]] QByteArray toJSON() const;
 
@@ -40,6 +40,8 @@ public:
     /// Adds a version as the newest one, and as the first when there is none. The same content from
     /// before goes, but the first stays as it is. Returns whether anything changed.
     bool add(const KeptVersion &version);
+    /// Takes out the oldest until there are no more than that, but never the first.
+    void shorten(std::size_t most);
     /// Takes out the version of that content.
     void remove(const QByteArray &digest);
 

@@ -238,10 +238,13 @@ bool VersionStore::keepNow(const QString &path, const QByteArray &bytes, bool is
         return false;
     if (!own->history->add(version))
         return true;
+    // Else a content may be another file's, or one that is just being kept.
+    const bool mayDrop = isAlone && histories.isWhole();
+    if (!mayDrop)
+        own->history->shorten(1 + mostLater);
     if (!write(own->path, own->history->toJSON(), error))
         return false;
-    // Else a content may be another file's, or one that is just being kept.
-    if (isAlone && histories.isWhole())
+    if (mayDrop)
         makeRoom(histories.files, version.digest);
     return true;
 }

@@ -86,7 +86,7 @@ bool FileState::isItsDiskThere() const
         above = QFileInfo(path).path();
         device = deviceOf(path);
     }
-    return device == m_device;
+    return device && device == m_device;
 }
 
 } // namespace quillet

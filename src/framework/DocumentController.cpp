@@ -28,10 +28,12 @@ bool hasWindow(const Document &document, const QWidget *window)
                        [window](const auto &each) { return each->window() == window; });
 }
 
-/// None for no document.
+/// None for no document, or one without a window.
 QWidget *windowOf(const Document *document)
 {
-    return document ? document->windowControllers().front()->window() : nullptr;
+    return document && !document->windowControllers().empty()
+               ? document->windowControllers().front()->window()
+               : nullptr;
 }
 
 } // namespace

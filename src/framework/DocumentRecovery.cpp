@@ -47,7 +47,7 @@ void DocumentRecovery::edited()
 void DocumentRecovery::documentChanged()
 {
     ++m_moment;
-    if (!m_document.isDocumentEdited())
+    if (!m_document.hasUnautosavedChanges())
         return remove();
     m_idle.start();
     if (!m_most.isActive())
@@ -74,14 +74,14 @@ void DocumentRecovery::writeNow()
     stopTimers();
     const bool isHandedOver =
         m_handedOver == m_moment && m_writing && *m_writing != Outcome::Failed;
-    if (m_document.isDocumentEdited() && !isHandedOver)
+    if (m_document.hasUnautosavedChanges() && !isHandedOver)
         write();
 }
 
 bool DocumentRecovery::isKept() const
 {
-    return !m_document.isDocumentEdited() || (m_handedOver == m_moment && m_writing &&
-                                              *m_writing == RecoveryWriter::Outcome::Written);
+    return !m_document.hasUnautosavedChanges() || (m_handedOver == m_moment && m_writing &&
+                                                   *m_writing == RecoveryWriter::Outcome::Written);
 }
 
 void DocumentRecovery::write()
@@ -141,7 +141,7 @@ void DocumentRecovery::wasWritten(quint64 moment, bool isWritten, const Error &e
         return;
     if (m_moment != moment) // timers that ran out meanwhile left the rest to this moment
         writeNow();
-    else if (!isWritten && m_document.isDocumentEdited())
+    else if (!isWritten && m_document.hasUnautosavedChanges())
         m_retry.start();
 }
 

@@ -329,6 +329,20 @@ private slots:
         QCOMPARE(contentOf(found[0].folder->pathOf(RecoveryFolder::Part::Known)), "theirs");
     }
 
+    void contentOfADeletedFileIsKept()
+    {
+        const QByteArray content = contentOf(m_path);
+        watch({1h, 1h});
+        m_document->watchFile();
+        for (const FileState::Change news : {FileState::Change::Gone, FileState::Change::None}) {
+            const bool isGone = news == FileState::Change::Gone;
+            isGone ? void(QFile::remove(m_path)) : writeFile(m_path, content);
+            QTRY_COMPARE(m_document->fileNews(), news);
+            QVERIFY(m_keeper->writeNow());
+            QTRY_COMPARE(QDir(m_store->root()).isEmpty(), !isGone);
+        }
+    }
+
 #ifndef Q_OS_WIN
     void withoutALockItGoesOnElsewhere()
     {

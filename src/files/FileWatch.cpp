@@ -2,6 +2,7 @@
 
 #include "files/FileLooks.h"
 
+#include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QThread>
 
@@ -32,9 +33,15 @@ void FileWatch::letGo()
         return;
     connect(thread, &QThread::finished, thread, &QObject::deleteLater);
     thread->quit();
-    // Where no loop is left that would delete it, the program is about to end.
-    if (QThread::currentThread()->loopLevel() == 0 && thread->wait(QDeadlineTimer(longestWait)))
-        delete thread;
+    // At the end of the program no loop is left that would delete it.
+    const auto finish = [thread] {
+        if (thread->wait(QDeadlineTimer(longestWait)))
+            delete thread;
+    };
+    if (QThread::currentThread()->loopLevel() == 0)
+        finish();
+    else
+        connect(qApp, &QCoreApplication::aboutToQuit, thread, finish);
 }
 
 void FileWatch::watch(const FileState &known)

@@ -289,7 +289,6 @@ void Document::wasWritten(const FileState &written, quint64 changeCount)
     if (isNewPlace)
         emit placeWasChosen();
     emit fileWasWritten();
-    emit told(savedText());
 }
 
 void Document::revertDocumentToSaved()

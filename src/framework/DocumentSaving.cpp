@@ -240,8 +240,10 @@ void DocumentSaving::takeOver(const SaveJob::Result &result)
     try {
         if (m_purpose == SavePurpose::Save)
             m_document.wasWritten(*result.written, m_changeCount);
-        else
-            emit m_document.told(qtTrId("kToldExported").arg(shownPath(shortPath(m_path))));
+        if (result.outcome == SaveJob::Outcome::Written)
+            emit m_document.told(m_purpose == SavePurpose::Save
+                                     ? m_document.savedText()
+                                     : qtTrId("kToldExported").arg(shownPath(shortPath(m_path))));
     } catch (const std::bad_alloc &) { // it is written all the same
     }
 }

@@ -393,6 +393,10 @@
         <source></source>
         <translation>Änderungen verwerfen</translation>
     </message>
+    <message id="kDiscardFailedMessage">
+        <source></source>
+        <translation>Nicht alles konnte verworfen werden. Ein anderes Programm hat diese Ordner, oder dort darf nichts gelöscht werden:</translation>
+    </message>
     <message id="kDiscardOneMessage">
         <source></source>
         <translation>Möchten Sie die ungespeicherten Änderungen an „%1“ verwerfen?</translation>

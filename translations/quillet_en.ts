@@ -393,6 +393,10 @@
         <source></source>
         <translation>Discard Changes</translation>
     </message>
+    <message id="kDiscardFailedMessage">
+        <source></source>
+        <translation>Not everything could be discarded. Another program has these folders, or nothing may be deleted there:</translation>
+    </message>
     <message id="kDiscardOneMessage">
         <source></source>
         <translation>Do you want to discard the unsaved changes to “%1”?</translation>

@@ -393,6 +393,10 @@
         <source></source>
         <translation>Descartar los cambios</translation>
     </message>
+    <message id="kDiscardFailedMessage">
+        <source></source>
+        <translation>No se ha podido descartar todo. Otro programa usa estas carpetas, o no se puede borrar nada en ellas:</translation>
+    </message>
     <message id="kDiscardOneMessage">
         <source></source>
         <translation>¿Desea descartar los cambios sin guardar de «%1»?</translation>

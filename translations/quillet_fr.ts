@@ -393,6 +393,10 @@
         <source></source>
         <translation>Abandonner les modifications</translation>
     </message>
+    <message id="kDiscardFailedMessage">
+        <source></source>
+        <translation>Tout n’a pas pu être abandonné. Un autre programme utilise ces dossiers, ou rien ne peut y être supprimé :</translation>
+    </message>
     <message id="kDiscardOneMessage">
         <source></source>
         <translation>Voulez-vous abandonner les modifications non enregistrées de « %1 » ?</translation>

@@ -393,6 +393,10 @@
         <source></source>
         <translation>Scarta le modifiche</translation>
     </message>
+    <message id="kDiscardFailedMessage">
+        <source></source>
+        <translation>Non è stato possibile scartare tutto. Un altro programma usa queste cartelle, oppure lì non si può eliminare nulla:</translation>
+    </message>
     <message id="kDiscardOneMessage">
         <source></source>
         <translation>Vuoi scartare le modifiche non salvate a “%1”?</translation>

@@ -393,6 +393,10 @@
         <source></source>
         <translation>Wijzigingen weggooien</translation>
     </message>
+    <message id="kDiscardFailedMessage">
+        <source></source>
+        <translation>Niet alles kon worden weggegooid. Een ander programma gebruikt deze mappen, of er mag daar niets worden verwijderd:</translation>
+    </message>
     <message id="kDiscardOneMessage">
         <source></source>
         <translation>Wilt u de niet-opgeslagen wijzigingen in “%1” weggooien?</translation>

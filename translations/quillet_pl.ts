@@ -407,6 +407,10 @@
         <source></source>
         <translation>Odrzuć zmiany</translation>
     </message>
+    <message id="kDiscardFailedMessage">
+        <source></source>
+        <translation>Nie wszystko udało się odrzucić. Inny program używa tych folderów albo nie wolno w nich niczego usuwać:</translation>
+    </message>
     <message id="kDiscardOneMessage">
         <source></source>
         <translation>Czy chcesz odrzucić niezapisane zmiany w pliku „%1”?</translation>

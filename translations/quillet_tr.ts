@@ -379,6 +379,10 @@
         <source></source>
         <translation>Değişiklikleri At</translation>
     </message>
+    <message id="kDiscardFailedMessage">
+        <source></source>
+        <translation>Her şey atılamadı. Bu klasörleri başka bir program kullanıyor ya da orada hiçbir şey silinemiyor:</translation>
+    </message>
     <message id="kDiscardOneMessage">
         <source></source>
         <translation>“%1” dosyasındaki kaydedilmemiş değişiklikleri atmak istiyor musunuz?</translation>

@@ -252,12 +252,25 @@ void RecoveryDialog::askToDiscard()
 /// Nothing else can be selected while the question is open.
 void RecoveryDialog::discardChosen()
 {
-    const std::vector<int> rows = chosen();
-    for (const int row : rows)
-        leftoverAt(row).folder->remove();
-    removeRows(rows);
+    std::vector<int> discarded;
+    QStringList failures;
+    for (const int row : chosen()) {
+        RecoveryFolder &folder = *leftoverAt(row).folder;
+        if (folder.remove())
+            discarded.push_back(row);
+        else
+            failures.append(shownPath(shortPath(folder.path())));
+    }
+    removeRows(discarded);
     if (m_leftovers.empty())
-        accept();
+        return accept();
+    if (failures.isEmpty())
+        return;
+    Alert alert;
+    alert.message = qtTrId("kDiscardFailedMessage");
+    alert.informativeText = failures.join(u'\n');
+    alert.buttons = {qtTrId("kOK")};
+    m_prompts.showAlert(this, alert, [](const AlertAnswer &) {});
 }
 
 void RecoveryDialog::removeRows(const std::vector<int> &rows)

@@ -133,13 +133,13 @@ bool RecoveryFolder::read(Part part, QByteArray &bytes, Error &error) const
     return readFile(QUrl::fromLocalFile(pathOf(part)), bytes, error);
 }
 
-void RecoveryFolder::remove()
+bool RecoveryFolder::remove()
 {
     FileLock::Obstacle obstacle;
     if (!m_lock)
         m_lock = FileLock::take(lockOf(m_path), obstacle);
     if (obstacle.isHeld)
-        return;
+        return false;
     for (const Part part : {Part::State, Part::Known, Part::Original})
         removeFile(pathOf(part));
     FileReplacement::removeLeftovers(m_path, {});
@@ -148,6 +148,7 @@ void RecoveryFolder::remove()
     const bool isEmpty = removeFile(m_path);
     QString unused;
     m_operations.syncFolder(isEmpty ? QFileInfo(m_path).path() : m_path, unused);
+    return lacks(Part::State);
 }
 
 } // namespace quillet

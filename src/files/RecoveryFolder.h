@@ -51,8 +51,8 @@ public:
     [[nodiscard]] bool read(Part part, QByteArray &bytes, Error &error) const;
     /// Removes the files and then the folder, in an order in which a crash leaves nothing that
     /// passes for a document. What somebody else put there stays, and all of it when it turns out
-    /// that a living program has the folder.
-    void remove();
+    /// that a living program has the folder. Returns whether it holds no document any more.
+    bool remove();
 
 private:
     RecoveryFolder(QString path, std::unique_ptr<FileLock> lock, FileOperations &operations);

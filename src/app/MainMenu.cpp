@@ -201,7 +201,7 @@ void MainMenu::save()
 {
     m_editor.commitEditing();
     TLLDocument *document = m_window.tlldoc();
-    if (document && document->isDirty())
+    if (document && document->validateUserInterfaceItem(m_save->objectName()))
         document->saveDocument();
 }
 

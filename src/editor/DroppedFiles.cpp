@@ -12,7 +12,7 @@ namespace quillet {
 void DroppedFiles::load(TLLDocument &document, const EditorQuestions &questions,
                         const QString &path)
 {
-    if (!document.isDirty())
+    if (!document.hasUnautosavedChanges())
         return readDroppedFile(document, path);
     questions.askToReplace([this, path, guard = QPointer(&document)] {
         if (guard)

@@ -190,6 +190,9 @@ private slots:
         QCOMPARE(bar.text(), qtTrId("kNoticeFileGone").arg(u"a.tll"_s));
         QVERIFY(part<QAbstractButton>(bar, "noticeOther").isHidden());
         QCOMPARE(part<QAbstractButton>(bar, "noticeAction").text(), label("kSaveAs"));
+        app.preset.answerSavePanel({});
+        menuItem(*window, "saveDocument").trigger();
+        QTRY_VERIFY(app.preset.isSettled());
         app.preset.answerSavePanel(app.folder.filePath(u"b.tll"_s));
         press("noticeAction");
         QTRY_COMPARE(documentOf(app, 0).displayName(), u"b.tll"_s);

@@ -217,10 +217,15 @@ void RecoveryDialog::bringBackChosen()
         return accept();
     raise();
     activateWindow();
+    tellFailures(qtTrId("kRecoveryFailedMessage"), failures);
+}
+
+void RecoveryDialog::tellFailures(const QString &message, const QStringList &failures)
+{
     if (failures.isEmpty())
         return;
     Alert alert;
-    alert.message = qtTrId("kRecoveryFailedMessage");
+    alert.message = message;
     alert.informativeText = failures.join(u'\n');
     alert.buttons = {qtTrId("kOK")};
     m_prompts.showAlert(this, alert, [](const AlertAnswer &) {});
@@ -264,13 +269,7 @@ void RecoveryDialog::discardChosen()
     removeRows(discarded);
     if (m_leftovers.empty())
         return accept();
-    if (failures.isEmpty())
-        return;
-    Alert alert;
-    alert.message = qtTrId("kDiscardFailedMessage");
-    alert.informativeText = failures.join(u'\n');
-    alert.buttons = {qtTrId("kOK")};
-    m_prompts.showAlert(this, alert, [](const AlertAnswer &) {});
+    tellFailures(qtTrId("kDiscardFailedMessage"), failures);
 }
 
 void RecoveryDialog::removeRows(const std::vector<int> &rows)

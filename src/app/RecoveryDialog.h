@@ -39,6 +39,7 @@ private:
     [[nodiscard]] std::vector<int> chosen() const;
     [[nodiscard]] RecoveryStore::Leftover &leftoverAt(int row);
     void bringBackChosen();
+    void tellFailures(const QString &message, const QStringList &failures);
     void askToDiscard();
     void discardChosen();
     /// Takes rows, in that order, out of the list, and selects a neighbour if none is then.

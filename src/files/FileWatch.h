@@ -15,8 +15,8 @@ class FileLooks;
 /// Tells within two seconds when a file is no longer as it is known, whoever has changed, replaced
 /// or removed it, and when it is so again; contents count, not times. A file that is written in
 /// pieces is told of when that is over. Never waits for the disk, not even for one that never
-/// answers again. Owned by the file's document,
-/// which says what it knows after every reading and writing, and so never hears of its own.
+/// answers again. Owned by the file's document, which says what it knows after every reading and
+/// writing, and so never hears of its own.
 class FileWatch : public QObject
 {
     Q_OBJECT

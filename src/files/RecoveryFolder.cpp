@@ -138,8 +138,8 @@ bool RecoveryFolder::remove()
     FileLock::Obstacle obstacle;
     if (!m_lock)
         m_lock = FileLock::take(lockOf(m_path), obstacle);
-    if (obstacle.isHeld)
-        return false;
+    if (obstacle.isHeld) // or gone already
+        return lacks(Part::State);
     for (const Part part : {Part::State, Part::Known, Part::Original})
         removeFile(pathOf(part));
     FileReplacement::removeLeftovers(m_path, {});

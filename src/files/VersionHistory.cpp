@@ -111,14 +111,13 @@ bool VersionHistory::add(const KeptVersion &version)
 
 void VersionHistory::shorten(std::size_t most)
 {
-    std::size_t tooMany = versions().size();
-    for (const KeptVersion &version : versions()) {
-        if (tooMany <= most)
-            return;
-        if (version.isFirst)
+    const std::vector<KeptVersion> all = versions();
+    std::size_t left = all.size();
+    for (const KeptVersion &version : all) {
+        if (version.isFirst || left <= most)
             continue;
         remove(version.digest);
-        --tooMany;
+        --left;
     }
 }
 

@@ -14,7 +14,8 @@
 using namespace quillet;
 using namespace quillet::testing;
 
-/// A real session manager ends, or only saves, the session of the real program on an X server.
+/// A session manager ends, or only saves, the session that the program's windows are a part of, on
+/// an X server.
 class SessionEndTest : public QObject
 {
     Q_OBJECT

@@ -1,0 +1,67 @@
+#include "document/text/ReferenceText.h"
+
+#include "document/order/ReferenceList.h"
+#include "support/TextConversion.h"
+
+#include <array>
+
+namespace quillet {
+
+namespace {
+
+constexpr QChar separator = u';';
+/// Identifiers that no station has: none of the three is told.
+constexpr QLatin1String noIdentifiers("--");
+
+bool isLineEnd(QChar c)
+{
+    return c == u'\r' || c == u'\n';
+}
+
+/// The identifiers as a reference list has them; none when they could not be told apart there.
+std::optional<QString> identifiersOf(const LGStation &station)
+{
+    const StationKeys &keys = station.keys();
+    QStringList parts;
+    for (const QString &key :
+         {keys.keyOriginalNetwork_id, keys.keyTransport_id, keys.keyService_id}) {
+        const Value *value = station.entry().find(key);
+        const QString part = value ? value->description() : QString();
+        const bool isPart = !part.isEmpty() && std::none_of(part.begin(), part.end(), [](QChar c) {
+            return c == u'-' || c == separator || isLineEnd(c);
+        });
+        if (!isPart)
+            return {};
+        parts.append(part);
+    }
+    return parts.join(u'-');
+}
+
+} // namespace
+
+ReferenceText referenceText(const StationList &stations)
+{
+    ReferenceText made;
+    QString text;
+    for (const StationPtr &station : stations) {
+        QString name = station->shownName();
+        bool isChanged = false;
+        for (QChar &c : name) {
+            if (c != separator && !isLineEnd(c))
+                continue;
+            c = c == separator ? u',' : u' ';
+            isChanged = true;
+        }
+        const std::optional<QString> identifiers = identifiersOf(*station);
+        made.changedNames += isChanged ? 1 : 0;
+        made.byNameAlone += identifiers ? 0 : 1;
+        text += station->progNumString() + separator + name + separator +
+                identifiers.value_or(noIdentifiers) + QStringLiteral("\r\n");
+    }
+    made.bytes = getAsData(text);
+    made.entries = stations.size();
+    made.isTooShort = !referenceListFromData(made.bytes);
+    return made;
+}
+
+} // namespace quillet

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "model/LGStation.h"
+
+#include <QByteArray>
+
+#include <cstddef>
+
+namespace quillet {
+
+/// Stations as the text that document/order/ReferenceList reads, and what of them that text cannot
+/// hold.
+struct ReferenceText
+{
+    QByteArray bytes;
+    std::size_t entries = 0;
+    /// Names with a separator or a line break, in which others stand for those: such a station is
+    /// not found again by its name.
+    std::size_t changedNames = 0;
+    /// Stations that do not tell three identifiers, or one with "-" or the like in it: they are
+    /// found again by their names alone.
+    std::size_t byNameAlone = 0;
+    /// Whether it is too short to be read again.
+    bool isTooShort = false;
+};
+
+[[nodiscard]] ReferenceText referenceText(const StationList &stations);
+
+} // namespace quillet

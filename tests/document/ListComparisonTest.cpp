@@ -37,12 +37,13 @@ QString analogue(int number, const char *name, const char *frequency)
     return item(number, name, {{"frequency", frequency}}, FileSource::Analogue);
 }
 
-/// "A=B nsx": A of the first list is B of the second, with the letters of what differs.
+/// "A=Bnsx": A of the first list is B of the second, with the letters of what differs, and signs
+/// for a pair that is not sure or stands elsewhere.
 QString textOf(const ListComparison &comparison)
 {
     QStringList texts;
     for (const ComparedLists &lists : comparison.lists) {
-        for (const auto &[first, second, differences] : lists.stations) {
+        for (const auto &[first, second, differences, likeness, isElsewhere] : lists.stations) {
             QString text = (first ? first->shownName() : QString()) + u'=' +
                            (second ? second->shownName() : QString());
             for (const auto &[difference, letter] : {std::pair{StationDifference::Number, u'n'},
@@ -53,6 +54,10 @@ QString textOf(const ListComparison &comparison)
                 if (differences.testFlag(difference))
                     text += letter;
             }
+            text += likeness == Likeness::Sure     ? u""_s
+                    : likeness == Likeness::ByName ? u"?"_s
+                                                   : u"~"_s;
+            text += isElsewhere ? u"@"_s : u""_s;
             texts.append(text);
         }
     }
@@ -95,7 +100,7 @@ private slots:
         row("written otherwise", {item(1, "A", service("7", {{"isSkipped", "0"}}))},
             {item(1, "A", service("7"))}, "A=Ax in order");
         row("gone and new", {one, two}, {two, item(3, "A", service("9"))},
-            "A= B=B =A in order"); // one name, but another service
+            "A=Anx~ B=B out of order"); // one name, but another service
         row("identifiers given twice, by all",
             {item(1, "A", service("7", {{"frequency", "1"}})),
              item(2, "B", service("7", {{"frequency", "2"}}))},

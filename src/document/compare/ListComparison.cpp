@@ -1,29 +1,15 @@
 #include "document/compare/ListComparison.h"
 
-#include "document/compare/StationPairing.h"
+#include "document/compare/StationContent.h"
 #include "model/LGLegacyStation.h"
 
-#include <QStringList>
-
+#include <algorithm>
 #include <memory>
+#include <utility>
 
 namespace quillet {
 
 namespace {
-
-/// Whether two entries hold the same besides those fields.
-bool areSameBut(const QStringList &keys, const Dictionary &a, const Dictionary &b)
-{
-    const auto holdsAllOf = [&keys](const Dictionary &held, const Dictionary &others) {
-        for (const auto &[key, value] : others) {
-            const Value *own = held.find(key);
-            if (!(own && *own == value) && !keys.contains(key))
-                return false;
-        }
-        return true;
-    };
-    return holdsAllOf(a, b) && holdsAllOf(b, a);
-}
 
 StationDifferences differencesOf(const LGStation &a, const LGStation &b)
 {
@@ -35,7 +21,9 @@ StationDifferences differencesOf(const LGStation &a, const LGStation &b)
     differences.setFlag(StationDifference::Skipped, a.isSkipped() != b.isSkipped());
     differences.setFlag(StationDifference::Locked, a.isBlocked() != b.isBlocked());
     // A number or a mark that is written otherwise is a difference all the same.
-    if (!differences || !areSameBut(editedKeys(a), a.entry(), b.entry()))
+    if (isOfLegacyFormat(a) != isOfLegacyFormat(b))
+        return differences;
+    if (!differences || !haveSameUnedited(a, b))
         differences |= StationDifference::Fields;
     return differences;
 }
@@ -44,6 +32,8 @@ void add(const ComparedStation &station, ListComparison &comparison)
 {
     comparison.onlyFirst += station.second ? 0 : 1;
     comparison.onlySecond += station.first ? 0 : 1;
+    comparison.elsewhere += station.isElsewhere ? 1 : 0;
+    comparison.unsure += station.likeness == Likeness::Sure ? 0 : 1;
     const auto count = [&station](StationDifference difference) -> std::size_t {
         return station.differences.testFlag(difference) ? 1 : 0;
     };
@@ -58,22 +48,75 @@ void compareLists(const StationList &first, const StationList &second, ComparedL
                   bool &isSameOrder)
 {
     std::vector<bool> isMatched(second.size());
-    const std::vector<std::optional<std::size_t>> pairs = pairStations(first, second);
+    const std::vector<std::optional<StationPair>> pairs = pairStations(first, second);
+    compared.stations.reserve(std::max(first.size(), second.size()));
     std::size_t next = 0; // in the second list
     for (std::size_t i = 0; i < first.size(); ++i) {
         ComparedStation &station = compared.stations.emplace_back();
         station.first = first[i];
         if (!pairs[i])
             continue;
-        isMatched[*pairs[i]] = true;
-        isSameOrder = isSameOrder && *pairs[i] >= next;
-        next = *pairs[i] + 1;
-        station.second = second[*pairs[i]];
+        const auto [index, likeness] = *pairs[i];
+        isMatched[index] = true;
+        isSameOrder = isSameOrder && index >= next;
+        next = index + 1;
+        station.second = second[index];
+        station.likeness = likeness;
         station.differences = differencesOf(*station.first, *station.second);
     }
     for (std::size_t i = 0; i < second.size(); ++i) {
         if (!isMatched[i])
             compared.stations.push_back({nullptr, second[i]});
+    }
+}
+
+/// Matches what is left over in the lists of a mode, each with its list.
+void compareAcross(std::vector<ComparedLists> &lists, bool isTV)
+{
+    StationList first, second;
+    std::vector<std::pair<std::size_t, std::size_t>> firstPlaces, secondPlaces;
+    for (std::size_t list = 0; list < lists.size(); ++list) {
+        if (lists[list].isTV != isTV)
+            continue;
+        for (std::size_t i = 0; i < lists[list].stations.size(); ++i) {
+            const ComparedStation &station = lists[list].stations[i];
+            if (!station.second) {
+                first.push_back(station.first);
+                firstPlaces.emplace_back(list, i);
+            } else if (!station.first) {
+                second.push_back(station.second);
+                secondPlaces.emplace_back(list, i);
+            }
+        }
+    }
+    if (first.empty() || second.empty())
+        return;
+    const std::vector<std::optional<StationPair>> pairs = pairStations(first, second);
+    for (std::size_t i = 0; i < pairs.size(); ++i) {
+        if (!pairs[i])
+            continue;
+        const auto [list, place] = firstPlaces[i];
+        const auto [otherList, otherPlace] = secondPlaces[pairs[i]->index];
+        ComparedStation &station = lists[list].stations[place];
+        station.second = std::exchange(lists[otherList].stations[otherPlace].second, nullptr);
+        station.isElsewhere = list != otherList;
+        // What has one name on a satellite and in a cable need not be one station.
+        const bool isSure = pairs[i]->likeness == Likeness::Sure;
+        station.likeness = isSure ? Likeness::Sure : Likeness::Loose;
+        station.differences = differencesOf(*station.first, *station.second);
+    }
+    for (ComparedLists &compared : lists) {
+        std::erase_if(compared.stations, [](const ComparedStation &station) {
+            return !station.first && !station.second;
+        });
+    }
+}
+
+void count(ListComparison &comparison)
+{
+    for (const ComparedLists &compared : comparison.lists) {
+        for (const ComparedStation &station : compared.stations)
+            add(station, comparison);
     }
 }
 
@@ -88,7 +131,8 @@ StationPtr copyOf(const LGStation &station)
 
 bool ListComparison::isEmpty() const
 {
-    return isOneToOne() && isSameOrder && numbers + names + skipped + locked + fields == 0;
+    return isSameOrder &&
+           onlyFirst + onlySecond + elsewhere + numbers + names + skipped + locked + fields == 0;
 }
 
 ListComparison compare(const StationLists &first, const StationLists &second)
@@ -106,12 +150,28 @@ ListComparison compare(const StationLists &first, const StationLists &second)
                 continue;
             ComparedLists compared{isTV, static_cast<int>(source), {}};
             compareLists(*one, *other, compared, comparison.isSameOrder);
-            for (const ComparedStation &station : compared.stations)
-                add(station, comparison);
             comparison.lists.push_back(std::move(compared));
         }
+        compareAcross(comparison.lists, isTV);
     }
+    count(comparison);
     return comparison;
+}
+
+void keepOnlyTold(ListComparison &comparison,
+                  const std::function<StationDifferences(const LGStation &second)> &told)
+{
+    for (ComparedLists &compared : comparison.lists) {
+        for (ComparedStation &station : compared.stations) {
+            if (station.first && station.second)
+                station.differences &= told(*station.second);
+        }
+    }
+    ListComparison counted;
+    counted.lists = std::move(comparison.lists);
+    counted.isSameOrder = comparison.isSameOrder;
+    count(counted);
+    comparison = std::move(counted);
 }
 
 StationLists copyOf(const StationLists &lists)

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "document/compare/StationPairing.h"
 #include "document/list/StationLists.h"
 
 #include <QFlags>
 
+#include <functional>
 #include <vector>
 
 namespace quillet {
@@ -14,7 +16,7 @@ enum class StationDifference {
     Name = 2,
     Skipped = 4,
     Locked = 8,
-    Fields = 16, ///< anything else
+    Fields = 16, ///< anything else; told of two records of one variant of the file alone
 };
 Q_DECLARE_FLAGS(StationDifferences, StationDifference)
 
@@ -24,6 +26,8 @@ struct ComparedStation
     StationPtr first;                    ///< null: it is in the second list alone
     StationPtr second;                   ///< null: it is in the first list alone
     StationDifferences differences = {}; ///< none unless it is in both
+    Likeness likeness = Likeness::Sure;  ///< of the two
+    bool isElsewhere = false;            ///< the second is in the list of another source
 };
 
 /// The same of the eight lists in two channel lists.
@@ -32,6 +36,7 @@ struct ComparedLists
     bool isTV = true;
     int source = 0;
     /// In the order of the first list; behind them those of the second list alone, in its order.
+    /// One whose second record is elsewhere is here, with the first.
     std::vector<ComparedStation> stations;
 };
 
@@ -48,18 +53,26 @@ struct ListComparison
     std::size_t skipped = 0;
     std::size_t locked = 0;
     std::size_t fields = 0;
+    std::size_t elsewhere = 0;
+    std::size_t unsure = 0;  ///< pairs that are not surely one station
     bool isSameOrder = true; ///< whether the stations in both stand in the same order
 
-    /// Whether every station is in both.
-    [[nodiscard]] bool isOneToOne() const { return onlyFirst == 0 && onlySecond == 0; }
+    /// Whether every station is surely in both, and in the same list.
+    [[nodiscard]] bool isOneToOne() const
+    {
+        return onlyFirst + onlySecond + elsewhere + unsure == 0;
+    }
     /// Whether nothing differs.
     [[nodiscard]] bool isEmpty() const;
 };
 
-/// Matches stations list by list: by their identifiers where both lists have those once, else by
-/// all that they hold, by what editing does not change, by name, by number. Stations that tell
-/// different identifiers are never the same. Reads the stations' names; otherwise changes nothing.
+/// Matches stations as pairStations() does: list by list, and then what is left over across the
+/// lists of a mode. Reads the stations' names; otherwise changes nothing.
 [[nodiscard]] ListComparison compare(const StationLists &first, const StationLists &second);
+
+/// Drops the differences that a second record does not tell, where those are but parts of stations.
+void keepOnlyTold(ListComparison &comparison,
+                  const std::function<StationDifferences(const LGStation &second)> &told);
 
 /// The same stations again, in the same order, in lists of their own: for comparing them on another
 /// thread. They are named as if they had just been read.

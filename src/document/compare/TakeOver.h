@@ -1,0 +1,72 @@
+#pragma once
+
+#include "document/compare/ListComparison.h"
+#include "document/edit/EditRecord.h"
+
+#include <optional>
+#include <vector>
+
+/// Giving the stations of a list what other records of them tell.
+namespace quillet {
+
+/// A station of a list, another record of it, and what is to be taken over from that.
+struct TakenStation
+{
+    StationPtr station;
+    StationPtr other;             ///< may be null where only places are taken
+    StationDifferences what = {}; ///< Fields is ignored
+};
+
+/// Which numbers stations take.
+enum class NumberRule {
+    AsGiven, ///< that of the other record
+    ByRows,  ///< in the order in which they are given, those that they have among themselves
+};
+
+/// What taking over would do to a list. Means nothing any more once that list has changed.
+struct TakeOverPlan
+{
+    /// What a station is given besides its number. None: stays.
+    struct Fields
+    {
+        StationPtr station;
+        std::optional<QString> name;
+        std::optional<bool> skipped;
+        std::optional<bool> locked;
+    };
+
+    StationList order;           ///< of the whole list afterwards
+    std::vector<qint64> numbers; ///< and its numbers
+    std::vector<Fields> fields;  ///< each with something that changes
+
+    std::size_t moved = 0; ///< stations with another number or place by what is taken over
+    std::size_t renamed = 0;
+    std::size_t skipped = 0; ///< that are skipped then, or are not any more
+    std::size_t locked = 0;
+    std::size_t collided = 0; ///< stations whose number another one takes
+    StationList toTheEnd;     ///< those, in the order and with the last numbers that they get
+    StationList changed;      ///< all stations with anything else than before
+
+    /// How many stations get a number that they cannot carry.
+    [[nodiscard]] std::size_t beyond() const;
+    [[nodiscard]] bool isEmpty() const { return changed.empty(); }
+};
+
+/// Nothing is added and nothing removed; what is no station of the list is ignored, and of several
+/// records of one station the first counts.
+///
+/// AsGiven: a station whose number another one takes, and who takes none, goes to the end of the
+/// list, and so does the second one to take a number. There they keep their order, numbered on from
+/// the highest number. The others keep their numbers, and the list stands in the order of its
+/// numbers then. A record without number gives none.
+///
+/// ByRows: the others keep numbers and places.
+///
+/// A name is taken only when the list may be renamed and there is one.
+[[nodiscard]] TakeOverPlan planTakeOver(const StationList &list,
+                                        const std::vector<TakenStation> &taken, NumberRule rule,
+                                        bool canRename);
+/// Carries out a plan for that very list.
+void takeOver(StationList &list, const TakeOverPlan &plan, EditRecord &record);
+
+} // namespace quillet

@@ -16,6 +16,8 @@ struct MarkWord
     bool isSet;
 };
 
+/// What cells of a mark hold, also as capitals become small ones in a language without Turkish
+/// rules.
 constexpr std::array markWords{
     MarkWord{u"1", true},
     MarkWord{u"0", false},
@@ -53,6 +55,7 @@ constexpr std::array markWords{
     MarkWord{u"do\u011Fru", true},
     MarkWord{u"yanl\u0131\u015F", false},
     MarkWord{u"evet", true},
+    MarkWord{u"yanli\u015F", false},
     MarkWord{u"hay\u0131r", false},
     MarkWord{u"hayir", false},
 };

@@ -210,7 +210,7 @@ QString plainName(const QString &name)
 StationPtr completed(const LGStation &row, StationDifferences told, const LGStation &station)
 {
     StationPtr made;
-    if (dynamic_cast<const LGLegacyStation *>(&station))
+    if (isOfLegacyFormat(station))
         made = std::make_shared<LGLegacyStation>(station.entry(), station.origPos());
     else
         made = std::make_shared<LGStation>(station.entry(), station.origPos());

@@ -91,9 +91,9 @@ QStringConverter::Encoding guessed(QByteArrayView bytes)
             ++(i % 2 == 0 ? even : odd);
     }
     const qsizetype most = start.size() / 4; // half of the letters
-    if (odd > most && even < odd / 4)
+    if (odd > most && even * 4 < odd)
         return QStringConverter::Utf16LE;
-    if (even > most && odd < even / 4)
+    if (even > most && odd * 4 < even)
         return QStringConverter::Utf16BE;
     return QStringConverter::Utf8;
 }

@@ -859,6 +859,10 @@
         <source></source>
         <translation>&amp;Drucken …</translation>
     </message>
+    <message id="kMenuPrintCompact">
+        <source></source>
+        <translation>Kom&amp;pakt drucken …</translation>
+    </message>
     <message id="kMenuQuit">
         <source></source>
         <translation>&amp;Beenden</translation>
@@ -1164,9 +1168,17 @@
         <source></source>
         <translation>Die Zugriffsrechte der Datei konnten nicht beibehalten werden: %1</translation>
     </message>
+    <message id="kPrintedFiltered">
+        <source></source>
+        <translation>nur %1</translation>
+    </message>
     <message id="kPrintedRadio">
         <source></source>
         <translation>Radiosender, %1</translation>
+    </message>
+    <message id="kPrintedSearch">
+        <source></source>
+        <translation>„%1“</translation>
     </message>
     <message id="kPrintedTV">
         <source></source>
@@ -1179,6 +1191,14 @@
     <message id="kPrintFailedReason">
         <source></source>
         <translation>Der Drucker oder die Datei konnte nicht geöffnet werden oder hat nicht alle Seiten angenommen.</translation>
+    </message>
+    <message id="kPrintTitle">
+        <source></source>
+        <translation>In eine Datei drucken</translation>
+    </message>
+    <message id="kPrintToFileFailedMessage">
+        <source></source>
+        <translation>Die Liste konnte nicht nach „%1“ gedruckt werden.</translation>
     </message>
     <message id="kPutBack">
         <source></source>
@@ -1733,6 +1753,10 @@ Diese folgen ab Nummer: %3</translation>
             <numerusform>%n weitere Nummer geändert</numerusform>
             <numerusform>%n weitere Nummern geändert</numerusform>
         </translation>
+    </message>
+    <message id="kToldPrinted">
+        <source></source>
+        <translation>Gedruckt nach %1.</translation>
     </message>
     <message id="kToldPutBack">
         <source></source>

@@ -859,6 +859,10 @@
         <source></source>
         <translation>&amp;Print…</translation>
     </message>
+    <message id="kMenuPrintCompact">
+        <source></source>
+        <translation>Print &amp;Compact…</translation>
+    </message>
     <message id="kMenuQuit">
         <source></source>
         <translation>&amp;Quit</translation>
@@ -1164,9 +1168,17 @@
         <source></source>
         <translation>The file’s access permissions could not be kept: %1</translation>
     </message>
+    <message id="kPrintedFiltered">
+        <source></source>
+        <translation>only %1</translation>
+    </message>
     <message id="kPrintedRadio">
         <source></source>
         <translation>Radio stations, %1</translation>
+    </message>
+    <message id="kPrintedSearch">
+        <source></source>
+        <translation>“%1”</translation>
     </message>
     <message id="kPrintedTV">
         <source></source>
@@ -1179,6 +1191,14 @@
     <message id="kPrintFailedReason">
         <source></source>
         <translation>The printer or the file could not be opened, or did not take every page.</translation>
+    </message>
+    <message id="kPrintTitle">
+        <source></source>
+        <translation>Print to a File</translation>
+    </message>
+    <message id="kPrintToFileFailedMessage">
+        <source></source>
+        <translation>The list could not be printed to “%1”.</translation>
     </message>
     <message id="kPutBack">
         <source></source>
@@ -1733,6 +1753,10 @@ These go on from number: %3</translation>
             <numerusform>%n other number changed</numerusform>
             <numerusform>%n other numbers changed</numerusform>
         </translation>
+    </message>
+    <message id="kToldPrinted">
+        <source></source>
+        <translation>Printed to %1.</translation>
     </message>
     <message id="kToldPutBack">
         <source></source>

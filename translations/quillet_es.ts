@@ -859,6 +859,10 @@
         <source></source>
         <translation>&amp;Imprimir…</translation>
     </message>
+    <message id="kMenuPrintCompact">
+        <source></source>
+        <translation>Imprimir en forma &amp;compacta…</translation>
+    </message>
     <message id="kMenuQuit">
         <source></source>
         <translation>&amp;Salir</translation>
@@ -1164,9 +1168,17 @@
         <source></source>
         <translation>No se han podido conservar los permisos de acceso del archivo: %1</translation>
     </message>
+    <message id="kPrintedFiltered">
+        <source></source>
+        <translation>solo %1</translation>
+    </message>
     <message id="kPrintedRadio">
         <source></source>
         <translation>Emisoras de radio, %1</translation>
+    </message>
+    <message id="kPrintedSearch">
+        <source></source>
+        <translation>«%1»</translation>
     </message>
     <message id="kPrintedTV">
         <source></source>
@@ -1179,6 +1191,14 @@
     <message id="kPrintFailedReason">
         <source></source>
         <translation>No se ha podido abrir la impresora o el archivo, o no ha aceptado todas las páginas.</translation>
+    </message>
+    <message id="kPrintTitle">
+        <source></source>
+        <translation>Imprimir en un archivo</translation>
+    </message>
+    <message id="kPrintToFileFailedMessage">
+        <source></source>
+        <translation>La lista no se ha podido imprimir en «%1».</translation>
     </message>
     <message id="kPutBack">
         <source></source>
@@ -1733,6 +1753,10 @@ Estos continúan a partir del número: %3</translation>
             <numerusform>%n número más cambiado</numerusform>
             <numerusform>%n números más cambiados</numerusform>
         </translation>
+    </message>
+    <message id="kToldPrinted">
+        <source></source>
+        <translation>Impreso en %1.</translation>
     </message>
     <message id="kToldPutBack">
         <source></source>

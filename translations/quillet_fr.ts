@@ -859,6 +859,10 @@
         <source></source>
         <translation>&amp;Imprimer…</translation>
     </message>
+    <message id="kMenuPrintCompact">
+        <source></source>
+        <translation>Imprimer en &amp;compact…</translation>
+    </message>
     <message id="kMenuQuit">
         <source></source>
         <translation>&amp;Quitter</translation>
@@ -1164,9 +1168,17 @@
         <source></source>
         <translation>Impossible de conserver les droits d’accès du fichier : %1</translation>
     </message>
+    <message id="kPrintedFiltered">
+        <source></source>
+        <translation>seulement %1</translation>
+    </message>
     <message id="kPrintedRadio">
         <source></source>
         <translation>Stations de radio, %1</translation>
+    </message>
+    <message id="kPrintedSearch">
+        <source></source>
+        <translation>« %1 »</translation>
     </message>
     <message id="kPrintedTV">
         <source></source>
@@ -1179,6 +1191,14 @@
     <message id="kPrintFailedReason">
         <source></source>
         <translation>L’imprimante ou le fichier n’a pas pu être ouvert, ou n’a pas accepté toutes les pages.</translation>
+    </message>
+    <message id="kPrintTitle">
+        <source></source>
+        <translation>Imprimer dans un fichier</translation>
+    </message>
+    <message id="kPrintToFileFailedMessage">
+        <source></source>
+        <translation>La liste n’a pas pu être imprimée dans « %1 ».</translation>
     </message>
     <message id="kPutBack">
         <source></source>
@@ -1733,6 +1753,10 @@ Ces dernières suivent à partir du numéro : %3</translation>
             <numerusform>%n autre numéro modifié</numerusform>
             <numerusform>%n autres numéros modifiés</numerusform>
         </translation>
+    </message>
+    <message id="kToldPrinted">
+        <source></source>
+        <translation>Imprimé dans %1.</translation>
     </message>
     <message id="kToldPutBack">
         <source></source>

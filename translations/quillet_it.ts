@@ -859,6 +859,10 @@
         <source></source>
         <translation>S&amp;tampa…</translation>
     </message>
+    <message id="kMenuPrintCompact">
+        <source></source>
+        <translation>Stampa &amp;compatta…</translation>
+    </message>
     <message id="kMenuQuit">
         <source></source>
         <translation>Esc&amp;i</translation>
@@ -1164,9 +1168,17 @@
         <source></source>
         <translation>Impossibile mantenere i permessi di accesso del file: %1</translation>
     </message>
+    <message id="kPrintedFiltered">
+        <source></source>
+        <translation>solo %1</translation>
+    </message>
     <message id="kPrintedRadio">
         <source></source>
         <translation>Stazioni radio, %1</translation>
+    </message>
+    <message id="kPrintedSearch">
+        <source></source>
+        <translation>“%1”</translation>
     </message>
     <message id="kPrintedTV">
         <source></source>
@@ -1179,6 +1191,14 @@
     <message id="kPrintFailedReason">
         <source></source>
         <translation>Non è stato possibile aprire la stampante o il file, oppure non sono state accettate tutte le pagine.</translation>
+    </message>
+    <message id="kPrintTitle">
+        <source></source>
+        <translation>Stampa su file</translation>
+    </message>
+    <message id="kPrintToFileFailedMessage">
+        <source></source>
+        <translation>Non è stato possibile stampare la lista in “%1”.</translation>
     </message>
     <message id="kPutBack">
         <source></source>
@@ -1733,6 +1753,10 @@ Questi proseguono dal numero: %3</translation>
             <numerusform>%n altro numero cambiato</numerusform>
             <numerusform>altri %n numeri cambiati</numerusform>
         </translation>
+    </message>
+    <message id="kToldPrinted">
+        <source></source>
+        <translation>Stampato in %1.</translation>
     </message>
     <message id="kToldPutBack">
         <source></source>

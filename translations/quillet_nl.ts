@@ -859,6 +859,10 @@
         <source></source>
         <translation>Af&amp;drukken…</translation>
     </message>
+    <message id="kMenuPrintCompact">
+        <source></source>
+        <translation>&amp;Compact afdrukken…</translation>
+    </message>
     <message id="kMenuQuit">
         <source></source>
         <translation>&amp;Afsluiten</translation>
@@ -1164,9 +1168,17 @@
         <source></source>
         <translation>De toegangsrechten van het bestand konden niet worden behouden: %1</translation>
     </message>
+    <message id="kPrintedFiltered">
+        <source></source>
+        <translation>alleen %1</translation>
+    </message>
     <message id="kPrintedRadio">
         <source></source>
         <translation>Radiozenders, %1</translation>
+    </message>
+    <message id="kPrintedSearch">
+        <source></source>
+        <translation>“%1”</translation>
     </message>
     <message id="kPrintedTV">
         <source></source>
@@ -1179,6 +1191,14 @@
     <message id="kPrintFailedReason">
         <source></source>
         <translation>De printer of het bestand kon niet worden geopend of heeft niet alle pagina’s aangenomen.</translation>
+    </message>
+    <message id="kPrintTitle">
+        <source></source>
+        <translation>Afdrukken naar een bestand</translation>
+    </message>
+    <message id="kPrintToFileFailedMessage">
+        <source></source>
+        <translation>De lijst kon niet naar “%1” worden afgedrukt.</translation>
     </message>
     <message id="kPutBack">
         <source></source>
@@ -1733,6 +1753,10 @@ Deze gaan verder vanaf nummer: %3</translation>
             <numerusform>%n ander nummer gewijzigd</numerusform>
             <numerusform>%n andere nummers gewijzigd</numerusform>
         </translation>
+    </message>
+    <message id="kToldPrinted">
+        <source></source>
+        <translation>Afgedrukt naar %1.</translation>
     </message>
     <message id="kToldPutBack">
         <source></source>

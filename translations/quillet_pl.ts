@@ -879,6 +879,10 @@
         <source></source>
         <translation>&amp;Drukuj…</translation>
     </message>
+    <message id="kMenuPrintCompact">
+        <source></source>
+        <translation>Drukuj w &amp;skrócie…</translation>
+    </message>
     <message id="kMenuQuit">
         <source></source>
         <translation>Za&amp;kończ</translation>
@@ -1187,9 +1191,17 @@
         <source></source>
         <translation>Nie można zachować uprawnień dostępu do pliku: %1</translation>
     </message>
+    <message id="kPrintedFiltered">
+        <source></source>
+        <translation>tylko %1</translation>
+    </message>
     <message id="kPrintedRadio">
         <source></source>
         <translation>Stacje radiowe, %1</translation>
+    </message>
+    <message id="kPrintedSearch">
+        <source></source>
+        <translation>„%1”</translation>
     </message>
     <message id="kPrintedTV">
         <source></source>
@@ -1202,6 +1214,14 @@
     <message id="kPrintFailedReason">
         <source></source>
         <translation>Nie udało się otworzyć drukarki lub pliku albo nie przyjęto wszystkich stron.</translation>
+    </message>
+    <message id="kPrintTitle">
+        <source></source>
+        <translation>Drukuj do pliku</translation>
+    </message>
+    <message id="kPrintToFileFailedMessage">
+        <source></source>
+        <translation>Nie udało się wydrukować listy do „%1”.</translation>
     </message>
     <message id="kPutBack">
         <source></source>
@@ -1780,6 +1800,10 @@ Te następują od numeru: %3</translation>
             <numerusform>zmieniono %n inne numery</numerusform>
             <numerusform>zmieniono %n innych numerów</numerusform>
         </translation>
+    </message>
+    <message id="kToldPrinted">
+        <source></source>
+        <translation>Wydrukowano do %1.</translation>
     </message>
     <message id="kToldPutBack">
         <source></source>

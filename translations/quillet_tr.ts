@@ -839,6 +839,10 @@
         <source></source>
         <translation>Ya&amp;zdır…</translation>
     </message>
+    <message id="kMenuPrintCompact">
+        <source></source>
+        <translation>&amp;Sıkışık Yazdır…</translation>
+    </message>
     <message id="kMenuQuit">
         <source></source>
         <translation>Çı&amp;kış</translation>
@@ -1141,9 +1145,17 @@
         <source></source>
         <translation>Dosyanın erişim izinleri korunamadı: %1</translation>
     </message>
+    <message id="kPrintedFiltered">
+        <source></source>
+        <translation>yalnızca %1</translation>
+    </message>
     <message id="kPrintedRadio">
         <source></source>
         <translation>Radyo kanalları, %1</translation>
+    </message>
+    <message id="kPrintedSearch">
+        <source></source>
+        <translation>“%1”</translation>
     </message>
     <message id="kPrintedTV">
         <source></source>
@@ -1156,6 +1168,14 @@
     <message id="kPrintFailedReason">
         <source></source>
         <translation>Yazıcı veya dosya açılamadı ya da bütün sayfaları almadı.</translation>
+    </message>
+    <message id="kPrintTitle">
+        <source></source>
+        <translation>Dosyaya yazdır</translation>
+    </message>
+    <message id="kPrintToFileFailedMessage">
+        <source></source>
+        <translation>Liste “%1” dosyasına yazdırılamadı.</translation>
     </message>
     <message id="kPutBack">
         <source></source>
@@ -1686,6 +1706,10 @@ Bunların devam ettiği numara: %3</translation>
         <translation>
             <numerusform>%n başka numara değişti</numerusform>
         </translation>
+    </message>
+    <message id="kToldPrinted">
+        <source></source>
+        <translation>%1 dosyasına yazdırıldı.</translation>
     </message>
     <message id="kToldPutBack">
         <source></source>

@@ -123,8 +123,10 @@ void MainMenu::makeFileMenu(QMenuBar &bar)
     });
     m_alwaysRepair->setCheckable(true);
     menu.addSeparator();
-    m_print = add(menu, {"kMenuPrint", "printDocument", QKeySequence::Print},
-                  [this] { m_editor.printList(); });
+    m_print.push_back(add(menu, {"kMenuPrint", "printDocument", QKeySequence::Print},
+                          [this] { m_editor.printList(PrintForm::Table); }));
+    m_print.push_back(add(menu, {"kMenuPrintCompact", "printCompact", {}},
+                          [this] { m_editor.printList(PrintForm::Compact); }));
     menu.addSeparator();
     QAction *quit = add(menu, {"kMenuQuit", "terminate", Qt::CTRL | Qt::Key_Q},
                         [this] { emit quitRequested(); });
@@ -255,7 +257,10 @@ void MainMenu::validate()
     m_alwaysRepair->setVisible(m_alwaysRepair->isChecked());
     using Control = EditorOutlets::Control;
     const ViewController &editor = m_editor.controller();
-    m_print->setEnabled(!editor.currentList().empty());
+    for (QAction *print : m_print) {
+        print->setEnabled(!editor.currentList().empty());
+        print->setToolTip(print->isEnabled() ? QString() : qtTrId("kTipNoStations"));
+    }
     m_showTV->setEnabled(editor.isEnabled(Control::ModeButtons));
     m_showRadio->setEnabled(editor.isEnabled(Control::ModeButtons));
     (editor.isModeTV() ? m_showTV : m_showRadio)->setChecked(true);

@@ -68,6 +68,7 @@ private:
     std::vector<QAction *> m_documentItems; ///< enabled as the document says
     std::vector<QAction *> m_sources;
     std::vector<QAction *> m_filters;
+    std::vector<QAction *> m_print;
     EditMenu *m_edit = nullptr;
     std::function<bool()> m_areUnsaved;
     QAction *m_save = nullptr;
@@ -75,7 +76,6 @@ private:
     QAction *m_reload = nullptr;
     QAction *m_versions = nullptr;
     QAction *m_alwaysRepair = nullptr;
-    QAction *m_print = nullptr;
     QAction *m_showTV = nullptr;
     QAction *m_showRadio = nullptr;
 };

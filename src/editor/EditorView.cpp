@@ -6,7 +6,6 @@
 #include "editor/EditorLayout.h"
 #include "editor/EmptyDocText.h"
 #include "editor/InfoViewController.h"
-#include "editor/ListPrinting.h"
 #include "editor/ShownTexts.h"
 #include "editor/SourceTitles.h"
 #include "editor/TableColumns.h"
@@ -24,10 +23,6 @@
 namespace quillet {
 
 namespace {
-
-/// In the order of the tags.
-constexpr std::array filterTitles{"kFilterAll", "kFilterSD", "kFilterHD",
-                                  "kFilterUHD", "kFilterTV", "kFilterOther"};
 
 /// The label takes the room it needs, and the window with it.
 constexpr qsizetype longestDeviceName = 30;
@@ -69,8 +64,8 @@ void EditorView::setUpControls()
     m_ui->foreignRowsBar->setTabOrderAfter(*m_ui->filterPop);
     m_ui->fileBar->setTabOrderAfter(*m_ui->filterPop);
     m_ui->noticeBar->setTabOrderAfter(*m_ui->filterPop);
-    for (std::size_t i = 0; i < filterTitles.size(); ++i)
-        m_ui->filterPop->addItem(qtTrId(filterTitles[i]), static_cast<int>(i));
+    for (int tag = 0; tag < typeFilterCount; ++tag)
+        m_ui->filterPop->addItem(typeFilterTitle(tag), tag);
 }
 
 void EditorView::setUpTable()
@@ -233,9 +228,9 @@ QMenu &EditorView::columnsMenu() const
     return *m_columnsMenu;
 }
 
-void EditorView::printList()
+void EditorView::printList(PrintForm form)
 {
-    quillet::printList(*m_ui->list, m_controller, sheetWindow());
+    quillet::printList(*m_ui->list, m_controller, form, sheetWindow());
 }
 
 void EditorView::setText(Field field, const QString &text)

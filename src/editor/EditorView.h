@@ -2,6 +2,7 @@
 
 #include "editor/CellEditing.h"
 #include "editor/EditorOutlets.h"
+#include "editor/ListPrinting.h"
 #include "editor/StationTableModel.h"
 #include "editor/ViewController.h"
 
@@ -51,7 +52,7 @@ public:
     void copy();
     void findNext(bool isForward);
     /// Asks where to print, then prints the rows shown.
-    void printList();
+    void printList(PrintForm form);
     void setFillGapsOn(bool on);
     /// Opens the info panel of the first selected station, in the place of an earlier one.
     void showInfo();

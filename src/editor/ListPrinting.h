@@ -7,8 +7,15 @@ namespace quillet {
 
 class ViewController;
 
-/// Asks how to print the rows on show, then prints them, headed by the set, the source and the
-/// mode. What keeps it from printing is shown in a sheet of that window. Does nothing without rows.
-void printList(const QTableView &table, ViewController &controller, QWidget *window);
+enum class PrintForm {
+    Table,   ///< the columns on show
+    Compact, ///< numbers and names alone, in as many columns as fit
+};
+
+/// Asks how to print the rows on show, then prints them, headed by what they are. What keeps it
+/// from printing is shown in a sheet of that window. A file is written as every export is. Does
+/// nothing without rows.
+void printList(const QTableView &table, ViewController &controller, PrintForm form,
+               QWidget *window);
 
 } // namespace quillet

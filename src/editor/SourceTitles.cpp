@@ -6,14 +6,29 @@ namespace quillet {
 
 namespace {
 
-constexpr std::array titles{"kCable", "kSatellite", "kAntenna", "kAnalogue"};
+constexpr std::array sourceTitles{"kCable", "kSatellite", "kAntenna", "kAnalogue"};
+
+/// In the order of the tags.
+constexpr std::array filterTitles{"kFilterAll", "kFilterSD", "kFilterHD",
+                                  "kFilterUHD", "kFilterTV", "kFilterOther"};
+
+template<std::size_t count>
+QString titleAt(int number, const std::array<const char *, count> &titles)
+{
+    const auto index = static_cast<std::size_t>(number);
+    return index < count ? qtTrId(titles[index]) : QString();
+}
 
 } // namespace
 
 QString sourceTitle(int source)
 {
-    const auto index = static_cast<std::size_t>(source);
-    return index < titles.size() ? qtTrId(titles[index]) : QString();
+    return titleAt(source, sourceTitles);
+}
+
+QString typeFilterTitle(int tag)
+{
+    return titleAt(tag, filterTitles);
 }
 
 } // namespace quillet

@@ -6,5 +6,7 @@ namespace quillet {
 
 /// What a source (0 to 3) is called; empty for any other number.
 [[nodiscard]] QString sourceTitle(int source);
+/// What the type filter with that tag is called; empty for any other number.
+[[nodiscard]] QString typeFilterTitle(int tag);
 
 } // namespace quillet

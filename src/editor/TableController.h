@@ -50,6 +50,7 @@ public:
     [[nodiscard]] int filterTag() const { return m_outlets.filterTag(); }
     /// The search text has changed.
     void textDidChange() { applyFilter(); }
+    [[nodiscard]] QString searchText() const { return m_outlets.searchText(); }
     void filterStationsFor(const QString &text);
     void useTypeFilter(int tag);
     void applyFilter();

@@ -1,195 +1,85 @@
 #include "editor/TablePrinter.h"
 
 #include "editor/BadgeDelegate.h"
-#include "editor/CellText.h"
-#include "editor/Contrast.h"
 #include "editor/Glyphs.h"
 #include "editor/StationHeader.h"
 #include "editor/StationTableModel.h"
-#include "editor/TableSelection.h"
 
-#include <QPageRanges>
 #include <QPainter>
-#include <QPrinter>
 #include <QTableView>
 
 #include <cmath>
-#include <numeric>
 
 namespace quillet {
 
-namespace {
-
-constexpr qreal screenDotsPerInch = 96;
-constexpr qreal cellPadding = 4;
-
-// The light appearance: what a print never inherits from a dark screen.
-const QColor ink = Qt::black;
-const QColor rule(0xB0, 0xB0, 0xB0);
-const QColor secondRow(0xF3, 0xF3, 0xF3);
-
-QRectF glyphPlace(const QPainter &painter, const QRectF &cell)
-{
-    const qreal side = painter.fontMetrics().height();
-    return {cell.center() - QPointF(side, side) / 2, QSizeF(side, side)};
-}
-
-/// What has no room is cut.
-void drawText(QPainter &painter, const QRectF &cell, const QVariant &alignment, const QString &text)
-{
-    const QString fitting =
-        painter.fontMetrics().elidedText(text, Qt::ElideRight, static_cast<int>(cell.width()));
-    painter.drawText(cell, alignment.toInt(), inItsDirection(fitting, painter.layoutDirection()));
-}
-
-} // namespace
-
-TablePrinter::TablePrinter(const QTableView &table, QString heading, QString title)
-    : m_table(table), m_header(static_cast<const StationHeader &>(*table.horizontalHeader())),
-      m_model(*table.model()), m_heading(std::move(heading)), m_title(std::move(title))
+TablePrinter::TablePrinter(const QTableView &table, Words words)
+    : PagePrinter(table, std::move(words)),
+      m_header(static_cast<const StationHeader &>(*table.horizontalHeader()))
 {
 }
 
-TablePrinter::Outcome TablePrinter::print(QPrinter &printer)
+int TablePrinter::layOut(QSizeF room, const QFontMetrics &metrics)
 {
-    chooseRows(printer.printRange() == QPrinter::Selection);
-    const qreal scale = printer.resolution() / screenDotsPerInch;
-    // In pixels: a size in points would be scaled twice.
-    QFont font = m_table.font();
-    font.setPixelSize(QFontInfo(font).pixelSize());
-    const Page page =
-        layOut(QSizeF(printer.pageLayout().paintRectPixels(printer.resolution()).size()) / scale,
-               QFontMetrics(font));
-    const std::vector<int> wanted = pagesWanted(printer, page);
-    if (wanted.empty())
-        return Outcome::NoSuchPage;
-
-    QPainter painter;
-    if (!painter.begin(&printer))
-        return Outcome::Failed;
-    painter.scale(scale, scale);
-    painter.setFont(font);
-    painter.setLayoutDirection(m_table.layoutDirection());
-    for (const int number : wanted) {
-        if (number != wanted.front() && !printer.newPage())
-            return Outcome::Failed;
-        drawPage(painter, page, number);
-    }
-    return painter.end() && printer.printerState() != QPrinter::Error ? Outcome::Printed
-                                                                      : Outcome::Failed;
-}
-
-void TablePrinter::chooseRows(bool selectedOnly)
-{
-    m_rows.clear();
-    if (selectedOnly) {
-        for (const qsizetype row : selectedRows(*m_table.selectionModel()))
-            m_rows.push_back(static_cast<int>(row));
-    } else {
-        m_rows.resize(static_cast<std::size_t>(m_model.rowCount()));
-        std::iota(m_rows.begin(), m_rows.end(), 0);
-    }
-}
-
-std::vector<int> TablePrinter::pagesWanted(const QPrinter &printer, const Page &page) const
-{
-    if (printer.printRange() == QPrinter::CurrentPage)
-        return {qMax(0, m_table.currentIndex().row()) / page.rowsPerPage};
-    const QPageRanges ranges =
-        printer.printRange() == QPrinter::PageRange ? printer.pageRanges() : QPageRanges();
-    std::vector<int> pages;
-    for (int number = 0; number < page.count; ++number) {
-        if (ranges.isEmpty() || ranges.contains(number + 1))
-            pages.push_back(number);
-    }
-    return pages;
-}
-
-void TablePrinter::drawPage(QPainter &painter, const Page &page, int number) const
-{
-    drawHeading(painter, page);
-    drawTitles(painter, page, page.rowHeight);
-    const int first = number * page.rowsPerPage;
-    const int end = qMin(first + page.rowsPerPage, static_cast<int>(m_rows.size()));
-    for (int place = first; place < end; ++place)
-        drawRow(painter, page, m_rows[static_cast<std::size_t>(place)], place,
-                (place - first + 2) * page.rowHeight);
-    drawFooter(painter, page, number);
-}
-
-TablePrinter::Page TablePrinter::layOut(QSizeF size, const QFontMetrics &metrics) const
-{
-    Page page;
-    page.size = size;
-    page.rowHeight = metrics.height() + 2 * cellPadding;
-    // One row's height each is kept for the heading, the titles, and the footer with its distance.
-    const qreal forRows = size.height() - 3.5 * page.rowHeight;
-    page.rowsPerPage = qMax(1, static_cast<int>(std::floor(forRows / page.rowHeight)));
-    const int rows = static_cast<int>(m_rows.size());
-    page.count = qMax(1, (rows + page.rowsPerPage - 1) / page.rowsPerPage);
-
-    const qreal factor = size.width() / qMax(1, m_header.length());
-    const bool fromRight = m_table.layoutDirection() == Qt::RightToLeft;
+    m_width = room.width();
+    m_rowHeight = heightOfRow(metrics);
+    m_columns.clear();
+    const qreal factor = m_width / qMax(1, m_header.length());
+    const bool fromRight = table().layoutDirection() == Qt::RightToLeft;
     qreal edge = 0;
     for (const int column : m_header.shownColumns()) {
         const qreal width = m_header.sectionSize(column) * factor;
-        page.columns.push_back({column, fromRight ? size.width() - edge - width : edge, width,
-                                m_header.glyphInPlaceOfTitle(column)});
+        m_columns.push_back({column, fromRight ? m_width - edge - width : edge, width,
+                             m_header.glyphInPlaceOfTitle(column)});
         edge += width;
     }
-    return page;
+    // A row's height is kept for the titles.
+    return qMax(1, static_cast<int>(std::floor(room.height() / m_rowHeight)) - 1);
 }
 
-QRectF TablePrinter::cellOf(const Column &column, const Page &page, qreal top)
+void TablePrinter::drawRows(QPainter &painter, int first, int end) const
 {
-    return {column.left + cellPadding, top, column.width - 2 * cellPadding, page.rowHeight};
+    drawTitles(painter);
+    qreal top = m_rowHeight;
+    for (int place = first; place < end; ++place, top += m_rowHeight) {
+        if (place % 2 == 1)
+            shade(painter, {0, top, m_width, m_rowHeight});
+        const int row = rows()[static_cast<std::size_t>(place)];
+        for (const Column &column : m_columns)
+            drawCell(painter, column, model().index(row, column.number), cellOf(column, top));
+    }
 }
 
-void TablePrinter::drawHeading(QPainter &painter, const Page &page) const
+QRectF TablePrinter::cellOf(const Column &column, qreal top) const
 {
-    painter.setPen(ink);
-    const QRectF line(cellPadding, 0, page.size.width() - 2 * cellPadding, page.rowHeight);
-    painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter,
-                     painter.fontMetrics().elidedText(m_heading, Qt::ElideRight,
-                                                      static_cast<int>(line.width())));
+    return {column.left + cellPadding, top, column.width - 2 * cellPadding, m_rowHeight};
 }
 
-void TablePrinter::drawTitles(QPainter &painter, const Page &page, qreal top) const
+void TablePrinter::drawTitles(QPainter &painter) const
 {
-    QFont font = painter.font();
-    const QFont plain = font;
-    font.setBold(true);
-    painter.setFont(font);
-    painter.setPen(ink);
-    for (const Column &column : page.columns) {
-        const QRectF cell = cellOf(column, page, top);
+    const QFont plain = painter.font();
+    QFont bold = plain;
+    bold.setBold(true);
+    painter.setFont(bold);
+    painter.setPen(ink(false));
+    for (const Column &column : m_columns) {
+        const QRectF cell = cellOf(column, 0);
         const auto of = [this, &column](int role) {
-            return m_model.headerData(column.number, Qt::Horizontal, role);
+            return model().headerData(column.number, Qt::Horizontal, role);
         };
         if (column.inPlaceOfTitle != Glyph::None)
-            drawGlyph(painter, column.inPlaceOfTitle, glyphPlace(painter, cell), ink);
+            drawGlyph(painter, column.inPlaceOfTitle, glyphPlace(painter, cell), ink(false));
         else
             drawText(painter, cell, of(Qt::TextAlignmentRole), of(Qt::DisplayRole).toString());
     }
     painter.setFont(plain);
-    painter.setPen(QPen(rule, 1));
-    painter.drawLine(QPointF(0, top + page.rowHeight),
-                     QPointF(page.size.width(), top + page.rowHeight));
-}
-
-void TablePrinter::drawRow(QPainter &painter, const Page &page, int row, int place, qreal top) const
-{
-    if (place % 2 == 1)
-        painter.fillRect(QRectF(0, top, page.size.width(), page.rowHeight), secondRow);
-    for (const Column &column : page.columns)
-        drawCell(painter, column, m_model.index(row, column.number), cellOf(column, page, top));
+    drawRule(painter, {0, m_rowHeight}, {m_width, m_rowHeight});
 }
 
 void TablePrinter::drawCell(QPainter &painter, const Column &column, const QModelIndex &index,
                             const QRectF &cell) const
 {
     const bool isSkipped = index.data(StationTableModel::SkippedRole).toBool();
-    const QColor color = isSkipped ? faded(ink, Qt::white, secondRow) : ink;
+    const QColor color = ink(isSkipped);
     Glyph glyph = index.data(StationTableModel::GlyphRole).value<Glyph>();
     if (index.data(Qt::CheckStateRole).value<Qt::CheckState>() == Qt::Checked)
         glyph = column.inPlaceOfTitle != Glyph::None ? column.inPlaceOfTitle : Glyph::Tick;
@@ -199,24 +89,12 @@ void TablePrinter::drawCell(QPainter &painter, const Column &column, const QMode
     const bool isType = column.number == columnOf(ColumnContent::Type);
     if (isType && BadgeDelegate::drawBadge(painter, text, cell, color))
         return;
-    painter.save();
     painter.setPen(color);
-    if (isSkipped && m_header.isSectionHidden(columnOf(ColumnContent::Skipped))) {
-        QFont slanted = painter.font();
-        slanted.setItalic(true);
-        painter.setFont(slanted);
-    }
-    drawText(painter, cell, index.data(Qt::TextAlignmentRole), text);
-    painter.restore();
-}
-
-void TablePrinter::drawFooter(QPainter &painter, const Page &page, int number) const
-{
-    const QRectF line(0, page.size.height() - page.rowHeight, page.size.width(), page.rowHeight);
-    painter.setPen(ink);
-    painter.drawText(line, Qt::AlignLeft | Qt::AlignBottom, m_title);
-    painter.drawText(line, Qt::AlignRight | Qt::AlignBottom,
-                     qtTrId("kPageOf").arg(number + 1).arg(page.count));
+    const QVariant alignment = index.data(Qt::TextAlignmentRole);
+    if (isSkipped && m_header.isSectionHidden(columnOf(ColumnContent::Skipped)))
+        drawSlanted(painter, cell, alignment, text);
+    else
+        drawText(painter, cell, alignment, text);
 }
 
 } // namespace quillet

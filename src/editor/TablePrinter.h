@@ -1,41 +1,24 @@
 #pragma once
 
+#include "editor/PagePrinter.h"
 #include "editor/StationColumns.h"
-
-#include <QString>
-#include <QStyleOptionViewItem>
-
-#include <vector>
-
-class QAbstractItemModel;
-class QPainter;
-class QPrinter;
-class QTableView;
 
 namespace quillet {
 
 class StationHeader;
 
-/// Prints the rows of a table: always dark on light, whatever the table looks like on screen; a
-/// heading and the column titles on each page; the shown columns in their order and proportions
-/// over the width of the page, with the badges and glyphs that the screen has.
-class TablePrinter
+/// Prints the shown columns of a table in their order and proportions over the width of the page,
+/// one row below the other under the column titles, with the badges and glyphs that the screen has.
+class TablePrinter : public PagePrinter
 {
 public:
-    /// The heading stands above each page, the title below it.
-    TablePrinter(const QTableView &table, QString heading, QString title);
+    TablePrinter(const QTableView &table, Words words);
 
-    enum class Outcome {
-        Printed,
-        NoSuchPage, ///< nothing was begun: none of the pages chosen is there
-        Failed,     ///< the printer or the file could not be opened, or did not take everything
-    };
-    /// Prints what the printer is set to: all pages, some, the one with the table's current row, or
-    /// the selected rows alone.
-    [[nodiscard]] Outcome print(QPrinter &printer);
+protected:
+    [[nodiscard]] int layOut(QSizeF room, const QFontMetrics &metrics) override;
+    void drawRows(QPainter &painter, int first, int end) const override;
 
 private:
-    /// In units of a screen pixel, to which the painter is scaled.
     struct Column
     {
         int number = 0; ///< in the model
@@ -43,35 +26,16 @@ private:
         qreal width = 0;
         Glyph inPlaceOfTitle = Glyph::None;
     };
-    struct Page
-    {
-        QSizeF size;
-        qreal rowHeight = 0;
-        int rowsPerPage = 1;
-        int count = 1;
-        std::vector<Column> columns;
-    };
 
-    void chooseRows(bool selectedOnly);
-    [[nodiscard]] Page layOut(QSizeF size, const QFontMetrics &metrics) const;
-    /// Those to print, from 0 on.
-    [[nodiscard]] std::vector<int> pagesWanted(const QPrinter &printer, const Page &page) const;
-    void drawPage(QPainter &painter, const Page &page, int number) const;
-    void drawHeading(QPainter &painter, const Page &page) const;
-    void drawTitles(QPainter &painter, const Page &page, qreal top) const;
-    /// A row of the table, at a place among those printed.
-    void drawRow(QPainter &painter, const Page &page, int row, int place, qreal top) const;
+    void drawTitles(QPainter &painter) const;
     void drawCell(QPainter &painter, const Column &column, const QModelIndex &index,
                   const QRectF &cell) const;
-    [[nodiscard]] static QRectF cellOf(const Column &column, const Page &page, qreal top);
-    void drawFooter(QPainter &painter, const Page &page, int number) const;
+    [[nodiscard]] QRectF cellOf(const Column &column, qreal top) const;
 
-    const QTableView &m_table;
     const StationHeader &m_header;
-    const QAbstractItemModel &m_model;
-    QString m_heading;
-    QString m_title;
-    std::vector<int> m_rows; ///< to print
+    qreal m_width = 0;
+    qreal m_rowHeight = 0;
+    std::vector<Column> m_columns;
 };
 
 } // namespace quillet

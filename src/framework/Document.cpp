@@ -256,6 +256,20 @@ void Document::exportDocument(const SavePanel &panel, const QString &typeName,
         ->writeToChosenPlace(panel);
 }
 
+void Document::exportBytes(const SavePanel &panel, const MadeBytes &made,
+                           const DocumentSaving::Done &done)
+{
+    if (m_isAsking)
+        return done(false, {});
+    std::make_shared<DocumentSaving>(*this, made, done)->writeToChosenPlace(panel);
+}
+
+void Document::exportBytesThere(const SavePanel &panel, const MadeBytes &made,
+                                const DocumentSaving::Done &done)
+{
+    std::make_shared<DocumentSaving>(*this, made, done)->writeToSuggestedPlace(panel);
+}
+
 void Document::askForPlace(const SavePanel &panel,
                            const std::function<void(const QString &)> &answered)
 {

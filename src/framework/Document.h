@@ -138,6 +138,12 @@ public:
     /// save. The document's own file, which is not to be chosen, and its changes stay as they are.
     void exportDocument(const SavePanel &panel, const QString &typeName,
                         const DocumentSaving::Done &done);
+    /// Asks for a place and writes there what was made of the document, by the same steps.
+    void exportBytes(const SavePanel &panel, const MadeBytes &made,
+                     const DocumentSaving::Done &done);
+    /// The same, but first tries the place that the panel suggests, which was chosen already.
+    void exportBytesThere(const SavePanel &panel, const MadeBytes &made,
+                          const DocumentSaving::Done &done);
     /// Asks, then reads the file again and refills every window. When it cannot be read any more,
     /// that is shown and the document stays as it is.
     void revertDocumentToSaved();

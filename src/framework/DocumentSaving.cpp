@@ -85,6 +85,12 @@ DocumentSaving::DocumentSaving(Document &document, SavePurpose purpose, const QS
 {
 }
 
+DocumentSaving::DocumentSaving(Document &document, MadeBytes made, Done done)
+    : m_document(document), m_purpose(SavePurpose::Export), m_made(std::move(made)),
+      m_done(std::move(done))
+{
+}
+
 void DocumentSaving::writeToFile()
 {
     write(m_document.fileUrl().toLocalFile(), m_document.knownState());
@@ -123,6 +129,12 @@ void DocumentSaving::writeToChosenPlace(const SavePanel &panel)
     });
 }
 
+void DocumentSaving::writeToSuggestedPlace(const SavePanel &panel)
+{
+    m_panel = panel;
+    write(panel.suggestedPath, {});
+}
+
 /// Who chooses the document's own file to be replaced need not know that others have changed it.
 std::optional<FileState> DocumentSaving::expectedAt(const QString &path) const
 {
@@ -152,11 +164,13 @@ QString DocumentSaving::refusal(const QString &place) const
 QByteArray DocumentSaving::makeBytes(Error &error)
 {
     m_changeCount = m_document.history().changeCount();
-    return m_document.dataOfType(m_typeName, error);
+    return m_made ? m_made->bytes : m_document.dataOfType(m_typeName, error);
 }
 
 void DocumentSaving::review(const QByteArray &bytes, const Decided &decided)
 {
+    if (m_made)
+        return decided(bytes);
     const WaitCursor wait(WaitCursor::Work::Reviewing, bytes.size());
     m_document.reviewSave(bytes, m_purpose, decided);
 }
@@ -243,7 +257,8 @@ void DocumentSaving::takeOver(const SaveJob::Result &result)
         if (result.outcome == SaveJob::Outcome::Written)
             emit m_document.told(m_purpose == SavePurpose::Save
                                      ? m_document.savedText()
-                                     : qtTrId("kToldExported").arg(shownPath(shortPath(m_path))));
+                                     : qtTrId(m_made ? m_made->told : "kToldExported")
+                                           .arg(shownPath(shortPath(m_path))));
     } catch (const std::bad_alloc &) { // it is written all the same
     }
 }
@@ -279,11 +294,11 @@ void DocumentSaving::tellNotKept(const std::vector<NotKept> &notKept)
 
 void DocumentSaving::presentFailure(const Error &error)
 {
-    const bool isExport = m_purpose == SavePurpose::Export;
+    const char *own =
+        m_purpose == SavePurpose::Export ? "kExportFailedMessage" : "kSaveFailedMessage";
     m_lastError = error;
     Alert alert;
-    alert.message =
-        qtTrId(isExport ? "kExportFailedMessage" : "kSaveFailedMessage").arg(targetName());
+    alert.message = qtTrId(m_made ? m_made->failed : own).arg(targetName());
     alert.informativeText = error.text();
     alert.cancelButton = 1;
     const auto goThere = [self = shared_from_this(), error](Choice choice) {

@@ -18,6 +18,14 @@ enum class SavePurpose {
     Export, ///< a copy in the described form; the document stays as it is
 };
 
+/// What is made of a list for people or other programs, and is written as it is.
+struct MadeBytes
+{
+    QByteArray bytes;
+    const char *told;                            ///< id of what is said afterwards, of the path
+    const char *failed = "kExportFailedMessage"; ///< the same of a failure, of the name
+};
+
 /// One save or export of a document: asks for a place if need be, runs the job, shows what went
 /// wrong and offers another way. Lives as long as an answer is awaited and touches the document
 /// only in answers, which reach nobody once the document is gone.
@@ -28,6 +36,8 @@ public:
     using Done = std::function<void(bool, const Error &)>;
 
     DocumentSaving(Document &document, SavePurpose purpose, const QString &typeName, Done done);
+    /// An export of these bytes, which nothing is lost by.
+    DocumentSaving(Document &document, MadeBytes made, Done done);
 
     /// Writes to the document's own file.
     void writeToFile();
@@ -36,6 +46,9 @@ public:
     void writeToNewPlace(const QString &title);
     /// Asks for a place and writes there.
     void writeToChosenPlace(const SavePanel &panel);
+    /// Writes to the place that a panel suggests, which was chosen already. What goes wrong leads
+    /// to the panel.
+    void writeToSuggestedPlace(const SavePanel &panel);
 
     [[nodiscard]] QString refusal(const QString &place) const override;
     [[nodiscard]] QByteArray makeBytes(Error &error) override;
@@ -67,6 +80,7 @@ private:
     Document &m_document;
     SavePurpose m_purpose;
     QString m_typeName;
+    std::optional<MadeBytes> m_made; ///< none: the document's own bytes are written
     Done m_done;
     QString m_path;                   ///< of the file to write
     quint64 m_changeCount = 0;        ///< of the document's history, as its bytes were made

@@ -5,6 +5,7 @@
 #include "testing/TestMain.h"
 
 #include <QAction>
+#include <QLineEdit>
 #include <QPageRanges>
 #include <QPrinter>
 #include <QRegularExpression>
@@ -118,30 +119,75 @@ private slots:
                  qPrintable(QString::number(count)));
     }
 
+    /// Two pages where the table takes nine; what is cut, faded or marked costs no station.
+    void compactFormTakesFewPages()
+    {
+        std::vector<Item> stations;
+        for (int number = 1; number <= 330; ++number) {
+            stations.push_back(makeStation(number, QStringLiteral("Station %1").arg(number)));
+            stations.back().push_back(
+                {QStringLiteral("isSkipped"), QString::number(number % 7 == 0)});
+            stations.back().push_back(
+                {QStringLiteral("isBlocked"), QString::number(number % 5 == 0)});
+        }
+        stations.front() = makeStation(1, QString(40, u'W'));
+        const QByteArrayList printed = print(makeTLL({}, stations).toUtf8(), {}, "printCompact");
+        QVERIFY2(printed.size() <= 2, qPrintable(QString::number(printed.size())));
+        // The letters of "Station", digits for name and number; the long name is cut to a third.
+        const qsizetype letters = 329 * 8 + 2 * (9 + 180 + 3 * 231);
+        const qsizetype drawn = printed.join().count("Tj");
+        QVERIFY2(drawn > letters && drawn < letters + 200, qPrintable(QString::number(drawn)));
+    }
+
+    /// The heading is the only text of which there is more.
+    void narrowedRowsSayByWhat()
+    {
+        const auto printed = [](const QString &search) {
+            App app;
+            QMainWindow *window = app.open("a.tll", listOf(3));
+            part<QLineEdit>(*window, "searchText").setText(search);
+            app.preset.answerPrintPanel(app.folder.filePath(QStringLiteral("a.pdf")));
+            menuItem(*window, "printDocument").trigger();
+            [&] { QTRY_VERIFY(app.preset.isSettled()); }();
+            return pages(contentOf(app.folder.filePath(QStringLiteral("a.pdf")))).value(0);
+        };
+        const qsizetype of3 = printed(QString()).count("Tj");
+        const qsizetype narrowed = printed(QStringLiteral("Station")).count("Tj");
+        QCOMPARE(narrowed - of3,
+                 label("kPrintedFiltered").size() - 2 + label("kPrintedSearch").size() - 2 + 7 + 3);
+    }
+
     void failureIsSaid_data()
     {
+        QTest::addColumn<QString>("place");
         QTest::addColumn<bool>("hasPages");
         QTest::addColumn<QString>("reason");
-        QTest::newRow("no such page") << false << label("kNoSuchPageReason");
-        QTest::newRow("no place") << true << label("kPrintFailedReason");
+        QTest::newRow("no such page") << "a.pdf" << false << "kNoSuchPageReason";
+        QTest::newRow("no folder") << "none/a.pdf" << true << "kCreateFailedReason";
+        QTest::newRow("the list") << "a.tll" << true << "kOwnFileReason";
+        QTest::newRow("no file") << "/dev/full" << true << "kPrintToFileFailedMessage";
     }
     void failureIsSaid()
     {
+        QFETCH(QString, place);
         QFETCH(bool, hasPages);
         QFETCH(QString, reason);
-        App app;
-        QMainWindow *window = app.open("a.tll", listOf(3));
-        if (!hasPages)
-            app.preset.setUpPrinter = [](QPrinter &printer) {
-                printer.setPrintRange(QPrinter::PageRange);
-                printer.setFromTo(7, 8);
-            };
-        app.preset.answerAlert(label("kOK"));
-        app.preset.answerPrintPanel(app.folder.filePath(QStringLiteral("none/a.pdf")));
-        menuItem(*window, "printDocument").trigger();
-        QTRY_VERIFY(app.preset.isSettled());
-        QVERIFY(app.preset.lastText().contains(reason));
-        QVERIFY(!app.preset.printPanels().front().hasSelection);
+        for (const char *form : {"printDocument", "printCompact"}) {
+            App app;
+            QMainWindow *window = app.open("a.tll", listOf(3));
+            if (!hasPages)
+                app.preset.setUpPrinter = [](QPrinter &printer) {
+                    printer.setPrintRange(QPrinter::PageRange);
+                    printer.setFromTo(7, 8);
+                };
+            app.preset.answerAlert(label(hasPages ? "kCancel" : "kOK"));
+            app.preset.answerPrintPanel(QDir(app.folder.path()).absoluteFilePath(place));
+            menuItem(*window, form).trigger();
+            QTRY_VERIFY(app.preset.isSettled());
+            const QString said = label(reason.toLatin1().constData()).section(u'%', 0, 0);
+            QVERIFY(app.preset.lastText().contains(said));
+            QVERIFY(!app.preset.printPanels().front().hasSelection);
+        }
     }
 
 private:
@@ -150,7 +196,8 @@ private:
     {
         return print(listOf(stations), setUp);
     }
-    QByteArrayList print(const QByteArray &list, const SetUp &setUp = {})
+    QByteArrayList print(const QByteArray &list, const SetUp &setUp = {},
+                         const char *form = nullptr)
     {
         App app(nullptr, App::Settings::Kept);
         app.preset.setUpPrinter = setUp;
@@ -161,7 +208,10 @@ private:
         const QString path = app.folder.filePath(QStringLiteral("a.pdf"));
         selectRows(*window, {1, 3});
         app.preset.answerPrintPanel(path);
-        QTest::keyClick(window, Qt::Key_P, Qt::ControlModifier);
+        if (form)
+            menuItem(*window, form).trigger();
+        else
+            QTest::keyClick(window, Qt::Key_P, Qt::ControlModifier);
         [&] { QTRY_VERIFY(app.preset.isSettled()); }();
         [&] { QCOMPARE(tableOf(*window).palette().color(QPalette::Base), base); }();
         return pages(contentOf(path));

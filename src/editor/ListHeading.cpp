@@ -1,0 +1,32 @@
+#include "editor/ListHeading.h"
+
+#include "editor/ShownTexts.h"
+#include "editor/SourceTitles.h"
+#include "editor/TableController.h"
+#include "model/TypeFilter.h"
+
+#include <QStringList>
+
+namespace quillet {
+
+QString listHeading(const TableController &controller)
+{
+    const ShownStations &shown = controller.shown();
+    const auto foreign = shown.foreignRows();
+    const QString source =
+        sourceTitle(foreign ? foreign->source : controller.stationDoc()->curSource());
+    QString heading = qtTrId(controller.isModeTV() ? "kPrintedTV" : "kPrintedRadio").arg(source);
+    const QString dash = QStringLiteral(u" \u2014 ");
+    if (const std::optional<QString> model = controller.stationDoc()->modelName())
+        heading = drawnName(*model) + dash + heading;
+    if (!shown.isFiltered())
+        return heading;
+    QStringList filters;
+    if (const QString text = controller.searchText(); !text.isEmpty())
+        filters.append(qtTrId("kPrintedSearch").arg(drawnName(text)));
+    if (controller.filterTag() != static_cast<int>(TypeFilter::All))
+        filters.append(typeFilterTitle(controller.filterTag()));
+    return heading + dash + qtTrId("kPrintedFiltered").arg(filters.join(QLatin1String(", ")));
+}
+
+} // namespace quillet

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QString>
+
+namespace quillet {
+
+class TableController;
+
+/// What the rows on show are, for a page of paper: the set, the mode, the source, and what they are
+/// narrowed by. Rows that a filter kept are of the source they came from.
+[[nodiscard]] QString listHeading(const TableController &controller);
+
+} // namespace quillet

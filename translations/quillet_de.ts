@@ -1521,6 +1521,10 @@ Diese folgen ab Nummer: %3</translation>
         <source></source>
         <translation>Füllen der Lücken</translation>
     </message>
+    <message id="kStepImported">
+        <source></source>
+        <translation>Import von „%1“</translation>
+    </message>
     <message id="kStepLocked" numerus="yes">
         <source></source>
         <translation>
@@ -1557,6 +1561,10 @@ Diese folgen ab Nummer: %3</translation>
     <message id="kStepSwapped">
         <source></source>
         <translation>Tauschen der Nummern</translation>
+    </message>
+    <message id="kStepTakenOver">
+        <source></source>
+        <translation>Übernehmen aus „%1“</translation>
     </message>
     <message id="kStepUnlocked" numerus="yes">
         <source></source>
@@ -1678,6 +1686,13 @@ Diese folgen ab Nummer: %3</translation>
         <source></source>
         <translation>Nichts geändert: Die Zeilen sind noch die von „%1“, gewählt ist aber „%2“</translation>
     </message>
+    <message id="kToldImported" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n Sender nach „%1“ geändert</numerusform>
+            <numerusform>%n Sender nach „%1“ geändert</numerusform>
+        </translation>
+    </message>
     <message id="kToldLocked" numerus="yes">
         <source></source>
         <translation>
@@ -1796,6 +1811,13 @@ Diese folgen ab Nummer: %3</translation>
     <message id="kToldSwapped">
         <source></source>
         <translation>Die Sender %1 und %2 haben ihre Nummern getauscht</translation>
+    </message>
+    <message id="kToldTakenOver" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n Sender aus „%1“ übernommen</numerusform>
+            <numerusform>%n Sender aus „%1“ übernommen</numerusform>
+        </translation>
     </message>
     <message id="kToldUnchanged">
         <source></source>

@@ -1521,6 +1521,10 @@ These go on from number: %3</translation>
         <source></source>
         <translation>Filling of Gaps</translation>
     </message>
+    <message id="kStepImported">
+        <source></source>
+        <translation>Import of “%1”</translation>
+    </message>
     <message id="kStepLocked" numerus="yes">
         <source></source>
         <translation>
@@ -1557,6 +1561,10 @@ These go on from number: %3</translation>
     <message id="kStepSwapped">
         <source></source>
         <translation>Swap of Numbers</translation>
+    </message>
+    <message id="kStepTakenOver">
+        <source></source>
+        <translation>Taking Over from “%1”</translation>
     </message>
     <message id="kStepUnlocked" numerus="yes">
         <source></source>
@@ -1678,6 +1686,13 @@ These go on from number: %3</translation>
         <source></source>
         <translation>Nothing was changed: the rows are still those of “%1”, while “%2” is chosen</translation>
     </message>
+    <message id="kToldImported" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n station changed by “%1”</numerusform>
+            <numerusform>%n stations changed by “%1”</numerusform>
+        </translation>
+    </message>
     <message id="kToldLocked" numerus="yes">
         <source></source>
         <translation>
@@ -1796,6 +1811,13 @@ These go on from number: %3</translation>
     <message id="kToldSwapped">
         <source></source>
         <translation>Stations %1 and %2 have swapped their numbers</translation>
+    </message>
+    <message id="kToldTakenOver" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n station taken over from “%1”</numerusform>
+            <numerusform>%n stations taken over from “%1”</numerusform>
+        </translation>
     </message>
     <message id="kToldUnchanged">
         <source></source>

@@ -1521,6 +1521,10 @@ Estos continúan a partir del número: %3</translation>
         <source></source>
         <translation>Relleno de huecos</translation>
     </message>
+    <message id="kStepImported">
+        <source></source>
+        <translation>Importación de «%1»</translation>
+    </message>
     <message id="kStepLocked" numerus="yes">
         <source></source>
         <translation>
@@ -1557,6 +1561,10 @@ Estos continúan a partir del número: %3</translation>
     <message id="kStepSwapped">
         <source></source>
         <translation>Intercambio de números</translation>
+    </message>
+    <message id="kStepTakenOver">
+        <source></source>
+        <translation>Adopción de «%1»</translation>
     </message>
     <message id="kStepUnlocked" numerus="yes">
         <source></source>
@@ -1678,6 +1686,13 @@ Estos continúan a partir del número: %3</translation>
         <source></source>
         <translation>No se ha cambiado nada: las filas siguen siendo las de «%1», pero está elegido «%2»</translation>
     </message>
+    <message id="kToldImported" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canal cambiado según «%1»</numerusform>
+            <numerusform>%n canales cambiados según «%1»</numerusform>
+        </translation>
+    </message>
     <message id="kToldLocked" numerus="yes">
         <source></source>
         <translation>
@@ -1796,6 +1811,13 @@ Estos continúan a partir del número: %3</translation>
     <message id="kToldSwapped">
         <source></source>
         <translation>Los canales %1 y %2 han intercambiado sus números</translation>
+    </message>
+    <message id="kToldTakenOver" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Se ha adoptado %n canal de «%1»</numerusform>
+            <numerusform>Se han adoptado %n canales de «%1»</numerusform>
+        </translation>
     </message>
     <message id="kToldUnchanged">
         <source></source>

@@ -1521,6 +1521,10 @@ Ces dernières suivent à partir du numéro : %3</translation>
         <source></source>
         <translation>Comblement des vides</translation>
     </message>
+    <message id="kStepImported">
+        <source></source>
+        <translation>Importation de « %1 »</translation>
+    </message>
     <message id="kStepLocked" numerus="yes">
         <source></source>
         <translation>
@@ -1557,6 +1561,10 @@ Ces dernières suivent à partir du numéro : %3</translation>
     <message id="kStepSwapped">
         <source></source>
         <translation>Échange des numéros</translation>
+    </message>
+    <message id="kStepTakenOver">
+        <source></source>
+        <translation>Reprise de « %1 »</translation>
     </message>
     <message id="kStepUnlocked" numerus="yes">
         <source></source>
@@ -1678,6 +1686,13 @@ Ces dernières suivent à partir du numéro : %3</translation>
         <source></source>
         <translation>Rien n’a été modifié : les lignes sont encore celles de « %1 », alors que « %2 » est choisi</translation>
     </message>
+    <message id="kToldImported" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n chaîne modifiée d’après « %1 »</numerusform>
+            <numerusform>%n chaînes modifiées d’après « %1 »</numerusform>
+        </translation>
+    </message>
     <message id="kToldLocked" numerus="yes">
         <source></source>
         <translation>
@@ -1796,6 +1811,13 @@ Ces dernières suivent à partir du numéro : %3</translation>
     <message id="kToldSwapped">
         <source></source>
         <translation>Les chaînes %1 et %2 ont échangé leurs numéros</translation>
+    </message>
+    <message id="kToldTakenOver" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n chaîne reprise de « %1 »</numerusform>
+            <numerusform>%n chaînes reprises de « %1 »</numerusform>
+        </translation>
     </message>
     <message id="kToldUnchanged">
         <source></source>

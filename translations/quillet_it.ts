@@ -1521,6 +1521,10 @@ Questi proseguono dal numero: %3</translation>
         <source></source>
         <translation>Riempimento dei vuoti</translation>
     </message>
+    <message id="kStepImported">
+        <source></source>
+        <translation>Importazione di “%1”</translation>
+    </message>
     <message id="kStepLocked" numerus="yes">
         <source></source>
         <translation>
@@ -1557,6 +1561,10 @@ Questi proseguono dal numero: %3</translation>
     <message id="kStepSwapped">
         <source></source>
         <translation>Scambio dei numeri</translation>
+    </message>
+    <message id="kStepTakenOver">
+        <source></source>
+        <translation>Ripresa da “%1”</translation>
     </message>
     <message id="kStepUnlocked" numerus="yes">
         <source></source>
@@ -1678,6 +1686,13 @@ Questi proseguono dal numero: %3</translation>
         <source></source>
         <translation>Nulla è stato cambiato: le righe sono ancora quelle di “%1”, ma è scelto “%2”</translation>
     </message>
+    <message id="kToldImported" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canale cambiato secondo “%1”</numerusform>
+            <numerusform>%n canali cambiati secondo “%1”</numerusform>
+        </translation>
+    </message>
     <message id="kToldLocked" numerus="yes">
         <source></source>
         <translation>
@@ -1796,6 +1811,13 @@ Questi proseguono dal numero: %3</translation>
     <message id="kToldSwapped">
         <source></source>
         <translation>I canali %1 e %2 si sono scambiati i numeri</translation>
+    </message>
+    <message id="kToldTakenOver" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canale ripreso da “%1”</numerusform>
+            <numerusform>%n canali ripresi da “%1”</numerusform>
+        </translation>
     </message>
     <message id="kToldUnchanged">
         <source></source>

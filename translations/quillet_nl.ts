@@ -1521,6 +1521,10 @@ Deze gaan verder vanaf nummer: %3</translation>
         <source></source>
         <translation>Vullen van gaten</translation>
     </message>
+    <message id="kStepImported">
+        <source></source>
+        <translation>Importeren van “%1”</translation>
+    </message>
     <message id="kStepLocked" numerus="yes">
         <source></source>
         <translation>
@@ -1557,6 +1561,10 @@ Deze gaan verder vanaf nummer: %3</translation>
     <message id="kStepSwapped">
         <source></source>
         <translation>Wisselen van nummers</translation>
+    </message>
+    <message id="kStepTakenOver">
+        <source></source>
+        <translation>Overnemen uit “%1”</translation>
     </message>
     <message id="kStepUnlocked" numerus="yes">
         <source></source>
@@ -1678,6 +1686,13 @@ Deze gaan verder vanaf nummer: %3</translation>
         <source></source>
         <translation>Niets gewijzigd: de rijen zijn nog die van “%1”, terwijl “%2” is gekozen</translation>
     </message>
+    <message id="kToldImported" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n zender gewijzigd volgens “%1”</numerusform>
+            <numerusform>%n zenders gewijzigd volgens “%1”</numerusform>
+        </translation>
+    </message>
     <message id="kToldLocked" numerus="yes">
         <source></source>
         <translation>
@@ -1796,6 +1811,13 @@ Deze gaan verder vanaf nummer: %3</translation>
     <message id="kToldSwapped">
         <source></source>
         <translation>De zenders %1 en %2 hebben van nummer gewisseld</translation>
+    </message>
+    <message id="kToldTakenOver" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n zender overgenomen uit “%1”</numerusform>
+            <numerusform>%n zenders overgenomen uit “%1”</numerusform>
+        </translation>
     </message>
     <message id="kToldUnchanged">
         <source></source>

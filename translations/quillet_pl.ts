@@ -1553,6 +1553,10 @@ Te następują od numeru: %3</translation>
         <source></source>
         <translation>Wypełnienie luk</translation>
     </message>
+    <message id="kStepImported">
+        <source></source>
+        <translation>Import z „%1”</translation>
+    </message>
     <message id="kStepLocked" numerus="yes">
         <source></source>
         <translation>
@@ -1592,6 +1596,10 @@ Te następują od numeru: %3</translation>
     <message id="kStepSwapped">
         <source></source>
         <translation>Zamiana numerów</translation>
+    </message>
+    <message id="kStepTakenOver">
+        <source></source>
+        <translation>Przejęcie z „%1”</translation>
     </message>
     <message id="kStepUnlocked" numerus="yes">
         <source></source>
@@ -1716,6 +1724,14 @@ Te następują od numeru: %3</translation>
     <message id="kToldForeign">
         <source></source>
         <translation>Niczego nie zmieniono: wiersze są nadal z „%1”, a wybrano „%2”</translation>
+    </message>
+    <message id="kToldImported" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Zmieniono %n kanał według „%1”</numerusform>
+            <numerusform>Zmieniono %n kanały według „%1”</numerusform>
+            <numerusform>Zmieniono %n kanałów według „%1”</numerusform>
+        </translation>
     </message>
     <message id="kToldLocked" numerus="yes">
         <source></source>
@@ -1844,6 +1860,14 @@ Te następują od numeru: %3</translation>
     <message id="kToldSwapped">
         <source></source>
         <translation>Kanały %1 i %2 zamieniły się numerami</translation>
+    </message>
+    <message id="kToldTakenOver" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Przejęto %n kanał z „%1”</numerusform>
+            <numerusform>Przejęto %n kanały z „%1”</numerusform>
+            <numerusform>Przejęto %n kanałów z „%1”</numerusform>
+        </translation>
     </message>
     <message id="kToldUnchanged">
         <source></source>

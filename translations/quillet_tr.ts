@@ -1489,6 +1489,10 @@ Bunların devam ettiği numara: %3</translation>
         <source></source>
         <translation>Boşlukları Doldurma</translation>
     </message>
+    <message id="kStepImported">
+        <source></source>
+        <translation>“%1” İçe Aktarımı</translation>
+    </message>
     <message id="kStepLocked" numerus="yes">
         <source></source>
         <translation>
@@ -1522,6 +1526,10 @@ Bunların devam ettiği numara: %3</translation>
     <message id="kStepSwapped">
         <source></source>
         <translation>Numaraları Takas Etme</translation>
+    </message>
+    <message id="kStepTakenOver">
+        <source></source>
+        <translation>“%1” Listesinden Devralma</translation>
     </message>
     <message id="kStepUnlocked" numerus="yes">
         <source></source>
@@ -1639,6 +1647,12 @@ Bunların devam ettiği numara: %3</translation>
         <source></source>
         <translation>Hiçbir şey değişmedi: satırlar hâlâ “%1” kaynağının, oysa “%2” seçili</translation>
     </message>
+    <message id="kToldImported" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n kanal “%1” dosyasına göre değiştirildi</numerusform>
+        </translation>
+    </message>
     <message id="kToldLocked" numerus="yes">
         <source></source>
         <translation>
@@ -1748,6 +1762,12 @@ Bunların devam ettiği numara: %3</translation>
     <message id="kToldSwapped">
         <source></source>
         <translation>%1 ve %2 numaralı kanallar numaralarını takas etti</translation>
+    </message>
+    <message id="kToldTakenOver" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>“%1” listesinden %n kanal devralındı</numerusform>
+        </translation>
     </message>
     <message id="kToldUnchanged">
         <source></source>

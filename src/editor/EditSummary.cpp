@@ -39,6 +39,8 @@ constexpr std::array kindTexts{
     KindTexts{Kind::Unlocked, "kToldUnlocked", true, "kStepUnlocked", true},
     KindTexts{Kind::Ordered, "kToldOrdered", false, "kStepOrdered", false},
     KindTexts{Kind::PutBack, "kToldPutBack", false, "kStepPutBack", false},
+    KindTexts{Kind::TakenOver, "kToldTakenOver", true, "kStepTakenOver", false},
+    KindTexts{Kind::Imported, "kToldImported", true, "kStepImported", false},
 };
 
 const KindTexts &textsOf(Kind kind)

@@ -23,8 +23,10 @@ struct EditSummary
         Unskipped,
         Locked,
         Unlocked,
-        Ordered, ///< as a reference list says
-        PutBack, ///< an earlier version
+        Ordered,   ///< as a reference list says
+        PutBack,   ///< an earlier version
+        TakenOver, ///< numbers, names and marks from another list
+        Imported,  ///< the same from a file of rows
     };
 
     Kind kind = Kind::Moved;
@@ -32,7 +34,8 @@ struct EditSummary
     qint64 first = 0;         ///< the number of the first that was moved, now
     qint64 last = 0;          ///< and of the last
     std::size_t others = 0;   ///< stations besides them that got another number
-    QString name = {};        ///< that was given; after an order, that of its file; of a version
+    QString name = {};        ///< that was given; after an order, that of its file; of a version;
+                              ///< of what was taken over from
 };
 
 /// The summary in a sentence, without a full stop.

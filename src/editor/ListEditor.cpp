@@ -168,8 +168,8 @@ bool ListEditor::putBack(const ChannelList &version, const QString &name)
     if (now.isLegacyFormat != version.isLegacyFormat || !comparison.isOneToOne() ||
         hasTwins(comparison))
         return false;
-    EditStep::Content parts;
     std::vector<ListChange> changes;
+    std::vector<EditRecord> records;
     for (const ComparedLists &compared : comparison.lists) {
         const StationListPtr &list = now.lists.list(compared.isTV, compared.source);
         EditRecord record;
@@ -183,13 +183,48 @@ bool ListEditor::putBack(const ChannelList &version, const QString &name)
                            .fields = StationField::All,
                            .summary = {.kind = Kind::PutBack, .name = name},
                            .stations = changed});
-        parts.push_back({changes.back(), {std::move(record)}});
+        records.push_back(std::move(record));
     }
-    if (parts.empty())
-        return true;
-    m_document->history().push(std::make_unique<EditStep>(*this, std::move(parts)));
-    tell(std::move(changes));
+    push(std::move(changes), std::move(records));
     return true;
+}
+
+bool ListEditor::takeOver(const std::vector<TakeOverPart> &parts, const EditSummary &summary,
+                          Beyond beyond)
+{
+    const auto isRefused = [this, beyond](const TakeOverPart &part) {
+        return !isListOfDocument(part.list) ||
+               (beyond == Beyond::Refused && part.plan.beyond() > 0);
+    };
+    if (std::any_of(parts.begin(), parts.end(), isRefused))
+        return false;
+    std::vector<ListChange> changes;
+    std::vector<EditRecord> records;
+    for (const auto &[list, plan] : parts) {
+        EditRecord record;
+        if (!plan.isEmpty())
+            quillet::takeOver(*list, plan, record);
+        if (record.isEmpty())
+            continue;
+        changes.push_back({.kind = ListChange::Kind::Moved,
+                           .list = list,
+                           .places = {{0, list->size()}},
+                           .fields = StationField::All,
+                           .summary = summary,
+                           .stations = plan.changed});
+        records.push_back(std::move(record));
+    }
+    push(std::move(changes), std::move(records));
+    return true;
+}
+
+bool ListEditor::isListOfDocument(const StationListPtr &list) const
+{
+    const StationLists &lists = m_document->lists();
+    const auto holds = [&list](const StationLists::Lists &those) {
+        return std::find(those.begin(), those.end(), list) != those.end();
+    };
+    return list && (holds(lists.tvStations()) || holds(lists.radioStations()));
 }
 
 void ListEditor::tell(std::vector<ListChange> changes)
@@ -214,6 +249,17 @@ void ListEditor::push(ListChange change, EditRecord record)
     m_document->history().push(
         std::make_unique<EditStep>(*this, EditStep::Content{{change, {std::move(record)}}}));
     emit changed(change);
+}
+
+void ListEditor::push(std::vector<ListChange> changes, std::vector<EditRecord> records)
+{
+    if (changes.empty())
+        return;
+    EditStep::Content parts;
+    for (std::size_t i = 0; i < changes.size(); ++i)
+        parts.push_back({changes[i], {std::move(records[i])}});
+    m_document->history().push(std::make_unique<EditStep>(*this, std::move(parts)));
+    tell(std::move(changes));
 }
 
 } // namespace quillet

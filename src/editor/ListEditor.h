@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/TLLDocument.h"
+#include "document/compare/TakeOver.h"
 #include "document/edit/Arranging.h"
 #include "document/edit/Renumbering.h"
 #include "document/edit/StationEdits.h"
@@ -13,10 +14,11 @@ namespace quillet {
 
 /// The one gate for edits: every change of a station or of the order of a list is made here,
 /// becomes a step of the document's history and is told; and so is its undoing. Works on the
-/// document's current list, but for what puts back a whole version; asked for stations of another
-/// list it does nothing. An edit that changes nothing leaves no step, but a reference list counts
-/// as a change by itself. Shows nothing but the document's own report of an order. Owned by the
-/// window's ViewController; holds the document weakly, without which nothing may be asked of it.
+/// document's current list, but for what puts back a whole version or takes over from other lists;
+/// asked for stations of another list it does nothing. An edit that changes nothing leaves no step,
+/// but a reference list counts as a change by itself. Shows nothing but the document's own report
+/// of an order. Owned by the window's ViewController; holds the document weakly, without which
+/// nothing may be asked of it.
 ///
 /// An edit that would give a station a number that it cannot carry is made only when that is said
 /// to be wanted, whatever way it comes here.
@@ -56,6 +58,17 @@ public:
     /// Returns whether everything is so now.
     bool putBack(const ChannelList &version, const QString &name);
 
+    /// A list of the document and what is taken over in it.
+    struct TakeOverPart
+    {
+        StationListPtr list;
+        TakeOverPlan plan;
+    };
+    /// Carries out plans, each made of another list as it is, as one step, which the summary tells.
+    /// Returns whether it did, also when nothing was to be changed.
+    bool takeOver(const std::vector<TakeOverPart> &parts, const EditSummary &summary,
+                  Beyond beyond = Beyond::Refused);
+
     /// Tells the changes of one edit, each of another list.
     void tell(std::vector<ListChange> changes);
 
@@ -64,6 +77,9 @@ signals:
 
 private:
     void push(ListChange change, EditRecord record);
+    /// Of several lists; without any it comes to nothing.
+    void push(std::vector<ListChange> changes, std::vector<EditRecord> records);
+    [[nodiscard]] bool isListOfDocument(const StationListPtr &list) const;
     [[nodiscard]] StationList &list() const { return *m_document->stations(); }
 
     QPointer<TLLDocument> m_document;

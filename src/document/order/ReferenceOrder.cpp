@@ -25,6 +25,7 @@ struct MatchedStation
     StationPtr station;        ///< null: no match
     QLatin1String by;          ///< how it was found, in the words of its log line
     QLatin1String mark{"+++"}; ///< what that line begins with
+    bool isByName = false;
 };
 
 /// The parts of a service identifier. Valid as long as the identifier.
@@ -80,21 +81,21 @@ MatchedStation takeStation(StationPool &pool, const ReferenceEntry &entry)
     const StationPool::Match match = pool.findName(entry.name);
     if (match.found == Found::None)
         return {};
-    return {pool.take(match.index), QLatin1String("name"), QLatin1String("---")};
+    return {pool.take(match.index), QLatin1String("name"), QLatin1String("---"), true};
 }
 
-/// Tells which station each entry takes, with the entry's number. Returns those that none took.
+/// Tells which station each entry takes, with the entry's number and which one it is. Returns the
+/// stations that none took.
 template<typename Taken>
 StationList match(StationList stations, const ReferenceList &entries, Taken taken)
 {
     StationPool pool(std::move(stations));
-    for (const ReferenceEntry &entry : entries) {
-        if (pool.isEmpty())
-            break;
-        const MatchedStation matched = takeStation(pool, entry);
+    for (std::size_t i = 0; i < entries.size() && !pool.isEmpty(); ++i) {
+        const MatchedStation matched = takeStation(pool, entries[i]);
         if (matched.station)
             taken(matched,
-                  std::clamp<qint64>(lenientInteger(entry.num), lowestNumber, highestNumber));
+                  std::clamp<qint64>(lenientInteger(entries[i].num), lowestNumber, highestNumber),
+                  i);
     }
     return pool.takeAll();
 }
@@ -136,7 +137,7 @@ ReferenceOrderResult applyReferenceOrder(StationList &stations, const ReferenceL
         static_cast<long>(entries.size()), static_cast<long>(stations.size()))));
     log.flush(); // what goes wrong from here on has a beginning in the log
     qint64 last = 0;
-    const auto take = [&](const MatchedStation &matched, qint64 number) {
+    const auto take = [&](const MatchedStation &matched, qint64 number, std::size_t) {
         log.add(matched.mark, QLatin1String(" Found Elem ("),
                 QStringView(matched.station->stationName()), QLatin1String(") by "), matched.by);
         add(matched.station, number);
@@ -154,6 +155,24 @@ ReferenceOrderResult applyReferenceOrder(StationList &stations, const ReferenceL
     return result;
 }
 
+ReferenceOrderPlan planReferenceOrder(const StationList &stations, const ReferenceList &entries)
+{
+    ReferenceOrderPlan plan;
+    const auto take = [&plan](const MatchedStation &matched, qint64 number, std::size_t entry) {
+        plan.matched.push_back({matched.station, number, entry, matched.isByName});
+    };
+    plan.remaining = match(stations, entries, take);
+    std::size_t next = 0; // of those matched, which went by their entries
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        if (next < plan.matched.size() && plan.matched[next].entry == i)
+            ++next;
+        else
+            plan.unused.push_back(i);
+    }
+    plan.last = plan.matched.empty() ? 0 : plan.matched.back().number;
+    return plan;
+}
+
 std::size_t beyondAfterOrder(const StationList &stations, const ReferenceList &entries)
 {
     // Mostly no number of the list comes near those that cannot be carried.
@@ -167,7 +186,7 @@ std::size_t beyondAfterOrder(const StationList &stations, const ReferenceList &e
         return 0;
     std::size_t beyond = 0;
     qint64 last = 0;
-    const auto count = [&beyond, &last](const MatchedStation &, qint64 number) {
+    const auto count = [&beyond, &last](const MatchedStation &, qint64 number, std::size_t) {
         beyond += LGStation::canCarry(number) ? 0 : 1;
         last = number;
     };

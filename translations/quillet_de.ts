@@ -1136,6 +1136,10 @@
         <source></source>
         <translation>Sie ist eine Liste von der Art, die ihre Sender als JSON führt. Deren Kennungen sind Zahlen, an denen Sender anderer Listen nicht erkannt werden.</translation>
     </message>
+    <message id="kOrderLines">
+        <source></source>
+        <translation>Zeilen dieser Form in dieser Datei: %1. Andere Zeilen: %2.</translation>
+    </message>
     <message id="kOrderNoIdentifiers">
         <source></source>
         <translation>Sender werden an Netzwerk-, Transportstrom- und Dienstkennung (original network id, transport stream id, service id) erkannt, und keiner ihrer Sender hat alle drei und einen Namen.</translation>
@@ -1152,10 +1156,6 @@
         <source></source>
         <translation>Sie enthält keine TV-Sender.</translation>
     </message>
-    <message id="kOrderWrongType">
-        <source></source>
-        <translation>Eine Reihenfolge kann aus TLL-Dateien und aus Textdateien (.txt) übernommen werden.</translation>
-    </message>
     <message id="kOwnFileReason">
         <source></source>
         <translation>Das ist die Datei der Liste selbst, die ein Export nie ersetzt. Wählen Sie einen anderen Namen oder einen anderen Ordner.</translation>
@@ -1167,6 +1167,10 @@
     <message id="kPermissionsFailedReason">
         <source></source>
         <translation>Die Zugriffsrechte der Datei konnten nicht beibehalten werden: %1</translation>
+    </message>
+    <message id="kPreviewOrder">
+        <source></source>
+        <translation>Vorschau …</translation>
     </message>
     <message id="kPrintedFiltered">
         <source></source>

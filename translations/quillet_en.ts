@@ -1136,6 +1136,10 @@
         <source></source>
         <translation>It is a list of the kind that keeps its stations as JSON. There the identifiers are numbers, by which stations of other lists are not found.</translation>
     </message>
+    <message id="kOrderLines">
+        <source></source>
+        <translation>Lines of that form in this file: %1. Other lines: %2.</translation>
+    </message>
     <message id="kOrderNoIdentifiers">
         <source></source>
         <translation>Stations are found by original network id, transport stream id and service id, and none of its stations has all three and a name.</translation>
@@ -1152,10 +1156,6 @@
         <source></source>
         <translation>It has no TV stations.</translation>
     </message>
-    <message id="kOrderWrongType">
-        <source></source>
-        <translation>An order can be taken from TLL files and from text files (.txt).</translation>
-    </message>
     <message id="kOwnFileReason">
         <source></source>
         <translation>This is the file of the list itself, and an export never replaces it. Choose another name or another folder.</translation>
@@ -1167,6 +1167,10 @@
     <message id="kPermissionsFailedReason">
         <source></source>
         <translation>The file’s access permissions could not be kept: %1</translation>
+    </message>
+    <message id="kPreviewOrder">
+        <source></source>
+        <translation>Preview…</translation>
     </message>
     <message id="kPrintedFiltered">
         <source></source>

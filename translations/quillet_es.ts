@@ -1136,6 +1136,10 @@
         <source></source>
         <translation>Es una lista del tipo que guarda sus canales como JSON. En ella los identificadores son números, con los que no se reconocen los canales de otras listas.</translation>
     </message>
+    <message id="kOrderLines">
+        <source></source>
+        <translation>Líneas de esa forma en este archivo: %1. Otras líneas: %2.</translation>
+    </message>
     <message id="kOrderNoIdentifiers">
         <source></source>
         <translation>Los canales se reconocen por los identificadores de red original, de flujo de transporte y de servicio, y ninguno de los suyos tiene los tres y un nombre.</translation>
@@ -1152,10 +1156,6 @@
         <source></source>
         <translation>No tiene canales de televisión.</translation>
     </message>
-    <message id="kOrderWrongType">
-        <source></source>
-        <translation>El orden se puede tomar de archivos TLL y de archivos de texto (.txt).</translation>
-    </message>
     <message id="kOwnFileReason">
         <source></source>
         <translation>Es el archivo de la propia lista, que una exportación nunca sustituye. Elija otro nombre u otra carpeta.</translation>
@@ -1167,6 +1167,10 @@
     <message id="kPermissionsFailedReason">
         <source></source>
         <translation>No se han podido conservar los permisos de acceso del archivo: %1</translation>
+    </message>
+    <message id="kPreviewOrder">
+        <source></source>
+        <translation>Vista previa…</translation>
     </message>
     <message id="kPrintedFiltered">
         <source></source>

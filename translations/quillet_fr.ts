@@ -1136,6 +1136,10 @@
         <source></source>
         <translation>C’est une liste du type qui conserve ses chaînes en JSON. Les identifiants y sont des nombres, qui ne permettent pas de retrouver les chaînes d’autres listes.</translation>
     </message>
+    <message id="kOrderLines">
+        <source></source>
+        <translation>Lignes de cette forme dans ce fichier : %1. Autres lignes : %2.</translation>
+    </message>
     <message id="kOrderNoIdentifiers">
         <source></source>
         <translation>Les chaînes sont retrouvées par leurs identifiants de réseau d’origine, de flux de transport et de service, et aucune des siennes n’a les trois ainsi qu’un nom.</translation>
@@ -1152,10 +1156,6 @@
         <source></source>
         <translation>Il ne contient aucune chaîne TV.</translation>
     </message>
-    <message id="kOrderWrongType">
-        <source></source>
-        <translation>Un ordre peut être repris de fichiers TLL et de fichiers texte (.txt).</translation>
-    </message>
     <message id="kOwnFileReason">
         <source></source>
         <translation>C’est le fichier de la liste elle-même, qu’une exportation ne remplace jamais. Choisissez un autre nom ou un autre dossier.</translation>
@@ -1167,6 +1167,10 @@
     <message id="kPermissionsFailedReason">
         <source></source>
         <translation>Impossible de conserver les droits d’accès du fichier : %1</translation>
+    </message>
+    <message id="kPreviewOrder">
+        <source></source>
+        <translation>Aperçu…</translation>
     </message>
     <message id="kPrintedFiltered">
         <source></source>

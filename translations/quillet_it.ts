@@ -1136,6 +1136,10 @@
         <source></source>
         <translation>È un elenco del tipo che conserva i canali come JSON. Lì gli identificatori sono numeri, con i quali non si riconoscono i canali di altri elenchi.</translation>
     </message>
+    <message id="kOrderLines">
+        <source></source>
+        <translation>Righe di questa forma in questo file: %1. Altre righe: %2.</translation>
+    </message>
     <message id="kOrderNoIdentifiers">
         <source></source>
         <translation>I canali si riconoscono dagli identificatori di rete originale, di flusso di trasporto e di servizio, e nessuno dei suoi li ha tutti e tre insieme a un nome.</translation>
@@ -1152,10 +1156,6 @@
         <source></source>
         <translation>Non contiene canali TV.</translation>
     </message>
-    <message id="kOrderWrongType">
-        <source></source>
-        <translation>Un ordine si può prendere da file TLL e da file di testo (.txt).</translation>
-    </message>
     <message id="kOwnFileReason">
         <source></source>
         <translation>Questo è il file della lista stessa, che un’esportazione non sostituisce mai. Scegli un altro nome o un’altra cartella.</translation>
@@ -1167,6 +1167,10 @@
     <message id="kPermissionsFailedReason">
         <source></source>
         <translation>Impossibile mantenere i permessi di accesso del file: %1</translation>
+    </message>
+    <message id="kPreviewOrder">
+        <source></source>
+        <translation>Anteprima…</translation>
     </message>
     <message id="kPrintedFiltered">
         <source></source>

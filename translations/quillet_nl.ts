@@ -1136,6 +1136,10 @@
         <source></source>
         <translation>Het is een lijst van het soort dat zijn zenders als JSON bewaart. Daar zijn de kenmerken getallen, waaraan zenders van andere lijsten niet worden herkend.</translation>
     </message>
+    <message id="kOrderLines">
+        <source></source>
+        <translation>Regels van die vorm in dit bestand: %1. Andere regels: %2.</translation>
+    </message>
     <message id="kOrderNoIdentifiers">
         <source></source>
         <translation>Zenders worden herkend aan original network id, transport stream id en service id, en geen van de zenders in dit bestand heeft ze alle drie en een naam.</translation>
@@ -1152,10 +1156,6 @@
         <source></source>
         <translation>Het bevat geen tv-zenders.</translation>
     </message>
-    <message id="kOrderWrongType">
-        <source></source>
-        <translation>Een volgorde kan worden overgenomen uit TLL-bestanden en tekstbestanden (.txt).</translation>
-    </message>
     <message id="kOwnFileReason">
         <source></source>
         <translation>Dit is het bestand van de lijst zelf, dat door exporteren nooit wordt vervangen. Kies een andere naam of een andere map.</translation>
@@ -1167,6 +1167,10 @@
     <message id="kPermissionsFailedReason">
         <source></source>
         <translation>De toegangsrechten van het bestand konden niet worden behouden: %1</translation>
+    </message>
+    <message id="kPreviewOrder">
+        <source></source>
+        <translation>Voorbeeld…</translation>
     </message>
     <message id="kPrintedFiltered">
         <source></source>

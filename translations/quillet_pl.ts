@@ -1159,6 +1159,10 @@
         <source></source>
         <translation>Jest to lista tego rodzaju, który przechowuje stacje jako JSON. Identyfikatory są w niej liczbami, po których nie rozpoznaje się stacji z innych list.</translation>
     </message>
+    <message id="kOrderLines">
+        <source></source>
+        <translation>Wiersze tej postaci w tym pliku: %1. Inne wiersze: %2.</translation>
+    </message>
     <message id="kOrderNoIdentifiers">
         <source></source>
         <translation>Stacje są rozpoznawane po identyfikatorach sieci, strumienia transportowego i usługi, a żadna stacja w tym pliku nie ma wszystkich trzech i nazwy.</translation>
@@ -1175,10 +1179,6 @@
         <source></source>
         <translation>Nie ma w nim stacji TV.</translation>
     </message>
-    <message id="kOrderWrongType">
-        <source></source>
-        <translation>Kolejność można wziąć z plików TLL i z plików tekstowych (.txt).</translation>
-    </message>
     <message id="kOwnFileReason">
         <source></source>
         <translation>To jest plik samej listy, a eksport nigdy go nie zastępuje. Wybierz inną nazwę lub inny folder.</translation>
@@ -1190,6 +1190,10 @@
     <message id="kPermissionsFailedReason">
         <source></source>
         <translation>Nie można zachować uprawnień dostępu do pliku: %1</translation>
+    </message>
+    <message id="kPreviewOrder">
+        <source></source>
+        <translation>Podgląd…</translation>
     </message>
     <message id="kPrintedFiltered">
         <source></source>

@@ -1113,6 +1113,10 @@
         <source></source>
         <translation>Bu, kanallarını JSON olarak tutan türden bir listedir. Buradaki kimlikler sayıdır ve başka listelerin kanalları bunlarla bulunmaz.</translation>
     </message>
+    <message id="kOrderLines">
+        <source></source>
+        <translation>Bu dosyada bu biçimdeki satırlar: %1. Diğer satırlar: %2.</translation>
+    </message>
     <message id="kOrderNoIdentifiers">
         <source></source>
         <translation>Kanallar özgün ağ, aktarım akışı ve hizmet kimlikleriyle tanınır; bu dosyadaki hiçbir kanalda bu üç kimlik ile bir ad birlikte bulunmuyor.</translation>
@@ -1129,10 +1133,6 @@
         <source></source>
         <translation>İçinde TV kanalı yok.</translation>
     </message>
-    <message id="kOrderWrongType">
-        <source></source>
-        <translation>Sıralama TLL dosyalarından ve metin dosyalarından (.txt) alınabilir.</translation>
-    </message>
     <message id="kOwnFileReason">
         <source></source>
         <translation>Bu, listenin kendi dosyasıdır; dışa aktarma onun yerine asla yazmaz. Başka bir ad veya klasör seçin.</translation>
@@ -1144,6 +1144,10 @@
     <message id="kPermissionsFailedReason">
         <source></source>
         <translation>Dosyanın erişim izinleri korunamadı: %1</translation>
+    </message>
+    <message id="kPreviewOrder">
+        <source></source>
+        <translation>Önizleme…</translation>
     </message>
     <message id="kPrintedFiltered">
         <source></source>

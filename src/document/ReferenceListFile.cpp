@@ -4,6 +4,7 @@
 #include "files/FileReading.h"
 
 #include <QFileInfo>
+#include <QLocale>
 #include <QUrl>
 
 #include <new>
@@ -38,6 +39,17 @@ bool isChannelList(const QByteArray &bytes)
     return bytes.first(qMin(bytes.size(), beginning)).replace('\0', "").contains("<TLLDATA");
 }
 
+/// What such a file must hold, and what this one does.
+QString reasonAgainst(const QByteArray &bytes)
+{
+    if (isChannelList(bytes))
+        return qtTrId("kOrderIsChannelList");
+    const ReferenceLines lines = referenceLinesIn(bytes);
+    return qtTrId("kOrderNoLines") + u' ' +
+           qtTrId("kOrderLines")
+               .arg(QLocale().toString(lines.entries), QLocale().toString(lines.others));
+}
+
 ReferenceList fromText(const QUrl &url, QString &reason)
 {
     QByteArray bytes;
@@ -47,8 +59,10 @@ ReferenceList fromText(const QUrl &url, QString &reason)
         return {};
     }
     try {
-        reason = qtTrId(isChannelList(bytes) ? "kOrderIsChannelList" : "kOrderNoLines");
-        return referenceListFromData(bytes).value_or(ReferenceList());
+        ReferenceList entries = referenceListFromData(bytes).value_or(ReferenceList());
+        if (entries.empty())
+            reason = reasonAgainst(bytes);
+        return entries;
     } catch (const std::bad_alloc &) {
         reason = qtTrId("kNoMemoryReason");
         return {};
@@ -65,7 +79,6 @@ ReferenceList referenceListFromFile(const QString &path, bool isTV, QString &rea
         return fromChannelList(url, isTV, reason);
     if (suffix.compare(QLatin1String("txt"), Qt::CaseInsensitive) == 0)
         return fromText(url, reason);
-    reason = qtTrId("kOrderWrongType");
     return {};
 }
 

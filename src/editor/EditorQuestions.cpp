@@ -69,20 +69,26 @@ void EditorQuestions::askToReplace(std::function<void()> confirmed) const
     m_document.prompts()->showAlert(m_window, alert, check);
 }
 
-void EditorQuestions::askForReferenceList(std::function<void(const QString &)> chosen) const
+void EditorQuestions::askForReferenceList(
+    const std::function<void(const QString &)> &chosen,
+    const std::function<void(const QString &)> &previewed) const
 {
     if (!m_document.prompts())
         return;
+    const auto guarded = [this](const std::function<void(const QString &)> &next) {
+        return [next, guard = QPointer(m_context)](const QStringList &paths) {
+            if (guard && !paths.isEmpty())
+                next(paths.front());
+        };
+    };
     const OpenPanel panel{
         .title = qtTrId("kApplyOrderTitle"),
         .directory = m_document.folder(),
         .nameFilters = {qtTrId("kFilterReferenceLists") + QLatin1String(" (*.txt *.tll)"),
-                        qtTrId("kFilterAllFiles") + QLatin1String(" (*)")}};
-    const auto check = [chosen, guard = QPointer(m_context)](const QStringList &paths) {
-        if (guard && !paths.isEmpty())
-            chosen(paths.front());
-    };
-    m_document.prompts()->showOpenPanel(m_window, panel, check);
+                        qtTrId("kFilterAllFiles") + QLatin1String(" (*)")},
+        .otherButton = qtTrId("kPreviewOrder"),
+        .otherChosen = guarded(previewed)};
+    m_document.prompts()->showOpenPanel(m_window, panel, guarded(chosen));
 }
 
 void EditorQuestions::showError(const QString &message, const QString &detail) const

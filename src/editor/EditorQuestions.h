@@ -27,8 +27,9 @@ public:
     void askToGoBeyond(std::size_t stations, std::function<void(bool)> answered) const;
     /// Whether the document's unsaved changes may be given up for another file.
     void askToReplace(std::function<void()> confirmed) const;
-    /// The reference list chosen.
-    void askForReferenceList(std::function<void(const QString &)> chosen) const;
+    /// The reference list chosen, to be applied or to be looked at first.
+    void askForReferenceList(const std::function<void(const QString &)> &chosen,
+                             const std::function<void(const QString &)> &previewed) const;
     void showError(const QString &message, const QString &detail) const;
 
 private:

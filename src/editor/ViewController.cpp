@@ -28,6 +28,8 @@ ViewController::ViewController(EditorOutlets &outlets, QObject *parent)
             editWasMade(change);
         else
             m_undoing.showStep(change);
+        if (change.isLast)
+            emit edited();
     });
     connect(&m_droppedFiles, &DroppedFiles::loaded, this, &ViewController::fileLoaded);
     connect(&m_droppedFiles, &DroppedFiles::refused, this, &ViewController::fileRefused);
@@ -253,10 +255,14 @@ void ViewController::applyOrderClicked()
 {
     if (!stationDoc())
         return;
-    questions().askForReferenceList([this](const QString &path) {
-        // In a later turn, when the panel has gone.
-        QTimer::singleShot(0, this, [this, path] { applyOrderFileWait(path); });
-    });
+    // In a later turn, when the panel has gone.
+    const auto later = [this](void (ViewController::*next)(const QString &)) {
+        return [this, next](const QString &path) {
+            QTimer::singleShot(0, this, [this, next, path] { (this->*next)(path); });
+        };
+    };
+    questions().askForReferenceList(later(&ViewController::applyOrderFileWait),
+                                    later(&ViewController::previewOrderFile));
 }
 
 void ViewController::applyOrderFileWait(const QString &path)
@@ -266,27 +272,45 @@ void ViewController::applyOrderFileWait(const QString &path)
 
 void ViewController::applyOrderFile(const QString &path)
 {
-    if (!stationDoc())
-        return;
-    QString reason;
-    const QString name = readable(QFileInfo(path).fileName());
-    const ReferenceList entries = referenceListFromFile(path, isModeTV(), reason);
-    if (entries.empty()) {
-        showError(reason, qtTrId("kOrderEmpty").arg(name));
-        return;
-    }
-    whenNumbersSuffice(
-        m_editor.beyondAfterOrder(entries),
-        [this, entries, name](ListEditor::Beyond beyond) { applyOrder(entries, name, beyond); });
+    QString name;
+    if (const ReferenceList entries = readOrderFile(path, name); !entries.empty())
+        applyOrder(entries, name);
 }
 
-void ViewController::applyOrder(const ReferenceList &entries, const QString &fileName,
-                                ListEditor::Beyond beyond)
+void ViewController::previewOrderFile(const QString &path)
 {
-    outlets().selectRows({});
-    m_editor.applyOrder(entries, fileName, beyond);
-    updateButtons();
-    saveSelection();
+    QString name;
+    if (ReferenceList entries = readOrderFile(path, name); !entries.empty())
+        emit comparisonWanted({.purpose = ComparedWith::Purpose::Order,
+                               .name = name,
+                               .lists = {},
+                               .entries = std::move(entries)});
+}
+
+/// Only a file of a type that holds no order is passed over in silence.
+ReferenceList ViewController::readOrderFile(const QString &path, QString &name)
+{
+    if (!stationDoc())
+        return {};
+    name = readable(QFileInfo(path).fileName());
+    QString reason;
+    ReferenceList entries = referenceListFromFile(path, isModeTV(), reason);
+    if (!reason.isEmpty() && entries.empty())
+        showError(reason, qtTrId("kOrderEmpty").arg(name));
+    return entries;
+}
+
+void ViewController::applyOrder(const ReferenceList &entries, const QString &fileName)
+{
+    if (!stationDoc())
+        return;
+    const auto apply = [this, entries, fileName](ListEditor::Beyond beyond) {
+        outlets().selectRows({});
+        m_editor.applyOrder(entries, fileName, beyond);
+        updateButtons();
+        saveSelection();
+    };
+    whenNumbersSuffice(m_editor.beyondAfterOrder(entries), apply);
 }
 
 bool ViewController::putBack(const ChannelList &version, const QString &name)
@@ -300,6 +324,26 @@ bool ViewController::putBack(const ChannelList &version, const QString &name)
         reveal(selected);
     updateButtons();
     return isBack;
+}
+
+void ViewController::takeOver(const std::function<std::vector<ListEditor::TakeOverPart>()> &plan,
+                              const EditSummary &summary)
+{
+    const std::vector<ListEditor::TakeOverPart> planned = plan();
+    std::size_t beyond = 0;
+    for (const auto &part : planned)
+        beyond += part.plan.beyond();
+    whenNumbersSuffice(beyond, [=, this](ListEditor::Beyond wanted) {
+        if (!stationDoc())
+            return;
+        const StationList selected = shown().ownStationsAt(outlets().selectedRows());
+        const StationListPtr list = stationDoc()->stations();
+        m_editor.takeOver(wanted == ListEditor::Beyond::Refused ? planned : plan(), summary,
+                          wanted);
+        if (list == stationDoc()->stations())
+            reveal(selected);
+        updateButtons();
+    });
 }
 
 StationPtr ViewController::stationForInfo() const

@@ -2,6 +2,7 @@
 
 #include "document/edit/StationEdits.h"
 #include "editor/ArrangeCommands.h"
+#include "editor/ComparedWith.h"
 #include "editor/DroppedFiles.h"
 #include "editor/ListEditor.h"
 #include "editor/SelectCommands.h"
@@ -52,9 +53,17 @@ public:
     void applyOrderFile(const QString &path);
     /// The same, called when the panel that asked for the file has gone.
     void applyOrderFileWait(const QString &path);
+    /// Has what that would do shown, by comparisonWanted().
+    void previewOrderFile(const QString &path);
+    /// Imposes the order of a reference list that was read from the file of that name.
+    void applyOrder(const ReferenceList &entries, const QString &fileName);
     /// Makes all lists of the document what they are in an earlier version of it, if that has the
     /// same stations one to one. The name is that of the version. Returns whether it did.
     bool putBack(const ChannelList &version, const QString &name);
+    /// Carries out what is planned, as one step that the summary tells. What the list is at that
+    /// time is planned anew behind a question.
+    void takeOver(const std::function<std::vector<ListEditor::TakeOverPart>()> &plan,
+                  const EditSummary &summary);
     /// The station of the first selected row; null when none is selected.
     [[nodiscard]] StationPtr stationForInfo() const;
     /// Whether the command with that name, one of the editor's own, is enabled.
@@ -90,8 +99,12 @@ public:
     void keepMine();
 
 signals:
+    /// Something of the document's stations was edited, undone or made again.
+    void edited();
     /// The person wants a repaired copy of the document's file.
     void repairedCopyRequested();
+    /// The document is to be compared with that, and the comparison shown.
+    void comparisonWanted(const quillet::ComparedWith &other);
 
 private:
     void moveStations(const StationList &stations, qint64 target);
@@ -101,8 +114,8 @@ private:
     /// What was refused is told by `refused`, which may be empty.
     void whenNumbersSuffice(std::size_t beyond, const std::function<void(ListEditor::Beyond)> &goOn,
                             const std::function<void()> &refused = {});
-    void applyOrder(const ReferenceList &entries, const QString &fileName,
-                    ListEditor::Beyond beyond);
+    /// Says why when there is none to apply.
+    [[nodiscard]] ReferenceList readOrderFile(const QString &path, QString &name);
     void closeGaps(ListEditor::Beyond beyond);
     /// Says why the stations in foreign rows stay as they are. Returns whether there are such.
     bool tellForeignRows();

@@ -38,6 +38,10 @@ struct OpenPanel
     QString directory;       ///< where it starts; empty: where the last one ended
     QStringList nameFilters; ///< "Name (*.a *.b)", the preselected one first
     bool allowsSeveral = false;
+    /// A second way to go on with the files chosen, and what is called with them then instead;
+    /// without a title there is none.
+    QString otherButton = {};
+    std::function<void(const QStringList &)> otherChosen = {};
 };
 
 /// What a panel that asks where to save offers.

@@ -141,6 +141,23 @@ void showAsPlainText(QMessageBox &box)
         label->setTextFormat(Qt::PlainText);
 }
 
+/// Keeps a widget enabled as long as the one that it filters the events of. Owned by the former.
+class FollowEnabled : public QObject
+{
+public:
+    explicit FollowEnabled(QWidget &follower) : QObject(&follower), m_follower(follower) {}
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::EnabledChange)
+            m_follower.setEnabled(static_cast<const QWidget *>(watched)->isEnabled());
+        return false;
+    }
+
+private:
+    QWidget &m_follower;
+};
+
 /// Only a panel of Qt's own has a layout to put it in.
 void addExplanation(QFileDialog &dialog, const QString &text)
 {
@@ -152,6 +169,28 @@ void addExplanation(QFileDialog &dialog, const QString &text)
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     grid->addWidget(label, grid->rowCount(), 0, 1, grid->columnCount());
+}
+
+/// A button beside the one that opens, which is enabled with it and does the same but for setting
+/// `isOther`. Only a panel of Qt's own has room for it.
+void addOtherButton(QFileDialog &dialog, const QString &title, const std::shared_ptr<bool> &isOther)
+{
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    auto *buttons = dialog.findChild<QDialogButtonBox *>();
+    QPushButton *open = buttons ? buttons->button(QDialogButtonBox::Open) : nullptr;
+    if (!open)
+        return;
+    auto *other = new QPushButton(title);
+    buttons->addButton(other, QDialogButtonBox::ActionRole);
+    other->setObjectName(QStringLiteral("otherButton"));
+    other->setAutoDefault(false);
+    other->setEnabled(open->isEnabled());
+    open->installEventFilter(new FollowEnabled(*other));
+    QObject::connect(other, &QPushButton::clicked, open, [open, isOther] {
+        *isOther = true;
+        open->click();
+        *isOther = false; // it was a folder, or a name that there is not
+    });
 }
 
 int indexOfClickedButton(const QMessageBox &box, const Alert &alert)
@@ -200,12 +239,16 @@ void QtPrompts::showOpenPanel(QWidget *window, const OpenPanel &panel,
         filters.append(inAnyCase(filter));
     dialog->setOption(QFileDialog::HideNameFilterDetails);
     dialog->setNameFilters(filters);
-    QObject::connect(dialog, &QDialog::finished, dialog, [dialog, done](int result) {
+    const auto isOther = std::make_shared<bool>(false);
+    if (!panel.otherButton.isEmpty())
+        addOtherButton(*dialog, panel.otherButton, isOther);
+    const auto finish = [dialog, done, isOther, other = panel.otherChosen](int result) {
         if (result != QDialog::Accepted)
             return done({});
         QSettings().setValue(folderKey(), dialog->directory().absolutePath());
-        done(pathsChosen(*dialog));
-    });
+        (*isOther ? other : done)(pathsChosen(*dialog));
+    };
+    QObject::connect(dialog, &QDialog::finished, dialog, finish);
     present(*dialog, QStringLiteral("openPanel"));
 }
 

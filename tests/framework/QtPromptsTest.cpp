@@ -221,6 +221,19 @@ private slots:
         dialog->reject();
         QCOMPARE(m_paths, std::optional<QStringList>(QStringList()));
 
+        QStringList other;
+        panel.otherButton = QStringLiteral("Look");
+        panel.otherChosen = [&other](const QStringList &paths) { other = paths; };
+        panel.directory = folder.path();
+        dialog = open(panel);
+        auto *look = dialog->findChild<QPushButton *>(QStringLiteral("otherButton"));
+        QVERIFY(look && !look->isEnabled());
+        dialog->selectFile(path);
+        QTRY_VERIFY(look->isEnabled());
+        look->click();
+        QCOMPARE(other, QStringList{path});
+        QVERIFY(!m_paths);
+
         // A folder that is gone would stand as a file's name.
         QSettings().setValue(QStringLiteral("openPanel/folder"), folder.filePath(panel.title));
         dialog = open(panel);

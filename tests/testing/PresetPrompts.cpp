@@ -5,6 +5,12 @@
 
 namespace quillet::testing {
 
+namespace {
+
+const QString otherButton = QStringLiteral("/the other button");
+
+} // namespace
+
 void PresetPrompts::ask(Line &line, QWidget *window, Question question)
 {
     const QPointer<QWidget> guard(window);
@@ -52,6 +58,11 @@ void PresetPrompts::answerAlertChecked(const QString &buttonTitle)
 void PresetPrompts::answerOpenPanel(const QStringList &paths)
 {
     answer(m_openLine, paths);
+}
+
+void PresetPrompts::answerOpenPanelOther(const QString &path)
+{
+    answer(m_openLine, {path, otherButton});
 }
 
 void PresetPrompts::answerSavePanel(const QString &path)
@@ -103,7 +114,13 @@ void PresetPrompts::showOpenPanel(QWidget *window, const OpenPanel &panel,
                                   std::function<void(const QStringList &)> done)
 {
     m_openPanels.push_back(panel);
-    ask(m_openLine, window, std::move(done));
+    ask(m_openLine, window,
+        [other = panel.otherChosen, done = std::move(done)](const Answer &given) {
+            if (given.value(1) == otherButton)
+                other({given.front()});
+            else
+                done(given);
+        });
 }
 
 void PresetPrompts::showSavePanel(QWidget *window, const SavePanel &panel,

@@ -30,6 +30,8 @@ public:
     void answerAlertChecked(const QString &buttonTitle);
     /// Chooses files in the next open panel; none cancels it.
     void answerOpenPanel(const QStringList &paths);
+    /// The same, with the panel's other button.
+    void answerOpenPanelOther(const QString &path);
     /// Chooses a place in the next save panel; an empty path cancels it.
     void answerSavePanel(const QString &path);
     /// Prints to a PDF file at the next print panel; an empty path cancels it.
@@ -62,7 +64,7 @@ public:
 
 private:
     /// What a test presets: a button or a path first, then the alert's text and, if its box is
-    /// ticked, something third; or more paths.
+    /// ticked, something third; or more paths, the panel's other button behind them.
     using Answer = QStringList;
     using Question = std::function<void(const Answer &)>;
     struct Line

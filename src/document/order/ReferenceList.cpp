@@ -28,17 +28,31 @@ std::optional<ReferenceEntry> entryFromLine(QStringView line)
     return ReferenceEntry{fields[0].toString(), fields[1].toString(), fields[2].toString()};
 }
 
+/// The text of a file without the mark of its encoding.
+QStringView linesOf(const QString &text)
+{
+    return QStringView(text).sliced(text.startsWith(QChar::ByteOrderMark) ? 1 : 0);
+}
+
 } // namespace
+
+ReferenceLines referenceLinesIn(QByteArrayView data)
+{
+    const QString text = getAsString(data).value_or(QString());
+    ReferenceLines lines;
+    forEachLine(linesOf(text), [&lines](QStringView line) {
+        ++(entryFromLine(line) ? lines.entries : lines.others);
+        return true;
+    });
+    return lines;
+}
 
 std::optional<ReferenceList> referenceListFromData(QByteArrayView data)
 {
     const QString text = getAsString(data).value_or(QString());
-    QStringView lines = text;
-    if (lines.startsWith(QChar::ByteOrderMark))
-        lines = lines.sliced(1);
     ReferenceList entries;
     int badLines = 0;
-    forEachLine(lines, [&entries, &badLines](QStringView line) {
+    forEachLine(linesOf(text), [&entries, &badLines](QStringView line) {
         if (std::optional<ReferenceEntry> entry = entryFromLine(line))
             entries.push_back(*std::move(entry));
         else

@@ -28,6 +28,14 @@ using ReferenceList = std::vector<ReferenceEntry>;
 /// entries.
 [[nodiscard]] std::optional<ReferenceList> referenceListFromData(QByteArrayView data);
 
+/// How many lines of a text file are entries, and how many something else.
+struct ReferenceLines
+{
+    qsizetype entries = 0;
+    qsizetype others = 0;
+};
+[[nodiscard]] ReferenceLines referenceLinesIn(QByteArrayView data);
+
 /// Makes an entry of every station that has a name, a number and all three identifiers.
 [[nodiscard]] ReferenceList referenceListFromStations(const StationList &stations);
 

@@ -1,0 +1,220 @@
+#include "editor/ComparisonRows.h"
+
+#include "document/order/ReferenceOrder.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace quillet {
+
+namespace {
+
+using Purpose = ComparedWith::Purpose;
+
+constexpr StationDifferences everything{StationDifference::Number | StationDifference::Name |
+                                        StationDifference::Skipped | StationDifference::Locked |
+                                        StationDifference::Fields};
+
+constexpr std::array kindsOfDifferences{
+    std::pair{StationDifference::Number, ComparisonKind::Moved},
+    std::pair{StationDifference::Name, ComparisonKind::Renamed},
+    std::pair{StationDifference::Skipped, ComparisonKind::Flags},
+    std::pair{StationDifference::Locked, ComparisonKind::Flags},
+    std::pair{StationDifference::Fields, ComparisonKind::Fields},
+};
+
+ComparisonKinds kindsOf(const ComparisonRow &row)
+{
+    if (!row.there && row.numberThere.isEmpty())
+        return ComparisonKind::OnlyHere;
+    if (!row.here)
+        return ComparisonKind::OnlyThere;
+    ComparisonKinds kinds;
+    for (const auto &[difference, kind] : kindsOfDifferences)
+        kinds.setFlag(kind, kinds.testFlag(kind) || row.differences.testFlag(difference));
+    return kinds ? kinds : ComparisonKind::Same;
+}
+
+bool tellsNumber(const LGStation &station)
+{
+    return station.field(station.keys().keyProgNum).has_value();
+}
+
+ComparisonRow rowOf(const ComparedStation &station, const ComparedLists &lists,
+                    const std::function<StationDifferences(const LGStation &)> &toldOf)
+{
+    ComparisonRow row{.isTV = lists.isTV,
+                      .source = lists.source,
+                      .here = station.first,
+                      .there = station.second,
+                      .differences = station.differences,
+                      .likeness = station.likeness,
+                      .isElsewhere = station.isElsewhere};
+    if (station.first)
+        row.nameHere = station.first->shownName();
+    if (station.second) {
+        const LGStation &there = *station.second;
+        const StationDifferences told = toldOf(there);
+        if (told.testFlag(StationDifference::Number) && tellsNumber(there))
+            row.numberThere = there.progNumString();
+        if (told.testFlag(StationDifference::Name))
+            row.nameThere = there.shownName();
+    }
+    return row;
+}
+
+/// Where each station of the other list stands, of all its lists one behind the other.
+QHash<const LGStation *, std::size_t> placesIn(const StationLists &lists)
+{
+    QHash<const LGStation *, std::size_t> places;
+    for (const bool isTV : {true, false}) {
+        for (int source = 0; source < stationSourceCount; ++source) {
+            const StationListPtr &list = lists.list(isTV, source);
+            if (!list)
+                continue;
+            for (const StationPtr &station : *list)
+                places.insert(station.get(), static_cast<std::size_t>(places.size()));
+        }
+    }
+    return places;
+}
+
+/// The names of stations, which read no name for that.
+QHash<const LGStation *, QString> namesOf(const StationList &stations)
+{
+    StationLists lists;
+    lists.setupLists();
+    *lists.list(true, 0) = stations;
+    const StationLists copies = copyOf(lists);
+    QHash<const LGStation *, QString> names;
+    for (std::size_t i = 0; i < stations.size(); ++i) {
+        LGStation &copy = *(*copies.list(true, 0))[i];
+        copy.setRememberedName(stations[i]->rememberedName());
+        names.insert(stations[i].get(), copy.shownName());
+    }
+    return names;
+}
+
+/// Gives the rows the numbers that their stations would get if all that are surely the same were
+/// taken over.
+void numberByRows(ComparisonRows &rows, const StationLists &here)
+{
+    for (const bool isTV : {true, false}) {
+        for (int source = 0; source < stationSourceCount; ++source) {
+            std::vector<ComparisonRow *> paired;
+            for (ComparisonRow &row : rows) {
+                if (row.here && row.there && row.isTV == isTV && row.source == source &&
+                    isTakenUnasked(row))
+                    paired.push_back(&row);
+            }
+            const StationListPtr &list = here.list(isTV, source);
+            if (paired.empty() || !list)
+                continue;
+            std::sort(paired.begin(), paired.end(),
+                      [](const auto *a, const auto *b) { return a->placeThere < b->placeThere; });
+            std::vector<TakenStation> taken;
+            for (const ComparisonRow *row : paired)
+                taken.push_back({row->here, row->there, StationDifference::Number});
+            const TakeOverPlan plan = planTakeOver(*list, taken, NumberRule::ByRows, false);
+            QHash<const LGStation *, qint64> numbers;
+            for (std::size_t i = 0; i < plan.order.size(); ++i)
+                numbers.insert(plan.order[i].get(), plan.numbers[i]);
+            for (ComparisonRow *row : paired) {
+                const qint64 number = numbers.value(row->here.get());
+                row->numberThere = QString::number(number);
+                row->differences.setFlag(StationDifference::Number, number != row->here->progNum());
+            }
+        }
+    }
+}
+
+} // namespace
+
+ComparisonRows comparisonRows(const StationLists &here, const ComparedWith &other)
+{
+    const auto toldOf = [&other](const LGStation &station) {
+        return other.told.value(&station, everything);
+    };
+    ListComparison comparison = compare(here, other.lists);
+    if (!other.told.isEmpty())
+        keepOnlyTold(comparison, toldOf);
+    const bool isOfRows = other.purpose == Purpose::Import || other.purpose == Purpose::Paste;
+    const auto places = placesIn(other.lists);
+    ComparisonRows rows;
+    for (const ComparedLists &lists : comparison.lists) {
+        for (const ComparedStation &station : lists.stations) {
+            if (isOfRows && !station.second)
+                continue;
+            rows.push_back(rowOf(station, lists, toldOf));
+            rows.back().placeThere = places.value(station.second.get());
+        }
+    }
+    if (other.rule == NumberRule::ByRows)
+        numberByRows(rows, here);
+    for (ComparisonRow &row : rows)
+        row.kinds = kindsOf(row);
+    return rows;
+}
+
+ComparisonRows orderRows(const StationList &here, bool isTV, int source,
+                         const ReferenceList &entries)
+{
+    const ReferenceOrderPlan plan = planReferenceOrder(here, entries);
+    const auto nameOf = [names = namesOf(here)](const StationPtr &station) {
+        return names.value(station.get());
+    };
+    ComparisonRows rows;
+    for (const auto &[station, number, entry, isByName] : plan.matched) {
+        const ReferenceEntry &taken = entries[entry];
+        ComparisonRow row{.isTV = isTV,
+                          .source = source,
+                          .here = station,
+                          .nameHere = nameOf(station),
+                          .numberThere = QString::number(number),
+                          .nameThere = taken.name,
+                          .likeness = isByName ? Likeness::ByName : Likeness::Sure};
+        const bool isMoved = number != station->progNum();
+        row.differences.setFlag(StationDifference::Number, isMoved);
+        row.kinds = isMoved ? ComparisonKind::Moved : ComparisonKind::Same;
+        rows.push_back(std::move(row));
+    }
+    qint64 last = plan.last;
+    for (const StationPtr &station : plan.remaining)
+        rows.push_back({.isTV = isTV,
+                        .source = source,
+                        .here = station,
+                        .nameHere = nameOf(station),
+                        .numberThere = QString::number(++last),
+                        .kinds = ComparisonKind::OnlyHere});
+    for (const std::size_t unused : plan.unused)
+        rows.push_back({.isTV = isTV,
+                        .source = source,
+                        .numberThere = entries[unused].num,
+                        .nameThere = entries[unused].name,
+                        .kinds = ComparisonKind::OnlyThere});
+    return rows;
+}
+
+bool isTakenUnasked(const ComparisonRow &row)
+{
+    return row.likeness != Likeness::Loose && !row.isElsewhere;
+}
+
+StationDifferences takeable(const ComparisonRow &row)
+{
+    StationDifferences what = row.differences;
+    what.setFlag(StationDifference::Fields, false);
+    if (!mayRename(row.source))
+        what.setFlag(StationDifference::Name, false);
+    if (row.numberThere.isEmpty())
+        what.setFlag(StationDifference::Number, false);
+    return what;
+}
+
+bool mayRename(int source)
+{
+    return source == static_cast<int>(StationSource::Analogue);
+}
+
+} // namespace quillet

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "editor/ComparedWith.h"
+
+#include <QFlags>
+
+#include <vector>
+
+namespace quillet {
+
+/// What distinguishes the two sides of a row. A station may be of several kinds.
+enum class ComparisonKind {
+    Moved = 1,
+    Renamed = 2,
+    Flags = 4, ///< skipped or locked on one side alone
+    Fields = 8,
+    OnlyHere = 16,
+    OnlyThere = 32,
+    Same = 64,
+};
+Q_DECLARE_FLAGS(ComparisonKinds, ComparisonKind)
+Q_DECLARE_OPERATORS_FOR_FLAGS(ComparisonKinds)
+
+/// A station of the document and what another list tells of it, or one that only one of them has.
+struct ComparisonRow
+{
+    bool isTV = true;
+    int source = 0;   ///< of the list that it is in, or would be
+    StationPtr here;  ///< null: the document has no such station
+    StationPtr there; ///< null: the other list has none, or but an entry of a reference list
+    QString nameHere = {};
+    QString numberThere = {}; ///< or that it would get; empty: none is told
+    QString nameThere = {};   ///< empty: none is told
+    StationDifferences differences = {};
+    ComparisonKinds kinds = {};
+    Likeness likeness = Likeness::Sure;
+    bool isElsewhere = false;   ///< there it is in the list of another source
+    std::size_t placeThere = 0; ///< in the order of the other list
+};
+using ComparisonRows = std::vector<ComparisonRow>;
+
+/// The comparison of a document's lists with another list, one row a station: list by list in the
+/// order of the document, behind them what only the other one has. Stations that rows of another
+/// program or of the clipboard do not mention are no finding, and are left out.
+[[nodiscard]] ComparisonRows comparisonRows(const StationLists &here, const ComparedWith &other);
+/// What applying a reference list would do to one of the lists: the stations in their new order,
+/// behind them the entries that fit none. Reads no name of the stations themselves, for by the
+/// names that were read they are matched.
+[[nodiscard]] ComparisonRows orderRows(const StationList &here, bool isTV, int source,
+                                       const ReferenceList &entries);
+
+/// What can be taken over from the other side of a row: what differs, and a name only in the list
+/// in which stations may be renamed.
+[[nodiscard]] StationDifferences takeable(const ComparisonRow &row);
+/// Whether the two sides are so surely the same that nobody need be asked.
+[[nodiscard]] bool isTakenUnasked(const ComparisonRow &row);
+/// Whether the stations of that source may be given names.
+[[nodiscard]] bool mayRename(int source);
+
+} // namespace quillet

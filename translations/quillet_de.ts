@@ -246,6 +246,10 @@
         <source></source>
         <translation>Verborgen</translation>
     </message>
+    <message id="kColumnKey">
+        <source></source>
+        <translation>Senderschlüssel</translation>
+    </message>
     <message id="kColumnName">
         <source></source>
         <translation>Name</translation>
@@ -416,6 +420,47 @@
         <source></source>
         <translation>Möchten Sie ungespeicherte Änderungen verwerfen, die nicht lesbar sind?</translation>
     </message>
+    <message id="kEncodingMarkedUtf8">
+        <source></source>
+        <translation>UTF-8 mit Kennung (für Tabellenkalkulationen)</translation>
+    </message>
+    <message id="kEncodingUtf16">
+        <source></source>
+        <translation>UTF-16</translation>
+    </message>
+    <message id="kEncodingUtf8">
+        <source></source>
+        <translation>UTF-8</translation>
+    </message>
+    <message id="kEncodingWindows">
+        <source></source>
+        <translation>Windows-1252 (Westeuropa)</translation>
+    </message>
+    <message id="kExportAll" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Der eine Sender dieser Liste</numerusform>
+            <numerusform>Alle %n Sender dieser Liste</numerusform>
+        </translation>
+    </message>
+    <message id="kExportByName" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n Sender hat keine vollständigen Kennungen und wird nur an seinem Namen wiedererkannt.</numerusform>
+            <numerusform>%n Sender haben keine vollständigen Kennungen und werden nur an ihren Namen wiedererkannt.</numerusform>
+        </translation>
+    </message>
+    <message id="kExportChangedNames" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>In %n Namen stehen Kommas und Leerzeichen für Semikolons und Zeilenumbrüche; an diesem Namen wird der Sender nicht wiedererkannt.</numerusform>
+            <numerusform>In %n Namen stehen Kommas und Leerzeichen für Semikolons und Zeilenumbrüche; an diesen Namen werden die Sender nicht wiedererkannt.</numerusform>
+        </translation>
+    </message>
+    <message id="kExportEncoding">
+        <source></source>
+        <translation>&amp;Kodierung:</translation>
+    </message>
     <message id="kExportExplanation">
         <source></source>
         <translation>Geschrieben wird eine Kopie der ganzen Senderliste unter dem Namen, den Sie wählen. Die Datei dieses Fensters bleibt, wie sie ist. Die Reihenfolge der Kopie lässt sich auf andere Listen anwenden, wenn ihr Name auf „.tll“ endet.</translation>
@@ -424,9 +469,107 @@
         <source></source>
         <translation>Die Liste konnte nicht als „%1“ exportiert werden.</translation>
     </message>
+    <message id="kExportFormat">
+        <source></source>
+        <translation>&amp;Format:</translation>
+    </message>
+    <message id="kExportKeys">
+        <source></source>
+        <translation>Mit &amp;Senderschlüsseln, um Änderungen zu importieren</translation>
+    </message>
+    <message id="kExportListTitle">
+        <source></source>
+        <translation>Liste exportieren</translation>
+    </message>
+    <message id="kExportLost" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n Zeichen lässt sich so nicht schreiben; an seiner Stelle steht „?“.</numerusform>
+            <numerusform>%n Zeichen lassen sich so nicht schreiben; an ihrer Stelle steht „?“.</numerusform>
+        </translation>
+    </message>
+    <message id="kExportOK">
+        <source></source>
+        <translation>Exportieren …</translation>
+    </message>
+    <message id="kExportPage">
+        <source></source>
+        <translation>Seite zum Drucken (HTML)</translation>
+    </message>
+    <message id="kExportReferenceList">
+        <source></source>
+        <translation>Referenzliste für „Reihenfolge übernehmen“ (Text)</translation>
+    </message>
+    <message id="kExportSeparator">
+        <source></source>
+        <translation>&amp;Trennzeichen:</translation>
+    </message>
+    <message id="kExportShown" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Nur der eine angezeigte</numerusform>
+            <numerusform>Nur die %n angezeigten</numerusform>
+        </translation>
+    </message>
+    <message id="kExportStations">
+        <source></source>
+        <translation>&amp;Sender:</translation>
+    </message>
+    <message id="kExportTable">
+        <source></source>
+        <translation>Tabelle für Tabellenkalkulationen (CSV)</translation>
+    </message>
     <message id="kExportTitle">
         <source></source>
         <translation>Als Referenzliste exportieren (Kopie der ganzen Datei)</translation>
+    </message>
+    <message id="kExportTooShort">
+        <source></source>
+        <translation>Eine Reihenfolge wird nur aus mindestens drei Sendern gelesen: Diese Datei ließe sich nicht anwenden.</translation>
+    </message>
+    <message id="kFaultBadMark">
+        <source></source>
+        <translation>„%1“ sagt nicht, ob der Sender so markiert ist; gemeint ist etwa 1 oder 0.</translation>
+    </message>
+    <message id="kFaultBadNumber">
+        <source></source>
+        <translation>„%1“ ist keine Nummer von 1 bis 16383.</translation>
+    </message>
+    <message id="kFaultDoubledColumn">
+        <source></source>
+        <translation>Die Spalte „%1“ gibt es zweimal.</translation>
+    </message>
+    <message id="kFaultNoColumns">
+        <source></source>
+        <translation>Die erste Zeile muss die Titel der Spalten nennen, darunter „Name“, „Dienst“ oder „Senderschlüssel“, wie sie exportiert wurden.</translation>
+    </message>
+    <message id="kFaultNoRows">
+        <source></source>
+        <translation>Es gibt keine Zeilen mit Sendern.</translation>
+    </message>
+    <message id="kFaultPlace">
+        <source></source>
+        <translation>Zeile %1, Spalte %2:</translation>
+    </message>
+    <message id="kFaultTextBehindQuote">
+        <source></source>
+        <translation>Hinter einem schließenden Anführungszeichen steht noch Text.</translation>
+    </message>
+    <message id="kFaultTooLarge">
+        <source></source>
+        <translation>Die Tabelle ist zu groß.</translation>
+    </message>
+    <message id="kFaultTooManyCells">
+        <source></source>
+        <translation>„%1“ steht in keiner Spalte mit Titel.</translation>
+    </message>
+    <message id="kFaultUnclosedQuote">
+        <source></source>
+        <translation>Hier beginnt ein Anführungszeichen, das nirgends endet.</translation>
+    </message>
+    <message id="kFaultZeroCharacter">
+        <source></source>
+        <translation>Dies ist keine Textdatei.</translation>
     </message>
     <message id="kFileMissingReason">
         <source></source>
@@ -472,6 +615,10 @@
         <source></source>
         <translation>Sonstige</translation>
     </message>
+    <message id="kFilterPages">
+        <source></source>
+        <translation>HTML-Seiten</translation>
+    </message>
     <message id="kFilterReferenceLists">
         <source></source>
         <translation>Referenzlisten</translation>
@@ -479,6 +626,10 @@
     <message id="kFilterSD">
         <source></source>
         <translation>SD</translation>
+    </message>
+    <message id="kFilterTables">
+        <source></source>
+        <translation>Tabellen</translation>
     </message>
     <message id="kFilterTextFiles">
         <source></source>
@@ -607,6 +758,26 @@
     <message id="kHistoryUndone">
         <source></source>
         <translation>Rückgängig gemacht</translation>
+    </message>
+    <message id="kImportByNumbers">
+        <source></source>
+        <translation>Nummern und Reihenfolge der Zeilen sind geändert und passen nicht zusammen: Es gelten die Nummern.</translation>
+    </message>
+    <message id="kImportByRows">
+        <source></source>
+        <translation>Die Nummern sind unverändert, aber die Zeilen stehen in anderer Reihenfolge: Die Sender bekommen die Reihenfolge der Zeilen.</translation>
+    </message>
+    <message id="kImportFailed">
+        <source></source>
+        <translation>„%1“ kann nicht importiert werden. Die Liste bleibt, wie sie ist.</translation>
+    </message>
+    <message id="kImportOtherList">
+        <source></source>
+        <translation>Die Zeilen passen zu einer anderen Liste dieser Datei: %1.</translation>
+    </message>
+    <message id="kImportTitle">
+        <source></source>
+        <translation>Änderungen aus einer Tabelle importieren</translation>
     </message>
     <message id="kInfo">
         <source></source>
@@ -755,6 +926,10 @@
         <source></source>
         <translation>Als Referenzliste &amp;exportieren …</translation>
     </message>
+    <message id="kMenuExportList">
+        <source></source>
+        <translation>Expor&amp;tieren …</translation>
+    </message>
     <message id="kMenuFile">
         <source></source>
         <translation>&amp;Datei</translation>
@@ -814,6 +989,10 @@
     <message id="kMenuHistory">
         <source></source>
         <translation>V&amp;erlauf</translation>
+    </message>
+    <message id="kMenuImport">
+        <source></source>
+        <translation>Änderungen i&amp;mportieren …</translation>
     </message>
     <message id="kMenuInfo">
         <source></source>
@@ -1489,6 +1668,18 @@
         <source></source>
         <translation>&amp;Suche:</translation>
     </message>
+    <message id="kSeparatorComma">
+        <source></source>
+        <translation>Komma</translation>
+    </message>
+    <message id="kSeparatorSemicolon">
+        <source></source>
+        <translation>Semikolon</translation>
+    </message>
+    <message id="kSeparatorTab">
+        <source></source>
+        <translation>Tabulator</translation>
+    </message>
     <message id="kSortStatistics">
         <source></source>
         <translation>Zugeordnete Sender: %1
@@ -1604,6 +1795,18 @@ Diese folgen ab Nummer: %3</translation>
         <source></source>
         <translation>Die Spalten sind schon die üblichen</translation>
     </message>
+    <message id="kTipExportAllShown">
+        <source></source>
+        <translation>Es werden alle Sender der Liste angezeigt</translation>
+    </message>
+    <message id="kTipExportKeys">
+        <source></source>
+        <translation>An dieser Spalte erkennt „Änderungen importieren“ die Sender wieder, auch in anderer Reihenfolge und mit anderen Nummern</translation>
+    </message>
+    <message id="kTipExportTableOnly">
+        <source></source>
+        <translation>Nur für eine Tabelle</translation>
+    </message>
     <message id="kTipFilterTVOnly">
         <source></source>
         <translation>Typen können nur für TV-Sender ausgewählt werden</translation>
@@ -1685,6 +1888,10 @@ Diese folgen ab Nummer: %3</translation>
     <message id="kToldExported">
         <source></source>
         <translation>Exportiert nach %1, als vollständige Senderliste.</translation>
+    </message>
+    <message id="kToldExportedList">
+        <source></source>
+        <translation>Exportiert nach %1.</translation>
     </message>
     <message id="kToldForeign">
         <source></source>

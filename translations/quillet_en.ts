@@ -246,6 +246,10 @@
         <source></source>
         <translation>Hidden</translation>
     </message>
+    <message id="kColumnKey">
+        <source></source>
+        <translation>Station key</translation>
+    </message>
     <message id="kColumnName">
         <source></source>
         <translation>Name</translation>
@@ -416,6 +420,47 @@
         <source></source>
         <translation>Do you want to discard unsaved changes that cannot be read?</translation>
     </message>
+    <message id="kEncodingMarkedUtf8">
+        <source></source>
+        <translation>UTF-8 with mark (for spreadsheets)</translation>
+    </message>
+    <message id="kEncodingUtf16">
+        <source></source>
+        <translation>UTF-16</translation>
+    </message>
+    <message id="kEncodingUtf8">
+        <source></source>
+        <translation>UTF-8</translation>
+    </message>
+    <message id="kEncodingWindows">
+        <source></source>
+        <translation>Windows-1252 (Western Europe)</translation>
+    </message>
+    <message id="kExportAll" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>The one station of this list</numerusform>
+            <numerusform>All %n stations of this list</numerusform>
+        </translation>
+    </message>
+    <message id="kExportByName" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n station has no complete identifiers and is found again by its name alone.</numerusform>
+            <numerusform>%n stations have no complete identifiers and are found again by their names alone.</numerusform>
+        </translation>
+    </message>
+    <message id="kExportChangedNames" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>In %n name commas and blanks stand for semicolons and line breaks; by that name its station is not found again.</numerusform>
+            <numerusform>In %n names commas and blanks stand for semicolons and line breaks; by those names their stations are not found again.</numerusform>
+        </translation>
+    </message>
+    <message id="kExportEncoding">
+        <source></source>
+        <translation>&amp;Encoding:</translation>
+    </message>
     <message id="kExportExplanation">
         <source></source>
         <translation>What is written is a copy of the whole channel list under the name you choose. The file of this window stays as it is. The order of the copy can be applied to other lists if its name ends in “.tll”.</translation>
@@ -424,9 +469,107 @@
         <source></source>
         <translation>The list could not be exported as “%1”.</translation>
     </message>
+    <message id="kExportFormat">
+        <source></source>
+        <translation>&amp;Format:</translation>
+    </message>
+    <message id="kExportKeys">
+        <source></source>
+        <translation>With station &amp;keys, to import changes</translation>
+    </message>
+    <message id="kExportListTitle">
+        <source></source>
+        <translation>Export List</translation>
+    </message>
+    <message id="kExportLost" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n character cannot be written so; “?” stands in its place.</numerusform>
+            <numerusform>%n characters cannot be written so; “?” stands in their place.</numerusform>
+        </translation>
+    </message>
+    <message id="kExportOK">
+        <source></source>
+        <translation>Export…</translation>
+    </message>
+    <message id="kExportPage">
+        <source></source>
+        <translation>Page to print (HTML)</translation>
+    </message>
+    <message id="kExportReferenceList">
+        <source></source>
+        <translation>Reference list for Apply Order (text)</translation>
+    </message>
+    <message id="kExportSeparator">
+        <source></source>
+        <translation>Se&amp;parator:</translation>
+    </message>
+    <message id="kExportShown" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Only the one that is shown</numerusform>
+            <numerusform>Only the %n that are shown</numerusform>
+        </translation>
+    </message>
+    <message id="kExportStations">
+        <source></source>
+        <translation>&amp;Stations:</translation>
+    </message>
+    <message id="kExportTable">
+        <source></source>
+        <translation>Table for spreadsheets (CSV)</translation>
+    </message>
     <message id="kExportTitle">
         <source></source>
         <translation>Export as Reference List (Copy of the Whole File)</translation>
+    </message>
+    <message id="kExportTooShort">
+        <source></source>
+        <translation>An order is read from three stations at least: this file could not be applied.</translation>
+    </message>
+    <message id="kFaultBadMark">
+        <source></source>
+        <translation>“%1” does not say whether the station has this mark; 1 or 0 would.</translation>
+    </message>
+    <message id="kFaultBadNumber">
+        <source></source>
+        <translation>“%1” is no number from 1 to 16383.</translation>
+    </message>
+    <message id="kFaultDoubledColumn">
+        <source></source>
+        <translation>There are two columns “%1”.</translation>
+    </message>
+    <message id="kFaultNoColumns">
+        <source></source>
+        <translation>The first row has to name the columns as they were exported, among them “Name”, “Service” or “Station key”.</translation>
+    </message>
+    <message id="kFaultNoRows">
+        <source></source>
+        <translation>There are no rows of stations.</translation>
+    </message>
+    <message id="kFaultPlace">
+        <source></source>
+        <translation>Line %1, column %2:</translation>
+    </message>
+    <message id="kFaultTextBehindQuote">
+        <source></source>
+        <translation>There is text behind a closing quotation mark.</translation>
+    </message>
+    <message id="kFaultTooLarge">
+        <source></source>
+        <translation>The table is too large.</translation>
+    </message>
+    <message id="kFaultTooManyCells">
+        <source></source>
+        <translation>“%1” is in no column that has a title.</translation>
+    </message>
+    <message id="kFaultUnclosedQuote">
+        <source></source>
+        <translation>A quotation mark begins here that never ends.</translation>
+    </message>
+    <message id="kFaultZeroCharacter">
+        <source></source>
+        <translation>This is no text file.</translation>
     </message>
     <message id="kFileMissingReason">
         <source></source>
@@ -472,6 +615,10 @@
         <source></source>
         <translation>Other</translation>
     </message>
+    <message id="kFilterPages">
+        <source></source>
+        <translation>HTML pages</translation>
+    </message>
     <message id="kFilterReferenceLists">
         <source></source>
         <translation>Reference lists</translation>
@@ -479,6 +626,10 @@
     <message id="kFilterSD">
         <source></source>
         <translation>SD</translation>
+    </message>
+    <message id="kFilterTables">
+        <source></source>
+        <translation>Tables</translation>
     </message>
     <message id="kFilterTextFiles">
         <source></source>
@@ -607,6 +758,26 @@
     <message id="kHistoryUndone">
         <source></source>
         <translation>Undone</translation>
+    </message>
+    <message id="kImportByNumbers">
+        <source></source>
+        <translation>Numbers and the order of the rows were both changed and do not agree: the numbers count.</translation>
+    </message>
+    <message id="kImportByRows">
+        <source></source>
+        <translation>The numbers are unchanged but the rows stand in another order: the stations get the order of the rows.</translation>
+    </message>
+    <message id="kImportFailed">
+        <source></source>
+        <translation>“%1” cannot be imported. The list stays as it is.</translation>
+    </message>
+    <message id="kImportOtherList">
+        <source></source>
+        <translation>The rows fit another list of this file: %1.</translation>
+    </message>
+    <message id="kImportTitle">
+        <source></source>
+        <translation>Import Changes From a Table</translation>
     </message>
     <message id="kInfo">
         <source></source>
@@ -755,6 +926,10 @@
         <source></source>
         <translation>&amp;Export as Reference List…</translation>
     </message>
+    <message id="kMenuExportList">
+        <source></source>
+        <translation>E&amp;xport…</translation>
+    </message>
     <message id="kMenuFile">
         <source></source>
         <translation>&amp;File</translation>
@@ -814,6 +989,10 @@
     <message id="kMenuHistory">
         <source></source>
         <translation>H&amp;istory</translation>
+    </message>
+    <message id="kMenuImport">
+        <source></source>
+        <translation>I&amp;mport Changes…</translation>
     </message>
     <message id="kMenuInfo">
         <source></source>
@@ -1489,6 +1668,18 @@
         <source></source>
         <translation>&amp;Search:</translation>
     </message>
+    <message id="kSeparatorComma">
+        <source></source>
+        <translation>Comma</translation>
+    </message>
+    <message id="kSeparatorSemicolon">
+        <source></source>
+        <translation>Semicolon</translation>
+    </message>
+    <message id="kSeparatorTab">
+        <source></source>
+        <translation>Tab</translation>
+    </message>
     <message id="kSortStatistics">
         <source></source>
         <translation>Stations matched: %1
@@ -1604,6 +1795,18 @@ These go on from number: %3</translation>
         <source></source>
         <translation>The columns are the usual ones already</translation>
     </message>
+    <message id="kTipExportAllShown">
+        <source></source>
+        <translation>All stations of the list are shown</translation>
+    </message>
+    <message id="kTipExportKeys">
+        <source></source>
+        <translation>By this column Import Changes finds the stations again, whatever their order and numbers</translation>
+    </message>
+    <message id="kTipExportTableOnly">
+        <source></source>
+        <translation>For a table only</translation>
+    </message>
     <message id="kTipFilterTVOnly">
         <source></source>
         <translation>Types can be chosen for TV stations only</translation>
@@ -1685,6 +1888,10 @@ These go on from number: %3</translation>
     <message id="kToldExported">
         <source></source>
         <translation>Exported to %1, as the channel list it is.</translation>
+    </message>
+    <message id="kToldExportedList">
+        <source></source>
+        <translation>Exported to %1.</translation>
     </message>
     <message id="kToldForeign">
         <source></source>

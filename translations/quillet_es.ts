@@ -246,6 +246,10 @@
         <source></source>
         <translation>Oculto</translation>
     </message>
+    <message id="kColumnKey">
+        <source></source>
+        <translation>Clave del canal</translation>
+    </message>
     <message id="kColumnName">
         <source></source>
         <translation>Nombre</translation>
@@ -416,6 +420,47 @@
         <source></source>
         <translation>¿Desea descartar unos cambios sin guardar que no se pueden leer?</translation>
     </message>
+    <message id="kEncodingMarkedUtf8">
+        <source></source>
+        <translation>UTF-8 con marca (para hojas de cálculo)</translation>
+    </message>
+    <message id="kEncodingUtf16">
+        <source></source>
+        <translation>UTF-16</translation>
+    </message>
+    <message id="kEncodingUtf8">
+        <source></source>
+        <translation>UTF-8</translation>
+    </message>
+    <message id="kEncodingWindows">
+        <source></source>
+        <translation>Windows-1252 (Europa occidental)</translation>
+    </message>
+    <message id="kExportAll" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>El único canal de esta lista</numerusform>
+            <numerusform>Los %n canales de esta lista</numerusform>
+        </translation>
+    </message>
+    <message id="kExportByName" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canal no tiene identificadores completos y solo se reconoce por su nombre.</numerusform>
+            <numerusform>%n canales no tienen identificadores completos y solo se reconocen por su nombre.</numerusform>
+        </translation>
+    </message>
+    <message id="kExportChangedNames" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>En %n nombre hay comas y espacios en lugar de puntos y comas y saltos de línea; por ese nombre no se reconoce el canal.</numerusform>
+            <numerusform>En %n nombres hay comas y espacios en lugar de puntos y comas y saltos de línea; por esos nombres no se reconocen los canales.</numerusform>
+        </translation>
+    </message>
+    <message id="kExportEncoding">
+        <source></source>
+        <translation>C&amp;odificación:</translation>
+    </message>
     <message id="kExportExplanation">
         <source></source>
         <translation>Se escribe una copia de toda la lista de canales con el nombre que elija. El archivo de esta ventana se queda como está. El orden de la copia se puede aplicar a otras listas si su nombre termina en «.tll».</translation>
@@ -424,9 +469,107 @@
         <source></source>
         <translation>No se ha podido exportar la lista como «%1».</translation>
     </message>
+    <message id="kExportFormat">
+        <source></source>
+        <translation>&amp;Formato:</translation>
+    </message>
+    <message id="kExportKeys">
+        <source></source>
+        <translation>Con c&amp;laves de canal, para importar cambios</translation>
+    </message>
+    <message id="kExportListTitle">
+        <source></source>
+        <translation>Exportar lista</translation>
+    </message>
+    <message id="kExportLost" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n carácter no se puede escribir así; en su lugar aparece «?».</numerusform>
+            <numerusform>%n caracteres no se pueden escribir así; en su lugar aparece «?».</numerusform>
+        </translation>
+    </message>
+    <message id="kExportOK">
+        <source></source>
+        <translation>Exportar…</translation>
+    </message>
+    <message id="kExportPage">
+        <source></source>
+        <translation>Página para imprimir (HTML)</translation>
+    </message>
+    <message id="kExportReferenceList">
+        <source></source>
+        <translation>Lista de referencia para aplicar un orden (texto)</translation>
+    </message>
+    <message id="kExportSeparator">
+        <source></source>
+        <translation>Se&amp;parador:</translation>
+    </message>
+    <message id="kExportShown" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Solo el que se muestra</numerusform>
+            <numerusform>Solo los %n que se muestran</numerusform>
+        </translation>
+    </message>
+    <message id="kExportStations">
+        <source></source>
+        <translation>&amp;Canales:</translation>
+    </message>
+    <message id="kExportTable">
+        <source></source>
+        <translation>Tabla para hojas de cálculo (CSV)</translation>
+    </message>
     <message id="kExportTitle">
         <source></source>
         <translation>Exportar como lista de referencia (copia de todo el archivo)</translation>
+    </message>
+    <message id="kExportTooShort">
+        <source></source>
+        <translation>Un orden se lee de al menos tres canales: este archivo no se podría aplicar.</translation>
+    </message>
+    <message id="kFaultBadMark">
+        <source></source>
+        <translation>«%1» no dice si el canal tiene esta marca; 1 o 0 sí.</translation>
+    </message>
+    <message id="kFaultBadNumber">
+        <source></source>
+        <translation>«%1» no es un número del 1 al 16383.</translation>
+    </message>
+    <message id="kFaultDoubledColumn">
+        <source></source>
+        <translation>Hay dos columnas «%1».</translation>
+    </message>
+    <message id="kFaultNoColumns">
+        <source></source>
+        <translation>La primera fila debe tener los títulos de las columnas tal como se exportaron, entre ellos el nombre, el servicio o la clave del canal.</translation>
+    </message>
+    <message id="kFaultNoRows">
+        <source></source>
+        <translation>No hay filas de canales.</translation>
+    </message>
+    <message id="kFaultPlace">
+        <source></source>
+        <translation>Línea %1, columna %2:</translation>
+    </message>
+    <message id="kFaultTextBehindQuote">
+        <source></source>
+        <translation>Hay texto detrás de unas comillas de cierre.</translation>
+    </message>
+    <message id="kFaultTooLarge">
+        <source></source>
+        <translation>La tabla es demasiado grande.</translation>
+    </message>
+    <message id="kFaultTooManyCells">
+        <source></source>
+        <translation>«%1» no está en ninguna columna con título.</translation>
+    </message>
+    <message id="kFaultUnclosedQuote">
+        <source></source>
+        <translation>Aquí empiezan unas comillas que no se cierran.</translation>
+    </message>
+    <message id="kFaultZeroCharacter">
+        <source></source>
+        <translation>Esto no es un archivo de texto.</translation>
     </message>
     <message id="kFileMissingReason">
         <source></source>
@@ -472,6 +615,10 @@
         <source></source>
         <translation>Otros</translation>
     </message>
+    <message id="kFilterPages">
+        <source></source>
+        <translation>Páginas HTML</translation>
+    </message>
     <message id="kFilterReferenceLists">
         <source></source>
         <translation>Listas de referencia</translation>
@@ -479,6 +626,10 @@
     <message id="kFilterSD">
         <source></source>
         <translation>SD</translation>
+    </message>
+    <message id="kFilterTables">
+        <source></source>
+        <translation>Tablas</translation>
     </message>
     <message id="kFilterTextFiles">
         <source></source>
@@ -607,6 +758,26 @@
     <message id="kHistoryUndone">
         <source></source>
         <translation>Deshecho</translation>
+    </message>
+    <message id="kImportByNumbers">
+        <source></source>
+        <translation>Se han cambiado los números y el orden de las filas y no coinciden: cuentan los números.</translation>
+    </message>
+    <message id="kImportByRows">
+        <source></source>
+        <translation>Los números no cambian, pero las filas están en otro orden: los canales reciben el orden de las filas.</translation>
+    </message>
+    <message id="kImportFailed">
+        <source></source>
+        <translation>No se puede importar «%1». La lista queda como está.</translation>
+    </message>
+    <message id="kImportOtherList">
+        <source></source>
+        <translation>Las filas corresponden a otra lista de este archivo: %1.</translation>
+    </message>
+    <message id="kImportTitle">
+        <source></source>
+        <translation>Importar cambios de una tabla</translation>
     </message>
     <message id="kInfo">
         <source></source>
@@ -755,6 +926,10 @@
         <source></source>
         <translation>&amp;Exportar como lista de referencia…</translation>
     </message>
+    <message id="kMenuExportList">
+        <source></source>
+        <translation>E&amp;xportar…</translation>
+    </message>
     <message id="kMenuFile">
         <source></source>
         <translation>&amp;Archivo</translation>
@@ -814,6 +989,10 @@
     <message id="kMenuHistory">
         <source></source>
         <translation>H&amp;istorial</translation>
+    </message>
+    <message id="kMenuImport">
+        <source></source>
+        <translation>I&amp;mportar cambios…</translation>
     </message>
     <message id="kMenuInfo">
         <source></source>
@@ -1489,6 +1668,18 @@
         <source></source>
         <translation>&amp;Buscar:</translation>
     </message>
+    <message id="kSeparatorComma">
+        <source></source>
+        <translation>Coma</translation>
+    </message>
+    <message id="kSeparatorSemicolon">
+        <source></source>
+        <translation>Punto y coma</translation>
+    </message>
+    <message id="kSeparatorTab">
+        <source></source>
+        <translation>Tabulador</translation>
+    </message>
     <message id="kSortStatistics">
         <source></source>
         <translation>Canales encontrados: %1
@@ -1604,6 +1795,18 @@ Estos continúan a partir del número: %3</translation>
         <source></source>
         <translation>Las columnas ya son las habituales</translation>
     </message>
+    <message id="kTipExportAllShown">
+        <source></source>
+        <translation>Se muestran todos los canales de la lista</translation>
+    </message>
+    <message id="kTipExportKeys">
+        <source></source>
+        <translation>Por esta columna se reconocen los canales al importar cambios, sea cual sea su orden y su número</translation>
+    </message>
+    <message id="kTipExportTableOnly">
+        <source></source>
+        <translation>Solo para una tabla</translation>
+    </message>
     <message id="kTipFilterTVOnly">
         <source></source>
         <translation>Los tipos solo se pueden elegir para canales de TV</translation>
@@ -1685,6 +1888,10 @@ Estos continúan a partir del número: %3</translation>
     <message id="kToldExported">
         <source></source>
         <translation>Exportado a %1, como lista de canales completa.</translation>
+    </message>
+    <message id="kToldExportedList">
+        <source></source>
+        <translation>Exportado a %1.</translation>
     </message>
     <message id="kToldForeign">
         <source></source>

@@ -246,6 +246,10 @@
         <source></source>
         <translation>Masqué</translation>
     </message>
+    <message id="kColumnKey">
+        <source></source>
+        <translation>Clé de la chaîne</translation>
+    </message>
     <message id="kColumnName">
         <source></source>
         <translation>Nom</translation>
@@ -416,6 +420,47 @@
         <source></source>
         <translation>Voulez-vous abandonner des modifications non enregistrées qui sont illisibles ?</translation>
     </message>
+    <message id="kEncodingMarkedUtf8">
+        <source></source>
+        <translation>UTF-8 avec marque (pour les tableurs)</translation>
+    </message>
+    <message id="kEncodingUtf16">
+        <source></source>
+        <translation>UTF-16</translation>
+    </message>
+    <message id="kEncodingUtf8">
+        <source></source>
+        <translation>UTF-8</translation>
+    </message>
+    <message id="kEncodingWindows">
+        <source></source>
+        <translation>Windows-1252 (Europe occidentale)</translation>
+    </message>
+    <message id="kExportAll" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>La seule chaîne de cette liste</numerusform>
+            <numerusform>Les %n chaînes de cette liste</numerusform>
+        </translation>
+    </message>
+    <message id="kExportByName" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n chaîne n’a pas d’identifiants complets et n’est reconnue que par son nom.</numerusform>
+            <numerusform>%n chaînes n’ont pas d’identifiants complets et ne sont reconnues que par leur nom.</numerusform>
+        </translation>
+    </message>
+    <message id="kExportChangedNames" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Dans %n nom, des virgules et des espaces remplacent les points-virgules et les sauts de ligne ; ce nom ne permet plus de reconnaître la chaîne.</numerusform>
+            <numerusform>Dans %n noms, des virgules et des espaces remplacent les points-virgules et les sauts de ligne ; ces noms ne permettent plus de reconnaître les chaînes.</numerusform>
+        </translation>
+    </message>
+    <message id="kExportEncoding">
+        <source></source>
+        <translation>&amp;Encodage :</translation>
+    </message>
     <message id="kExportExplanation">
         <source></source>
         <translation>Une copie de toute la liste de chaînes est écrite sous le nom que vous choisissez. Le fichier de cette fenêtre reste tel quel. L’ordre de la copie peut être appliqué à d’autres listes si son nom se termine par « .tll ».</translation>
@@ -424,9 +469,107 @@
         <source></source>
         <translation>Impossible d’exporter la liste sous le nom « %1 ».</translation>
     </message>
+    <message id="kExportFormat">
+        <source></source>
+        <translation>&amp;Format :</translation>
+    </message>
+    <message id="kExportKeys">
+        <source></source>
+        <translation>Avec les c&amp;lés des chaînes, pour importer des modifications</translation>
+    </message>
+    <message id="kExportListTitle">
+        <source></source>
+        <translation>Exporter la liste</translation>
+    </message>
+    <message id="kExportLost" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n caractère ne peut pas être écrit ainsi ; « ? » le remplace.</numerusform>
+            <numerusform>%n caractères ne peuvent pas être écrits ainsi ; « ? » les remplace.</numerusform>
+        </translation>
+    </message>
+    <message id="kExportOK">
+        <source></source>
+        <translation>Exporter…</translation>
+    </message>
+    <message id="kExportPage">
+        <source></source>
+        <translation>Page à imprimer (HTML)</translation>
+    </message>
+    <message id="kExportReferenceList">
+        <source></source>
+        <translation>Liste de référence pour appliquer un ordre (texte)</translation>
+    </message>
+    <message id="kExportSeparator">
+        <source></source>
+        <translation>Sé&amp;parateur :</translation>
+    </message>
+    <message id="kExportShown" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Seulement celle qui est affichée</numerusform>
+            <numerusform>Seulement les %n qui sont affichées</numerusform>
+        </translation>
+    </message>
+    <message id="kExportStations">
+        <source></source>
+        <translation>&amp;Chaînes :</translation>
+    </message>
+    <message id="kExportTable">
+        <source></source>
+        <translation>Tableau pour tableurs (CSV)</translation>
+    </message>
     <message id="kExportTitle">
         <source></source>
         <translation>Exporter comme liste de référence (copie du fichier entier)</translation>
+    </message>
+    <message id="kExportTooShort">
+        <source></source>
+        <translation>Un ordre se lit à partir de trois chaînes au moins : ce fichier ne pourrait pas être appliqué.</translation>
+    </message>
+    <message id="kFaultBadMark">
+        <source></source>
+        <translation>« %1 » ne dit pas si la chaîne porte cette marque ; 1 ou 0 conviendrait.</translation>
+    </message>
+    <message id="kFaultBadNumber">
+        <source></source>
+        <translation>« %1 » n’est pas un numéro de 1 à 16383.</translation>
+    </message>
+    <message id="kFaultDoubledColumn">
+        <source></source>
+        <translation>Il y a deux colonnes « %1 ».</translation>
+    </message>
+    <message id="kFaultNoColumns">
+        <source></source>
+        <translation>La première ligne doit porter les titres des colonnes tels qu’ils ont été exportés, dont le nom, le service ou la clé de la chaîne.</translation>
+    </message>
+    <message id="kFaultNoRows">
+        <source></source>
+        <translation>Il n’y a aucune ligne de chaînes.</translation>
+    </message>
+    <message id="kFaultPlace">
+        <source></source>
+        <translation>Ligne %1, colonne %2 :</translation>
+    </message>
+    <message id="kFaultTextBehindQuote">
+        <source></source>
+        <translation>Du texte suit un guillemet fermant.</translation>
+    </message>
+    <message id="kFaultTooLarge">
+        <source></source>
+        <translation>Le tableau est trop grand.</translation>
+    </message>
+    <message id="kFaultTooManyCells">
+        <source></source>
+        <translation>« %1 » n’est dans aucune colonne titrée.</translation>
+    </message>
+    <message id="kFaultUnclosedQuote">
+        <source></source>
+        <translation>Un guillemet s’ouvre ici et ne se ferme jamais.</translation>
+    </message>
+    <message id="kFaultZeroCharacter">
+        <source></source>
+        <translation>Ce n’est pas un fichier texte.</translation>
     </message>
     <message id="kFileMissingReason">
         <source></source>
@@ -472,6 +615,10 @@
         <source></source>
         <translation>Autres</translation>
     </message>
+    <message id="kFilterPages">
+        <source></source>
+        <translation>Pages HTML</translation>
+    </message>
     <message id="kFilterReferenceLists">
         <source></source>
         <translation>Listes de référence</translation>
@@ -479,6 +626,10 @@
     <message id="kFilterSD">
         <source></source>
         <translation>SD</translation>
+    </message>
+    <message id="kFilterTables">
+        <source></source>
+        <translation>Tableaux</translation>
     </message>
     <message id="kFilterTextFiles">
         <source></source>
@@ -607,6 +758,26 @@
     <message id="kHistoryUndone">
         <source></source>
         <translation>Annulé</translation>
+    </message>
+    <message id="kImportByNumbers">
+        <source></source>
+        <translation>Les numéros et l’ordre des lignes ont changé et ne s’accordent pas : les numéros comptent.</translation>
+    </message>
+    <message id="kImportByRows">
+        <source></source>
+        <translation>Les numéros n’ont pas changé mais les lignes sont dans un autre ordre : les chaînes prennent l’ordre des lignes.</translation>
+    </message>
+    <message id="kImportFailed">
+        <source></source>
+        <translation>Impossible d’importer « %1 ». La liste reste telle quelle.</translation>
+    </message>
+    <message id="kImportOtherList">
+        <source></source>
+        <translation>Les lignes correspondent à une autre liste de ce fichier : %1.</translation>
+    </message>
+    <message id="kImportTitle">
+        <source></source>
+        <translation>Importer des modifications d’un tableau</translation>
     </message>
     <message id="kInfo">
         <source></source>
@@ -755,6 +926,10 @@
         <source></source>
         <translation>E&amp;xporter comme liste de référence…</translation>
     </message>
+    <message id="kMenuExportList">
+        <source></source>
+        <translation>Ex&amp;porter…</translation>
+    </message>
     <message id="kMenuFile">
         <source></source>
         <translation>&amp;Fichier</translation>
@@ -814,6 +989,10 @@
     <message id="kMenuHistory">
         <source></source>
         <translation>H&amp;istorique</translation>
+    </message>
+    <message id="kMenuImport">
+        <source></source>
+        <translation>I&amp;mporter des modifications…</translation>
     </message>
     <message id="kMenuInfo">
         <source></source>
@@ -1489,6 +1668,18 @@
         <source></source>
         <translation>Re&amp;chercher :</translation>
     </message>
+    <message id="kSeparatorComma">
+        <source></source>
+        <translation>Virgule</translation>
+    </message>
+    <message id="kSeparatorSemicolon">
+        <source></source>
+        <translation>Point-virgule</translation>
+    </message>
+    <message id="kSeparatorTab">
+        <source></source>
+        <translation>Tabulation</translation>
+    </message>
     <message id="kSortStatistics">
         <source></source>
         <translation>Chaînes trouvées : %1
@@ -1604,6 +1795,18 @@ Ces dernières suivent à partir du numéro : %3</translation>
         <source></source>
         <translation>Ce sont déjà les colonnes habituelles</translation>
     </message>
+    <message id="kTipExportAllShown">
+        <source></source>
+        <translation>Toutes les chaînes de la liste sont affichées</translation>
+    </message>
+    <message id="kTipExportKeys">
+        <source></source>
+        <translation>Cette colonne permet de reconnaître les chaînes à l’import, quels que soient leur ordre et leurs numéros</translation>
+    </message>
+    <message id="kTipExportTableOnly">
+        <source></source>
+        <translation>Pour un tableau seulement</translation>
+    </message>
     <message id="kTipFilterTVOnly">
         <source></source>
         <translation>Les types ne peuvent être choisis que pour les chaînes TV</translation>
@@ -1685,6 +1888,10 @@ Ces dernières suivent à partir du numéro : %3</translation>
     <message id="kToldExported">
         <source></source>
         <translation>Exporté vers %1, en tant que liste de chaînes complète.</translation>
+    </message>
+    <message id="kToldExportedList">
+        <source></source>
+        <translation>Exporté vers %1.</translation>
     </message>
     <message id="kToldForeign">
         <source></source>

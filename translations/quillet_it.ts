@@ -246,6 +246,10 @@
         <source></source>
         <translation>Nascosto</translation>
     </message>
+    <message id="kColumnKey">
+        <source></source>
+        <translation>Chiave del canale</translation>
+    </message>
     <message id="kColumnName">
         <source></source>
         <translation>Nome</translation>
@@ -416,6 +420,47 @@
         <source></source>
         <translation>Vuoi scartare modifiche non salvate che non si possono leggere?</translation>
     </message>
+    <message id="kEncodingMarkedUtf8">
+        <source></source>
+        <translation>UTF-8 con contrassegno (per fogli di calcolo)</translation>
+    </message>
+    <message id="kEncodingUtf16">
+        <source></source>
+        <translation>UTF-16</translation>
+    </message>
+    <message id="kEncodingUtf8">
+        <source></source>
+        <translation>UTF-8</translation>
+    </message>
+    <message id="kEncodingWindows">
+        <source></source>
+        <translation>Windows-1252 (Europa occidentale)</translation>
+    </message>
+    <message id="kExportAll" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>L’unico canale di questa lista</numerusform>
+            <numerusform>Tutti i %n canali di questa lista</numerusform>
+        </translation>
+    </message>
+    <message id="kExportByName" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canale non ha identificatori completi e si riconosce solo dal nome.</numerusform>
+            <numerusform>%n canali non hanno identificatori completi e si riconoscono solo dal nome.</numerusform>
+        </translation>
+    </message>
+    <message id="kExportChangedNames" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>In %n nome virgole e spazi stanno al posto di punti e virgola e a capo; da quel nome il canale non si riconosce.</numerusform>
+            <numerusform>In %n nomi virgole e spazi stanno al posto di punti e virgola e a capo; da quei nomi i canali non si riconoscono.</numerusform>
+        </translation>
+    </message>
+    <message id="kExportEncoding">
+        <source></source>
+        <translation>Co&amp;difica:</translation>
+    </message>
     <message id="kExportExplanation">
         <source></source>
         <translation>Viene scritta una copia dell’intera lista di canali con il nome che scegli. Il file di questa finestra resta com’è. L’ordine della copia può essere applicato ad altre liste se il suo nome termina con “.tll”.</translation>
@@ -424,9 +469,107 @@
         <source></source>
         <translation>Impossibile esportare la lista come “%1”.</translation>
     </message>
+    <message id="kExportFormat">
+        <source></source>
+        <translation>&amp;Formato:</translation>
+    </message>
+    <message id="kExportKeys">
+        <source></source>
+        <translation>Con c&amp;hiavi dei canali, per importare modifiche</translation>
+    </message>
+    <message id="kExportListTitle">
+        <source></source>
+        <translation>Esporta lista</translation>
+    </message>
+    <message id="kExportLost" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n carattere non può essere scritto così; al suo posto c’è «?».</numerusform>
+            <numerusform>%n caratteri non possono essere scritti così; al loro posto c’è «?».</numerusform>
+        </translation>
+    </message>
+    <message id="kExportOK">
+        <source></source>
+        <translation>Esporta…</translation>
+    </message>
+    <message id="kExportPage">
+        <source></source>
+        <translation>Pagina da stampare (HTML)</translation>
+    </message>
+    <message id="kExportReferenceList">
+        <source></source>
+        <translation>Lista di riferimento per applicare un ordine (testo)</translation>
+    </message>
+    <message id="kExportSeparator">
+        <source></source>
+        <translation>Se&amp;paratore:</translation>
+    </message>
+    <message id="kExportShown" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Solo quello mostrato</numerusform>
+            <numerusform>Solo i %n mostrati</numerusform>
+        </translation>
+    </message>
+    <message id="kExportStations">
+        <source></source>
+        <translation>&amp;Canali:</translation>
+    </message>
+    <message id="kExportTable">
+        <source></source>
+        <translation>Tabella per fogli di calcolo (CSV)</translation>
+    </message>
     <message id="kExportTitle">
         <source></source>
         <translation>Esporta come lista di riferimento (copia dell’intero file)</translation>
+    </message>
+    <message id="kExportTooShort">
+        <source></source>
+        <translation>Un ordine si legge da almeno tre canali: questo file non si potrebbe applicare.</translation>
+    </message>
+    <message id="kFaultBadMark">
+        <source></source>
+        <translation>«%1» non dice se il canale ha questo contrassegno; 1 o 0 sì.</translation>
+    </message>
+    <message id="kFaultBadNumber">
+        <source></source>
+        <translation>«%1» non è un numero da 1 a 16383.</translation>
+    </message>
+    <message id="kFaultDoubledColumn">
+        <source></source>
+        <translation>Ci sono due colonne «%1».</translation>
+    </message>
+    <message id="kFaultNoColumns">
+        <source></source>
+        <translation>La prima riga deve avere i titoli delle colonne come sono stati esportati, tra cui il nome, il servizio o la chiave del canale.</translation>
+    </message>
+    <message id="kFaultNoRows">
+        <source></source>
+        <translation>Non ci sono righe di canali.</translation>
+    </message>
+    <message id="kFaultPlace">
+        <source></source>
+        <translation>Riga %1, colonna %2:</translation>
+    </message>
+    <message id="kFaultTextBehindQuote">
+        <source></source>
+        <translation>C’è del testo dopo le virgolette di chiusura.</translation>
+    </message>
+    <message id="kFaultTooLarge">
+        <source></source>
+        <translation>La tabella è troppo grande.</translation>
+    </message>
+    <message id="kFaultTooManyCells">
+        <source></source>
+        <translation>«%1» non è in una colonna con titolo.</translation>
+    </message>
+    <message id="kFaultUnclosedQuote">
+        <source></source>
+        <translation>Qui si aprono virgolette che non si chiudono.</translation>
+    </message>
+    <message id="kFaultZeroCharacter">
+        <source></source>
+        <translation>Questo non è un file di testo.</translation>
     </message>
     <message id="kFileMissingReason">
         <source></source>
@@ -472,6 +615,10 @@
         <source></source>
         <translation>Altro</translation>
     </message>
+    <message id="kFilterPages">
+        <source></source>
+        <translation>Pagine HTML</translation>
+    </message>
     <message id="kFilterReferenceLists">
         <source></source>
         <translation>Liste di riferimento</translation>
@@ -479,6 +626,10 @@
     <message id="kFilterSD">
         <source></source>
         <translation>SD</translation>
+    </message>
+    <message id="kFilterTables">
+        <source></source>
+        <translation>Tabelle</translation>
     </message>
     <message id="kFilterTextFiles">
         <source></source>
@@ -607,6 +758,26 @@
     <message id="kHistoryUndone">
         <source></source>
         <translation>Annullato</translation>
+    </message>
+    <message id="kImportByNumbers">
+        <source></source>
+        <translation>Numeri e ordine delle righe sono cambiati e non concordano: valgono i numeri.</translation>
+    </message>
+    <message id="kImportByRows">
+        <source></source>
+        <translation>I numeri sono invariati ma le righe sono in un altro ordine: i canali prendono l’ordine delle righe.</translation>
+    </message>
+    <message id="kImportFailed">
+        <source></source>
+        <translation>Impossibile importare «%1». La lista resta com’è.</translation>
+    </message>
+    <message id="kImportOtherList">
+        <source></source>
+        <translation>Le righe corrispondono a un’altra lista di questo file: %1.</translation>
+    </message>
+    <message id="kImportTitle">
+        <source></source>
+        <translation>Importa modifiche da una tabella</translation>
     </message>
     <message id="kInfo">
         <source></source>
@@ -755,6 +926,10 @@
         <source></source>
         <translation>&amp;Esporta come lista di riferimento…</translation>
     </message>
+    <message id="kMenuExportList">
+        <source></source>
+        <translation>Esporta in altri &amp;formati…</translation>
+    </message>
     <message id="kMenuFile">
         <source></source>
         <translation>&amp;File</translation>
@@ -814,6 +989,10 @@
     <message id="kMenuHistory">
         <source></source>
         <translation>Cronolo&amp;gia</translation>
+    </message>
+    <message id="kMenuImport">
+        <source></source>
+        <translation>I&amp;mporta modifiche…</translation>
     </message>
     <message id="kMenuInfo">
         <source></source>
@@ -1489,6 +1668,18 @@
         <source></source>
         <translation>&amp;Cerca:</translation>
     </message>
+    <message id="kSeparatorComma">
+        <source></source>
+        <translation>Virgola</translation>
+    </message>
+    <message id="kSeparatorSemicolon">
+        <source></source>
+        <translation>Punto e virgola</translation>
+    </message>
+    <message id="kSeparatorTab">
+        <source></source>
+        <translation>Tabulazione</translation>
+    </message>
     <message id="kSortStatistics">
         <source></source>
         <translation>Canali abbinati: %1
@@ -1604,6 +1795,18 @@ Questi proseguono dal numero: %3</translation>
         <source></source>
         <translation>Le colonne sono già quelle abituali</translation>
     </message>
+    <message id="kTipExportAllShown">
+        <source></source>
+        <translation>Sono mostrati tutti i canali della lista</translation>
+    </message>
+    <message id="kTipExportKeys">
+        <source></source>
+        <translation>Da questa colonna si riconoscono i canali all’importazione, qualunque siano ordine e numeri</translation>
+    </message>
+    <message id="kTipExportTableOnly">
+        <source></source>
+        <translation>Solo per una tabella</translation>
+    </message>
     <message id="kTipFilterTVOnly">
         <source></source>
         <translation>I tipi si possono scegliere solo per i canali TV</translation>
@@ -1685,6 +1888,10 @@ Questi proseguono dal numero: %3</translation>
     <message id="kToldExported">
         <source></source>
         <translation>Esportato in %1, come lista di canali completa.</translation>
+    </message>
+    <message id="kToldExportedList">
+        <source></source>
+        <translation>Esportato in %1.</translation>
     </message>
     <message id="kToldForeign">
         <source></source>

@@ -246,6 +246,10 @@
         <source></source>
         <translation>Verborgen</translation>
     </message>
+    <message id="kColumnKey">
+        <source></source>
+        <translation>Zendersleutel</translation>
+    </message>
     <message id="kColumnName">
         <source></source>
         <translation>Naam</translation>
@@ -416,6 +420,47 @@
         <source></source>
         <translation>Wilt u niet-opgeslagen wijzigingen weggooien die onleesbaar zijn?</translation>
     </message>
+    <message id="kEncodingMarkedUtf8">
+        <source></source>
+        <translation>UTF-8 met kenmerk (voor spreadsheets)</translation>
+    </message>
+    <message id="kEncodingUtf16">
+        <source></source>
+        <translation>UTF-16</translation>
+    </message>
+    <message id="kEncodingUtf8">
+        <source></source>
+        <translation>UTF-8</translation>
+    </message>
+    <message id="kEncodingWindows">
+        <source></source>
+        <translation>Windows-1252 (West-Europa)</translation>
+    </message>
+    <message id="kExportAll" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>De enige zender van deze lijst</numerusform>
+            <numerusform>Alle %n zenders van deze lijst</numerusform>
+        </translation>
+    </message>
+    <message id="kExportByName" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n zender heeft geen volledige ID’s en wordt alleen aan zijn naam herkend.</numerusform>
+            <numerusform>%n zenders hebben geen volledige ID’s en worden alleen aan hun naam herkend.</numerusform>
+        </translation>
+    </message>
+    <message id="kExportChangedNames" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>In %n naam staan komma’s en spaties voor puntkomma’s en regeleinden; aan die naam wordt de zender niet herkend.</numerusform>
+            <numerusform>In %n namen staan komma’s en spaties voor puntkomma’s en regeleinden; aan die namen worden de zenders niet herkend.</numerusform>
+        </translation>
+    </message>
+    <message id="kExportEncoding">
+        <source></source>
+        <translation>&amp;Codering:</translation>
+    </message>
     <message id="kExportExplanation">
         <source></source>
         <translation>Er wordt een kopie van de hele zenderlijst geschreven onder de naam die u kiest. Het bestand van dit venster blijft zoals het is. De volgorde van de kopie kan op andere lijsten worden toegepast als de naam op “.tll” eindigt.</translation>
@@ -424,9 +469,107 @@
         <source></source>
         <translation>De lijst kon niet als “%1” worden geëxporteerd.</translation>
     </message>
+    <message id="kExportFormat">
+        <source></source>
+        <translation>&amp;Indeling:</translation>
+    </message>
+    <message id="kExportKeys">
+        <source></source>
+        <translation>Met &amp;zendersleutels, om wijzigingen te importeren</translation>
+    </message>
+    <message id="kExportListTitle">
+        <source></source>
+        <translation>Lijst exporteren</translation>
+    </message>
+    <message id="kExportLost" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n teken kan zo niet worden geschreven; daarvoor staat “?” in de plaats.</numerusform>
+            <numerusform>%n tekens kunnen zo niet worden geschreven; daarvoor staat “?” in de plaats.</numerusform>
+        </translation>
+    </message>
+    <message id="kExportOK">
+        <source></source>
+        <translation>Exporteren…</translation>
+    </message>
+    <message id="kExportPage">
+        <source></source>
+        <translation>Pagina om af te drukken (HTML)</translation>
+    </message>
+    <message id="kExportReferenceList">
+        <source></source>
+        <translation>Referentielijst om een volgorde toe te passen (tekst)</translation>
+    </message>
+    <message id="kExportSeparator">
+        <source></source>
+        <translation>&amp;Scheidingsteken:</translation>
+    </message>
+    <message id="kExportShown" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Alleen de ene die wordt getoond</numerusform>
+            <numerusform>Alleen de %n die worden getoond</numerusform>
+        </translation>
+    </message>
+    <message id="kExportStations">
+        <source></source>
+        <translation>&amp;Zenders:</translation>
+    </message>
+    <message id="kExportTable">
+        <source></source>
+        <translation>Tabel voor spreadsheets (CSV)</translation>
+    </message>
     <message id="kExportTitle">
         <source></source>
         <translation>Exporteren als referentielijst (kopie van het hele bestand)</translation>
+    </message>
+    <message id="kExportTooShort">
+        <source></source>
+        <translation>Een volgorde wordt uit minstens drie zenders gelezen: dit bestand zou niet toe te passen zijn.</translation>
+    </message>
+    <message id="kFaultBadMark">
+        <source></source>
+        <translation>“%1” zegt niet of de zender dit kenmerk heeft; 1 of 0 wel.</translation>
+    </message>
+    <message id="kFaultBadNumber">
+        <source></source>
+        <translation>“%1” is geen nummer van 1 tot 16383.</translation>
+    </message>
+    <message id="kFaultDoubledColumn">
+        <source></source>
+        <translation>Er zijn twee kolommen “%1”.</translation>
+    </message>
+    <message id="kFaultNoColumns">
+        <source></source>
+        <translation>De eerste rij moet de titels van de kolommen hebben zoals ze zijn geëxporteerd, waaronder de naam, de dienst of de zendersleutel.</translation>
+    </message>
+    <message id="kFaultNoRows">
+        <source></source>
+        <translation>Er zijn geen rijen met zenders.</translation>
+    </message>
+    <message id="kFaultPlace">
+        <source></source>
+        <translation>Regel %1, kolom %2:</translation>
+    </message>
+    <message id="kFaultTextBehindQuote">
+        <source></source>
+        <translation>Er staat tekst achter een sluitend aanhalingsteken.</translation>
+    </message>
+    <message id="kFaultTooLarge">
+        <source></source>
+        <translation>De tabel is te groot.</translation>
+    </message>
+    <message id="kFaultTooManyCells">
+        <source></source>
+        <translation>“%1” staat in geen kolom met een titel.</translation>
+    </message>
+    <message id="kFaultUnclosedQuote">
+        <source></source>
+        <translation>Hier begint een aanhalingsteken dat nergens eindigt.</translation>
+    </message>
+    <message id="kFaultZeroCharacter">
+        <source></source>
+        <translation>Dit is geen tekstbestand.</translation>
     </message>
     <message id="kFileMissingReason">
         <source></source>
@@ -472,6 +615,10 @@
         <source></source>
         <translation>Overige</translation>
     </message>
+    <message id="kFilterPages">
+        <source></source>
+        <translation>HTML-pagina’s</translation>
+    </message>
     <message id="kFilterReferenceLists">
         <source></source>
         <translation>Referentielijsten</translation>
@@ -479,6 +626,10 @@
     <message id="kFilterSD">
         <source></source>
         <translation>SD</translation>
+    </message>
+    <message id="kFilterTables">
+        <source></source>
+        <translation>Tabellen</translation>
     </message>
     <message id="kFilterTextFiles">
         <source></source>
@@ -607,6 +758,26 @@
     <message id="kHistoryUndone">
         <source></source>
         <translation>Ongedaan gemaakt</translation>
+    </message>
+    <message id="kImportByNumbers">
+        <source></source>
+        <translation>Nummers en volgorde van de rijen zijn allebei gewijzigd en komen niet overeen: de nummers tellen.</translation>
+    </message>
+    <message id="kImportByRows">
+        <source></source>
+        <translation>De nummers zijn ongewijzigd, maar de rijen staan in een andere volgorde: de zenders krijgen de volgorde van de rijen.</translation>
+    </message>
+    <message id="kImportFailed">
+        <source></source>
+        <translation>“%1” kan niet worden geïmporteerd. De lijst blijft zoals ze is.</translation>
+    </message>
+    <message id="kImportOtherList">
+        <source></source>
+        <translation>De rijen horen bij een andere lijst van dit bestand: %1.</translation>
+    </message>
+    <message id="kImportTitle">
+        <source></source>
+        <translation>Wijzigingen uit een tabel importeren</translation>
     </message>
     <message id="kInfo">
         <source></source>
@@ -755,6 +926,10 @@
         <source></source>
         <translation>&amp;Exporteren als referentielijst…</translation>
     </message>
+    <message id="kMenuExportList">
+        <source></source>
+        <translation>E&amp;xporteren…</translation>
+    </message>
     <message id="kMenuFile">
         <source></source>
         <translation>&amp;Bestand</translation>
@@ -814,6 +989,10 @@
     <message id="kMenuHistory">
         <source></source>
         <translation>&amp;Geschiedenis</translation>
+    </message>
+    <message id="kMenuImport">
+        <source></source>
+        <translation>Wijzigingen i&amp;mporteren…</translation>
     </message>
     <message id="kMenuInfo">
         <source></source>
@@ -1489,6 +1668,18 @@
         <source></source>
         <translation>&amp;Zoeken:</translation>
     </message>
+    <message id="kSeparatorComma">
+        <source></source>
+        <translation>Komma</translation>
+    </message>
+    <message id="kSeparatorSemicolon">
+        <source></source>
+        <translation>Puntkomma</translation>
+    </message>
+    <message id="kSeparatorTab">
+        <source></source>
+        <translation>Tab</translation>
+    </message>
     <message id="kSortStatistics">
         <source></source>
         <translation>Gevonden zenders: %1
@@ -1604,6 +1795,18 @@ Deze gaan verder vanaf nummer: %3</translation>
         <source></source>
         <translation>De kolommen zijn al de gebruikelijke</translation>
     </message>
+    <message id="kTipExportAllShown">
+        <source></source>
+        <translation>Alle zenders van de lijst worden getoond</translation>
+    </message>
+    <message id="kTipExportKeys">
+        <source></source>
+        <translation>Aan deze kolom worden de zenders bij het importeren herkend, in welke volgorde en met welke nummers ook</translation>
+    </message>
+    <message id="kTipExportTableOnly">
+        <source></source>
+        <translation>Alleen voor een tabel</translation>
+    </message>
     <message id="kTipFilterTVOnly">
         <source></source>
         <translation>Typen kunnen alleen voor tv-zenders worden gekozen</translation>
@@ -1685,6 +1888,10 @@ Deze gaan verder vanaf nummer: %3</translation>
     <message id="kToldExported">
         <source></source>
         <translation>Geëxporteerd naar %1, als volledige zenderlijst.</translation>
+    </message>
+    <message id="kToldExportedList">
+        <source></source>
+        <translation>Geëxporteerd naar %1.</translation>
     </message>
     <message id="kToldForeign">
         <source></source>

@@ -251,6 +251,10 @@
         <source></source>
         <translation>Ukryty</translation>
     </message>
+    <message id="kColumnKey">
+        <source></source>
+        <translation>Klucz kanału</translation>
+    </message>
     <message id="kColumnName">
         <source></source>
         <translation>Nazwa</translation>
@@ -431,6 +435,50 @@
         <source></source>
         <translation>Czy chcesz odrzucić niezapisane zmiany, których nie można odczytać?</translation>
     </message>
+    <message id="kEncodingMarkedUtf8">
+        <source></source>
+        <translation>UTF-8 ze znacznikiem (do arkuszy kalkulacyjnych)</translation>
+    </message>
+    <message id="kEncodingUtf16">
+        <source></source>
+        <translation>UTF-16</translation>
+    </message>
+    <message id="kEncodingUtf8">
+        <source></source>
+        <translation>UTF-8</translation>
+    </message>
+    <message id="kEncodingWindows">
+        <source></source>
+        <translation>Windows-1252 (Europa Zachodnia)</translation>
+    </message>
+    <message id="kExportAll" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Jedyny kanał tej listy</numerusform>
+            <numerusform>Wszystkie %n kanały tej listy</numerusform>
+            <numerusform>Wszystkie %n kanałów tej listy</numerusform>
+        </translation>
+    </message>
+    <message id="kExportByName" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n kanał nie ma pełnych identyfikatorów i jest rozpoznawany tylko po nazwie.</numerusform>
+            <numerusform>%n kanały nie mają pełnych identyfikatorów i są rozpoznawane tylko po nazwie.</numerusform>
+            <numerusform>%n kanałów nie ma pełnych identyfikatorów i są rozpoznawane tylko po nazwie.</numerusform>
+        </translation>
+    </message>
+    <message id="kExportChangedNames" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>W %n nazwie przecinki i spacje zastępują średniki i końce wierszy; po tej nazwie kanału nie da się rozpoznać.</numerusform>
+            <numerusform>W %n nazwach przecinki i spacje zastępują średniki i końce wierszy; po tych nazwach kanałów nie da się rozpoznać.</numerusform>
+            <numerusform>W %n nazwach przecinki i spacje zastępują średniki i końce wierszy; po tych nazwach kanałów nie da się rozpoznać.</numerusform>
+        </translation>
+    </message>
+    <message id="kExportEncoding">
+        <source></source>
+        <translation>Ko&amp;dowanie:</translation>
+    </message>
     <message id="kExportExplanation">
         <source></source>
         <translation>Zapisywana jest kopia całej listy kanałów pod wybraną nazwą. Plik tego okna pozostaje bez zmian. Kolejność kopii można zastosować do innych list, jeśli jej nazwa kończy się na „.tll”.</translation>
@@ -439,9 +487,109 @@
         <source></source>
         <translation>Nie można wyeksportować listy jako „%1”.</translation>
     </message>
+    <message id="kExportFormat">
+        <source></source>
+        <translation>&amp;Format:</translation>
+    </message>
+    <message id="kExportKeys">
+        <source></source>
+        <translation>Z k&amp;luczami kanałów, aby importować zmiany</translation>
+    </message>
+    <message id="kExportListTitle">
+        <source></source>
+        <translation>Eksport listy</translation>
+    </message>
+    <message id="kExportLost" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n znaku nie da się tak zapisać; zamiast niego jest „?”.</numerusform>
+            <numerusform>%n znaków nie da się tak zapisać; zamiast nich jest „?”.</numerusform>
+            <numerusform>%n znaków nie da się tak zapisać; zamiast nich jest „?”.</numerusform>
+        </translation>
+    </message>
+    <message id="kExportOK">
+        <source></source>
+        <translation>Eksportuj…</translation>
+    </message>
+    <message id="kExportPage">
+        <source></source>
+        <translation>Strona do wydrukowania (HTML)</translation>
+    </message>
+    <message id="kExportReferenceList">
+        <source></source>
+        <translation>Lista wzorcowa do zastosowania kolejności (tekst)</translation>
+    </message>
+    <message id="kExportSeparator">
+        <source></source>
+        <translation>Se&amp;parator:</translation>
+    </message>
+    <message id="kExportShown" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Tylko jeden pokazany</numerusform>
+            <numerusform>Tylko %n pokazane</numerusform>
+            <numerusform>Tylko %n pokazanych</numerusform>
+        </translation>
+    </message>
+    <message id="kExportStations">
+        <source></source>
+        <translation>&amp;Kanały:</translation>
+    </message>
+    <message id="kExportTable">
+        <source></source>
+        <translation>Tabela do arkuszy kalkulacyjnych (CSV)</translation>
+    </message>
     <message id="kExportTitle">
         <source></source>
         <translation>Eksportuj jako listę wzorcową (kopia całego pliku)</translation>
+    </message>
+    <message id="kExportTooShort">
+        <source></source>
+        <translation>Kolejność odczytuje się z co najmniej trzech kanałów: tego pliku nie dałoby się zastosować.</translation>
+    </message>
+    <message id="kFaultBadMark">
+        <source></source>
+        <translation>„%1” nie mówi, czy kanał ma to oznaczenie; wystarczy 1 lub 0.</translation>
+    </message>
+    <message id="kFaultBadNumber">
+        <source></source>
+        <translation>„%1” nie jest numerem od 1 do 16383.</translation>
+    </message>
+    <message id="kFaultDoubledColumn">
+        <source></source>
+        <translation>Są dwie kolumny „%1”.</translation>
+    </message>
+    <message id="kFaultNoColumns">
+        <source></source>
+        <translation>Pierwszy wiersz musi zawierać tytuły kolumn takie, jak wyeksportowano, w tym nazwę, usługę lub klucz kanału.</translation>
+    </message>
+    <message id="kFaultNoRows">
+        <source></source>
+        <translation>Nie ma wierszy z kanałami.</translation>
+    </message>
+    <message id="kFaultPlace">
+        <source></source>
+        <translation>Wiersz %1, kolumna %2:</translation>
+    </message>
+    <message id="kFaultTextBehindQuote">
+        <source></source>
+        <translation>Za cudzysłowem zamykającym stoi tekst.</translation>
+    </message>
+    <message id="kFaultTooLarge">
+        <source></source>
+        <translation>Tabela jest za duża.</translation>
+    </message>
+    <message id="kFaultTooManyCells">
+        <source></source>
+        <translation>„%1” nie stoi w kolumnie z tytułem.</translation>
+    </message>
+    <message id="kFaultUnclosedQuote">
+        <source></source>
+        <translation>Tu zaczyna się cudzysłów, który nigdzie się nie kończy.</translation>
+    </message>
+    <message id="kFaultZeroCharacter">
+        <source></source>
+        <translation>To nie jest plik tekstowy.</translation>
     </message>
     <message id="kFileMissingReason">
         <source></source>
@@ -487,6 +635,10 @@
         <source></source>
         <translation>Inne</translation>
     </message>
+    <message id="kFilterPages">
+        <source></source>
+        <translation>Strony HTML</translation>
+    </message>
     <message id="kFilterReferenceLists">
         <source></source>
         <translation>Listy wzorcowe</translation>
@@ -494,6 +646,10 @@
     <message id="kFilterSD">
         <source></source>
         <translation>SD</translation>
+    </message>
+    <message id="kFilterTables">
+        <source></source>
+        <translation>Tabele</translation>
     </message>
     <message id="kFilterTextFiles">
         <source></source>
@@ -622,6 +778,26 @@
     <message id="kHistoryUndone">
         <source></source>
         <translation>Cofnięto</translation>
+    </message>
+    <message id="kImportByNumbers">
+        <source></source>
+        <translation>Zmieniono numery i kolejność wierszy i nie zgadzają się: liczą się numery.</translation>
+    </message>
+    <message id="kImportByRows">
+        <source></source>
+        <translation>Numery są bez zmian, ale wiersze stoją w innej kolejności: kanały dostają kolejność wierszy.</translation>
+    </message>
+    <message id="kImportFailed">
+        <source></source>
+        <translation>Nie można zaimportować „%1”. Lista pozostaje bez zmian.</translation>
+    </message>
+    <message id="kImportOtherList">
+        <source></source>
+        <translation>Wiersze pasują do innej listy z tego pliku: %1.</translation>
+    </message>
+    <message id="kImportTitle">
+        <source></source>
+        <translation>Import zmian z tabeli</translation>
     </message>
     <message id="kInfo">
         <source></source>
@@ -775,6 +951,10 @@
         <source></source>
         <translation>&amp;Eksportuj jako listę wzorcową…</translation>
     </message>
+    <message id="kMenuExportList">
+        <source></source>
+        <translation>Ekspor&amp;tuj…</translation>
+    </message>
     <message id="kMenuFile">
         <source></source>
         <translation>&amp;Plik</translation>
@@ -834,6 +1014,10 @@
     <message id="kMenuHistory">
         <source></source>
         <translation>H&amp;istoria</translation>
+    </message>
+    <message id="kMenuImport">
+        <source></source>
+        <translation>Im&amp;portuj zmiany…</translation>
     </message>
     <message id="kMenuInfo">
         <source></source>
@@ -1519,6 +1703,18 @@
         <source></source>
         <translation>&amp;Szukaj:</translation>
     </message>
+    <message id="kSeparatorComma">
+        <source></source>
+        <translation>Przecinek</translation>
+    </message>
+    <message id="kSeparatorSemicolon">
+        <source></source>
+        <translation>Średnik</translation>
+    </message>
+    <message id="kSeparatorTab">
+        <source></source>
+        <translation>Tabulator</translation>
+    </message>
     <message id="kSortStatistics">
         <source></source>
         <translation>Kanały dopasowane: %1
@@ -1641,6 +1837,18 @@ Te następują od numeru: %3</translation>
         <source></source>
         <translation>Kolumny są już takie jak zwykle</translation>
     </message>
+    <message id="kTipExportAllShown">
+        <source></source>
+        <translation>Pokazane są wszystkie kanały listy</translation>
+    </message>
+    <message id="kTipExportKeys">
+        <source></source>
+        <translation>Po tej kolumnie import rozpoznaje kanały, niezależnie od kolejności i numerów</translation>
+    </message>
+    <message id="kTipExportTableOnly">
+        <source></source>
+        <translation>Tylko dla tabeli</translation>
+    </message>
     <message id="kTipFilterTVOnly">
         <source></source>
         <translation>Typy można wybierać tylko dla kanałów TV</translation>
@@ -1724,6 +1932,10 @@ Te następują od numeru: %3</translation>
     <message id="kToldExported">
         <source></source>
         <translation>Wyeksportowano do %1 jako pełną listę kanałów.</translation>
+    </message>
+    <message id="kToldExportedList">
+        <source></source>
+        <translation>Wyeksportowano do %1.</translation>
     </message>
     <message id="kToldForeign">
         <source></source>

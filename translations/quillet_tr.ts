@@ -241,6 +241,10 @@
         <source></source>
         <translation>Gizli</translation>
     </message>
+    <message id="kColumnKey">
+        <source></source>
+        <translation>Kanal anahtarı</translation>
+    </message>
     <message id="kColumnName">
         <source></source>
         <translation>Ad</translation>
@@ -401,6 +405,44 @@
         <source></source>
         <translation>Okunamayan, kaydedilmemiş değişiklikleri atmak istiyor musunuz?</translation>
     </message>
+    <message id="kEncodingMarkedUtf8">
+        <source></source>
+        <translation>İşaretli UTF-8 (hesap tabloları için)</translation>
+    </message>
+    <message id="kEncodingUtf16">
+        <source></source>
+        <translation>UTF-16</translation>
+    </message>
+    <message id="kEncodingUtf8">
+        <source></source>
+        <translation>UTF-8</translation>
+    </message>
+    <message id="kEncodingWindows">
+        <source></source>
+        <translation>Windows-1252 (Batı Avrupa)</translation>
+    </message>
+    <message id="kExportAll" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Bu listedeki %n kanalın tümü</numerusform>
+        </translation>
+    </message>
+    <message id="kExportByName" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n kanalın tam tanımlayıcıları yok; yalnızca adından tanınır.</numerusform>
+        </translation>
+    </message>
+    <message id="kExportChangedNames" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n adda noktalı virgül ve satır sonlarının yerinde virgül ve boşluk var; kanal bu addan tanınmaz.</numerusform>
+        </translation>
+    </message>
+    <message id="kExportEncoding">
+        <source></source>
+        <translation>&amp;Kodlama:</translation>
+    </message>
     <message id="kExportExplanation">
         <source></source>
         <translation>Kanal listesinin tamamının bir kopyası, seçtiğiniz adla yazılır. Bu pencerenin dosyası olduğu gibi kalır. Kopyanın adı “.tll” ile bitiyorsa sırası başka listelere uygulanabilir.</translation>
@@ -409,9 +451,105 @@
         <source></source>
         <translation>Liste “%1” olarak dışa aktarılamadı.</translation>
     </message>
+    <message id="kExportFormat">
+        <source></source>
+        <translation>&amp;Biçim:</translation>
+    </message>
+    <message id="kExportKeys">
+        <source></source>
+        <translation>Değişiklikleri içe aktarmak için kanal &amp;anahtarlarıyla</translation>
+    </message>
+    <message id="kExportListTitle">
+        <source></source>
+        <translation>Listeyi Dışa Aktar</translation>
+    </message>
+    <message id="kExportLost" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n karakter böyle yazılamıyor; yerine “?” konuyor.</numerusform>
+        </translation>
+    </message>
+    <message id="kExportOK">
+        <source></source>
+        <translation>Dışa Aktar…</translation>
+    </message>
+    <message id="kExportPage">
+        <source></source>
+        <translation>Yazdırılacak sayfa (HTML)</translation>
+    </message>
+    <message id="kExportReferenceList">
+        <source></source>
+        <translation>Sıralama uygulamak için referans listesi (metin)</translation>
+    </message>
+    <message id="kExportSeparator">
+        <source></source>
+        <translation>Ay&amp;ırıcı:</translation>
+    </message>
+    <message id="kExportShown" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Yalnızca gösterilen %n kanal</numerusform>
+        </translation>
+    </message>
+    <message id="kExportStations">
+        <source></source>
+        <translation>&amp;Kanallar:</translation>
+    </message>
+    <message id="kExportTable">
+        <source></source>
+        <translation>Hesap tabloları için tablo (CSV)</translation>
+    </message>
     <message id="kExportTitle">
         <source></source>
         <translation>Referans Listesi Olarak Dışa Aktar (Tüm Dosyanın Kopyası)</translation>
+    </message>
+    <message id="kExportTooShort">
+        <source></source>
+        <translation>Sıralama en az üç kanaldan okunur: bu dosya uygulanamaz.</translation>
+    </message>
+    <message id="kFaultBadMark">
+        <source></source>
+        <translation>“%1” kanalda bu işaretin olup olmadığını söylemiyor; 1 ya da 0 yazın.</translation>
+    </message>
+    <message id="kFaultBadNumber">
+        <source></source>
+        <translation>“%1” 1 ile 16383 arasında bir numara değil.</translation>
+    </message>
+    <message id="kFaultDoubledColumn">
+        <source></source>
+        <translation>İki tane “%1” sütunu var.</translation>
+    </message>
+    <message id="kFaultNoColumns">
+        <source></source>
+        <translation>İlk satırda sütun başlıkları dışa aktarıldığı gibi bulunmalı; aralarında ad, hizmet ya da kanal anahtarı olmalı.</translation>
+    </message>
+    <message id="kFaultNoRows">
+        <source></source>
+        <translation>Kanal satırı yok.</translation>
+    </message>
+    <message id="kFaultPlace">
+        <source></source>
+        <translation>Satır %1, sütun %2:</translation>
+    </message>
+    <message id="kFaultTextBehindQuote">
+        <source></source>
+        <translation>Kapanan tırnak işaretinin arkasında metin var.</translation>
+    </message>
+    <message id="kFaultTooLarge">
+        <source></source>
+        <translation>Tablo çok büyük.</translation>
+    </message>
+    <message id="kFaultTooManyCells">
+        <source></source>
+        <translation>“%1” başlığı olan bir sütunda değil.</translation>
+    </message>
+    <message id="kFaultUnclosedQuote">
+        <source></source>
+        <translation>Burada açılan tırnak işareti hiç kapanmıyor.</translation>
+    </message>
+    <message id="kFaultZeroCharacter">
+        <source></source>
+        <translation>Bu bir metin dosyası değil.</translation>
     </message>
     <message id="kFileMissingReason">
         <source></source>
@@ -457,6 +595,10 @@
         <source></source>
         <translation>Diğer</translation>
     </message>
+    <message id="kFilterPages">
+        <source></source>
+        <translation>HTML sayfaları</translation>
+    </message>
     <message id="kFilterReferenceLists">
         <source></source>
         <translation>Referans listeleri</translation>
@@ -464,6 +606,10 @@
     <message id="kFilterSD">
         <source></source>
         <translation>SD</translation>
+    </message>
+    <message id="kFilterTables">
+        <source></source>
+        <translation>Tablolar</translation>
     </message>
     <message id="kFilterTextFiles">
         <source></source>
@@ -592,6 +738,26 @@
     <message id="kHistoryUndone">
         <source></source>
         <translation>Geri alındı</translation>
+    </message>
+    <message id="kImportByNumbers">
+        <source></source>
+        <translation>Hem numaralar hem satırların sırası değişmiş ve birbirini tutmuyor: numaralar geçerli.</translation>
+    </message>
+    <message id="kImportByRows">
+        <source></source>
+        <translation>Numaralar değişmemiş ama satırların sırası farklı: kanallar satırların sırasını alır.</translation>
+    </message>
+    <message id="kImportFailed">
+        <source></source>
+        <translation>“%1” içe aktarılamıyor. Liste olduğu gibi kalıyor.</translation>
+    </message>
+    <message id="kImportOtherList">
+        <source></source>
+        <translation>Satırlar bu dosyadaki başka bir listeye uyuyor: %1.</translation>
+    </message>
+    <message id="kImportTitle">
+        <source></source>
+        <translation>Tablodan Değişiklikleri İçe Aktar</translation>
     </message>
     <message id="kInfo">
         <source></source>
@@ -735,6 +901,10 @@
         <source></source>
         <translation>Referans Listesi Olarak Dışa Akta&amp;r…</translation>
     </message>
+    <message id="kMenuExportList">
+        <source></source>
+        <translation>Başka &amp;Biçimde Dışa Aktar…</translation>
+    </message>
     <message id="kMenuFile">
         <source></source>
         <translation>&amp;Dosya</translation>
@@ -794,6 +964,10 @@
     <message id="kMenuHistory">
         <source></source>
         <translation>&amp;Geçmiş</translation>
+    </message>
+    <message id="kMenuImport">
+        <source></source>
+        <translation>D&amp;eğişiklikleri İçe Aktar…</translation>
     </message>
     <message id="kMenuInfo">
         <source></source>
@@ -1459,6 +1633,18 @@
         <source></source>
         <translation>&amp;Ara:</translation>
     </message>
+    <message id="kSeparatorComma">
+        <source></source>
+        <translation>Virgül</translation>
+    </message>
+    <message id="kSeparatorSemicolon">
+        <source></source>
+        <translation>Noktalı virgül</translation>
+    </message>
+    <message id="kSeparatorTab">
+        <source></source>
+        <translation>Sekme</translation>
+    </message>
     <message id="kSortStatistics">
         <source></source>
         <translation>Eşleşen kanal: %1
@@ -1567,6 +1753,18 @@ Bunların devam ettiği numara: %3</translation>
         <source></source>
         <translation>Sütunlar zaten olağan sütunlar</translation>
     </message>
+    <message id="kTipExportAllShown">
+        <source></source>
+        <translation>Listenin tüm kanalları gösteriliyor</translation>
+    </message>
+    <message id="kTipExportKeys">
+        <source></source>
+        <translation>İçe aktarırken kanallar, sıraları ve numaraları ne olursa olsun bu sütundan tanınır</translation>
+    </message>
+    <message id="kTipExportTableOnly">
+        <source></source>
+        <translation>Yalnızca tablo için</translation>
+    </message>
     <message id="kTipFilterTVOnly">
         <source></source>
         <translation>Türler yalnızca TV kanalları için seçilebilir</translation>
@@ -1646,6 +1844,10 @@ Bunların devam ettiği numara: %3</translation>
     <message id="kToldExported">
         <source></source>
         <translation>%1 dosyasına tam bir kanal listesi olarak dışa aktarıldı.</translation>
+    </message>
+    <message id="kToldExportedList">
+        <source></source>
+        <translation>%1 dosyasına dışa aktarıldı.</translation>
     </message>
     <message id="kToldForeign">
         <source></source>

@@ -117,6 +117,15 @@ void MainMenu::makeFileMenu(QMenuBar &bar)
     m_documentItems.push_back(add(menu,
                                   {"kMenuExport", "exportAsReferenceList", Qt::CTRL | Qt::Key_E},
                                   [this] { m_window.tlldoc()->exportAsReferenceList(); }));
+    m_exportList =
+        add(menu, {"kMenuExportList", "exportList", Qt::CTRL | Qt::SHIFT | Qt::Key_E}, [this] {
+            m_editor.commitEditing();
+            m_editor.exportList();
+        });
+    m_importChanges = add(menu, {"kMenuImport", "importChangesClicked", {}}, [this] {
+        m_editor.commitEditing();
+        m_editor.controller().importChangesClicked();
+    });
     m_alwaysRepair = add(menu, {"kMenuAlwaysRepair", "alwaysRepair", {}}, [this] {
         QSettings().remove(SaveReview::alwaysKey);
         validate();
@@ -257,6 +266,10 @@ void MainMenu::validate()
     m_alwaysRepair->setVisible(m_alwaysRepair->isChecked());
     using Control = EditorOutlets::Control;
     const ViewController &editor = m_editor.controller();
+    m_exportList->setEnabled(!editor.currentList().empty());
+    m_importChanges->setEnabled(document && document->list().stationCount() > 0);
+    for (QAction *each : {m_exportList, m_importChanges})
+        each->setToolTip(each->isEnabled() ? QString() : qtTrId("kTipNoStations"));
     for (QAction *print : m_print) {
         print->setEnabled(!editor.currentList().empty());
         print->setToolTip(print->isEnabled() ? QString() : qtTrId("kTipNoStations"));

@@ -76,6 +76,8 @@ private:
     QAction *m_reload = nullptr;
     QAction *m_versions = nullptr;
     QAction *m_alwaysRepair = nullptr;
+    QAction *m_exportList = nullptr;
+    QAction *m_importChanges = nullptr;
     QAction *m_showTV = nullptr;
     QAction *m_showRadio = nullptr;
 };

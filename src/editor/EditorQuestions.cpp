@@ -91,6 +91,22 @@ void EditorQuestions::askForReferenceList(
     m_document.prompts()->showOpenPanel(m_window, panel, guarded(chosen));
 }
 
+void EditorQuestions::askForTable(std::function<void(const QString &)> chosen) const
+{
+    if (!m_document.prompts())
+        return;
+    const OpenPanel panel{
+        .title = qtTrId("kImportTitle"),
+        .directory = m_document.folder(),
+        .nameFilters = {qtTrId("kFilterTables") + QLatin1String(" (*.csv *.tsv *.txt)"),
+                        qtTrId("kFilterAllFiles") + QLatin1String(" (*)")}};
+    const auto check = [chosen, guard = QPointer(m_context)](const QStringList &paths) {
+        if (guard && !paths.isEmpty())
+            chosen(paths.front());
+    };
+    m_document.prompts()->showOpenPanel(m_window, panel, check);
+}
+
 void EditorQuestions::showError(const QString &message, const QString &detail) const
 {
     if (!m_document.prompts())

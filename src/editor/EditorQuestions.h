@@ -30,6 +30,8 @@ public:
     /// The reference list chosen, to be applied or to be looked at first.
     void askForReferenceList(const std::function<void(const QString &)> &chosen,
                              const std::function<void(const QString &)> &previewed) const;
+    /// The table of another program chosen.
+    void askForTable(std::function<void(const QString &)> chosen) const;
     void showError(const QString &message, const QString &detail) const;
 
 private:

@@ -5,9 +5,11 @@
 #include "editor/EditorKeys.h"
 #include "editor/EditorLayout.h"
 #include "editor/EmptyDocText.h"
+#include "editor/ExportDialog.h"
 #include "editor/InfoViewController.h"
 #include "editor/ShownTexts.h"
 #include "editor/SourceTitles.h"
+#include "editor/StationHeader.h"
 #include "editor/TableColumns.h"
 #include "editor/TableSelection.h"
 #include "ui_EditorView.h"
@@ -231,6 +233,15 @@ QMenu &EditorView::columnsMenu() const
 void EditorView::printList(PrintForm form)
 {
     quillet::printList(*m_ui->list, m_controller, form, sheetWindow());
+}
+
+void EditorView::exportList()
+{
+    const auto &header = static_cast<const StationHeader &>(*m_ui->list->horizontalHeader());
+    std::vector<ColumnContent> columns;
+    for (const int column : header.shownColumns())
+        columns.push_back(stationColumns.at(static_cast<std::size_t>(column)).content);
+    askToExport(m_controller, std::move(columns), sheetWindow());
 }
 
 void EditorView::setText(Field field, const QString &text)

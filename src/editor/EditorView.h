@@ -53,6 +53,8 @@ public:
     void findNext(bool isForward);
     /// Asks where to print, then prints the rows shown.
     void printList(PrintForm form);
+    /// Asks how and where to export the list on show, with the columns on show.
+    void exportList();
     void setFillGapsOn(bool on);
     /// Opens the info panel of the first selected station, in the place of an earlier one.
     void showInfo();

@@ -9,7 +9,7 @@
 
 namespace quillet {
 
-QString listHeading(const TableController &controller)
+QString listHeading(const TableController &controller, bool isWhole)
 {
     const ShownStations &shown = controller.shown();
     const auto foreign = shown.foreignRows();
@@ -19,7 +19,7 @@ QString listHeading(const TableController &controller)
     const QString dash = QStringLiteral(u" \u2014 ");
     if (const std::optional<QString> model = controller.stationDoc()->modelName())
         heading = drawnName(*model) + dash + heading;
-    if (!shown.isFiltered())
+    if (isWhole || !shown.isFiltered())
         return heading;
     QStringList filters;
     if (const QString text = controller.searchText(); !text.isEmpty())

@@ -2,17 +2,21 @@
 
 #include "document/ReferenceListFile.h"
 #include "editor/EditorQuestions.h"
+#include "editor/ListImport.h"
 #include "editor/NoticeTexts.h"
 #include "editor/SourceTitles.h"
 #include "editor/StationColumns.h"
 #include "files/FileNames.h"
+#include "files/FileReading.h"
 #include "support/LenientNumber.h"
 
 #include <QFileInfo>
 #include <QSet>
 #include <QTimer>
+#include <QUrl>
 
 #include <algorithm>
+#include <new>
 #include <numeric>
 #include <utility>
 
@@ -311,6 +315,39 @@ void ViewController::applyOrder(const ReferenceList &entries, const QString &fil
         saveSelection();
     };
     whenNumbersSuffice(m_editor.beyondAfterOrder(entries), apply);
+}
+
+void ViewController::importChangesClicked()
+{
+    if (!stationDoc())
+        return;
+    questions().askForTable([this](const QString &path) {
+        // In a later turn, when the panel has gone.
+        QTimer::singleShot(0, this, [this, path] { importChangesFile(path); });
+    });
+}
+
+void ViewController::importChangesFile(const QString &path)
+{
+    if (!stationDoc())
+        return;
+    const QString name = readable(QFileInfo(path).fileName());
+    QString reason;
+    std::optional<ComparedWith> compared;
+    try {
+        QByteArray bytes;
+        Error error;
+        if (readFile(QUrl::fromLocalFile(path), bytes, error))
+            compared = importedTable(bytes, name, *stationDoc(), reason);
+        else
+            reason = error.text();
+    } catch (const std::bad_alloc &) {
+        reason = qtTrId("kNoMemoryReason");
+    }
+    if (compared)
+        emit comparisonWanted(*compared);
+    else
+        showError(reason, qtTrId("kImportFailed").arg(name));
 }
 
 bool ViewController::putBack(const ChannelList &version, const QString &name)

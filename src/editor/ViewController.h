@@ -57,6 +57,11 @@ public:
     void previewOrderFile(const QString &path);
     /// Imposes the order of a reference list that was read from the file of that name.
     void applyOrder(const ReferenceList &entries, const QString &fileName);
+    /// Asks for a table that was exported and edited elsewhere, and has that compared with the
+    /// document, by comparisonWanted().
+    void importChangesClicked();
+    /// The same of that table; one that cannot be used is told.
+    void importChangesFile(const QString &path);
     /// Makes all lists of the document what they are in an earlier version of it, if that has the
     /// same stations one to one. The name is that of the version. Returns whether it did.
     bool putBack(const ChannelList &version, const QString &name);

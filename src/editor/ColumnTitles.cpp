@@ -1,0 +1,78 @@
+#include "editor/ColumnTitles.h"
+
+#include "editor/StationColumns.h"
+
+#include <QDir>
+#include <QTranslator>
+
+#include <algorithm>
+#include <array>
+#include <functional>
+
+namespace quillet {
+
+namespace {
+
+constexpr std::array fields{
+    std::pair{ColumnContent::Number, RowField::Number},
+    std::pair{ColumnContent::Name, RowField::Name},
+    std::pair{ColumnContent::Skipped, RowField::Skipped},
+    std::pair{ColumnContent::Blocked, RowField::Locked},
+    std::pair{ColumnContent::NetworkId, RowField::NetworkId},
+    std::pair{ColumnContent::TransportStreamId, RowField::TransportStreamId},
+    std::pair{ColumnContent::ServiceId, RowField::ServiceId},
+    std::pair{ColumnContent::Frequency, RowField::Frequency},
+};
+constexpr QLatin1String keyIdentifier("stationKey");
+
+/// By the text of an id.
+RowTitles titlesBy(const std::function<QString(const char *)> &text)
+{
+    RowTitles titles{{foldedTitle(keyIdentifier), RowField::Key},
+                     {foldedTitle(text("kColumnKey")), RowField::Key}};
+    for (const auto &[content, field] : fields) {
+        const StationColumn &column = stationColumns[static_cast<std::size_t>(columnOf(content))];
+        for (const QString &title :
+             {QString(column.identifier), text(column.title), text(column.fullName)}) {
+            if (!title.isEmpty())
+                titles.insert(foldedTitle(title), field);
+        }
+    }
+    return titles;
+}
+
+qsizetype fitOf(const RowTitles &titles, const SeparatedTable &table)
+{
+    const auto isKnown = [&titles](const SeparatedCell &cell) {
+        return titles.contains(foldedTitle(cell.text));
+    };
+    const auto isBlank = [](const SeparatedRow &row) {
+        return std::all_of(row.begin(), row.end(),
+                           [](const SeparatedCell &cell) { return cell.text.trimmed().isEmpty(); });
+    };
+    const auto first = std::find_if_not(table.rows.begin(), table.rows.end(), isBlank);
+    return first == table.rows.end() ? 0 : std::count_if(first->begin(), first->end(), isKnown);
+}
+
+} // namespace
+
+RowTitles titlesFor(const SeparatedTable &table)
+{
+    RowTitles best = titlesBy([](const char *id) { return qtTrId(id); });
+    qsizetype fit = fitOf(best, table);
+    const QDir texts(QStringLiteral(":/i18n"));
+    for (const QString &file : texts.entryList({QStringLiteral("quillet_*.qm")})) {
+        QTranslator translator;
+        if (!translator.load(texts.filePath(file)))
+            continue;
+        RowTitles titles =
+            titlesBy([&translator](const char *id) { return translator.translate(nullptr, id); });
+        if (const qsizetype itsFit = fitOf(titles, table); itsFit > fit) {
+            best = std::move(titles);
+            fit = itsFit;
+        }
+    }
+    return best;
+}
+
+} // namespace quillet

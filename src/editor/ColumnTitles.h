@@ -1,0 +1,12 @@
+#pragma once
+
+#include "document/text/StationRows.h"
+
+namespace quillet {
+
+/// What the columns of a table from another program are called: the titles in the language on show,
+/// or in that other language of the program which fits its first row better, and the identifiers of
+/// columns in any case.
+[[nodiscard]] RowTitles titlesFor(const SeparatedTable &table);
+
+} // namespace quillet

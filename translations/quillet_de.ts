@@ -298,9 +298,129 @@
         <source></source>
         <translation>Typ</translation>
     </message>
+    <message id="kCompareAllLists">
+        <source></source>
+        <translation>Alle Listen</translation>
+    </message>
+    <message id="kCompareApply">
+        <source></source>
+        <translation>Anwenden</translation>
+    </message>
+    <message id="kCompareDifference">
+        <source></source>
+        <translation>Unterschied</translation>
+    </message>
+    <message id="kCompareEmpty">
+        <source></source>
+        <translation>Es gibt keinen Unterschied.</translation>
+    </message>
+    <message id="kCompareFailed">
+        <source></source>
+        <translation>„%1“ enthält keine Liste zum Vergleichen.</translation>
+    </message>
     <message id="kCompareFailedReason">
         <source></source>
         <translation>Der Datenträger hat nicht gespeichert, was geschrieben wurde. Er ist möglicherweise voll oder beschädigt.</translation>
+    </message>
+    <message id="kCompareFields">
+        <source></source>
+        <translation>Andere Angaben</translation>
+    </message>
+    <message id="kCompareFileTitle">
+        <source></source>
+        <translation>Vergleichen mit</translation>
+    </message>
+    <message id="kCompareFitsNothing">
+        <source></source>
+        <translation>Passt zu keinem Sender</translation>
+    </message>
+    <message id="kCompareFlags">
+        <source></source>
+        <translation>Überspringen, Sperre</translation>
+    </message>
+    <message id="kCompareList">
+        <source></source>
+        <translation>Liste</translation>
+    </message>
+    <message id="kCompareMoved">
+        <source></source>
+        <translation>Andere Nummer</translation>
+    </message>
+    <message id="kCompareNameRead">
+        <source></source>
+        <translation>%1 (wie gelesen)</translation>
+    </message>
+    <message id="kCompareNameThere">
+        <source></source>
+        <translation>Name dort</translation>
+    </message>
+    <message id="kCompareNameVersion">
+        <source></source>
+        <translation>%1 vom %2</translation>
+    </message>
+    <message id="kCompareNoneShown">
+        <source></source>
+        <translation>Kein Sender ist von einer oben angekreuzten Art oder passt zur Suche.</translation>
+    </message>
+    <message id="kCompareNoSuchDifference">
+        <source></source>
+        <translation>Darin unterscheidet sich nichts</translation>
+    </message>
+    <message id="kCompareNumberNew">
+        <source></source>
+        <translation>Neue Nr.</translation>
+    </message>
+    <message id="kCompareNumberThere">
+        <source></source>
+        <translation>Nr. dort</translation>
+    </message>
+    <message id="kCompareOnlyHere">
+        <source></source>
+        <translation>Nur hier</translation>
+    </message>
+    <message id="kCompareOnlyThere">
+        <source></source>
+        <translation>Nur dort</translation>
+    </message>
+    <message id="kComparePaste">
+        <source></source>
+        <translation>Einfügen</translation>
+    </message>
+    <message id="kCompareRenamed">
+        <source></source>
+        <translation>Anderer Name</translation>
+    </message>
+    <message id="kCompareSame">
+        <source></source>
+        <translation>Gleich</translation>
+    </message>
+    <message id="kCompareTable">
+        <source></source>
+        <translation>Verglichene Sender</translation>
+    </message>
+    <message id="kCompareTake">
+        <source></source>
+        <translation>Übernehmen</translation>
+    </message>
+    <message id="kCompareTitle">
+        <source></source>
+        <translation>Vergleich mit „%1“</translation>
+    </message>
+    <message id="kCompareTitleImport">
+        <source></source>
+        <translation>Änderungen aus „%1“</translation>
+    </message>
+    <message id="kCompareTitleOrder">
+        <source></source>
+        <translation>Reihenfolge von „%1“</translation>
+    </message>
+    <message id="kCompareTitlePaste">
+        <source></source>
+        <translation>Einzufügende Sender</translation>
+    </message>
+    <message id="kCompareToTheEnd">
+        <source></source>
+        <translation>Kommt ans Ende</translation>
     </message>
     <message id="kContentUnknownReason">
         <source></source>
@@ -914,6 +1034,18 @@
         <source></source>
         <translation>S&amp;palten</translation>
     </message>
+    <message id="kMenuCompare">
+        <source></source>
+        <translation>Vergleichen &amp;mit</translation>
+    </message>
+    <message id="kMenuCompareFile">
+        <source></source>
+        <translation>Anderer &amp;Liste …</translation>
+    </message>
+    <message id="kMenuCompareRead">
+        <source></source>
+        <translation>Datei, wie sie &amp;gelesen wurde</translation>
+    </message>
     <message id="kMenuCopy">
         <source></source>
         <translation>Ko&amp;pieren</translation>
@@ -1347,9 +1479,77 @@
         <source></source>
         <translation>Die Zugriffsrechte der Datei konnten nicht beibehalten werden: %1</translation>
     </message>
+    <message id="kPreviewDoubled" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n Nummer würde doppelt vergeben.</numerusform>
+            <numerusform>%n Nummern würden doppelt vergeben.</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewLocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n anders gesperrt</numerusform>
+            <numerusform>%n anders gesperrt</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewMoved" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n Sender bekommt eine andere Nummer oder Stelle</numerusform>
+            <numerusform>%n Sender bekommen eine andere Nummer oder Stelle</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewNothing">
+        <source></source>
+        <translation>Es würde sich nichts ändern.</translation>
+    </message>
     <message id="kPreviewOrder">
         <source></source>
         <translation>Vorschau …</translation>
+    </message>
+    <message id="kPreviewOrderCounts">
+        <source></source>
+        <translation>Gefundene Sender: %1. Kommen ans Ende: %2. Einträge ohne passenden Sender: %3.</translation>
+    </message>
+    <message id="kPreviewPaste" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n angekreuzter Sender kommt hierher.</numerusform>
+            <numerusform>%n angekreuzte Sender kommen hierher.</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewRenamed" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n wird umbenannt</numerusform>
+            <numerusform>%n werden umbenannt</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewSelected">
+        <source></source>
+        <translation>Nur ausgewählte: %1</translation>
+    </message>
+    <message id="kPreviewSkipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n anders übersprungen</numerusform>
+            <numerusform>%n anders übersprungen</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewToTheEnd" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n Sender, dessen Nummer vergeben wird, kommt ans Ende: %1.</numerusform>
+            <numerusform>%n Sender, deren Nummern vergeben werden, kommen ans Ende: %1.</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewUnsure" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n unsichere Zeile ist nicht angekreuzt.</numerusform>
+            <numerusform>%n unsichere Zeilen sind nicht angekreuzt.</numerusform>
+        </translation>
     </message>
     <message id="kPrintedFiltered">
         <source></source>
@@ -1589,6 +1789,62 @@
             <numerusform>%n Sender hinter einer beschädigten Stelle der Datei wurden nie gelesen und wären verloren.</numerusform>
         </translation>
     </message>
+    <message id="kRowByName">
+        <source></source>
+        <translation>am Namen erkannt</translation>
+    </message>
+    <message id="kRowElsewhere">
+        <source></source>
+        <translation>dort in einer anderen Liste</translation>
+    </message>
+    <message id="kRowFields">
+        <source></source>
+        <translation>andere Angaben</translation>
+    </message>
+    <message id="kRowFitsNothing">
+        <source></source>
+        <translation>passt zu keinem Sender</translation>
+    </message>
+    <message id="kRowLockedHere">
+        <source></source>
+        <translation>dort nicht gesperrt</translation>
+    </message>
+    <message id="kRowLockedThere">
+        <source></source>
+        <translation>dort gesperrt</translation>
+    </message>
+    <message id="kRowLoose">
+        <source></source>
+        <translation>unsicher: nur der Name ist ähnlich</translation>
+    </message>
+    <message id="kRowMoved">
+        <source></source>
+        <translation>andere Nummer</translation>
+    </message>
+    <message id="kRowOnlyHere">
+        <source></source>
+        <translation>nur hier</translation>
+    </message>
+    <message id="kRowOnlyThere">
+        <source></source>
+        <translation>nur dort</translation>
+    </message>
+    <message id="kRowRenamed">
+        <source></source>
+        <translation>anderer Name</translation>
+    </message>
+    <message id="kRowSkippedHere">
+        <source></source>
+        <translation>dort nicht übersprungen</translation>
+    </message>
+    <message id="kRowSkippedThere">
+        <source></source>
+        <translation>dort übersprungen</translation>
+    </message>
+    <message id="kRowToTheEnd">
+        <source></source>
+        <translation>kommt ans Ende</translation>
+    </message>
     <message id="kSatellite">
         <source></source>
         <translation>Satellit</translation>
@@ -1775,6 +2031,34 @@ Diese folgen ab Nummer: %3</translation>
             <numerusform>Aufheben des Überspringens von %n Sendern</numerusform>
         </translation>
     </message>
+    <message id="kTakeLocked">
+        <source></source>
+        <translation>Kindersicherung</translation>
+    </message>
+    <message id="kTakeNames">
+        <source></source>
+        <translation>Namen</translation>
+    </message>
+    <message id="kTakeNumbers">
+        <source></source>
+        <translation>Nummern und Reihenfolge</translation>
+    </message>
+    <message id="kTakeOver">
+        <source></source>
+        <translation>Übernehmen:</translation>
+    </message>
+    <message id="kTakeOverAll">
+        <source></source>
+        <translation>Alle übernehmen</translation>
+    </message>
+    <message id="kTakeOverSelected">
+        <source></source>
+        <translation>Ausgewählte übernehmen</translation>
+    </message>
+    <message id="kTakeSkipped">
+        <source></source>
+        <translation>Überspringen</translation>
+    </message>
     <message id="kTipAtBottom">
         <source></source>
         <translation>Die ausgewählten Sender stehen schon am Ende</translation>
@@ -1835,6 +2119,10 @@ Diese folgen ab Nummer: %3</translation>
         <source></source>
         <translation>In dieser Richtung gibt es keinen weiteren Schritt</translation>
     </message>
+    <message id="kTipNotRead">
+        <source></source>
+        <translation>Seit die Liste gelesen wurde, hat sich nichts geändert</translation>
+    </message>
     <message id="kTipNotTold">
         <source></source>
         <translation>Die Datei enthält diese Angabe zu diesen Sendern nicht</translation>
@@ -1858,6 +2146,10 @@ Diese folgen ab Nummer: %3</translation>
     <message id="kTipSelectTwo">
         <source></source>
         <translation>Wählen Sie zuerst genau zwei Sender aus</translation>
+    </message>
+    <message id="kTipTakeSelected">
+        <source></source>
+        <translation>Keine ausgewählte Zeile ist angekreuzt, oder sie ändern nichts</translation>
     </message>
     <message id="kTipTooFew">
         <source></source>
@@ -2103,6 +2395,10 @@ Diese folgen ab Nummer: %3</translation>
     <message id="kUsualColumns">
         <source></source>
         <translation>Übliche Spalten</translation>
+    </message>
+    <message id="kVersionCompare">
+        <source></source>
+        <translation>Vergleichen …</translation>
     </message>
     <message id="kVersionDamaged">
         <source></source>

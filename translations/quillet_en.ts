@@ -298,9 +298,129 @@
         <source></source>
         <translation>Type</translation>
     </message>
+    <message id="kCompareAllLists">
+        <source></source>
+        <translation>All lists</translation>
+    </message>
+    <message id="kCompareApply">
+        <source></source>
+        <translation>Apply</translation>
+    </message>
+    <message id="kCompareDifference">
+        <source></source>
+        <translation>Difference</translation>
+    </message>
+    <message id="kCompareEmpty">
+        <source></source>
+        <translation>Nothing differs.</translation>
+    </message>
+    <message id="kCompareFailed">
+        <source></source>
+        <translation>“%1” holds no list to compare with.</translation>
+    </message>
     <message id="kCompareFailedReason">
         <source></source>
         <translation>The disk did not store what was written. It may be full or damaged.</translation>
+    </message>
+    <message id="kCompareFields">
+        <source></source>
+        <translation>Other details</translation>
+    </message>
+    <message id="kCompareFileTitle">
+        <source></source>
+        <translation>Compare With</translation>
+    </message>
+    <message id="kCompareFitsNothing">
+        <source></source>
+        <translation>Fits no station</translation>
+    </message>
+    <message id="kCompareFlags">
+        <source></source>
+        <translation>Skip or lock</translation>
+    </message>
+    <message id="kCompareList">
+        <source></source>
+        <translation>List</translation>
+    </message>
+    <message id="kCompareMoved">
+        <source></source>
+        <translation>Other number</translation>
+    </message>
+    <message id="kCompareNameRead">
+        <source></source>
+        <translation>%1 (as it was read)</translation>
+    </message>
+    <message id="kCompareNameThere">
+        <source></source>
+        <translation>Name there</translation>
+    </message>
+    <message id="kCompareNameVersion">
+        <source></source>
+        <translation>%1 of %2</translation>
+    </message>
+    <message id="kCompareNoneShown">
+        <source></source>
+        <translation>No station is of a kind that is checked above, or fits the search.</translation>
+    </message>
+    <message id="kCompareNoSuchDifference">
+        <source></source>
+        <translation>Nothing of this differs</translation>
+    </message>
+    <message id="kCompareNumberNew">
+        <source></source>
+        <translation>New no.</translation>
+    </message>
+    <message id="kCompareNumberThere">
+        <source></source>
+        <translation>No. there</translation>
+    </message>
+    <message id="kCompareOnlyHere">
+        <source></source>
+        <translation>Only here</translation>
+    </message>
+    <message id="kCompareOnlyThere">
+        <source></source>
+        <translation>Only there</translation>
+    </message>
+    <message id="kComparePaste">
+        <source></source>
+        <translation>Paste</translation>
+    </message>
+    <message id="kCompareRenamed">
+        <source></source>
+        <translation>Other name</translation>
+    </message>
+    <message id="kCompareSame">
+        <source></source>
+        <translation>Same</translation>
+    </message>
+    <message id="kCompareTable">
+        <source></source>
+        <translation>Compared stations</translation>
+    </message>
+    <message id="kCompareTake">
+        <source></source>
+        <translation>Take over</translation>
+    </message>
+    <message id="kCompareTitle">
+        <source></source>
+        <translation>Comparison with “%1”</translation>
+    </message>
+    <message id="kCompareTitleImport">
+        <source></source>
+        <translation>Changes from “%1”</translation>
+    </message>
+    <message id="kCompareTitleOrder">
+        <source></source>
+        <translation>Order of “%1”</translation>
+    </message>
+    <message id="kCompareTitlePaste">
+        <source></source>
+        <translation>Stations to Paste</translation>
+    </message>
+    <message id="kCompareToTheEnd">
+        <source></source>
+        <translation>Goes to the end</translation>
     </message>
     <message id="kContentUnknownReason">
         <source></source>
@@ -914,6 +1034,18 @@
         <source></source>
         <translation>Colu&amp;mns</translation>
     </message>
+    <message id="kMenuCompare">
+        <source></source>
+        <translation>Co&amp;mpare With</translation>
+    </message>
+    <message id="kMenuCompareFile">
+        <source></source>
+        <translation>Another &amp;List…</translation>
+    </message>
+    <message id="kMenuCompareRead">
+        <source></source>
+        <translation>File as It Was &amp;Read</translation>
+    </message>
     <message id="kMenuCopy">
         <source></source>
         <translation>&amp;Copy</translation>
@@ -1347,9 +1479,77 @@
         <source></source>
         <translation>The file’s access permissions could not be kept: %1</translation>
     </message>
+    <message id="kPreviewDoubled" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n number would be given twice.</numerusform>
+            <numerusform>%n numbers would be given twice.</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewLocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n other child lock</numerusform>
+            <numerusform>%n other child locks</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewMoved" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n station gets another number or place</numerusform>
+            <numerusform>%n stations get another number or place</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewNothing">
+        <source></source>
+        <translation>Nothing would change.</translation>
+    </message>
     <message id="kPreviewOrder">
         <source></source>
         <translation>Preview…</translation>
+    </message>
+    <message id="kPreviewOrderCounts">
+        <source></source>
+        <translation>Stations found: %1. Go to the end: %2. Entries that fit no station: %3.</translation>
+    </message>
+    <message id="kPreviewPaste" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n checked station moves here.</numerusform>
+            <numerusform>%n checked stations move here.</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewRenamed" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n is renamed</numerusform>
+            <numerusform>%n are renamed</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewSelected">
+        <source></source>
+        <translation>Selected only: %1</translation>
+    </message>
+    <message id="kPreviewSkipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n other skip mark</numerusform>
+            <numerusform>%n other skip marks</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewToTheEnd" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n station whose number is taken goes to the end: %1.</numerusform>
+            <numerusform>%n stations whose numbers are taken go to the end: %1.</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewUnsure" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n uncertain row is not checked.</numerusform>
+            <numerusform>%n uncertain rows are not checked.</numerusform>
+        </translation>
     </message>
     <message id="kPrintedFiltered">
         <source></source>
@@ -1589,6 +1789,62 @@
             <numerusform>%n stations behind a damaged place of the file were never read and would be gone.</numerusform>
         </translation>
     </message>
+    <message id="kRowByName">
+        <source></source>
+        <translation>found by its name</translation>
+    </message>
+    <message id="kRowElsewhere">
+        <source></source>
+        <translation>there in another list</translation>
+    </message>
+    <message id="kRowFields">
+        <source></source>
+        <translation>other details</translation>
+    </message>
+    <message id="kRowFitsNothing">
+        <source></source>
+        <translation>fits no station</translation>
+    </message>
+    <message id="kRowLockedHere">
+        <source></source>
+        <translation>not locked there</translation>
+    </message>
+    <message id="kRowLockedThere">
+        <source></source>
+        <translation>locked there</translation>
+    </message>
+    <message id="kRowLoose">
+        <source></source>
+        <translation>uncertain: only the name is alike</translation>
+    </message>
+    <message id="kRowMoved">
+        <source></source>
+        <translation>other number</translation>
+    </message>
+    <message id="kRowOnlyHere">
+        <source></source>
+        <translation>only here</translation>
+    </message>
+    <message id="kRowOnlyThere">
+        <source></source>
+        <translation>only there</translation>
+    </message>
+    <message id="kRowRenamed">
+        <source></source>
+        <translation>other name</translation>
+    </message>
+    <message id="kRowSkippedHere">
+        <source></source>
+        <translation>not skipped there</translation>
+    </message>
+    <message id="kRowSkippedThere">
+        <source></source>
+        <translation>skipped there</translation>
+    </message>
+    <message id="kRowToTheEnd">
+        <source></source>
+        <translation>goes to the end</translation>
+    </message>
     <message id="kSatellite">
         <source></source>
         <translation>Satellite</translation>
@@ -1775,6 +2031,34 @@ These go on from number: %3</translation>
             <numerusform>Unskip of %n Stations</numerusform>
         </translation>
     </message>
+    <message id="kTakeLocked">
+        <source></source>
+        <translation>Child locks</translation>
+    </message>
+    <message id="kTakeNames">
+        <source></source>
+        <translation>Names</translation>
+    </message>
+    <message id="kTakeNumbers">
+        <source></source>
+        <translation>Numbers and order</translation>
+    </message>
+    <message id="kTakeOver">
+        <source></source>
+        <translation>Take over:</translation>
+    </message>
+    <message id="kTakeOverAll">
+        <source></source>
+        <translation>Take Over All</translation>
+    </message>
+    <message id="kTakeOverSelected">
+        <source></source>
+        <translation>Take Over Selected</translation>
+    </message>
+    <message id="kTakeSkipped">
+        <source></source>
+        <translation>Skip marks</translation>
+    </message>
     <message id="kTipAtBottom">
         <source></source>
         <translation>The selected stations are at the bottom already</translation>
@@ -1835,6 +2119,10 @@ These go on from number: %3</translation>
         <source></source>
         <translation>There is no further step in this direction</translation>
     </message>
+    <message id="kTipNotRead">
+        <source></source>
+        <translation>Nothing has changed since the list was read from a file</translation>
+    </message>
     <message id="kTipNotTold">
         <source></source>
         <translation>The file does not tell this of these stations</translation>
@@ -1858,6 +2146,10 @@ These go on from number: %3</translation>
     <message id="kTipSelectTwo">
         <source></source>
         <translation>Select exactly two stations first</translation>
+    </message>
+    <message id="kTipTakeSelected">
+        <source></source>
+        <translation>None of the selected rows is checked, or they change nothing</translation>
     </message>
     <message id="kTipTooFew">
         <source></source>
@@ -2103,6 +2395,10 @@ These go on from number: %3</translation>
     <message id="kUsualColumns">
         <source></source>
         <translation>Usual Columns</translation>
+    </message>
+    <message id="kVersionCompare">
+        <source></source>
+        <translation>Compare…</translation>
     </message>
     <message id="kVersionDamaged">
         <source></source>

@@ -298,9 +298,129 @@
         <source></source>
         <translation>Tipo</translation>
     </message>
+    <message id="kCompareAllLists">
+        <source></source>
+        <translation>Todas las listas</translation>
+    </message>
+    <message id="kCompareApply">
+        <source></source>
+        <translation>Aplicar</translation>
+    </message>
+    <message id="kCompareDifference">
+        <source></source>
+        <translation>Diferencia</translation>
+    </message>
+    <message id="kCompareEmpty">
+        <source></source>
+        <translation>No hay diferencias.</translation>
+    </message>
+    <message id="kCompareFailed">
+        <source></source>
+        <translation>«%1» no contiene ninguna lista con la que comparar.</translation>
+    </message>
     <message id="kCompareFailedReason">
         <source></source>
         <translation>El disco no ha guardado lo que se escribió. Puede que esté lleno o dañado.</translation>
+    </message>
+    <message id="kCompareFields">
+        <source></source>
+        <translation>Otros datos</translation>
+    </message>
+    <message id="kCompareFileTitle">
+        <source></source>
+        <translation>Comparar con</translation>
+    </message>
+    <message id="kCompareFitsNothing">
+        <source></source>
+        <translation>No corresponde a ningún canal</translation>
+    </message>
+    <message id="kCompareFlags">
+        <source></source>
+        <translation>Omitir o bloquear</translation>
+    </message>
+    <message id="kCompareList">
+        <source></source>
+        <translation>Lista</translation>
+    </message>
+    <message id="kCompareMoved">
+        <source></source>
+        <translation>Otro número</translation>
+    </message>
+    <message id="kCompareNameRead">
+        <source></source>
+        <translation>%1 (tal como se leyó)</translation>
+    </message>
+    <message id="kCompareNameThere">
+        <source></source>
+        <translation>Nombre allí</translation>
+    </message>
+    <message id="kCompareNameVersion">
+        <source></source>
+        <translation>%1 del %2</translation>
+    </message>
+    <message id="kCompareNoneShown">
+        <source></source>
+        <translation>Ningún canal es de un tipo marcado arriba o corresponde a la búsqueda.</translation>
+    </message>
+    <message id="kCompareNoSuchDifference">
+        <source></source>
+        <translation>Nada de esto difiere</translation>
+    </message>
+    <message id="kCompareNumberNew">
+        <source></source>
+        <translation>N.º nuevo</translation>
+    </message>
+    <message id="kCompareNumberThere">
+        <source></source>
+        <translation>N.º allí</translation>
+    </message>
+    <message id="kCompareOnlyHere">
+        <source></source>
+        <translation>Solo aquí</translation>
+    </message>
+    <message id="kCompareOnlyThere">
+        <source></source>
+        <translation>Solo allí</translation>
+    </message>
+    <message id="kComparePaste">
+        <source></source>
+        <translation>Pegar</translation>
+    </message>
+    <message id="kCompareRenamed">
+        <source></source>
+        <translation>Otro nombre</translation>
+    </message>
+    <message id="kCompareSame">
+        <source></source>
+        <translation>Iguales</translation>
+    </message>
+    <message id="kCompareTable">
+        <source></source>
+        <translation>Canales comparados</translation>
+    </message>
+    <message id="kCompareTake">
+        <source></source>
+        <translation>Adoptar</translation>
+    </message>
+    <message id="kCompareTitle">
+        <source></source>
+        <translation>Comparación con «%1»</translation>
+    </message>
+    <message id="kCompareTitleImport">
+        <source></source>
+        <translation>Cambios de «%1»</translation>
+    </message>
+    <message id="kCompareTitleOrder">
+        <source></source>
+        <translation>Orden de «%1»</translation>
+    </message>
+    <message id="kCompareTitlePaste">
+        <source></source>
+        <translation>Canales por pegar</translation>
+    </message>
+    <message id="kCompareToTheEnd">
+        <source></source>
+        <translation>Va al final</translation>
     </message>
     <message id="kContentUnknownReason">
         <source></source>
@@ -914,6 +1034,18 @@
         <source></source>
         <translation>Colu&amp;mnas</translation>
     </message>
+    <message id="kMenuCompare">
+        <source></source>
+        <translation>Co&amp;mparar con</translation>
+    </message>
+    <message id="kMenuCompareFile">
+        <source></source>
+        <translation>Otra &amp;lista…</translation>
+    </message>
+    <message id="kMenuCompareRead">
+        <source></source>
+        <translation>Archivo tal como se &amp;leyó</translation>
+    </message>
     <message id="kMenuCopy">
         <source></source>
         <translation>Co&amp;piar</translation>
@@ -1347,9 +1479,77 @@
         <source></source>
         <translation>No se han podido conservar los permisos de acceso del archivo: %1</translation>
     </message>
+    <message id="kPreviewDoubled" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n número se daría dos veces.</numerusform>
+            <numerusform>%n números se darían dos veces.</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewLocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n bloqueo distinto</numerusform>
+            <numerusform>%n bloqueos distintos</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewMoved" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canal recibe otro número o lugar</numerusform>
+            <numerusform>%n canales reciben otro número o lugar</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewNothing">
+        <source></source>
+        <translation>No cambiaría nada.</translation>
+    </message>
     <message id="kPreviewOrder">
         <source></source>
         <translation>Vista previa…</translation>
+    </message>
+    <message id="kPreviewOrderCounts">
+        <source></source>
+        <translation>Canales encontrados: %1. Van al final: %2. Entradas sin canal: %3.</translation>
+    </message>
+    <message id="kPreviewPaste" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canal marcado pasa aquí.</numerusform>
+            <numerusform>%n canales marcados pasan aquí.</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewRenamed" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n cambia de nombre</numerusform>
+            <numerusform>%n cambian de nombre</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewSelected">
+        <source></source>
+        <translation>Solo lo seleccionado: %1</translation>
+    </message>
+    <message id="kPreviewSkipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n marca de omisión distinta</numerusform>
+            <numerusform>%n marcas de omisión distintas</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewToTheEnd" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canal cuyo número se ocupa va al final: %1.</numerusform>
+            <numerusform>%n canales cuyos números se ocupan van al final: %1.</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewUnsure" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n fila incierta no está marcada.</numerusform>
+            <numerusform>%n filas inciertas no están marcadas.</numerusform>
+        </translation>
     </message>
     <message id="kPrintedFiltered">
         <source></source>
@@ -1589,6 +1789,62 @@
             <numerusform>%n canales situados tras un punto dañado del archivo nunca se leyeron y desaparecerían.</numerusform>
         </translation>
     </message>
+    <message id="kRowByName">
+        <source></source>
+        <translation>hallado por su nombre</translation>
+    </message>
+    <message id="kRowElsewhere">
+        <source></source>
+        <translation>allí en otra lista</translation>
+    </message>
+    <message id="kRowFields">
+        <source></source>
+        <translation>otros datos</translation>
+    </message>
+    <message id="kRowFitsNothing">
+        <source></source>
+        <translation>no corresponde a ningún canal</translation>
+    </message>
+    <message id="kRowLockedHere">
+        <source></source>
+        <translation>no bloqueado allí</translation>
+    </message>
+    <message id="kRowLockedThere">
+        <source></source>
+        <translation>bloqueado allí</translation>
+    </message>
+    <message id="kRowLoose">
+        <source></source>
+        <translation>incierto: solo se parece el nombre</translation>
+    </message>
+    <message id="kRowMoved">
+        <source></source>
+        <translation>otro número</translation>
+    </message>
+    <message id="kRowOnlyHere">
+        <source></source>
+        <translation>solo aquí</translation>
+    </message>
+    <message id="kRowOnlyThere">
+        <source></source>
+        <translation>solo allí</translation>
+    </message>
+    <message id="kRowRenamed">
+        <source></source>
+        <translation>otro nombre</translation>
+    </message>
+    <message id="kRowSkippedHere">
+        <source></source>
+        <translation>no omitido allí</translation>
+    </message>
+    <message id="kRowSkippedThere">
+        <source></source>
+        <translation>omitido allí</translation>
+    </message>
+    <message id="kRowToTheEnd">
+        <source></source>
+        <translation>va al final</translation>
+    </message>
     <message id="kSatellite">
         <source></source>
         <translation>Satélite</translation>
@@ -1775,6 +2031,34 @@ Estos continúan a partir del número: %3</translation>
             <numerusform>Fin de la omisión de %n canales</numerusform>
         </translation>
     </message>
+    <message id="kTakeLocked">
+        <source></source>
+        <translation>Bloqueos</translation>
+    </message>
+    <message id="kTakeNames">
+        <source></source>
+        <translation>Nombres</translation>
+    </message>
+    <message id="kTakeNumbers">
+        <source></source>
+        <translation>Números y orden</translation>
+    </message>
+    <message id="kTakeOver">
+        <source></source>
+        <translation>Adoptar:</translation>
+    </message>
+    <message id="kTakeOverAll">
+        <source></source>
+        <translation>Adoptar todos</translation>
+    </message>
+    <message id="kTakeOverSelected">
+        <source></source>
+        <translation>Adoptar seleccionados</translation>
+    </message>
+    <message id="kTakeSkipped">
+        <source></source>
+        <translation>Omisiones</translation>
+    </message>
     <message id="kTipAtBottom">
         <source></source>
         <translation>Los canales seleccionados ya están al final</translation>
@@ -1835,6 +2119,10 @@ Estos continúan a partir del número: %3</translation>
         <source></source>
         <translation>No hay más pasos en esta dirección</translation>
     </message>
+    <message id="kTipNotRead">
+        <source></source>
+        <translation>Nada ha cambiado desde que se leyó la lista</translation>
+    </message>
     <message id="kTipNotTold">
         <source></source>
         <translation>El archivo no indica este dato de estos canales</translation>
@@ -1858,6 +2146,10 @@ Estos continúan a partir del número: %3</translation>
     <message id="kTipSelectTwo">
         <source></source>
         <translation>Seleccione primero exactamente dos canales</translation>
+    </message>
+    <message id="kTipTakeSelected">
+        <source></source>
+        <translation>Ninguna fila seleccionada está marcada, o no cambian nada</translation>
     </message>
     <message id="kTipTooFew">
         <source></source>
@@ -2103,6 +2395,10 @@ Estos continúan a partir del número: %3</translation>
     <message id="kUsualColumns">
         <source></source>
         <translation>Columnas habituales</translation>
+    </message>
+    <message id="kVersionCompare">
+        <source></source>
+        <translation>Comparar…</translation>
     </message>
     <message id="kVersionDamaged">
         <source></source>

@@ -298,9 +298,129 @@
         <source></source>
         <translation>Type</translation>
     </message>
+    <message id="kCompareAllLists">
+        <source></source>
+        <translation>Toutes les listes</translation>
+    </message>
+    <message id="kCompareApply">
+        <source></source>
+        <translation>Appliquer</translation>
+    </message>
+    <message id="kCompareDifference">
+        <source></source>
+        <translation>Différence</translation>
+    </message>
+    <message id="kCompareEmpty">
+        <source></source>
+        <translation>Il n’y a aucune différence.</translation>
+    </message>
+    <message id="kCompareFailed">
+        <source></source>
+        <translation>« %1 » ne contient aucune liste à comparer.</translation>
+    </message>
     <message id="kCompareFailedReason">
         <source></source>
         <translation>Le disque n’a pas conservé ce qui a été écrit. Il est peut-être plein ou endommagé.</translation>
+    </message>
+    <message id="kCompareFields">
+        <source></source>
+        <translation>Autres indications</translation>
+    </message>
+    <message id="kCompareFileTitle">
+        <source></source>
+        <translation>Comparer avec</translation>
+    </message>
+    <message id="kCompareFitsNothing">
+        <source></source>
+        <translation>Ne correspond à rien</translation>
+    </message>
+    <message id="kCompareFlags">
+        <source></source>
+        <translation>Ignorer ou verrouiller</translation>
+    </message>
+    <message id="kCompareList">
+        <source></source>
+        <translation>Liste</translation>
+    </message>
+    <message id="kCompareMoved">
+        <source></source>
+        <translation>Autre numéro</translation>
+    </message>
+    <message id="kCompareNameRead">
+        <source></source>
+        <translation>%1 (tel que lu)</translation>
+    </message>
+    <message id="kCompareNameThere">
+        <source></source>
+        <translation>Nom là-bas</translation>
+    </message>
+    <message id="kCompareNameVersion">
+        <source></source>
+        <translation>%1 du %2</translation>
+    </message>
+    <message id="kCompareNoneShown">
+        <source></source>
+        <translation>Aucune chaîne n’est d’un type coché ci-dessus ni ne correspond à la recherche.</translation>
+    </message>
+    <message id="kCompareNoSuchDifference">
+        <source></source>
+        <translation>Rien de cela ne diffère</translation>
+    </message>
+    <message id="kCompareNumberNew">
+        <source></source>
+        <translation>Nouveau n°</translation>
+    </message>
+    <message id="kCompareNumberThere">
+        <source></source>
+        <translation>N° là-bas</translation>
+    </message>
+    <message id="kCompareOnlyHere">
+        <source></source>
+        <translation>Seulement ici</translation>
+    </message>
+    <message id="kCompareOnlyThere">
+        <source></source>
+        <translation>Seulement là-bas</translation>
+    </message>
+    <message id="kComparePaste">
+        <source></source>
+        <translation>Coller</translation>
+    </message>
+    <message id="kCompareRenamed">
+        <source></source>
+        <translation>Autre nom</translation>
+    </message>
+    <message id="kCompareSame">
+        <source></source>
+        <translation>Identiques</translation>
+    </message>
+    <message id="kCompareTable">
+        <source></source>
+        <translation>Chaînes comparées</translation>
+    </message>
+    <message id="kCompareTake">
+        <source></source>
+        <translation>Reprendre</translation>
+    </message>
+    <message id="kCompareTitle">
+        <source></source>
+        <translation>Comparaison avec « %1 »</translation>
+    </message>
+    <message id="kCompareTitleImport">
+        <source></source>
+        <translation>Modifications de « %1 »</translation>
+    </message>
+    <message id="kCompareTitleOrder">
+        <source></source>
+        <translation>Ordre de « %1 »</translation>
+    </message>
+    <message id="kCompareTitlePaste">
+        <source></source>
+        <translation>Chaînes à coller</translation>
+    </message>
+    <message id="kCompareToTheEnd">
+        <source></source>
+        <translation>Va à la fin</translation>
     </message>
     <message id="kContentUnknownReason">
         <source></source>
@@ -914,6 +1034,18 @@
         <source></source>
         <translation>Colo&amp;nnes</translation>
     </message>
+    <message id="kMenuCompare">
+        <source></source>
+        <translation>Co&amp;mparer avec</translation>
+    </message>
+    <message id="kMenuCompareFile">
+        <source></source>
+        <translation>Autre &amp;liste…</translation>
+    </message>
+    <message id="kMenuCompareRead">
+        <source></source>
+        <translation>Fichier tel qu’il a été l&amp;u</translation>
+    </message>
     <message id="kMenuCopy">
         <source></source>
         <translation>&amp;Copier</translation>
@@ -1347,9 +1479,77 @@
         <source></source>
         <translation>Impossible de conserver les droits d’accès du fichier : %1</translation>
     </message>
+    <message id="kPreviewDoubled" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n numéro serait donné deux fois.</numerusform>
+            <numerusform>%n numéros seraient donnés deux fois.</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewLocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n autre verrouillage</numerusform>
+            <numerusform>%n autres verrouillages</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewMoved" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n chaîne reçoit un autre numéro ou une autre place</numerusform>
+            <numerusform>%n chaînes reçoivent un autre numéro ou une autre place</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewNothing">
+        <source></source>
+        <translation>Rien ne changerait.</translation>
+    </message>
     <message id="kPreviewOrder">
         <source></source>
         <translation>Aperçu…</translation>
+    </message>
+    <message id="kPreviewOrderCounts">
+        <source></source>
+        <translation>Chaînes trouvées : %1. Vont à la fin : %2. Entrées sans chaîne : %3.</translation>
+    </message>
+    <message id="kPreviewPaste" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n chaîne cochée vient ici.</numerusform>
+            <numerusform>%n chaînes cochées viennent ici.</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewRenamed" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n est renommée</numerusform>
+            <numerusform>%n sont renommées</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewSelected">
+        <source></source>
+        <translation>Sélection seule : %1</translation>
+    </message>
+    <message id="kPreviewSkipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n autre marque « ignorer »</numerusform>
+            <numerusform>%n autres marques « ignorer »</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewToTheEnd" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n chaîne dont le numéro est pris va à la fin : %1.</numerusform>
+            <numerusform>%n chaînes dont les numéros sont pris vont à la fin : %1.</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewUnsure" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n ligne incertaine n’est pas cochée.</numerusform>
+            <numerusform>%n lignes incertaines ne sont pas cochées.</numerusform>
+        </translation>
     </message>
     <message id="kPrintedFiltered">
         <source></source>
@@ -1589,6 +1789,62 @@
             <numerusform>%n chaînes situées après un endroit endommagé du fichier n’ont jamais été lues et disparaîtraient.</numerusform>
         </translation>
     </message>
+    <message id="kRowByName">
+        <source></source>
+        <translation>trouvée par son nom</translation>
+    </message>
+    <message id="kRowElsewhere">
+        <source></source>
+        <translation>là-bas dans une autre liste</translation>
+    </message>
+    <message id="kRowFields">
+        <source></source>
+        <translation>autres indications</translation>
+    </message>
+    <message id="kRowFitsNothing">
+        <source></source>
+        <translation>ne correspond à aucune chaîne</translation>
+    </message>
+    <message id="kRowLockedHere">
+        <source></source>
+        <translation>non verrouillée là-bas</translation>
+    </message>
+    <message id="kRowLockedThere">
+        <source></source>
+        <translation>verrouillée là-bas</translation>
+    </message>
+    <message id="kRowLoose">
+        <source></source>
+        <translation>incertain : seul le nom se ressemble</translation>
+    </message>
+    <message id="kRowMoved">
+        <source></source>
+        <translation>autre numéro</translation>
+    </message>
+    <message id="kRowOnlyHere">
+        <source></source>
+        <translation>seulement ici</translation>
+    </message>
+    <message id="kRowOnlyThere">
+        <source></source>
+        <translation>seulement là-bas</translation>
+    </message>
+    <message id="kRowRenamed">
+        <source></source>
+        <translation>autre nom</translation>
+    </message>
+    <message id="kRowSkippedHere">
+        <source></source>
+        <translation>non ignorée là-bas</translation>
+    </message>
+    <message id="kRowSkippedThere">
+        <source></source>
+        <translation>ignorée là-bas</translation>
+    </message>
+    <message id="kRowToTheEnd">
+        <source></source>
+        <translation>va à la fin</translation>
+    </message>
     <message id="kSatellite">
         <source></source>
         <translation>Satellite</translation>
@@ -1775,6 +2031,34 @@ Ces dernières suivent à partir du numéro : %3</translation>
             <numerusform>« Ne plus ignorer » pour %n chaînes</numerusform>
         </translation>
     </message>
+    <message id="kTakeLocked">
+        <source></source>
+        <translation>Verrouillages</translation>
+    </message>
+    <message id="kTakeNames">
+        <source></source>
+        <translation>Noms</translation>
+    </message>
+    <message id="kTakeNumbers">
+        <source></source>
+        <translation>Numéros et ordre</translation>
+    </message>
+    <message id="kTakeOver">
+        <source></source>
+        <translation>Reprendre :</translation>
+    </message>
+    <message id="kTakeOverAll">
+        <source></source>
+        <translation>Tout reprendre</translation>
+    </message>
+    <message id="kTakeOverSelected">
+        <source></source>
+        <translation>Reprendre la sélection</translation>
+    </message>
+    <message id="kTakeSkipped">
+        <source></source>
+        <translation>Marques « ignorer »</translation>
+    </message>
     <message id="kTipAtBottom">
         <source></source>
         <translation>Les chaînes sélectionnées sont déjà tout en bas</translation>
@@ -1835,6 +2119,10 @@ Ces dernières suivent à partir du numéro : %3</translation>
         <source></source>
         <translation>Il n’y a pas d’autre étape dans ce sens</translation>
     </message>
+    <message id="kTipNotRead">
+        <source></source>
+        <translation>Rien n’a changé depuis la lecture de la liste</translation>
+    </message>
     <message id="kTipNotTold">
         <source></source>
         <translation>Le fichier n’indique pas cette information pour ces chaînes</translation>
@@ -1858,6 +2146,10 @@ Ces dernières suivent à partir du numéro : %3</translation>
     <message id="kTipSelectTwo">
         <source></source>
         <translation>Sélectionnez d’abord exactement deux chaînes</translation>
+    </message>
+    <message id="kTipTakeSelected">
+        <source></source>
+        <translation>Aucune ligne sélectionnée n’est cochée, ou elles ne changent rien</translation>
     </message>
     <message id="kTipTooFew">
         <source></source>
@@ -2103,6 +2395,10 @@ Ces dernières suivent à partir du numéro : %3</translation>
     <message id="kUsualColumns">
         <source></source>
         <translation>Colonnes habituelles</translation>
+    </message>
+    <message id="kVersionCompare">
+        <source></source>
+        <translation>Comparer…</translation>
     </message>
     <message id="kVersionDamaged">
         <source></source>

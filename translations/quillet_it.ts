@@ -298,9 +298,129 @@
         <source></source>
         <translation>Tipo</translation>
     </message>
+    <message id="kCompareAllLists">
+        <source></source>
+        <translation>Tutti gli elenchi</translation>
+    </message>
+    <message id="kCompareApply">
+        <source></source>
+        <translation>Applica</translation>
+    </message>
+    <message id="kCompareDifference">
+        <source></source>
+        <translation>Differenza</translation>
+    </message>
+    <message id="kCompareEmpty">
+        <source></source>
+        <translation>Non ci sono differenze.</translation>
+    </message>
+    <message id="kCompareFailed">
+        <source></source>
+        <translation>“%1” non contiene alcun elenco da confrontare.</translation>
+    </message>
     <message id="kCompareFailedReason">
         <source></source>
         <translation>Il disco non ha conservato quanto è stato scritto. Potrebbe essere pieno o danneggiato.</translation>
+    </message>
+    <message id="kCompareFields">
+        <source></source>
+        <translation>Altri dati</translation>
+    </message>
+    <message id="kCompareFileTitle">
+        <source></source>
+        <translation>Confronta con</translation>
+    </message>
+    <message id="kCompareFitsNothing">
+        <source></source>
+        <translation>Nessun canale adatto</translation>
+    </message>
+    <message id="kCompareFlags">
+        <source></source>
+        <translation>Salto o blocco</translation>
+    </message>
+    <message id="kCompareList">
+        <source></source>
+        <translation>Elenco</translation>
+    </message>
+    <message id="kCompareMoved">
+        <source></source>
+        <translation>Altro numero</translation>
+    </message>
+    <message id="kCompareNameRead">
+        <source></source>
+        <translation>%1 (come letto)</translation>
+    </message>
+    <message id="kCompareNameThere">
+        <source></source>
+        <translation>Nome là</translation>
+    </message>
+    <message id="kCompareNameVersion">
+        <source></source>
+        <translation>%1 del %2</translation>
+    </message>
+    <message id="kCompareNoneShown">
+        <source></source>
+        <translation>Nessun canale è di un tipo spuntato sopra o corrisponde alla ricerca.</translation>
+    </message>
+    <message id="kCompareNoSuchDifference">
+        <source></source>
+        <translation>In questo nulla differisce</translation>
+    </message>
+    <message id="kCompareNumberNew">
+        <source></source>
+        <translation>Nuovo n.</translation>
+    </message>
+    <message id="kCompareNumberThere">
+        <source></source>
+        <translation>N. là</translation>
+    </message>
+    <message id="kCompareOnlyHere">
+        <source></source>
+        <translation>Solo qui</translation>
+    </message>
+    <message id="kCompareOnlyThere">
+        <source></source>
+        <translation>Solo là</translation>
+    </message>
+    <message id="kComparePaste">
+        <source></source>
+        <translation>Incolla</translation>
+    </message>
+    <message id="kCompareRenamed">
+        <source></source>
+        <translation>Altro nome</translation>
+    </message>
+    <message id="kCompareSame">
+        <source></source>
+        <translation>Uguali</translation>
+    </message>
+    <message id="kCompareTable">
+        <source></source>
+        <translation>Canali confrontati</translation>
+    </message>
+    <message id="kCompareTake">
+        <source></source>
+        <translation>Riprendi</translation>
+    </message>
+    <message id="kCompareTitle">
+        <source></source>
+        <translation>Confronto con “%1”</translation>
+    </message>
+    <message id="kCompareTitleImport">
+        <source></source>
+        <translation>Modifiche da “%1”</translation>
+    </message>
+    <message id="kCompareTitleOrder">
+        <source></source>
+        <translation>Ordine di “%1”</translation>
+    </message>
+    <message id="kCompareTitlePaste">
+        <source></source>
+        <translation>Canali da incollare</translation>
+    </message>
+    <message id="kCompareToTheEnd">
+        <source></source>
+        <translation>Va alla fine</translation>
     </message>
     <message id="kContentUnknownReason">
         <source></source>
@@ -914,6 +1034,18 @@
         <source></source>
         <translation>Colo&amp;nne</translation>
     </message>
+    <message id="kMenuCompare">
+        <source></source>
+        <translation>Con&amp;fronta con</translation>
+    </message>
+    <message id="kMenuCompareFile">
+        <source></source>
+        <translation>Altro &amp;elenco…</translation>
+    </message>
+    <message id="kMenuCompareRead">
+        <source></source>
+        <translation>File come è stato &amp;letto</translation>
+    </message>
     <message id="kMenuCopy">
         <source></source>
         <translation>Co&amp;pia</translation>
@@ -1347,9 +1479,77 @@
         <source></source>
         <translation>Impossibile mantenere i permessi di accesso del file: %1</translation>
     </message>
+    <message id="kPreviewDoubled" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n numero verrebbe assegnato due volte.</numerusform>
+            <numerusform>%n numeri verrebbero assegnati due volte.</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewLocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n blocco diverso</numerusform>
+            <numerusform>%n blocchi diversi</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewMoved" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canale riceve un altro numero o posto</numerusform>
+            <numerusform>%n canali ricevono un altro numero o posto</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewNothing">
+        <source></source>
+        <translation>Non cambierebbe nulla.</translation>
+    </message>
     <message id="kPreviewOrder">
         <source></source>
         <translation>Anteprima…</translation>
+    </message>
+    <message id="kPreviewOrderCounts">
+        <source></source>
+        <translation>Canali trovati: %1. Vanno alla fine: %2. Voci senza canale: %3.</translation>
+    </message>
+    <message id="kPreviewPaste" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canale selezionato viene spostato qui.</numerusform>
+            <numerusform>%n canali selezionati vengono spostati qui.</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewRenamed" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n viene rinominato</numerusform>
+            <numerusform>%n vengono rinominati</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewSelected">
+        <source></source>
+        <translation>Solo la selezione: %1</translation>
+    </message>
+    <message id="kPreviewSkipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n contrassegno di salto diverso</numerusform>
+            <numerusform>%n contrassegni di salto diversi</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewToTheEnd" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canale il cui numero viene occupato va alla fine: %1.</numerusform>
+            <numerusform>%n canali i cui numeri vengono occupati vanno alla fine: %1.</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewUnsure" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n riga incerta non è selezionata.</numerusform>
+            <numerusform>%n righe incerte non sono selezionate.</numerusform>
+        </translation>
     </message>
     <message id="kPrintedFiltered">
         <source></source>
@@ -1589,6 +1789,62 @@
             <numerusform>%n canali dopo un punto danneggiato del file non sono mai stati letti e scomparirebbero.</numerusform>
         </translation>
     </message>
+    <message id="kRowByName">
+        <source></source>
+        <translation>trovato dal nome</translation>
+    </message>
+    <message id="kRowElsewhere">
+        <source></source>
+        <translation>là in un altro elenco</translation>
+    </message>
+    <message id="kRowFields">
+        <source></source>
+        <translation>altri dati</translation>
+    </message>
+    <message id="kRowFitsNothing">
+        <source></source>
+        <translation>non corrisponde ad alcun canale</translation>
+    </message>
+    <message id="kRowLockedHere">
+        <source></source>
+        <translation>non bloccato là</translation>
+    </message>
+    <message id="kRowLockedThere">
+        <source></source>
+        <translation>bloccato là</translation>
+    </message>
+    <message id="kRowLoose">
+        <source></source>
+        <translation>incerto: solo il nome è simile</translation>
+    </message>
+    <message id="kRowMoved">
+        <source></source>
+        <translation>altro numero</translation>
+    </message>
+    <message id="kRowOnlyHere">
+        <source></source>
+        <translation>solo qui</translation>
+    </message>
+    <message id="kRowOnlyThere">
+        <source></source>
+        <translation>solo là</translation>
+    </message>
+    <message id="kRowRenamed">
+        <source></source>
+        <translation>altro nome</translation>
+    </message>
+    <message id="kRowSkippedHere">
+        <source></source>
+        <translation>non saltato là</translation>
+    </message>
+    <message id="kRowSkippedThere">
+        <source></source>
+        <translation>saltato là</translation>
+    </message>
+    <message id="kRowToTheEnd">
+        <source></source>
+        <translation>va alla fine</translation>
+    </message>
     <message id="kSatellite">
         <source></source>
         <translation>Satellite</translation>
@@ -1775,6 +2031,34 @@ Questi proseguono dal numero: %3</translation>
             <numerusform>Fine del salto di %n canali</numerusform>
         </translation>
     </message>
+    <message id="kTakeLocked">
+        <source></source>
+        <translation>Blocchi</translation>
+    </message>
+    <message id="kTakeNames">
+        <source></source>
+        <translation>Nomi</translation>
+    </message>
+    <message id="kTakeNumbers">
+        <source></source>
+        <translation>Numeri e ordine</translation>
+    </message>
+    <message id="kTakeOver">
+        <source></source>
+        <translation>Riprendi:</translation>
+    </message>
+    <message id="kTakeOverAll">
+        <source></source>
+        <translation>Riprendi tutti</translation>
+    </message>
+    <message id="kTakeOverSelected">
+        <source></source>
+        <translation>Riprendi selezionati</translation>
+    </message>
+    <message id="kTakeSkipped">
+        <source></source>
+        <translation>Salti</translation>
+    </message>
     <message id="kTipAtBottom">
         <source></source>
         <translation>I canali selezionati sono già alla fine</translation>
@@ -1835,6 +2119,10 @@ Questi proseguono dal numero: %3</translation>
         <source></source>
         <translation>Non ci sono altri passi in questa direzione</translation>
     </message>
+    <message id="kTipNotRead">
+        <source></source>
+        <translation>Nulla è cambiato da quando l’elenco è stato letto</translation>
+    </message>
     <message id="kTipNotTold">
         <source></source>
         <translation>Il file non indica questo dato per questi canali</translation>
@@ -1858,6 +2146,10 @@ Questi proseguono dal numero: %3</translation>
     <message id="kTipSelectTwo">
         <source></source>
         <translation>Seleziona prima esattamente due canali</translation>
+    </message>
+    <message id="kTipTakeSelected">
+        <source></source>
+        <translation>Nessuna riga selezionata è spuntata, o non cambiano nulla</translation>
     </message>
     <message id="kTipTooFew">
         <source></source>
@@ -2103,6 +2395,10 @@ Questi proseguono dal numero: %3</translation>
     <message id="kUsualColumns">
         <source></source>
         <translation>Colonne abituali</translation>
+    </message>
+    <message id="kVersionCompare">
+        <source></source>
+        <translation>Confronta…</translation>
     </message>
     <message id="kVersionDamaged">
         <source></source>

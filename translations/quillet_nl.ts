@@ -298,9 +298,129 @@
         <source></source>
         <translation>Type</translation>
     </message>
+    <message id="kCompareAllLists">
+        <source></source>
+        <translation>Alle lijsten</translation>
+    </message>
+    <message id="kCompareApply">
+        <source></source>
+        <translation>Toepassen</translation>
+    </message>
+    <message id="kCompareDifference">
+        <source></source>
+        <translation>Verschil</translation>
+    </message>
+    <message id="kCompareEmpty">
+        <source></source>
+        <translation>Er is geen verschil.</translation>
+    </message>
+    <message id="kCompareFailed">
+        <source></source>
+        <translation>“%1” bevat geen lijst om mee te vergelijken.</translation>
+    </message>
     <message id="kCompareFailedReason">
         <source></source>
         <translation>De schijf heeft niet bewaard wat er is geschreven. Mogelijk is de schijf vol of beschadigd.</translation>
+    </message>
+    <message id="kCompareFields">
+        <source></source>
+        <translation>Andere gegevens</translation>
+    </message>
+    <message id="kCompareFileTitle">
+        <source></source>
+        <translation>Vergelijken met</translation>
+    </message>
+    <message id="kCompareFitsNothing">
+        <source></source>
+        <translation>Past bij geen zender</translation>
+    </message>
+    <message id="kCompareFlags">
+        <source></source>
+        <translation>Overslaan of slot</translation>
+    </message>
+    <message id="kCompareList">
+        <source></source>
+        <translation>Lijst</translation>
+    </message>
+    <message id="kCompareMoved">
+        <source></source>
+        <translation>Ander nummer</translation>
+    </message>
+    <message id="kCompareNameRead">
+        <source></source>
+        <translation>%1 (zoals gelezen)</translation>
+    </message>
+    <message id="kCompareNameThere">
+        <source></source>
+        <translation>Naam daar</translation>
+    </message>
+    <message id="kCompareNameVersion">
+        <source></source>
+        <translation>%1 van %2</translation>
+    </message>
+    <message id="kCompareNoneShown">
+        <source></source>
+        <translation>Geen zender is van een hierboven aangevinkte soort of past bij de zoekopdracht.</translation>
+    </message>
+    <message id="kCompareNoSuchDifference">
+        <source></source>
+        <translation>Hierin verschilt niets</translation>
+    </message>
+    <message id="kCompareNumberNew">
+        <source></source>
+        <translation>Nieuw nr.</translation>
+    </message>
+    <message id="kCompareNumberThere">
+        <source></source>
+        <translation>Nr. daar</translation>
+    </message>
+    <message id="kCompareOnlyHere">
+        <source></source>
+        <translation>Alleen hier</translation>
+    </message>
+    <message id="kCompareOnlyThere">
+        <source></source>
+        <translation>Alleen daar</translation>
+    </message>
+    <message id="kComparePaste">
+        <source></source>
+        <translation>Plakken</translation>
+    </message>
+    <message id="kCompareRenamed">
+        <source></source>
+        <translation>Andere naam</translation>
+    </message>
+    <message id="kCompareSame">
+        <source></source>
+        <translation>Gelijk</translation>
+    </message>
+    <message id="kCompareTable">
+        <source></source>
+        <translation>Vergeleken zenders</translation>
+    </message>
+    <message id="kCompareTake">
+        <source></source>
+        <translation>Overnemen</translation>
+    </message>
+    <message id="kCompareTitle">
+        <source></source>
+        <translation>Vergelijking met “%1”</translation>
+    </message>
+    <message id="kCompareTitleImport">
+        <source></source>
+        <translation>Wijzigingen uit “%1”</translation>
+    </message>
+    <message id="kCompareTitleOrder">
+        <source></source>
+        <translation>Volgorde van “%1”</translation>
+    </message>
+    <message id="kCompareTitlePaste">
+        <source></source>
+        <translation>Te plakken zenders</translation>
+    </message>
+    <message id="kCompareToTheEnd">
+        <source></source>
+        <translation>Gaat naar het einde</translation>
     </message>
     <message id="kContentUnknownReason">
         <source></source>
@@ -914,6 +1034,18 @@
         <source></source>
         <translation>Kolo&amp;mmen</translation>
     </message>
+    <message id="kMenuCompare">
+        <source></source>
+        <translation>Vergelijken &amp;met</translation>
+    </message>
+    <message id="kMenuCompareFile">
+        <source></source>
+        <translation>Andere &amp;lijst…</translation>
+    </message>
+    <message id="kMenuCompareRead">
+        <source></source>
+        <translation>Bestand zoals het is &amp;gelezen</translation>
+    </message>
     <message id="kMenuCopy">
         <source></source>
         <translation>Kopië&amp;ren</translation>
@@ -1347,9 +1479,77 @@
         <source></source>
         <translation>De toegangsrechten van het bestand konden niet worden behouden: %1</translation>
     </message>
+    <message id="kPreviewDoubled" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n nummer zou dubbel worden gegeven.</numerusform>
+            <numerusform>%n nummers zouden dubbel worden gegeven.</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewLocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n ander kinderslot</numerusform>
+            <numerusform>%n andere kindersloten</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewMoved" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n zender krijgt een ander nummer of een andere plaats</numerusform>
+            <numerusform>%n zenders krijgen een ander nummer of een andere plaats</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewNothing">
+        <source></source>
+        <translation>Er zou niets veranderen.</translation>
+    </message>
     <message id="kPreviewOrder">
         <source></source>
         <translation>Voorbeeld…</translation>
+    </message>
+    <message id="kPreviewOrderCounts">
+        <source></source>
+        <translation>Gevonden zenders: %1. Gaan naar het einde: %2. Regels zonder passende zender: %3.</translation>
+    </message>
+    <message id="kPreviewPaste" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n aangevinkte zender komt hierheen.</numerusform>
+            <numerusform>%n aangevinkte zenders komen hierheen.</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewRenamed" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n krijgt een andere naam</numerusform>
+            <numerusform>%n krijgen een andere naam</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewSelected">
+        <source></source>
+        <translation>Alleen de selectie: %1</translation>
+    </message>
+    <message id="kPreviewSkipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n andere overslaanmarkering</numerusform>
+            <numerusform>%n andere overslaanmarkeringen</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewToTheEnd" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n zender waarvan het nummer wordt ingenomen, gaat naar het einde: %1.</numerusform>
+            <numerusform>%n zenders waarvan de nummers worden ingenomen, gaan naar het einde: %1.</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewUnsure" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n onzekere rij is niet aangevinkt.</numerusform>
+            <numerusform>%n onzekere rijen zijn niet aangevinkt.</numerusform>
+        </translation>
     </message>
     <message id="kPrintedFiltered">
         <source></source>
@@ -1589,6 +1789,62 @@
             <numerusform>%n zenders achter een beschadigde plek in het bestand zijn nooit gelezen en zouden verdwijnen.</numerusform>
         </translation>
     </message>
+    <message id="kRowByName">
+        <source></source>
+        <translation>gevonden op naam</translation>
+    </message>
+    <message id="kRowElsewhere">
+        <source></source>
+        <translation>daar in een andere lijst</translation>
+    </message>
+    <message id="kRowFields">
+        <source></source>
+        <translation>andere gegevens</translation>
+    </message>
+    <message id="kRowFitsNothing">
+        <source></source>
+        <translation>past bij geen zender</translation>
+    </message>
+    <message id="kRowLockedHere">
+        <source></source>
+        <translation>daar niet vergrendeld</translation>
+    </message>
+    <message id="kRowLockedThere">
+        <source></source>
+        <translation>daar vergrendeld</translation>
+    </message>
+    <message id="kRowLoose">
+        <source></source>
+        <translation>onzeker: alleen de naam lijkt erop</translation>
+    </message>
+    <message id="kRowMoved">
+        <source></source>
+        <translation>ander nummer</translation>
+    </message>
+    <message id="kRowOnlyHere">
+        <source></source>
+        <translation>alleen hier</translation>
+    </message>
+    <message id="kRowOnlyThere">
+        <source></source>
+        <translation>alleen daar</translation>
+    </message>
+    <message id="kRowRenamed">
+        <source></source>
+        <translation>andere naam</translation>
+    </message>
+    <message id="kRowSkippedHere">
+        <source></source>
+        <translation>daar niet overgeslagen</translation>
+    </message>
+    <message id="kRowSkippedThere">
+        <source></source>
+        <translation>daar overgeslagen</translation>
+    </message>
+    <message id="kRowToTheEnd">
+        <source></source>
+        <translation>gaat naar het einde</translation>
+    </message>
     <message id="kSatellite">
         <source></source>
         <translation>Satelliet</translation>
@@ -1775,6 +2031,34 @@ Deze gaan verder vanaf nummer: %3</translation>
             <numerusform>Niet meer overslaan van %n zenders</numerusform>
         </translation>
     </message>
+    <message id="kTakeLocked">
+        <source></source>
+        <translation>Kinderslot</translation>
+    </message>
+    <message id="kTakeNames">
+        <source></source>
+        <translation>Namen</translation>
+    </message>
+    <message id="kTakeNumbers">
+        <source></source>
+        <translation>Nummers en volgorde</translation>
+    </message>
+    <message id="kTakeOver">
+        <source></source>
+        <translation>Overnemen:</translation>
+    </message>
+    <message id="kTakeOverAll">
+        <source></source>
+        <translation>Alles overnemen</translation>
+    </message>
+    <message id="kTakeOverSelected">
+        <source></source>
+        <translation>Selectie overnemen</translation>
+    </message>
+    <message id="kTakeSkipped">
+        <source></source>
+        <translation>Overslaan</translation>
+    </message>
     <message id="kTipAtBottom">
         <source></source>
         <translation>De geselecteerde zenders staan al aan het einde</translation>
@@ -1835,6 +2119,10 @@ Deze gaan verder vanaf nummer: %3</translation>
         <source></source>
         <translation>Er is geen verdere stap in deze richting</translation>
     </message>
+    <message id="kTipNotRead">
+        <source></source>
+        <translation>Er is niets veranderd sinds de lijst is gelezen</translation>
+    </message>
     <message id="kTipNotTold">
         <source></source>
         <translation>Het bestand vermeldt dit niet van deze zenders</translation>
@@ -1858,6 +2146,10 @@ Deze gaan verder vanaf nummer: %3</translation>
     <message id="kTipSelectTwo">
         <source></source>
         <translation>Selecteer eerst precies twee zenders</translation>
+    </message>
+    <message id="kTipTakeSelected">
+        <source></source>
+        <translation>Geen van de geselecteerde rijen is aangevinkt, of ze veranderen niets</translation>
     </message>
     <message id="kTipTooFew">
         <source></source>
@@ -2103,6 +2395,10 @@ Deze gaan verder vanaf nummer: %3</translation>
     <message id="kUsualColumns">
         <source></source>
         <translation>Gebruikelijke kolommen</translation>
+    </message>
+    <message id="kVersionCompare">
+        <source></source>
+        <translation>Vergelijken…</translation>
     </message>
     <message id="kVersionDamaged">
         <source></source>

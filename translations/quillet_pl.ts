@@ -303,9 +303,129 @@
         <source></source>
         <translation>Typ</translation>
     </message>
+    <message id="kCompareAllLists">
+        <source></source>
+        <translation>Wszystkie listy</translation>
+    </message>
+    <message id="kCompareApply">
+        <source></source>
+        <translation>Zastosuj</translation>
+    </message>
+    <message id="kCompareDifference">
+        <source></source>
+        <translation>Różnica</translation>
+    </message>
+    <message id="kCompareEmpty">
+        <source></source>
+        <translation>Nic się nie różni.</translation>
+    </message>
+    <message id="kCompareFailed">
+        <source></source>
+        <translation>„%1” nie zawiera listy do porównania.</translation>
+    </message>
     <message id="kCompareFailedReason">
         <source></source>
         <translation>Dysk nie zachował tego, co zostało zapisane. Może być pełny lub uszkodzony.</translation>
+    </message>
+    <message id="kCompareFields">
+        <source></source>
+        <translation>Inne dane</translation>
+    </message>
+    <message id="kCompareFileTitle">
+        <source></source>
+        <translation>Porównaj z</translation>
+    </message>
+    <message id="kCompareFitsNothing">
+        <source></source>
+        <translation>Nie pasuje do kanału</translation>
+    </message>
+    <message id="kCompareFlags">
+        <source></source>
+        <translation>Pomijanie lub blokada</translation>
+    </message>
+    <message id="kCompareList">
+        <source></source>
+        <translation>Lista</translation>
+    </message>
+    <message id="kCompareMoved">
+        <source></source>
+        <translation>Inny numer</translation>
+    </message>
+    <message id="kCompareNameRead">
+        <source></source>
+        <translation>%1 (jak odczytano)</translation>
+    </message>
+    <message id="kCompareNameThere">
+        <source></source>
+        <translation>Nazwa tam</translation>
+    </message>
+    <message id="kCompareNameVersion">
+        <source></source>
+        <translation>%1 z %2</translation>
+    </message>
+    <message id="kCompareNoneShown">
+        <source></source>
+        <translation>Żaden kanał nie jest rodzaju zaznaczonego powyżej ani nie pasuje do wyszukiwania.</translation>
+    </message>
+    <message id="kCompareNoSuchDifference">
+        <source></source>
+        <translation>W tym nic się nie różni</translation>
+    </message>
+    <message id="kCompareNumberNew">
+        <source></source>
+        <translation>Nowy nr</translation>
+    </message>
+    <message id="kCompareNumberThere">
+        <source></source>
+        <translation>Nr tam</translation>
+    </message>
+    <message id="kCompareOnlyHere">
+        <source></source>
+        <translation>Tylko tutaj</translation>
+    </message>
+    <message id="kCompareOnlyThere">
+        <source></source>
+        <translation>Tylko tam</translation>
+    </message>
+    <message id="kComparePaste">
+        <source></source>
+        <translation>Wklej</translation>
+    </message>
+    <message id="kCompareRenamed">
+        <source></source>
+        <translation>Inna nazwa</translation>
+    </message>
+    <message id="kCompareSame">
+        <source></source>
+        <translation>Takie same</translation>
+    </message>
+    <message id="kCompareTable">
+        <source></source>
+        <translation>Porównane kanały</translation>
+    </message>
+    <message id="kCompareTake">
+        <source></source>
+        <translation>Przejmij</translation>
+    </message>
+    <message id="kCompareTitle">
+        <source></source>
+        <translation>Porównanie z „%1”</translation>
+    </message>
+    <message id="kCompareTitleImport">
+        <source></source>
+        <translation>Zmiany z „%1”</translation>
+    </message>
+    <message id="kCompareTitleOrder">
+        <source></source>
+        <translation>Kolejność z „%1”</translation>
+    </message>
+    <message id="kCompareTitlePaste">
+        <source></source>
+        <translation>Kanały do wklejenia</translation>
+    </message>
+    <message id="kCompareToTheEnd">
+        <source></source>
+        <translation>Trafia na koniec</translation>
     </message>
     <message id="kContentUnknownReason">
         <source></source>
@@ -939,6 +1059,18 @@
         <source></source>
         <translation>Kolu&amp;mny</translation>
     </message>
+    <message id="kMenuCompare">
+        <source></source>
+        <translation>Porówna&amp;j z</translation>
+    </message>
+    <message id="kMenuCompareFile">
+        <source></source>
+        <translation>Inną &amp;listą…</translation>
+    </message>
+    <message id="kMenuCompareRead">
+        <source></source>
+        <translation>Plikiem w stanie o&amp;dczytanym</translation>
+    </message>
     <message id="kMenuCopy">
         <source></source>
         <translation>Kopiu&amp;j</translation>
@@ -1375,9 +1507,85 @@
         <source></source>
         <translation>Nie można zachować uprawnień dostępu do pliku: %1</translation>
     </message>
+    <message id="kPreviewDoubled" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n numer zostałby nadany dwukrotnie.</numerusform>
+            <numerusform>%n numery zostałyby nadane dwukrotnie.</numerusform>
+            <numerusform>%n numerów zostałoby nadanych dwukrotnie.</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewLocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n inna blokada</numerusform>
+            <numerusform>%n inne blokady</numerusform>
+            <numerusform>%n innych blokad</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewMoved" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n kanał dostaje inny numer lub miejsce</numerusform>
+            <numerusform>%n kanały dostają inny numer lub miejsce</numerusform>
+            <numerusform>%n kanałów dostaje inny numer lub miejsce</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewNothing">
+        <source></source>
+        <translation>Nic by się nie zmieniło.</translation>
+    </message>
     <message id="kPreviewOrder">
         <source></source>
         <translation>Podgląd…</translation>
+    </message>
+    <message id="kPreviewOrderCounts">
+        <source></source>
+        <translation>Znalezione kanały: %1. Trafiają na koniec: %2. Wpisy bez kanału: %3.</translation>
+    </message>
+    <message id="kPreviewPaste" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n zaznaczony kanał trafia tutaj.</numerusform>
+            <numerusform>%n zaznaczone kanały trafiają tutaj.</numerusform>
+            <numerusform>%n zaznaczonych kanałów trafia tutaj.</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewRenamed" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n zmienia nazwę</numerusform>
+            <numerusform>%n zmieniają nazwę</numerusform>
+            <numerusform>%n zmienia nazwę</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewSelected">
+        <source></source>
+        <translation>Tylko zaznaczone: %1</translation>
+    </message>
+    <message id="kPreviewSkipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n inne oznaczenie pomijania</numerusform>
+            <numerusform>%n inne oznaczenia pomijania</numerusform>
+            <numerusform>%n innych oznaczeń pomijania</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewToTheEnd" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n kanał, którego numer zostaje zajęty, trafia na koniec: %1.</numerusform>
+            <numerusform>%n kanały, których numery zostają zajęte, trafiają na koniec: %1.</numerusform>
+            <numerusform>%n kanałów, których numery zostają zajęte, trafia na koniec: %1.</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewUnsure" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n niepewny wiersz nie jest zaznaczony.</numerusform>
+            <numerusform>%n niepewne wiersze nie są zaznaczone.</numerusform>
+            <numerusform>%n niepewnych wierszy nie jest zaznaczonych.</numerusform>
+        </translation>
     </message>
     <message id="kPrintedFiltered">
         <source></source>
@@ -1623,6 +1831,62 @@
             <numerusform>%n kanałów za uszkodzonym miejscem pliku nie zostało odczytanych i zniknęłoby.</numerusform>
         </translation>
     </message>
+    <message id="kRowByName">
+        <source></source>
+        <translation>znaleziony po nazwie</translation>
+    </message>
+    <message id="kRowElsewhere">
+        <source></source>
+        <translation>tam na innej liście</translation>
+    </message>
+    <message id="kRowFields">
+        <source></source>
+        <translation>inne dane</translation>
+    </message>
+    <message id="kRowFitsNothing">
+        <source></source>
+        <translation>nie pasuje do żadnego kanału</translation>
+    </message>
+    <message id="kRowLockedHere">
+        <source></source>
+        <translation>tam niezablokowany</translation>
+    </message>
+    <message id="kRowLockedThere">
+        <source></source>
+        <translation>tam zablokowany</translation>
+    </message>
+    <message id="kRowLoose">
+        <source></source>
+        <translation>niepewne: podobna tylko nazwa</translation>
+    </message>
+    <message id="kRowMoved">
+        <source></source>
+        <translation>inny numer</translation>
+    </message>
+    <message id="kRowOnlyHere">
+        <source></source>
+        <translation>tylko tutaj</translation>
+    </message>
+    <message id="kRowOnlyThere">
+        <source></source>
+        <translation>tylko tam</translation>
+    </message>
+    <message id="kRowRenamed">
+        <source></source>
+        <translation>inna nazwa</translation>
+    </message>
+    <message id="kRowSkippedHere">
+        <source></source>
+        <translation>tam niepomijany</translation>
+    </message>
+    <message id="kRowSkippedThere">
+        <source></source>
+        <translation>tam pomijany</translation>
+    </message>
+    <message id="kRowToTheEnd">
+        <source></source>
+        <translation>trafia na koniec</translation>
+    </message>
     <message id="kSatellite">
         <source></source>
         <translation>Satelita</translation>
@@ -1817,6 +2081,34 @@ Te następują od numeru: %3</translation>
             <numerusform>Wyłączenie pomijania %n kanałów</numerusform>
         </translation>
     </message>
+    <message id="kTakeLocked">
+        <source></source>
+        <translation>Blokada</translation>
+    </message>
+    <message id="kTakeNames">
+        <source></source>
+        <translation>Nazwy</translation>
+    </message>
+    <message id="kTakeNumbers">
+        <source></source>
+        <translation>Numery i kolejność</translation>
+    </message>
+    <message id="kTakeOver">
+        <source></source>
+        <translation>Przejmij:</translation>
+    </message>
+    <message id="kTakeOverAll">
+        <source></source>
+        <translation>Przejmij wszystkie</translation>
+    </message>
+    <message id="kTakeOverSelected">
+        <source></source>
+        <translation>Przejmij zaznaczone</translation>
+    </message>
+    <message id="kTakeSkipped">
+        <source></source>
+        <translation>Pomijanie</translation>
+    </message>
     <message id="kTipAtBottom">
         <source></source>
         <translation>Wybrane kanały są już na końcu</translation>
@@ -1877,6 +2169,10 @@ Te następują od numeru: %3</translation>
         <source></source>
         <translation>W tym kierunku nie ma już żadnego kroku</translation>
     </message>
+    <message id="kTipNotRead">
+        <source></source>
+        <translation>Nic się nie zmieniło od odczytania listy</translation>
+    </message>
     <message id="kTipNotTold">
         <source></source>
         <translation>Plik nie zawiera tej informacji o tych kanałach</translation>
@@ -1900,6 +2196,10 @@ Te następują od numeru: %3</translation>
     <message id="kTipSelectTwo">
         <source></source>
         <translation>Najpierw wybierz dokładnie dwa kanały</translation>
+    </message>
+    <message id="kTipTakeSelected">
+        <source></source>
+        <translation>Żaden wybrany wiersz nie jest zaznaczony albo nic nie zmienia</translation>
     </message>
     <message id="kTipTooFew">
         <source></source>
@@ -2160,6 +2460,10 @@ Te następują od numeru: %3</translation>
     <message id="kUsualColumns">
         <source></source>
         <translation>Zwykłe kolumny</translation>
+    </message>
+    <message id="kVersionCompare">
+        <source></source>
+        <translation>Porównaj…</translation>
     </message>
     <message id="kVersionDamaged">
         <source></source>

@@ -293,9 +293,129 @@
         <source></source>
         <translation>Tür</translation>
     </message>
+    <message id="kCompareAllLists">
+        <source></source>
+        <translation>Tüm listeler</translation>
+    </message>
+    <message id="kCompareApply">
+        <source></source>
+        <translation>Uygula</translation>
+    </message>
+    <message id="kCompareDifference">
+        <source></source>
+        <translation>Fark</translation>
+    </message>
+    <message id="kCompareEmpty">
+        <source></source>
+        <translation>Hiçbir fark yok.</translation>
+    </message>
+    <message id="kCompareFailed">
+        <source></source>
+        <translation>“%1” karşılaştırılacak bir liste içermiyor.</translation>
+    </message>
     <message id="kCompareFailedReason">
         <source></source>
         <translation>Disk, yazılanı saklamadı. Dolu veya hasarlı olabilir.</translation>
+    </message>
+    <message id="kCompareFields">
+        <source></source>
+        <translation>Başka bilgiler</translation>
+    </message>
+    <message id="kCompareFileTitle">
+        <source></source>
+        <translation>Karşılaştır</translation>
+    </message>
+    <message id="kCompareFitsNothing">
+        <source></source>
+        <translation>Hiçbir kanala uymuyor</translation>
+    </message>
+    <message id="kCompareFlags">
+        <source></source>
+        <translation>Atlama veya kilit</translation>
+    </message>
+    <message id="kCompareList">
+        <source></source>
+        <translation>Liste</translation>
+    </message>
+    <message id="kCompareMoved">
+        <source></source>
+        <translation>Başka numara</translation>
+    </message>
+    <message id="kCompareNameRead">
+        <source></source>
+        <translation>%1 (okunduğu hâliyle)</translation>
+    </message>
+    <message id="kCompareNameThere">
+        <source></source>
+        <translation>Oradaki ad</translation>
+    </message>
+    <message id="kCompareNameVersion">
+        <source></source>
+        <translation>%1, %2</translation>
+    </message>
+    <message id="kCompareNoneShown">
+        <source></source>
+        <translation>Yukarıda işaretli türde veya aramaya uyan kanal yok.</translation>
+    </message>
+    <message id="kCompareNoSuchDifference">
+        <source></source>
+        <translation>Bunda fark yok</translation>
+    </message>
+    <message id="kCompareNumberNew">
+        <source></source>
+        <translation>Yeni no.</translation>
+    </message>
+    <message id="kCompareNumberThere">
+        <source></source>
+        <translation>Oradaki no.</translation>
+    </message>
+    <message id="kCompareOnlyHere">
+        <source></source>
+        <translation>Yalnızca burada</translation>
+    </message>
+    <message id="kCompareOnlyThere">
+        <source></source>
+        <translation>Yalnızca orada</translation>
+    </message>
+    <message id="kComparePaste">
+        <source></source>
+        <translation>Yapıştır</translation>
+    </message>
+    <message id="kCompareRenamed">
+        <source></source>
+        <translation>Başka ad</translation>
+    </message>
+    <message id="kCompareSame">
+        <source></source>
+        <translation>Aynı</translation>
+    </message>
+    <message id="kCompareTable">
+        <source></source>
+        <translation>Karşılaştırılan kanallar</translation>
+    </message>
+    <message id="kCompareTake">
+        <source></source>
+        <translation>Al</translation>
+    </message>
+    <message id="kCompareTitle">
+        <source></source>
+        <translation>“%1” ile karşılaştırma</translation>
+    </message>
+    <message id="kCompareTitleImport">
+        <source></source>
+        <translation>“%1” dosyasındaki değişiklikler</translation>
+    </message>
+    <message id="kCompareTitleOrder">
+        <source></source>
+        <translation>“%1” sırası</translation>
+    </message>
+    <message id="kCompareTitlePaste">
+        <source></source>
+        <translation>Yapıştırılacak kanallar</translation>
+    </message>
+    <message id="kCompareToTheEnd">
+        <source></source>
+        <translation>Sona gider</translation>
     </message>
     <message id="kContentUnknownReason">
         <source></source>
@@ -889,6 +1009,18 @@
         <source></source>
         <translation>&amp;Sütunlar</translation>
     </message>
+    <message id="kMenuCompare">
+        <source></source>
+        <translation>&amp;Karşılaştır</translation>
+    </message>
+    <message id="kMenuCompareFile">
+        <source></source>
+        <translation>Başka &amp;Liste…</translation>
+    </message>
+    <message id="kMenuCompareRead">
+        <source></source>
+        <translation>Dosyanın &amp;Okunduğu Hâli</translation>
+    </message>
     <message id="kMenuCopy">
         <source></source>
         <translation>Ko&amp;pyala</translation>
@@ -1319,9 +1451,69 @@
         <source></source>
         <translation>Dosyanın erişim izinleri korunamadı: %1</translation>
     </message>
+    <message id="kPreviewDoubled" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n numara iki kez verilir.</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewLocked" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n farklı çocuk kilidi</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewMoved" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n kanal başka numara veya yer alır</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewNothing">
+        <source></source>
+        <translation>Hiçbir şey değişmez.</translation>
+    </message>
     <message id="kPreviewOrder">
         <source></source>
         <translation>Önizleme…</translation>
+    </message>
+    <message id="kPreviewOrderCounts">
+        <source></source>
+        <translation>Bulunan kanallar: %1. Sona gidenler: %2. Hiçbir kanala uymayan girişler: %3.</translation>
+    </message>
+    <message id="kPreviewPaste" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>İşaretli %n kanal buraya taşınır.</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewRenamed" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n kanalın adı değişir</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewSelected">
+        <source></source>
+        <translation>Yalnızca seçilenler: %1</translation>
+    </message>
+    <message id="kPreviewSkipped" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n farklı atlama işareti</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewToTheEnd" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Numarası alınan %n kanal sona gider: %1.</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewUnsure" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Kesin olmayan %n satır işaretli değil.</numerusform>
+        </translation>
     </message>
     <message id="kPrintedFiltered">
         <source></source>
@@ -1555,6 +1747,62 @@
             <numerusform>Dosyanın hasarlı bir yerinden sonra gelen %n kanal hiç okunmadı ve kaybolur.</numerusform>
         </translation>
     </message>
+    <message id="kRowByName">
+        <source></source>
+        <translation>adıyla bulundu</translation>
+    </message>
+    <message id="kRowElsewhere">
+        <source></source>
+        <translation>orada başka bir listede</translation>
+    </message>
+    <message id="kRowFields">
+        <source></source>
+        <translation>başka bilgiler</translation>
+    </message>
+    <message id="kRowFitsNothing">
+        <source></source>
+        <translation>hiçbir kanala uymuyor</translation>
+    </message>
+    <message id="kRowLockedHere">
+        <source></source>
+        <translation>orada kilitli değil</translation>
+    </message>
+    <message id="kRowLockedThere">
+        <source></source>
+        <translation>orada kilitli</translation>
+    </message>
+    <message id="kRowLoose">
+        <source></source>
+        <translation>kesin değil: yalnızca adı benziyor</translation>
+    </message>
+    <message id="kRowMoved">
+        <source></source>
+        <translation>başka numara</translation>
+    </message>
+    <message id="kRowOnlyHere">
+        <source></source>
+        <translation>yalnızca burada</translation>
+    </message>
+    <message id="kRowOnlyThere">
+        <source></source>
+        <translation>yalnızca orada</translation>
+    </message>
+    <message id="kRowRenamed">
+        <source></source>
+        <translation>başka ad</translation>
+    </message>
+    <message id="kRowSkippedHere">
+        <source></source>
+        <translation>orada atlanmıyor</translation>
+    </message>
+    <message id="kRowSkippedThere">
+        <source></source>
+        <translation>orada atlanıyor</translation>
+    </message>
+    <message id="kRowToTheEnd">
+        <source></source>
+        <translation>sona gider</translation>
+    </message>
     <message id="kSatellite">
         <source></source>
         <translation>Uydu</translation>
@@ -1733,6 +1981,34 @@ Bunların devam ettiği numara: %3</translation>
             <numerusform>%n Kanalı Artık Atlamama</numerusform>
         </translation>
     </message>
+    <message id="kTakeLocked">
+        <source></source>
+        <translation>Çocuk kilitleri</translation>
+    </message>
+    <message id="kTakeNames">
+        <source></source>
+        <translation>Adlar</translation>
+    </message>
+    <message id="kTakeNumbers">
+        <source></source>
+        <translation>Numaralar ve sıra</translation>
+    </message>
+    <message id="kTakeOver">
+        <source></source>
+        <translation>Al:</translation>
+    </message>
+    <message id="kTakeOverAll">
+        <source></source>
+        <translation>Tümünü Al</translation>
+    </message>
+    <message id="kTakeOverSelected">
+        <source></source>
+        <translation>Seçilenleri Al</translation>
+    </message>
+    <message id="kTakeSkipped">
+        <source></source>
+        <translation>Atlama işaretleri</translation>
+    </message>
     <message id="kTipAtBottom">
         <source></source>
         <translation>Seçili kanallar zaten en sonda</translation>
@@ -1793,6 +2069,10 @@ Bunların devam ettiği numara: %3</translation>
         <source></source>
         <translation>Bu yönde başka adım yok</translation>
     </message>
+    <message id="kTipNotRead">
+        <source></source>
+        <translation>Liste okunduğundan beri bir şey değişmedi</translation>
+    </message>
     <message id="kTipNotTold">
         <source></source>
         <translation>Dosya bu kanallar için bunu belirtmiyor</translation>
@@ -1816,6 +2096,10 @@ Bunların devam ettiği numara: %3</translation>
     <message id="kTipSelectTwo">
         <source></source>
         <translation>Önce tam iki kanal seçin</translation>
+    </message>
+    <message id="kTipTakeSelected">
+        <source></source>
+        <translation>Seçilen satırların hiçbiri işaretli değil veya bir şeyi değiştirmiyor</translation>
     </message>
     <message id="kTipTooFew">
         <source></source>
@@ -2046,6 +2330,10 @@ Bunların devam ettiği numara: %3</translation>
     <message id="kUsualColumns">
         <source></source>
         <translation>Olağan Sütunlar</translation>
+    </message>
+    <message id="kVersionCompare">
+        <source></source>
+        <translation>Karşılaştır…</translation>
     </message>
     <message id="kVersionDamaged">
         <source></source>

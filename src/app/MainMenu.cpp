@@ -2,6 +2,7 @@
 
 #include "app/AboutWindow.h"
 #include "app/AppDelegate.h"
+#include "app/CompareMenu.h"
 #include "app/EditMenu.h"
 #include "app/HelpLoader.h"
 #include "app/LGWindowController.h"
@@ -113,6 +114,7 @@ void MainMenu::makeFileMenu(QMenuBar &bar)
         m_window.tlldoc()->reloadDocument();
     });
     m_versions = add(menu, {"kMenuVersions", "showVersions", {}}, [this] { showVersions(); });
+    m_compare = new CompareMenu(m_window, m_documents, menu, *m_versions, this);
     connect(&menu, &QMenu::aboutToShow, this, &MainMenu::validateVersions);
     m_documentItems.push_back(add(menu,
                                   {"kMenuExport", "exportAsReferenceList", Qt::CTRL | Qt::Key_E},
@@ -256,6 +258,7 @@ void MainMenu::validate()
     for (QAction *action : m_documentItems)
         action->setEnabled(document && document->validateUserInterfaceItem(action->objectName()));
     m_edit->validate();
+    m_compare->validate();
     if (document && m_editor.isEditing())
         m_save->setEnabled(true); // for what is being typed
     m_saveAs->setEnabled(document && document->canSaveAs());

@@ -15,6 +15,7 @@ class QMenuBar;
 namespace quillet {
 
 class AboutWindow;
+class CompareMenu;
 class EditMenu;
 class DocumentController;
 class EditorView;
@@ -70,6 +71,7 @@ private:
     std::vector<QAction *> m_filters;
     std::vector<QAction *> m_print;
     EditMenu *m_edit = nullptr;
+    CompareMenu *m_compare = nullptr;
     std::function<bool()> m_areUnsaved;
     QAction *m_save = nullptr;
     QAction *m_saveAs = nullptr;

@@ -58,6 +58,8 @@ QRect CheckMarkDelegate::markRect(const QWidget *table, const QRect &cell)
 void CheckMarkDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
                               const QModelIndex &index) const
 {
+    if (!index.data(Qt::CheckStateRole).isValid())
+        return FadingDelegate::paint(painter, option, index);
     QStyleOptionViewItem cell = option;
     initStyleOption(&cell, index);
     const bool isSet = cell.checkState == Qt::Checked;

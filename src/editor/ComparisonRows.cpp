@@ -12,8 +12,8 @@ namespace {
 
 using Purpose = ComparedWith::Purpose;
 
-constexpr StationDifferences everything{StationDifference::Number | StationDifference::Name |
-                                        StationDifference::Skipped | StationDifference::Locked |
+constexpr StationDifferences everything{StationDifference::Number, StationDifference::Name,
+                                        StationDifference::Skipped, StationDifference::Locked,
                                         StationDifference::Fields};
 
 constexpr std::array kindsOfDifferences{

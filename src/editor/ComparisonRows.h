@@ -19,15 +19,14 @@ enum class ComparisonKind {
     Same = 64,
 };
 Q_DECLARE_FLAGS(ComparisonKinds, ComparisonKind)
-Q_DECLARE_OPERATORS_FOR_FLAGS(ComparisonKinds)
 
 /// A station of the document and what another list tells of it, or one that only one of them has.
 struct ComparisonRow
 {
     bool isTV = true;
-    int source = 0;   ///< of the list that it is in, or would be
-    StationPtr here;  ///< null: the document has no such station
-    StationPtr there; ///< null: the other list has none, or but an entry of a reference list
+    int source = 0;        ///< of the list that it is in, or would be
+    StationPtr here = {};  ///< null: the document has no such station
+    StationPtr there = {}; ///< null: the other list has none, or but an entry of a reference list
     QString nameHere = {};
     QString numberThere = {}; ///< or that it would get; empty: none is told
     QString nameThere = {};   ///< empty: none is told

@@ -1,8 +1,87 @@
 #include "editor/ComparisonTexts.h"
 
+#include "editor/ShownTexts.h"
+#include "editor/SourceTitles.h"
+
+#include <QLocale>
 #include <QStringList>
 
+#include <array>
+#include <utility>
+
 namespace quillet {
+
+namespace {
+
+using Purpose = ComparedWith::Purpose;
+
+struct KindTitle
+{
+    ComparisonKind kind;
+    const char *title;
+    const char *ofRow; ///< in its row; null: other texts say more
+};
+
+constexpr std::array kindTitles{
+    KindTitle{ComparisonKind::Moved, "kCompareMoved", "kRowMoved"},
+    KindTitle{ComparisonKind::Renamed, "kCompareRenamed", "kRowRenamed"},
+    KindTitle{ComparisonKind::Flags, "kCompareFlags", nullptr},
+    KindTitle{ComparisonKind::Fields, "kCompareFields", "kRowFields"},
+    KindTitle{ComparisonKind::OnlyHere, "kCompareOnlyHere", "kRowOnlyHere"},
+    KindTitle{ComparisonKind::OnlyThere, "kCompareOnlyThere", "kRowOnlyThere"},
+    KindTitle{ComparisonKind::Same, "kCompareSame", nullptr},
+};
+
+/// The same where only one list has the station, and it is more than that.
+constexpr std::array fateTitles{
+    KindTitle{ComparisonKind::OnlyHere, "kCompareToTheEnd", "kRowToTheEnd"},
+    KindTitle{ComparisonKind::OnlyThere, "kCompareFitsNothing", "kRowFitsNothing"},
+};
+
+const KindTitle &titlesOf(ComparisonKind kind, Purpose purpose)
+{
+    if (purpose != Purpose::Compare) {
+        for (const KindTitle &each : fateTitles) {
+            if (each.kind == kind)
+                return each;
+        }
+    }
+    std::size_t place = 0;
+    while (kindTitles.at(place).kind != kind)
+        ++place;
+    return kindTitles.at(place);
+}
+
+constexpr std::size_t mostNames = 5;
+
+QString namesOf(const StationList &stations)
+{
+    QStringList names;
+    for (std::size_t i = 0; i < stations.size() && i < mostNames; ++i)
+        names.append(drawnName(*stations[i]));
+    if (stations.size() > mostNames)
+        names.append(QStringLiteral(u"\u2026"));
+    return names.join(QStringLiteral(", "));
+}
+
+QString orderPreview(const StationComparison &comparison)
+{
+    std::size_t matched = 0;
+    for (const ComparisonKind kind : {ComparisonKind::Moved, ComparisonKind::Same})
+        matched += comparison.count(kind);
+    const QLocale locale;
+    const auto number = [&locale](std::size_t count) {
+        return locale.toString(static_cast<qlonglong>(count));
+    };
+    const QString text =
+        qtTrId("kPreviewOrderCounts")
+            .arg(number(matched), number(comparison.count(ComparisonKind::OnlyHere)),
+                 number(comparison.count(ComparisonKind::OnlyThere)));
+    const std::size_t doubled = comparison.doubledNumbers();
+    return doubled == 0 ? text : text + u' ' + qtTrId("kPreviewDoubled", static_cast<int>(doubled));
+}
+
+} // namespace
 
 QString textOf(const ListComparison &comparison)
 {
@@ -23,6 +102,104 @@ QString textOf(const ListComparison &comparison)
     add("kDiffLocked", comparison.locked);
     add("kDiffFields", comparison.fields);
     return parts.isEmpty() ? qtTrId("kDiffOrder") : parts.join(QStringLiteral(", "));
+}
+
+QString titleOf(const ComparedWith &other)
+{
+    const QString name = shortened(other.name, longestNameShown);
+    switch (other.purpose) {
+    case Purpose::Compare:
+        return qtTrId("kCompareTitle").arg(name);
+    case Purpose::Order:
+        return qtTrId("kCompareTitleOrder").arg(name);
+    case Purpose::Import:
+        return qtTrId("kCompareTitleImport").arg(name);
+    case Purpose::Paste:
+        return qtTrId("kCompareTitlePaste");
+    }
+    return {};
+}
+
+QString titleOf(StationComparison::List list)
+{
+    return qtTrId(list.isTV ? "kPrintedTV" : "kPrintedRadio").arg(sourceTitle(list.source));
+}
+
+QString titleOf(ComparisonKind kind, Purpose purpose)
+{
+    return qtTrId(titlesOf(kind, purpose).title);
+}
+
+QString textOf(const ComparisonRow &row, Purpose purpose)
+{
+    QStringList parts;
+    for (const KindTitle &each : kindTitles) {
+        const char *text = titlesOf(each.kind, purpose).ofRow;
+        if (row.kinds.testFlag(each.kind) && text)
+            parts.append(qtTrId(text));
+    }
+    if (row.differences.testFlag(StationDifference::Skipped))
+        parts.append(qtTrId(row.there->isSkipped() ? "kRowSkippedThere" : "kRowSkippedHere"));
+    if (row.differences.testFlag(StationDifference::Locked))
+        parts.append(qtTrId(row.there->isBlocked() ? "kRowLockedThere" : "kRowLockedHere"));
+    if (row.isElsewhere)
+        parts.append(qtTrId("kRowElsewhere"));
+    if (row.likeness == Likeness::Loose)
+        parts.append(qtTrId("kRowLoose"));
+    if (row.likeness == Likeness::ByName)
+        parts.append(qtTrId("kRowByName"));
+    return parts.join(QStringLiteral(", "));
+}
+
+QString textOf(const StationComparison::Parts &parts)
+{
+    TakeOverPlan sum;
+    StationList toTheEnd;
+    for (const auto &[list, plan] : parts) {
+        sum.moved += plan.moved;
+        sum.renamed += plan.renamed;
+        sum.skipped += plan.skipped;
+        sum.locked += plan.locked;
+        toTheEnd.insert(toTheEnd.end(), plan.toTheEnd.begin(), plan.toTheEnd.end());
+    }
+    QStringList texts;
+    const auto add = [&texts](const char *id, std::size_t count) {
+        if (count > 0)
+            texts.append(qtTrId(id, static_cast<int>(count)));
+    };
+    add("kPreviewMoved", sum.moved);
+    add("kPreviewRenamed", sum.renamed);
+    add("kPreviewSkipped", sum.skipped);
+    add("kPreviewLocked", sum.locked);
+    if (texts.isEmpty())
+        return qtTrId("kPreviewNothing");
+    const QString text = texts.join(QStringLiteral(", ")) + u'.';
+    if (toTheEnd.empty())
+        return text;
+    return text + u' ' +
+           qtTrId("kPreviewToTheEnd", static_cast<int>(toTheEnd.size())).arg(namesOf(toTheEnd));
+}
+
+QString previewOf(const StationComparison &comparison)
+{
+    switch (comparison.purpose()) {
+    case Purpose::Order:
+        return orderPreview(comparison);
+    case Purpose::Paste:
+        return qtTrId("kPreviewPaste", static_cast<int>(comparison.checkedStations().size()));
+    default:
+        break;
+    }
+    const QString text = textOf(comparison.planForAll());
+    const std::size_t unsure = comparison.uncheckedLoose();
+    return unsure == 0 ? text : text + u' ' + qtTrId("kPreviewUnsure", static_cast<int>(unsure));
+}
+
+QString previewOf(const StationComparison &comparison, const std::vector<std::size_t> &selected)
+{
+    if (comparison.purpose() != Purpose::Compare || selected.size() < 2)
+        return {};
+    return qtTrId("kPreviewSelected").arg(textOf(comparison.planFor(selected)));
 }
 
 } // namespace quillet

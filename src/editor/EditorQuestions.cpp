@@ -69,29 +69,31 @@ void EditorQuestions::askToReplace(std::function<void()> confirmed) const
     m_document.prompts()->showAlert(m_window, alert, check);
 }
 
+std::function<void(const QStringList &)> EditorQuestions::firstOf(const FileChosen &chosen) const
+{
+    return [chosen, guard = QPointer(m_context)](const QStringList &paths) {
+        if (guard && !paths.isEmpty())
+            chosen(paths.front());
+    };
+}
+
 void EditorQuestions::askForReferenceList(
     const std::function<void(const QString &)> &chosen,
     const std::function<void(const QString &)> &previewed) const
 {
     if (!m_document.prompts())
         return;
-    const auto guarded = [this](const std::function<void(const QString &)> &next) {
-        return [next, guard = QPointer(m_context)](const QStringList &paths) {
-            if (guard && !paths.isEmpty())
-                next(paths.front());
-        };
-    };
     const OpenPanel panel{
         .title = qtTrId("kApplyOrderTitle"),
         .directory = m_document.folder(),
         .nameFilters = {qtTrId("kFilterReferenceLists") + QLatin1String(" (*.txt *.tll)"),
                         qtTrId("kFilterAllFiles") + QLatin1String(" (*)")},
         .otherButton = qtTrId("kPreviewOrder"),
-        .otherChosen = guarded(previewed)};
-    m_document.prompts()->showOpenPanel(m_window, panel, guarded(chosen));
+        .otherChosen = firstOf(previewed)};
+    m_document.prompts()->showOpenPanel(m_window, panel, firstOf(chosen));
 }
 
-void EditorQuestions::askForTable(std::function<void(const QString &)> chosen) const
+void EditorQuestions::askForTable(const FileChosen &chosen) const
 {
     if (!m_document.prompts())
         return;
@@ -100,11 +102,18 @@ void EditorQuestions::askForTable(std::function<void(const QString &)> chosen) c
         .directory = m_document.folder(),
         .nameFilters = {qtTrId("kFilterTables") + QLatin1String(" (*.csv *.tsv *.txt)"),
                         qtTrId("kFilterAllFiles") + QLatin1String(" (*)")}};
-    const auto check = [chosen, guard = QPointer(m_context)](const QStringList &paths) {
-        if (guard && !paths.isEmpty())
-            chosen(paths.front());
-    };
-    m_document.prompts()->showOpenPanel(m_window, panel, check);
+    m_document.prompts()->showOpenPanel(m_window, panel, firstOf(chosen));
+}
+
+void EditorQuestions::askForListToCompare(const FileChosen &chosen) const
+{
+    if (!m_document.prompts())
+        return;
+    const OpenPanel panel{.title = qtTrId("kCompareFileTitle"),
+                          .directory = m_document.folder(),
+                          .nameFilters = {qtTrId("kFilterChannelLists") + QLatin1String(" (*.tll)"),
+                                          qtTrId("kFilterAllFiles") + QLatin1String(" (*)")}};
+    m_document.prompts()->showOpenPanel(m_window, panel, firstOf(chosen));
 }
 
 void EditorQuestions::showError(const QString &message, const QString &detail) const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 
@@ -27,14 +28,20 @@ public:
     void askToGoBeyond(std::size_t stations, std::function<void(bool)> answered) const;
     /// Whether the document's unsaved changes may be given up for another file.
     void askToReplace(std::function<void()> confirmed) const;
+    using FileChosen = std::function<void(const QString &)>;
     /// The reference list chosen, to be applied or to be looked at first.
     void askForReferenceList(const std::function<void(const QString &)> &chosen,
                              const std::function<void(const QString &)> &previewed) const;
     /// The table of another program chosen.
-    void askForTable(std::function<void(const QString &)> chosen) const;
+    void askForTable(const FileChosen &chosen) const;
+    /// The channel list that was chosen to be compared with.
+    void askForListToCompare(const FileChosen &chosen) const;
     void showError(const QString &message, const QString &detail) const;
 
 private:
+    /// Hands on the first of the paths that a panel answers.
+    [[nodiscard]] std::function<void(const QStringList &)> firstOf(const FileChosen &chosen) const;
+
     TLLDocument &m_document;
     QWidget *m_window;
     QObject *m_context;

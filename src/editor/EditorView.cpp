@@ -2,6 +2,7 @@
 
 #include "editor/ArrangeDialog.h"
 #include "editor/ColumnsMenu.h"
+#include "editor/CompareDialog.h"
 #include "editor/EditorKeys.h"
 #include "editor/EditorLayout.h"
 #include "editor/EmptyDocText.h"
@@ -119,6 +120,9 @@ void EditorView::connectControls()
     connect(m_ui->fileBar, &NoticeBar::otherActionTriggered, &m_controller,
             &ViewController::keepMine);
     connect(&m_controller, &ViewController::stateChanged, this, &EditorView::stateChanged);
+    connect(
+        &m_controller, &ViewController::comparisonWanted, this,
+        [this](const ComparedWith &other) { showComparison(m_controller, other, sheetWindow()); });
     connect(&m_controller, &ViewController::stateChanged, m_ui->fillGapsButton,
             [this] { m_ui->fillGapsButton->setChecked(m_controller.fillGaps()); });
     connect(m_ui->list, &DarkModeTableView::editingChanged, this, &EditorView::stateChanged);

@@ -12,9 +12,9 @@ namespace quillet {
 
 namespace {
 
-constexpr ComparisonKinds differing =
-    ComparisonKinds(ComparisonKind::Moved) | ComparisonKind::Renamed | ComparisonKind::Flags |
-    ComparisonKind::Fields | ComparisonKind::OnlyHere | ComparisonKind::OnlyThere;
+constexpr ComparisonKinds differing{ComparisonKind::Moved,    ComparisonKind::Renamed,
+                                    ComparisonKind::Flags,    ComparisonKind::Fields,
+                                    ComparisonKind::OnlyHere, ComparisonKind::OnlyThere};
 
 EditSummary summaryOf(const ComparedWith &other, const StationComparison::Parts &parts)
 {
@@ -41,9 +41,8 @@ bool isIn(const QString &name, const QString &searched)
 
 } // namespace
 
-StationComparison::StationComparison(ViewController &controller, ComparedWith other,
-                                     QObject *parent)
-    : QObject(parent), m_controller(controller), m_other(std::move(other)), m_kinds(differing)
+StationComparison::StationComparison(ViewController &controller, ComparedWith other)
+    : m_controller(controller), m_other(std::move(other)), m_kinds(differing)
 {
     for (const StationDifference aspect : aspects)
         m_takes.setFlag(aspect);
@@ -108,7 +107,7 @@ std::size_t StationComparison::count(ComparisonKind kind) const
 bool StationComparison::isEmpty() const
 {
     return std::none_of(m_rows.begin(), m_rows.end(),
-                        [](const ComparisonRow &row) { return row.kinds & differing; });
+                        [](const ComparisonRow &row) { return bool(row.kinds & differing); });
 }
 
 void StationComparison::showKinds(ComparisonKinds kinds)
@@ -196,6 +195,28 @@ QString StationComparison::reasonAgainst(StationDifference aspect) const
     return qtTrId("kCompareNoSuchDifference");
 }
 
+std::size_t StationComparison::uncheckedLoose() const
+{
+    const auto is = [this](const ComparisonRow &row) {
+        return isOnShow(row) && row.likeness == Likeness::Loose && canBeChecked(row) &&
+               !isChecked(row);
+    };
+    return static_cast<std::size_t>(std::count_if(m_rows.begin(), m_rows.end(), is));
+}
+
+std::size_t StationComparison::doubledNumbers() const
+{
+    QSet<QString> numbers;
+    std::size_t stations = 0;
+    for (const ComparisonRow &row : m_rows) {
+        if (row.here) {
+            ++stations;
+            numbers.insert(row.numberThere);
+        }
+    }
+    return stations - static_cast<std::size_t>(numbers.size());
+}
+
 /// A station that is the same on both sides takes its own number again, so that no other does.
 StationComparison::Parts StationComparison::planForAll() const
 {
@@ -268,7 +289,7 @@ void StationComparison::takeOver(const std::vector<std::size_t> &rows)
 
 void StationComparison::carryOut(const std::function<Parts()> &plan)
 {
-    m_controller.takeOver([plan, guard = QPointer(this)] { return guard ? plan() : Parts(); },
+    m_controller.takeOver([plan, self = shared_from_this()] { return plan(); },
                           summaryOf(m_other, plan()));
 }
 

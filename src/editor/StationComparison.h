@@ -9,6 +9,7 @@
 
 #include <array>
 #include <functional>
+#include <memory>
 #include <optional>
 
 namespace quillet {
@@ -18,14 +19,15 @@ class ViewController;
 /// A document's lists beside another list, as long as somebody looks: the rows, which of them are
 /// on show, which are checked to be taken over, and what that would come to. Follows every change
 /// of the document, in a later turn of the event loop. Changes nothing but by the controller of the
-/// document's window, which must outlive it. Owned by the window that shows it.
-class StationComparison : public QObject
+/// document's window, which must outlive it. Owned by the window that shows it, and by a question
+/// that is open.
+class StationComparison : public QObject, public std::enable_shared_from_this<StationComparison>
 {
     Q_OBJECT
 
 public:
     /// The controller must have a document.
-    StationComparison(ViewController &controller, ComparedWith other, QObject *parent = nullptr);
+    StationComparison(ViewController &controller, ComparedWith other);
 
     using Purpose = ComparedWith::Purpose;
     [[nodiscard]] const ComparedWith &other() const { return m_other; }
@@ -73,6 +75,11 @@ public:
     void take(StationDifference aspect, bool isTaken);
     /// Why nothing of that kind can be taken over; empty when something can.
     [[nodiscard]] QString reasonAgainst(StationDifference aspect) const;
+
+    /// Rows of the list chosen that are unchecked because they are alike by name only.
+    [[nodiscard]] std::size_t uncheckedLoose() const;
+    /// How many stations would get a number that one before them has, by a reference list.
+    [[nodiscard]] std::size_t doubledNumbers() const;
 
     using Parts = std::vector<ListEditor::TakeOverPart>;
     /// What taking over all checked rows of the list chosen would do.

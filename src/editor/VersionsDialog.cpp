@@ -40,14 +40,16 @@ VersionsDialog::VersionsDialog(ViewController &controller, QWidget *parent)
     m_reason->setObjectName(QStringLiteral("versionReason"));
     m_reason->setAlignment(Qt::AlignTop);
     m_reason->setMinimumHeight(3 * fontMetrics().lineSpacing()); // so that nothing jumps
-    const QStringList titles =
-        withMnemonics({qtTrId("kVersionOpen"), qtTrId("kPutBack"), qtTrId("kClose")});
+    const QStringList titles = withMnemonics(
+        {qtTrId("kVersionOpen"), qtTrId("kPutBack"), qtTrId("kVersionCompare"), qtTrId("kClose")});
     auto *buttons = new QDialogButtonBox;
     m_open = buttons->addButton(titles[0], QDialogButtonBox::ActionRole);
     m_open->setObjectName(QStringLiteral("openVersion"));
     m_putBack = buttons->addButton(titles[1], QDialogButtonBox::ActionRole);
     m_putBack->setObjectName(QStringLiteral("putBackVersion"));
-    buttons->addButton(titles[2], QDialogButtonBox::RejectRole);
+    m_compare = buttons->addButton(titles[2], QDialogButtonBox::ActionRole);
+    m_compare->setObjectName(QStringLiteral("compareVersion"));
+    buttons->addButton(titles[3], QDialogButtonBox::RejectRole);
     auto *column = new QVBoxLayout(this);
     column->addWidget(
         makeLabel(qtTrId("kVersionsIntro").arg(controller.stationDoc()->displayName())));
@@ -58,6 +60,7 @@ VersionsDialog::VersionsDialog(ViewController &controller, QWidget *parent)
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(m_open, &QPushButton::clicked, this, &VersionsDialog::openChosen);
     connect(m_putBack, &QPushButton::clicked, this, &VersionsDialog::putBackChosen);
+    connect(m_compare, &QPushButton::clicked, this, &VersionsDialog::compareChosen);
     connect(m_list, &QTableWidget::currentItemChanged, this, &VersionsDialog::showChoice);
     connect(m_list, &QTableWidget::itemDoubleClicked, this, &VersionsDialog::openChosen);
     connect(&m_versions, &EarlierVersions::rowRead, this, &VersionsDialog::showRow);
@@ -136,6 +139,7 @@ void VersionsDialog::showChoice()
     const QString reason = m_versions.reasonAgainstPuttingBack(*row);
     const QString difference = m_versions.differenceText(*row);
     m_open->setEnabled(m_versions.canBeOpened(*row));
+    m_compare->setEnabled(m_open->isEnabled());
     m_putBack->setEnabled(reason.isEmpty());
     m_putBack->setToolTip(reason);
     m_putBack->setAccessibleDescription(reason);
@@ -155,6 +159,24 @@ void VersionsDialog::openChosen()
     accept();
     if (isRead)
         emit openRequested(bytes, path);
+    else
+        m_controller.showError(error.text(), qtTrId("kLoadingProblem"));
+}
+
+void VersionsDialog::compareChosen()
+{
+    const std::optional<std::size_t> row = chosen();
+    if (!row)
+        return;
+    QByteArray bytes;
+    Error error;
+    const bool isRead = m_versions.readBytes(*row, bytes, error);
+    const QString name =
+        qtTrId("kCompareNameVersion")
+            .arg(m_controller.stationDoc()->displayName(), m_versions.timeText(*row));
+    accept();
+    if (isRead)
+        m_controller.comparing().compareWithBytes(bytes, name);
     else
         m_controller.showError(error.text(), qtTrId("kLoadingProblem"));
 }

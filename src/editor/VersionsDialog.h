@@ -13,8 +13,8 @@ namespace quillet {
 class ViewController;
 
 /// Lists the earlier versions of the file on show, how each differs from the list, and has one
-/// opened or put back. Decides nothing: what can be done with a version, EarlierVersions says.
-/// Deletes itself when it is closed.
+/// opened, compared or put back. Decides nothing: what can be done with a version, EarlierVersions
+/// says. Deletes itself when it is closed.
 class VersionsDialog : public QDialog
 {
     Q_OBJECT
@@ -33,6 +33,7 @@ private:
     void showChoice();
     [[nodiscard]] std::optional<std::size_t> chosen() const;
     void openChosen();
+    void compareChosen();
     void putBackChosen();
 
     ViewController &m_controller;
@@ -41,6 +42,7 @@ private:
     QLabel *m_reason;
     QPushButton *m_open;
     QPushButton *m_putBack;
+    QPushButton *m_compare;
 };
 
 } // namespace quillet

@@ -23,8 +23,8 @@
 namespace quillet {
 
 ViewController::ViewController(EditorOutlets &outlets, QObject *parent)
-    : TableController(outlets, parent), m_arranging(shown(), outlets), m_selecting(*this, outlets),
-      m_undoing(*this, outlets)
+    : TableController(outlets, parent), m_arranging(shown(), outlets), m_comparing(*this, outlets),
+      m_selecting(*this, outlets), m_undoing(*this, outlets)
 {
     connect(this, &TableController::documentChanged, this, &ViewController::followDocument);
     connect(&m_editor, &ListEditor::changed, this, [this](const ListChange &change) {

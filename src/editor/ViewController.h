@@ -2,6 +2,7 @@
 
 #include "document/edit/StationEdits.h"
 #include "editor/ArrangeCommands.h"
+#include "editor/CompareCommands.h"
 #include "editor/ComparedWith.h"
 #include "editor/DroppedFiles.h"
 #include "editor/ListEditor.h"
@@ -83,6 +84,9 @@ public:
     [[nodiscard]] const ArrangeCommands &arranging() const { return m_arranging; }
     [[nodiscard]] SelectCommands &selecting() { return m_selecting; }
 
+    /// Comparing the document with other lists.
+    [[nodiscard]] CompareCommands &comparing() { return m_comparing; }
+
     /// Going back and forth through the steps of the document.
     [[nodiscard]] UndoCommands &undoing() { return m_undoing; }
 
@@ -132,6 +136,7 @@ private:
 
     ListEditor m_editor;
     ArrangeCommands m_arranging;
+    CompareCommands m_comparing;
     SelectCommands m_selecting;
     UndoCommands m_undoing;
     DroppedFiles m_droppedFiles;

@@ -19,7 +19,7 @@ using Fields = std::vector<std::pair<const char *, const char *>>;
 QString item(int number, const char *name, const Fields &more = {},
              FileSource source = FileSource::Cable)
 {
-    Item fields = makeStation(number, QString::fromLatin1(name), source);
+    Item fields = makeStation(number, QString::fromUtf8(name), source);
     for (const auto &[key, value] : more)
         fields.push_back({QString::fromLatin1(key), QString::fromLatin1(value)});
     return makeItem(fields);
@@ -86,7 +86,7 @@ private slots:
         const auto row = [](const char *name, const QStringList &first, const QStringList &second,
                             const char *expected) {
             QTest::newRow(name) << digital(first.join(QString())) << digital(second.join(QString()))
-                                << QString::fromLatin1(expected);
+                                << QString::fromUtf8(expected);
         };
         const QString one = item(1, "A", service("7")), two = item(2, "B", service("8"));
         row("equal", {one, two}, {one, two}, "A=A B=B in order");
@@ -120,15 +120,60 @@ private slots:
         row("twins", {item(1, "A"), item(2, "A")}, {item(1, "A"), item(2, "A"), item(3, "A")},
             "A=A A=A =A in order");
 
-        const auto channels = [](const QByteArray &a, const QByteArray &b) {
-            const auto ids = [](const QByteArray &id) {
-                return ChannelOptions{.more = ",\"ONID\":1,\"TSID\":2,\"SVCID\":" + id};
-            };
-            return legacy({QString::fromUtf8(makeChannel(a, "1", ids("7"))),
-                           QString::fromUtf8(makeChannel(b, "2", ids("8")))});
+        row("no service, whatever its number", {item(1, "A", service("0", {{"frequency", "1"}}))},
+            {item(1, "B", service("0", {{"frequency", "2"}}))}, "A= =B in order");
+        row("one service at two frequencies",
+            {item(1, "A", service("7", {{"frequency", "1"}})),
+             item(2, "A", service("7", {{"frequency", "2"}}))},
+            {item(3, "A", service("7", {{"frequency", "2"}, {"x", "1"}})),
+             item(4, "A", service("07", {{"frequency", "1"}}))},
+            "A=Anx A=Anx out of order");
+        row("by frequency and name",
+            {item(1, "A", {{"frequency", "1"}}), item(2, "A", {{"frequency", "2"}})},
+            {item(1, "A", {{"frequency", "2"}, {"x", "1"}}),
+             item(2, "A", {{"frequency", "1"}, {"x", "1"}})},
+            "A=Anx A=Anx out of order");
+        row("by name alone", {item(1, "A", {{"x", "1"}}), item(2, "B", service("8"))},
+            {item(1, "A", {{"x", "2"}}), item(2, "B")}, "A=Ax? B=Bx? in order");
+        row("by a name given twice",
+            {item(1, "A", {{"x", "1"}}), item(2, "A", {{"x", "2"}}), item(3, "B", service("7"))},
+            {item(1, "A", {{"x", "3"}}), item(2, "B", service("7")), item(3, "B")},
+            "A=Ax~ A= B=Bn =B in order");
+        row("by a name that is alike",
+            {item(1, "A B HD", {{"x", "1"}}), item(2, "1 ÄÖ", {{"x", "1"}}),
+             item(3, "ab hd", {{"x", "1"}})},
+            {item(1, "a\u0086bHD\u0087", {{"x", "2"}}), item(2, "1äＯ\u0308", {{"x", "2"}}),
+             item(3, "A B HD", {{"x", "2"}})},
+            "A B HD=A B HDnx? 1 ÄÖ=1äＯ\u0308rx~ ab hd=a\u0086bHD\u0087nrx~ out of order");
+        row("names that say nothing", {item(1, " ", {{"x", "1"}})}, {item(1, "", {{"x", "2"}})},
+            "= = in order");
+
+        const auto channel = [](const QByteArray &name, const QByteArray &number,
+                                const QByteArray &id, const QByteArray &source = "CABLE DIGITAL") {
+            const QByteArray more = ",\"ONID\":1,\"TSID\":2,\"SVCID\":" + id;
+            return QString::fromUtf8(makeChannel(name, number, {.source = source, .more = more}));
         };
-        QTest::newRow("channels") << channels("A", "B") << channels("B", "A")
+        const QString channels = legacy({channel("A", "1", "7"), channel("B", "2", "8")});
+        QTest::newRow("channels") << channels
+                                  << legacy({channel("B", "1", "7"), channel("A", "2", "8")})
                                   << u"A=Br B=Ar in order"_s;
+        QTest::newRow("both variants")
+            << digital(item(1, "A", service(" 08 ")) + item(2, "C", service("0x7")) + one)
+            << legacy(
+                   {channel("B", "1", "8"), channel("A", "2", "7"), channel("c", "3", "\"0X7\"")})
+            << u"A=Br A=A C=cr~ in order"_s;
+        QTest::newRow("both variants, identifiers given twice")
+            << digital(one + item(2, "B", service("7")))
+            << legacy({channel("B", "1", "7"), channel("A", "2", "7.0")})
+            << u"A=An B=Bn out of order"_s;
+        QTest::newRow("elsewhere")
+            << channels
+            << legacy({channel("X", "1", "8"), channel("A", "3", "7", "SATELLITE DIGITAL"),
+                       channel("B", "4", "9", "SATELLITE DIGITAL")})
+            << u"A=Anx@ B=Xnr =B in order"_s;
+        QTest::newRow("elsewhere by name")
+            << legacy({channel("A", "1", "7")})
+            << legacy({channel("A", "1", "8", "SATELLITE DIGITAL")}) << u"A=Ax~@ in order"_s;
         QTest::newRow("several lists") << file(u"<ATV>\r\n"_s + analogue(1, "A", "1") +
                                                u"</ATV>\r\n<DTV>\r\n"_s + one + u"</DTV>\r\n"_s)
                                        << digital(one) << u"A=A A= in order"_s;

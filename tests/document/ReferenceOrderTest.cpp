@@ -63,6 +63,18 @@ void applyByWalking(StationList &stations, const ReferenceList &entries)
     }
 }
 
+/// What a plan says that the list will be.
+QStringList described(const ReferenceOrderPlan &plan)
+{
+    QStringList texts;
+    for (const auto &matched : plan.matched)
+        texts.append(u"%1 was %2"_s.arg(matched.number).arg(matched.station->origPos()));
+    qint64 last = plan.last;
+    for (const StationPtr &station : plan.remaining)
+        texts.append(u"%1 was %2"_s.arg(++last).arg(station->origPos()));
+    return texts;
+}
+
 } // namespace
 
 class ReferenceOrderTest : public QObject
@@ -172,9 +184,12 @@ private slots:
             ReferenceList entries;
             for (int i = 0; i < random.bounded(15); ++i)
                 entries.push_back({QString::number(random.bounded(30)), name().toLower(), ids()});
+            const ReferenceOrderPlan plan = planReferenceOrder(fast, entries);
             applyReferenceOrder(fast, entries);
             applyByWalking(slow, entries);
             QCOMPARE(described(fast), described(slow));
+            QCOMPARE(described(plan), described(slow));
+            QCOMPARE(plan.matched.size() + plan.unused.size(), entries.size());
         }
     }
 };

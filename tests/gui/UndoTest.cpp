@@ -143,7 +143,7 @@ private slots:
     void everyEditHasItsWords()
     {
         const App app;
-        for (int kind = 0; kind <= static_cast<int>(EditSummary::Kind::Ordered); ++kind) {
+        for (int kind = 0; kind <= static_cast<int>(EditSummary::Kind::Imported); ++kind) {
             for (const std::size_t stations : {1, 2}) {
                 const EditSummary summary{.kind = static_cast<EditSummary::Kind>(kind),
                                           .stations = stations,

@@ -140,7 +140,8 @@ std::optional<QChar> namedSeparator(QStringView text)
     const qsizetype at = separatorMark.size();
     const bool isNamed = text.size() > at && text.startsWith(separatorMark, Qt::CaseInsensitive) &&
                          (text.size() == at + 1 || isLineEnd(text[at + 1]));
-    return isNamed && !isLineEnd(text[at]) ? std::optional(text[at]) : std::nullopt;
+    return isNamed && !isLineEnd(text[at]) && text[at] != quote ? std::optional(text[at])
+                                                                : std::nullopt;
 }
 
 /// How well a separator explains the first rows: how many of them have the cells of the first one,
@@ -189,10 +190,11 @@ void SeparatedText::addCell(const QString &cell, bool isQuoted)
 
 void SeparatedText::addRow(const QStringList &cells)
 {
-    // A row of one empty cell would be none, and the first cell could name a separator.
-    const bool isFirst = m_text.isEmpty();
-    bool isQuoted = !cells.isEmpty() && (cells.size() == 1 ? cells.front().isEmpty() : false);
-    isQuoted = isQuoted || (isFirst && !cells.isEmpty() && namedSeparator(cells.front()));
+    // A row of one empty cell would be none, and what the first line begins with could name a
+    // separator.
+    const bool isQuoted =
+        (cells.size() == 1 && cells.front().isEmpty()) ||
+        (m_text.isEmpty() && cells.front().startsWith(separatorMark, Qt::CaseInsensitive));
     for (qsizetype i = 0; i < cells.size(); ++i) {
         if (i > 0)
             m_text += m_separator;

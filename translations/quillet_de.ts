@@ -1124,7 +1124,7 @@
     </message>
     <message id="kMenuImport">
         <source></source>
-        <translation>Änderungen i&amp;mportieren …</translation>
+        <translation>Änderungen &amp;importieren …</translation>
     </message>
     <message id="kMenuInfo">
         <source></source>

@@ -1124,7 +1124,7 @@
     </message>
     <message id="kMenuImport">
         <source></source>
-        <translation>I&amp;mport Changes…</translation>
+        <translation>Impor&amp;t Changes…</translation>
     </message>
     <message id="kMenuInfo">
         <source></source>

@@ -1124,7 +1124,7 @@
     </message>
     <message id="kMenuImport">
         <source></source>
-        <translation>I&amp;mportar cambios…</translation>
+        <translation>Im&amp;portar cambios…</translation>
     </message>
     <message id="kMenuInfo">
         <source></source>

@@ -1124,7 +1124,7 @@
     </message>
     <message id="kMenuImport">
         <source></source>
-        <translation>I&amp;mporter des modifications…</translation>
+        <translation>Impor&amp;ter des modifications…</translation>
     </message>
     <message id="kMenuInfo">
         <source></source>

@@ -1060,7 +1060,7 @@
     </message>
     <message id="kMenuExportList">
         <source></source>
-        <translation>Esporta in altri &amp;formati…</translation>
+        <translation>Esporta ta&amp;bella o pagina…</translation>
     </message>
     <message id="kMenuFile">
         <source></source>

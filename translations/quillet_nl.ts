@@ -1124,7 +1124,7 @@
     </message>
     <message id="kMenuImport">
         <source></source>
-        <translation>Wijzigingen i&amp;mporteren…</translation>
+        <translation>W&amp;ijzigingen importeren…</translation>
     </message>
     <message id="kMenuInfo">
         <source></source>

@@ -595,7 +595,7 @@
     </message>
     <message id="kExportKeys">
         <source></source>
-        <translation>Mit &amp;Senderschlüsseln, um Änderungen zu importieren</translation>
+        <translation>&amp;Mit Senderschlüsseln, um Änderungen zu importieren</translation>
     </message>
     <message id="kExportListTitle">
         <source></source>
@@ -606,6 +606,13 @@
         <translation>
             <numerusform>%n Zeichen lässt sich so nicht schreiben; an seiner Stelle steht „?“.</numerusform>
             <numerusform>%n Zeichen lassen sich so nicht schreiben; an ihrer Stelle steht „?“.</numerusform>
+        </translation>
+    </message>
+    <message id="kExportNumbers" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n Sender hat Zahlen als Kennungen: Listen mit Kennungen als Text erkennen ihn daran wieder, diese Liste nur an seinem Namen.</numerusform>
+            <numerusform>%n Sender haben Zahlen als Kennungen: Listen mit Kennungen als Text erkennen sie daran wieder, diese Liste nur an ihren Namen.</numerusform>
         </translation>
     </message>
     <message id="kExportOK">

@@ -608,6 +608,13 @@
             <numerusform>%n characters cannot be written so; “?” stands in their place.</numerusform>
         </translation>
     </message>
+    <message id="kExportNumbers" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n station has numbers as identifiers: lists with identifiers as text find it again by those, this list by its name alone.</numerusform>
+            <numerusform>%n stations have numbers as identifiers: lists with identifiers as text find them again by those, this list by their names alone.</numerusform>
+        </translation>
+    </message>
     <message id="kExportOK">
         <source></source>
         <translation>Export…</translation>

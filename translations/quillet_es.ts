@@ -608,6 +608,13 @@
             <numerusform>%n caracteres no se pueden escribir así; en su lugar aparece «?».</numerusform>
         </translation>
     </message>
+    <message id="kExportNumbers" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canal tiene números como identificadores: las listas con identificadores de texto lo reconocen por ellos; esta lista, solo por su nombre.</numerusform>
+            <numerusform>%n canales tienen números como identificadores: las listas con identificadores de texto los reconocen por ellos; esta lista, solo por su nombre.</numerusform>
+        </translation>
+    </message>
     <message id="kExportOK">
         <source></source>
         <translation>Exportar…</translation>

@@ -608,6 +608,13 @@
             <numerusform>%n caractères ne peuvent pas être écrits ainsi ; « ? » les remplace.</numerusform>
         </translation>
     </message>
+    <message id="kExportNumbers" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n chaîne a des nombres comme identifiants : les listes dont les identifiants sont du texte la reconnaissent ainsi, cette liste par son nom seulement.</numerusform>
+            <numerusform>%n chaînes ont des nombres comme identifiants : les listes dont les identifiants sont du texte les reconnaissent ainsi, cette liste par leur nom seulement.</numerusform>
+        </translation>
+    </message>
     <message id="kExportOK">
         <source></source>
         <translation>Exporter…</translation>

@@ -608,6 +608,13 @@
             <numerusform>%n caratteri non possono essere scritti così; al loro posto c’è «?».</numerusform>
         </translation>
     </message>
+    <message id="kExportNumbers" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canale ha numeri come identificatori: le liste con identificatori di testo lo riconoscono da quelli, questa lista solo dal nome.</numerusform>
+            <numerusform>%n canali hanno numeri come identificatori: le liste con identificatori di testo li riconoscono da quelli, questa lista solo dal nome.</numerusform>
+        </translation>
+    </message>
     <message id="kExportOK">
         <source></source>
         <translation>Esporta…</translation>

@@ -595,7 +595,7 @@
     </message>
     <message id="kExportKeys">
         <source></source>
-        <translation>Met &amp;zendersleutels, om wijzigingen te importeren</translation>
+        <translation>&amp;Met zendersleutels, om wijzigingen te importeren</translation>
     </message>
     <message id="kExportListTitle">
         <source></source>
@@ -606,6 +606,13 @@
         <translation>
             <numerusform>%n teken kan zo niet worden geschreven; daarvoor staat “?” in de plaats.</numerusform>
             <numerusform>%n tekens kunnen zo niet worden geschreven; daarvoor staat “?” in de plaats.</numerusform>
+        </translation>
+    </message>
+    <message id="kExportNumbers" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n zender heeft getallen als ID’s: lijsten met ID’s als tekst herkennen hem daaraan, deze lijst alleen aan zijn naam.</numerusform>
+            <numerusform>%n zenders hebben getallen als ID’s: lijsten met ID’s als tekst herkennen ze daaraan, deze lijst alleen aan hun naam.</numerusform>
         </translation>
     </message>
     <message id="kExportOK">

@@ -613,7 +613,7 @@
     </message>
     <message id="kExportKeys">
         <source></source>
-        <translation>Z k&amp;luczami kanałów, aby importować zmiany</translation>
+        <translation>&amp;Z kluczami kanałów, aby importować zmiany</translation>
     </message>
     <message id="kExportListTitle">
         <source></source>
@@ -625,6 +625,14 @@
             <numerusform>%n znaku nie da się tak zapisać; zamiast niego jest „?”.</numerusform>
             <numerusform>%n znaków nie da się tak zapisać; zamiast nich jest „?”.</numerusform>
             <numerusform>%n znaków nie da się tak zapisać; zamiast nich jest „?”.</numerusform>
+        </translation>
+    </message>
+    <message id="kExportNumbers" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n kanał ma liczby jako identyfikatory: listy z identyfikatorami tekstowymi rozpoznają go po nich, ta lista tylko po nazwie.</numerusform>
+            <numerusform>%n kanały mają liczby jako identyfikatory: listy z identyfikatorami tekstowymi rozpoznają je po nich, ta lista tylko po nazwach.</numerusform>
+            <numerusform>%n kanałów ma liczby jako identyfikatory: listy z identyfikatorami tekstowymi rozpoznają je po nich, ta lista tylko po nazwach.</numerusform>
         </translation>
     </message>
     <message id="kExportOK">

@@ -561,7 +561,7 @@
     </message>
     <message id="kExportEncoding">
         <source></source>
-        <translation>&amp;Kodlama:</translation>
+        <translation>K&amp;odlama:</translation>
     </message>
     <message id="kExportExplanation">
         <source></source>
@@ -587,6 +587,12 @@
         <source></source>
         <translation>
             <numerusform>%n karakter böyle yazılamıyor; yerine “?” konuyor.</numerusform>
+        </translation>
+    </message>
+    <message id="kExportNumbers" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n kanalın tanımlayıcıları sayı: tanımlayıcıları metin olan listeler onu bunlardan, bu liste yalnızca adından tanır.</numerusform>
         </translation>
     </message>
     <message id="kExportOK">

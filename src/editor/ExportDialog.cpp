@@ -69,8 +69,9 @@ ExportOptions lastOptions()
     const QSettings settings;
     ExportOptions options;
     options.format = static_cast<Format>(settings.value(formatKey).toInt());
-    options.separator =
-        QChar(settings.value(separatorKey, usualSeparator().unicode()).value<char16_t>());
+    const int separator =
+        settings.value(separatorKey, static_cast<int>(usualSeparator().unicode())).toInt();
+    options.separator = QChar(static_cast<char16_t>(separator));
     options.form = static_cast<TextForm>(settings.value(formKey).toInt());
     options.hasKeys = settings.value(hasKeysKey, options.hasKeys).toBool();
     return options;
@@ -152,7 +153,7 @@ void ExportDialog::remember() const
     const ExportOptions chosen = options();
     QSettings settings;
     settings.setValue(formatKey, static_cast<int>(chosen.format));
-    settings.setValue(separatorKey, chosen.separator.unicode());
+    settings.setValue(separatorKey, static_cast<int>(chosen.separator.unicode()));
     settings.setValue(formKey, static_cast<int>(chosen.form));
     settings.setValue(hasKeysKey, chosen.hasKeys);
 }

@@ -172,6 +172,7 @@ ListExport::Made ListExport::makeReferenceList(const ExportOptions &options) con
         made.remarks.append(qtTrId("kExportTooShort"));
     remark("kExportChangedNames", text.changedNames, made.remarks);
     remark("kExportByName", text.byNameAlone, made.remarks);
+    remark("kExportNumbers", text.withNumbers, made.remarks);
     return made;
 }
 

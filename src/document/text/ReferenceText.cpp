@@ -37,6 +37,12 @@ std::optional<QString> identifiersOf(const LGStation &station)
     return parts.join(u'-');
 }
 
+/// By which a reference list is matched.
+bool areTexts(const LGStation &station)
+{
+    return station.service_id() && station.transport_id() && station.originalNetwork_id();
+}
+
 } // namespace
 
 ReferenceText referenceText(const StationList &stations)
@@ -55,6 +61,7 @@ ReferenceText referenceText(const StationList &stations)
         const std::optional<QString> identifiers = identifiersOf(*station);
         made.changedNames += isChanged ? 1 : 0;
         made.byNameAlone += identifiers ? 0 : 1;
+        made.withNumbers += identifiers && !areTexts(*station) ? 1 : 0;
         text += station->progNumString() + separator + name + separator +
                 identifiers.value_or(noIdentifiers) + QStringLiteral("\r\n");
     }

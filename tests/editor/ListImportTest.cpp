@@ -210,6 +210,27 @@ private slots:
         QVERIFY(!imported->lists.list(true, source)->empty());
     }
 
+    /// Names where stations may be renamed, and marks, are changed in one step.
+    void namesAndMarksComeBack()
+    {
+        Editor editor(lettered({1, 2, 3}, FileSource::Analogue));
+        editor.clickSegment(static_cast<int>(StationSource::Analogue));
+        const auto edit = [](std::vector<QStringList> &rows) {
+            rows[1] = {u"1,00"_s, u"\u00C4rte"_s, u"x"_s, {}, rows[1].last()};
+            rows[2] = {{}, {}, {}, u"JA"_s, rows[2].last()};
+            rows[3] = {u"3"_s, u" C "_s, {}, {}, rows[3].last()};
+        };
+        QString reason;
+        const QByteArray exported = ListExport(editor.controller, usualColumns()).make({}).bytes;
+        const auto imported = importedTable(edited(exported, u',', TextForm::MarkedUtf8, edit), {},
+                                            editor.document, reason);
+        QVERIFY2(imported, qPrintable(reason));
+        std::make_shared<StationComparison>(editor.controller, *imported)->takeOverAll();
+        QCOMPARE(editor.rows(), u"1 \u00C4rte s, 2 B b, 3 C"_s);
+        editor.controller.undoing().undo();
+        QCOMPARE(editor.rows(), u"1 A, 2 B, 3 C"_s);
+    }
+
     /// Whoever asks sees the comparison, or why there is none; nothing is changed by that.
     void tellsWhatComesOfAFile()
     {

@@ -6,10 +6,15 @@
 #include "document/text/TextBytes.h"
 #include "editor/ColumnTitles.h"
 #include "editor/SourceTitles.h"
+#include "files/FileNames.h"
+#include "files/FileReading.h"
+
+#include <QFileInfo>
+#include <QUrl>
 
 #include <algorithm>
 #include <array>
-#include <optional>
+#include <new>
 #include <utility>
 
 namespace quillet {
@@ -170,6 +175,21 @@ std::optional<ComparedWith> importedTable(const QByteArray &bytes, const QString
         return {};
     }
     return comparedWith(*rows, document, ComparedWith::Purpose::Import, name);
+}
+
+std::optional<ComparedWith> importedFile(const QString &path, const TLLDocument &document,
+                                         QString &reason)
+{
+    try {
+        QByteArray bytes;
+        Error error;
+        if (readFile(QUrl::fromLocalFile(path), bytes, error))
+            return importedTable(bytes, readable(QFileInfo(path).fileName()), document, reason);
+        reason = error.text();
+    } catch (const std::bad_alloc &) {
+        reason = qtTrId("kNoMemoryReason");
+    }
+    return {};
 }
 
 } // namespace quillet

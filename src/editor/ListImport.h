@@ -5,6 +5,8 @@
 #include <QByteArray>
 #include <QString>
 
+#include <optional>
+
 namespace quillet {
 
 class TLLDocument;
@@ -27,5 +29,8 @@ struct TextFault;
                                                         const QString &name,
                                                         const TLLDocument &document,
                                                         QString &reason);
+/// The same of a file.
+[[nodiscard]] std::optional<ComparedWith>
+importedFile(const QString &path, const TLLDocument &document, QString &reason);
 
 } // namespace quillet

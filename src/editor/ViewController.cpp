@@ -7,16 +7,13 @@
 #include "editor/SourceTitles.h"
 #include "editor/StationColumns.h"
 #include "files/FileNames.h"
-#include "files/FileReading.h"
 #include "support/LenientNumber.h"
 
 #include <QFileInfo>
 #include <QSet>
 #include <QTimer>
-#include <QUrl>
 
 #include <algorithm>
-#include <new>
 #include <numeric>
 #include <utility>
 
@@ -331,23 +328,11 @@ void ViewController::importChangesFile(const QString &path)
 {
     if (!stationDoc())
         return;
-    const QString name = readable(QFileInfo(path).fileName());
     QString reason;
-    std::optional<ComparedWith> compared;
-    try {
-        QByteArray bytes;
-        Error error;
-        if (readFile(QUrl::fromLocalFile(path), bytes, error))
-            compared = importedTable(bytes, name, *stationDoc(), reason);
-        else
-            reason = error.text();
-    } catch (const std::bad_alloc &) {
-        reason = qtTrId("kNoMemoryReason");
-    }
-    if (compared)
-        emit comparisonWanted(*compared);
+    if (const std::optional<ComparedWith> rows = importedFile(path, *stationDoc(), reason))
+        emit comparisonWanted(*rows);
     else
-        showError(reason, qtTrId("kImportFailed").arg(name));
+        showError(reason, qtTrId("kImportFailed").arg(readable(QFileInfo(path).fileName())));
 }
 
 bool ViewController::putBack(const ChannelList &version, const QString &name)

@@ -1,6 +1,7 @@
 #include "document/text/StationRows.h"
 
 #include "document/text/CellValues.h"
+#include "document/text/RowReading.h"
 #include "document/text/StationKey.h"
 #include "model/CleanName.h"
 #include "model/LGLegacyStation.h"
@@ -84,119 +85,12 @@ std::vector<bool> columnsOfSetMarks(const SeparatedTable &table, const Columns &
     return anySet;
 }
 
-void setText(LGStation &station, const QString &field, const QString &text)
+void add(StationRows &rows, const RowReading &row, qsizetype line)
 {
-    if (!text.isEmpty())
-        station.setField(field, Value(text));
-}
-
-void takeKey(const StationKey &key, LGStation &station)
-{
-    const StationKeys &keys = station.keys();
-    setText(station, keys.keyOriginalNetwork_id, key.network);
-    setText(station, keys.keyTransport_id, key.transport);
-    setText(station, keys.keyService_id, key.service);
-    setText(station, keys.keyFrequency, key.frequency);
-}
-
-/// One row on its way to a record.
-struct RowReading
-{
-    StationPtr station;
-    StationDifferences told;
-    std::optional<StationKey> key;
-
-    /// False when the cell does not hold what its column tells.
-    bool take(RowField field, const QString &text, TextFault::Kind &kind);
-
-private:
-    bool takeNumber(const QString &text);
-    bool takeMark(RowField field, const QString &text);
-    void takeIdentifier(const QString &field, const QString &text);
-};
-
-bool RowReading::takeNumber(const QString &text)
-{
-    const std::optional<qint64> number = wholeNumberOf(text);
-    if (!number || *number < 1 || !LGStation::canCarry(*number))
-        return false;
-    station->setProgramNum(*number);
-    told |= StationDifference::Number;
-    return true;
-}
-
-bool RowReading::takeMark(RowField field, const QString &text)
-{
-    const std::optional<bool> mark = markOf(text);
-    if (!mark)
-        return false;
-    if (field == RowField::Skipped)
-        station->setSkipped(*mark);
-    else
-        station->setBlocked(*mark);
-    told |= field == RowField::Skipped ? StationDifference::Skipped : StationDifference::Locked;
-    return true;
-}
-
-/// Spreadsheets may group the digits of one that they took for a number.
-void RowReading::takeIdentifier(const QString &field, const QString &text)
-{
-    const std::optional<qint64> number = wholeNumberOf(text);
-    setText(*station, field, number ? QString::number(*number) : text.trimmed());
-}
-
-bool RowReading::take(RowField field, const QString &text, TextFault::Kind &kind)
-{
-    const StationKeys &keys = station->keys();
-    switch (field) {
-    case RowField::Number:
-        kind = TextFault::Kind::BadNumber;
-        return takeNumber(text);
-    case RowField::Skipped:
-    case RowField::Locked:
-        kind = TextFault::Kind::BadMark;
-        return takeMark(field, text);
-    case RowField::Name:
-        // As the name that was read: it is text, and nothing is to be decoded.
-        setText(*station, keys.keyStationName, text);
-        station->setName(text);
-        told |= StationDifference::Name;
-        return true;
-    case RowField::NetworkId:
-        takeIdentifier(keys.keyNetwork_id, text);
-        return true;
-    case RowField::TransportStreamId:
-        takeIdentifier(keys.keyTransport_id, text);
-        return true;
-    case RowField::ServiceId:
-        takeIdentifier(keys.keyService_id, text);
-        return true;
-    case RowField::Frequency:
-        if (const std::optional<qint64> frequency = frequencyOf(text))
-            setText(*station, keys.keyFrequency, QString::number(*frequency));
-        return true;
-    case RowField::Key:
-        key = StationKey::fromText(text);
-        return true;
-    case RowField::Other:
-        return true;
-    }
-    return true;
-}
-
-void add(StationRows &rows, RowReading row, qsizetype line)
-{
-    if (row.key)
-        takeKey(*row.key, *row.station);
-    rows.stations.push_back(std::move(row.station));
-    rows.told.push_back(row.told);
+    rows.stations.push_back(row.station());
+    rows.told.push_back(row.told());
     rows.lines.push_back(line);
-    rows.keys.push_back(row.key ? std::optional(row.key->text()) : std::nullopt);
-}
-
-StationPtr emptyRecord(std::size_t place)
-{
-    return std::make_shared<LGStation>(Dictionary(), static_cast<qint64>(place));
+    rows.keys.push_back(row.key() ? std::optional(row.key()->text()) : std::nullopt);
 }
 
 /// What a spreadsheet surely keeps of a name: not the blanks around it and the codes of the
@@ -304,7 +198,7 @@ std::optional<StationRows> stationRows(const SeparatedTable &table, const RowTit
     for (auto row = std::next(head); row != table.rows.end(); ++row) {
         if (isBlank(*row))
             continue;
-        RowReading reading{emptyRecord(rows.stations.size()), {}, {}};
+        RowReading reading(rows.stations.size());
         for (std::size_t i = 0; i < row->size(); ++i) {
             const SeparatedCell &cell = (*row)[i];
             const bool isEmpty = isBlank(cell.text);
@@ -317,7 +211,7 @@ std::optional<StationRows> stationRows(const SeparatedTable &table, const RowTit
                 return {};
             }
         }
-        add(rows, std::move(reading), row->front().line);
+        add(rows, reading, row->front().line);
     }
     if (rows.stations.empty()) {
         fault = {TextFault::Kind::NoRows, head->front().line, head->front().column, {}};
@@ -335,7 +229,9 @@ StationRows stationRowsWithoutTitles(const SeparatedTable &table)
             // "N24" is a name.
             if (!key || key->service.isEmpty() || key->transport.isEmpty())
                 continue;
-            add(rows, {emptyRecord(rows.stations.size()), {}, key}, row.front().line);
+            RowReading reading(rows.stations.size());
+            reading.takeKey(*key);
+            add(rows, reading, row.front().line);
             break;
         }
     }

@@ -2,6 +2,7 @@
 // scripts/bench.
 
 #include "bench/ChildProcesses.h"
+#include "bench/CompareBenchmarks.h"
 #include "bench/DocumentBenchmarks.h"
 #include "bench/EditorBenchmarks.h"
 #include "bench/Figures.h"
@@ -51,6 +52,11 @@ constexpr std::array ratios{
           1, 0.5},
     Ratio{"the same, by names only / B", figure::orderByName, figure::bare10k, 1, 0.5},
     Ratio{"the same, of other stations / B", figure::orderOfStrangers, figure::bare10k, 1, 0.5},
+    Ratio{"compare 10,000 with 10,000 / B", figure::compareMoved, figure::bare10k, 1, 0.6},
+    Ratio{"the same, by names only / B", figure::compareByName, figure::bare10k, 1, 0.6},
+    Ratio{"the same, without identifiers / B", figure::compareUnknown, figure::bare10k, 1, 0.6},
+    Ratio{"the same, with other stations / B", figure::compareStrangers, figure::bare10k, 1, 0.6},
+    Ratio{"the same, with JSON channels / B", figure::compareChannels, figure::bare10k, 1, 0.6},
     Ratio{"load 10,000 JSON channels / J", figure::loadJSON, figure::bareJSON, 1, 2.5},
     Ratio{"save 10,000 JSON channels / J", figure::saveJSON, figure::bareJSON, 1, 1.5},
     Ratio{"rehearse saving 10,000 stations / load", figure::rehearse10k, figure::load10k, 1, 1.2},
@@ -170,6 +176,7 @@ int main(int argc, char *argv[])
     registerDocumentBenchmarks(files);
     registerEditorBenchmarks(files.stations10k);
     registerOrderBenchmarks(files.stations10k);
+    registerCompareBenchmarks(files.stations10k, files.channels10k);
     registerGrowthBenchmarks();
     Medians medians;
     if (!runBenchmarks({argv + 2, argv + argc}, medians))

@@ -13,7 +13,7 @@ namespace {
 
 StationDifferences differencesOf(const LGStation &a, const LGStation &b)
 {
-    if (a.entry() == b.entry())
+    if (haveSameContent(a, b))
         return {};
     StationDifferences differences;
     differences.setFlag(StationDifference::Number, a.progNum() != b.progNum());
@@ -44,74 +44,6 @@ void add(const ComparedStation &station, ListComparison &comparison)
     comparison.fields += count(StationDifference::Fields);
 }
 
-void compareLists(const StationList &first, const StationList &second, ComparedLists &compared,
-                  bool &isSameOrder)
-{
-    std::vector<bool> isMatched(second.size());
-    const std::vector<std::optional<StationPair>> pairs = pairStations(first, second);
-    compared.stations.reserve(std::max(first.size(), second.size()));
-    std::size_t next = 0; // in the second list
-    for (std::size_t i = 0; i < first.size(); ++i) {
-        ComparedStation &station = compared.stations.emplace_back();
-        station.first = first[i];
-        if (!pairs[i])
-            continue;
-        const auto [index, likeness] = *pairs[i];
-        isMatched[index] = true;
-        isSameOrder = isSameOrder && index >= next;
-        next = index + 1;
-        station.second = second[index];
-        station.likeness = likeness;
-        station.differences = differencesOf(*station.first, *station.second);
-    }
-    for (std::size_t i = 0; i < second.size(); ++i) {
-        if (!isMatched[i])
-            compared.stations.push_back({nullptr, second[i]});
-    }
-}
-
-/// Matches what is left over in the lists of a mode, each with its list.
-void compareAcross(std::vector<ComparedLists> &lists, bool isTV)
-{
-    StationList first, second;
-    std::vector<std::pair<std::size_t, std::size_t>> firstPlaces, secondPlaces;
-    for (std::size_t list = 0; list < lists.size(); ++list) {
-        if (lists[list].isTV != isTV)
-            continue;
-        for (std::size_t i = 0; i < lists[list].stations.size(); ++i) {
-            const ComparedStation &station = lists[list].stations[i];
-            if (!station.second) {
-                first.push_back(station.first);
-                firstPlaces.emplace_back(list, i);
-            } else if (!station.first) {
-                second.push_back(station.second);
-                secondPlaces.emplace_back(list, i);
-            }
-        }
-    }
-    if (first.empty() || second.empty())
-        return;
-    const std::vector<std::optional<StationPair>> pairs = pairStations(first, second);
-    for (std::size_t i = 0; i < pairs.size(); ++i) {
-        if (!pairs[i])
-            continue;
-        const auto [list, place] = firstPlaces[i];
-        const auto [otherList, otherPlace] = secondPlaces[pairs[i]->index];
-        ComparedStation &station = lists[list].stations[place];
-        station.second = std::exchange(lists[otherList].stations[otherPlace].second, nullptr);
-        station.isElsewhere = list != otherList;
-        // What has one name on a satellite and in a cable need not be one station.
-        const bool isSure = pairs[i]->likeness == Likeness::Sure;
-        station.likeness = isSure ? Likeness::Sure : Likeness::Loose;
-        station.differences = differencesOf(*station.first, *station.second);
-    }
-    for (ComparedLists &compared : lists) {
-        std::erase_if(compared.stations, [](const ComparedStation &station) {
-            return !station.first && !station.second;
-        });
-    }
-}
-
 void count(ListComparison &comparison)
 {
     for (const ComparedLists &compared : comparison.lists) {
@@ -120,9 +52,117 @@ void count(ListComparison &comparison)
     }
 }
 
+/// The work of comparing two channel lists.
+class Comparing
+{
+public:
+    explicit Comparing(std::size_t stations) { m_pairing.reserve(stations); }
+    void compareLists(const StationList &first, const StationList &second,
+                      ComparedLists &&compared);
+    void compareAcross(bool isTV);
+    [[nodiscard]] ListComparison take();
+
+private:
+    /// A station that is in one list alone: which row of which list tells it.
+    struct LeftOver
+    {
+        std::size_t list;
+        std::size_t row;
+        std::size_t place; ///< by which the pairing names it
+    };
+    [[nodiscard]] std::vector<std::size_t> added(const StationList &list);
+
+    StationPairing m_pairing;
+    ListComparison m_comparison;
+    std::vector<LeftOver> m_ofFirst, m_ofSecond; ///< of the mode at hand
+};
+
+std::vector<std::size_t> Comparing::added(const StationList &list)
+{
+    std::vector<std::size_t> places;
+    places.reserve(list.size());
+    for (const StationPtr &station : list)
+        places.push_back(m_pairing.add(*station));
+    return places;
+}
+
+void Comparing::compareLists(const StationList &first, const StationList &second,
+                             ComparedLists &&compared)
+{
+    const std::size_t list = m_comparison.lists.size();
+    const std::vector<std::size_t> places = added(first), otherPlaces = added(second);
+    const StationPairing::Pairs pairs = m_pairing.pair(places, otherPlaces);
+    std::vector<ComparedStation> &rows = compared.stations;
+    rows.reserve(std::max(first.size(), second.size()));
+    std::vector<bool> isMatched(second.size());
+    std::size_t next = 0; // in the second list
+    for (std::size_t i = 0; i < first.size(); ++i) {
+        ComparedStation &row = rows.emplace_back();
+        row.first = first[i];
+        if (!pairs[i]) {
+            m_ofFirst.push_back({list, i, places[i]});
+            continue;
+        }
+        const auto [index, likeness] = *pairs[i];
+        isMatched[index] = true;
+        m_comparison.isSameOrder = m_comparison.isSameOrder && index >= next;
+        next = index + 1;
+        row.second = second[index];
+        row.likeness = likeness;
+        row.differences = differencesOf(*row.first, *row.second);
+    }
+    for (std::size_t j = 0; j < second.size(); ++j) {
+        if (isMatched[j])
+            continue;
+        m_ofSecond.push_back({list, rows.size(), otherPlaces[j]});
+        rows.push_back({nullptr, second[j]});
+    }
+    m_comparison.lists.push_back(std::move(compared));
+}
+
+/// Matches what is left over in the lists of a mode.
+void Comparing::compareAcross(bool isTV)
+{
+    const std::vector<LeftOver> first = std::exchange(m_ofFirst, {});
+    const std::vector<LeftOver> second = std::exchange(m_ofSecond, {});
+    if (first.empty() || second.empty())
+        return;
+    const auto placesOf = [](const std::vector<LeftOver> &stations) {
+        std::vector<std::size_t> places;
+        for (const LeftOver &station : stations)
+            places.push_back(station.place);
+        return places;
+    };
+    const StationPairing::Pairs pairs = m_pairing.pair(placesOf(first), placesOf(second));
+    std::vector<ComparedLists> &lists = m_comparison.lists;
+    for (std::size_t i = 0; i < pairs.size(); ++i) {
+        if (!pairs[i])
+            continue;
+        const LeftOver &other = second[pairs[i]->index];
+        ComparedStation &row = lists[first[i].list].stations[first[i].row];
+        row.second = std::exchange(lists[other.list].stations[other.row].second, nullptr);
+        row.isElsewhere = first[i].list != other.list;
+        // What has one name on a satellite and in a cable need not be one station.
+        const bool isSure = pairs[i]->likeness == Likeness::Sure;
+        row.likeness = isSure ? Likeness::Sure : Likeness::Loose;
+        row.differences = differencesOf(*row.first, *row.second);
+    }
+    for (ComparedLists &compared : lists) {
+        if (compared.isTV == isTV)
+            std::erase_if(compared.stations,
+                          [](const ComparedStation &row) { return !row.first && !row.second; });
+    }
+}
+
+ListComparison Comparing::take()
+{
+    count(m_comparison);
+    return std::move(m_comparison);
+}
+
 StationPtr copyOf(const LGStation &station)
 {
-    if (dynamic_cast<const LGLegacyStation *>(&station))
+    if (isOfLegacyFormat(station))
         return std::make_shared<LGLegacyStation>(station.entry(), station.origPos());
     return std::make_shared<LGStation>(station.entry(), station.origPos());
 }
@@ -137,25 +177,28 @@ bool ListComparison::isEmpty() const
 
 ListComparison compare(const StationLists &first, const StationLists &second)
 {
-    static const StationListPtr none = std::make_shared<StationList>();
-    ListComparison comparison;
-    for (const bool isTV : {true, false}) {
-        for (const StationSource source : stationSources) {
-            const auto listOf = [isTV, source](const StationLists &lists) {
-                const StationListPtr &list = lists.list(isTV, static_cast<int>(source));
-                return list ? list : none;
-            };
-            const StationListPtr one = listOf(first), other = listOf(second);
-            if (one->empty() && other->empty())
-                continue;
-            ComparedLists compared{isTV, static_cast<int>(source), {}};
-            compareLists(*one, *other, compared, comparison.isSameOrder);
-            comparison.lists.push_back(std::move(compared));
-        }
-        compareAcross(comparison.lists, isTV);
+    const auto listOf = [](const StationLists &lists, bool isTV,
+                           int source) -> const StationList & {
+        static const StationList none;
+        const StationListPtr &list = lists.list(isTV, source);
+        return list ? *list : none;
+    };
+    std::size_t count = 0;
+    for (int i = 0; i < 2 * stationSourceCount; ++i) {
+        for (const StationLists *lists : {&first, &second})
+            count += listOf(*lists, i % 2 == 0, i / 2).size();
     }
-    count(comparison);
-    return comparison;
+    Comparing comparing(count);
+    for (const bool isTV : {true, false}) {
+        for (int source = 0; source < stationSourceCount; ++source) {
+            const StationList &one = listOf(first, isTV, source);
+            const StationList &other = listOf(second, isTV, source);
+            if (!one.empty() || !other.empty())
+                comparing.compareLists(one, other, {isTV, source, {}});
+        }
+        comparing.compareAcross(isTV);
+    }
+    return comparing.take();
 }
 
 void keepOnlyTold(ListComparison &comparison,

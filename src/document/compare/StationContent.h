@@ -3,26 +3,47 @@
 #include "model/LGStation.h"
 
 #include <QHash>
-#include <QStringList>
 
 #include <cstddef>
+#include <vector>
 
 namespace quillet {
 
-/// The fields that editing changes.
-[[nodiscard]] QStringList editedKeys(const LGStation &station);
+/// Whether it is a record of the file variant that keeps stations as JSON.
+[[nodiscard]] bool isOfLegacyFormat(const LGStation &station);
 
-/// Whether two records, of one variant of the file, hold the same besides the edited fields.
+/// Whether two records hold the same.
+[[nodiscard]] bool haveSameContent(const LGStation &a, const LGStation &b);
+/// Whether two records are of one variant of the file and hold the same besides the fields that
+/// editing changes.
 [[nodiscard]] bool haveSameUnedited(const LGStation &a, const LGStation &b);
 
 /// Hashes of all that a station holds and of what editing leaves of it, whatever the order of its
-/// fields.
+/// fields; 0 of nothing.
 struct ContentHashes
 {
     std::size_t all = 0;
     std::size_t unedited = 0;
 };
-[[nodiscard]] ContentHashes contentHashes(const LGStation &station);
+
+/// Makes them, the quicker the more stations in turn share their table of keys.
+class ContentHasher
+{
+public:
+    [[nodiscard]] ContentHashes hashesOf(const LGStation &station);
+
+private:
+    struct Field
+    {
+        std::size_t hash; ///< of its key
+        bool isEdited;
+    };
+    void readKeys(const LGStation &station);
+
+    Dictionary::Keys m_keys; ///< whose fields these are
+    std::vector<Field> m_fields;
+    bool m_isLegacy = false;
+};
 
 /// All that a station holds, as a key. Valid as long as the station.
 struct WholeContent
@@ -32,7 +53,7 @@ struct WholeContent
 
     bool operator==(const WholeContent &other) const
     {
-        return hash == other.hash && station->entry() == other.station->entry();
+        return hash == other.hash && haveSameContent(*station, *other.station);
     }
 };
 [[nodiscard]] inline std::size_t qHash(const WholeContent &content, std::size_t seed = 0)

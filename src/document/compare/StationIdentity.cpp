@@ -1,6 +1,5 @@
 #include "document/compare/StationIdentity.h"
 
-#include "document/compare/StationPairing.h"
 #include "model/CleanName.h"
 
 #include <algorithm>
@@ -27,9 +26,12 @@ std::optional<qint64> plainNumber(QStringView text)
     return number;
 }
 
-bool isASCII(const QString &text)
+/// Letters that have one form alone, and whose case is theirs alone: most of them.
+bool isSimple(QChar c)
 {
-    return std::all_of(text.begin(), text.end(), [](QChar c) { return c < u'\x80'; });
+    const char16_t u = c.unicode();
+    return u < 0x80 || (u >= 0xC0 && u < 0x130 && u != 0xDF) || (u >= 0x141 && u < 0x149) ||
+           (u >= 0x14A && u < 0x17F) || (u >= 0x400 && u < 0x480);
 }
 
 /// Blanks, and signs that nobody sees.
@@ -61,6 +63,8 @@ std::optional<qint64> IdentityReader::part(const Value *value)
     if (!value || value->isNull())
         return {};
     if (const QString *text = value->string()) {
+        if (const std::optional<qint64> number = plainNumber(*text))
+            return number;
         const QStringView told = QStringView(*text).trimmed();
         if (told.isEmpty())
             return {};
@@ -80,29 +84,25 @@ qint64 IdentityReader::numberOf(const QString &text)
 
 QString toldName(const LGStation &station)
 {
-    // Without one it is shown as if it had the name "??".
-    if (isOfLegacyFormat(station) && !station.entry().string(station.keys().keyStationName))
-        return {};
-    return station.shownName();
+    const QString name = station.shownName();
+    // Shown of a record of that variant which has none.
+    const bool mayBeNone = name == QLatin1String("??");
+    return mayBeNone && !station.entry().string(station.keys().keyStationName) ? QString() : name;
 }
 
 QString looseName(const QString &name)
 {
     QString loose = cleanName(name);
-    if (!isASCII(loose)) {
-        if (loose.size() <= longestNormalized)
-            loose = loose.normalized(QString::NormalizationForm_KC);
-        loose = loose.toCaseFolded();
-        loose.removeIf(isUnseen);
+    if (std::all_of(loose.begin(), loose.end(), isSimple)) {
+        const auto end = std::remove(loose.begin(), loose.end(), u' ');
+        loose.truncate(end - loose.begin());
+        for (QChar &c : loose)
+            c = c.toCaseFolded();
         return loose;
     }
-    const auto end = std::remove(loose.begin(), loose.end(), u' ');
-    loose.truncate(end - loose.begin());
-    for (QChar &c : loose) {
-        if (c >= u'A' && c <= u'Z')
-            c = QChar(c.unicode() | 0x20);
-    }
-    return loose;
+    if (loose.size() <= longestNormalized)
+        loose = loose.normalized(QString::NormalizationForm_KC);
+    return loose.toCaseFolded().removeIf(isUnseen);
 }
 
 } // namespace quillet

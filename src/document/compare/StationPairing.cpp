@@ -1,309 +1,296 @@
 #include "document/compare/StationPairing.h"
 
-#include "document/compare/StationContent.h"
-#include "document/compare/StationIdentity.h"
-#include "model/LGLegacyStation.h"
-
-#include <QHash>
-
 #include <algorithm>
-#include <limits>
+#include <numeric>
 #include <utility>
 
 namespace quillet {
 
 namespace {
 
-constexpr std::size_t none = std::numeric_limits<std::size_t>::max();
+constexpr std::size_t nowhere = static_cast<std::size_t>(-1);
 
-/// How the stations with one key are matched.
-enum class Rule {
-    Unique, ///< the only ones with it, of those not matched yet
-    InOrder,
+std::vector<std::size_t> indexesOf(const std::vector<std::size_t> &places)
+{
+    std::vector<std::size_t> indexes(places.size());
+    std::iota(indexes.begin(), indexes.end(), std::size_t(0));
+    return indexes;
+}
+
+} // namespace
+
+/// How many stations of either side tell a fact.
+struct StationPairing::Counts
+{
+    std::size_t first = 0;
+    std::size_t second = 0;
 };
 
-/// The stations of one of the lists.
-struct Side
+/// The stations that are left of one fact.
+struct StationPairing::Group
 {
-    explicit Side(const StationList &list)
-        : stations(list), identities(list.size()), left(list.size())
-    {
-        for (std::size_t i = 0; i < left.size(); ++i)
-            left[i] = i;
-    }
-
-    const StationList &stations;
-    std::vector<std::optional<StationIdentity>> identities;
-    std::vector<std::size_t> left; ///< not matched yet, ascending
-    // From here on of those that the identities alone did not match
-    std::vector<ContentHashes> hashes;
-    std::vector<bool> mayHaveContent; ///< whose content may be found on the other side
+    std::size_t firstCount = 0;
+    std::size_t secondCount = 0;
+    std::size_t first = nowhere;      ///< the last one, an index
+    std::size_t second = nowhere;     ///< the first one, a place among those left
+    std::size_t secondLast = nowhere; ///< and the last
 };
 
-/// The work of pairing two lists: one way after another, each among what the ones before left.
-class Pairing
+StationPairing::Pairs StationPairing::pair(const std::vector<std::size_t> &first,
+                                           const std::vector<std::size_t> &second)
 {
-public:
-    Pairing(const StationList &first, const StationList &second)
-        : m_first(first), m_second(second), m_pairs(first.size())
-    {
-    }
-    [[nodiscard]] std::vector<std::optional<StationPair>> take();
-
-private:
-    [[nodiscard]] bool isDone() const { return m_first.left.empty() || m_second.left.empty(); }
-    template<typename KeyOf, typename LikenessOf>
-    void pairBy(Rule rule, const KeyOf &keyOf, const LikenessOf &likenessOf);
-    template<typename KeyOf>
-    void pairSurely(Rule rule, const KeyOf &keyOf);
-    void dropPaired();
-
-    void pairByContent();
-    void findContentToHash();
-    void pairBySharedIdentity();
-    void pairByFrequencyAndName();
-    void pairByName();
-    [[nodiscard]] bool isAgainstIdentities(std::size_t i, std::size_t j) const;
-
-    Side m_first, m_second;
-    std::vector<std::optional<StationPair>> m_pairs;
-};
-
-std::vector<std::optional<StationPair>> Pairing::take()
-{
-    IdentityReader reader;
-    for (Side *side : {&m_first, &m_second}) {
-        for (std::size_t i = 0; i < side->stations.size(); ++i)
-            side->identities[i] = reader.read(*side->stations[i]);
-    }
-    pairSurely(Rule::Unique, [](const Side &side, std::size_t i) { return side.identities[i]; });
+    m_pairs.assign(first.size(), std::nullopt);
+    m_first.places = first;
+    m_second.places = second;
+    m_first.left = indexesOf(first);
+    m_second.left = indexesOf(second);
+    pairByIdentity();
     pairByContent();
     pairBySharedIdentity();
     pairByFrequencyAndName();
     pairByName();
-    return std::move(m_pairs);
+    return std::exchange(m_pairs, {});
 }
 
-/// Two stations of one key are paired unless they have no likeness.
-template<typename KeyOf, typename LikenessOf>
-void Pairing::pairBy(Rule rule, const KeyOf &keyOf, const LikenessOf &likenessOf)
+/// Stations without a fact are left out, and so are pairs that have no likeness.
+template<typename FactOf, typename LikenessOf>
+void StationPairing::pairBy(Rule rule, const FactOf &factOf, const LikenessOf &likenessOf)
 {
     if (isDone())
         return;
-    using Key = typename decltype(keyOf(m_first, 0))::value_type;
-    struct Group
-    {
-        std::size_t firstLeft = none, firstCount = 0;
-        std::size_t secondLeft = none, secondEnd = none, secondCount = 0;
-    };
-    QHash<Key, std::size_t> places;
-    places.reserve(static_cast<qsizetype>(m_second.left.size()));
+    std::vector<Number> facts; // of the second side's
+    facts.reserve(m_second.left.size());
+    for (const std::size_t j : m_second.left)
+        facts.push_back(factOf(m_second, j));
     std::vector<Group> groups;
-    std::vector<std::size_t> next(m_second.left.size(), none); // of the same group
-    for (std::size_t at = 0; at < m_second.left.size(); ++at) {
-        const std::optional<Key> key = keyOf(m_second, m_second.left[at]);
-        if (!key)
+    m_groups.resize(std::max(m_groups.size(), m_facts.end()), none);
+    std::vector<std::size_t> next(facts.size(), nowhere); // of the same group
+    for (std::size_t at = 0; at < facts.size(); ++at) {
+        if (facts[at] == none)
             continue;
-        const auto known = places.constFind(*key);
-        if (known == places.cend()) {
-            places.insert(*key, groups.size());
-            groups.push_back({none, 0, at, at, 1});
-            continue;
+        Number &known = m_groups[static_cast<std::size_t>(facts[at])];
+        if (known == none) {
+            known = static_cast<Number>(groups.size());
+            groups.push_back({.second = at, .secondLast = at});
         }
-        Group &group = groups[*known];
-        next[group.secondEnd] = at;
-        group.secondEnd = at;
-        ++group.secondCount;
+        Group &group = groups[static_cast<std::size_t>(known)];
+        if (++group.secondCount > 1)
+            next[std::exchange(group.secondLast, at)] = at;
     }
-    const auto pair = [this, &likenessOf](std::size_t i, std::size_t at) {
+    const auto tryPair = [this, &likenessOf](std::size_t i, std::size_t at) {
         const std::size_t j = m_second.left[at];
         const std::optional<Likeness> likeness = likenessOf(i, j);
         if (!likeness)
             return;
         m_pairs[i] = StationPair{j, *likeness};
-        m_second.left[at] = none;
+        m_second.left[at] = nowhere;
     };
     for (const std::size_t i : m_first.left) {
-        const std::optional<Key> key = keyOf(m_first, i);
-        const auto known = key ? places.constFind(*key) : places.cend();
-        if (known == places.cend())
+        const Number fact = factOf(m_first, i);
+        const auto index = static_cast<std::size_t>(fact);
+        if (fact == none || index >= m_groups.size() || m_groups[index] == none)
             continue;
-        Group &group = groups[*known];
+        Group &group = groups[static_cast<std::size_t>(m_groups[index])];
         ++group.firstCount;
-        group.firstLeft = i;
-        if (rule == Rule::Unique || group.secondLeft == none)
-            continue;
-        const std::size_t at = group.secondLeft;
-        group.secondLeft = next[at];
-        pair(i, at);
-    }
-    if (rule == Rule::Unique) {
-        for (const Group &group : groups) {
-            if (group.firstCount == 1 && group.secondCount == 1)
-                pair(group.firstLeft, group.secondLeft);
+        group.first = i;
+        if (rule == Rule::InOrder && group.second != nowhere) {
+            const std::size_t at = group.second;
+            group.second = next[at];
+            tryPair(i, at);
         }
     }
-    dropPaired();
-}
-
-template<typename KeyOf>
-void Pairing::pairSurely(Rule rule, const KeyOf &keyOf)
-{
-    pairBy(rule, keyOf, [](std::size_t, std::size_t) { return std::optional(Likeness::Sure); });
-}
-
-void Pairing::dropPaired()
-{
+    for (const Group &group : groups) {
+        if (rule == Rule::Unique && group.firstCount == 1 && group.secondCount == 1)
+            tryPair(group.first, group.second);
+    }
+    for (const Number fact : facts) {
+        if (fact != none)
+            m_groups[static_cast<std::size_t>(fact)] = none;
+    }
     std::erase_if(m_first.left, [this](std::size_t i) { return m_pairs[i].has_value(); });
-    std::erase(m_second.left, none);
+    std::erase(m_second.left, nowhere);
 }
 
-/// Reading the whole content takes long, so only that of stations is read of which the other side
-/// may have another record by what is quickly read.
-void Pairing::findContentToHash()
+template<typename FactOf>
+void StationPairing::pairSurely(Rule rule, const FactOf &factOf)
 {
-    constexpr unsigned char both = 3;
-    QHash<std::pair<StationIdentity, qint64>, unsigned char> sides;
-    const auto keyOf = [](const Side &side, std::size_t i) {
-        const StationIdentity unknown{{-1, 0, 0}};
-        return std::pair(side.identities[i].value_or(unknown),
-                         side.stations[i]->frequency().value_or(0));
+    pairBy(rule, factOf, [](std::size_t, std::size_t) { return std::optional(Likeness::Sure); });
+}
+
+template<typename FactOf>
+std::vector<StationPairing::Counts> StationPairing::count(const FactOf &factOf,
+                                                          const std::vector<std::size_t> &ofFirst,
+                                                          const std::vector<std::size_t> &ofSecond)
+{
+    std::vector<Counts> counts(m_facts.end());
+    const auto add = [&](const Side &side, std::size_t i, std::size_t Counts::*count) {
+        const Number fact = factOf(side, i);
+        if (fact == none)
+            return;
+        const auto index = static_cast<std::size_t>(fact);
+        if (index >= counts.size())
+            counts.resize(2 * index + 1);
+        ++(counts[index].*count);
     };
-    unsigned char bit = 1;
-    for (const Side *side : {&m_first, &m_second}) {
-        for (const std::size_t i : side->left)
-            sides[keyOf(*side, i)] |= bit;
-        bit <<= 1;
-    }
+    for (const std::size_t i : ofFirst)
+        add(m_first, i, &Counts::first);
+    for (const std::size_t j : ofSecond)
+        add(m_second, j, &Counts::second);
+    return counts;
+}
+
+void StationPairing::pairByIdentity()
+{
+    const auto identity = [this](const Side &side, std::size_t i) {
+        return m_facts.identity(side.places[i]);
+    };
+    const std::vector<Counts> counts = count(identity, m_first.left, m_second.left);
+    pairSurely(Rule::Unique, identity);
     for (Side *side : {&m_first, &m_second}) {
-        side->hashes.resize(side->stations.size());
-        side->mayHaveContent.resize(side->stations.size());
+        side->isShared.assign(side->places.size(), false);
+        side->hasUnknown = false;
         for (const std::size_t i : side->left) {
-            if (sides.value(keyOf(*side, i)) != both)
+            const Number fact = identity(*side, i);
+            if (fact == none) {
+                side->hasUnknown = true;
                 continue;
-            side->mayHaveContent[i] = true;
-            side->hashes[i] = contentHashes(*side->stations[i]);
+            }
+            const auto [first, second] = counts[static_cast<std::size_t>(fact)];
+            side->isShared[i] = first > 0 && second > 0;
         }
     }
 }
 
-void Pairing::pairByContent()
+/// The whole content takes long to read, so that of stations is left out which the other side does
+/// not have by what is read quickly.
+void StationPairing::findNear()
+{
+    const bool areUnknown = m_first.hasUnknown && m_second.hasUnknown;
+    const auto near = [this, areUnknown](const Side &side, std::size_t i) {
+        const std::size_t place = side.places[i];
+        const bool isUnknown = m_facts.identity(place) == none;
+        return (isUnknown ? areUnknown : side.isShared[i])
+                   ? m_facts.both(m_facts.identity(place) + 1, m_facts.frequency(place) + 1)
+                   : none;
+    };
+    const std::vector<Counts> counts = count(near, m_first.left, m_second.left);
+    for (Side *side : {&m_first, &m_second}) {
+        side->isNear.assign(side->places.size(), false);
+        for (const std::size_t i : side->left) {
+            const Number fact = near(*side, i);
+            if (fact == none)
+                continue;
+            const auto [first, second] = counts[static_cast<std::size_t>(fact)];
+            side->isNear[i] = first > 0 && second > 0;
+        }
+    }
+}
+
+void StationPairing::pairByContent()
 {
     if (isDone())
         return;
-    findContentToHash();
-    const auto unedited = [](const Side &side, std::size_t i) {
-        return UneditedContent{side.hashes[i].unedited, side.stations[i].get()};
-    };
-    pairSurely(Rule::InOrder, [](const Side &side, std::size_t i) {
-        return side.mayHaveContent[i]
-                   ? std::optional(WholeContent{side.hashes[i].all, side.stations[i].get()})
-                   : std::nullopt;
+    findNear();
+    pairSurely(Rule::InOrder, [&](const Side &side, std::size_t i) {
+        return side.isNear[i] ? m_facts.content(side.places[i]) : none;
     });
-    pairSurely(Rule::InOrder, [&unedited](const Side &side, std::size_t i) {
-        return side.mayHaveContent[i]
-                   ? std::optional(std::pair(unedited(side, i), side.stations[i]->shownName()))
-                   : std::nullopt;
+    pairSurely(Rule::InOrder, [&](const Side &side, std::size_t i) {
+        const std::size_t place = side.places[i];
+        return side.isNear[i] ? m_facts.both(m_facts.unedited(place), m_facts.name(place)) : none;
     });
-    pairSurely(Rule::Unique, [&unedited](const Side &side, std::size_t i) {
-        return side.mayHaveContent[i]
-                   ? std::optional(std::pair(unedited(side, i), side.stations[i]->progNum()))
-                   : std::nullopt;
+    pairSurely(Rule::Unique, [&](const Side &side, std::size_t i) {
+        const std::size_t place = side.places[i];
+        return side.isNear[i] ? m_facts.both(m_facts.unedited(place), m_facts.programNumber(place))
+                              : none;
     });
-    pairSurely(Rule::Unique, [&unedited](const Side &side, std::size_t i) {
-        return side.mayHaveContent[i] ? std::optional(unedited(side, i)) : std::nullopt;
+    pairSurely(Rule::Unique, [&](const Side &side, std::size_t i) {
+        return side.isNear[i] ? m_facts.unedited(side.places[i]) : none;
     });
 }
 
 /// Where an identity is given more than once.
-void Pairing::pairBySharedIdentity()
+void StationPairing::pairBySharedIdentity()
 {
-    pairSurely(Rule::InOrder, [](const Side &side, std::size_t i) {
-        using Key = std::pair<StationIdentity, std::pair<QString, qint64>>;
-        const std::optional<StationIdentity> &identity = side.identities[i];
-        return identity ? std::optional(Key(*identity, {toldName(*side.stations[i]),
-                                                        side.stations[i]->frequency().value_or(0)}))
-                        : std::nullopt;
-    });
-    pairSurely(Rule::Unique, [](const Side &side, std::size_t i) {
-        const std::optional<StationIdentity> &identity = side.identities[i];
-        const std::optional<qint64> frequency = side.stations[i]->frequency();
-        return identity && frequency ? std::optional(std::pair(*identity, *frequency))
-                                     : std::nullopt;
-    });
-    pairSurely(Rule::InOrder, [](const Side &side, std::size_t i) {
-        const std::optional<StationIdentity> &identity = side.identities[i];
-        return identity ? std::optional(std::pair(*identity, toldName(*side.stations[i])))
-                        : std::nullopt;
-    });
-    pairSurely(Rule::Unique, [](const Side &side, std::size_t i) {
-        const std::optional<StationIdentity> &identity = side.identities[i];
-        return identity ? std::optional(std::pair(*identity, side.stations[i]->progNum()))
-                        : std::nullopt;
-    });
-}
-
-bool Pairing::isAgainstIdentities(std::size_t i, std::size_t j) const
-{
-    const std::optional<StationIdentity> &one = m_first.identities[i];
-    const std::optional<StationIdentity> &other = m_second.identities[j];
-    return one && other && *one != *other;
-}
-
-void Pairing::pairByFrequencyAndName()
-{
-    const auto key = [](const Side &side, std::size_t i) {
-        using Key = std::pair<qint64, QString>;
-        const std::optional<qint64> frequency = side.stations[i]->frequency();
-        const QString name = frequency ? toldName(*side.stations[i]) : QString();
-        return name.isEmpty() ? std::nullopt : std::optional(Key(*frequency, name));
+    const auto with = [this](const Side &side, std::size_t i, const auto &factOf) {
+        const std::size_t place = side.places[i];
+        return side.isShared[i] ? m_facts.both(m_facts.identity(place), factOf(place)) : none;
     };
-    pairBy(Rule::Unique, key, [this](std::size_t i, std::size_t j) {
+    pairSurely(Rule::InOrder, [&](const Side &side, std::size_t i) {
+        return with(side, i, [this](std::size_t place) {
+            return m_facts.both(m_facts.name(place), m_facts.frequency(place));
+        });
+    });
+    pairSurely(Rule::Unique, [&](const Side &side, std::size_t i) {
+        return with(side, i, [this](std::size_t place) { return m_facts.frequency(place); });
+    });
+    pairSurely(Rule::InOrder, [&](const Side &side, std::size_t i) {
+        return with(side, i, [this](std::size_t place) { return m_facts.name(place); });
+    });
+    pairSurely(Rule::Unique, [&](const Side &side, std::size_t i) {
+        return with(side, i, [this](std::size_t place) { return m_facts.programNumber(place); });
+    });
+}
+
+bool StationPairing::isAgainstIdentities(std::size_t i, std::size_t j) const
+{
+    const Number one = m_facts.identity(m_first.places[i]);
+    const Number other = m_facts.identity(m_second.places[j]);
+    return one != none && other != none && one != other;
+}
+
+/// For stations of which at least one record tells no identity.
+void StationPairing::pairByFrequencyAndName()
+{
+    const auto fact = [this](const Side &side, std::size_t i) {
+        const Side &otherSide = &side == &m_first ? m_second : m_first;
+        const std::size_t place = side.places[i];
+        return otherSide.hasUnknown || m_facts.identity(place) == none
+                   ? m_facts.both(m_facts.frequency(place), m_facts.name(place))
+                   : none;
+    };
+    if (!m_first.hasUnknown && !m_second.hasUnknown)
+        return;
+    pairBy(Rule::Unique, fact, [this](std::size_t i, std::size_t j) {
         return isAgainstIdentities(i, j) ? std::nullopt : std::optional(Likeness::Sure);
     });
 }
 
-void Pairing::pairByName()
+void StationPairing::pairByName()
 {
     if (isDone())
         return;
-    QHash<QString, int> countsOfFirst, countsOfSecond; // of all, matched or not
-    const auto count = [](const Side &side, QHash<QString, int> &counts) {
-        counts.reserve(static_cast<qsizetype>(side.stations.size()));
-        for (const StationPtr &station : side.stations)
-            ++counts[toldName(*station)];
+    const auto name = [this](const Side &side, std::size_t i) {
+        return m_facts.name(side.places[i]);
     };
-    count(m_first, countsOfFirst);
-    count(m_second, countsOfSecond);
-    const auto name = [](const Side &side, std::size_t i) {
-        const QString told = toldName(*side.stations[i]);
-        return told.isEmpty() ? std::nullopt : std::optional(told);
-    };
+    // Of all stations, matched or not.
+    const std::vector<Counts> counts =
+        count(name, indexesOf(m_first.places), indexesOf(m_second.places));
     pairBy(Rule::InOrder, name, [&](std::size_t i, std::size_t j) {
-        const QString told = toldName(*m_first.stations[i]);
-        const bool isOnce = countsOfFirst.value(told) == 1 && countsOfSecond.value(told) == 1;
+        const auto [first, second] = counts[static_cast<std::size_t>(name(m_first, i))];
+        const bool isOnce = first == 1 && second == 1;
         return std::optional(isOnce && !isAgainstIdentities(i, j) ? Likeness::ByName
                                                                   : Likeness::Loose);
     });
-    const auto loose = [](const Side &side, std::size_t i) {
-        const QString letters = looseName(toldName(*side.stations[i]));
-        return letters.isEmpty() ? std::nullopt : std::optional(letters);
+    const auto loose = [this](const Side &side, std::size_t i) {
+        return m_facts.looseName(side.places[i]);
     };
     pairBy(Rule::InOrder, loose,
            [](std::size_t, std::size_t) { return std::optional(Likeness::Loose); });
 }
 
-} // namespace
-
-bool isOfLegacyFormat(const LGStation &station)
+StationPairing::Pairs pairStations(const StationList &first, const StationList &second)
 {
-    return dynamic_cast<const LGLegacyStation *>(&station);
-}
-
-std::vector<std::optional<StationPair>> pairStations(const StationList &first,
-                                                     const StationList &second)
-{
-    return Pairing(first, second).take();
+    StationPairing pairing;
+    pairing.reserve(first.size() + second.size());
+    const auto added = [&pairing](const StationList &list) {
+        std::vector<std::size_t> places;
+        places.reserve(list.size());
+        for (const StationPtr &station : list)
+            places.push_back(pairing.add(*station));
+        return places;
+    };
+    const std::vector<std::size_t> places = added(first);
+    return pairing.pair(places, added(second));
 }
 
 } // namespace quillet

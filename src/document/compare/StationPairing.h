@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/LGStation.h"
+#include "document/compare/StationFacts.h"
 
 #include <optional>
 #include <vector>
@@ -21,15 +21,69 @@ struct StationPair
     Likeness likeness = Likeness::Sure;
 };
 
-/// Finds the stations of one list again in another, each at most once: for each where it is there,
-/// or none. The two may be of different variants of the file, and records need not tell everything.
-/// Goes by the identifiers; among stations that share those by what they hold, by frequency, name
-/// and number; then by frequency and name; then by name alone. Takes linear time. Reads the
-/// stations' names; otherwise changes nothing.
-[[nodiscard]] std::vector<std::optional<StationPair>> pairStations(const StationList &first,
-                                                                   const StationList &second);
+/// Finds stations again in other lists. The two may be of different variants of the file, and
+/// records need not tell everything. Goes by the identifiers; among stations that share those by
+/// what they hold, by frequency, name and number; then by frequency and name; then by name alone.
+/// Takes linear time. Reads the stations' names; otherwise changes nothing. Made for one
+/// comparison, whose stations must outlive it.
+class StationPairing
+{
+public:
+    using Pairs = std::vector<std::optional<StationPair>>;
 
-/// Whether it is a record of the file variant that keeps stations as JSON.
-[[nodiscard]] bool isOfLegacyFormat(const LGStation &station);
+    /// Makes room for so many stations.
+    void reserve(std::size_t count) { m_facts.reserve(count); }
+    /// Adds a station. Returns its place, by which it is named from then on.
+    std::size_t add(const LGStation &station) { return m_facts.add(station); }
+    /// Finds the stations of one list again in another, each at most once: for each where it is
+    /// there, or none.
+    [[nodiscard]] Pairs pair(const std::vector<std::size_t> &first,
+                             const std::vector<std::size_t> &second);
+
+private:
+    using Number = StationFacts::Number;
+    static constexpr Number none = StationFacts::none;
+    /// How the stations with one fact in common are matched.
+    enum class Rule {
+        Unique, ///< the only ones with it, of those not matched yet
+        InOrder,
+    };
+    struct Group;
+    struct Counts;
+    struct Side
+    {
+        std::vector<std::size_t> places;
+        std::vector<std::size_t> left; ///< indexes of those not matched yet, ascending
+        std::vector<bool> isShared;    ///< whether the other side has the identity as well
+        std::vector<bool> isNear;      ///< whether it may have the content as well
+        bool hasUnknown = false;       ///< whether one of those left tells no identity
+    };
+
+    [[nodiscard]] bool isDone() const { return m_first.left.empty() || m_second.left.empty(); }
+    template<typename FactOf, typename LikenessOf>
+    void pairBy(Rule rule, const FactOf &factOf, const LikenessOf &likenessOf);
+    template<typename FactOf>
+    void pairSurely(Rule rule, const FactOf &factOf);
+    template<typename FactOf>
+    [[nodiscard]] std::vector<Counts> count(const FactOf &factOf,
+                                            const std::vector<std::size_t> &ofFirst,
+                                            const std::vector<std::size_t> &ofSecond);
+    void findNear();
+    void pairByIdentity();
+    void pairByContent();
+    void pairBySharedIdentity();
+    void pairByFrequencyAndName();
+    void pairByName();
+    [[nodiscard]] bool isAgainstIdentities(std::size_t i, std::size_t j) const;
+
+    StationFacts m_facts;
+    Side m_first, m_second;
+    Pairs m_pairs;
+    std::vector<qint32> m_groups; ///< of each fact; none unless it is being paired by
+};
+
+/// Finds the stations of one list again in another.
+[[nodiscard]] StationPairing::Pairs pairStations(const StationList &first,
+                                                 const StationList &second);
 
 } // namespace quillet

@@ -1,0 +1,96 @@
+#include "bench/CompareBenchmarks.h"
+
+#include "bench/Failure.h"
+#include "bench/Figures.h"
+#include "document/compare/TakeOver.h"
+#include "document/read/ListReading.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace quillet::bench {
+
+namespace {
+
+enum class Others {
+    Moved,     ///< the same, backwards, each with another number
+    Strangers, ///< with other identifiers and names
+    Nameless,  ///< with other identifiers, so that only names are alike
+    Unknown,   ///< without identifiers, on both sides
+    Channels,  ///< of a file of the other variant
+};
+
+StationLists listsOf(const QByteArray &file)
+{
+    std::optional<ChannelList> list = channelListFromBytes(file);
+    return list ? std::move(list->lists) : StationLists();
+}
+
+/// Names are asked for here, as they were if the list was on show.
+template<typename Change>
+void changeAll(const StationLists &lists, Change change)
+{
+    for (const bool isTV : {true, false}) {
+        for (const StationSource source : stationSources) {
+            StationList &list = *lists.list(isTV, static_cast<int>(source));
+            std::reverse(list.begin(), list.end());
+            qint64 number = 0;
+            for (const StationPtr &station : list) {
+                static_cast<void>(station->stationName());
+                change(*station, ++number);
+            }
+        }
+    }
+}
+
+void change(LGStation &station, qint64 number, Others others)
+{
+    const StationKeys &keys = station.keys();
+    station.setProgramNum(number);
+    if (others == Others::Unknown)
+        station.setField(keys.keyService_id, {});
+    if (others == Others::Strangers)
+        station.setStationName(station.stationName() + QStringLiteral(" of nowhere"));
+    if (others == Others::Strangers || others == Others::Nameless)
+        station.setField(keys.keyOriginalNetwork_id, QStringLiteral("9"));
+}
+
+void comparing(benchmark::State &state, const QByteArray &file, const QByteArray &otherFile,
+               Others others)
+{
+    const StationLists now = listsOf(file), then = listsOf(otherFile);
+    if (now.roll().empty() || then.roll().empty())
+        return fail(state, "The lists to compare were not made");
+    if (others == Others::Unknown) {
+        changeAll(now, [](LGStation &station, qint64) {
+            station.setField(station.keys().keyService_id, {});
+        });
+    }
+    if (others != Others::Channels) {
+        changeAll(then,
+                  [others](LGStation &station, qint64 number) { change(station, number, others); });
+    }
+    const bool areFound = others != Others::Strangers && others != Others::Channels;
+    for ([[maybe_unused]] auto _ : state) {
+        const ListComparison comparison = compare(now, then);
+        if (comparison.isOneToOne() != (areFound && others != Others::Nameless) ||
+            (comparison.onlyFirst == 0) != areFound)
+            return fail(state, "The stations were not found");
+    }
+}
+
+} // namespace
+
+void registerCompareBenchmarks(const QByteArray &stations, const QByteArray &channels)
+{
+    const auto add = [&stations](const char *name, const QByteArray &other, Others others) {
+        benchmark::RegisterBenchmark(name, comparing, stations, other, others);
+    };
+    add(figure::compareMoved, stations, Others::Moved);
+    add(figure::compareStrangers, stations, Others::Strangers);
+    add(figure::compareByName, stations, Others::Nameless);
+    add(figure::compareUnknown, stations, Others::Unknown);
+    add(figure::compareChannels, channels, Others::Channels);
+}
+
+} // namespace quillet::bench

@@ -35,6 +35,13 @@
         <source></source>
         <translation>Analog</translation>
     </message>
+    <message id="kAndMore" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%1 und %n weiterer</numerusform>
+            <numerusform>%1 und %n weitere</numerusform>
+        </translation>
+    </message>
     <message id="kAntenna">
         <source></source>
         <translation>Antenne</translation>
@@ -1043,7 +1050,7 @@
     </message>
     <message id="kMenuCompare">
         <source></source>
-        <translation>Vergleichen &amp;mit</translation>
+        <translation>Ve&amp;rgleichen mit</translation>
     </message>
     <message id="kMenuCompareFile">
         <source></source>

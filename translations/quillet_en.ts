@@ -35,6 +35,13 @@
         <source></source>
         <translation>Analogue</translation>
     </message>
+    <message id="kAndMore" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%1 and %n more</numerusform>
+            <numerusform>%1 and %n more</numerusform>
+        </translation>
+    </message>
     <message id="kAntenna">
         <source></source>
         <translation>Antenna</translation>
@@ -1043,7 +1050,7 @@
     </message>
     <message id="kMenuCompare">
         <source></source>
-        <translation>Co&amp;mpare With</translation>
+        <translation>Compare &amp;With</translation>
     </message>
     <message id="kMenuCompareFile">
         <source></source>

@@ -35,6 +35,13 @@
         <source></source>
         <translation>Analógico</translation>
     </message>
+    <message id="kAndMore" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%1 y %n más</numerusform>
+            <numerusform>%1 y %n más</numerusform>
+        </translation>
+    </message>
     <message id="kAntenna">
         <source></source>
         <translation>Antena</translation>
@@ -1043,7 +1050,7 @@
     </message>
     <message id="kMenuCompare">
         <source></source>
-        <translation>Co&amp;mparar con</translation>
+        <translation>Com&amp;parar con</translation>
     </message>
     <message id="kMenuCompareFile">
         <source></source>

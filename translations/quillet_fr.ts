@@ -35,6 +35,13 @@
         <source></source>
         <translation>Analogique</translation>
     </message>
+    <message id="kAndMore" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%1 et %n autre</numerusform>
+            <numerusform>%1 et %n autres</numerusform>
+        </translation>
+    </message>
     <message id="kAntenna">
         <source></source>
         <translation>Antenne</translation>

@@ -35,6 +35,13 @@
         <source></source>
         <translation>Analogico</translation>
     </message>
+    <message id="kAndMore" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%1 e %n altro</numerusform>
+            <numerusform>%1 e altri %n</numerusform>
+        </translation>
+    </message>
     <message id="kAntenna">
         <source></source>
         <translation>Antenna</translation>

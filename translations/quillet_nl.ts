@@ -35,6 +35,13 @@
         <source></source>
         <translation>Analoog</translation>
     </message>
+    <message id="kAndMore" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%1 en nog %n</numerusform>
+            <numerusform>%1 en nog %n</numerusform>
+        </translation>
+    </message>
     <message id="kAntenna">
         <source></source>
         <translation>Antenne</translation>
@@ -1043,7 +1050,7 @@
     </message>
     <message id="kMenuCompare">
         <source></source>
-        <translation>Vergelijken &amp;met</translation>
+        <translation>Vergelij&amp;ken met</translation>
     </message>
     <message id="kMenuCompareFile">
         <source></source>

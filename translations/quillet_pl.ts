@@ -35,6 +35,14 @@
         <source></source>
         <translation>Analogowe</translation>
     </message>
+    <message id="kAndMore" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%1 i jeszcze %n</numerusform>
+            <numerusform>%1 i jeszcze %n</numerusform>
+            <numerusform>%1 i jeszcze %n</numerusform>
+        </translation>
+    </message>
     <message id="kAntenna">
         <source></source>
         <translation>Antena</translation>
@@ -1069,7 +1077,7 @@
     </message>
     <message id="kMenuCompare">
         <source></source>
-        <translation>Porówna&amp;j z</translation>
+        <translation>Porównaj z &amp;listą</translation>
     </message>
     <message id="kMenuCompareFile">
         <source></source>

@@ -35,6 +35,12 @@
         <source></source>
         <translation>Analog</translation>
     </message>
+    <message id="kAndMore" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%1 ve %n tane daha</numerusform>
+        </translation>
+    </message>
     <message id="kAntenna">
         <source></source>
         <translation>Anten</translation>
@@ -1017,7 +1023,7 @@
     </message>
     <message id="kMenuCompare">
         <source></source>
-        <translation>&amp;Karşılaştır</translation>
+        <translation>Ş&amp;ununla Karşılaştır</translation>
     </message>
     <message id="kMenuCompareFile">
         <source></source>

@@ -59,8 +59,7 @@ void CompareMenu::listWindows()
             continue;
         if (m_windows.isEmpty())
             m_windows.append(m_menu->addSeparator());
-        QAction *action =
-            m_menu->addAction(other->displayName().replace(u'&', QLatin1String("&&")));
+        QAction *action = m_menu->addAction(other->titleName().replace(u'&', QLatin1String("&&")));
         action->setEnabled(m_file->isEnabled());
         connect(action, &QAction::triggered, this, [this, guard = QPointer(other)] {
             m_window.editor().commitEditing();

@@ -79,7 +79,7 @@ void CompareCommands::compareWithDocument(const TLLDocument &other)
                 (*copies.list(isTV, source))[i]->setRememberedName((*list)[i]->rememberedName());
         }
     }
-    emit m_controller.comparisonWanted({.name = other.displayName(), .lists = std::move(copies)});
+    emit m_controller.comparisonWanted({.name = other.titleName(), .lists = std::move(copies)});
 }
 
 } // namespace quillet

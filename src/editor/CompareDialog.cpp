@@ -87,7 +87,8 @@ CompareDialog::CompareDialog(ViewController &controller, const ComparedWith &oth
     makeTable();
     m_preview = makeText("comparePreview");
     m_preview->setAlignment(Qt::AlignTop);
-    m_preview->setMinimumHeight(2 * fontMetrics().lineSpacing()); // so that nothing jumps
+    const int lines = other.purpose == Purpose::Compare ? 4 : 2;
+    m_preview->setMinimumHeight(lines * fontMetrics().lineSpacing()); // so that nothing jumps
     auto *column = new QVBoxLayout(this);
     column->addLayout(makeTop());
     if (!other.remark.isEmpty()) {
@@ -102,19 +103,18 @@ CompareDialog::CompareDialog(ViewController &controller, const ComparedWith &oth
     column->addWidget(m_preview);
     column->addWidget(makeButtons());
     setMnemonics();
+    setTabOrders();
     addShortcuts();
     connect(&m_comparison, &StationComparison::rowsAboutToChange, this,
             &CompareDialog::keepSelection);
     connect(&m_comparison, &StationComparison::rowsChanged, this, &CompareDialog::restoreSelection);
-    connect(&m_comparison, &StationComparison::choiceChanged, this, &CompareDialog::showPreview);
+    connect(&m_comparison, &StationComparison::choiceChanged, this, &CompareDialog::showPlan);
     connect(&m_comparison, &StationComparison::documentGone, this, &QDialog::reject);
     const int line = fontMetrics().height();
-    resize(QSettings().value(sizeKey(), QSize(56 * line, 40 * line)).toSize());
+    resize(QSettings().value(sizeKey(), QSize(72 * line, 44 * line)).toSize());
     keepOnScreen(*this);
     restoreSelection();
-    if (m_model.rowCount() > 0)
-        m_table->setCurrentIndex(m_model.index(0, 0));
-    m_table->setFocus();
+    focusTable();
 }
 
 CompareDialog::~CompareDialog()
@@ -182,11 +182,15 @@ void CompareDialog::makeTable()
     QHeaderView &header = *m_table->horizontalHeader();
     header.setStretchLastSection(true);
     const int letter = fontMetrics().averageCharWidth();
-    m_table->resizeColumnsToContents();
-    for (const int column : {ComparisonModel::NameHere, ComparisonModel::NameThere})
-        header.resizeSection(column, 24 * letter);
+    const auto widen = [&header, letter](int column, int letters) {
+        header.resizeSection(column, qMax(letters * letter, header.sectionSizeHint(column)));
+    };
+    widen(ComparisonModel::Check, 0);
+    widen(ComparisonModel::List, 14);
     for (const int column : {ComparisonModel::NumberHere, ComparisonModel::NumberThere})
-        header.resizeSection(column, qMax(9 * letter, header.sectionSize(column)));
+        widen(column, 9);
+    for (const int column : {ComparisonModel::NameHere, ComparisonModel::NameThere})
+        widen(column, 24);
     m_table->installEventFilter(this);
     connect(m_table, &DarkModeTableView::returnPressed, this, &CompareDialog::reveal);
     connect(m_table, &QTableView::doubleClicked, this, [this](const QModelIndex &index) {
@@ -194,7 +198,7 @@ void CompareDialog::makeTable()
             reveal();
     });
     connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
-            &CompareDialog::showPreview);
+            &CompareDialog::showSelected);
 }
 
 QLayout *CompareDialog::makeAspects()
@@ -291,15 +295,41 @@ bool CompareDialog::eventFilter(QObject *watched, QEvent *event)
         const bool leaves = key.key() == Qt::Key_Escape;
         if (leaves)
             m_search->clear();
-        if (leaves || isReturn || key.key() == Qt::Key_Down)
-            m_table->setFocus();
-        return leaves || isReturn || key.key() == Qt::Key_Down;
+        if (!leaves && !isReturn && key.key() != Qt::Key_Down)
+            return false;
+        focusTable();
+        return true;
     }
     if (watched != m_table || key.key() != Qt::Key_Space)
         return false;
     if (!key.isAutoRepeat())
         m_comparison.toggle(selected());
     return true;
+}
+
+void CompareDialog::focusTable()
+{
+    m_table->setFocus();
+    if (!m_table->selectionModel()->hasSelection() && m_model.rowCount() > 0)
+        m_table->goToRow(0);
+}
+
+void CompareDialog::setTabOrders()
+{
+    QWidget *before = m_lists;
+    const auto follow = [&before](QWidget *next) {
+        setTabOrder(before, next);
+        before = next;
+    };
+    follow(m_search);
+    for (const auto &[kind, box] : m_kinds)
+        follow(box);
+    follow(m_table);
+    for (const auto &[aspect, box] : m_aspects)
+        follow(box);
+    if (m_takeSelected)
+        follow(m_takeSelected);
+    follow(m_take);
 }
 
 std::vector<std::size_t> CompareDialog::selected() const
@@ -338,7 +368,7 @@ void CompareDialog::restoreSelection()
         qtTrId(m_comparison.isEmpty() ? "kCompareEmpty" : "kCompareNoneShown"));
     showLists();
     showCounts();
-    showPreview();
+    showPlan();
 }
 
 void CompareDialog::showLists()
@@ -372,25 +402,31 @@ void CompareDialog::showCounts()
     }
 }
 
-void CompareDialog::showPreview()
+void CompareDialog::showPlan()
 {
-    const std::vector<std::size_t> rows = selected();
-    const QString ofSelected = previewOf(m_comparison, rows);
-    QString text = previewOf(m_comparison);
-    if (!ofSelected.isEmpty())
-        text += u'\n' + ofSelected;
-    m_preview->setText(text);
-    if (m_takeSelected) {
-        m_takeSelected->setEnabled(!m_comparison.planFor(rows).empty());
-        m_takeSelected->setToolTip(m_takeSelected->isEnabled() ? QString()
-                                                               : qtTrId("kTipTakeSelected"));
-    }
+    m_plan = previewOf(m_comparison);
     const bool canGoOn =
         m_comparison.purpose() == Purpose::Order ||
         (m_comparison.purpose() == Purpose::Paste ? !m_comparison.checkedStations().empty()
                                                   : !m_comparison.planForAll().empty());
     m_take->setEnabled(canGoOn);
     m_take->setToolTip(canGoOn ? QString() : qtTrId("kPreviewNothing"));
+    m_take->setAccessibleDescription(m_plan);
+    showSelected();
+}
+
+/// What all that is checked comes to does not change with the selection.
+void CompareDialog::showSelected()
+{
+    if (!m_takeSelected)
+        return m_preview->setText(m_plan);
+    const std::vector<std::size_t> rows = selected();
+    const StationComparison::Parts parts = m_comparison.planFor(rows);
+    const QString text = qtTrId("kPreviewSelected").arg(textOf(parts));
+    m_preview->setText(rows.size() < 2 ? m_plan : m_plan + u'\n' + text);
+    m_takeSelected->setEnabled(!parts.empty());
+    m_takeSelected->setToolTip(parts.empty() ? qtTrId("kTipTakeSelected") : QString());
+    m_takeSelected->setAccessibleDescription(text);
 }
 
 void CompareDialog::showKinds()
@@ -445,6 +481,7 @@ void showComparison(ViewController &controller, const ComparedWith &other, QWidg
         return;
     auto *dialog = new CompareDialog(controller, other, window, moveHere);
     dialog->show();
+    dialog->activateWindow();
 }
 
 } // namespace quillet

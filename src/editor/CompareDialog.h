@@ -53,7 +53,10 @@ private:
     void setMnemonics();
     void showLists();
     void showCounts();
-    void showPreview();
+    void showPlan();
+    void showSelected();
+    void setTabOrders();
+    void focusTable();
     void showKinds();
     void keepSelection();
     void restoreSelection();
@@ -72,6 +75,7 @@ private:
     QComboBox *m_lists = nullptr;
     QLineEdit *m_search = nullptr;
     QLabel *m_preview = nullptr;
+    QString m_plan;                        ///< of all that is checked, in words
     QPushButton *m_takeSelected = nullptr; ///< null: there is but one way to go on
     QPushButton *m_take = nullptr;
     std::vector<std::pair<ComparisonKind, QCheckBox *>> m_kinds;

@@ -102,7 +102,7 @@ QString ComparisonModel::textAt(std::size_t row, int column) const
     const ComparisonRow &shown = m_comparison.row(row);
     switch (column) {
     case List:
-        return quillet::titleOf(StationComparison::List{shown.isTV, shown.source});
+        return shortTitleOf({shown.isTV, shown.source});
     case NumberHere:
         return shown.here ? shown.here->progNumString() : QString();
     case NumberThere:

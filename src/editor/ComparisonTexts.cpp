@@ -59,9 +59,10 @@ QString namesOf(const StationList &stations)
     QStringList names;
     for (std::size_t i = 0; i < stations.size() && i < mostNames; ++i)
         names.append(drawnName(*stations[i]));
-    if (stations.size() > mostNames)
-        names.append(QStringLiteral(u"\u2026"));
-    return names.join(QStringLiteral(", "));
+    const QString text = names.join(QStringLiteral(", "));
+    return stations.size() <= mostNames
+               ? text
+               : qtTrId("kAndMore", static_cast<int>(stations.size() - mostNames)).arg(text);
 }
 
 QString orderPreview(const StationComparison &comparison)
@@ -125,6 +126,12 @@ QString titleOf(StationComparison::List list)
     return qtTrId(list.isTV ? "kPrintedTV" : "kPrintedRadio").arg(sourceTitle(list.source));
 }
 
+QString shortTitleOf(StationComparison::List list)
+{
+    const QString source = sourceTitle(list.source);
+    return list.isTV ? source : source + u' ' + qtTrId("kRadio").remove(u'&');
+}
+
 QString titleOf(ComparisonKind kind, Purpose purpose)
 {
     return qtTrId(titlesOf(kind, purpose).title);
@@ -133,6 +140,8 @@ QString titleOf(ComparisonKind kind, Purpose purpose)
 QString textOf(const ComparisonRow &row, Purpose purpose)
 {
     QStringList parts;
+    if (row.likeness == Likeness::Loose)
+        parts.append(qtTrId("kRowLoose"));
     for (const KindTitle &each : kindTitles) {
         const char *text = titlesOf(each.kind, purpose).ofRow;
         if (row.kinds.testFlag(each.kind) && text)
@@ -144,8 +153,6 @@ QString textOf(const ComparisonRow &row, Purpose purpose)
         parts.append(qtTrId(row.there->isBlocked() ? "kRowLockedThere" : "kRowLockedHere"));
     if (row.isElsewhere)
         parts.append(qtTrId("kRowElsewhere"));
-    if (row.likeness == Likeness::Loose)
-        parts.append(qtTrId("kRowLoose"));
     if (row.likeness == Likeness::ByName)
         parts.append(qtTrId("kRowByName"));
     return parts.join(QStringLiteral(", "));
@@ -193,13 +200,6 @@ QString previewOf(const StationComparison &comparison)
     const QString text = textOf(comparison.planForAll());
     const std::size_t unsure = comparison.uncheckedLoose();
     return unsure == 0 ? text : text + u' ' + qtTrId("kPreviewUnsure", static_cast<int>(unsure));
-}
-
-QString previewOf(const StationComparison &comparison, const std::vector<std::size_t> &selected)
-{
-    if (comparison.purpose() != Purpose::Compare || selected.size() < 2)
-        return {};
-    return qtTrId("kPreviewSelected").arg(textOf(comparison.planFor(selected)));
 }
 
 } // namespace quillet

@@ -14,15 +14,14 @@ namespace quillet {
 /// What the window that shows a comparison is called.
 [[nodiscard]] QString titleOf(const ComparedWith &other);
 [[nodiscard]] QString titleOf(StationComparison::List list);
+/// The same for a narrow column: TV goes without saying.
+[[nodiscard]] QString shortTitleOf(StationComparison::List list);
 [[nodiscard]] QString titleOf(ComparisonKind kind, ComparedWith::Purpose purpose);
 /// What distinguishes the two sides of a row; empty when nothing does.
 [[nodiscard]] QString textOf(const ComparisonRow &row, ComparedWith::Purpose purpose);
 /// What taking over would do, in sentences.
 [[nodiscard]] QString textOf(const StationComparison::Parts &parts);
-/// What pressing the button of the window would do, in sentences: in full, and of the rows alone
-/// that are selected; empty where that says nothing of its own.
+/// What going on with all that is checked would do, in sentences.
 [[nodiscard]] QString previewOf(const StationComparison &comparison);
-[[nodiscard]] QString previewOf(const StationComparison &comparison,
-                                const std::vector<std::size_t> &selected);
 
 } // namespace quillet

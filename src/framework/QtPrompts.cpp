@@ -180,7 +180,7 @@ void addOtherButton(QFileDialog &dialog, const QString &title, const std::shared
     QPushButton *open = buttons ? buttons->button(QDialogButtonBox::Open) : nullptr;
     if (!open)
         return;
-    auto *other = new QPushButton(title);
+    auto *other = new QPushButton(u'&' + title);
     buttons->addButton(other, QDialogButtonBox::ActionRole);
     other->setObjectName(QStringLiteral("otherButton"));
     other->setAutoDefault(false);

@@ -294,6 +294,8 @@ private slots:
         const QString order = app.write("an order with a rather long name.tll", list);
         part<EditorView>(*window, "EditorView").controller().applyOrderFile(order);
         QCOMPARE(clippedInDialog(*window, "alert"), QString());
+        part<EditorView>(*window, "EditorView").controller().comparing().compareWithFile(order);
+        QCOMPARE(clippedInDialog(*window, "compareDialog"), QString());
     }
 
     void hintsAreNotClipped_data()

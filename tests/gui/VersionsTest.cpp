@@ -48,6 +48,12 @@ private slots:
 
         dialog = openDialog(*window);
         QVERIFY(dialog);
+        QTest::mouseClick(&part<QPushButton>(*dialog, "compareVersion"), Qt::LeftButton);
+        const auto &compared = part<QDialog>(*window, "compareDialog"); // stays open to the end
+        QVERIFY(compared.windowTitle().contains(u"a.tll"_s));
+
+        dialog = openDialog(*window);
+        QVERIFY(dialog);
         const auto &putBack = part<QPushButton>(*dialog, "putBackVersion");
         QTRY_COMPARE(putBack.toolTip(), qtTrId("kPutBackSame"));
         QVERIFY(!putBack.isEnabled());

@@ -1,0 +1,108 @@
+#include "AppFixture.h"
+
+#include "testing/TestMain.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QTest>
+
+using namespace quillet;
+using namespace quillet::testing;
+using namespace Qt::Literals::StringLiterals;
+
+/// The window that compares lists, by keys alone.
+class CompareTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void listIsTakenOverFromAnotherWindow()
+    {
+        App app;
+        QVERIFY(app.open("other.tll", listOf(4).replace(">2</prNum>", ">9</prNum>")));
+        QMainWindow *window = app.open("a.tll", listOf(4));
+        QVERIFY(window);
+        auto &menu = part<QMenu>(*window, "compareMenu");
+        QVERIFY(!menuItem(*window, "compareWithRead").isEnabled());
+        emit menu.aboutToShow();
+        menu.actions().constLast()->trigger();
+        QDialog *dialog = shown(*window);
+        QVERIFY(dialog);
+        auto &table = part<QTableView>(*dialog, "compareTable");
+        const auto &takeSelected = part<QPushButton>(*dialog, "takeOverSelected");
+        QCOMPARE(table.model()->rowCount(), 1);
+        QCOMPARE(dialog->focusWidget(), &table);
+        QVERIFY(takeSelected.isEnabled());
+        QTest::keyClick(&table, Qt::Key_Space);
+        QVERIFY(!takeSelected.isEnabled() && !takeSelected.toolTip().isEmpty());
+        QCOMPARE(part<QLabel>(*dialog, "comparePreview").text(), qtTrId("kPreviewNothing"));
+        QTest::keyClick(&table, Qt::Key_Return);
+        QCOMPARE(tableOf(*window).currentIndex().row(), 1);
+
+        QTest::keyClick(dialog, Qt::Key_F, Qt::ControlModifier);
+        QCOMPARE(dialog->focusWidget(), &part<QLineEdit>(*dialog, "compareSearch"));
+        QTest::keyClicks(dialog->focusWidget(), u"none"_s);
+        QCOMPARE(table.model()->rowCount(), 0);
+        QTest::keyClick(dialog->focusWidget(), Qt::Key_Escape);
+        QCOMPARE(table.model()->rowCount(), 1);
+        QCOMPARE(dialog->focusWidget(), &table);
+        QTest::keyClicks(&part<QLineEdit>(*dialog, "compareSearch"), u"2"_s);
+        QTest::keyClick(&part<QLineEdit>(*dialog, "compareSearch"), Qt::Key_Down);
+        QCOMPARE(table.selectionModel()->selectedRows().size(), 1);
+        part<QLineEdit>(*dialog, "compareSearch").clear();
+        part<QCheckBox>(*dialog, "compareKind64").click();
+        QCOMPARE(table.model()->rowCount(), 4);
+        QTest::keyClick(&table, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClick(&table, Qt::Key_Space);
+        QVERIFY(takeSelected.isEnabled());
+        part<QPushButton>(*dialog, "takeOverAll").click();
+        QCOMPARE(cell(*window, 3, 0), u"9"_s);
+        QTRY_VERIFY(!part<QPushButton>(*dialog, "takeOverAll").isEnabled());
+        QCOMPARE(table.selectionModel()->selectedRows().size(), 4);
+        QTest::keyClick(dialog, Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(cell(*window, 3, 0), u"4"_s);
+        QVERIFY(!window->isWindowModified());
+        QTest::keyClick(&table, Qt::Key_Escape);
+        QTRY_VERIFY(!window->findChild<QDialog *>(u"compareDialog"_s));
+    }
+
+    void orderIsAppliedFromItsPreview()
+    {
+        App app;
+        QMainWindow *window = app.open("a.tll", listOf(3));
+        QVERIFY(window);
+        app.preset.answerOpenPanelOther(
+            app.write("order.txt", "8;Station 3;1-1-3\r\n9;Station 1;1-1-1\r\n9;x;1-1-9\r\n"));
+        menuItem(*window, "applyOrderClicked").trigger();
+        QDialog *dialog = shown(*window);
+        QVERIFY(dialog && dialog->isModal());
+        QCOMPARE(part<QTableView>(*dialog, "compareTable").model()->rowCount(), 4);
+        QCOMPARE(cell(*window, 0, 1), u"Station 1"_s);
+        app.preset.answerAlert(label("kOK"));
+        part<QPushButton>(*dialog, "compareApply").click();
+        QTRY_COMPARE(cell(*window, 0, 1), u"Station 3"_s);
+        QTRY_VERIFY(!window->findChild<QDialog *>(u"compareDialog"_s));
+        QVERIFY(app.preset.isSettled());
+    }
+
+private:
+    static QDialog *shown(const QMainWindow &window)
+    {
+        QDialog *dialog = nullptr;
+        const auto isThere = [&] {
+            dialog = window.findChild<QDialog *>(u"compareDialog"_s);
+            return dialog && QApplication::activeWindow() == dialog;
+        };
+        return QTest::qWaitFor(isThere) ? dialog : nullptr;
+    }
+};
+
+QUILLET_TEST(CompareTest)
+
+#include "CompareTest.moc"

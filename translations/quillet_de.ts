@@ -229,6 +229,10 @@
         <source></source>
         <translation>Suche leeren</translation>
     </message>
+    <message id="kClipboard">
+        <source></source>
+        <translation>Zwischenablage</translation>
+    </message>
     <message id="kClose">
         <source></source>
         <translation>Schließen</translation>
@@ -1180,13 +1184,17 @@
         <source></source>
         <translation>&amp;Zuletzt verwendete Dateien</translation>
     </message>
+    <message id="kMenuPaste">
+        <source></source>
+        <translation>Einfü&amp;gen</translation>
+    </message>
     <message id="kMenuPrint">
         <source></source>
         <translation>&amp;Drucken …</translation>
     </message>
     <message id="kMenuPrintCompact">
         <source></source>
-        <translation>Kom&amp;pakt drucken …</translation>
+        <translation>&amp;Kompakt drucken …</translation>
     </message>
     <message id="kMenuQuit">
         <source></source>
@@ -1488,6 +1496,13 @@
     <message id="kPageOf">
         <source></source>
         <translation>Seite %1 von %2</translation>
+    </message>
+    <message id="kPasteUnread" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n Zeile der Zwischenablage nennt keinen Sender.</numerusform>
+            <numerusform>%n Zeilen der Zwischenablage nennen keinen Sender.</numerusform>
+        </translation>
     </message>
     <message id="kPermissionsFailedReason">
         <source></source>
@@ -2132,6 +2147,10 @@ Diese folgen ab Nummer: %3</translation>
     <message id="kTipNoSteps">
         <source></source>
         <translation>In dieser Richtung gibt es keinen weiteren Schritt</translation>
+    </message>
+    <message id="kTipNothingToPaste">
+        <source></source>
+        <translation>In der Zwischenablage sind keine Zeilen, die Sender nennen</translation>
     </message>
     <message id="kTipNotRead">
         <source></source>

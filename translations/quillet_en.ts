@@ -229,6 +229,10 @@
         <source></source>
         <translation>Clear search</translation>
     </message>
+    <message id="kClipboard">
+        <source></source>
+        <translation>Clipboard</translation>
+    </message>
     <message id="kClose">
         <source></source>
         <translation>Close</translation>
@@ -1180,13 +1184,17 @@
         <source></source>
         <translation>Open &amp;Recent</translation>
     </message>
+    <message id="kMenuPaste">
+        <source></source>
+        <translation>Paste</translation>
+    </message>
     <message id="kMenuPrint">
         <source></source>
         <translation>&amp;Print…</translation>
     </message>
     <message id="kMenuPrintCompact">
         <source></source>
-        <translation>Print &amp;Compact…</translation>
+        <translation>Print Co&amp;mpact…</translation>
     </message>
     <message id="kMenuQuit">
         <source></source>
@@ -1488,6 +1496,13 @@
     <message id="kPageOf">
         <source></source>
         <translation>Page %1 of %2</translation>
+    </message>
+    <message id="kPasteUnread" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n row of the clipboard does not tell a station.</numerusform>
+            <numerusform>%n rows of the clipboard do not tell a station.</numerusform>
+        </translation>
     </message>
     <message id="kPermissionsFailedReason">
         <source></source>
@@ -2132,6 +2147,10 @@ These go on from number: %3</translation>
     <message id="kTipNoSteps">
         <source></source>
         <translation>There is no further step in this direction</translation>
+    </message>
+    <message id="kTipNothingToPaste">
+        <source></source>
+        <translation>The clipboard has no rows that tell stations</translation>
     </message>
     <message id="kTipNotRead">
         <source></source>

@@ -229,6 +229,10 @@
         <source></source>
         <translation>Borrar la búsqueda</translation>
     </message>
+    <message id="kClipboard">
+        <source></source>
+        <translation>Portapapeles</translation>
+    </message>
     <message id="kClose">
         <source></source>
         <translation>Cerrar</translation>
@@ -1180,13 +1184,17 @@
         <source></source>
         <translation>Abrir &amp;reciente</translation>
     </message>
+    <message id="kMenuPaste">
+        <source></source>
+        <translation>Pe&amp;gar</translation>
+    </message>
     <message id="kMenuPrint">
         <source></source>
         <translation>&amp;Imprimir…</translation>
     </message>
     <message id="kMenuPrintCompact">
         <source></source>
-        <translation>Imprimir en forma &amp;compacta…</translation>
+        <translation>Imprimir en forma co&amp;mpacta…</translation>
     </message>
     <message id="kMenuQuit">
         <source></source>
@@ -1488,6 +1496,13 @@
     <message id="kPageOf">
         <source></source>
         <translation>Página %1 de %2</translation>
+    </message>
+    <message id="kPasteUnread" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n fila del portapapeles no indica ningún canal.</numerusform>
+            <numerusform>%n filas del portapapeles no indican ningún canal.</numerusform>
+        </translation>
     </message>
     <message id="kPermissionsFailedReason">
         <source></source>
@@ -2132,6 +2147,10 @@ Estos continúan a partir del número: %3</translation>
     <message id="kTipNoSteps">
         <source></source>
         <translation>No hay más pasos en esta dirección</translation>
+    </message>
+    <message id="kTipNothingToPaste">
+        <source></source>
+        <translation>El portapapeles no tiene filas que indiquen canales</translation>
     </message>
     <message id="kTipNotRead">
         <source></source>

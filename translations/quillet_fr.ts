@@ -229,6 +229,10 @@
         <source></source>
         <translation>Effacer la recherche</translation>
     </message>
+    <message id="kClipboard">
+        <source></source>
+        <translation>Presse-papiers</translation>
+    </message>
     <message id="kClose">
         <source></source>
         <translation>Fermer</translation>
@@ -1180,13 +1184,17 @@
         <source></source>
         <translation>Fichiers &amp;récents</translation>
     </message>
+    <message id="kMenuPaste">
+        <source></source>
+        <translation>Coller</translation>
+    </message>
     <message id="kMenuPrint">
         <source></source>
         <translation>&amp;Imprimer…</translation>
     </message>
     <message id="kMenuPrintCompact">
         <source></source>
-        <translation>Imprimer en &amp;compact…</translation>
+        <translation>Imprimer en co&amp;mpact…</translation>
     </message>
     <message id="kMenuQuit">
         <source></source>
@@ -1488,6 +1496,13 @@
     <message id="kPageOf">
         <source></source>
         <translation>Page %1 sur %2</translation>
+    </message>
+    <message id="kPasteUnread" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n ligne du presse-papiers ne désigne aucune chaîne.</numerusform>
+            <numerusform>%n lignes du presse-papiers ne désignent aucune chaîne.</numerusform>
+        </translation>
     </message>
     <message id="kPermissionsFailedReason">
         <source></source>
@@ -2132,6 +2147,10 @@ Ces dernières suivent à partir du numéro : %3</translation>
     <message id="kTipNoSteps">
         <source></source>
         <translation>Il n’y a pas d’autre étape dans ce sens</translation>
+    </message>
+    <message id="kTipNothingToPaste">
+        <source></source>
+        <translation>Le presse-papiers ne contient aucune ligne qui désigne des chaînes</translation>
     </message>
     <message id="kTipNotRead">
         <source></source>

@@ -229,6 +229,10 @@
         <source></source>
         <translation>Azzera la ricerca</translation>
     </message>
+    <message id="kClipboard">
+        <source></source>
+        <translation>Appunti</translation>
+    </message>
     <message id="kClose">
         <source></source>
         <translation>Chiudi</translation>
@@ -1180,13 +1184,17 @@
         <source></source>
         <translation>Apri &amp;recenti</translation>
     </message>
+    <message id="kMenuPaste">
+        <source></source>
+        <translation>Incolla</translation>
+    </message>
     <message id="kMenuPrint">
         <source></source>
         <translation>S&amp;tampa…</translation>
     </message>
     <message id="kMenuPrintCompact">
         <source></source>
-        <translation>Stampa &amp;compatta…</translation>
+        <translation>Stampa co&amp;mpatta…</translation>
     </message>
     <message id="kMenuQuit">
         <source></source>
@@ -1488,6 +1496,13 @@
     <message id="kPageOf">
         <source></source>
         <translation>Pagina %1 di %2</translation>
+    </message>
+    <message id="kPasteUnread" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n riga degli appunti non indica alcun canale.</numerusform>
+            <numerusform>%n righe degli appunti non indicano alcun canale.</numerusform>
+        </translation>
     </message>
     <message id="kPermissionsFailedReason">
         <source></source>
@@ -2132,6 +2147,10 @@ Questi proseguono dal numero: %3</translation>
     <message id="kTipNoSteps">
         <source></source>
         <translation>Non ci sono altri passi in questa direzione</translation>
+    </message>
+    <message id="kTipNothingToPaste">
+        <source></source>
+        <translation>Gli appunti non contengono righe che indichino canali</translation>
     </message>
     <message id="kTipNotRead">
         <source></source>

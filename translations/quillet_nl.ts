@@ -229,6 +229,10 @@
         <source></source>
         <translation>Zoekopdracht wissen</translation>
     </message>
+    <message id="kClipboard">
+        <source></source>
+        <translation>Klembord</translation>
+    </message>
     <message id="kClose">
         <source></source>
         <translation>Sluiten</translation>
@@ -1180,6 +1184,10 @@
         <source></source>
         <translation>&amp;Recent geopend</translation>
     </message>
+    <message id="kMenuPaste">
+        <source></source>
+        <translation>Plakken</translation>
+    </message>
     <message id="kMenuPrint">
         <source></source>
         <translation>Af&amp;drukken…</translation>
@@ -1488,6 +1496,13 @@
     <message id="kPageOf">
         <source></source>
         <translation>Pagina %1 van %2</translation>
+    </message>
+    <message id="kPasteUnread" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n rij op het klembord noemt geen zender.</numerusform>
+            <numerusform>%n rijen op het klembord noemen geen zender.</numerusform>
+        </translation>
     </message>
     <message id="kPermissionsFailedReason">
         <source></source>
@@ -2132,6 +2147,10 @@ Deze gaan verder vanaf nummer: %3</translation>
     <message id="kTipNoSteps">
         <source></source>
         <translation>Er is geen verdere stap in deze richting</translation>
+    </message>
+    <message id="kTipNothingToPaste">
+        <source></source>
+        <translation>Op het klembord staan geen rijen die zenders noemen</translation>
     </message>
     <message id="kTipNotRead">
         <source></source>

@@ -235,6 +235,10 @@
         <source></source>
         <translation>Wyczyść wyszukiwanie</translation>
     </message>
+    <message id="kClipboard">
+        <source></source>
+        <translation>Schowek</translation>
+    </message>
     <message id="kClose">
         <source></source>
         <translation>Zamknij</translation>
@@ -1207,13 +1211,17 @@
         <source></source>
         <translation>Ostatnio &amp;używane</translation>
     </message>
+    <message id="kMenuPaste">
+        <source></source>
+        <translation>Wklej</translation>
+    </message>
     <message id="kMenuPrint">
         <source></source>
         <translation>&amp;Drukuj…</translation>
     </message>
     <message id="kMenuPrintCompact">
         <source></source>
-        <translation>Drukuj w &amp;skrócie…</translation>
+        <translation>Drukuj w skró&amp;cie…</translation>
     </message>
     <message id="kMenuQuit">
         <source></source>
@@ -1518,6 +1526,14 @@
     <message id="kPageOf">
         <source></source>
         <translation>Strona %1 z %2</translation>
+    </message>
+    <message id="kPasteUnread" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n wiersz schowka nie wskazuje kanału.</numerusform>
+            <numerusform>%n wiersze schowka nie wskazują kanału.</numerusform>
+            <numerusform>%n wierszy schowka nie wskazuje kanału.</numerusform>
+        </translation>
     </message>
     <message id="kPermissionsFailedReason">
         <source></source>
@@ -2184,6 +2200,10 @@ Te następują od numeru: %3</translation>
     <message id="kTipNoSteps">
         <source></source>
         <translation>W tym kierunku nie ma już żadnego kroku</translation>
+    </message>
+    <message id="kTipNothingToPaste">
+        <source></source>
+        <translation>W schowku nie ma wierszy, które wskazują kanały</translation>
     </message>
     <message id="kTipNotRead">
         <source></source>

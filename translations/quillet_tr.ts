@@ -223,6 +223,10 @@
         <source></source>
         <translation>Aramayı temizle</translation>
     </message>
+    <message id="kClipboard">
+        <source></source>
+        <translation>Pano</translation>
+    </message>
     <message id="kClose">
         <source></source>
         <translation>Kapat</translation>
@@ -1153,13 +1157,17 @@
         <source></source>
         <translation>&amp;Son Kullanılanlar</translation>
     </message>
+    <message id="kMenuPaste">
+        <source></source>
+        <translation>Yapı&amp;ştır</translation>
+    </message>
     <message id="kMenuPrint">
         <source></source>
         <translation>Ya&amp;zdır…</translation>
     </message>
     <message id="kMenuPrintCompact">
         <source></source>
-        <translation>&amp;Sıkışık Yazdır…</translation>
+        <translation>Sıkı&amp;şık Yazdır…</translation>
     </message>
     <message id="kMenuQuit">
         <source></source>
@@ -1458,6 +1466,12 @@
     <message id="kPageOf">
         <source></source>
         <translation>Sayfa %1 / %2</translation>
+    </message>
+    <message id="kPasteUnread" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Panodaki %n satır bir kanal belirtmiyor.</numerusform>
+        </translation>
     </message>
     <message id="kPermissionsFailedReason">
         <source></source>
@@ -2080,6 +2094,10 @@ Bunların devam ettiği numara: %3</translation>
     <message id="kTipNoSteps">
         <source></source>
         <translation>Bu yönde başka adım yok</translation>
+    </message>
+    <message id="kTipNothingToPaste">
+        <source></source>
+        <translation>Panoda kanalları belirten satır yok</translation>
     </message>
     <message id="kTipNotRead">
         <source></source>

@@ -68,6 +68,7 @@ EditMenu::EditMenu(LGWindowController &window, QMenuBar &bar, QObject *parent)
     QMenu &menu = *bar.addMenu(qtTrId("kMenuEdit"));
     menu.setObjectName(QStringLiteral("editMenu"));
     menu.setToolTipsVisible(true);
+    connect(&menu, &QMenu::aboutToShow, &m_editor, &EditorView::lookAtClipboard);
     connect(&menu, &QMenu::aboutToShow, this, qOverload<>(&EditMenu::validate));
     addUndo(menu);
     menu.addSeparator();
@@ -167,6 +168,9 @@ void EditMenu::addFlags(QMenu &menu)
     m_contextActions.append(add(
         menu, {"kMenuCopy", "copy", {QKeySequence::Copy}}, [this] { m_editor.copy(); },
         copyReason));
+    m_contextActions.append(add(
+        menu, {"kMenuPaste", "paste", {QKeySequence::Paste}}, [this] { m_editor.paste(); },
+        [this] { return m_editor.reasonAgainstPasting(); }));
     m_contextActions.append(add(
         menu, {"kMenuInfo", "showInfo", {Qt::CTRL | Qt::Key_I}}, [this] { m_editor.showInfo(); },
         infoReason));

@@ -10,18 +10,21 @@
 #include "editor/InfoViewController.h"
 #include "editor/ShownTexts.h"
 #include "editor/SourceTitles.h"
+#include "editor/StationClipboard.h"
 #include "editor/StationHeader.h"
 #include "editor/TableColumns.h"
 #include "editor/TableSelection.h"
 #include "ui_EditorView.h"
 
+#include <QApplication>
 #include <QClipboard>
 #include <QDropEvent>
-#include <QGuiApplication>
 #include <QItemSelectionModel>
+#include <QLineEdit>
 #include <QMenu>
 
-#include <array>
+#include <utility>
+#include <vector>
 
 namespace quillet {
 
@@ -121,11 +124,18 @@ void EditorView::connectControls()
             &ViewController::keepMine);
     connect(&m_controller, &ViewController::stateChanged, this, &EditorView::stateChanged);
     connect(
-        &m_controller, &ViewController::comparisonWanted, this,
-        [this](const ComparedWith &other) { showComparison(m_controller, other, sheetWindow()); });
+        &m_controller, &ViewController::comparisonWanted, this, [this](const ComparedWith &other) {
+            showComparison(m_controller, other, sheetWindow(), [this](const StationList &chosen) {
+                m_controller.pasteStations(chosen);
+            });
+        });
     connect(&m_controller, &ViewController::stateChanged, m_ui->fillGapsButton,
             [this] { m_ui->fillGapsButton->setChecked(m_controller.fillGaps()); });
     connect(m_ui->list, &DarkModeTableView::editingChanged, this, &EditorView::stateChanged);
+    connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, [this] {
+        if (!std::exchange(m_mayPaste, true)) // not looked at now: its program may not answer
+            emit stateChanged();
+    });
     connect(m_emptyDocText, &EmptyDocText::openRequested, this, &EditorView::openRequested);
     connect(m_emptyDocText, &EmptyDocText::tvRequested, &m_controller,
             &ViewController::useTVClicked);
@@ -153,7 +163,35 @@ void EditorView::goToStep(int step)
 
 void EditorView::copy()
 {
-    QGuiApplication::clipboard()->setText(m_controller.selecting().copiedText());
+    const auto &header = static_cast<const StationHeader &>(*m_ui->list->horizontalHeader());
+    std::vector<ColumnContent> columns;
+    for (const int column : header.shownColumns())
+        columns.push_back(stationColumns.at(static_cast<std::size_t>(column)).content);
+    const StationList selected = m_controller.shown().stationsAt(selectedRows());
+    QGuiApplication::clipboard()->setMimeData(
+        copiedStations(m_controller, selected, columns).release());
+}
+
+void EditorView::paste()
+{
+    if (auto *field = qobject_cast<QLineEdit *>(QApplication::focusWidget()))
+        field->paste();
+    else if (const QMimeData *held = QGuiApplication::clipboard()->mimeData())
+        m_controller.paste(*held);
+}
+
+QString EditorView::reasonAgainstPasting() const
+{
+    if (qobject_cast<QLineEdit *>(QApplication::focusWidget()))
+        return {};
+    const QString reason = m_controller.pasting().reasonAgainst();
+    return reason.isEmpty() && !m_mayPaste ? qtTrId("kTipNothingToPaste") : reason;
+}
+
+void EditorView::lookAtClipboard()
+{
+    const QMimeData *held = QGuiApplication::clipboard()->mimeData();
+    m_mayPaste = held && mayHoldStations(*held);
 }
 
 void EditorView::findNext(bool isForward)
@@ -221,6 +259,8 @@ void EditorView::setContextActions(const QList<QAction *> &actions)
 /// Unlike the one that a widget makes of its actions, it says why a command is disabled.
 void EditorView::showContextMenu(const QPoint &place)
 {
+    lookAtClipboard();
+    emit stateChanged();
     auto *menu = new QMenu(this);
     menu->setObjectName(QStringLiteral("tableMenu"));
     menu->setAttribute(Qt::WA_DeleteOnClose);

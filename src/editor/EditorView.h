@@ -50,6 +50,14 @@ public:
     void askToArrange();
     /// Puts the selected stations on the clipboard.
     void copy();
+    /// Moves the stations that are on the clipboard here; into a field that has the focus, its text
+    /// goes instead.
+    void paste();
+    /// Why it would do nothing, as far as was seen at the last look; empty when it would do
+    /// something.
+    [[nodiscard]] QString reasonAgainstPasting() const;
+    /// Looks what the clipboard has, which may mean to wait for the program that has put it there.
+    void lookAtClipboard();
     void findNext(bool isForward);
     /// Asks where to print, then prints the rows shown.
     void printList(PrintForm form);
@@ -123,6 +131,7 @@ private:
     /// None once they may be others: commands are validated by them again and again.
     mutable std::optional<QList<qsizetype>> m_selectedRows;
     QPointer<InfoViewController> m_infoPanel;
+    bool m_mayPaste = true; ///< until a look at the clipboard says otherwise
 };
 
 } // namespace quillet

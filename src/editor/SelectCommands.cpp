@@ -1,7 +1,6 @@
 #include "editor/SelectCommands.h"
 
 #include "editor/StationSearch.h"
-#include "model/CleanName.h"
 
 #include <algorithm>
 
@@ -72,16 +71,6 @@ void SelectCommands::findNext(bool isForward)
     }
     m_table.selectRows({*found});
     m_outlets.scrollRowToVisible(*found);
-}
-
-QString SelectCommands::copiedText() const
-{
-    QString text;
-    for (const StationPtr &station : m_table.shown().stationsAt(m_outlets.selectedRows())) {
-        text += station->progNumString() + u'\t' + cleanName(station->shownName()).simplified() +
-                u'\t' + station->channelTypeForDisplay(m_table.source()) + u'\n';
-    }
-    return text;
 }
 
 } // namespace quillet

@@ -6,7 +6,7 @@
 
 namespace quillet {
 
-/// The commands that select stations, look for one, or copy what is selected. Owned by the window's
+/// The commands that select stations, or look for one. Owned by the window's
 /// ViewController.
 class SelectCommands
 {
@@ -23,8 +23,6 @@ public:
     /// that is searched for, or was last.
     void findNext(bool isForward);
     [[nodiscard]] bool canFindNext() const;
-    /// The selected stations as lines of number, name and type, with tabs in between.
-    [[nodiscard]] QString copiedText() const;
     /// Another document is shown, or the same anew.
     void forgetDocument() { m_encryptedOf.reset(); }
 

@@ -16,6 +16,14 @@ constexpr ComparisonKinds differing{ComparisonKind::Moved,    ComparisonKind::Re
                                     ComparisonKind::Flags,    ComparisonKind::Fields,
                                     ComparisonKind::OnlyHere, ComparisonKind::OnlyThere};
 
+/// The kinds that are worth showing. What is to be pasted need not differ.
+ComparisonKinds findings(const ComparedWith &other)
+{
+    ComparisonKinds kinds = differing;
+    kinds.setFlag(ComparisonKind::Same, other.purpose == ComparedWith::Purpose::Paste);
+    return kinds;
+}
+
 EditSummary summaryOf(const ComparedWith &other, const StationComparison::Parts &parts)
 {
     EditSummary summary{.kind = other.purpose == ComparedWith::Purpose::Import
@@ -42,7 +50,7 @@ bool isIn(const QString &name, const QString &searched)
 } // namespace
 
 StationComparison::StationComparison(ViewController &controller, ComparedWith other)
-    : m_controller(controller), m_other(std::move(other)), m_kinds(differing)
+    : m_controller(controller), m_other(std::move(other)), m_kinds(findings(m_other))
 {
     for (const StationDifference aspect : aspects)
         m_takes.setFlag(aspect);
@@ -106,8 +114,9 @@ std::size_t StationComparison::count(ComparisonKind kind) const
 
 bool StationComparison::isEmpty() const
 {
-    return std::none_of(m_rows.begin(), m_rows.end(),
-                        [](const ComparisonRow &row) { return bool(row.kinds & differing); });
+    return std::none_of(
+        m_rows.begin(), m_rows.end(),
+        [kinds = findings(m_other)](const ComparisonRow &row) { return bool(row.kinds & kinds); });
 }
 
 void StationComparison::showKinds(ComparisonKinds kinds)

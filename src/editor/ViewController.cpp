@@ -21,7 +21,7 @@ namespace quillet {
 
 ViewController::ViewController(EditorOutlets &outlets, QObject *parent)
     : TableController(outlets, parent), m_arranging(shown(), outlets), m_comparing(*this, outlets),
-      m_selecting(*this, outlets), m_undoing(*this, outlets)
+      m_selecting(*this, outlets), m_undoing(*this, outlets), m_pasting(*this, outlets)
 {
     connect(this, &TableController::documentChanged, this, &ViewController::followDocument);
     connect(&m_editor, &ListEditor::changed, this, [this](const ListChange &change) {
@@ -372,6 +372,28 @@ StationPtr ViewController::stationForInfo() const
 {
     const StationList selected = shown().stationsAt(outlets().selectedRows());
     return selected.empty() ? nullptr : selected.front();
+}
+
+void ViewController::paste(const QMimeData &data)
+{
+    if (tellForeignRows())
+        return;
+    if (const QString reason = m_pasting.reasonAgainst(); !reason.isEmpty())
+        return outlets().tell(reason);
+    std::optional<PastedStations> pasted = pastedStations(data);
+    if (!pasted)
+        return outlets().tell(qtTrId("kTipNothingToPaste"));
+    if (const auto move = m_pasting.plan(*pasted))
+        moveStations(move->stations, move->target);
+    else
+        emit comparisonWanted(m_pasting.comparison(*pasted));
+}
+
+void ViewController::pasteStations(const StationList &chosen)
+{
+    const PasteCommand::Move move = m_pasting.planFor(chosen);
+    if (!move.stations.empty())
+        moveStations(move.stations, move.target);
 }
 
 DragOperation ViewController::validateDrop(const TableDrag &drag)

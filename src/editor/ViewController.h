@@ -6,6 +6,7 @@
 #include "editor/ComparedWith.h"
 #include "editor/DroppedFiles.h"
 #include "editor/ListEditor.h"
+#include "editor/PasteCommand.h"
 #include "editor/SelectCommands.h"
 #include "editor/TableController.h"
 #include "editor/TableDrag.h"
@@ -90,6 +91,15 @@ public:
     /// Going back and forth through the steps of the document.
     [[nodiscard]] UndoCommands &undoing() { return m_undoing; }
 
+    // Clipboard
+
+    /// Moves the stations that it tells to the place of the first selected row, or has what is
+    /// doubtful of that shown by comparisonWanted().
+    void paste(const QMimeData &data);
+    /// The same for those of them that were chosen there.
+    void pasteStations(const StationList &chosen);
+    [[nodiscard]] const PasteCommand &pasting() const { return m_pasting; }
+
     // Drag and drop
 
     [[nodiscard]] DragOperation validateDrop(const TableDrag &drag);
@@ -139,6 +149,7 @@ private:
     CompareCommands m_comparing;
     SelectCommands m_selecting;
     UndoCommands m_undoing;
+    PasteCommand m_pasting;
     DroppedFiles m_droppedFiles;
     bool m_fillGaps = false;
     int m_alsoDropped = 0;       ///< files, beside the one that is loaded

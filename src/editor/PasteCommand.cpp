@@ -1,0 +1,68 @@
+#include "editor/PasteCommand.h"
+
+#include <QSet>
+
+#include <algorithm>
+
+namespace quillet {
+
+QString PasteCommand::reasonAgainst() const
+{
+    if (!m_table.shown().hasData())
+        return qtTrId("kTipNoStations");
+    return m_outlets.selectedRows().isEmpty() ? qtTrId("kTipSelectFirst") : QString();
+}
+
+std::optional<PasteCommand::Move> PasteCommand::plan(PastedStations &pasted)
+{
+    const StationList selected = m_table.shown().ownStationsAt(m_outlets.selectedRows().first(1));
+    const StationListPtr &list = m_table.stationDoc()->stations();
+    m_place = selected.empty() ? nullptr : selected.front();
+    completeRows(pasted.rows, *list);
+    StationList found(pasted.rows.stations.size());
+    const auto pairs = pairStations(*list, pasted.rows.stations);
+    for (std::size_t i = 0; i < pairs.size(); ++i) {
+        if (pairs[i] && pairs[i]->likeness == Likeness::Sure)
+            found[pairs[i]->index] = (*list)[i];
+    }
+    const bool isSure = m_place && pasted.unread == 0 &&
+                        std::find(found.begin(), found.end(), nullptr) == found.end();
+    return isSure ? std::optional(Move{std::move(found), m_place->progNum()}) : std::nullopt;
+}
+
+ComparedWith PasteCommand::comparison(const PastedStations &pasted) const
+{
+    const TLLDocument &document = *m_table.stationDoc();
+    ComparedWith other{
+        .purpose = ComparedWith::Purpose::Paste, .name = qtTrId("kClipboard"), .lists = {}};
+    other.lists.setupLists();
+    *other.lists.list(document.usesTV(), document.curSource()) = pasted.rows.stations;
+    for (std::size_t i = 0; i < pasted.rows.stations.size(); ++i) {
+        // Which numbers they had is of no matter here.
+        StationDifferences told = pasted.rows.told[i];
+        told.setFlag(StationDifference::Number, false);
+        other.told.insert(pasted.rows.stations[i].get(), told);
+    }
+    if (pasted.unread > 0)
+        other.remark = qtTrId("kPasteUnread", static_cast<int>(pasted.unread));
+    return other;
+}
+
+PasteCommand::Move PasteCommand::planFor(const StationList &chosen) const
+{
+    const TLLDocument *document = m_table.stationDoc();
+    if (!document || !document->stations())
+        return {};
+    const StationList &list = *document->stations();
+    const QSet<StationPtr> known(list.begin(), list.end());
+    if (!m_place || !known.contains(m_place))
+        return {};
+    Move move{{}, m_place->progNum()};
+    for (const StationPtr &station : chosen) {
+        if (known.contains(station))
+            move.stations.push_back(station);
+    }
+    return move;
+}
+
+} // namespace quillet

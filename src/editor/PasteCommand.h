@@ -1,0 +1,44 @@
+#pragma once
+
+#include "editor/ComparedWith.h"
+#include "editor/StationClipboard.h"
+#include "editor/TableController.h"
+
+namespace quillet {
+
+/// Moving the stations that rows of the clipboard tell to the place of the first selected row.
+/// Plans that, and has anything doubtful of it shown first. Changes nothing. Owned by the window's
+/// ViewController.
+class PasteCommand
+{
+public:
+    PasteCommand(const TableController &table, const EditorOutlets &outlets)
+        : m_table(table), m_outlets(outlets)
+    {
+    }
+
+    /// Why nothing could be moved, whatever the clipboard holds, as a localized text; empty when
+    /// something could be.
+    [[nodiscard]] QString reasonAgainst() const;
+
+    struct Move
+    {
+        StationList stations; ///< of the list on show, in the order of the rows
+        qint64 target = 0;
+    };
+    /// What pasting would do. None when a row fits no station, or not surely: then the comparison
+    /// is to be shown first.
+    [[nodiscard]] std::optional<Move> plan(PastedStations &pasted);
+    /// To be called after plan().
+    [[nodiscard]] ComparedWith comparison(const PastedStations &pasted) const;
+    /// The same for those stations that a person has chosen then. Without stations when the place
+    /// or all of them have gone.
+    [[nodiscard]] Move planFor(const StationList &chosen) const;
+
+private:
+    const TableController &m_table;
+    const EditorOutlets &m_outlets;
+    StationPtr m_place; ///< the station of the row that was selected when it was planned
+};
+
+} // namespace quillet

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "editor/StationDetails.h"
+
+#include <optional>
+
+namespace quillet {
+
+class TableController;
+
+/// What the cells of the station table say, for other programs: texts in their full length, and
+/// marks. Made when it is needed: it takes over which source is on show, and its satellites.
+class StationCells
+{
+public:
+    explicit StationCells(const TableController &table);
+
+    /// Empty for a column of marks.
+    [[nodiscard]] QString text(const LGStation &station, ColumnContent content) const;
+    /// Whether the station has the mark; none for a column of texts, and where the file does not
+    /// tell.
+    [[nodiscard]] static std::optional<bool> mark(const LGStation &station, ColumnContent content);
+
+private:
+    int m_source;
+    SatelliteNames m_satellites;
+};
+
+} // namespace quillet

@@ -1,0 +1,167 @@
+#include "editor/StationClipboard.h"
+
+#include "document/text/HtmlTable.h"
+#include "document/text/StationKey.h"
+#include "editor/StationCells.h"
+#include "editor/TableController.h"
+#include "model/CleanName.h"
+
+#include <QLocale>
+
+#include <algorithm>
+
+namespace quillet {
+
+namespace {
+
+const QString rowsFormat = QStringLiteral("application/x-quillet-stations");
+const QString keyTitle = QStringLiteral("key");
+
+/// More than the rows of any list: what is longer is something else.
+constexpr qsizetype longestText = 32 * 1024 * 1024;
+
+const StationColumn &columnWith(ColumnContent content)
+{
+    return stationColumns[static_cast<std::size_t>(columnOf(content))];
+}
+
+HtmlTable::Alignment alignmentOf(const StationColumn &column)
+{
+    switch (column.alignment) {
+    case Qt::AlignRight:
+        return HtmlTable::Alignment::End;
+    case Qt::AlignHCenter:
+        return HtmlTable::Alignment::Centre;
+    default:
+        return HtmlTable::Alignment::Start;
+    }
+}
+
+/// A line of a text, without what no text has.
+QString inOneLine(const QString &text)
+{
+    return cleanName(text).simplified();
+}
+
+QString linesOf(const StationList &stations, const StationCells &cells)
+{
+    QString lines;
+    for (const StationPtr &station : stations) {
+        lines += cells.text(*station, ColumnContent::Number) + u'\t' +
+                 inOneLine(cells.text(*station, ColumnContent::Name)) + u'\t' +
+                 cells.text(*station, ColumnContent::Type) + u'\n';
+    }
+    return lines;
+}
+
+QByteArray separated(const HtmlTable &table, QChar separator)
+{
+    SeparatedText text(separator);
+    QStringList titles;
+    for (const HtmlTable::Column &column : table.columns)
+        titles.append(column.title);
+    text.addRow(titles);
+    for (const HtmlTable::Row &row : table.rows)
+        text.addRow(row.cells);
+    return text.text().toUtf8();
+}
+
+/// Keys tell the stations of a whole list apart.
+QByteArray keyedRows(const StationList &stations, const StationList &list)
+{
+    const QStringList keys = stationKeys(list);
+    QHash<const LGStation *, QString> keyOf;
+    for (qsizetype i = 0; i < keys.size(); ++i)
+        keyOf.insert(list[static_cast<std::size_t>(i)].get(), keys[i]);
+    SeparatedText text(u',');
+    text.addRow({columnWith(ColumnContent::Name).identifier, keyTitle});
+    for (const StationPtr &station : stations)
+        text.addRow({station->shownName().remove(QChar::Null), keyOf.value(station.get())});
+    return text.text().toUtf8();
+}
+
+RowTitles titlesOfKeyedRows()
+{
+    return {{foldedTitle(columnWith(ColumnContent::Name).identifier), RowField::Name},
+            {foldedTitle(keyTitle), RowField::Key}};
+}
+
+std::size_t rowsWithText(const SeparatedTable &table)
+{
+    return static_cast<std::size_t>(
+        std::count_if(table.rows.begin(), table.rows.end(), [](const SeparatedRow &row) {
+            return std::any_of(row.begin(), row.end(), [](const SeparatedCell &cell) {
+                return !cell.text.trimmed().isEmpty();
+            });
+        }));
+}
+
+/// What other programs copy, which may have titles or not.
+std::optional<PastedStations> readText(const QString &text)
+{
+    TextFault fault;
+    const auto table = readSeparatedText(text, fault);
+    if (!table)
+        return {};
+    PastedStations pasted{stationRowsWithoutTitles(*table)};
+    if (pasted.rows.stations.empty())
+        return {};
+    pasted.unread = rowsWithText(*table) - pasted.rows.stations.size();
+    const bool hasHead =
+        pasted.unread > 0 && pasted.rows.lines.front() > table->rows.front().front().line;
+    if (hasHead)
+        --pasted.unread;
+    return pasted;
+}
+
+} // namespace
+
+std::unique_ptr<QMimeData> copiedStations(const TableController &table, const StationList &stations,
+                                          const std::vector<ColumnContent> &columns)
+{
+    const StationCells cells(table);
+    HtmlTable copied;
+    for (const ColumnContent content : columns) {
+        const StationColumn &column = columnWith(content);
+        copied.columns.push_back({qtTrId(column.title), alignmentOf(column)});
+    }
+    for (const StationPtr &station : stations) {
+        QStringList &row = copied.rows.emplace_back().cells;
+        for (const ColumnContent content : columns) {
+            const std::optional<bool> mark = StationCells::mark(*station, content);
+            row.append(mark ? QString::number(*mark) : inOneLine(cells.text(*station, content)));
+        }
+    }
+    auto data = std::make_unique<QMimeData>();
+    data->setText(linesOf(stations, cells));
+    data->setHtml(htmlTable(copied));
+    data->setData(QStringLiteral("text/tab-separated-values"), separated(copied, u'\t'));
+    data->setData(QStringLiteral("text/csv"), separated(copied, u','));
+    const StationListPtr &list = table.shown().base();
+    data->setData(rowsFormat, keyedRows(stations, list ? *list : stations));
+    return data;
+}
+
+bool mayHoldStations(const QMimeData &data)
+{
+    return data.hasFormat(rowsFormat) || data.hasText();
+}
+
+std::optional<PastedStations> pastedStations(const QMimeData &data)
+{
+    if (!data.hasFormat(rowsFormat)) {
+        const QString text = data.text();
+        return text.size() > longestText ? std::nullopt : readText(text);
+    }
+    const QByteArray bytes = data.data(rowsFormat);
+    TextFault fault;
+    const auto table = bytes.size() > longestText
+                           ? std::nullopt
+                           : readSeparatedText(QString::fromUtf8(bytes), fault, u',');
+    if (!table)
+        return {};
+    auto rows = stationRows(*table, titlesOfKeyedRows(), fault);
+    return rows ? std::optional(PastedStations{std::move(*rows)}) : std::nullopt;
+}
+
+} // namespace quillet

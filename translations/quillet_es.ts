@@ -1142,7 +1142,7 @@
     </message>
     <message id="kMenuImport">
         <source></source>
-        <translation>Im&amp;portar cambios…</translation>
+        <translation>Importar cambios de una tab&amp;la…</translation>
     </message>
     <message id="kMenuInfo">
         <source></source>

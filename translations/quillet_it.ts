@@ -1142,7 +1142,7 @@
     </message>
     <message id="kMenuImport">
         <source></source>
-        <translation>I&amp;mporta modifiche…</translation>
+        <translation>Importa modific&amp;he…</translation>
     </message>
     <message id="kMenuInfo">
         <source></source>

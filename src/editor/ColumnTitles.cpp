@@ -31,7 +31,7 @@ RowTitles titlesBy(const std::function<QString(const char *)> &text)
     RowTitles titles{{foldedTitle(keyIdentifier), RowField::Key},
                      {foldedTitle(text("kColumnKey")), RowField::Key}};
     for (const auto &[content, field] : fields) {
-        const StationColumn &column = stationColumns[static_cast<std::size_t>(columnOf(content))];
+        const StationColumn &column = columnWith(content);
         for (const QString &title :
              {QString(column.identifier), text(column.title), text(column.fullName)}) {
             if (!title.isEmpty())

@@ -161,15 +161,20 @@ void EditorView::goToStep(int step)
     m_controller.undoing().goToStep(step);
 }
 
-void EditorView::copy()
+std::vector<ColumnContent> EditorView::shownColumns() const
 {
     const auto &header = static_cast<const StationHeader &>(*m_ui->list->horizontalHeader());
     std::vector<ColumnContent> columns;
     for (const int column : header.shownColumns())
         columns.push_back(stationColumns.at(static_cast<std::size_t>(column)).content);
+    return columns;
+}
+
+void EditorView::copy()
+{
     const StationList selected = m_controller.shown().stationsAt(selectedRows());
     QGuiApplication::clipboard()->setMimeData(
-        copiedStations(m_controller, selected, columns).release());
+        copiedStations(m_controller, selected, shownColumns()).release());
 }
 
 void EditorView::paste()
@@ -281,11 +286,7 @@ void EditorView::printList(PrintForm form)
 
 void EditorView::exportList()
 {
-    const auto &header = static_cast<const StationHeader &>(*m_ui->list->horizontalHeader());
-    std::vector<ColumnContent> columns;
-    for (const int column : header.shownColumns())
-        columns.push_back(stationColumns.at(static_cast<std::size_t>(column)).content);
-    askToExport(m_controller, std::move(columns), sheetWindow());
+    askToExport(m_controller, shownColumns(), sheetWindow());
 }
 
 void EditorView::setText(Field field, const QString &text)

@@ -119,6 +119,8 @@ private:
     void setUpTable();
     void connectControls();
     void showContextMenu(const QPoint &place);
+    /// In their order on the screen.
+    [[nodiscard]] std::vector<ColumnContent> shownColumns() const;
 
     std::unique_ptr<Ui::EditorView> m_ui;
     ViewController m_controller;

@@ -43,40 +43,6 @@ const FormatFacts &factsOf(Format format)
                          [format](const FormatFacts &row) { return row.format == format; });
 }
 
-const StationColumn &columnWith(ColumnContent content)
-{
-    return stationColumns[static_cast<std::size_t>(columnOf(content))];
-}
-
-/// A mark that a station has or has not; none for other columns, and where the file does not tell.
-std::optional<bool> markIn(const LGStation &station, ColumnContent content)
-{
-    switch (content) {
-    case ColumnContent::Skipped:
-        return station.isSkipped();
-    case ColumnContent::Blocked:
-        return station.isBlocked();
-    case ColumnContent::Encrypted:
-        return station.isEncrypted();
-    case ColumnContent::Hidden:
-        return station.isInvisible();
-    default:
-        return {};
-    }
-}
-
-HtmlTable::Alignment alignmentOf(const StationColumn &column)
-{
-    switch (column.alignment) {
-    case Qt::AlignRight:
-        return HtmlTable::Alignment::End;
-    case Qt::AlignHCenter:
-        return HtmlTable::Alignment::Centre;
-    default:
-        return HtmlTable::Alignment::Start;
-    }
-}
-
 void remark(const char *id, std::size_t count, QStringList &remarks)
 {
     if (count > 0)
@@ -86,8 +52,7 @@ void remark(const char *id, std::size_t count, QStringList &remarks)
 } // namespace
 
 ListExport::ListExport(const TableController &table, std::vector<ColumnContent> columns)
-    : m_table(table), m_columns(std::move(columns)),
-      m_satellites(table.stationDoc()->list().broadcast.satelliteNames())
+    : m_table(table), m_columns(std::move(columns)), m_cells(table)
 {
 }
 
@@ -115,20 +80,6 @@ ListExport::Made ListExport::make(const ExportOptions &options) const
     return {};
 }
 
-QString ListExport::cellText(const LGStation &station, ColumnContent content) const
-{
-    switch (content) {
-    case ColumnContent::Number:
-        return station.progNumString();
-    case ColumnContent::Name:
-        return station.shownName();
-    case ColumnContent::Type:
-        return station.channelTypeForDisplay(m_table.source());
-    default:
-        return detailText(station, content, m_satellites);
-    }
-}
-
 /// No text has the character zero, which JSON can put into a name.
 ListExport::Made ListExport::makeTable(const ExportOptions &options) const
 {
@@ -149,8 +100,8 @@ ListExport::Made ListExport::makeTable(const ExportOptions &options) const
     for (const StationPtr &station : stations(options.onlyShown)) {
         QStringList cells;
         for (const ColumnContent content : m_columns) {
-            const std::optional<bool> mark = markIn(*station, content);
-            cells.append(mark ? QString(*mark ? u'1' : u'0') : cellText(*station, content));
+            const std::optional<bool> mark = StationCells::mark(*station, content);
+            cells.append(mark ? QString(*mark ? u'1' : u'0') : m_cells.text(*station, content));
             zeros += cells.last().count(QChar::Null);
             cells.last().remove(QChar::Null);
         }
@@ -188,16 +139,14 @@ ListExport::Made ListExport::makePage(const ExportOptions &options) const
                             locale.toString(QDate::currentDate(), QLocale::LongFormat))};
     table.language = locale.bcp47Name();
     table.isRightToLeft = locale.textDirection() == Qt::RightToLeft;
-    for (const ColumnContent content : m_columns) {
-        const StationColumn &column = columnWith(content);
-        table.columns.push_back({qtTrId(column.title), alignmentOf(column)});
-    }
+    for (const ColumnContent content : m_columns)
+        table.columns.push_back(StationCells::column(content));
     for (const StationPtr &station : exported) {
         HtmlTable::Row &row = table.rows.emplace_back();
         row.isPale = station->isSkipped();
         for (const ColumnContent content : m_columns) {
-            const std::optional<bool> mark = markIn(*station, content);
-            row.cells.append(!mark   ? drawnName(cellText(*station, content))
+            const std::optional<bool> mark = StationCells::mark(*station, content);
+            row.cells.append(!mark   ? drawnName(m_cells.text(*station, content))
                              : *mark ? QStringLiteral(u"\u2713")
                                      : QString());
         }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "document/text/TextBytes.h"
-#include "editor/StationDetails.h"
+#include "editor/StationCells.h"
 #include "framework/Prompts.h"
 #include "model/LGStation.h"
 
@@ -55,11 +55,10 @@ private:
     [[nodiscard]] Made makeTable(const ExportOptions &options) const;
     [[nodiscard]] Made makeReferenceList(const ExportOptions &options) const;
     [[nodiscard]] Made makePage(const ExportOptions &options) const;
-    [[nodiscard]] QString cellText(const LGStation &station, ColumnContent content) const;
 
     const TableController &m_table;
     std::vector<ColumnContent> m_columns;
-    SatelliteNames m_satellites;
+    StationCells m_cells;
 };
 
 } // namespace quillet

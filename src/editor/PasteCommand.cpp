@@ -38,10 +38,9 @@ ComparedWith PasteCommand::comparison(const PastedStations &pasted) const
     other.lists.setupLists();
     *other.lists.list(document.usesTV(), document.curSource()) = pasted.rows.stations;
     for (std::size_t i = 0; i < pasted.rows.stations.size(); ++i) {
-        // Which numbers they had is of no matter here.
-        StationDifferences told = pasted.rows.told[i];
-        told.setFlag(StationDifference::Number, false);
-        other.told.insert(pasted.rows.stations[i].get(), told);
+        // Nothing but their places is to be changed.
+        other.told.insert(pasted.rows.stations[i].get(),
+                          pasted.rows.told[i] & StationDifference::Name);
     }
     if (pasted.unread > 0)
         other.remark = qtTrId("kPasteUnread", static_cast<int>(pasted.unread));

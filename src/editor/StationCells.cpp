@@ -40,4 +40,14 @@ std::optional<bool> StationCells::mark(const LGStation &station, ColumnContent c
     }
 }
 
+HtmlTable::Column StationCells::column(ColumnContent content)
+{
+    const StationColumn &column = columnWith(content);
+    const bool isAtEnd = column.alignment == Qt::AlignRight;
+    return {qtTrId(column.title), isAtEnd ? HtmlTable::Alignment::End
+                                  : column.alignment == Qt::AlignHCenter
+                                      ? HtmlTable::Alignment::Centre
+                                      : HtmlTable::Alignment::Start};
+}
+
 } // namespace quillet

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/text/HtmlTable.h"
 #include "editor/StationDetails.h"
 
 #include <optional>
@@ -20,6 +21,9 @@ public:
     /// Whether the station has the mark; none for a column of texts, and where the file does not
     /// tell.
     [[nodiscard]] static std::optional<bool> mark(const LGStation &station, ColumnContent content);
+
+    /// The column of a table of such cells.
+    [[nodiscard]] static HtmlTable::Column column(ColumnContent content);
 
 private:
     int m_source;

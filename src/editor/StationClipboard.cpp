@@ -2,11 +2,10 @@
 
 #include "document/text/HtmlTable.h"
 #include "document/text/StationKey.h"
+#include "editor/ColumnTitles.h"
 #include "editor/StationCells.h"
 #include "editor/TableController.h"
 #include "model/CleanName.h"
-
-#include <QLocale>
 
 #include <algorithm>
 
@@ -15,27 +14,10 @@ namespace quillet {
 namespace {
 
 const QString rowsFormat = QStringLiteral("application/x-quillet-stations");
-const QString keyTitle = QStringLiteral("key");
+const QString keyTitle = QStringLiteral("stationKey");
 
 /// More than the rows of any list: what is longer is something else.
 constexpr qsizetype longestText = 32 * 1024 * 1024;
-
-const StationColumn &columnWith(ColumnContent content)
-{
-    return stationColumns[static_cast<std::size_t>(columnOf(content))];
-}
-
-HtmlTable::Alignment alignmentOf(const StationColumn &column)
-{
-    switch (column.alignment) {
-    case Qt::AlignRight:
-        return HtmlTable::Alignment::End;
-    case Qt::AlignHCenter:
-        return HtmlTable::Alignment::Centre;
-    default:
-        return HtmlTable::Alignment::Start;
-    }
-}
 
 /// A line of a text, without what no text has.
 QString inOneLine(const QString &text)
@@ -80,12 +62,6 @@ QByteArray keyedRows(const StationList &stations, const StationList &list)
     return text.text().toUtf8();
 }
 
-RowTitles titlesOfKeyedRows()
-{
-    return {{foldedTitle(columnWith(ColumnContent::Name).identifier), RowField::Name},
-            {foldedTitle(keyTitle), RowField::Key}};
-}
-
 std::size_t rowsWithText(const SeparatedTable &table)
 {
     return static_cast<std::size_t>(
@@ -96,20 +72,23 @@ std::size_t rowsWithText(const SeparatedTable &table)
         }));
 }
 
-/// What other programs copy, which may have titles or not.
-std::optional<PastedStations> readText(const QString &text)
+/// What other programs copy may have titles or not.
+std::optional<PastedStations> readRows(const QString &text)
 {
     TextFault fault;
     const auto table = readSeparatedText(text, fault);
     if (!table)
         return {};
+    if (const RowTitles titles = titlesFor(*table); hasTitles(*table, titles)) {
+        if (auto rows = stationRows(*table, titles, fault))
+            return PastedStations{std::move(*rows)};
+    }
     PastedStations pasted{stationRowsWithoutTitles(*table)};
     if (pasted.rows.stations.empty())
         return {};
     pasted.unread = rowsWithText(*table) - pasted.rows.stations.size();
-    const bool hasHead =
-        pasted.unread > 0 && pasted.rows.lines.front() > table->rows.front().front().line;
-    if (hasHead)
+    // The first row may be one of titles that are not known.
+    if (pasted.unread > 0 && pasted.rows.lines.front() > table->rows.front().front().line)
         --pasted.unread;
     return pasted;
 }
@@ -121,10 +100,8 @@ std::unique_ptr<QMimeData> copiedStations(const TableController &table, const St
 {
     const StationCells cells(table);
     HtmlTable copied;
-    for (const ColumnContent content : columns) {
-        const StationColumn &column = columnWith(content);
-        copied.columns.push_back({qtTrId(column.title), alignmentOf(column)});
-    }
+    for (const ColumnContent content : columns)
+        copied.columns.push_back(StationCells::column(content));
     for (const StationPtr &station : stations) {
         QStringList &row = copied.rows.emplace_back().cells;
         for (const ColumnContent content : columns) {
@@ -149,19 +126,9 @@ bool mayHoldStations(const QMimeData &data)
 
 std::optional<PastedStations> pastedStations(const QMimeData &data)
 {
-    if (!data.hasFormat(rowsFormat)) {
-        const QString text = data.text();
-        return text.size() > longestText ? std::nullopt : readText(text);
-    }
-    const QByteArray bytes = data.data(rowsFormat);
-    TextFault fault;
-    const auto table = bytes.size() > longestText
-                           ? std::nullopt
-                           : readSeparatedText(QString::fromUtf8(bytes), fault, u',');
-    if (!table)
-        return {};
-    auto rows = stationRows(*table, titlesOfKeyedRows(), fault);
-    return rows ? std::optional(PastedStations{std::move(*rows)}) : std::nullopt;
+    const QString text =
+        data.hasFormat(rowsFormat) ? QString::fromUtf8(data.data(rowsFormat)) : data.text();
+    return text.size() > longestText ? std::nullopt : readRows(text);
 }
 
 } // namespace quillet

@@ -83,4 +83,9 @@ inline constexpr std::array stationColumns{
     return place;
 }
 
+[[nodiscard]] constexpr const StationColumn &columnWith(ColumnContent content)
+{
+    return stationColumns[static_cast<std::size_t>(columnOf(content))];
+}
+
 } // namespace quillet

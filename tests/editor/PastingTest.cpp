@@ -175,8 +175,8 @@ private slots:
                                 << QByteArray::fromHex("ff00fe1b89504e470d0a1a0a").repeated(99);
         QTest::newRow("picture") << u"image/png"_s << QByteArray(100, 'x');
         QTest::newRow("more than any list") << text << QByteArray("1-10-3\n").repeated(5'000'000);
-        QTest::newRow("own, damaged") << own << QByteArray("progName,key\n\"A");
-        QTest::newRow("own, of something else") << own << QByteArray("a,b\n1-10-3,2\n");
+        QTest::newRow("own, damaged") << own << QByteArray("progName,stationKey\n\"A");
+        QTest::newRow("own, of something else") << own << QByteArray("a,b\nc,2\n");
     }
     void otherContentDoesNothing()
     {

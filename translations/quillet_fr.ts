@@ -1194,7 +1194,7 @@
     </message>
     <message id="kMenuPrintCompact">
         <source></source>
-        <translation>Imprimer en co&amp;mpact…</translation>
+        <translation>Imprimer en a&amp;brégé…</translation>
     </message>
     <message id="kMenuQuit">
         <source></source>

@@ -13,6 +13,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
+#include <QMenu>
+#include <QPixmap>
 #include <QPushButton>
 #include <QTest>
 
@@ -135,8 +137,40 @@ private slots:
         QTRY_COMPARE(cell(*window, 1, Name), u"new"_s);
         menuItem(*window, "undo").trigger();
         QCOMPARE(cell(*window, 1, Name), u"B"_s);
-        menuItem(*window, "copy").trigger();
-        QVERIFY(QGuiApplication::clipboard()->text().startsWith(u"2\tB\t"));
+    }
+
+    /// Into a field goes text, into the table go the stations; what is there for neither disables
+    /// the command.
+    void clipboardGoesWhereTheKeysGo()
+    {
+        App app;
+        QMainWindow *window = app.open("a.tll", listOf(4));
+        QClipboard &clipboard = *QGuiApplication::clipboard();
+        auto &search = part<QLineEdit>(*window, "searchText");
+        selectRows(*window, {2});
+        QTest::keyClick(window, Qt::Key_C, Qt::ControlModifier);
+        search.setFocus();
+        QTest::keyClick(&search, Qt::Key_V, Qt::ControlModifier);
+        QVERIFY(search.text().startsWith(u"3"));
+        search.clear();
+        tableOf(*window).setFocus();
+        selectRows(*window, {0});
+        const QString moved = clipboard.text().section(u'\t', 1, 1);
+        QTest::keyClick(window, Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(cell(*window, 0, Name), moved);
+        menuItem(*window, "undo").trigger();
+        QVERIFY(!window->isWindowModified() && cell(*window, 2, Name) == moved);
+
+        const auto canPaste = [window] {
+            emit part<QMenu>(*window, "editMenu").aboutToShow();
+            return menuItem(*window, "paste").isEnabled();
+        };
+        clipboard.setPixmap(QPixmap(2, 2));
+        QVERIFY(!canPaste());
+        clipboard.setText(u"1-2-3"_s);
+        QVERIFY(canPaste());
+        tableOf(*window).clearSelection();
+        QVERIFY(!canPaste());
     }
 
     /// Of one station and of several: a text that has no forms is not found with a number.

@@ -1,0 +1,126 @@
+#include "editor/ComparisonTable.h"
+
+#include "editor/CheckMarkDelegate.h"
+#include "editor/TableColumns.h"
+#include "editor/TableSelection.h"
+#include "editor/TypedTextDelegate.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QScrollBar>
+
+#include <algorithm>
+
+namespace quillet {
+
+ComparisonTable::ComparisonTable(StationComparison &comparison, QWidget *parent)
+    : DarkModeTableView(parent), m_comparison(comparison), m_model(comparison)
+{
+    setObjectName(QStringLiteral("compareTable"));
+    setAccessibleName(qtTrId("kCompareTable"));
+    setModel(&m_model);
+    setAcceptDrops(false);
+    setEditTriggers(NoEditTriggers);
+    setItemDelegate(new TypedTextDelegate(this));
+    setItemDelegateForColumn(ComparisonModel::Check, new CheckMarkDelegate(this));
+    setColumnHidden(ComparisonModel::Check, !comparison.offersChecks());
+    sizeColumns();
+    connect(this, &DarkModeTableView::returnPressed, this, &ComparisonTable::reveal);
+    connect(this, &QTableView::doubleClicked, this, [this](const QModelIndex &index) {
+        if (index.column() != ComparisonModel::Check)
+            reveal();
+    });
+    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &ComparisonTable::selectedRowsChanged);
+    connect(&comparison, &StationComparison::rowsAboutToChange, this,
+            &ComparisonTable::keepSelection);
+    connect(&comparison, &StationComparison::rowsChanged, this, &ComparisonTable::restoreSelection);
+    restoreSelection();
+}
+
+/// Its model goes before what listens to the selection.
+ComparisonTable::~ComparisonTable()
+{
+    selectionModel()->disconnect(this);
+}
+
+void ComparisonTable::sizeColumns()
+{
+    sizeRows(*this, fontMetrics());
+    QHeaderView &header = *horizontalHeader();
+    header.setStretchLastSection(true);
+    const int letter = fontMetrics().averageCharWidth();
+    const auto widen = [&header, letter](int column, int letters) {
+        header.resizeSection(column, qMax(letters * letter, header.sectionSizeHint(column)));
+    };
+    widen(ComparisonModel::Check, 0);
+    widen(ComparisonModel::List, 14);
+    for (const int column : {ComparisonModel::NumberHere, ComparisonModel::NumberThere})
+        widen(column, 9);
+    for (const int column : {ComparisonModel::NameHere, ComparisonModel::NameThere})
+        widen(column, 24);
+}
+
+std::vector<std::size_t> ComparisonTable::selected() const
+{
+    const QList<qsizetype> rows = selectedRows(*selectionModel());
+    return {rows.begin(), rows.end()};
+}
+
+void ComparisonTable::focusRows()
+{
+    setFocus();
+    if (!selectionModel()->hasSelection() && m_model.rowCount() > 0)
+        goToRow(0);
+}
+
+/// Wherever in the row the current cell is.
+void ComparisonTable::keyPressEvent(QKeyEvent *event)
+{
+    const bool isSpace = event->key() == Qt::Key_Space || event->key() == Qt::Key_Select;
+    if (!isSpace || event->modifiers())
+        return DarkModeTableView::keyPressEvent(event);
+    if (!event->isAutoRepeat())
+        m_comparison.toggle(selected());
+}
+
+/// Those selected, of the list that the current row is of.
+void ComparisonTable::reveal()
+{
+    std::vector<std::size_t> rows = selected();
+    const int current = currentIndex().row();
+    if (current >= 0)
+        rows.insert(rows.begin(), static_cast<std::size_t>(current));
+    m_comparison.reveal(rows);
+}
+
+ComparisonTable::RowKey ComparisonTable::keyOf(std::size_t row) const
+{
+    const ComparisonRow &shown = m_comparison.row(row);
+    return {shown.here.get(), shown.there.get()};
+}
+
+void ComparisonTable::keepSelection()
+{
+    m_selectedKeys.clear();
+    for (const std::size_t row : selected())
+        m_selectedKeys.push_back(keyOf(row));
+    std::sort(m_selectedKeys.begin(), m_selectedKeys.end());
+    m_scrolled = verticalScrollBar()->value();
+}
+
+void ComparisonTable::restoreSelection()
+{
+    QList<qsizetype> rows;
+    for (std::size_t row = 0; row < m_comparison.rowCount(); ++row) {
+        if (std::binary_search(m_selectedKeys.begin(), m_selectedKeys.end(), keyOf(row)))
+            rows.append(static_cast<qsizetype>(row));
+    }
+    selectRows(*this, rows);
+    verticalScrollBar()->setValue(m_scrolled);
+    setPlaceholderText(qtTrId(m_comparison.isEmpty() ? "kCompareEmpty" : "kCompareNoneShown"));
+    setColumnHidden(ComparisonModel::List,
+                    m_comparison.lists().size() < 2 || m_comparison.list().has_value());
+}
+
+} // namespace quillet

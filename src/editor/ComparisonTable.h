@@ -1,0 +1,49 @@
+#pragma once
+
+#include "editor/ComparisonModel.h"
+#include "editor/DarkModeTableView.h"
+#include "editor/StationComparison.h"
+
+#include <utility>
+#include <vector>
+
+namespace quillet {
+
+/// The rows of a comparison as a table: the space bar checks what is selected, and the selection
+/// stays with its stations while the rows change. Owned by the window that compares.
+class ComparisonTable : public DarkModeTableView
+{
+    Q_OBJECT
+
+public:
+    /// The comparison must outlive it.
+    explicit ComparisonTable(StationComparison &comparison, QWidget *parent = nullptr);
+    ~ComparisonTable() override;
+
+    [[nodiscard]] std::vector<std::size_t> selected() const;
+    /// Gives it the focus, and the first row the selection if there is none.
+    void focusRows();
+
+signals:
+    void selectedRowsChanged();
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    /// Of the row at a time when there may be others.
+    using RowKey = std::pair<const LGStation *, const LGStation *>;
+
+    void sizeColumns();
+    void keepSelection();
+    void restoreSelection();
+    void reveal();
+    [[nodiscard]] RowKey keyOf(std::size_t row) const;
+
+    StationComparison &m_comparison;
+    ComparisonModel m_model;
+    std::vector<RowKey> m_selectedKeys; ///< ascending, while the rows change
+    int m_scrolled = 0;
+};
+
+} // namespace quillet

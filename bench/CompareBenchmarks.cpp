@@ -16,7 +16,6 @@ enum class Others {
     Moved,     ///< the same, backwards, each with another number
     Strangers, ///< with other identifiers and names
     Nameless,  ///< with other identifiers, so that only names are alike
-    Unknown,   ///< without identifiers, on both sides
     Channels,  ///< of a file of the other variant
 };
 
@@ -47,8 +46,6 @@ void change(LGStation &station, qint64 number, Others others)
 {
     const StationKeys &keys = station.keys();
     station.setProgramNum(number);
-    if (others == Others::Unknown)
-        station.setField(keys.keyService_id, {});
     if (others == Others::Strangers)
         station.setStationName(station.stationName() + QStringLiteral(" of nowhere"));
     if (others == Others::Strangers || others == Others::Nameless)
@@ -61,11 +58,6 @@ void comparing(benchmark::State &state, const QByteArray &file, const QByteArray
     const StationLists now = listsOf(file), then = listsOf(otherFile);
     if (now.roll().empty() || then.roll().empty())
         return fail(state, "The lists to compare were not made");
-    if (others == Others::Unknown) {
-        changeAll(now, [](LGStation &station, qint64) {
-            station.setField(station.keys().keyService_id, {});
-        });
-    }
     if (others != Others::Channels) {
         changeAll(then,
                   [others](LGStation &station, qint64 number) { change(station, number, others); });
@@ -89,7 +81,10 @@ void registerCompareBenchmarks(const QByteArray &stations, const QByteArray &cha
     add(figure::compareMoved, stations, Others::Moved);
     add(figure::compareStrangers, stations, Others::Strangers);
     add(figure::compareByName, stations, Others::Nameless);
-    add(figure::compareUnknown, stations, Others::Unknown);
+    QByteArray unknown = stations;
+    unknown.replace("service_id>", "other_id>");
+    benchmark::RegisterBenchmark(figure::compareUnknown, comparing, unknown, unknown,
+                                 Others::Moved);
     add(figure::compareChannels, channels, Others::Channels);
 }
 

@@ -52,22 +52,23 @@ bool holdsAllOf(const Dictionary &held, const Dictionary &others, const QStringL
     return true;
 }
 
-/// Where both have the same fields in the same order, as nearly always; none where they do not.
+/// Goes by places, for nearly always both have the same fields in the same order; none where that
+/// does not tell.
 std::optional<bool> holdSame(const Dictionary &a, const Dictionary &b, const QStringList &but)
 {
     const qsizetype count = a.count();
     if (b.count() != count)
         return {};
     const bool haveOneTable = a.keys() == b.keys();
-    bool isSame = true; // unless the keys differ
     for (qsizetype i = 0; i < count; ++i) {
         const auto &[key, value] = a.at(i);
         const auto &[otherKey, otherValue] = b.at(i);
         if (!haveOneTable && !areEqual(key, otherKey))
             return {};
-        isSame = isSame && (value == otherValue || but.contains(key));
+        if (!(value == otherValue) && !but.contains(key))
+            return false;
     }
-    return isSame;
+    return true;
 }
 
 } // namespace

@@ -94,9 +94,11 @@ QString textOf(const ListComparison &comparison)
             parts.append(qtTrId(id, static_cast<int>(count)));
     };
     // Of stations on both sides a sum would say nothing.
-    const bool isBoth = comparison.onlyFirst > 0 && comparison.onlySecond > 0;
-    add(isBoth ? "kDiffGone" : "kDiffMore", comparison.onlySecond);
-    add(isBoth ? "kDiffNew" : "kDiffFewer", comparison.onlyFirst);
+    const std::size_t gone = comparison.onlySecond + comparison.doubtful;
+    const std::size_t added = comparison.onlyFirst + comparison.doubtful;
+    const bool isBoth = gone > 0 && added > 0;
+    add(isBoth ? "kDiffGone" : "kDiffMore", gone);
+    add(isBoth ? "kDiffNew" : "kDiffFewer", added);
     add("kDiffNumbers", comparison.numbers);
     add("kDiffNames", comparison.names);
     add("kDiffSkipped", comparison.skipped);

@@ -116,7 +116,8 @@ private slots:
             {item(1, "D", {{"frequency", "2"}}), item(2, "C", {{"frequency", "1"}})},
             "A=Cnr B=Dnr out of order");
         row("no identifiers, by name and by number", {item(1, "A"), item(2, "B"), item(3, "C")},
-            {item(1, "C"), item(2, "X"), item(4, "Y")}, "A=Ynr B=Xr C=Cn out of order");
+            {item(1, "C"), item(2, "X"), item(4, "Y")}, "A=Ynr~ B=Xr~ C=Cn out of order");
+        row("no identifiers, not even a name", {item(1, "")}, {item(1, "B")}, "=Br~ in order");
         row("twins", {item(1, "A"), item(2, "A")}, {item(1, "A"), item(2, "A"), item(3, "A")},
             "A=A A=A =A in order");
 

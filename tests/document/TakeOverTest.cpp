@@ -169,7 +169,9 @@ private slots:
         row("no number", "1 A, 2 B", "0 B, 1 A", "1 A, 2 B", "", 0);
         row("the number of none", "1 A, 2 B", "9999 A", "2 B, 9999 A", "", 1);
         row("others as they were", "1 A, 2 B", "9 X", "1 A, 2 B", "", 0);
-        row("numbers out of order", "3 A, 1 B, 1 C, 2 D", "2 D", "1 B, 2 D, 3 A, 4 C", "C", 0);
+        row("numbers out of order", "3 A, 1 B, 1 C, 2 D", "4 D", "1 B, 1 C, 3 A, 4 D", "", 1);
+        row("none of those another one", "3 A, 1 B, 1 C, 2 D", "2 D, 1 B", "3 A, 1 B, 1 C, 2 D", "",
+            0);
         row("beyond what can be carried", "1 A, 2 B", "16383 A, 16383 B", "16383 A, 0 B", "B", 1);
     }
     void numbersAreTaken()
@@ -203,6 +205,17 @@ private slots:
         record.undo(stations);
         QCOMPARE(stations, before);
         QCOMPARE(textOf(stations), list);
+    }
+
+    /// As channels that are kept as JSON may have them.
+    void numbersThatAreGivenTwiceThere()
+    {
+        StationList list = listOf(u"1 A, 2 B, 5 C"_s);
+        const StationList others = listOf(u"2 C, 2 A, 9 B"_s);
+        EditRecord record;
+        takeOver(list, planTakeOver(list, allOf(list, others), NumberRule::AsThere, false), record);
+        QCOMPARE(textOf(list), u"2 A, 2 C, 9 B"_s);
+        QVERIFY(planTakeOver(list, allOf(list, others), NumberRule::AsThere, false).isEmpty());
     }
 
     /// Where no number is taken, the list stays as it is, in whatever order.

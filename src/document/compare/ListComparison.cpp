@@ -28,12 +28,21 @@ StationDifferences differencesOf(const LGStation &a, const LGStation &b)
     return differences;
 }
 
+/// Stations that hold the same but for what editing changes are taken for one in one place.
+bool isDoubtful(const ComparedStation &station)
+{
+    return station.isElsewhere || (station.likeness != Likeness::Sure &&
+                                   !haveSameUnedited(*station.first, *station.second));
+}
+
 void add(const ComparedStation &station, ListComparison &comparison)
 {
+    if (station.first && station.second && isDoubtful(station)) {
+        ++comparison.doubtful;
+        return;
+    }
     comparison.onlyFirst += station.second ? 0 : 1;
     comparison.onlySecond += station.first ? 0 : 1;
-    comparison.elsewhere += station.isElsewhere ? 1 : 0;
-    comparison.unsure += station.likeness == Likeness::Sure ? 0 : 1;
     const auto count = [&station](StationDifference difference) -> std::size_t {
         return station.differences.testFlag(difference) ? 1 : 0;
     };
@@ -172,7 +181,7 @@ StationPtr copyOf(const LGStation &station)
 bool ListComparison::isEmpty() const
 {
     return isSameOrder &&
-           onlyFirst + onlySecond + elsewhere + numbers + names + skipped + locked + fields == 0;
+           onlyFirst + onlySecond + doubtful + numbers + names + skipped + locked + fields == 0;
 }
 
 ListComparison compare(const StationLists &first, const StationLists &second)

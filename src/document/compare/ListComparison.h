@@ -48,20 +48,18 @@ struct ListComparison
     // Of all lists together
     std::size_t onlyFirst = 0;
     std::size_t onlySecond = 0;
+    /// Pairs whose records stand in lists of other sources, or are of one station by the name
+    /// alone. Of these nothing else is counted.
+    std::size_t doubtful = 0;
     std::size_t numbers = 0; ///< stations with another number; the same for the others
     std::size_t names = 0;
     std::size_t skipped = 0;
     std::size_t locked = 0;
     std::size_t fields = 0;
-    std::size_t elsewhere = 0;
-    std::size_t unsure = 0;  ///< pairs that are not surely one station
     bool isSameOrder = true; ///< whether the stations in both stand in the same order
 
-    /// Whether every station is surely in both, and in the same list.
-    [[nodiscard]] bool isOneToOne() const
-    {
-        return onlyFirst + onlySecond + elsewhere + unsure == 0;
-    }
+    /// Whether every station is in both, and in the same list.
+    [[nodiscard]] bool isOneToOne() const { return onlyFirst + onlySecond + doubtful == 0; }
     /// Whether nothing differs.
     [[nodiscard]] bool isEmpty() const;
 };

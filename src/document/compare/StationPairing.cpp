@@ -49,6 +49,7 @@ StationPairing::Pairs StationPairing::pair(const std::vector<std::size_t> &first
     pairBySharedIdentity();
     pairByFrequencyAndName();
     pairByName();
+    pairByUnedited(false);
     return std::exchange(m_pairs, {});
 }
 
@@ -198,14 +199,26 @@ void StationPairing::pairByContent()
         const std::size_t place = side.places[i];
         return side.isNear[i] ? m_facts.both(m_facts.unedited(place), m_facts.name(place)) : none;
     });
-    pairSurely(Rule::Unique, [&](const Side &side, std::size_t i) {
+    pairByUnedited(true);
+}
+
+/// By what editing does not change: sure where that tells an identity or a frequency, and a mere
+/// guess among stations that tell neither.
+void StationPairing::pairByUnedited(bool isSure)
+{
+    const auto unedited = [this, isSure](const Side &side, std::size_t i) {
         const std::size_t place = side.places[i];
-        return side.isNear[i] ? m_facts.both(m_facts.unedited(place), m_facts.programNumber(place))
-                              : none;
-    });
-    pairSurely(Rule::Unique, [&](const Side &side, std::size_t i) {
-        return side.isNear[i] ? m_facts.unedited(side.places[i]) : none;
-    });
+        const bool isTelling = m_facts.identity(place) != none || m_facts.frequency(place) != none;
+        return side.isNear[i] && isTelling == isSure ? m_facts.unedited(place) : none;
+    };
+    const auto likeness = [isSure](std::size_t, std::size_t) {
+        return std::optional(isSure ? Likeness::Sure : Likeness::Loose);
+    };
+    const auto andNumber = [&](const Side &side, std::size_t i) {
+        return m_facts.both(unedited(side, i), m_facts.programNumber(side.places[i]));
+    };
+    pairBy(Rule::Unique, andNumber, likeness);
+    pairBy(Rule::Unique, unedited, likeness);
 }
 
 /// Where an identity is given more than once.

@@ -11,7 +11,8 @@ namespace quillet {
 enum class Likeness {
     Sure,   ///< by identifiers, by all that they hold, or by frequency and name
     ByName, ///< by a name, letter for letter, that both lists have once
-    Loose,  ///< by a name that is only alike or given several times, or against the identifiers
+    Loose,  ///< by a name that is only alike or given several times, against the identifiers, or
+            ///< by nothing that tells one station from another
 };
 
 /// Where a station is found again.
@@ -23,7 +24,8 @@ struct StationPair
 
 /// Finds stations again in other lists. The two may be of different variants of the file, and
 /// records need not tell everything. Goes by the identifiers; among stations that share those by
-/// what they hold, by frequency, name and number; then by frequency and name; then by name alone.
+/// what they hold, by frequency, name and number; then by frequency and name; then by name alone;
+/// at last by what editing leaves of stations that tell nothing of all that.
 /// Takes linear time. Reads the stations' names; otherwise changes nothing. Made for one
 /// comparison, whose stations must outlive it.
 class StationPairing
@@ -71,6 +73,7 @@ private:
     void findNear();
     void pairByIdentity();
     void pairByContent();
+    void pairByUnedited(bool isSure);
     void pairBySharedIdentity();
     void pairByFrequencyAndName();
     void pairByName();

@@ -20,22 +20,6 @@ struct Placed
     qint64 number;
 };
 
-/// The number that a record tells; none when it tells none that a station may have.
-std::optional<qint64> numberToldBy(const LGStation &station)
-{
-    if (station.getRawProgNum() == LGStation::missingProgNum) {
-        const std::optional<Value> told = station.field(station.keys().keyProgNum);
-        const QString *text = told ? told->string() : nullptr;
-        const qint64 number = text   ? text->toLongLong()
-                              : told ? told->wholeNumber().value_or(0)
-                                     : 0;
-        if (number != LGStation::missingProgNum)
-            return {};
-    }
-    const qint64 number = station.progNum();
-    return number > 0 ? std::optional(number) : std::nullopt;
-}
-
 /// What is taken, by station; of several the first.
 using TakenByStation = QHash<const LGStation *, const TakenStation *>;
 
@@ -71,11 +55,19 @@ struct Places
     }
 };
 
-/// Whether numbers are to be taken over at all: else the list stays as it stands.
-bool takesNumbers(const TakenByStation &taken)
+/// The number that a station takes; none when it takes none.
+std::optional<qint64> takenNumber(const TakenStation *taken)
+{
+    return taken && taken->other && taken->what.testFlag(StationDifference::Number)
+               ? toldNumber(*taken->other)
+               : std::nullopt;
+}
+
+bool isAnyNumberTaken(const TakenByStation &taken)
 {
     return std::any_of(taken.begin(), taken.end(), [](const TakenStation *each) {
-        return each->what.testFlag(StationDifference::Number);
+        const std::optional<qint64> number = takenNumber(each);
+        return number && *number != each->station->progNum();
     });
 }
 
@@ -95,32 +87,37 @@ void setOrder(TakeOverPlan &plan, const StationList &list, const std::vector<Pla
     }
 }
 
-void planNumbersAsGiven(TakeOverPlan &plan, const StationList &list, const TakenByStation &taken)
+void planNumbersAsGiven(TakeOverPlan &plan, const StationList &list, const TakenByStation &taken,
+                        bool mayShare)
 {
     const Places places(list);
-    enum class State { Keeps, Placed, Collided };
+    enum class State { Keeps, Takes, Collided };
     std::vector<State> states(list.size(), State::Keeps);
-    QSet<qint64> used;
+    QSet<qint64> numbersTaken;
     std::vector<Placed> placed;
-    const auto place = [&](std::size_t at, qint64 number) {
-        const qsizetype before = used.size();
-        used.insert(number);
-        states[at] = used.size() > before ? State::Placed : State::Collided;
-        if (states[at] == State::Placed)
+    for (std::size_t at = 0; at < list.size(); ++at) {
+        const auto number =
+            places.isFirst[at] ? takenNumber(taken.value(list[at].get())) : std::nullopt;
+        if (!number)
+            continue;
+        const bool isFree = mayShare || !numbersTaken.contains(*number);
+        numbersTaken.insert(*number);
+        states[at] = isFree ? State::Takes : State::Collided;
+        if (isFree)
+            placed.push_back({at, *number});
+    }
+    for (std::size_t at = 0; at < list.size(); ++at) {
+        if (!places.isFirst[at] || states[at] != State::Keeps)
+            continue;
+        const qint64 number = list[at]->progNum();
+        if (numbersTaken.contains(number))
+            states[at] = State::Collided;
+        else
             placed.push_back({at, number});
-    };
-    for (std::size_t at = 0; at < list.size(); ++at) {
-        const TakenStation *each = places.isFirst[at] ? taken.value(list[at].get()) : nullptr;
-        const bool takes = each && each->other && each->what.testFlag(StationDifference::Number);
-        if (const auto number = takes ? numberToldBy(*each->other) : std::nullopt)
-            place(at, *number);
     }
-    for (std::size_t at = 0; at < list.size(); ++at) {
-        if (places.isFirst[at] && states[at] == State::Keeps)
-            place(at, list[at]->progNum());
-    }
-    std::sort(placed.begin(), placed.end(),
-              [](const Placed &a, const Placed &b) { return a.number < b.number; });
+    std::sort(placed.begin(), placed.end(), [](const Placed &a, const Placed &b) {
+        return std::pair(a.number, a.place) < std::pair(b.number, b.place);
+    });
     qint64 last = placed.empty() ? 0 : placed.back().number;
     for (std::size_t at = 0; at < list.size(); ++at) {
         if (states[at] != State::Collided)
@@ -202,18 +199,29 @@ void findChanges(TakeOverPlan &plan, const StationList &list, NumberRule rule)
     }
     for (const TakeOverPlan::Fields &each : plan.fields)
         changed.insert(each.station.get());
-    const bool isMoved = plan.order != list;
     for (std::size_t place = 0; place < list.size(); ++place) {
         const StationPtr &station = plan.order[place];
         if (changed.remove(station.get()))
             plan.changed.push_back(station);
     }
-    // Numbers out of order are put in order, though no station has another one then.
-    if (isMoved && plan.changed.empty())
-        plan.changed = plan.order;
 }
 
 } // namespace
+
+std::optional<qint64> toldNumber(const LGStation &record)
+{
+    if (record.getRawProgNum() == LGStation::missingProgNum) {
+        const std::optional<Value> told = record.field(record.keys().keyProgNum);
+        const QString *text = told ? told->string() : nullptr;
+        const qint64 number = text   ? text->toLongLong()
+                              : told ? told->wholeNumber().value_or(0)
+                                     : 0;
+        if (number != LGStation::missingProgNum)
+            return {};
+    }
+    const qint64 number = record.progNum();
+    return number > 0 ? std::optional(number) : std::nullopt;
+}
 
 std::size_t TakeOverPlan::beyond() const
 {
@@ -227,14 +235,14 @@ TakeOverPlan planTakeOver(const StationList &list, const std::vector<TakenStatio
     TakeOverPlan plan;
     plan.order.reserve(list.size());
     plan.numbers.reserve(list.size());
-    if (!takesNumbers(byStation)) {
+    if (rule == NumberRule::ByRows) {
+        planNumbersByRows(plan, list, taken, byStation);
+    } else if (isAnyNumberTaken(byStation)) {
+        planNumbersAsGiven(plan, list, byStation, rule == NumberRule::AsThere);
+    } else {
         plan.order = list;
         for (const StationPtr &station : list)
             plan.numbers.push_back(station->progNum());
-    } else if (rule == NumberRule::AsGiven) {
-        planNumbersAsGiven(plan, list, byStation);
-    } else {
-        planNumbersByRows(plan, list, taken, byStation);
     }
     for (const TakenStation &each : taken) {
         if (byStation.value(each.station.get()) == &each)

@@ -19,7 +19,8 @@ struct TakenStation
 
 /// Which numbers stations take.
 enum class NumberRule {
-    AsGiven, ///< that of the other record
+    AsGiven, ///< that of the other record; of several with one number the first
+    AsThere, ///< the same, but several may have one number, as in the other list
     ByRows,  ///< in the order in which they are given, those that they have among themselves
 };
 
@@ -52,17 +53,21 @@ struct TakeOverPlan
     [[nodiscard]] bool isEmpty() const { return changed.empty(); }
 };
 
+/// The number that a record tells, 1 to 16383; none when it tells none that a station may have.
+[[nodiscard]] std::optional<qint64> toldNumber(const LGStation &record);
+
 /// Nothing is added and nothing removed; what is no station of the list is ignored, and of several
 /// records of one station the first counts.
 ///
-/// AsGiven: a station whose number another one takes, and who takes none, goes to the end of the
-/// list, and so does the second one to take a number. There they keep their order, numbered on from
-/// the highest number. The others keep their numbers, and the list stands in the order of its
-/// numbers then. A record without number gives none.
+/// AsGiven and AsThere: a station whose number another one takes, and who takes none, goes to the
+/// end of the list, and AsGiven so does the second one to take a number. There they keep their
+/// order, numbered on from the highest number. The others keep their numbers, and the list stands
+/// in the order of its numbers then. A record without number gives none.
 ///
 /// ByRows: the others keep numbers and places.
 ///
-/// A name is taken only when the list may be renamed and there is one.
+/// Where nobody takes another number, the list stays in the order in which it is. A name is taken
+/// only when the list may be renamed and there is one.
 [[nodiscard]] TakeOverPlan planTakeOver(const StationList &list,
                                         const std::vector<TakenStation> &taken, NumberRule rule,
                                         bool canRename);

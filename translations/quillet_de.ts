@@ -371,7 +371,7 @@
     </message>
     <message id="kCompareNoneShown">
         <source></source>
-        <translation>Kein Sender ist von einer oben angekreuzten Art oder passt zur Suche.</translation>
+        <translation>Kein Sender ist von einer oben angekreuzten Art und passt zur Suche.</translation>
     </message>
     <message id="kCompareNoSuchDifference">
         <source></source>
@@ -957,6 +957,10 @@
         <source></source>
         <translation>Die Senderliste konnte nicht geöffnet werden.</translation>
     </message>
+    <message id="kMarkNone">
+        <source></source>
+        <translation>Hier kann nichts übernommen werden</translation>
+    </message>
     <message id="kMarkNotSet">
         <source></source>
         <translation>%1: nicht aktiviert</translation>
@@ -1489,6 +1493,10 @@
         <source></source>
         <translation>Sie enthält keine TV-Sender.</translation>
     </message>
+    <message id="kOrderWrongType">
+        <source></source>
+        <translation>Eine Reihenfolge kann aus TLL-Dateien und aus Textdateien (.txt) übernommen werden.</translation>
+    </message>
     <message id="kOwnFileReason">
         <source></source>
         <translation>Das ist die Datei der Liste selbst, die ein Export nie ersetzt. Wählen Sie einen anderen Namen oder einen anderen Ordner.</translation>
@@ -1508,11 +1516,22 @@
         <source></source>
         <translation>Die Zugriffsrechte der Datei konnten nicht beibehalten werden: %1</translation>
     </message>
+    <message id="kPreviewAnew">
+        <source></source>
+        <translation>Inzwischen hat sich die Vorschau geändert; hier ist die neue.</translation>
+    </message>
     <message id="kPreviewDoubled" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n Nummer würde doppelt vergeben.</numerusform>
-            <numerusform>%n Nummern würden doppelt vergeben.</numerusform>
+            <numerusform>%n Nummer würde mehrmals vergeben.</numerusform>
+            <numerusform>%n Nummern würden mehrmals vergeben.</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewDoubledThere" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n Nummer ist dort mehrmals vergeben.</numerusform>
+            <numerusform>%n Nummern sind dort mehrmals vergeben.</numerusform>
         </translation>
     </message>
     <message id="kPreviewLocked" numerus="yes">
@@ -1566,6 +1585,10 @@
             <numerusform>%n anders übersprungen</numerusform>
         </translation>
     </message>
+    <message id="kPreviewSorted">
+        <source></source>
+        <translation>Die Liste kommt in die Reihenfolge ihrer Nummern.</translation>
+    </message>
     <message id="kPreviewToTheEnd" numerus="yes">
         <source></source>
         <translation>
@@ -1576,8 +1599,8 @@
     <message id="kPreviewUnsure" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n unsichere Zeile ist nicht angekreuzt.</numerusform>
-            <numerusform>%n unsichere Zeilen sind nicht angekreuzt.</numerusform>
+            <numerusform>%n Zeile, die unsicher oder aus einer anderen Liste ist, ist nicht angekreuzt.</numerusform>
+            <numerusform>%n Zeilen, die unsicher oder aus einer anderen Liste sind, sind nicht angekreuzt.</numerusform>
         </translation>
     </message>
     <message id="kPrintedFiltered">
@@ -2154,7 +2177,7 @@ Diese folgen ab Nummer: %3</translation>
     </message>
     <message id="kTipNotRead">
         <source></source>
-        <translation>Seit die Liste gelesen wurde, hat sich nichts geändert</translation>
+        <translation>Die Liste wurde nicht aus einer Datei gelesen</translation>
     </message>
     <message id="kTipNotTold">
         <source></source>
@@ -2286,6 +2309,10 @@ Diese folgen ab Nummer: %3</translation>
     <message id="kToldNotMoved">
         <source></source>
         <translation>Nichts verschoben: Die Nummer muss zwischen 1 und %1 liegen</translation>
+    </message>
+    <message id="kToldNotTakenOver">
+        <source></source>
+        <translation>Nichts übernommen: Die Liste hat sich inzwischen geändert</translation>
     </message>
     <message id="kToldOrdered">
         <source></source>

@@ -371,7 +371,7 @@
     </message>
     <message id="kCompareNoneShown">
         <source></source>
-        <translation>No station is of a kind that is checked above, or fits the search.</translation>
+        <translation>No station is of a kind that is checked above and fits the search.</translation>
     </message>
     <message id="kCompareNoSuchDifference">
         <source></source>
@@ -957,6 +957,10 @@
         <source></source>
         <translation>The channel list could not be opened.</translation>
     </message>
+    <message id="kMarkNone">
+        <source></source>
+        <translation>Nothing can be taken over here</translation>
+    </message>
     <message id="kMarkNotSet">
         <source></source>
         <translation>%1: not checked</translation>
@@ -1489,6 +1493,10 @@
         <source></source>
         <translation>It has no TV stations.</translation>
     </message>
+    <message id="kOrderWrongType">
+        <source></source>
+        <translation>An order can be taken from TLL files and from text files (.txt).</translation>
+    </message>
     <message id="kOwnFileReason">
         <source></source>
         <translation>This is the file of the list itself, and an export never replaces it. Choose another name or another folder.</translation>
@@ -1508,11 +1516,22 @@
         <source></source>
         <translation>The file’s access permissions could not be kept: %1</translation>
     </message>
+    <message id="kPreviewAnew">
+        <source></source>
+        <translation>The preview has changed meanwhile; this is the new one.</translation>
+    </message>
     <message id="kPreviewDoubled" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n number would be given twice.</numerusform>
-            <numerusform>%n numbers would be given twice.</numerusform>
+            <numerusform>%n number would be given more than once.</numerusform>
+            <numerusform>%n numbers would be given more than once.</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewDoubledThere" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n number is given more than once there.</numerusform>
+            <numerusform>%n numbers are given more than once there.</numerusform>
         </translation>
     </message>
     <message id="kPreviewLocked" numerus="yes">
@@ -1566,6 +1585,10 @@
             <numerusform>%n other skip marks</numerusform>
         </translation>
     </message>
+    <message id="kPreviewSorted">
+        <source></source>
+        <translation>The list is put in the order of its numbers.</translation>
+    </message>
     <message id="kPreviewToTheEnd" numerus="yes">
         <source></source>
         <translation>
@@ -1576,8 +1599,8 @@
     <message id="kPreviewUnsure" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n uncertain row is not checked.</numerusform>
-            <numerusform>%n uncertain rows are not checked.</numerusform>
+            <numerusform>%n row that is uncertain or from another list is not checked.</numerusform>
+            <numerusform>%n rows that are uncertain or from another list are not checked.</numerusform>
         </translation>
     </message>
     <message id="kPrintedFiltered">
@@ -2154,7 +2177,7 @@ These go on from number: %3</translation>
     </message>
     <message id="kTipNotRead">
         <source></source>
-        <translation>Nothing has changed since the list was read from a file</translation>
+        <translation>The list was not read from a file</translation>
     </message>
     <message id="kTipNotTold">
         <source></source>
@@ -2286,6 +2309,10 @@ These go on from number: %3</translation>
     <message id="kToldNotMoved">
         <source></source>
         <translation>Nothing was moved: the number must be from 1 to %1</translation>
+    </message>
+    <message id="kToldNotTakenOver">
+        <source></source>
+        <translation>Nothing taken over: the list has changed meanwhile</translation>
     </message>
     <message id="kToldOrdered">
         <source></source>

@@ -371,7 +371,7 @@
     </message>
     <message id="kCompareNoneShown">
         <source></source>
-        <translation>Ningún canal es de un tipo marcado arriba o corresponde a la búsqueda.</translation>
+        <translation>Ningún canal es de un tipo marcado arriba y corresponde a la búsqueda.</translation>
     </message>
     <message id="kCompareNoSuchDifference">
         <source></source>
@@ -957,6 +957,10 @@
         <source></source>
         <translation>No se ha podido abrir la lista de canales.</translation>
     </message>
+    <message id="kMarkNone">
+        <source></source>
+        <translation>Aquí no se puede adoptar nada</translation>
+    </message>
     <message id="kMarkNotSet">
         <source></source>
         <translation>%1: no marcado</translation>
@@ -1489,6 +1493,10 @@
         <source></source>
         <translation>No tiene canales de televisión.</translation>
     </message>
+    <message id="kOrderWrongType">
+        <source></source>
+        <translation>El orden se puede tomar de archivos TLL y de archivos de texto (.txt).</translation>
+    </message>
     <message id="kOwnFileReason">
         <source></source>
         <translation>Es el archivo de la propia lista, que una exportación nunca sustituye. Elija otro nombre u otra carpeta.</translation>
@@ -1508,11 +1516,22 @@
         <source></source>
         <translation>No se han podido conservar los permisos de acceso del archivo: %1</translation>
     </message>
+    <message id="kPreviewAnew">
+        <source></source>
+        <translation>Entretanto la vista previa ha cambiado; esta es la nueva.</translation>
+    </message>
     <message id="kPreviewDoubled" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n número se daría dos veces.</numerusform>
-            <numerusform>%n números se darían dos veces.</numerusform>
+            <numerusform>%n número se daría más de una vez.</numerusform>
+            <numerusform>%n números se darían más de una vez.</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewDoubledThere" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n número está dado allí más de una vez.</numerusform>
+            <numerusform>%n números están dados allí más de una vez.</numerusform>
         </translation>
     </message>
     <message id="kPreviewLocked" numerus="yes">
@@ -1566,6 +1585,10 @@
             <numerusform>%n marcas de omisión distintas</numerusform>
         </translation>
     </message>
+    <message id="kPreviewSorted">
+        <source></source>
+        <translation>La lista se pone en el orden de sus números.</translation>
+    </message>
     <message id="kPreviewToTheEnd" numerus="yes">
         <source></source>
         <translation>
@@ -1576,8 +1599,8 @@
     <message id="kPreviewUnsure" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n fila incierta no está marcada.</numerusform>
-            <numerusform>%n filas inciertas no están marcadas.</numerusform>
+            <numerusform>%n fila incierta o de otra lista no está marcada.</numerusform>
+            <numerusform>%n filas inciertas o de otra lista no están marcadas.</numerusform>
         </translation>
     </message>
     <message id="kPrintedFiltered">
@@ -2154,7 +2177,7 @@ Estos continúan a partir del número: %3</translation>
     </message>
     <message id="kTipNotRead">
         <source></source>
-        <translation>Nada ha cambiado desde que se leyó la lista</translation>
+        <translation>La lista no se leyó de un archivo</translation>
     </message>
     <message id="kTipNotTold">
         <source></source>
@@ -2286,6 +2309,10 @@ Estos continúan a partir del número: %3</translation>
     <message id="kToldNotMoved">
         <source></source>
         <translation>No se ha movido nada: el número debe estar entre 1 y %1</translation>
+    </message>
+    <message id="kToldNotTakenOver">
+        <source></source>
+        <translation>No se ha adoptado nada: la lista ha cambiado entretanto</translation>
     </message>
     <message id="kToldOrdered">
         <source></source>

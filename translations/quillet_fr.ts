@@ -371,7 +371,7 @@
     </message>
     <message id="kCompareNoneShown">
         <source></source>
-        <translation>Aucune chaîne n’est d’un type coché ci-dessus ni ne correspond à la recherche.</translation>
+        <translation>Aucune chaîne n’est d’un type coché ci-dessus tout en correspondant à la recherche.</translation>
     </message>
     <message id="kCompareNoSuchDifference">
         <source></source>
@@ -957,6 +957,10 @@
         <source></source>
         <translation>Impossible d’ouvrir la liste de chaînes.</translation>
     </message>
+    <message id="kMarkNone">
+        <source></source>
+        <translation>Rien ne peut être repris ici</translation>
+    </message>
     <message id="kMarkNotSet">
         <source></source>
         <translation>%1 : non coché</translation>
@@ -1489,6 +1493,10 @@
         <source></source>
         <translation>Il ne contient aucune chaîne TV.</translation>
     </message>
+    <message id="kOrderWrongType">
+        <source></source>
+        <translation>Un ordre peut être repris de fichiers TLL et de fichiers texte (.txt).</translation>
+    </message>
     <message id="kOwnFileReason">
         <source></source>
         <translation>C’est le fichier de la liste elle-même, qu’une exportation ne remplace jamais. Choisissez un autre nom ou un autre dossier.</translation>
@@ -1508,11 +1516,22 @@
         <source></source>
         <translation>Impossible de conserver les droits d’accès du fichier : %1</translation>
     </message>
+    <message id="kPreviewAnew">
+        <source></source>
+        <translation>L’aperçu a changé entre-temps ; voici le nouveau.</translation>
+    </message>
     <message id="kPreviewDoubled" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n numéro serait donné deux fois.</numerusform>
-            <numerusform>%n numéros seraient donnés deux fois.</numerusform>
+            <numerusform>%n numéro serait donné plusieurs fois.</numerusform>
+            <numerusform>%n numéros seraient donnés plusieurs fois.</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewDoubledThere" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n numéro y est donné plusieurs fois.</numerusform>
+            <numerusform>%n numéros y sont donnés plusieurs fois.</numerusform>
         </translation>
     </message>
     <message id="kPreviewLocked" numerus="yes">
@@ -1566,6 +1585,10 @@
             <numerusform>%n autres marques « ignorer »</numerusform>
         </translation>
     </message>
+    <message id="kPreviewSorted">
+        <source></source>
+        <translation>La liste est mise dans l’ordre de ses numéros.</translation>
+    </message>
     <message id="kPreviewToTheEnd" numerus="yes">
         <source></source>
         <translation>
@@ -1576,8 +1599,8 @@
     <message id="kPreviewUnsure" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n ligne incertaine n’est pas cochée.</numerusform>
-            <numerusform>%n lignes incertaines ne sont pas cochées.</numerusform>
+            <numerusform>%n ligne incertaine ou d’une autre liste n’est pas cochée.</numerusform>
+            <numerusform>%n lignes incertaines ou d’une autre liste ne sont pas cochées.</numerusform>
         </translation>
     </message>
     <message id="kPrintedFiltered">
@@ -1844,7 +1867,7 @@
     </message>
     <message id="kRowLoose">
         <source></source>
-        <translation>incertain : seul le nom se ressemble</translation>
+        <translation>incertain : seul le nom est semblable</translation>
     </message>
     <message id="kRowMoved">
         <source></source>
@@ -2154,7 +2177,7 @@ Ces dernières suivent à partir du numéro : %3</translation>
     </message>
     <message id="kTipNotRead">
         <source></source>
-        <translation>Rien n’a changé depuis la lecture de la liste</translation>
+        <translation>La liste n’a pas été lue dans un fichier</translation>
     </message>
     <message id="kTipNotTold">
         <source></source>
@@ -2286,6 +2309,10 @@ Ces dernières suivent à partir du numéro : %3</translation>
     <message id="kToldNotMoved">
         <source></source>
         <translation>Rien n’a été déplacé : le numéro doit être compris entre 1 et %1</translation>
+    </message>
+    <message id="kToldNotTakenOver">
+        <source></source>
+        <translation>Rien n’a été repris : la liste a changé entre-temps</translation>
     </message>
     <message id="kToldOrdered">
         <source></source>

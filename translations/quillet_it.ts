@@ -371,7 +371,7 @@
     </message>
     <message id="kCompareNoneShown">
         <source></source>
-        <translation>Nessun canale è di un tipo spuntato sopra o corrisponde alla ricerca.</translation>
+        <translation>Nessun canale è di un tipo spuntato sopra e corrisponde alla ricerca.</translation>
     </message>
     <message id="kCompareNoSuchDifference">
         <source></source>
@@ -957,6 +957,10 @@
         <source></source>
         <translation>Impossibile aprire la lista di canali.</translation>
     </message>
+    <message id="kMarkNone">
+        <source></source>
+        <translation>Qui non si può riprendere nulla</translation>
+    </message>
     <message id="kMarkNotSet">
         <source></source>
         <translation>%1: non selezionato</translation>
@@ -1489,6 +1493,10 @@
         <source></source>
         <translation>Non contiene canali TV.</translation>
     </message>
+    <message id="kOrderWrongType">
+        <source></source>
+        <translation>Un ordine si può prendere da file TLL e da file di testo (.txt).</translation>
+    </message>
     <message id="kOwnFileReason">
         <source></source>
         <translation>Questo è il file della lista stessa, che un’esportazione non sostituisce mai. Scegli un altro nome o un’altra cartella.</translation>
@@ -1508,11 +1516,22 @@
         <source></source>
         <translation>Impossibile mantenere i permessi di accesso del file: %1</translation>
     </message>
+    <message id="kPreviewAnew">
+        <source></source>
+        <translation>Nel frattempo l’anteprima è cambiata; questa è quella nuova.</translation>
+    </message>
     <message id="kPreviewDoubled" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n numero verrebbe assegnato due volte.</numerusform>
-            <numerusform>%n numeri verrebbero assegnati due volte.</numerusform>
+            <numerusform>%n numero verrebbe assegnato più volte.</numerusform>
+            <numerusform>%n numeri verrebbero assegnati più volte.</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewDoubledThere" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n numero è assegnato là più volte.</numerusform>
+            <numerusform>%n numeri sono assegnati là più volte.</numerusform>
         </translation>
     </message>
     <message id="kPreviewLocked" numerus="yes">
@@ -1544,8 +1563,8 @@
     <message id="kPreviewPaste" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n canale selezionato viene spostato qui.</numerusform>
-            <numerusform>%n canali selezionati vengono spostati qui.</numerusform>
+            <numerusform>%n canale spuntato viene spostato qui.</numerusform>
+            <numerusform>%n canali spuntati vengono spostati qui.</numerusform>
         </translation>
     </message>
     <message id="kPreviewRenamed" numerus="yes">
@@ -1566,6 +1585,10 @@
             <numerusform>%n contrassegni di salto diversi</numerusform>
         </translation>
     </message>
+    <message id="kPreviewSorted">
+        <source></source>
+        <translation>L’elenco viene messo nell’ordine dei suoi numeri.</translation>
+    </message>
     <message id="kPreviewToTheEnd" numerus="yes">
         <source></source>
         <translation>
@@ -1576,8 +1599,8 @@
     <message id="kPreviewUnsure" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n riga incerta non è selezionata.</numerusform>
-            <numerusform>%n righe incerte non sono selezionate.</numerusform>
+            <numerusform>%n riga incerta o di un altro elenco non è spuntata.</numerusform>
+            <numerusform>%n righe incerte o di un altro elenco non sono spuntate.</numerusform>
         </translation>
     </message>
     <message id="kPrintedFiltered">
@@ -2154,7 +2177,7 @@ Questi proseguono dal numero: %3</translation>
     </message>
     <message id="kTipNotRead">
         <source></source>
-        <translation>Nulla è cambiato da quando l’elenco è stato letto</translation>
+        <translation>L’elenco non è stato letto da un file</translation>
     </message>
     <message id="kTipNotTold">
         <source></source>
@@ -2286,6 +2309,10 @@ Questi proseguono dal numero: %3</translation>
     <message id="kToldNotMoved">
         <source></source>
         <translation>Nulla è stato spostato: il numero deve essere compreso tra 1 e %1</translation>
+    </message>
+    <message id="kToldNotTakenOver">
+        <source></source>
+        <translation>Nulla ripreso: nel frattempo l’elenco è cambiato</translation>
     </message>
     <message id="kToldOrdered">
         <source></source>

@@ -371,7 +371,7 @@
     </message>
     <message id="kCompareNoneShown">
         <source></source>
-        <translation>Geen zender is van een hierboven aangevinkte soort of past bij de zoekopdracht.</translation>
+        <translation>Geen zender is van een hierboven aangevinkte soort en past bij de zoekopdracht.</translation>
     </message>
     <message id="kCompareNoSuchDifference">
         <source></source>
@@ -957,6 +957,10 @@
         <source></source>
         <translation>De zenderlijst kon niet worden geopend.</translation>
     </message>
+    <message id="kMarkNone">
+        <source></source>
+        <translation>Hier kan niets worden overgenomen</translation>
+    </message>
     <message id="kMarkNotSet">
         <source></source>
         <translation>%1: niet aangevinkt</translation>
@@ -1489,6 +1493,10 @@
         <source></source>
         <translation>Het bevat geen tv-zenders.</translation>
     </message>
+    <message id="kOrderWrongType">
+        <source></source>
+        <translation>Een volgorde kan worden overgenomen uit TLL-bestanden en tekstbestanden (.txt).</translation>
+    </message>
     <message id="kOwnFileReason">
         <source></source>
         <translation>Dit is het bestand van de lijst zelf, dat door exporteren nooit wordt vervangen. Kies een andere naam of een andere map.</translation>
@@ -1508,11 +1516,22 @@
         <source></source>
         <translation>De toegangsrechten van het bestand konden niet worden behouden: %1</translation>
     </message>
+    <message id="kPreviewAnew">
+        <source></source>
+        <translation>Het voorbeeld is intussen veranderd; dit is het nieuwe.</translation>
+    </message>
     <message id="kPreviewDoubled" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n nummer zou dubbel worden gegeven.</numerusform>
-            <numerusform>%n nummers zouden dubbel worden gegeven.</numerusform>
+            <numerusform>%n nummer zou meermaals worden gegeven.</numerusform>
+            <numerusform>%n nummers zouden meermaals worden gegeven.</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewDoubledThere" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n nummer is daar meermaals gegeven.</numerusform>
+            <numerusform>%n nummers zijn daar meermaals gegeven.</numerusform>
         </translation>
     </message>
     <message id="kPreviewLocked" numerus="yes">
@@ -1566,6 +1585,10 @@
             <numerusform>%n andere overslaanmarkeringen</numerusform>
         </translation>
     </message>
+    <message id="kPreviewSorted">
+        <source></source>
+        <translation>De lijst komt in de volgorde van haar nummers.</translation>
+    </message>
     <message id="kPreviewToTheEnd" numerus="yes">
         <source></source>
         <translation>
@@ -1576,8 +1599,8 @@
     <message id="kPreviewUnsure" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n onzekere rij is niet aangevinkt.</numerusform>
-            <numerusform>%n onzekere rijen zijn niet aangevinkt.</numerusform>
+            <numerusform>%n rij die onzeker of uit een andere lijst is, is niet aangevinkt.</numerusform>
+            <numerusform>%n rijen die onzeker of uit een andere lijst zijn, zijn niet aangevinkt.</numerusform>
         </translation>
     </message>
     <message id="kPrintedFiltered">
@@ -2154,7 +2177,7 @@ Deze gaan verder vanaf nummer: %3</translation>
     </message>
     <message id="kTipNotRead">
         <source></source>
-        <translation>Er is niets veranderd sinds de lijst is gelezen</translation>
+        <translation>De lijst is niet uit een bestand gelezen</translation>
     </message>
     <message id="kTipNotTold">
         <source></source>
@@ -2286,6 +2309,10 @@ Deze gaan verder vanaf nummer: %3</translation>
     <message id="kToldNotMoved">
         <source></source>
         <translation>Niets verplaatst: het nummer moet tussen 1 en %1 liggen</translation>
+    </message>
+    <message id="kToldNotTakenOver">
+        <source></source>
+        <translation>Niets overgenomen: de lijst is intussen veranderd</translation>
     </message>
     <message id="kToldOrdered">
         <source></source>

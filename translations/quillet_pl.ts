@@ -377,7 +377,7 @@
     </message>
     <message id="kCompareNoneShown">
         <source></source>
-        <translation>Żaden kanał nie jest rodzaju zaznaczonego powyżej ani nie pasuje do wyszukiwania.</translation>
+        <translation>Żaden kanał nie jest rodzaju zaznaczonego powyżej i nie pasuje zarazem do wyszukiwania.</translation>
     </message>
     <message id="kCompareNoSuchDifference">
         <source></source>
@@ -979,6 +979,10 @@
         <source></source>
         <translation>Nie można otworzyć listy kanałów.</translation>
     </message>
+    <message id="kMarkNone">
+        <source></source>
+        <translation>Tu nie można niczego przejąć</translation>
+    </message>
     <message id="kMarkNotSet">
         <source></source>
         <translation>%1: niezaznaczone</translation>
@@ -1519,6 +1523,10 @@
         <source></source>
         <translation>Nie ma w nim stacji TV.</translation>
     </message>
+    <message id="kOrderWrongType">
+        <source></source>
+        <translation>Kolejność można wziąć z plików TLL i z plików tekstowych (.txt).</translation>
+    </message>
     <message id="kOwnFileReason">
         <source></source>
         <translation>To jest plik samej listy, a eksport nigdy go nie zastępuje. Wybierz inną nazwę lub inny folder.</translation>
@@ -1539,12 +1547,24 @@
         <source></source>
         <translation>Nie można zachować uprawnień dostępu do pliku: %1</translation>
     </message>
+    <message id="kPreviewAnew">
+        <source></source>
+        <translation>Podgląd zmienił się w międzyczasie; to jest nowy.</translation>
+    </message>
     <message id="kPreviewDoubled" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n numer zostałby nadany dwukrotnie.</numerusform>
-            <numerusform>%n numery zostałyby nadane dwukrotnie.</numerusform>
-            <numerusform>%n numerów zostałoby nadanych dwukrotnie.</numerusform>
+            <numerusform>%n numer zostałby nadany kilkakrotnie.</numerusform>
+            <numerusform>%n numery zostałyby nadane kilkakrotnie.</numerusform>
+            <numerusform>%n numerów zostałoby nadanych kilkakrotnie.</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewDoubledThere" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n numer jest tam nadany kilkakrotnie.</numerusform>
+            <numerusform>%n numery są tam nadane kilkakrotnie.</numerusform>
+            <numerusform>%n numerów jest tam nadanych kilkakrotnie.</numerusform>
         </translation>
     </message>
     <message id="kPreviewLocked" numerus="yes">
@@ -1593,7 +1613,7 @@
     </message>
     <message id="kPreviewSelected">
         <source></source>
-        <translation>Tylko zaznaczone: %1</translation>
+        <translation>Tylko wybrane: %1</translation>
     </message>
     <message id="kPreviewSkipped" numerus="yes">
         <source></source>
@@ -1602,6 +1622,10 @@
             <numerusform>%n inne oznaczenia pomijania</numerusform>
             <numerusform>%n innych oznaczeń pomijania</numerusform>
         </translation>
+    </message>
+    <message id="kPreviewSorted">
+        <source></source>
+        <translation>Lista zostaje ułożona według numerów.</translation>
     </message>
     <message id="kPreviewToTheEnd" numerus="yes">
         <source></source>
@@ -1614,9 +1638,9 @@
     <message id="kPreviewUnsure" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n niepewny wiersz nie jest zaznaczony.</numerusform>
-            <numerusform>%n niepewne wiersze nie są zaznaczone.</numerusform>
-            <numerusform>%n niepewnych wierszy nie jest zaznaczonych.</numerusform>
+            <numerusform>%n wiersz niepewny lub z innej listy nie jest zaznaczony.</numerusform>
+            <numerusform>%n wiersze niepewne lub z innej listy nie są zaznaczone.</numerusform>
+            <numerusform>%n wierszy niepewnych lub z innej listy nie jest zaznaczonych.</numerusform>
         </translation>
     </message>
     <message id="kPrintedFiltered">
@@ -2135,7 +2159,7 @@ Te następują od numeru: %3</translation>
     </message>
     <message id="kTakeOverSelected">
         <source></source>
-        <translation>Przejmij zaznaczone</translation>
+        <translation>Przejmij wybrane</translation>
     </message>
     <message id="kTakeSkipped">
         <source></source>
@@ -2207,7 +2231,7 @@ Te następują od numeru: %3</translation>
     </message>
     <message id="kTipNotRead">
         <source></source>
-        <translation>Nic się nie zmieniło od odczytania listy</translation>
+        <translation>Lista nie została odczytana z pliku</translation>
     </message>
     <message id="kTipNotTold">
         <source></source>
@@ -2348,6 +2372,10 @@ Te następują od numeru: %3</translation>
     <message id="kToldNotMoved">
         <source></source>
         <translation>Niczego nie przeniesiono: numer musi być od 1 do %1</translation>
+    </message>
+    <message id="kToldNotTakenOver">
+        <source></source>
+        <translation>Nic nie przejęto: lista zmieniła się w międzyczasie</translation>
     </message>
     <message id="kToldOrdered">
         <source></source>

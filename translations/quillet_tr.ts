@@ -365,7 +365,7 @@
     </message>
     <message id="kCompareNoneShown">
         <source></source>
-        <translation>Yukarıda işaretli türde veya aramaya uyan kanal yok.</translation>
+        <translation>Yukarıda işaretli türde olup aramaya da uyan kanal yok.</translation>
     </message>
     <message id="kCompareNoSuchDifference">
         <source></source>
@@ -405,7 +405,7 @@
     </message>
     <message id="kCompareTake">
         <source></source>
-        <translation>Al</translation>
+        <translation>Devral</translation>
     </message>
     <message id="kCompareTitle">
         <source></source>
@@ -935,6 +935,10 @@
         <source></source>
         <translation>Kanal listesi açılamadı.</translation>
     </message>
+    <message id="kMarkNone">
+        <source></source>
+        <translation>Buradan hiçbir şey devralınamaz</translation>
+    </message>
     <message id="kMarkNotSet">
         <source></source>
         <translation>%1: işaretli değil</translation>
@@ -1459,6 +1463,10 @@
         <source></source>
         <translation>İçinde TV kanalı yok.</translation>
     </message>
+    <message id="kOrderWrongType">
+        <source></source>
+        <translation>Sıralama TLL dosyalarından ve metin dosyalarından (.txt) alınabilir.</translation>
+    </message>
     <message id="kOwnFileReason">
         <source></source>
         <translation>Bu, listenin kendi dosyasıdır; dışa aktarma onun yerine asla yazmaz. Başka bir ad veya klasör seçin.</translation>
@@ -1477,10 +1485,20 @@
         <source></source>
         <translation>Dosyanın erişim izinleri korunamadı: %1</translation>
     </message>
+    <message id="kPreviewAnew">
+        <source></source>
+        <translation>Önizleme bu arada değişti; bu yenisidir.</translation>
+    </message>
     <message id="kPreviewDoubled" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n numara iki kez verilir.</numerusform>
+            <numerusform>%n numara birden çok kez verilir.</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewDoubledThere" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Orada %n numara birden çok kez verilmiş.</numerusform>
         </translation>
     </message>
     <message id="kPreviewLocked" numerus="yes">
@@ -1529,6 +1547,10 @@
             <numerusform>%n farklı atlama işareti</numerusform>
         </translation>
     </message>
+    <message id="kPreviewSorted">
+        <source></source>
+        <translation>Liste numara sırasına konur.</translation>
+    </message>
     <message id="kPreviewToTheEnd" numerus="yes">
         <source></source>
         <translation>
@@ -1538,7 +1560,7 @@
     <message id="kPreviewUnsure" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>Kesin olmayan %n satır işaretli değil.</numerusform>
+            <numerusform>Kesin olmayan veya başka listeden olan %n satır işaretli değil.</numerusform>
         </translation>
     </message>
     <message id="kPrintedFiltered">
@@ -2021,15 +2043,15 @@ Bunların devam ettiği numara: %3</translation>
     </message>
     <message id="kTakeOver">
         <source></source>
-        <translation>Al:</translation>
+        <translation>Devral:</translation>
     </message>
     <message id="kTakeOverAll">
         <source></source>
-        <translation>Tümünü Al</translation>
+        <translation>Tümünü Devral</translation>
     </message>
     <message id="kTakeOverSelected">
         <source></source>
-        <translation>Seçilenleri Al</translation>
+        <translation>Seçilenleri Devral</translation>
     </message>
     <message id="kTakeSkipped">
         <source></source>
@@ -2101,7 +2123,7 @@ Bunların devam ettiği numara: %3</translation>
     </message>
     <message id="kTipNotRead">
         <source></source>
-        <translation>Liste okunduğundan beri bir şey değişmedi</translation>
+        <translation>Liste bir dosyadan okunmadı</translation>
     </message>
     <message id="kTipNotTold">
         <source></source>
@@ -2224,6 +2246,10 @@ Bunların devam ettiği numara: %3</translation>
     <message id="kToldNotMoved">
         <source></source>
         <translation>Hiçbir şey taşınmadı: numara 1 ile %1 arasında olmalıdır</translation>
+    </message>
+    <message id="kToldNotTakenOver">
+        <source></source>
+        <translation>Hiçbir şey devralınmadı: liste bu arada değişti</translation>
     </message>
     <message id="kToldOrdered">
         <source></source>

@@ -196,7 +196,7 @@ void EditMenu::addLists(QMenu &menu)
     menu.addSeparator();
     add(
         menu, {"kMenuApplyOrder", "applyOrderClicked", {Qt::CTRL | Qt::SHIFT | Qt::Key_A}},
-        [&controller] { controller.applyOrderClicked(); },
+        [&controller] { controller.ordering().askForFile(); },
         [&controller] {
             return controller.isEnabled(EditorOutlets::Control::ApplyButton)
                        ? QString()

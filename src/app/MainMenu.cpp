@@ -126,7 +126,7 @@ void MainMenu::makeFileMenu(QMenuBar &bar)
         });
     m_importChanges = add(menu, {"kMenuImport", "importChangesClicked", {}}, [this] {
         m_editor.commitEditing();
-        m_editor.controller().importChangesClicked();
+        m_editor.controller().comparing().askForTable();
     });
     m_alwaysRepair = add(menu, {"kMenuAlwaysRepair", "alwaysRepair", {}}, [this] {
         QSettings().remove(SaveReview::alwaysKey);

@@ -2,11 +2,14 @@
 
 #include "document/read/ListReading.h"
 #include "editor/EditorQuestions.h"
+#include "editor/ListImport.h"
 #include "editor/ViewController.h"
 #include "files/FileNames.h"
 #include "files/FileReading.h"
+#include "framework/WaitCursor.h"
 
 #include <QFileInfo>
+#include <QTimer>
 #include <QUrl>
 
 #include <new>
@@ -28,6 +31,7 @@ void CompareCommands::compareWithFile(const QString &path)
     QByteArray bytes;
     Error error;
     try {
+        const WaitCursor wait(WaitCursor::Work::Opening, QFileInfo(path).size());
         if (readFile(QUrl::fromLocalFile(path), bytes, error))
             return compareWithBytes(bytes, name);
     } catch (const std::bad_alloc &) {
@@ -40,9 +44,11 @@ void CompareCommands::compareWithBytes(const QByteArray &bytes, const QString &n
 {
     QString reason = qtTrId("kContentUnknownReason");
     try {
+        const WaitCursor wait(WaitCursor::Work::Opening, bytes.size());
         if (std::optional<ChannelList> list = channelListFromBytes(bytes);
             list && list->stationCount() > 0) {
-            emit m_controller.comparisonWanted({.name = name, .lists = std::move(list->lists)});
+            emit m_controller.comparisonWanted(
+                {.name = name, .lists = std::move(list->lists), .rule = rule()});
             return;
         }
     } catch (const std::bad_alloc &) {
@@ -61,10 +67,14 @@ void CompareCommands::compareWithRead()
 QString CompareCommands::reasonAgainstRead() const
 {
     const TLLDocument *document = m_controller.stationDoc();
-    const bool isChanged =
-        document && (document->isDirty() || document->history().stack().count() > 0);
-    return isChanged && !document->list().text.bytes().isEmpty() ? QString()
-                                                                 : qtTrId("kTipNotRead");
+    return document && !document->list().text.bytes().isEmpty() ? QString() : qtTrId("kTipNotRead");
+}
+
+/// Several of the channels of a list that is kept as JSON may have one number.
+NumberRule CompareCommands::rule() const
+{
+    const TLLDocument *document = m_controller.stationDoc();
+    return document && document->list().isLegacyFormat ? NumberRule::AsThere : NumberRule::AsGiven;
 }
 
 /// Of copies, for the other window goes on.
@@ -79,7 +89,58 @@ void CompareCommands::compareWithDocument(const TLLDocument &other)
                 (*copies.list(isTV, source))[i]->setRememberedName((*list)[i]->rememberedName());
         }
     }
-    emit m_controller.comparisonWanted({.name = other.titleName(), .lists = std::move(copies)});
+    const WaitCursor wait(WaitCursor::Work::Opening, other.list().text.bytes().size());
+    emit m_controller.comparisonWanted(
+        {.name = other.titleName(), .lists = std::move(copies), .rule = rule()});
+}
+
+void CompareCommands::askForTable()
+{
+    if (!m_controller.stationDoc())
+        return;
+    EditorQuestions(*m_controller.stationDoc(), m_outlets.sheetWindow(), &m_controller)
+        .askForTable([this](const QString &path) {
+            // In a later turn, when the panel has gone.
+            QTimer::singleShot(0, &m_controller, [this, path] { compareWithTable(path); });
+        });
+}
+
+void CompareCommands::compareWithTable(const QString &path)
+{
+    if (!m_controller.stationDoc())
+        return;
+    QString reason;
+    if (const auto rows = importedFile(path, *m_controller.stationDoc(), reason))
+        emit m_controller.comparisonWanted(*rows);
+    else
+        m_controller.showError(reason,
+                               qtTrId("kImportFailed").arg(readable(QFileInfo(path).fileName())));
+}
+
+/// What the stations are by then counts, so a question may leave nothing to be taken over.
+void CompareCommands::takeOver(const Plan &plan, const EditSummary &summary,
+                               const std::function<void()> &done)
+{
+    const std::vector<ListEditor::TakeOverPart> planned = plan();
+    std::size_t beyond = 0;
+    for (const auto &part : planned)
+        beyond += part.plan.beyond();
+    m_controller.whenNumbersSuffice(beyond, [=, this](ListEditor::Beyond wanted) {
+        const TLLDocument *document = m_controller.stationDoc();
+        if (!document)
+            return;
+        const StationList selected = m_controller.shown().ownStationsAt(m_outlets.selectedRows());
+        const StationListPtr list = document->stations();
+        const auto parts = wanted == ListEditor::Beyond::Refused ? planned : plan();
+        const bool isDone = !parts.empty() && m_editor.takeOver(parts, summary, wanted);
+        if (list == document->stations())
+            m_controller.reveal(selected);
+        m_controller.updateButtons();
+        if (isDone)
+            done();
+        else
+            m_outlets.tell(qtTrId("kToldNotTakenOver"));
+    });
 }
 
 } // namespace quillet

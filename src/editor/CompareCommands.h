@@ -1,6 +1,11 @@
 #pragma once
 
+#include "editor/ListEditor.h"
+
 #include <QString>
+
+#include <functional>
+#include <vector>
 
 class QByteArray;
 
@@ -12,13 +17,13 @@ class ViewController;
 struct ChannelList;
 
 /// The commands that compare the document with another list: each gets that list, or says why there
-/// is none, and has the comparison shown by ViewController::comparisonWanted(). Changes nothing.
-/// Owned by the window's ViewController.
+/// is none, and has the comparison shown by ViewController::comparisonWanted(). What is taken over
+/// then it has carried out. Owned by the window's ViewController.
 class CompareCommands
 {
 public:
-    CompareCommands(ViewController &controller, const EditorOutlets &outlets)
-        : m_controller(controller), m_outlets(outlets)
+    CompareCommands(ViewController &controller, EditorOutlets &outlets, ListEditor &editor)
+        : m_controller(controller), m_outlets(outlets), m_editor(editor)
     {
     }
 
@@ -34,9 +39,23 @@ public:
     /// The name is that of the content, for people.
     void compareWithBytes(const QByteArray &bytes, const QString &name);
 
+    /// Asks for a table that was exported and edited elsewhere, and compares with that.
+    void askForTable();
+    /// One that cannot be used is told.
+    void compareWithTable(const QString &path);
+
+    using Plan = std::function<std::vector<ListEditor::TakeOverPart>()>;
+    /// Carries out what is planned, as one step that the summary tells, and calls `done`. Behind a
+    /// question it is planned anew.
+    void takeOver(const Plan &plan, const EditSummary &summary, const std::function<void()> &done);
+
 private:
+    /// How equal numbers are taken over.
+    [[nodiscard]] NumberRule rule() const;
+
     ViewController &m_controller;
-    const EditorOutlets &m_outlets;
+    EditorOutlets &m_outlets;
+    ListEditor &m_editor;
 };
 
 } // namespace quillet

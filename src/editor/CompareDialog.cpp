@@ -3,13 +3,13 @@
 #include "editor/ComparisonFilter.h"
 #include "editor/ComparisonTable.h"
 #include "editor/ComparisonTexts.h"
+#include "editor/SpokenLabel.h"
 #include "editor/ViewController.h"
 #include "framework/Mnemonics.h"
 #include "framework/ScreenPlace.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
-#include <QLabel>
 #include <QPushButton>
 #include <QSettings>
 #include <QShortcut>
@@ -31,12 +31,10 @@ QString sizeKey()
     return QStringLiteral("windows/Comparison/size");
 }
 
-QLabel *makeText(const char *objectName)
+SpokenLabel *makeText(const char *objectName)
 {
-    auto *label = new QLabel;
+    auto *label = new SpokenLabel;
     label->setObjectName(QLatin1String(objectName));
-    label->setTextFormat(Qt::PlainText); // names of files may look like markup
-    label->setWordWrap(true);
     return label;
 }
 
@@ -57,9 +55,14 @@ CompareDialog::CompareDialog(ViewController &controller, const ComparedWith &oth
     addControls();
     addShortcuts();
     connect(m_filter, &ComparisonFilter::left, m_table, &ComparisonTable::focusRows);
-    connect(m_table, &ComparisonTable::selectedRowsChanged, this, &CompareDialog::showSelected);
+    m_selectionShown.setSingleShot(true);
+    connect(&m_selectionShown, &QTimer::timeout, this, &CompareDialog::showSelected);
+    connect(m_table, &ComparisonTable::selectedRowsChanged, this,
+            [this] { m_selectionShown.start(0); });
     connect(&m_comparison, &StationComparison::rowsChanged, this, &CompareDialog::showPlan);
     connect(&m_comparison, &StationComparison::choiceChanged, this, &CompareDialog::showPlan);
+    connect(&m_comparison, &StationComparison::choiceChanged, this, &CompareDialog::speakChoice);
+    connect(&m_comparison, &StationComparison::takenOver, m_preview, &SpokenLabel::speak);
     connect(&m_comparison, &StationComparison::documentGone, this, &QDialog::reject);
     const int line = fontMetrics().height();
     resize(QSettings().value(sizeKey(), QSize(72 * line, 44 * line)).toSize());
@@ -84,7 +87,7 @@ void CompareDialog::addControls()
     m_preview->setMinimumHeight(lines * fontMetrics().lineSpacing()); // so that nothing jumps
     auto *column = new QVBoxLayout(this);
     if (const QString &text = m_comparison.other().remark; !text.isEmpty()) {
-        QLabel *remark = makeText("compareRemark");
+        auto *remark = makeText("compareRemark");
         remark->setText(text);
         column->addWidget(remark);
     }
@@ -106,7 +109,7 @@ QLayout *CompareDialog::makeAspects()
     for (const auto &[aspect, title] : aspectTitles) {
         auto *box = new QCheckBox(qtTrId(title));
         box->setObjectName(QStringLiteral("compareTake%1").arg(static_cast<int>(aspect)));
-        box->setChecked(m_comparison.takes(aspect));
+        box->setChecked(m_comparison.choice().takes(aspect));
         connect(box, &QCheckBox::toggled, this,
                 [this, taken = aspect](bool isTaken) { m_comparison.take(taken, isTaken); });
         row->addWidget(box);
@@ -195,15 +198,24 @@ void CompareDialog::showPlan()
 /// What all that is checked comes to does not change with the selection.
 void CompareDialog::showSelected()
 {
+    m_preview->setAccessibleName({}); // what was spoken is over
     if (!m_takeSelected)
         return m_preview->setText(m_plan);
     const std::vector<std::size_t> rows = m_table->selected();
     const StationComparison::Parts parts = m_comparison.planFor(rows);
-    const QString text = qtTrId("kPreviewSelected").arg(textOf(parts));
-    m_preview->setText(rows.size() < 2 ? m_plan : m_plan + u'\n' + text);
+    const QString text =
+        parts.empty() ? qtTrId("kTipTakeSelected") : qtTrId("kPreviewSelected").arg(textOf(parts));
+    m_preview->setText(parts.empty() ? m_plan : m_plan + u'\n' + text);
     m_takeSelected->setEnabled(!parts.empty());
-    m_takeSelected->setToolTip(parts.empty() ? qtTrId("kTipTakeSelected") : QString());
+    m_takeSelected->setToolTip(parts.empty() ? text : QString());
     m_takeSelected->setAccessibleDescription(text);
+}
+
+void CompareDialog::speakChoice()
+{
+    const QString mark = m_table->currentMark();
+    m_preview->speak(mark.isEmpty() ? m_preview->text()
+                                    : mark + QStringLiteral(". ") + m_preview->text());
 }
 
 /// The window goes first, so that what is asked or reported then has the editor's.
@@ -218,8 +230,12 @@ void CompareDialog::accept()
             moveHere(stations);
         return;
     case Purpose::Order:
-        QDialog::accept();
-        return m_comparison.applyOrder();
+        if (m_comparison.isStillSo()) {
+            QDialog::accept();
+            return m_comparison.applyOrder();
+        }
+        m_preview->setText(qtTrId("kPreviewAnew") + u' ' + m_plan);
+        return m_preview->speak(m_preview->text());
     case Purpose::Import:
         QDialog::accept();
         return m_comparison.takeOverAll();

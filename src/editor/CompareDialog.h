@@ -3,19 +3,20 @@
 #include "editor/StationComparison.h"
 
 #include <QDialog>
+#include <QTimer>
 
 #include <functional>
 #include <utility>
 #include <vector>
 
 class QCheckBox;
-class QLabel;
 class QPushButton;
 
 namespace quillet {
 
 class ComparisonFilter;
 class ComparisonTable;
+class SpokenLabel;
 
 /// The window that shows a document's lists beside another list, and has taken over from there what
 /// is checked. It stays open while the document is edited, unless it shows what is to be applied or
@@ -44,6 +45,7 @@ private:
     void setMnemonics();
     void showPlan();
     void showSelected();
+    void speakChoice();
     void accept() override;
 
     ViewController &m_controller;
@@ -52,7 +54,8 @@ private:
     MoveHere m_moveHere;
     ComparisonFilter *m_filter;
     ComparisonTable *m_table;
-    QLabel *m_preview;
+    SpokenLabel *m_preview;
+    QTimer m_selectionShown;               ///< when no more keys wait
     QString m_plan;                        ///< of all that is checked, in words
     QPushButton *m_takeSelected = nullptr; ///< null: there is but one way to go on
     QPushButton *m_take = nullptr;

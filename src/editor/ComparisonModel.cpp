@@ -48,7 +48,7 @@ ComparisonModel::ComparisonModel(StationComparison &comparison, QObject *parent)
     connect(&comparison, &StationComparison::rowsChanged, this, [this] { endResetModel(); });
     connect(&comparison, &StationComparison::choiceChanged, this, [this] {
         if (rowCount() > 0)
-            emit dataChanged(index(0, Check), index(rowCount() - 1, Check));
+            emit dataChanged(index(0, Check), index(rowCount() - 1, Difference));
     });
 }
 
@@ -88,7 +88,7 @@ QVariant ComparisonModel::data(const QModelIndex &index, int role) const
 QVariant ComparisonModel::checkData(std::size_t row, int role) const
 {
     if (!m_comparison.canBeChecked(row))
-        return {};
+        return role == Qt::AccessibleTextRole ? qtTrId("kMarkNone") : QVariant();
     const bool isChecked = m_comparison.isChecked(row);
     if (role == Qt::CheckStateRole)
         return QVariant::fromValue(isChecked ? Qt::Checked : Qt::Unchecked);

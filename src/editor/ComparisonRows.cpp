@@ -1,5 +1,6 @@
 #include "editor/ComparisonRows.h"
 
+#include "document/compare/UnkeptNames.h"
 #include "document/order/ReferenceOrder.h"
 
 #include <algorithm>
@@ -36,11 +37,6 @@ ComparisonKinds kindsOf(const ComparisonRow &row)
     return kinds ? kinds : ComparisonKind::Same;
 }
 
-bool tellsNumber(const LGStation &station)
-{
-    return station.field(station.keys().keyProgNum).has_value();
-}
-
 ComparisonRow rowOf(const ComparedStation &station, const ComparedLists &lists,
                     const std::function<StationDifferences(const LGStation &)> &toldOf)
 {
@@ -56,8 +52,12 @@ ComparisonRow rowOf(const ComparedStation &station, const ComparedLists &lists,
     if (station.second) {
         const LGStation &there = *station.second;
         const StationDifferences told = toldOf(there);
-        if (told.testFlag(StationDifference::Number) && tellsNumber(there))
-            row.numberThere = there.progNumString();
+        const auto number =
+            told.testFlag(StationDifference::Number) ? toldNumber(there) : std::nullopt;
+        if (number)
+            row.numberThere = QString::number(*number);
+        else
+            row.differences.setFlag(StationDifference::Number, false);
         if (told.testFlag(StationDifference::Name))
             row.nameThere = there.shownName();
     }
@@ -80,32 +80,83 @@ QHash<const LGStation *, std::size_t> placesIn(const StationLists &lists)
     return places;
 }
 
-/// The names of stations, which read no name for that.
-QHash<const LGStation *, QString> namesOf(const StationList &stations)
+} // namespace
+
+ComparisonRows comparisonRows(const StationLists &here, const ComparedWith &other)
 {
-    StationLists lists;
-    lists.setupLists();
-    *lists.list(true, 0) = stations;
-    const StationLists copies = copyOf(lists);
-    QHash<const LGStation *, QString> names;
-    for (std::size_t i = 0; i < stations.size(); ++i) {
-        LGStation &copy = *(*copies.list(true, 0))[i];
-        copy.setRememberedName(stations[i]->rememberedName());
-        names.insert(stations[i].get(), copy.shownName());
+    const auto toldOf = [&other](const LGStation &station) {
+        return other.told.value(&station, everything);
+    };
+    const UnkeptNames names(here);
+    ListComparison comparison = compare(here, other.lists);
+    if (!other.told.isEmpty())
+        keepOnlyTold(comparison, toldOf);
+    const bool isOfRows = other.purpose == Purpose::Import || other.purpose == Purpose::Paste;
+    const auto places = placesIn(other.lists);
+    ComparisonRows rows;
+    for (const ComparedLists &lists : comparison.lists) {
+        for (const ComparedStation &station : lists.stations) {
+            if (isOfRows && !station.second)
+                continue;
+            rows.push_back(rowOf(station, lists, toldOf));
+            rows.back().placeThere = places.value(station.second.get());
+        }
     }
-    return names;
+    if (other.rule == NumberRule::ByRows)
+        numberByRows(rows, here, isTakenUnasked);
+    for (ComparisonRow &row : rows)
+        row.kinds = kindsOf(row);
+    return rows;
 }
 
-/// Gives the rows the numbers that their stations would get if all that are surely the same were
-/// taken over.
-void numberByRows(ComparisonRows &rows, const StationLists &here)
+ComparisonRows orderRows(const StationList &here, bool isTV, int source,
+                         const ReferenceList &entries)
+{
+    const ReferenceOrderPlan plan = planReferenceOrder(here, entries);
+    const UnkeptNames names(here);
+    ComparisonRows rows;
+    for (const auto &[station, number, entry, isByName] : plan.matched) {
+        const ReferenceEntry &taken = entries[entry];
+        ComparisonRow row{.isTV = isTV,
+                          .source = source,
+                          .here = station,
+                          .nameHere = station->shownName(),
+                          .numberThere = QString::number(number),
+                          .nameThere = taken.name,
+                          .likeness = isByName ? Likeness::ByName : Likeness::Sure,
+                          .placeThere = entry};
+        const bool isMoved = number != station->progNum();
+        row.differences.setFlag(StationDifference::Number, isMoved);
+        row.kinds = isMoved ? ComparisonKind::Moved : ComparisonKind::Same;
+        rows.push_back(std::move(row));
+    }
+    qint64 last = plan.last;
+    for (const StationPtr &station : plan.remaining)
+        rows.push_back({.isTV = isTV,
+                        .source = source,
+                        .here = station,
+                        .nameHere = station->shownName(),
+                        .numberThere = QString::number(++last),
+                        .kinds = ComparisonKind::OnlyHere});
+    for (const std::size_t unused : plan.unused)
+        rows.push_back({.isTV = isTV,
+                        .source = source,
+                        .numberThere = entries[unused].num,
+                        .nameThere = entries[unused].name,
+                        .kinds = ComparisonKind::OnlyThere,
+                        .placeThere = unused});
+    return rows;
+}
+
+void numberByRows(ComparisonRows &rows, const StationLists &here,
+                  const std::function<bool(const ComparisonRow &)> &isTaken)
 {
     for (const bool isTV : {true, false}) {
         for (int source = 0; source < stationSourceCount; ++source) {
             std::vector<ComparisonRow *> paired;
             for (ComparisonRow &row : rows) {
                 if (row.here && row.there && row.isTV == isTV && row.source == source &&
-                    isTakenUnasked(row))
+                    isTaken(row))
                     paired.push_back(&row);
             }
             const StationListPtr &list = here.list(isTV, source);
@@ -129,71 +180,10 @@ void numberByRows(ComparisonRows &rows, const StationLists &here)
     }
 }
 
-} // namespace
-
-ComparisonRows comparisonRows(const StationLists &here, const ComparedWith &other)
+bool hasNumberThere(const ComparisonRow &row)
 {
-    const auto toldOf = [&other](const LGStation &station) {
-        return other.told.value(&station, everything);
-    };
-    ListComparison comparison = compare(here, other.lists);
-    if (!other.told.isEmpty())
-        keepOnlyTold(comparison, toldOf);
-    const bool isOfRows = other.purpose == Purpose::Import || other.purpose == Purpose::Paste;
-    const auto places = placesIn(other.lists);
-    ComparisonRows rows;
-    for (const ComparedLists &lists : comparison.lists) {
-        for (const ComparedStation &station : lists.stations) {
-            if (isOfRows && !station.second)
-                continue;
-            rows.push_back(rowOf(station, lists, toldOf));
-            rows.back().placeThere = places.value(station.second.get());
-        }
-    }
-    if (other.rule == NumberRule::ByRows)
-        numberByRows(rows, here);
-    for (ComparisonRow &row : rows)
-        row.kinds = kindsOf(row);
-    return rows;
-}
-
-ComparisonRows orderRows(const StationList &here, bool isTV, int source,
-                         const ReferenceList &entries)
-{
-    const ReferenceOrderPlan plan = planReferenceOrder(here, entries);
-    const auto nameOf = [names = namesOf(here)](const StationPtr &station) {
-        return names.value(station.get());
-    };
-    ComparisonRows rows;
-    for (const auto &[station, number, entry, isByName] : plan.matched) {
-        const ReferenceEntry &taken = entries[entry];
-        ComparisonRow row{.isTV = isTV,
-                          .source = source,
-                          .here = station,
-                          .nameHere = nameOf(station),
-                          .numberThere = QString::number(number),
-                          .nameThere = taken.name,
-                          .likeness = isByName ? Likeness::ByName : Likeness::Sure};
-        const bool isMoved = number != station->progNum();
-        row.differences.setFlag(StationDifference::Number, isMoved);
-        row.kinds = isMoved ? ComparisonKind::Moved : ComparisonKind::Same;
-        rows.push_back(std::move(row));
-    }
-    qint64 last = plan.last;
-    for (const StationPtr &station : plan.remaining)
-        rows.push_back({.isTV = isTV,
-                        .source = source,
-                        .here = station,
-                        .nameHere = nameOf(station),
-                        .numberThere = QString::number(++last),
-                        .kinds = ComparisonKind::OnlyHere});
-    for (const std::size_t unused : plan.unused)
-        rows.push_back({.isTV = isTV,
-                        .source = source,
-                        .numberThere = entries[unused].num,
-                        .nameThere = entries[unused].name,
-                        .kinds = ComparisonKind::OnlyThere});
-    return rows;
+    return row.here && row.there && !row.isElsewhere && !row.numberThere.isEmpty() &&
+           !row.differences.testFlag(StationDifference::Number);
 }
 
 bool isTakenUnasked(const ComparisonRow &row)

@@ -4,6 +4,7 @@
 
 #include <QFlags>
 
+#include <functional>
 #include <vector>
 
 namespace quillet {
@@ -20,6 +21,14 @@ enum class ComparisonKind {
 };
 Q_DECLARE_FLAGS(ComparisonKinds, ComparisonKind)
 
+/// One of the eight lists.
+struct ComparedList
+{
+    bool isTV = true;
+    int source = 0;
+    bool operator==(const ComparedList &) const = default;
+};
+
 /// A station of the document and what another list tells of it, or one that only one of them has.
 struct ComparisonRow
 {
@@ -35,22 +44,32 @@ struct ComparisonRow
     Likeness likeness = Likeness::Sure;
     bool isElsewhere = false;   ///< there it is in the list of another source
     std::size_t placeThere = 0; ///< in the order of the other list
+
+    bool operator==(const ComparisonRow &) const = default;
 };
 using ComparisonRows = std::vector<ComparisonRow>;
 
 /// The comparison of a document's lists with another list, one row a station: list by list in the
 /// order of the document, behind them what only the other one has. Stations that rows of another
 /// program or of the clipboard do not mention are no finding, and are left out.
+/// Keeps no name that was not read before.
 [[nodiscard]] ComparisonRows comparisonRows(const StationLists &here, const ComparedWith &other);
 /// What applying a reference list would do to one of the lists: the stations in their new order,
-/// behind them the entries that fit none. Reads no name of the stations themselves, for by the
-/// names that were read they are matched.
+/// behind them the entries that fit none. Keeps no name that was not read before, for by the
+/// names that were they are matched.
 [[nodiscard]] ComparisonRows orderRows(const StationList &here, bool isTV, int source,
                                        const ReferenceList &entries);
+
+/// Gives those of the rows that are taken, in the order of the other list, the numbers that their
+/// stations would get: each list's own.
+void numberByRows(ComparisonRows &rows, const StationLists &here,
+                  const std::function<bool(const ComparisonRow &)> &isTaken);
 
 /// What can be taken over from the other side of a row: what differs, and a name only in the list
 /// in which stations may be renamed.
 [[nodiscard]] StationDifferences takeable(const ComparisonRow &row);
+/// Whether a station has the number already that the other list tells.
+[[nodiscard]] bool hasNumberThere(const ComparisonRow &row);
 /// Whether the two sides are so surely the same that nobody need be asked.
 [[nodiscard]] bool isTakenUnasked(const ComparisonRow &row);
 /// Whether the stations of that source may be given names.

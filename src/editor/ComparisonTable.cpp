@@ -72,6 +72,18 @@ void ComparisonTable::focusRows()
     setFocus();
     if (!selectionModel()->hasSelection() && m_model.rowCount() > 0)
         goToRow(0);
+    // To the name, which there always is.
+    if (const int row = currentIndex().row(); isColumnHidden(currentIndex().column()) || row < 0)
+        selectionModel()->setCurrentIndex(m_model.index(row, ComparisonModel::NameHere),
+                                          QItemSelectionModel::NoUpdate);
+}
+
+QString ComparisonTable::currentMark() const
+{
+    return currentIndex()
+        .siblingAtColumn(ComparisonModel::Check)
+        .data(Qt::AccessibleTextRole)
+        .toString();
 }
 
 /// Wherever in the row the current cell is.
@@ -97,7 +109,7 @@ void ComparisonTable::reveal()
 ComparisonTable::RowKey ComparisonTable::keyOf(std::size_t row) const
 {
     const ComparisonRow &shown = m_comparison.row(row);
-    return {shown.here.get(), shown.there.get()};
+    return {shown.here.get(), shown.there.get(), shown.here ? 0 : shown.placeThere};
 }
 
 void ComparisonTable::keepSelection()
@@ -106,6 +118,11 @@ void ComparisonTable::keepSelection()
     for (const std::size_t row : selected())
         m_selectedKeys.push_back(keyOf(row));
     std::sort(m_selectedKeys.begin(), m_selectedKeys.end());
+    if (const QModelIndex current = currentIndex(); current.isValid()) {
+        m_currentRow = current.row();
+        m_currentColumn = current.column();
+        m_currentKey = keyOf(static_cast<std::size_t>(m_currentRow));
+    }
     m_scrolled = verticalScrollBar()->value();
 }
 
@@ -117,10 +134,30 @@ void ComparisonTable::restoreSelection()
             rows.append(static_cast<qsizetype>(row));
     }
     selectRows(*this, rows);
+    restoreCurrent();
     verticalScrollBar()->setValue(m_scrolled);
-    setPlaceholderText(qtTrId(m_comparison.isEmpty() ? "kCompareEmpty" : "kCompareNoneShown"));
+    const bool isOrdered =
+        m_comparison.purpose() != ComparedWith::Purpose::Compare || m_comparison.isSameOrder();
+    setPlaceholderText(!m_comparison.isEmpty() ? qtTrId("kCompareNoneShown")
+                       : isOrdered             ? qtTrId("kCompareEmpty")
+                                               : qtTrId("kDiffOrder") + u'.');
     setColumnHidden(ComparisonModel::List,
                     m_comparison.lists().size() < 2 || m_comparison.list().has_value());
+}
+
+/// If its station has gone, then the row that stands there now.
+void ComparisonTable::restoreCurrent()
+{
+    const int count = m_model.rowCount();
+    if (m_currentRow < 0 || count == 0)
+        return;
+    int row = qMin(m_currentRow, count - 1);
+    for (int each = 0; each < count; ++each) {
+        if (keyOf(static_cast<std::size_t>(each)) == m_currentKey)
+            row = each;
+    }
+    selectionModel()->setCurrentIndex(m_model.index(row, m_currentColumn),
+                                      QItemSelectionModel::NoUpdate);
 }
 
 } // namespace quillet

@@ -4,7 +4,7 @@
 #include "editor/DarkModeTableView.h"
 #include "editor/StationComparison.h"
 
-#include <utility>
+#include <tuple>
 #include <vector>
 
 namespace quillet {
@@ -23,6 +23,8 @@ public:
     [[nodiscard]] std::vector<std::size_t> selected() const;
     /// Gives it the focus, and the first row the selection if there is none.
     void focusRows();
+    /// Whether the current row is checked, in words.
+    [[nodiscard]] QString currentMark() const;
 
 signals:
     void selectedRowsChanged();
@@ -32,17 +34,21 @@ protected:
 
 private:
     /// Of the row at a time when there may be others.
-    using RowKey = std::pair<const LGStation *, const LGStation *>;
+    using RowKey = std::tuple<const LGStation *, const LGStation *, std::size_t>;
 
     void sizeColumns();
     void keepSelection();
     void restoreSelection();
+    void restoreCurrent();
     void reveal();
     [[nodiscard]] RowKey keyOf(std::size_t row) const;
 
     StationComparison &m_comparison;
     ComparisonModel m_model;
     std::vector<RowKey> m_selectedKeys; ///< ascending, while the rows change
+    RowKey m_currentKey;
+    int m_currentRow = -1; ///< when there are others
+    int m_currentColumn = ComparisonModel::NameHere;
     int m_scrolled = 0;
 };
 

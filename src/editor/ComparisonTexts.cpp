@@ -1,11 +1,13 @@
 #include "editor/ComparisonTexts.h"
 
+#include "document/compare/UnkeptNames.h"
 #include "editor/ShownTexts.h"
 #include "editor/SourceTitles.h"
 
 #include <QLocale>
 #include <QStringList>
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -56,9 +58,13 @@ constexpr std::size_t mostNames = 5;
 
 QString namesOf(const StationList &stations)
 {
+    const StationList first(stations.begin(),
+                            stations.begin() +
+                                static_cast<std::ptrdiff_t>(std::min(stations.size(), mostNames)));
+    const UnkeptNames unkept(first);
     QStringList names;
-    for (std::size_t i = 0; i < stations.size() && i < mostNames; ++i)
-        names.append(drawnName(*stations[i]));
+    for (const StationPtr &station : first)
+        names.append(drawnName(*station));
     const QString text = names.join(QStringLiteral(", "));
     return stations.size() <= mostNames
                ? text
@@ -80,6 +86,17 @@ QString orderPreview(const StationComparison &comparison)
                  number(comparison.count(ComparisonKind::OnlyThere)));
     const std::size_t doubled = comparison.doubledNumbers();
     return doubled == 0 ? text : text + u' ' + qtTrId("kPreviewDoubled", static_cast<int>(doubled));
+}
+
+/// Whether the list did not stand in the order of its numbers before.
+bool isPutInOrder(const ListEditor::TakeOverPart &part)
+{
+    const auto isBefore = [](const StationPtr &a, const StationPtr &b) {
+        return a->progNum() < b->progNum();
+    };
+    const std::vector<qint64> &numbers = part.plan.numbers;
+    return !std::is_sorted(part.list->begin(), part.list->end(), isBefore) &&
+           std::is_sorted(numbers.begin(), numbers.end());
 }
 
 } // namespace
@@ -162,6 +179,8 @@ QString textOf(const ComparisonRow &row, Purpose purpose)
 
 QString textOf(const StationComparison::Parts &parts)
 {
+    if (parts.empty())
+        return qtTrId("kPreviewNothing");
     TakeOverPlan sum;
     StationList toTheEnd;
     for (const auto &[list, plan] : parts) {
@@ -180,13 +199,15 @@ QString textOf(const StationComparison::Parts &parts)
     add("kPreviewRenamed", sum.renamed);
     add("kPreviewSkipped", sum.skipped);
     add("kPreviewLocked", sum.locked);
-    if (texts.isEmpty())
-        return qtTrId("kPreviewNothing");
-    const QString text = texts.join(QStringLiteral(", ")) + u'.';
-    if (toTheEnd.empty())
-        return text;
-    return text + u' ' +
-           qtTrId("kPreviewToTheEnd", static_cast<int>(toTheEnd.size())).arg(namesOf(toTheEnd));
+    QStringList sentences;
+    if (!texts.isEmpty())
+        sentences.append(texts.join(QStringLiteral(", ")) + u'.');
+    if (!toTheEnd.empty())
+        sentences.append(
+            qtTrId("kPreviewToTheEnd", static_cast<int>(toTheEnd.size())).arg(namesOf(toTheEnd)));
+    if (std::any_of(parts.begin(), parts.end(), isPutInOrder))
+        sentences.append(qtTrId("kPreviewSorted"));
+    return sentences.join(u' ');
 }
 
 QString previewOf(const StationComparison &comparison)
@@ -199,9 +220,13 @@ QString previewOf(const StationComparison &comparison)
     default:
         break;
     }
-    const QString text = textOf(comparison.planForAll());
-    const std::size_t unsure = comparison.uncheckedLoose();
-    return unsure == 0 ? text : text + u' ' + qtTrId("kPreviewUnsure", static_cast<int>(unsure));
+    const StationComparison::Parts &parts = comparison.planForAll();
+    QStringList sentences{textOf(parts)};
+    if (const std::size_t doubled = comparison.doubledNumbers(); doubled > 0 && !parts.empty())
+        sentences.append(qtTrId("kPreviewDoubledThere", static_cast<int>(doubled)));
+    if (const std::size_t unsure = comparison.uncheckedUnsure(); unsure > 0)
+        sentences.append(qtTrId("kPreviewUnsure", static_cast<int>(unsure)));
+    return sentences.join(u' ');
 }
 
 } // namespace quillet

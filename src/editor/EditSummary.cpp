@@ -67,17 +67,19 @@ QString textOf(const EditSummary &summary)
     const KindTexts &texts = textsOf(summary.kind);
     const QString told = text(texts.told, texts.isToldCounted, summary.stations);
     const QString first = QString::number(summary.first), last = QString::number(summary.last);
+    const QString others =
+        summary.others == 0
+            ? QString()
+            : QStringLiteral(", ") + text("kToldOthersRenumbered", true, summary.others);
     switch (summary.kind) {
     case Kind::Moved: {
         const QString numbers = first == last ? first : first + QStringLiteral(u"\u2013") + last;
-        return summary.others == 0 ? told.arg(numbers)
-                                   : told.arg(numbers) + QStringLiteral(", ") +
-                                         text("kToldOthersRenumbered", true, summary.others);
+        return told.arg(numbers) + others;
     }
     case Kind::Swapped:
         return told.arg(first, last);
     default:
-        return filled(told, summary.name);
+        return filled(told, summary.name) + others;
     }
 }
 

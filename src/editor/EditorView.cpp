@@ -105,7 +105,7 @@ void EditorView::connectControls()
     connect(m_ui->infoButton, &QPushButton::clicked, this, &EditorView::showInfo);
     connect(m_ui->list, &DarkModeTableView::returnPressed, this, &EditorView::showInfo);
     connect(m_ui->applyButton, &QPushButton::clicked, &m_controller,
-            &ViewController::applyOrderClicked);
+            [this] { m_controller.ordering().askForFile(); });
     connect(m_ui->fillGapsButton, &QCheckBox::toggled, &m_controller,
             &ViewController::fillGapsClicked);
     connect(m_ui->list->selectionModel(), &QItemSelectionModel::selectionChanged, this,

@@ -1,11 +1,11 @@
 #include "editor/StationComparison.h"
 
 #include "editor/ViewController.h"
-#include "model/CleanName.h"
 
 #include <QSet>
 
 #include <algorithm>
+#include <new>
 #include <utility>
 
 namespace quillet {
@@ -30,33 +30,25 @@ EditSummary summaryOf(const ComparedWith &other, const StationComparison::Parts 
                                     ? EditSummary::Kind::Imported
                                     : EditSummary::Kind::TakenOver,
                         .name = other.name};
-    for (const auto &[list, plan] : parts)
-        summary.stations += plan.changed.size();
+    for (const auto &[list, plan] : parts) {
+        summary.others += plan.toTheEnd.size();
+        summary.stations += plan.changed.size() - plan.toTheEnd.size();
+    }
     return summary;
-}
-
-void orderAsThere(std::vector<const ComparisonRow *> &rows)
-{
-    std::stable_sort(rows.begin(), rows.end(),
-                     [](const auto *a, const auto *b) { return a->placeThere < b->placeThere; });
-}
-
-bool isIn(const QString &name, const QString &searched)
-{
-    return name.contains(searched, Qt::CaseInsensitive) ||
-           cleanName(name).contains(searched, Qt::CaseInsensitive);
 }
 
 } // namespace
 
 StationComparison::StationComparison(ViewController &controller, ComparedWith other)
-    : m_controller(controller), m_other(std::move(other)), m_kinds(findings(m_other))
+    : m_controller(controller), m_other(std::move(other)), m_filter(findings(m_other)),
+      m_choice(m_other)
 {
-    for (const StationDifference aspect : aspects)
-        m_takes.setFlag(aspect);
     m_later.setSingleShot(true);
     connect(&m_later, &QTimer::timeout, this, &StationComparison::compareAnew);
-    const auto soon = [this] { m_later.start(0); };
+    const auto soon = [this] {
+        m_planForAll.reset();
+        m_later.start(0);
+    };
     connect(&controller, &ViewController::edited, this, soon);
     connect(&controller, &TableController::documentChanged, this, soon);
     connect(controller.stationDoc(), &QObject::destroyed, this, [this] {
@@ -71,43 +63,57 @@ void StationComparison::compareAnew()
     const TLLDocument *document = m_controller.stationDoc();
     if (!document)
         return;
-    emit rowsAboutToChange();
-    if (purpose() == Purpose::Order)
-        m_rows = orderRows(document->stations() ? *document->stations() : StationList(),
-                           document->usesTV(), document->curSource(), m_other.entries);
-    else
-        m_rows = comparisonRows(document->lists(), m_other);
-    m_lists.clear();
-    for (const ComparisonRow &row : m_rows) {
-        const List list{row.isTV, row.source};
-        if (std::find(m_lists.begin(), m_lists.end(), list) == m_lists.end())
-            m_lists.push_back(list);
+    try {
+        show(rowsNow(*document));
+    } catch (const std::bad_alloc &) {
+        m_controller.showError(qtTrId("kNoMemoryReason"),
+                               qtTrId("kCompareFailed").arg(m_other.name));
     }
-    filter();
-    emit rowsChanged();
 }
 
-bool StationComparison::isOnShow(const ComparisonRow &row) const
+ComparisonRows StationComparison::rowsNow(const TLLDocument &document) const
 {
-    return !m_list || *m_list == List{row.isTV, row.source};
+    if (purpose() == Purpose::Order)
+        return orderRows(document.stations() ? *document.stations() : StationList(),
+                         document.usesTV(), document.curSource(), m_other.entries);
+    return comparisonRows(document.lists(), m_other);
 }
 
-void StationComparison::filter()
+void StationComparison::show(ComparisonRows rows)
 {
+    std::vector<List> lists;
+    for (const ComparisonRow &row : rows) {
+        const List list{row.isTV, row.source};
+        if (std::find(lists.begin(), lists.end(), list) == lists.end())
+            lists.push_back(list);
+    }
+    narrow([&] {
+        m_rows = std::move(rows);
+        m_lists = std::move(lists);
+        if (list() && std::find(m_lists.begin(), m_lists.end(), *list()) == m_lists.end())
+            m_filter.setList({});
+        numberChecked();
+    });
+}
+
+template<typename Change>
+void StationComparison::narrow(Change change)
+{
+    emit rowsAboutToChange();
+    change();
+    m_planForAll.reset();
     m_shown.clear();
     for (std::size_t i = 0; i < m_rows.size(); ++i) {
-        const ComparisonRow &row = m_rows[i];
-        const bool isFound = m_searched.isEmpty() || isIn(row.nameHere, m_searched) ||
-                             isIn(row.nameThere, m_searched);
-        if (isFound && (row.kinds & m_kinds) && isOnShow(row))
+        if (m_filter.shows(m_rows[i]))
             m_shown.push_back(i);
     }
+    emit rowsChanged();
 }
 
 std::size_t StationComparison::count(ComparisonKind kind) const
 {
     const auto is = [this, kind](const ComparisonRow &row) {
-        return row.kinds.testFlag(kind) && isOnShow(row);
+        return row.kinds.testFlag(kind) && m_filter.isOfList(row);
     };
     return static_cast<std::size_t>(std::count_if(m_rows.begin(), m_rows.end(), is));
 }
@@ -119,60 +125,68 @@ bool StationComparison::isEmpty() const
         [kinds = findings(m_other)](const ComparisonRow &row) { return bool(row.kinds & kinds); });
 }
 
+/// Without what is in the list of another source there.
+bool StationComparison::isSameOrder() const
+{
+    std::optional<List> list;
+    std::size_t next = 0; // of the other list
+    return std::all_of(m_rows.begin(), m_rows.end(), [&](const ComparisonRow &row) {
+        if (!row.here || !row.there || row.isElsewhere)
+            return true;
+        const List own{row.isTV, row.source};
+        const bool isInOrder = list != own || row.placeThere >= next;
+        list = own;
+        next = row.placeThere;
+        return isInOrder;
+    });
+}
+
 void StationComparison::showKinds(ComparisonKinds kinds)
 {
-    emit rowsAboutToChange();
-    m_kinds = kinds;
-    filter();
-    emit rowsChanged();
+    narrow([this, kinds] { m_filter.setKinds(kinds); });
 }
 
 void StationComparison::search(const QString &text)
 {
-    emit rowsAboutToChange();
-    m_searched = text;
-    filter();
-    emit rowsChanged();
+    narrow([this, &text] { m_filter.setSearched(text); });
 }
 
 void StationComparison::showList(const std::optional<List> &list)
 {
-    emit rowsAboutToChange();
-    m_list = list;
-    filter();
-    emit rowsChanged();
-}
-
-/// What is moved needs no difference, only a place among the others.
-bool StationComparison::canBeChecked(const ComparisonRow &row) const
-{
-    if (!offersChecks() || !row.here || !row.there)
-        return false;
-    return purpose() == Purpose::Paste || m_other.rule == NumberRule::ByRows || takeable(row);
-}
-
-bool StationComparison::isChecked(const ComparisonRow &row) const
-{
-    return canBeChecked(row) && m_chosen.value(row.there.get(), isTakenUnasked(row));
+    narrow([this, &list] { m_filter.setList(list); });
 }
 
 bool StationComparison::canBeChecked(std::size_t row) const
 {
-    return canBeChecked(this->row(row));
+    return m_choice.canBeChecked(this->row(row));
 }
 
 bool StationComparison::isChecked(std::size_t row) const
 {
-    return isChecked(this->row(row));
+    return m_choice.isChecked(this->row(row));
 }
 
 void StationComparison::check(const std::vector<std::size_t> &rows, bool isChecked)
 {
-    for (const std::size_t each : rows) {
-        if (canBeChecked(each))
-            m_chosen.insert(row(each).there.get(), isChecked);
-    }
+    for (const std::size_t each : rows)
+        m_choice.check(row(each), isChecked);
+    choose();
+}
+
+void StationComparison::choose()
+{
+    numberChecked();
+    m_planForAll.reset();
     emit choiceChanged();
+}
+
+/// Where rows tell an order, the numbers follow from which of them are checked.
+void StationComparison::numberChecked()
+{
+    const TLLDocument *document = m_controller.stationDoc();
+    if (m_other.rule == NumberRule::ByRows && document)
+        numberByRows(m_rows, document->lists(),
+                     [this](const ComparisonRow &row) { return m_choice.isChecked(row); });
 }
 
 void StationComparison::toggle(const std::vector<std::size_t> &rows)
@@ -185,15 +199,15 @@ void StationComparison::toggle(const std::vector<std::size_t> &rows)
 
 void StationComparison::take(StationDifference aspect, bool isTaken)
 {
-    m_takes.setFlag(aspect, isTaken);
-    emit choiceChanged();
+    m_choice.take(aspect, isTaken);
+    choose();
 }
 
 QString StationComparison::reasonAgainst(StationDifference aspect) const
 {
     bool differs = false;
     for (const ComparisonRow &row : m_rows) {
-        if (!row.here || !row.there || !isOnShow(row))
+        if (!row.here || !row.there || !m_filter.isOfList(row))
             continue;
         if (takeable(row).testFlag(aspect))
             return {};
@@ -204,35 +218,32 @@ QString StationComparison::reasonAgainst(StationDifference aspect) const
     return qtTrId("kCompareNoSuchDifference");
 }
 
-std::size_t StationComparison::uncheckedLoose() const
+std::size_t StationComparison::uncheckedUnsure() const
 {
     const auto is = [this](const ComparisonRow &row) {
-        return isOnShow(row) && row.likeness == Likeness::Loose && canBeChecked(row) &&
-               !isChecked(row);
+        return m_filter.isOfList(row) && !isTakenUnasked(row) && m_choice.canBeChecked(row) &&
+               !m_choice.isChecked(row);
     };
     return static_cast<std::size_t>(std::count_if(m_rows.begin(), m_rows.end(), is));
 }
 
 std::size_t StationComparison::doubledNumbers() const
 {
-    QSet<QString> numbers;
-    std::size_t stations = 0;
-    for (const ComparisonRow &row : m_rows) {
-        if (row.here) {
-            ++stations;
-            numbers.insert(row.numberThere);
-        }
-    }
-    return stations - static_cast<std::size_t>(numbers.size());
+    return m_choice.doubledNumbers(m_rows, m_filter);
 }
 
-/// A station that is the same on both sides takes its own number again, so that no other does.
-StationComparison::Parts StationComparison::planForAll() const
+const StationComparison::Parts &StationComparison::planForAll() const
+{
+    if (!m_planForAll)
+        m_planForAll = planAll();
+    return *m_planForAll;
+}
+
+StationComparison::Parts StationComparison::planAll() const
 {
     std::vector<const ComparisonRow *> rows;
     for (const ComparisonRow &row : m_rows) {
-        const bool isSame = row.here && row.there && isTakenUnasked(row) && !canBeChecked(row);
-        if (isOnShow(row) && (isSame || isChecked(row)))
+        if (m_filter.isOfList(row) && m_choice.isChecked(row))
             rows.push_back(&row);
     }
     return plan(std::move(rows));
@@ -251,33 +262,12 @@ StationComparison::Parts StationComparison::planFor(const std::vector<std::size_
 StationComparison::Parts StationComparison::plan(std::vector<const ComparisonRow *> rows) const
 {
     const TLLDocument *document = m_controller.stationDoc();
-    if (!document)
-        return {};
-    orderAsThere(rows);
-    Parts parts;
-    for (const auto &[isTV, source] : m_lists) {
-        std::vector<TakenStation> taken;
-        for (const ComparisonRow *row : rows) {
-            if (row->isTV != isTV || row->source != source)
-                continue;
-            StationDifferences what = m_takes;
-            if (row->there && m_other.told.contains(row->there.get()))
-                what &= m_other.told.value(row->there.get());
-            taken.push_back({row->here, row->there, what});
-        }
-        const StationListPtr &list = document->lists().list(isTV, source);
-        if (taken.empty() || !list)
-            continue;
-        TakeOverPlan plan = planTakeOver(*list, taken, m_other.rule, mayRename(source));
-        if (!plan.isEmpty())
-            parts.push_back({list, std::move(plan)});
-    }
-    return parts;
+    return document ? m_choice.plan(document->lists(), m_rows, std::move(rows)) : Parts();
 }
 
 void StationComparison::takeOverAll()
 {
-    carryOut([this] { return planForAll(); });
+    carryOut([this] { return planAll(); });
 }
 
 void StationComparison::takeOver(const std::vector<std::size_t> &rows)
@@ -289,7 +279,7 @@ void StationComparison::takeOver(const std::vector<std::size_t> &rows)
     carryOut([this, taken] {
         std::vector<const ComparisonRow *> checked;
         for (const ComparisonRow &row : m_rows) {
-            if (isChecked(row) && taken.contains(row.there.get()))
+            if (m_choice.isChecked(row) && taken.contains(row.there.get()))
                 checked.push_back(&row);
         }
         return this->plan(std::move(checked));
@@ -298,15 +288,17 @@ void StationComparison::takeOver(const std::vector<std::size_t> &rows)
 
 void StationComparison::carryOut(const std::function<Parts()> &plan)
 {
-    m_controller.takeOver([plan, self = shared_from_this()] { return plan(); },
-                          summaryOf(m_other, plan()));
+    const EditSummary summary = summaryOf(m_other, plan());
+    const auto self = shared_from_this();
+    m_controller.comparing().takeOver([plan, self] { return plan(); }, summary,
+                                      [self, summary] { emit self->takenOver(textOf(summary)); });
 }
 
 StationList StationComparison::checkedStations() const
 {
     std::vector<const ComparisonRow *> checked;
     for (const ComparisonRow &row : m_rows) {
-        if (isChecked(row))
+        if (m_choice.isChecked(row))
             checked.push_back(&row);
     }
     orderAsThere(checked);
@@ -316,9 +308,22 @@ StationList StationComparison::checkedStations() const
     return stations;
 }
 
+bool StationComparison::isStillSo()
+{
+    const TLLDocument *document = m_controller.stationDoc();
+    if (!document)
+        return false;
+    ComparisonRows rows = rowsNow(*document);
+    if (rows != m_rows) {
+        show(std::move(rows));
+        return false;
+    }
+    return true;
+}
+
 void StationComparison::applyOrder()
 {
-    m_controller.applyOrder(m_other.entries, m_other.name);
+    m_controller.ordering().apply(m_other.entries, m_other.name);
 }
 
 bool StationComparison::reveal(const std::vector<std::size_t> &rows)
@@ -338,6 +343,8 @@ bool StationComparison::reveal(const std::vector<std::size_t> &rows)
     if (shown != document->stations() || m_controller.shown().areForeign())
         m_controller.showList(shown);
     m_controller.reveal(stations);
+    if (purpose() == Purpose::Order)
+        m_later.start(0); // their names are read then
     return true;
 }
 

@@ -1,19 +1,17 @@
 #pragma once
 
-#include "editor/ComparisonRows.h"
-#include "editor/ListEditor.h"
+#include "editor/TakeOverChoice.h"
 
-#include <QHash>
 #include <QObject>
 #include <QTimer>
 
-#include <array>
 #include <functional>
 #include <memory>
 #include <optional>
 
 namespace quillet {
 
+class TLLDocument;
 class ViewController;
 
 /// A document's lists beside another list, as long as somebody looks: the rows, which of them are
@@ -39,24 +37,18 @@ public:
     [[nodiscard]] const ComparisonRow &row(std::size_t row) const { return m_rows[m_shown[row]]; }
     /// Of the list chosen, whatever is searched for.
     [[nodiscard]] std::size_t count(ComparisonKind kind) const;
-    /// Whether nothing differs, in any list.
+    /// Whether nothing differs, in any list, but perhaps the order.
     [[nodiscard]] bool isEmpty() const;
-    [[nodiscard]] ComparisonKinds kinds() const { return m_kinds; }
+    /// Whether the stations on both sides stand in one order, in every list.
+    [[nodiscard]] bool isSameOrder() const;
+    [[nodiscard]] ComparisonKinds kinds() const { return m_filter.kinds(); }
     void showKinds(ComparisonKinds kinds);
-    /// Looks for it in the names of both sides; empty: shows all.
     void search(const QString &text);
 
-    /// One of the eight lists.
-    struct List
-    {
-        bool isTV = true;
-        int source = 0;
-        bool operator==(const List &) const = default;
-    };
+    using List = ComparedList;
     /// Those that have rows.
     [[nodiscard]] const std::vector<List> &lists() const { return m_lists; }
-    [[nodiscard]] const std::optional<List> &list() const { return m_list; }
-    /// None: all of them.
+    [[nodiscard]] const std::optional<List> &list() const { return m_filter.list(); }
     void showList(const std::optional<List> &list);
 
     // What is to be taken over
@@ -69,21 +61,19 @@ public:
     /// Checks them all unless they are; then none.
     void toggle(const std::vector<std::size_t> &rows);
 
-    static constexpr std::array aspects{StationDifference::Number, StationDifference::Name,
-                                        StationDifference::Skipped, StationDifference::Locked};
-    [[nodiscard]] bool takes(StationDifference aspect) const { return m_takes.testFlag(aspect); }
+    [[nodiscard]] const TakeOverChoice &choice() const { return m_choice; }
     void take(StationDifference aspect, bool isTaken);
     /// Why nothing of that kind can be taken over; empty when something can.
     [[nodiscard]] QString reasonAgainst(StationDifference aspect) const;
 
-    /// Rows of the list chosen that are unchecked because they are alike by name only.
-    [[nodiscard]] std::size_t uncheckedLoose() const;
-    /// How many stations would get a number that one before them has, by a reference list.
+    /// Rows of the list chosen that are unchecked because they are not sure, or of another list.
+    [[nodiscard]] std::size_t uncheckedUnsure() const;
+    /// How many of the numbers that stations take are told of several stations of a list.
     [[nodiscard]] std::size_t doubledNumbers() const;
 
-    using Parts = std::vector<ListEditor::TakeOverPart>;
+    using Parts = TakeOverChoice::Parts;
     /// What taking over all checked rows of the list chosen would do.
-    [[nodiscard]] Parts planForAll() const;
+    [[nodiscard]] const Parts &planForAll() const;
     /// The same of those checked ones among these rows.
     [[nodiscard]] Parts planFor(const std::vector<std::size_t> &rows) const;
     void takeOverAll();
@@ -91,6 +81,9 @@ public:
 
     /// The checked stations, in the order of the other list.
     [[nodiscard]] StationList checkedStations() const;
+    /// Whether the rows are what comparing would find now; names that were read since may make a
+    /// difference for a reference list. If not, they are shown anew.
+    bool isStillSo();
     /// Applies the reference list that the rows show.
     void applyOrder();
 
@@ -103,14 +96,20 @@ signals:
     void rowsChanged();
     /// What is checked or taken over has.
     void choiceChanged();
+    /// In a sentence.
+    void takenOver(const QString &text);
     void documentGone();
 
 private:
     void compareAnew();
-    void filter();
-    [[nodiscard]] bool isOnShow(const ComparisonRow &row) const;
-    [[nodiscard]] bool canBeChecked(const ComparisonRow &row) const;
-    [[nodiscard]] bool isChecked(const ComparisonRow &row) const;
+    [[nodiscard]] ComparisonRows rowsNow(const TLLDocument &document) const;
+    void show(ComparisonRows rows);
+    /// Changes what is on show.
+    template<typename Change>
+    void narrow(Change change);
+    void choose();
+    void numberChecked();
+    [[nodiscard]] Parts planAll() const;
     [[nodiscard]] Parts plan(std::vector<const ComparisonRow *> rows) const;
     void carryOut(const std::function<Parts()> &plan);
 
@@ -119,11 +118,9 @@ private:
     ComparisonRows m_rows;
     std::vector<std::size_t> m_shown; ///< of those, which are on show
     std::vector<List> m_lists;
-    std::optional<List> m_list;
-    ComparisonKinds m_kinds;
-    QString m_searched;
-    StationDifferences m_takes;
-    QHash<const LGStation *, bool> m_chosen; ///< checks that a person has set, by the other side
+    RowFilter m_filter;
+    TakeOverChoice m_choice;
+    mutable std::optional<Parts> m_planForAll; ///< none when it is to be made anew
     QTimer m_later;
 };
 

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QLabel>
+#include "editor/SpokenLabel.h"
+
 #include <QTimer>
 
 namespace quillet {
@@ -8,7 +9,7 @@ namespace quillet {
 /// The quiet line at the bottom of a window that says what has just happened. It keeps its place
 /// while it is empty, so that nothing moves when it speaks, and goes silent by itself. Screen
 /// readers are told.
-class ToldLine : public QLabel
+class ToldLine : public SpokenLabel
 {
     Q_OBJECT
 

@@ -1,15 +1,11 @@
 #include "editor/ViewController.h"
 
-#include "document/ReferenceListFile.h"
 #include "editor/EditorQuestions.h"
-#include "editor/ListImport.h"
 #include "editor/NoticeTexts.h"
 #include "editor/SourceTitles.h"
 #include "editor/StationColumns.h"
-#include "files/FileNames.h"
 #include "support/LenientNumber.h"
 
-#include <QFileInfo>
 #include <QSet>
 #include <QTimer>
 
@@ -20,7 +16,8 @@
 namespace quillet {
 
 ViewController::ViewController(EditorOutlets &outlets, QObject *parent)
-    : TableController(outlets, parent), m_arranging(shown(), outlets), m_comparing(*this, outlets),
+    : TableController(outlets, parent), m_arranging(shown(), outlets),
+      m_comparing(*this, outlets, m_editor), m_ordering(*this, outlets, m_editor),
       m_selecting(*this, outlets), m_undoing(*this, outlets), m_pasting(*this, outlets)
 {
     connect(this, &TableController::documentChanged, this, &ViewController::followDocument);
@@ -252,89 +249,6 @@ void ViewController::toggleSelected(StationFlag flag)
     updateButtons();
 }
 
-void ViewController::applyOrderClicked()
-{
-    if (!stationDoc())
-        return;
-    // In a later turn, when the panel has gone.
-    const auto later = [this](void (ViewController::*next)(const QString &)) {
-        return [this, next](const QString &path) {
-            QTimer::singleShot(0, this, [this, next, path] { (this->*next)(path); });
-        };
-    };
-    questions().askForReferenceList(later(&ViewController::applyOrderFileWait),
-                                    later(&ViewController::previewOrderFile));
-}
-
-void ViewController::applyOrderFileWait(const QString &path)
-{
-    applyOrderFile(path);
-}
-
-void ViewController::applyOrderFile(const QString &path)
-{
-    QString name;
-    if (const ReferenceList entries = readOrderFile(path, name); !entries.empty())
-        applyOrder(entries, name);
-}
-
-void ViewController::previewOrderFile(const QString &path)
-{
-    QString name;
-    if (ReferenceList entries = readOrderFile(path, name); !entries.empty())
-        emit comparisonWanted({.purpose = ComparedWith::Purpose::Order,
-                               .name = name,
-                               .lists = {},
-                               .entries = std::move(entries)});
-}
-
-/// Only a file of a type that holds no order is passed over in silence.
-ReferenceList ViewController::readOrderFile(const QString &path, QString &name)
-{
-    if (!stationDoc())
-        return {};
-    name = readable(QFileInfo(path).fileName());
-    QString reason;
-    ReferenceList entries = referenceListFromFile(path, isModeTV(), reason);
-    if (!reason.isEmpty() && entries.empty())
-        showError(reason, qtTrId("kOrderEmpty").arg(name));
-    return entries;
-}
-
-void ViewController::applyOrder(const ReferenceList &entries, const QString &fileName)
-{
-    if (!stationDoc())
-        return;
-    const auto apply = [this, entries, fileName](ListEditor::Beyond beyond) {
-        outlets().selectRows({});
-        m_editor.applyOrder(entries, fileName, beyond);
-        updateButtons();
-        saveSelection();
-    };
-    whenNumbersSuffice(m_editor.beyondAfterOrder(entries), apply);
-}
-
-void ViewController::importChangesClicked()
-{
-    if (!stationDoc())
-        return;
-    questions().askForTable([this](const QString &path) {
-        // In a later turn, when the panel has gone.
-        QTimer::singleShot(0, this, [this, path] { importChangesFile(path); });
-    });
-}
-
-void ViewController::importChangesFile(const QString &path)
-{
-    if (!stationDoc())
-        return;
-    QString reason;
-    if (const std::optional<ComparedWith> rows = importedFile(path, *stationDoc(), reason))
-        emit comparisonWanted(*rows);
-    else
-        showError(reason, qtTrId("kImportFailed").arg(readable(QFileInfo(path).fileName())));
-}
-
 bool ViewController::putBack(const ChannelList &version, const QString &name)
 {
     if (!stationDoc())
@@ -346,26 +260,6 @@ bool ViewController::putBack(const ChannelList &version, const QString &name)
         reveal(selected);
     updateButtons();
     return isBack;
-}
-
-void ViewController::takeOver(const std::function<std::vector<ListEditor::TakeOverPart>()> &plan,
-                              const EditSummary &summary)
-{
-    const std::vector<ListEditor::TakeOverPart> planned = plan();
-    std::size_t beyond = 0;
-    for (const auto &part : planned)
-        beyond += part.plan.beyond();
-    whenNumbersSuffice(beyond, [=, this](ListEditor::Beyond wanted) {
-        if (!stationDoc())
-            return;
-        const StationList selected = shown().ownStationsAt(outlets().selectedRows());
-        const StationListPtr list = stationDoc()->stations();
-        m_editor.takeOver(wanted == ListEditor::Beyond::Refused ? planned : plan(), summary,
-                          wanted);
-        if (list == stationDoc()->stations())
-            reveal(selected);
-        updateButtons();
-    });
 }
 
 StationPtr ViewController::stationForInfo() const

@@ -6,6 +6,7 @@
 #include "editor/ComparedWith.h"
 #include "editor/DroppedFiles.h"
 #include "editor/ListEditor.h"
+#include "editor/OrderCommands.h"
 #include "editor/PasteCommand.h"
 #include "editor/SelectCommands.h"
 #include "editor/TableController.h"
@@ -48,29 +49,13 @@ public:
     /// Toggles the first selected station, and gives the others the same state.
     void skipSelectedItems();
     void changeChildLockForSelectedItems();
-    /// Asks for a reference list and imposes its order on the current list.
-    void applyOrderClicked();
-    /// Imposes the order of another channel list (tll) or of a text file (txt); a file of any other
-    /// type, or that cannot be used, changes nothing.
-    void applyOrderFile(const QString &path);
-    /// The same, called when the panel that asked for the file has gone.
-    void applyOrderFileWait(const QString &path);
-    /// Has what that would do shown, by comparisonWanted().
-    void previewOrderFile(const QString &path);
-    /// Imposes the order of a reference list that was read from the file of that name.
-    void applyOrder(const ReferenceList &entries, const QString &fileName);
-    /// Asks for a table that was exported and edited elsewhere, and has that compared with the
-    /// document, by comparisonWanted().
-    void importChangesClicked();
-    /// The same of that table; one that cannot be used is told.
-    void importChangesFile(const QString &path);
     /// Makes all lists of the document what they are in an earlier version of it, if that has the
     /// same stations one to one. The name is that of the version. Returns whether it did.
     bool putBack(const ChannelList &version, const QString &name);
-    /// Carries out what is planned, as one step that the summary tells. What the list is at that
-    /// time is planned anew behind a question.
-    void takeOver(const std::function<std::vector<ListEditor::TakeOverPart>()> &plan,
-                  const EditSummary &summary);
+    /// Calls it at once, or after asking when stations would get numbers that they cannot carry.
+    /// What was refused is told by `refused`, which may be empty.
+    void whenNumbersSuffice(std::size_t beyond, const std::function<void(ListEditor::Beyond)> &goOn,
+                            const std::function<void()> &refused = {});
     /// The station of the first selected row; null when none is selected.
     [[nodiscard]] StationPtr stationForInfo() const;
     /// Whether the command with that name, one of the editor's own, is enabled.
@@ -85,8 +70,9 @@ public:
     [[nodiscard]] const ArrangeCommands &arranging() const { return m_arranging; }
     [[nodiscard]] SelectCommands &selecting() { return m_selecting; }
 
-    /// Comparing the document with other lists.
+    /// Comparing the document with other lists, and putting it into their order.
     [[nodiscard]] CompareCommands &comparing() { return m_comparing; }
+    [[nodiscard]] OrderCommands &ordering() { return m_ordering; }
 
     /// Going back and forth through the steps of the document.
     [[nodiscard]] UndoCommands &undoing() { return m_undoing; }
@@ -129,12 +115,6 @@ private:
     void moveStations(const StationList &stations, qint64 target);
     void carryOut(const MovePlan &plan, ListEditor::Beyond beyond);
     void carryOutArrangement(const ArrangeCommands::Plan &planned, ListEditor::Beyond beyond);
-    /// Calls it at once, or after asking when stations would get numbers that they cannot carry.
-    /// What was refused is told by `refused`, which may be empty.
-    void whenNumbersSuffice(std::size_t beyond, const std::function<void(ListEditor::Beyond)> &goOn,
-                            const std::function<void()> &refused = {});
-    /// Says why when there is none to apply.
-    [[nodiscard]] ReferenceList readOrderFile(const QString &path, QString &name);
     void closeGaps(ListEditor::Beyond beyond);
     /// Says why the stations in foreign rows stay as they are. Returns whether there are such.
     bool tellForeignRows();
@@ -147,6 +127,7 @@ private:
     ListEditor m_editor;
     ArrangeCommands m_arranging;
     CompareCommands m_comparing;
+    OrderCommands m_ordering;
     SelectCommands m_selecting;
     UndoCommands m_undoing;
     PasteCommand m_pasting;

@@ -294,7 +294,7 @@ private slots:
         Editor editor({identified(1, u"A"_s, 1)});
         QSignalSpy wanted(&editor.controller, &ViewController::comparisonWanted);
         editor.prompts.answerOpenPanelOther(path);
-        editor.controller.applyOrderClicked();
+        editor.controller.ordering().askForFile();
         QTRY_COMPARE(wanted.size(), 1);
         QCOMPARE(editor.rows(), u"1 A"_s);
         QVERIFY(editor.prompts.isSettled());

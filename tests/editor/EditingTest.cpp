@@ -170,7 +170,7 @@ private slots:
         const bool isOther = !fileName.contains(u'.') || fileName.endsWith(u"csv"_s);
         if (!isOther)                             // of which nothing is said
             editor.prompts.answerAlert(u"kOK"_s); // of the report, or of the reason
-        editor.controller.applyOrderFile(path);
+        editor.controller.ordering().applyFile(path);
         QCOMPARE(editor.prompts.lastText().startsWith(u"kOrderEmpty"_s), !isApplied && !isOther);
         QCOMPARE(editor.rows(), isApplied ? after : u"1 A, 2 B, 3 C"_s);
         QCOMPARE(editor.document.isDirty(), isApplied);

@@ -242,10 +242,10 @@ private slots:
         const QString good = folder.filePath(u"good.csv"_s), bad = folder.filePath(u"bad.csv"_s);
         writeFile(good, "progNum,progName\n2,A\n");
         writeFile(bad, "progNum,progName\n1,A\n2.5,B\n");
-        editor.controller.importChangesFile(bad);
+        editor.controller.comparing().compareWithTable(bad);
         QVERIFY(editor.prompts.lastText().contains(u"kFaultPlace kFaultBadNumber"_s));
         editor.prompts.answerOpenPanel({good});
-        editor.controller.importChangesClicked();
+        editor.controller.comparing().askForTable();
         QTRY_COMPARE(wanted.size(), std::size_t(1));
         QCOMPARE(wanted.front().name, u"good.csv"_s);
         QCOMPARE(editor.rows(), u"1 A, 2 B"_s);

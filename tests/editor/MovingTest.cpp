@@ -89,7 +89,7 @@ private slots:
             QTemporaryFile file(QDir::tempPath() + u"/XXXXXX.txt"_s);
             QVERIFY(file.open() && file.write("20000;S0;0-0-0\n5;a;0-0-0\n6;b;0-0-0\n") > 0);
             file.close();
-            editor.controller.applyOrderFile(file.fileName());
+            editor.controller.ordering().applyFile(file.fileName());
         }) << 3 << 7;
     }
     void numbersThatAreTooHighAreAskedAbout()

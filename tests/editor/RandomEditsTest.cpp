@@ -254,7 +254,7 @@ private:
                      QByteArray::number(m_random.bounded(40)) + "\n";
         QTemporaryFile file(QDir::tempPath() + u"/XXXXXX.txt"_s);
         QVERIFY(file.open() && file.write(lines) == lines.size() && file.flush());
-        editor.controller.applyOrderFile(file.fileName());
+        editor.controller.ordering().applyFile(file.fileName());
     }
 };
 

@@ -292,7 +292,7 @@ private slots:
         menuItem(*window, "showAbout").trigger();
         QCOMPARE(clippedInDialog(*window, "aboutWindow"), QString());
         const QString order = app.write("an order with a rather long name.tll", list);
-        part<EditorView>(*window, "EditorView").controller().applyOrderFile(order);
+        part<EditorView>(*window, "EditorView").controller().ordering().applyFile(order);
         QCOMPARE(clippedInDialog(*window, "alert"), QString());
         part<EditorView>(*window, "EditorView").controller().comparing().compareWithFile(order);
         QCOMPARE(clippedInDialog(*window, "compareDialog"), QString());

@@ -58,7 +58,8 @@ private slots:
         // An export is a whole list; as a text of numbers it cannot be used.
         part<EditorView>(*window, "EditorView")
             .controller()
-            .applyOrderFile(app.folder.filePath(u"b.txt"_s));
+            .ordering()
+            .applyFile(app.folder.filePath(u"b.txt"_s));
         QVERIFY2(app.preset.lastText().contains(u"whole channel list"_s),
                  qPrintable(app.preset.lastText()));
         QCOMPARE(announced.count(), 9);

@@ -70,12 +70,12 @@ std::vector<std::size_t> ComparisonTable::selected() const
 void ComparisonTable::focusRows()
 {
     setFocus();
-    if (!selectionModel()->hasSelection() && m_model.rowCount() > 0)
-        goToRow(0);
-    // To the name, which there always is.
-    if (const int row = currentIndex().row(); isColumnHidden(currentIndex().column()) || row < 0)
-        selectionModel()->setCurrentIndex(m_model.index(row, ComparisonModel::NameHere),
-                                          QItemSelectionModel::NoUpdate);
+    if (selectionModel()->hasSelection() || m_model.rowCount() == 0)
+        return;
+    goToRow(0);
+    // To the name: a mark need not be there, and says nothing of the station.
+    selectionModel()->setCurrentIndex(m_model.index(0, ComparisonModel::NameHere),
+                                      QItemSelectionModel::NoUpdate);
 }
 
 QString ComparisonTable::currentMark() const

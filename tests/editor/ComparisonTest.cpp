@@ -100,11 +100,13 @@ private slots:
         const Item flagged = with(identified(4, u"Flags"_s, 4), u"isSkipped"_s, u"1"_s);
         Editor editor({identified(1, u"Same"_s, 1), identified(2, u"Moved"_s, 2), flagged,
                        identified(5, u"Here"_s, 5), identified(6, u"Far HD"_s, 6),
-                       identified(8, u"Name"_s, 8), makeRadio(1, u"Radio"_s)});
+                       identified(8, u"Name"_s, 8), identified(10, u"Mute"_s, 10),
+                       makeRadio(1, u"Radio"_s)});
         const Compared compared(editor,
                                 {identified(1, u"Same"_s, 1), identified(3, u"Moved"_s, 2),
                                  identified(4, u"Flags"_s, 4), identified(7, u"farhd"_s, 60),
                                  identified(8, u"Other"_s, 8), identified(9, u"There"_s, 9),
+                                 with(identified(0, u"Mute"_s, 10), u"prNum"_s, u"x"_s),
                                  makeRadio(2, u"Radio"_s)});
         StationComparison &comparison = *compared.comparison;
         // A digital station cannot be renamed, so there is nothing to check.
@@ -114,7 +116,9 @@ private slots:
         QCOMPARE(compared.difference(1), u"kRowSkippedHere"_s);
         QVERIFY(compared.difference(3).startsWith(u"kRowLoose"_s));
         QCOMPARE(comparison.count(ComparisonKind::Moved), std::size_t{3});
-        QCOMPARE(comparison.count(ComparisonKind::Same), std::size_t{1});
+        QCOMPARE(comparison.count(ComparisonKind::Same), std::size_t{2});
+        QVERIFY(comparison.isSameOrder());
+        QVERIFY(editor.document.lists().list(false, 0)->front()->name().isEmpty());
         QVERIFY(!comparison.reasonAgainst(StationDifference::Name).isEmpty());
         QVERIFY(!comparison.reasonAgainst(StationDifference::Locked).isEmpty());
         QVERIFY(comparison.reasonAgainst(StationDifference::Number).isEmpty());
@@ -124,7 +128,7 @@ private slots:
         QCOMPARE(comparison.count(ComparisonKind::Moved), std::size_t{1});
         comparison.showList({});
         comparison.showKinds(ComparisonKind::Same);
-        QCOMPARE(compared.rows(), u" 1>1 Same"_s);
+        QCOMPARE(compared.rows(), u" 1>1 Same,  10> Mute"_s);
         comparison.showKinds({ComparisonKind::OnlyHere, ComparisonKind::OnlyThere});
         comparison.search(u"HER"_s);
         QCOMPARE(compared.rows(), u" 5> Here/,  >9 /There"_s);
@@ -144,6 +148,7 @@ private slots:
         QCOMPARE(compared.rows(), u"+1>2 A, +2>1 B, -3>4 C, -1>5 X"_s);
         comparison.takeOver({0, 2}); // of which one is checked; it takes the number of another
         QCOMPARE(editor.list(0), u"2 A, 3 C, 4 B"_s);
+        QVERIFY(editor.outlets.told.contains(u"kToldTakenOver, kToldOthersRenumbered"_s));
         QTRY_COMPARE(compared.rows(), u"-3>4 C, +4>1 B, -1>5 X"_s);
         editor.controller.undoing().undo();
         QCOMPARE(editor.list(0), before);
@@ -181,13 +186,63 @@ private slots:
 
     void followsAFileThatIsReadAnew()
     {
-        Editor editor({identified(1, u"A"_s, 1)});
+        Editor editor({identified(1, u"A"_s, 1), makeRadio(1, u"R"_s)});
         const Compared compared(editor, {identified(2, u"A"_s, 1)});
+        compared.comparison->showList(StationComparison::List{false, 0});
         editor.show(fileOf({identified(2, u"A"_s, 1), identified(3, u"N"_s, 3)}));
         QTRY_COMPARE(compared.rows(), u" 3> N/"_s);
         QVERIFY(!compared.comparison->reveal({}));
         QVERIFY(compared.comparison->reveal({0}));
         QCOMPARE(editor.outlets.rows, QList<qsizetype>{1});
+
+        // A check of what is not sure was meant for that very station.
+        const Compared unsure(editor, {identified(9, u"n"_s, 9)});
+        unsure.comparison->showKinds(ComparisonKind::Moved);
+        unsure.comparison->toggle({0});
+        QCOMPARE(unsure.rows(), u"+3>9 N/n"_s);
+        editor.show(fileOf({identified(4, u"N"_s, 4)}));
+        QTRY_COMPARE(unsure.rows(), u"-4>9 N/n"_s);
+        QCOMPARE(unsure.comparison->uncheckedUnsure(), std::size_t{1});
+    }
+
+    /// Also where several have one number, as channels that are kept as JSON may.
+    void earlierChannelsComeBack()
+    {
+        QRandomGenerator random(1);
+        for (int round = 0; round < 30; ++round) {
+            QByteArrayList channels;
+            for (int i = 1; i <= 12; ++i)
+                channels.append(makeChannel(
+                    "c" + QByteArray::number(i), QByteArray::number(1 + random.bounded(8)),
+                    {.more = ",\"ONID\":1,\"TSID\":10,\"SVCID\":" + QByteArray::number(i)}));
+            Editor editor({});
+            editor.show("<TLLDATA><CHANNEL><legacybroadcast>{\"channelList\":[" +
+                        channels.join(',') + "]}</legacybroadcast></CHANNEL></TLLDATA>");
+            const auto numbers = [&editor] {
+                QStringList rows = editor.list(0).split(u", "_s);
+                rows.sort();
+                return rows;
+            };
+            const QStringList before = numbers();
+            QCOMPARE(before.size(), 12);
+            std::optional<ComparedWith> read;
+            connect(&editor.controller, &ViewController::comparisonWanted, this,
+                    [&read](const ComparedWith &other) { read.emplace(other); });
+            editor.controller.comparing().compareWithRead();
+            const Compared compared(editor, *read);
+            QVERIFY(compared.comparison->isEmpty() && compared.comparison->isSameOrder());
+            QVERIFY(compared.comparison->planForAll().empty());
+            ReferenceList order;
+            for (int i = 0; i < 5; ++i)
+                order.push_back({QString::number(1 + random.bounded(9)),
+                                 u"c%1"_s.arg(1 + random.bounded(12)), u"x"_s});
+            editor.prompts.answerAlert(u"kOK"_s);
+            editor.controller.ordering().apply(order, {});
+            const bool isEdited = numbers() != before;
+            QTRY_COMPARE(compared.comparison->planForAll().empty(), !isEdited);
+            compared.comparison->takeOverAll();
+            QCOMPARE(numbers(), before);
+        }
     }
 
     /// Rows of another program may tell only what is to be changed, and their order.
@@ -206,6 +261,9 @@ private slots:
         const Compared compared(editor, rows);
         QCOMPARE(compared.rows(), u"+1>2 A/, +2>7 B/, +7>1 C/,  >2 "_s);
         QCOMPARE(compared.difference(3), u"kRowFitsNothing"_s);
+        compared.comparison->toggle({2});
+        QCOMPARE(compared.rows(), u"+1>1 A/, +2>2 B/, -7>1 C/,  >2 "_s);
+        compared.comparison->toggle({2});
         compared.comparison->takeOverAll();
         QCOMPARE(editor.rows(), u"1 C, 2 A, 7 B, 9 D"_s);
         QVERIFY(editor.outlets.told.contains(u"kToldImported"_s));
@@ -232,8 +290,11 @@ private slots:
             order.entries.push_back({QString::number(random.bounded(20)),
                                      QString(QChar(u'A' + random.bounded(8))),
                                      u"1-10-%1"_s.arg(random.bounded(20))});
+        for (int i = 0; i < 12; i += 1 + random.bounded(3)) // the others are found by none
+            (*editor.document.stations())[static_cast<std::size_t>(i)]->stationName();
         const Compared compared(editor, order);
         StationComparison &comparison = *compared.comparison;
+        QVERIFY(comparison.isStillSo());
         comparison.showKinds(
             {ComparisonKind::Moved, ComparisonKind::Same, ComparisonKind::OnlyHere});
         QCOMPARE(comparison.rowCount(), std::size_t{12});
@@ -253,12 +314,12 @@ private slots:
     void listsToCompareWithAreFound()
     {
         const QTemporaryDir folder;
-        Editor editor({identified(1, u"A"_s, 1), makeStation(1, u"X"_s, FileSource::Analogue)});
+        Editor editor({identified(1, u"A"_s, 1), with(makeStation(1, u"X"_s, FileSource::Analogue),
+                                                      u"frequency"_s, u"100"_s)});
         std::vector<ComparedWith> wanted;
         connect(&editor.controller, &ViewController::comparisonWanted, this,
                 [&wanted](const ComparedWith &other) { wanted.push_back(other); });
         CompareCommands &commands = editor.controller.comparing();
-        QVERIFY(!commands.reasonAgainstRead().isEmpty());
         for (const QByteArray &bytes :
              {QByteArray(), QByteArray("<TLLDATA/>"), fileOf({identified(2, u"A"_s, 1)})}) {
             const QString path = folder.filePath(u"%1.tll"_s.arg(bytes.size()));
@@ -297,7 +358,21 @@ private slots:
         editor.controller.ordering().askForFile();
         QTRY_COMPARE(wanted.size(), 1);
         QCOMPARE(editor.rows(), u"1 A"_s);
+        editor.prompts.answerAlert(u"kOK"_s);
+        editor.controller.ordering().previewFile(folder.filePath(u"order.csv"_s));
+        QVERIFY(editor.prompts.lastText().contains(u"kOrderWrongType"_s));
+        QCOMPARE(wanted.size(), 1);
         QVERIFY(editor.prompts.isSettled());
+
+        // What is read of the names meanwhile is seen before anything is applied.
+        const Compared order(editor, {.purpose = Purpose::Order,
+                                      .name = {},
+                                      .lists = {},
+                                      .entries = {{u"5"_s, u"A"_s, u"x"_s}}});
+        QVERIFY(order.comparison->isStillSo());
+        editor.document.stations()->front()->setName(u"B"_s);
+        QVERIFY(!order.comparison->isStillSo());
+        QCOMPARE(order.rows(), u" 1>1 B/,  >5 /A"_s);
     }
 };
 

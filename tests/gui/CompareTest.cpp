@@ -29,7 +29,7 @@ private slots:
         QMainWindow *window = app.open("a.tll", listOf(4));
         QVERIFY(window);
         auto &menu = part<QMenu>(*window, "compareMenu");
-        QVERIFY(!menuItem(*window, "compareWithRead").isEnabled());
+        QVERIFY(menuItem(*window, "compareWithRead").isEnabled());
         emit menu.aboutToShow();
         menu.actions().constLast()->trigger();
         QDialog *dialog = shown(*window);
@@ -38,10 +38,14 @@ private slots:
         const auto &takeSelected = part<QPushButton>(*dialog, "takeOverSelected");
         QCOMPARE(table.model()->rowCount(), 1);
         QCOMPARE(dialog->focusWidget(), &table);
-        QVERIFY(takeSelected.isEnabled());
+        QTRY_VERIFY(takeSelected.isEnabled());
+        QCOMPARE(table.currentIndex(), table.model()->index(0, 4)); // where something can be read
+        const auto &preview = part<QLabel>(*dialog, "comparePreview");
+        QCOMPARE(preview.text().count(u'\n'), 1); // of the one selected as well
         QTest::keyClick(&table, Qt::Key_Space);
+        QVERIFY(preview.accessibleName().contains(qtTrId("kMarkNotSet").section(u' ', -1)));
         QVERIFY(!takeSelected.isEnabled() && !takeSelected.toolTip().isEmpty());
-        QCOMPARE(part<QLabel>(*dialog, "comparePreview").text(), qtTrId("kPreviewNothing"));
+        QCOMPARE(preview.text(), qtTrId("kPreviewNothing"));
         QTest::keyClick(&table, Qt::Key_Return);
         QCOMPARE(tableOf(*window).currentIndex().row(), 1);
 
@@ -65,6 +69,7 @@ private slots:
         QCOMPARE(cell(*window, 3, 0), u"9"_s);
         QTRY_VERIFY(!part<QPushButton>(*dialog, "takeOverAll").isEnabled());
         QCOMPARE(table.selectionModel()->selectedRows().size(), 4);
+        QVERIFY(table.currentIndex().isValid() && table.currentIndex().column() == 4);
         QTest::keyClick(dialog, Qt::Key_Z, Qt::ControlModifier);
         QCOMPARE(cell(*window, 3, 0), u"4"_s);
         QVERIFY(!window->isWindowModified());

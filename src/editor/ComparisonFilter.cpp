@@ -82,7 +82,7 @@ QLayout *ComparisonFilter::makeKinds()
             continue;
         auto *box = new QCheckBox;
         box->setObjectName(QStringLiteral("compareKind%1").arg(static_cast<int>(kind)));
-        box->setChecked(m_comparison.kinds().testFlag(kind));
+        box->setChecked(m_comparison.filter().kinds().testFlag(kind));
         connect(box, &QCheckBox::toggled, this, &ComparisonFilter::showKinds);
         const auto place = static_cast<int>(m_kinds.size());
         grid->addWidget(box, place / kindsInLine, place % kindsInLine);
@@ -98,7 +98,7 @@ void ComparisonFilter::showState()
     int current = 0;
     for (const StationComparison::List &list : m_comparison.lists()) {
         m_lists->addItem(titleOf(list));
-        if (m_comparison.list() == list)
+        if (m_comparison.filter().list() == list)
             current = m_lists->count() - 1;
     }
     m_lists->setCurrentIndex(current);

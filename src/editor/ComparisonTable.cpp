@@ -23,7 +23,7 @@ ComparisonTable::ComparisonTable(StationComparison &comparison, QWidget *parent)
     setEditTriggers(NoEditTriggers);
     setItemDelegate(new TypedTextDelegate(this));
     setItemDelegateForColumn(ComparisonModel::Check, new CheckMarkDelegate(this));
-    setColumnHidden(ComparisonModel::Check, !comparison.offersChecks());
+    setColumnHidden(ComparisonModel::Check, comparison.purpose() == ComparedWith::Purpose::Order);
     sizeColumns();
     connect(this, &DarkModeTableView::returnPressed, this, &ComparisonTable::reveal);
     connect(this, &QTableView::doubleClicked, this, [this](const QModelIndex &index) {
@@ -142,7 +142,7 @@ void ComparisonTable::restoreSelection()
                        : isOrdered             ? qtTrId("kCompareEmpty")
                                                : qtTrId("kDiffOrder") + u'.');
     setColumnHidden(ComparisonModel::List,
-                    m_comparison.lists().size() < 2 || m_comparison.list().has_value());
+                    m_comparison.lists().size() < 2 || m_comparison.filter().list().has_value());
 }
 
 /// If its station has gone, then the row that stands there now.

@@ -90,14 +90,14 @@ void StationComparison::show(ComparisonRows rows)
     narrow([&] {
         m_rows = std::move(rows);
         m_lists = std::move(lists);
-        if (list() && std::find(m_lists.begin(), m_lists.end(), *list()) == m_lists.end())
+        const auto &list = m_filter.list();
+        if (list && std::find(m_lists.begin(), m_lists.end(), *list) == m_lists.end())
             m_filter.setList({});
         numberChecked();
     });
 }
 
-template<typename Change>
-void StationComparison::narrow(Change change)
+void StationComparison::narrow(const std::function<void()> &change)
 {
     emit rowsAboutToChange();
     change();
@@ -314,11 +314,10 @@ bool StationComparison::isStillSo()
     if (!document)
         return false;
     ComparisonRows rows = rowsNow(*document);
-    if (rows != m_rows) {
-        show(std::move(rows));
-        return false;
-    }
-    return true;
+    if (rows == m_rows)
+        return true;
+    show(std::move(rows));
+    return false;
 }
 
 void StationComparison::applyOrder()

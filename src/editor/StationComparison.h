@@ -41,26 +41,21 @@ public:
     [[nodiscard]] bool isEmpty() const;
     /// Whether the stations on both sides stand in one order, in every list.
     [[nodiscard]] bool isSameOrder() const;
-    [[nodiscard]] ComparisonKinds kinds() const { return m_filter.kinds(); }
+    [[nodiscard]] const RowFilter &filter() const { return m_filter; }
     void showKinds(ComparisonKinds kinds);
     void search(const QString &text);
-
     using List = ComparedList;
     /// Those that have rows.
     [[nodiscard]] const std::vector<List> &lists() const { return m_lists; }
-    [[nodiscard]] const std::optional<List> &list() const { return m_filter.list(); }
     void showList(const std::optional<List> &list);
 
     // What is to be taken over
 
-    /// Whether there is anything to check.
-    [[nodiscard]] bool offersChecks() const { return purpose() != Purpose::Order; }
     [[nodiscard]] bool canBeChecked(std::size_t row) const;
     [[nodiscard]] bool isChecked(std::size_t row) const;
     void check(const std::vector<std::size_t> &rows, bool isChecked);
     /// Checks them all unless they are; then none.
     void toggle(const std::vector<std::size_t> &rows);
-
     [[nodiscard]] const TakeOverChoice &choice() const { return m_choice; }
     void take(StationDifference aspect, bool isTaken);
     /// Why nothing of that kind can be taken over; empty when something can.
@@ -70,7 +65,6 @@ public:
     [[nodiscard]] std::size_t uncheckedUnsure() const;
     /// How many of the numbers that stations take are told of several stations of a list.
     [[nodiscard]] std::size_t doubledNumbers() const;
-
     using Parts = TakeOverChoice::Parts;
     /// What taking over all checked rows of the list chosen would do.
     [[nodiscard]] const Parts &planForAll() const;
@@ -78,7 +72,6 @@ public:
     [[nodiscard]] Parts planFor(const std::vector<std::size_t> &rows) const;
     void takeOverAll();
     void takeOver(const std::vector<std::size_t> &rows);
-
     /// The checked stations, in the order of the other list.
     [[nodiscard]] StationList checkedStations() const;
     /// Whether the rows are what comparing would find now; names that were read since may make a
@@ -86,7 +79,6 @@ public:
     bool isStillSo();
     /// Applies the reference list that the rows show.
     void applyOrder();
-
     /// Selects the stations of those rows that are in the same list as that of the first in the
     /// editor. Returns whether there is any.
     bool reveal(const std::vector<std::size_t> &rows);
@@ -105,8 +97,7 @@ private:
     [[nodiscard]] ComparisonRows rowsNow(const TLLDocument &document) const;
     void show(ComparisonRows rows);
     /// Changes what is on show.
-    template<typename Change>
-    void narrow(Change change);
+    void narrow(const std::function<void()> &change);
     void choose();
     void numberChecked();
     [[nodiscard]] Parts planAll() const;

@@ -173,8 +173,11 @@ private slots:
     void otherStationsAreRefused()
     {
         Editor editor(lettered({1, 2}));
+        Item likeB = makeStation(2, u"b"_s); // by its name alone
+        likeB.push_back({u"service_id"_s, u"7"_s});
         for (const QByteArray &bytes :
              {fileOf(lettered({4, 5, 6})), fileOf(lettered({7})),
+              fileOf({makeStation(1, u"A"_s), likeB}),
               QByteArray("<TLLDATA><CHANNEL><legacybroadcast>{\"channelList\":[]}"
                          "</legacybroadcast></CHANNEL></TLLDATA>")}) {
             const auto version = channelListFromBytes(bytes);

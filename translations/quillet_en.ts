@@ -1174,7 +1174,7 @@
     </message>
     <message id="kMenuMoveUp">
         <source></source>
-        <translation>Move U&amp;p</translation>
+        <translation>Mo&amp;ve Up</translation>
     </message>
     <message id="kMenuNew">
         <source></source>
@@ -1190,7 +1190,7 @@
     </message>
     <message id="kMenuPaste">
         <source></source>
-        <translation>Paste</translation>
+        <translation>&amp;Paste</translation>
     </message>
     <message id="kMenuPrint">
         <source></source>

@@ -1038,7 +1038,7 @@
     </message>
     <message id="kMenuApplyOrder">
         <source></source>
-        <translation>Appliquer un &amp;ordre…</translation>
+        <translation>Appli&amp;quer un ordre…</translation>
     </message>
     <message id="kMenuArrange">
         <source></source>
@@ -1190,7 +1190,7 @@
     </message>
     <message id="kMenuPaste">
         <source></source>
-        <translation>Coller</translation>
+        <translation>C&amp;oller</translation>
     </message>
     <message id="kMenuPrint">
         <source></source>

@@ -1190,7 +1190,7 @@
     </message>
     <message id="kMenuPaste">
         <source></source>
-        <translation>Incolla</translation>
+        <translation>Incolla &amp;qui</translation>
     </message>
     <message id="kMenuPrint">
         <source></source>

@@ -1038,7 +1038,7 @@
     </message>
     <message id="kMenuApplyOrder">
         <source></source>
-        <translation>Volgorde toe&amp;passen…</translation>
+        <translation>Volgor&amp;de toepassen…</translation>
     </message>
     <message id="kMenuArrange">
         <source></source>
@@ -1190,7 +1190,7 @@
     </message>
     <message id="kMenuPaste">
         <source></source>
-        <translation>Plakken</translation>
+        <translation>&amp;Plakken</translation>
     </message>
     <message id="kMenuPrint">
         <source></source>

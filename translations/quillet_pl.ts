@@ -1065,7 +1065,7 @@
     </message>
     <message id="kMenuApplyOrder">
         <source></source>
-        <translation>Zastosuj &amp;kolejność…</translation>
+        <translation>Za&amp;stosuj kolejność…</translation>
     </message>
     <message id="kMenuArrange">
         <source></source>
@@ -1217,7 +1217,7 @@
     </message>
     <message id="kMenuPaste">
         <source></source>
-        <translation>Wklej</translation>
+        <translation>W&amp;klej</translation>
     </message>
     <message id="kMenuPrint">
         <source></source>

@@ -82,7 +82,9 @@ void requireRows(StationRows rows)
                     "a key is read as it was written");
     }
     const StationList list = rows.stations;
-    require(completeRows(rows, list) <= count && rows.stations.size() == count,
+    const RowMatches matches = completeRows(rows, list, true);
+    require(matches.certain + matches.unclear == static_cast<std::size_t>(matches.pairs.size()) &&
+                rows.stations.size() == count,
             "no row is lost among its stations");
 }
 

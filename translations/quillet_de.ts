@@ -257,10 +257,6 @@
         <source></source>
         <translation>Verborgen</translation>
     </message>
-    <message id="kColumnKey">
-        <source></source>
-        <translation>Senderschlüssel</translation>
-    </message>
     <message id="kColumnName">
         <source></source>
         <translation>Name</translation>
@@ -638,6 +634,13 @@
         <source></source>
         <translation>Referenzliste für „Reihenfolge übernehmen“ (Text)</translation>
     </message>
+    <message id="kExportRenamed" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n umbenannter Sender hat keine vollständigen Kennungen: Er wird erst wiedererkannt, wenn die Liste gesichert und neu geöffnet ist.</numerusform>
+            <numerusform>%n umbenannte Sender haben keine vollständigen Kennungen: Sie werden erst wiedererkannt, wenn die Liste gesichert und neu geöffnet ist.</numerusform>
+        </translation>
+    </message>
     <message id="kExportSeparator">
         <source></source>
         <translation>&amp;Trennzeichen:</translation>
@@ -673,13 +676,17 @@
         <source></source>
         <translation>„%1“ ist keine Nummer von 1 bis 16383.</translation>
     </message>
+    <message id="kFaultCellPlace">
+        <source></source>
+        <translation>Zeile %1, Spalte %2 „%3“:</translation>
+    </message>
     <message id="kFaultDoubledColumn">
         <source></source>
         <translation>Die Spalte „%1“ gibt es zweimal.</translation>
     </message>
     <message id="kFaultNoColumns">
         <source></source>
-        <translation>Die erste Zeile muss die Titel der Spalten nennen, darunter „Name“, „Dienst“ oder „Senderschlüssel“, wie sie exportiert wurden.</translation>
+        <translation>Die erste Zeile muss die Titel der Spalten nennen, darunter „Name“, „Dienst“ oder „stationKey“, wie sie exportiert wurden.</translation>
     </message>
     <message id="kFaultNoRows">
         <source></source>
@@ -687,7 +694,7 @@
     </message>
     <message id="kFaultPlace">
         <source></source>
-        <translation>Zeile %1, Spalte %2:</translation>
+        <translation>Zeile %1, Zeichen %2:</translation>
     </message>
     <message id="kFaultTextBehindQuote">
         <source></source>
@@ -897,6 +904,10 @@
         <source></source>
         <translation>Rückgängig gemacht</translation>
     </message>
+    <message id="kImportByNames">
+        <source></source>
+        <translation>Die Tabelle hat keine Spalte „stationKey“: Manche Sender werden nur am Namen wiedererkannt.</translation>
+    </message>
     <message id="kImportByNumbers">
         <source></source>
         <translation>Nummern und Reihenfolge der Zeilen sind geändert und passen nicht zusammen: Es gelten die Nummern.</translation>
@@ -913,9 +924,24 @@
         <source></source>
         <translation>Die Zeilen passen zu einer anderen Liste dieser Datei: %1.</translation>
     </message>
+    <message id="kImportRowsAlone">
+        <source></source>
+        <translation>Die Tabelle nennt keine Nummern: Die Sender bekommen die Reihenfolge der Zeilen.</translation>
+    </message>
     <message id="kImportTitle">
         <source></source>
         <translation>Änderungen aus einer Tabelle importieren</translation>
+    </message>
+    <message id="kImportUnclear" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n Zeile ist nicht eindeutig: Ihr Schlüssel und ihr Name gehören zu verschiedenen Sendern, oder der Sender steht noch einmal da.</numerusform>
+            <numerusform>%n Zeilen sind nicht eindeutig: Schlüssel und Name gehören zu verschiedenen Sendern, oder ein Sender steht mehrmals da.</numerusform>
+        </translation>
+    </message>
+    <message id="kImportUnknownColumns">
+        <source></source>
+        <translation>Nicht gelesene Spalten: %1.</translation>
     </message>
     <message id="kInfo">
         <source></source>

@@ -257,10 +257,6 @@
         <source></source>
         <translation>Hidden</translation>
     </message>
-    <message id="kColumnKey">
-        <source></source>
-        <translation>Station key</translation>
-    </message>
     <message id="kColumnName">
         <source></source>
         <translation>Name</translation>
@@ -638,6 +634,13 @@
         <source></source>
         <translation>Reference list for Apply Order (text)</translation>
     </message>
+    <message id="kExportRenamed" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n renamed station has no complete identifiers: it is found again once the list has been saved and opened anew.</numerusform>
+            <numerusform>%n renamed stations have no complete identifiers: they are found again once the list has been saved and opened anew.</numerusform>
+        </translation>
+    </message>
     <message id="kExportSeparator">
         <source></source>
         <translation>Se&amp;parator:</translation>
@@ -673,13 +676,17 @@
         <source></source>
         <translation>“%1” is no number from 1 to 16383.</translation>
     </message>
+    <message id="kFaultCellPlace">
+        <source></source>
+        <translation>Line %1, column %2 “%3”:</translation>
+    </message>
     <message id="kFaultDoubledColumn">
         <source></source>
         <translation>There are two columns “%1”.</translation>
     </message>
     <message id="kFaultNoColumns">
         <source></source>
-        <translation>The first row has to name the columns as they were exported, among them “Name”, “Service” or “Station key”.</translation>
+        <translation>The first row has to name the columns as they were exported, among them “Name”, “Service” or “stationKey”.</translation>
     </message>
     <message id="kFaultNoRows">
         <source></source>
@@ -687,7 +694,7 @@
     </message>
     <message id="kFaultPlace">
         <source></source>
-        <translation>Line %1, column %2:</translation>
+        <translation>Line %1, character %2:</translation>
     </message>
     <message id="kFaultTextBehindQuote">
         <source></source>
@@ -897,6 +904,10 @@
         <source></source>
         <translation>Undone</translation>
     </message>
+    <message id="kImportByNames">
+        <source></source>
+        <translation>The table has no column “stationKey”: some stations are recognised by their names alone.</translation>
+    </message>
     <message id="kImportByNumbers">
         <source></source>
         <translation>Numbers and the order of the rows were both changed and do not agree: the numbers count.</translation>
@@ -913,9 +924,24 @@
         <source></source>
         <translation>The rows fit another list of this file: %1.</translation>
     </message>
+    <message id="kImportRowsAlone">
+        <source></source>
+        <translation>The table tells no numbers: the stations get the order of the rows.</translation>
+    </message>
     <message id="kImportTitle">
         <source></source>
         <translation>Import Changes From a Table</translation>
+    </message>
+    <message id="kImportUnclear" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n row is unclear: its key and its name are of different stations, or the station stands there again.</numerusform>
+            <numerusform>%n rows are unclear: key and name are of different stations, or a station stands there several times.</numerusform>
+        </translation>
+    </message>
+    <message id="kImportUnknownColumns">
+        <source></source>
+        <translation>Columns that are not read: %1.</translation>
     </message>
     <message id="kInfo">
         <source></source>

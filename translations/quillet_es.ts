@@ -257,10 +257,6 @@
         <source></source>
         <translation>Oculto</translation>
     </message>
-    <message id="kColumnKey">
-        <source></source>
-        <translation>Clave del canal</translation>
-    </message>
     <message id="kColumnName">
         <source></source>
         <translation>Nombre</translation>
@@ -638,6 +634,13 @@
         <source></source>
         <translation>Lista de referencia para aplicar un orden (texto)</translation>
     </message>
+    <message id="kExportRenamed" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canal renombrado no tiene identificadores completos: solo se reconoce cuando la lista se ha guardado y se ha vuelto a abrir.</numerusform>
+            <numerusform>%n canales renombrados no tienen identificadores completos: solo se reconocen cuando la lista se ha guardado y se ha vuelto a abrir.</numerusform>
+        </translation>
+    </message>
     <message id="kExportSeparator">
         <source></source>
         <translation>Se&amp;parador:</translation>
@@ -673,13 +676,17 @@
         <source></source>
         <translation>«%1» no es un número del 1 al 16383.</translation>
     </message>
+    <message id="kFaultCellPlace">
+        <source></source>
+        <translation>Línea %1, columna %2 «%3»:</translation>
+    </message>
     <message id="kFaultDoubledColumn">
         <source></source>
         <translation>Hay dos columnas «%1».</translation>
     </message>
     <message id="kFaultNoColumns">
         <source></source>
-        <translation>La primera fila debe tener los títulos de las columnas tal como se exportaron, entre ellos el nombre, el servicio o la clave del canal.</translation>
+        <translation>La primera fila debe tener los títulos de las columnas tal como se exportaron, entre ellos el nombre, el servicio o «stationKey».</translation>
     </message>
     <message id="kFaultNoRows">
         <source></source>
@@ -687,7 +694,7 @@
     </message>
     <message id="kFaultPlace">
         <source></source>
-        <translation>Línea %1, columna %2:</translation>
+        <translation>Línea %1, carácter %2:</translation>
     </message>
     <message id="kFaultTextBehindQuote">
         <source></source>
@@ -897,6 +904,10 @@
         <source></source>
         <translation>Deshecho</translation>
     </message>
+    <message id="kImportByNames">
+        <source></source>
+        <translation>La tabla no tiene la columna «stationKey»: hay canales que se reconocen solo por su nombre.</translation>
+    </message>
     <message id="kImportByNumbers">
         <source></source>
         <translation>Se han cambiado los números y el orden de las filas y no coinciden: cuentan los números.</translation>
@@ -913,9 +924,24 @@
         <source></source>
         <translation>Las filas corresponden a otra lista de este archivo: %1.</translation>
     </message>
+    <message id="kImportRowsAlone">
+        <source></source>
+        <translation>La tabla no indica números: los canales reciben el orden de las filas.</translation>
+    </message>
     <message id="kImportTitle">
         <source></source>
         <translation>Importar cambios de una tabla</translation>
+    </message>
+    <message id="kImportUnclear" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n fila no está clara: su clave y su nombre son de canales distintos, o el canal aparece otra vez.</numerusform>
+            <numerusform>%n filas no están claras: la clave y el nombre son de canales distintos, o un canal aparece varias veces.</numerusform>
+        </translation>
+    </message>
+    <message id="kImportUnknownColumns">
+        <source></source>
+        <translation>Columnas que no se leen: %1.</translation>
     </message>
     <message id="kInfo">
         <source></source>

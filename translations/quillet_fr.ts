@@ -257,10 +257,6 @@
         <source></source>
         <translation>Masqué</translation>
     </message>
-    <message id="kColumnKey">
-        <source></source>
-        <translation>Clé de la chaîne</translation>
-    </message>
     <message id="kColumnName">
         <source></source>
         <translation>Nom</translation>
@@ -638,6 +634,13 @@
         <source></source>
         <translation>Liste de référence pour appliquer un ordre (texte)</translation>
     </message>
+    <message id="kExportRenamed" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n chaîne renommée n’a pas d’identifiants complets : elle n’est reconnue qu’une fois la liste enregistrée et rouverte.</numerusform>
+            <numerusform>%n chaînes renommées n’ont pas d’identifiants complets : elles ne sont reconnues qu’une fois la liste enregistrée et rouverte.</numerusform>
+        </translation>
+    </message>
     <message id="kExportSeparator">
         <source></source>
         <translation>Sé&amp;parateur :</translation>
@@ -673,13 +676,17 @@
         <source></source>
         <translation>« %1 » n’est pas un numéro de 1 à 16383.</translation>
     </message>
+    <message id="kFaultCellPlace">
+        <source></source>
+        <translation>Ligne %1, colonne %2 « %3 » :</translation>
+    </message>
     <message id="kFaultDoubledColumn">
         <source></source>
         <translation>Il y a deux colonnes « %1 ».</translation>
     </message>
     <message id="kFaultNoColumns">
         <source></source>
-        <translation>La première ligne doit porter les titres des colonnes tels qu’ils ont été exportés, dont le nom, le service ou la clé de la chaîne.</translation>
+        <translation>La première ligne doit porter les titres des colonnes tels qu’ils ont été exportés, dont le nom, le service ou « stationKey ».</translation>
     </message>
     <message id="kFaultNoRows">
         <source></source>
@@ -687,7 +694,7 @@
     </message>
     <message id="kFaultPlace">
         <source></source>
-        <translation>Ligne %1, colonne %2 :</translation>
+        <translation>Ligne %1, caractère %2 :</translation>
     </message>
     <message id="kFaultTextBehindQuote">
         <source></source>
@@ -897,6 +904,10 @@
         <source></source>
         <translation>Annulé</translation>
     </message>
+    <message id="kImportByNames">
+        <source></source>
+        <translation>Le tableau n’a pas de colonne « stationKey » : des chaînes sont reconnues par leur nom seul.</translation>
+    </message>
     <message id="kImportByNumbers">
         <source></source>
         <translation>Les numéros et l’ordre des lignes ont changé et ne s’accordent pas : les numéros comptent.</translation>
@@ -913,9 +924,24 @@
         <source></source>
         <translation>Les lignes correspondent à une autre liste de ce fichier : %1.</translation>
     </message>
+    <message id="kImportRowsAlone">
+        <source></source>
+        <translation>Le tableau n’indique pas de numéros : les chaînes prennent l’ordre des lignes.</translation>
+    </message>
     <message id="kImportTitle">
         <source></source>
         <translation>Importer des modifications d’un tableau</translation>
+    </message>
+    <message id="kImportUnclear" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n ligne n’est pas claire : sa clé et son nom sont de chaînes différentes, ou la chaîne y figure encore.</numerusform>
+            <numerusform>%n lignes ne sont pas claires : la clé et le nom sont de chaînes différentes, ou une chaîne y figure plusieurs fois.</numerusform>
+        </translation>
+    </message>
+    <message id="kImportUnknownColumns">
+        <source></source>
+        <translation>Colonnes non lues : %1.</translation>
     </message>
     <message id="kInfo">
         <source></source>

@@ -257,10 +257,6 @@
         <source></source>
         <translation>Nascosto</translation>
     </message>
-    <message id="kColumnKey">
-        <source></source>
-        <translation>Chiave del canale</translation>
-    </message>
     <message id="kColumnName">
         <source></source>
         <translation>Nome</translation>
@@ -615,8 +611,8 @@
     <message id="kExportLost" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n carattere non può essere scritto così; al suo posto c’è «?».</numerusform>
-            <numerusform>%n caratteri non possono essere scritti così; al loro posto c’è «?».</numerusform>
+            <numerusform>%n carattere non può essere scritto così; al suo posto c’è “?”.</numerusform>
+            <numerusform>%n caratteri non possono essere scritti così; al loro posto c’è “?”.</numerusform>
         </translation>
     </message>
     <message id="kExportNumbers" numerus="yes">
@@ -637,6 +633,13 @@
     <message id="kExportReferenceList">
         <source></source>
         <translation>Lista di riferimento per applicare un ordine (testo)</translation>
+    </message>
+    <message id="kExportRenamed" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n canale rinominato non ha identificatori completi: si riconosce solo quando la lista è stata salvata e riaperta.</numerusform>
+            <numerusform>%n canali rinominati non hanno identificatori completi: si riconoscono solo quando la lista è stata salvata e riaperta.</numerusform>
+        </translation>
     </message>
     <message id="kExportSeparator">
         <source></source>
@@ -667,19 +670,23 @@
     </message>
     <message id="kFaultBadMark">
         <source></source>
-        <translation>«%1» non dice se il canale ha questo contrassegno; 1 o 0 sì.</translation>
+        <translation>“%1” non dice se il canale ha questo contrassegno; 1 o 0 sì.</translation>
     </message>
     <message id="kFaultBadNumber">
         <source></source>
-        <translation>«%1» non è un numero da 1 a 16383.</translation>
+        <translation>“%1” non è un numero da 1 a 16383.</translation>
+    </message>
+    <message id="kFaultCellPlace">
+        <source></source>
+        <translation>Riga %1, colonna %2 “%3”:</translation>
     </message>
     <message id="kFaultDoubledColumn">
         <source></source>
-        <translation>Ci sono due colonne «%1».</translation>
+        <translation>Ci sono due colonne “%1”.</translation>
     </message>
     <message id="kFaultNoColumns">
         <source></source>
-        <translation>La prima riga deve avere i titoli delle colonne come sono stati esportati, tra cui il nome, il servizio o la chiave del canale.</translation>
+        <translation>La prima riga deve avere i titoli delle colonne come sono stati esportati, tra cui il nome, il servizio o “stationKey”.</translation>
     </message>
     <message id="kFaultNoRows">
         <source></source>
@@ -687,7 +694,7 @@
     </message>
     <message id="kFaultPlace">
         <source></source>
-        <translation>Riga %1, colonna %2:</translation>
+        <translation>Riga %1, carattere %2:</translation>
     </message>
     <message id="kFaultTextBehindQuote">
         <source></source>
@@ -699,7 +706,7 @@
     </message>
     <message id="kFaultTooManyCells">
         <source></source>
-        <translation>«%1» non è in una colonna con titolo.</translation>
+        <translation>“%1” non è in una colonna con titolo.</translation>
     </message>
     <message id="kFaultUnclosedQuote">
         <source></source>
@@ -897,6 +904,10 @@
         <source></source>
         <translation>Annullato</translation>
     </message>
+    <message id="kImportByNames">
+        <source></source>
+        <translation>La tabella non ha la colonna “stationKey”: alcuni canali si riconoscono solo dal nome.</translation>
+    </message>
     <message id="kImportByNumbers">
         <source></source>
         <translation>Numeri e ordine delle righe sono cambiati e non concordano: valgono i numeri.</translation>
@@ -907,15 +918,30 @@
     </message>
     <message id="kImportFailed">
         <source></source>
-        <translation>Impossibile importare «%1». La lista resta com’è.</translation>
+        <translation>Impossibile importare “%1”. La lista resta com’è.</translation>
     </message>
     <message id="kImportOtherList">
         <source></source>
         <translation>Le righe corrispondono a un’altra lista di questo file: %1.</translation>
     </message>
+    <message id="kImportRowsAlone">
+        <source></source>
+        <translation>La tabella non indica numeri: i canali prendono l’ordine delle righe.</translation>
+    </message>
     <message id="kImportTitle">
         <source></source>
         <translation>Importa modifiche da una tabella</translation>
+    </message>
+    <message id="kImportUnclear" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n riga non è chiara: la chiave e il nome sono di canali diversi, o il canale compare di nuovo.</numerusform>
+            <numerusform>%n righe non sono chiare: la chiave e il nome sono di canali diversi, o un canale compare più volte.</numerusform>
+        </translation>
+    </message>
+    <message id="kImportUnknownColumns">
+        <source></source>
+        <translation>Colonne non lette: %1.</translation>
     </message>
     <message id="kInfo">
         <source></source>

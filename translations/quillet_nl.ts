@@ -257,10 +257,6 @@
         <source></source>
         <translation>Verborgen</translation>
     </message>
-    <message id="kColumnKey">
-        <source></source>
-        <translation>Zendersleutel</translation>
-    </message>
     <message id="kColumnName">
         <source></source>
         <translation>Naam</translation>
@@ -638,6 +634,13 @@
         <source></source>
         <translation>Referentielijst om een volgorde toe te passen (tekst)</translation>
     </message>
+    <message id="kExportRenamed" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n hernoemde zender heeft geen volledige ID’s: hij wordt pas herkend als de lijst is bewaard en opnieuw geopend.</numerusform>
+            <numerusform>%n hernoemde zenders hebben geen volledige ID’s: ze worden pas herkend als de lijst is bewaard en opnieuw geopend.</numerusform>
+        </translation>
+    </message>
     <message id="kExportSeparator">
         <source></source>
         <translation>&amp;Scheidingsteken:</translation>
@@ -673,13 +676,17 @@
         <source></source>
         <translation>“%1” is geen nummer van 1 tot 16383.</translation>
     </message>
+    <message id="kFaultCellPlace">
+        <source></source>
+        <translation>Regel %1, kolom %2 “%3”:</translation>
+    </message>
     <message id="kFaultDoubledColumn">
         <source></source>
         <translation>Er zijn twee kolommen “%1”.</translation>
     </message>
     <message id="kFaultNoColumns">
         <source></source>
-        <translation>De eerste rij moet de titels van de kolommen hebben zoals ze zijn geëxporteerd, waaronder de naam, de dienst of de zendersleutel.</translation>
+        <translation>De eerste rij moet de titels van de kolommen hebben zoals ze zijn geëxporteerd, waaronder de naam, de dienst of “stationKey”.</translation>
     </message>
     <message id="kFaultNoRows">
         <source></source>
@@ -687,7 +694,7 @@
     </message>
     <message id="kFaultPlace">
         <source></source>
-        <translation>Regel %1, kolom %2:</translation>
+        <translation>Regel %1, teken %2:</translation>
     </message>
     <message id="kFaultTextBehindQuote">
         <source></source>
@@ -897,6 +904,10 @@
         <source></source>
         <translation>Ongedaan gemaakt</translation>
     </message>
+    <message id="kImportByNames">
+        <source></source>
+        <translation>De tabel heeft geen kolom “stationKey”: er worden zenders alleen aan hun naam herkend.</translation>
+    </message>
     <message id="kImportByNumbers">
         <source></source>
         <translation>Nummers en volgorde van de rijen zijn allebei gewijzigd en komen niet overeen: de nummers tellen.</translation>
@@ -913,9 +924,24 @@
         <source></source>
         <translation>De rijen horen bij een andere lijst van dit bestand: %1.</translation>
     </message>
+    <message id="kImportRowsAlone">
+        <source></source>
+        <translation>De tabel noemt geen nummers: de zenders krijgen de volgorde van de rijen.</translation>
+    </message>
     <message id="kImportTitle">
         <source></source>
         <translation>Wijzigingen uit een tabel importeren</translation>
+    </message>
+    <message id="kImportUnclear" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n rij is onduidelijk: de sleutel en de naam zijn van verschillende zenders, of de zender staat er nog eens.</numerusform>
+            <numerusform>%n rijen zijn onduidelijk: sleutel en naam zijn van verschillende zenders, of een zender staat er meermaals.</numerusform>
+        </translation>
+    </message>
+    <message id="kImportUnknownColumns">
+        <source></source>
+        <translation>Kolommen die niet worden gelezen: %1.</translation>
     </message>
     <message id="kInfo">
         <source></source>

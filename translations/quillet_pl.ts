@@ -263,10 +263,6 @@
         <source></source>
         <translation>Ukryty</translation>
     </message>
-    <message id="kColumnKey">
-        <source></source>
-        <translation>Klucz kanału</translation>
-    </message>
     <message id="kColumnName">
         <source></source>
         <translation>Nazwa</translation>
@@ -659,6 +655,14 @@
         <source></source>
         <translation>Lista wzorcowa do zastosowania kolejności (tekst)</translation>
     </message>
+    <message id="kExportRenamed" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n kanał o zmienionej nazwie nie ma pełnych identyfikatorów: zostanie rozpoznany dopiero po zapisaniu i ponownym otwarciu listy.</numerusform>
+            <numerusform>%n kanały o zmienionej nazwie nie mają pełnych identyfikatorów: zostaną rozpoznane dopiero po zapisaniu i ponownym otwarciu listy.</numerusform>
+            <numerusform>%n kanałów o zmienionej nazwie nie ma pełnych identyfikatorów: zostaną rozpoznane dopiero po zapisaniu i ponownym otwarciu listy.</numerusform>
+        </translation>
+    </message>
     <message id="kExportSeparator">
         <source></source>
         <translation>Se&amp;parator:</translation>
@@ -695,13 +699,17 @@
         <source></source>
         <translation>„%1” nie jest numerem od 1 do 16383.</translation>
     </message>
+    <message id="kFaultCellPlace">
+        <source></source>
+        <translation>Wiersz %1, kolumna %2 „%3”:</translation>
+    </message>
     <message id="kFaultDoubledColumn">
         <source></source>
         <translation>Są dwie kolumny „%1”.</translation>
     </message>
     <message id="kFaultNoColumns">
         <source></source>
-        <translation>Pierwszy wiersz musi zawierać tytuły kolumn takie, jak wyeksportowano, w tym nazwę, usługę lub klucz kanału.</translation>
+        <translation>Pierwszy wiersz musi zawierać tytuły kolumn takie, jak wyeksportowano, w tym nazwę, usługę lub „stationKey”.</translation>
     </message>
     <message id="kFaultNoRows">
         <source></source>
@@ -709,7 +717,7 @@
     </message>
     <message id="kFaultPlace">
         <source></source>
-        <translation>Wiersz %1, kolumna %2:</translation>
+        <translation>Wiersz %1, znak %2:</translation>
     </message>
     <message id="kFaultTextBehindQuote">
         <source></source>
@@ -919,6 +927,10 @@
         <source></source>
         <translation>Cofnięto</translation>
     </message>
+    <message id="kImportByNames">
+        <source></source>
+        <translation>Tabela nie ma kolumny „stationKey”: niektóre kanały są rozpoznawane tylko po nazwie.</translation>
+    </message>
     <message id="kImportByNumbers">
         <source></source>
         <translation>Zmieniono numery i kolejność wierszy i nie zgadzają się: liczą się numery.</translation>
@@ -935,9 +947,25 @@
         <source></source>
         <translation>Wiersze pasują do innej listy z tego pliku: %1.</translation>
     </message>
+    <message id="kImportRowsAlone">
+        <source></source>
+        <translation>Tabela nie podaje numerów: kanały dostają kolejność wierszy.</translation>
+    </message>
     <message id="kImportTitle">
         <source></source>
         <translation>Import zmian z tabeli</translation>
+    </message>
+    <message id="kImportUnclear" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n wiersz jest niejasny: jego klucz i nazwa należą do różnych kanałów albo kanał występuje ponownie.</numerusform>
+            <numerusform>%n wiersze są niejasne: klucz i nazwa należą do różnych kanałów albo kanał występuje kilka razy.</numerusform>
+            <numerusform>%n wierszy jest niejasnych: klucz i nazwa należą do różnych kanałów albo kanał występuje kilka razy.</numerusform>
+        </translation>
+    </message>
+    <message id="kImportUnknownColumns">
+        <source></source>
+        <translation>Kolumny, które nie są odczytywane: %1.</translation>
     </message>
     <message id="kInfo">
         <source></source>
@@ -1225,7 +1253,7 @@
     </message>
     <message id="kMenuPrintCompact">
         <source></source>
-        <translation>Drukuj w skró&amp;cie…</translation>
+        <translation>Drukuj zwi&amp;ęźle…</translation>
     </message>
     <message id="kMenuQuit">
         <source></source>

@@ -251,10 +251,6 @@
         <source></source>
         <translation>Gizli</translation>
     </message>
-    <message id="kColumnKey">
-        <source></source>
-        <translation>Kanal anahtarı</translation>
-    </message>
     <message id="kColumnName">
         <source></source>
         <translation>Ad</translation>
@@ -617,6 +613,12 @@
         <source></source>
         <translation>Sıralama uygulamak için referans listesi (metin)</translation>
     </message>
+    <message id="kExportRenamed" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Adı değiştirilmiş %n kanalın tam tanımlayıcıları yok: ancak liste kaydedilip yeniden açıldığında tanınır.</numerusform>
+        </translation>
+    </message>
     <message id="kExportSeparator">
         <source></source>
         <translation>Ay&amp;ırıcı:</translation>
@@ -651,13 +653,17 @@
         <source></source>
         <translation>“%1” 1 ile 16383 arasında bir numara değil.</translation>
     </message>
+    <message id="kFaultCellPlace">
+        <source></source>
+        <translation>Satır %1, sütun %2 “%3”:</translation>
+    </message>
     <message id="kFaultDoubledColumn">
         <source></source>
         <translation>İki tane “%1” sütunu var.</translation>
     </message>
     <message id="kFaultNoColumns">
         <source></source>
-        <translation>İlk satırda sütun başlıkları dışa aktarıldığı gibi bulunmalı; aralarında ad, hizmet ya da kanal anahtarı olmalı.</translation>
+        <translation>İlk satırda sütun başlıkları dışa aktarıldığı gibi bulunmalı; aralarında ad, hizmet ya da “stationKey” olmalı.</translation>
     </message>
     <message id="kFaultNoRows">
         <source></source>
@@ -665,7 +671,7 @@
     </message>
     <message id="kFaultPlace">
         <source></source>
-        <translation>Satır %1, sütun %2:</translation>
+        <translation>Satır %1, karakter %2:</translation>
     </message>
     <message id="kFaultTextBehindQuote">
         <source></source>
@@ -875,6 +881,10 @@
         <source></source>
         <translation>Geri alındı</translation>
     </message>
+    <message id="kImportByNames">
+        <source></source>
+        <translation>Tabloda “stationKey” sütunu yok: bazı kanallar yalnızca adından tanınır.</translation>
+    </message>
     <message id="kImportByNumbers">
         <source></source>
         <translation>Hem numaralar hem satırların sırası değişmiş ve birbirini tutmuyor: numaralar geçerli.</translation>
@@ -891,9 +901,23 @@
         <source></source>
         <translation>Satırlar bu dosyadaki başka bir listeye uyuyor: %1.</translation>
     </message>
+    <message id="kImportRowsAlone">
+        <source></source>
+        <translation>Tabloda numara yok: kanallar satırların sırasını alır.</translation>
+    </message>
     <message id="kImportTitle">
         <source></source>
         <translation>Tablodan Değişiklikleri İçe Aktar</translation>
+    </message>
+    <message id="kImportUnclear" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n satır belirsiz: anahtar ile ad farklı kanallara ait ya da bir kanal birden çok kez geçiyor.</numerusform>
+        </translation>
+    </message>
+    <message id="kImportUnknownColumns">
+        <source></source>
+        <translation>Okunmayan sütunlar: %1.</translation>
     </message>
     <message id="kInfo">
         <source></source>
@@ -1171,7 +1195,7 @@
     </message>
     <message id="kMenuPrintCompact">
         <source></source>
-        <translation>Sıkı&amp;şık Yazdır…</translation>
+        <translation>&amp;Kompakt Yazdır…</translation>
     </message>
     <message id="kMenuQuit">
         <source></source>

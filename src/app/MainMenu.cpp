@@ -269,7 +269,7 @@ void MainMenu::validate()
     m_alwaysRepair->setVisible(m_alwaysRepair->isChecked());
     using Control = EditorOutlets::Control;
     const ViewController &editor = m_editor.controller();
-    m_exportList->setEnabled(!editor.currentList().empty());
+    m_exportList->setEnabled(editor.shown().hasData());
     m_importChanges->setEnabled(document && document->list().stationCount() > 0);
     for (QAction *each : {m_exportList, m_importChanges})
         each->setToolTip(each->isEnabled() ? QString() : qtTrId("kTipNoStations"));

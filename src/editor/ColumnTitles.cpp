@@ -23,21 +23,22 @@ constexpr std::array fields{
     std::pair{ColumnContent::ServiceId, RowField::ServiceId},
     std::pair{ColumnContent::Frequency, RowField::Frequency},
 };
-constexpr QLatin1String keyIdentifier("stationKey");
 
 /// By the text of an id.
 RowTitles titlesBy(const std::function<QString(const char *)> &text)
 {
-    RowTitles titles{{foldedTitle(keyIdentifier), RowField::Key},
-                     {foldedTitle(text("kColumnKey")), RowField::Key}};
-    for (const auto &[content, field] : fields) {
-        const StationColumn &column = columnWith(content);
+    RowTitles titles{{foldedTitle(stationKeyTitle), RowField::Key}};
+    const auto add = [&titles, &text](const StationColumn &column, RowField field) {
         for (const QString &title :
              {QString(column.identifier), text(column.title), text(column.fullName)}) {
             if (!title.isEmpty())
                 titles.insert(foldedTitle(title), field);
         }
-    }
+    };
+    for (const StationColumn &column : stationColumns)
+        add(column, RowField::Other);
+    for (const auto &[content, field] : fields)
+        add(columnWith(content), field);
     return titles;
 }
 

@@ -4,6 +4,9 @@
 
 namespace quillet {
 
+/// Of the column of keys: in ASCII, so that it outlives all encodings.
+inline constexpr QLatin1String stationKeyTitle("stationKey");
+
 /// What the columns of a table from another program are called: the titles in the language on show,
 /// or in that other language of the program which fits its first row better, and the identifiers of
 /// columns in any case.

@@ -110,7 +110,13 @@ void CompareCommands::compareWithTable(const QString &path)
     if (!m_controller.stationDoc())
         return;
     QString reason;
-    if (const auto rows = importedFile(path, *m_controller.stationDoc(), reason))
+    std::optional<ComparedWith> rows;
+    {
+        constexpr qint64 timesSlower = 10; // than opening a list
+        const WaitCursor wait(WaitCursor::Work::Opening, timesSlower * QFileInfo(path).size());
+        rows = importedFile(path, *m_controller.stationDoc(), reason);
+    }
+    if (rows)
         emit m_controller.comparisonWanted(*rows);
     else
         m_controller.showError(reason,

@@ -26,6 +26,7 @@ struct ComparedWith
     StationLists lists; ///< the stations there, which nobody else holds
     /// What is told of records that do not tell everything; the others tell all.
     QHash<const LGStation *, StationDifferences> told = {};
+    KnownPairs known = {}; ///< which of the records are known to be of which stations
     NumberRule rule = NumberRule::AsGiven;
     QString remark = {};        ///< a sentence that the window shows
     ReferenceList entries = {}; ///< of a reference list alone

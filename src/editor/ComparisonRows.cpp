@@ -88,7 +88,7 @@ ComparisonRows comparisonRows(const StationLists &here, const ComparedWith &othe
         return other.told.value(&station, everything);
     };
     const UnkeptNames names(here);
-    ListComparison comparison = compare(here, other.lists);
+    ListComparison comparison = compare(here, other.lists, other.known);
     if (!other.told.isEmpty())
         keepOnlyTold(comparison, toldOf);
     const bool isOfRows = other.purpose == Purpose::Import || other.purpose == Purpose::Paste;

@@ -2,6 +2,7 @@
 
 #include "editor/ViewController.h"
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -104,9 +105,9 @@ ExportDialog::ExportDialog(const ListExport &list, QWidget *parent)
     m_remarks->setAlignment(Qt::AlignTop);
     m_remarks->setMinimumHeight(3 * fontMetrics().lineSpacing()); // so that nothing jumps
     m_stations->addItem(qtTrId("kExportAll", static_cast<int>(list.stationCount(false))), false);
-    if (list.stationCount(true) < list.stationCount(false))
-        m_stations->addItem(qtTrId("kExportShown", static_cast<int>(list.stationCount(true))),
-                            true);
+    const std::size_t shown = list.stationCount(true);
+    if (shown > 0 && shown < list.stationCount(false))
+        m_stations->addItem(qtTrId("kExportShown", static_cast<int>(shown)), true);
     auto *form = new QFormLayout;
     form->addRow(qtTrId("kExportFormat"), m_format);
     form->addRow(qtTrId("kExportStations"), m_stations);
@@ -114,7 +115,8 @@ ExportDialog::ExportDialog(const ListExport &list, QWidget *parent)
     form->addRow(qtTrId("kExportEncoding"), m_form);
     form->addRow(m_hasKeys);
     auto *buttons = new QDialogButtonBox;
-    buttons->addButton(qtTrId("kExportOK"), QDialogButtonBox::AcceptRole)->setDefault(true);
+    m_export = buttons->addButton(qtTrId("kExportOK"), QDialogButtonBox::AcceptRole);
+    m_export->setDefault(true);
     buttons->addButton(qtTrId("kCancel"), QDialogButtonBox::RejectRole);
     auto *column = new QVBoxLayout(this);
     column->addLayout(form);
@@ -122,10 +124,10 @@ ExportDialog::ExportDialog(const ListExport &list, QWidget *parent)
     column->addWidget(buttons);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    choose(lastOptions());
     for (QComboBox *box : {m_format, m_separator, m_form, m_stations})
         connect(box, &QComboBox::currentIndexChanged, this, &ExportDialog::showChoice);
     connect(m_hasKeys, &QCheckBox::toggled, this, &ExportDialog::showChoice);
-    choose(lastOptions());
 }
 
 void ExportDialog::choose(const ExportOptions &options)
@@ -166,15 +168,31 @@ void ExportDialog::showChoice()
     enable(*m_form, isTable, "kTipExportTableOnly");
     enable(*m_hasKeys, isTable, "kTipExportTableOnly");
     enable(*m_stations, m_stations->count() > 1, "kTipExportAllShown");
-    if (isTable)
+    if (isTable) {
         m_hasKeys->setToolTip(qtTrId("kTipExportKeys"));
-    m_remarks->setText(m_list.make(chosen).remarks.join(u'\n'));
+        m_hasKeys->setAccessibleDescription(qtTrId("kTipExportKeys"));
+    }
+    tellRemarks(m_list.make(chosen).remarks);
+}
+
+/// The focus never gets to the line itself, so it is spoken, and told of the button.
+void ExportDialog::tellRemarks(const QStringList &remarks)
+{
+    const QString text = remarks.join(u'\n');
+    if (text == m_remarks->text())
+        return;
+    m_remarks->setText(text);
+    m_export->setAccessibleDescription(remarks.join(u' '));
+    for (const auto kind : {QAccessible::NameChanged, QAccessible::Alert}) {
+        QAccessibleEvent event(m_remarks, kind);
+        QAccessible::updateAccessibility(&event);
+    }
 }
 
 void askToExport(ViewController &controller, std::vector<ColumnContent> columns, QWidget *window)
 {
     TLLDocument *document = controller.stationDoc();
-    if (!document || controller.currentList().empty())
+    if (!document || !controller.shown().hasData())
         return;
     auto list = std::make_shared<ListExport>(controller, std::move(columns));
     auto *dialog = new ExportDialog(*list, window);
@@ -182,8 +200,10 @@ void askToExport(ViewController &controller, std::vector<ColumnContent> columns,
     QObject::connect(dialog, &QDialog::accepted, document, [dialog, document, list] {
         dialog->remember();
         const ExportOptions options = dialog->options();
-        const MadeBytes made{list->make(options).bytes, "kToldExportedList"};
-        document->exportBytes(list->panel(options), made, [](bool, const Error &) {});
+        const ListExport::Made made = list->make(options);
+        const MadeBytes bytes{
+            .bytes = made.bytes, .told = "kToldExportedList", .remarks = made.remarks.join(u' ')};
+        document->exportBytes(list->panel(options), bytes, [](bool, const Error &) {});
     });
     dialog->open();
 }

@@ -7,6 +7,7 @@
 class QCheckBox;
 class QComboBox;
 class QLabel;
+class QPushButton;
 
 namespace quillet {
 
@@ -29,6 +30,7 @@ public:
 private:
     void choose(const ExportOptions &options);
     void showChoice();
+    void tellRemarks(const QStringList &remarks);
 
     const ListExport &m_list;
     QComboBox *m_format;
@@ -37,10 +39,11 @@ private:
     QComboBox *m_stations;
     QCheckBox *m_hasKeys;
     QLabel *m_remarks;
+    QPushButton *m_export = nullptr;
 };
 
 /// Asks how and where to export the list on show, with those columns, and has the document write
-/// it. Does nothing while no station is shown.
+/// it. Does nothing while there is no station.
 void askToExport(ViewController &controller, std::vector<ColumnContent> columns, QWidget *window);
 
 } // namespace quillet

@@ -4,14 +4,16 @@
 #include "document/text/ReferenceText.h"
 #include "document/text/SeparatedText.h"
 #include "document/text/StationKey.h"
+#include "editor/ColumnTitles.h"
 #include "editor/ListHeading.h"
-#include "editor/ShownTexts.h"
 #include "editor/TableController.h"
+#include "model/CleanName.h"
 
 #include <QDateTime>
 #include <QFileInfo>
 #include <QHash>
 #include <QLocale>
+#include <QStandardPaths>
 
 #include <algorithm>
 #include <array>
@@ -88,7 +90,7 @@ ListExport::Made ListExport::makeTable(const ExportOptions &options) const
     for (const ColumnContent content : m_columns)
         titles.append(qtTrId(columnWith(content).title));
     if (options.hasKeys)
-        titles.append(qtTrId("kColumnKey"));
+        titles.append(stationKeyTitle);
     text.addRow(titles);
     // Keys tell the stations of the whole list apart.
     const StationList &all = stations(false);
@@ -123,6 +125,7 @@ ListExport::Made ListExport::makeReferenceList(const ExportOptions &options) con
         made.remarks.append(qtTrId("kExportTooShort"));
     remark("kExportChangedNames", text.changedNames, made.remarks);
     remark("kExportByName", text.byNameAlone, made.remarks);
+    remark("kExportRenamed", text.renamed, made.remarks);
     remark("kExportNumbers", text.withNumbers, made.remarks);
     return made;
 }
@@ -146,19 +149,24 @@ ListExport::Made ListExport::makePage(const ExportOptions &options) const
         row.isPale = station->isSkipped();
         for (const ColumnContent content : m_columns) {
             const std::optional<bool> mark = StationCells::mark(*station, content);
-            row.cells.append(!mark   ? drawnName(m_cells.text(*station, content))
+            row.cells.append(!mark   ? cleanName(m_cells.text(*station, content))
                              : *mark ? QStringLiteral(u"\u2713")
                                      : QString());
         }
     }
-    return {encoded(htmlPage(table), TextForm::Utf8).bytes, {}};
+    EncodedText bytes = encoded(htmlPage(table), TextForm::Utf8);
+    Made made{std::move(bytes.bytes), {}};
+    remark("kExportLost", static_cast<std::size_t>(bytes.lost), made.remarks);
+    return made;
 }
 
 SavePanel ListExport::panel(const ExportOptions &options) const
 {
     const TLLDocument &document = *m_table.stationDoc();
     const QUrl &url = document.fileUrl().isEmpty() ? document.suggestedUrl() : document.fileUrl();
-    const QFileInfo file(url.isEmpty() ? document.displayName() : url.toLocalFile());
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    const QFileInfo file(url.isEmpty() ? folder + u'/' + document.displayName()
+                                       : url.toLocalFile());
     const FormatFacts &facts = factsOf(options.format);
     const bool isTabbed = options.format == Format::Table && options.separator == u'\t';
     const QLatin1String suffix = isTabbed ? tabbedSuffix : facts.suffix;

@@ -26,6 +26,8 @@ QString listHeading(const TableController &controller, bool isWhole)
         filters.append(qtTrId("kPrintedSearch").arg(drawnName(text)));
     if (controller.filterTag() != static_cast<int>(TypeFilter::All))
         filters.append(typeFilterTitle(controller.filterTag()));
+    if (filters.isEmpty()) // rows that were left of one that has gone
+        return heading;
     return heading + dash + qtTrId("kPrintedFiltered").arg(filters.join(QLatin1String(", ")));
 }
 

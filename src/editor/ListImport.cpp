@@ -2,19 +2,24 @@
 
 #include "document/TLLDocument.h"
 #include "document/compare/StationPairing.h"
+#include "document/text/CellValues.h"
 #include "document/text/StationRows.h"
 #include "document/text/TextBytes.h"
 #include "editor/ColumnTitles.h"
+#include "editor/ComparisonRows.h"
 #include "editor/SourceTitles.h"
 #include "files/FileNames.h"
 #include "files/FileReading.h"
+#include "model/CleanName.h"
 
 #include <QFileInfo>
+#include <QSet>
 #include <QUrl>
 
 #include <algorithm>
 #include <array>
 #include <new>
+#include <tuple>
 #include <utility>
 
 namespace quillet {
@@ -41,42 +46,46 @@ constexpr std::array faultTexts{
     FaultText{TextFault::Kind::BadMark, "kFaultBadMark"},
 };
 
-using Pairs = std::vector<std::optional<StationPair>>;
-
 /// The rows beside one of the eight lists.
 struct Fit
 {
     bool isTV = true;
     int source = 0;
     StationRows rows; ///< completed by the list
-    Pairs pairs;      ///< of the list's stations
+    RowMatches matches = {};
+    StationPairing::Pairs pairs = {}; ///< of the list's stations
+    std::size_t sure = 0;             ///< of those
     std::size_t count = 0;
+
+    [[nodiscard]] auto rank() const { return std::tuple(matches.certain, sure, count); }
 };
 
 Fit fitOf(const StationRows &rows, const StationList &list, bool isTV, int source)
 {
-    Fit fit{isTV, source, rows, {}, 0};
-    completeRows(fit.rows, list);
-    fit.pairs = pairStations(list, fit.rows.stations);
-    fit.count = static_cast<std::size_t>(std::count_if(
-        fit.pairs.begin(), fit.pairs.end(), [](const auto &pair) { return pair.has_value(); }));
+    Fit fit{isTV, source, rows};
+    fit.matches = completeRows(fit.rows, list, mayRename(source));
+    fit.pairs = pairStations(list, fit.rows.stations, fit.matches.pairs);
+    for (const std::optional<StationPair> &pair : fit.pairs) {
+        fit.count += pair ? 1 : 0;
+        fit.sure += pair && pair->likeness == Likeness::Sure ? 1 : 0;
+    }
     return fit;
 }
 
+/// What keys and identifiers tell goes before names, which are the same in many lists.
 Fit bestFit(const StationRows &rows, const TLLDocument &document)
 {
-    Fit best{document.usesTV(), document.curSource(), rows, {}, 0};
+    Fit best{document.usesTV(), document.curSource(), rows};
     if (document.stations())
         best = fitOf(rows, *document.stations(), best.isTV, best.source);
     for (const bool isTV : {document.usesTV(), !document.usesTV()}) {
         for (int source = 0; source < stationSourceCount; ++source) {
-            if (best.count == rows.stations.size())
+            if (best.matches.certain == rows.stations.size())
                 return best;
             const StationListPtr &list = document.lists().list(isTV, source);
             if (!list || list->empty() || list == document.stations())
                 continue;
-            Fit fit = fitOf(rows, *list, isTV, source);
-            if (fit.count > best.count)
+            if (Fit fit = fitOf(rows, *list, isTV, source); fit.rank() > best.rank())
                 best = std::move(fit);
         }
     }
@@ -125,7 +134,77 @@ QString chooseRule(const Fit &fit, const StationList &list, NumberRule &rule)
     if (!numbers.areOld)
         return qtTrId("kImportByNumbers");
     rule = NumberRule::ByRows;
-    return qtTrId("kImportByRows");
+    return qtTrId(fit.rows.hasColumn(RowField::Number) ? "kImportByRows" : "kImportRowsAlone");
+}
+
+/// What is said of the rows themselves.
+QStringList remarksOn(const Fit &fit)
+{
+    QStringList remarks;
+    if (fit.matches.unclear > 0)
+        remarks.append(qtTrId("kImportUnclear", static_cast<int>(fit.matches.unclear)));
+    if (fit.sure < fit.count && !fit.rows.hasColumn(RowField::Key))
+        remarks.append(qtTrId("kImportByNames"));
+    if (!fit.rows.unknown.isEmpty()) {
+        constexpr qsizetype mostTold = 5;
+        QStringList titles = fit.rows.unknown.first(std::min(fit.rows.unknown.size(), mostTold));
+        if (titles.size() < fit.rows.unknown.size())
+            titles.append(QStringLiteral(u"\u2026"));
+        remarks.append(qtTrId("kImportUnknownColumns").arg(titles.join(QLatin1String(", "))));
+    }
+    return remarks;
+}
+
+/// How many cells with letters beyond ASCII are understood: as titles, marks, or names of stations.
+std::size_t understoodCells(const SeparatedTable &table, const QSet<QString> &names)
+{
+    const RowTitles titles = titlesFor(table);
+    std::size_t count = 0;
+    for (const SeparatedRow &row : table.rows) {
+        for (const SeparatedCell &cell : row) {
+            const bool isBeyond = std::any_of(cell.text.begin(), cell.text.end(),
+                                              [](QChar c) { return c.unicode() > 0x7F; });
+            if (isBeyond && (markOf(cell.text) || names.contains(cell.text.simplified()) ||
+                             titles.contains(foldedTitle(cell.text))))
+                ++count;
+        }
+    }
+    return count;
+}
+
+QSet<QString> namesIn(const StationLists &lists)
+{
+    QSet<QString> names;
+    for (const bool isTV : {true, false}) {
+        for (int source = 0; source < stationSourceCount; ++source) {
+            if (const StationListPtr &list = lists.list(isTV, source)) {
+                for (const StationPtr &station : *list)
+                    names.insert(cleanName(station->shownName()).simplified());
+            }
+        }
+    }
+    return names;
+}
+
+/// The table in that code page, if it is of one, in which most of it is understood.
+std::optional<SeparatedTable> tableOf(const QByteArray &bytes, const StationLists &lists,
+                                      TextFault &fault)
+{
+    std::optional<SeparatedTable> best = readSeparatedText(decoded(bytes), fault);
+    if (!best || !isOfCodePage(bytes))
+        return best;
+    const QSet<QString> names = namesIn(lists);
+    std::size_t fit = understoodCells(*best, names);
+    for (const CodePage page : codePages) {
+        TextFault otherFault;
+        std::optional<SeparatedTable> table = readSeparatedText(decoded(bytes, page), otherFault);
+        const std::size_t itsFit = table ? understoodCells(*table, names) : 0;
+        if (itsFit > fit) {
+            fit = itsFit;
+            best = std::move(table);
+        }
+    }
+    return best;
 }
 
 } // namespace
@@ -138,8 +217,13 @@ QString textOf(const TextFault &fault)
     QString text = qtTrId(found->id);
     if (text.contains(QLatin1String("%1")))
         text = text.arg(fault.cell);
-    return fault.line == 0 ? text
-                           : qtTrId("kFaultPlace").arg(fault.line).arg(fault.column) + u' ' + text;
+    if (fault.line == 0)
+        return text;
+    const QString place =
+        fault.cellNumber > 0
+            ? qtTrId("kFaultCellPlace").arg(fault.line).arg(fault.cellNumber).arg(fault.title)
+            : qtTrId("kFaultPlace").arg(fault.line).arg(fault.column);
+    return place + u' ' + text;
 }
 
 ComparedWith comparedWith(const StationRows &rows, const TLLDocument &document,
@@ -148,15 +232,22 @@ ComparedWith comparedWith(const StationRows &rows, const TLLDocument &document,
     Fit fit = bestFit(rows, document);
     ComparedWith compared{.purpose = purpose, .name = name, .lists = {}};
     compared.lists.setupLists();
+    compared.known = fit.matches.pairs;
+    // The lists of that variant have stations with equal numbers.
+    if (document.isLegacyFormat())
+        compared.rule = NumberRule::AsThere;
+    QStringList remarks;
     const StationListPtr &list = document.lists().list(fit.isTV, fit.source);
-    if (list && fit.count > 0)
-        compared.remark = chooseRule(fit, *list, compared.rule);
     if (list && list != document.stations()) {
         const QString title =
             qtTrId(fit.isTV ? "kPrintedTV" : "kPrintedRadio").arg(sourceTitle(fit.source));
-        compared.remark =
-            (qtTrId("kImportOtherList").arg(title) + u' ' + compared.remark).trimmed();
+        remarks.append(qtTrId("kImportOtherList").arg(title));
     }
+    if (list && fit.count > 0)
+        remarks.append(chooseRule(fit, *list, compared.rule));
+    remarks.append(remarksOn(fit));
+    remarks.removeAll(QString());
+    compared.remark = remarks.join(u' ');
     for (std::size_t i = 0; i < fit.rows.stations.size(); ++i)
         compared.told.insert(fit.rows.stations[i].get(), fit.rows.told[i]);
     *compared.lists.list(fit.isTV, fit.source) = std::move(fit.rows.stations);
@@ -167,7 +258,7 @@ std::optional<ComparedWith> importedTable(const QByteArray &bytes, const QString
                                           const TLLDocument &document, QString &reason)
 {
     TextFault fault;
-    const std::optional<SeparatedTable> table = readSeparatedText(decoded(bytes), fault);
+    const std::optional<SeparatedTable> table = tableOf(bytes, document.lists(), fault);
     const std::optional<StationRows> rows =
         table ? stationRows(*table, titlesFor(*table), fault) : std::nullopt;
     if (!rows) {

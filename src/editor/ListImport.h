@@ -17,7 +17,8 @@ struct TextFault;
 [[nodiscard]] QString textOf(const TextFault &fault);
 
 /// The rows as what the lists of a document are compared with: as stations of that of its lists
-/// which most of them fit, the current one before others. In which order stations are to stand say
+/// which most of them tell by keys or identifiers, or else by names, the current one before others
+/// which do as well. In which order stations are to stand say
 /// the numbers of the rows; where those are as they were, the rows themselves, which were sorted
 /// then.
 [[nodiscard]] ComparedWith comparedWith(const StationRows &rows, const TLLDocument &document,

@@ -20,7 +20,7 @@ QString StationCells::text(const LGStation &station, ColumnContent content) cons
     case ColumnContent::Type:
         return station.channelTypeForDisplay(m_source);
     default:
-        return detailText(station, content, m_satellites);
+        return wholeDetailText(station, content, m_satellites);
     }
 }
 

@@ -40,15 +40,21 @@ std::optional<QString> storedText(const LGStation &station, ColumnContent conten
 
 } // namespace
 
-QString detailText(const LGStation &station, ColumnContent content,
-                   const SatelliteNames &satellites)
+QString wholeDetailText(const LGStation &station, ColumnContent content,
+                        const SatelliteNames &satellites)
 {
     if (content == ColumnContent::Frequency) {
         const std::optional<qint64> frequency = station.frequency();
         return frequency ? megahertz(*frequency) : QString();
     }
     const QString text = storedText(station, content).value_or(QString());
-    return drawnName(content == ColumnContent::Satellite ? satellites.value(text, text) : text);
+    return cleanName(content == ColumnContent::Satellite ? satellites.value(text, text) : text);
+}
+
+QString detailText(const LGStation &station, ColumnContent content,
+                   const SatelliteNames &satellites)
+{
+    return shortened(wholeDetailText(station, content, satellites), longestNameShown);
 }
 
 bool isTold(const LGStation &station, ColumnContent content)

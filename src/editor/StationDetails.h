@@ -12,6 +12,9 @@ namespace quillet {
 using SatelliteNames = QHash<QString, QString>;
 
 /// The text of a column of such texts; empty where the file tells nothing, and for other columns.
+[[nodiscard]] QString wholeDetailText(const LGStation &station, ColumnContent content,
+                                      const SatelliteNames &satellites);
+/// The same, as it is drawn.
 [[nodiscard]] QString detailText(const LGStation &station, ColumnContent content,
                                  const SatelliteNames &satellites);
 /// Whether the file tells it of the station at all. What stands in every file always is told.

@@ -247,6 +247,13 @@ void DocumentSaving::finished(const SaveJob::Result &result)
     }
 }
 
+QString DocumentSaving::toldExport() const
+{
+    const QString path = shownPath(shortPath(m_path));
+    return m_made ? (qtTrId(m_made->told).arg(path) + u' ' + m_made->remarks).trimmed()
+                  : qtTrId("kToldExported").arg(path);
+}
+
 /// Makes what was written known. An unsure one leaves the document changed, for its history has
 /// gone on.
 void DocumentSaving::takeOver(const SaveJob::Result &result)
@@ -255,10 +262,8 @@ void DocumentSaving::takeOver(const SaveJob::Result &result)
         if (m_purpose == SavePurpose::Save)
             m_document.wasWritten(*result.written, m_changeCount);
         if (result.outcome == SaveJob::Outcome::Written)
-            emit m_document.told(m_purpose == SavePurpose::Save
-                                     ? m_document.savedText()
-                                     : qtTrId(m_made ? m_made->told : "kToldExported")
-                                           .arg(shownPath(shortPath(m_path))));
+            emit m_document.told(m_purpose == SavePurpose::Save ? m_document.savedText()
+                                                                : toldExport());
     } catch (const std::bad_alloc &) { // it is written all the same
     }
 }

@@ -24,6 +24,7 @@ struct MadeBytes
     QByteArray bytes;
     const char *told;                            ///< id of what is said afterwards, of the path
     const char *failed = "kExportFailedMessage"; ///< the same of a failure, of the name
+    QString remarks = {};                        ///< what is said with it afterwards
 };
 
 /// One save or export of a document: asks for a place if need be, runs the job, shows what went
@@ -71,6 +72,7 @@ private:
     void presentUnsure(const SaveJob::Result &result);
     void tellNotKept(const std::vector<NotKept> &notKept);
     [[nodiscard]] QString suggestedPath() const;
+    [[nodiscard]] QString toldExport() const;
     [[nodiscard]] SavePanel panelForCopy() const;
     /// What is expected at a place that was chosen; none: whatever is there.
     [[nodiscard]] std::optional<FileState> expectedAt(const QString &path) const;

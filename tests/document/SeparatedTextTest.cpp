@@ -69,8 +69,10 @@ private slots:
             << u"a;b\r\n\"x\ny\";\"c\r\nd;e\r\n"_s << Kind::UnclosedQuote << 3 << 4;
         QTest::addRow("text behind") << u"a;b\rc;\"d\"e\r"_s << Kind::TextBehindQuote << 2 << 6;
         QTest::addRow("zero") << u"sep=;\na;b"_s + QChar(0) << Kind::ZeroCharacter << 2 << 4;
-        QTest::addRow("endless") << u"a;b\n"_s + QString(5'000'000, u';') << Kind::TooLarge << 2
-                                 << 1'999'999;
+        QTest::addRow("endless row")
+            << u"a;b\n"_s + QString(5'000'000, u';') << Kind::TooLarge << 2 << 1'001;
+        QTest::addRow("endless rows")
+            << u"a;b\n"_s.repeated(200'000) << Kind::TooLarge << 150'001 << 1;
     }
     void saysWhereItIsNone()
     {
@@ -122,6 +124,7 @@ private slots:
         QTest::addRow("the other order") << QByteArray("\0a\0;\x20\xAC", 6) << u"a;€"_s;
         QTest::addRow("UTF-8") << QByteArray("a\xC3\xA4") << u"aä"_s;
         QTest::addRow("Windows") << QByteArray("a\xE4\x80") << u"aä€"_s;
+        QTest::addRow("a mark and no letter") << QByteArray("\xEF\xBB\xBF\xE4;a") << u"\uFFFD;a"_s;
     }
     void findsTheBytesForm()
     {
@@ -135,6 +138,10 @@ private slots:
         QCOMPARE(encoded(text, TextForm::Windows1252).bytes, "a??\x80?");
         QCOMPARE(encoded(text, TextForm::Windows1252).lost, 3);
         QCOMPARE(encoded(text, TextForm::Utf8).lost, 1);
+        // Codes that nobody sees are no loss.
+        const EncodedText plain = encoded(u"\u0086E\u0087\u0005\t\u2026"_s, TextForm::Windows1252);
+        QCOMPARE(plain.bytes, "E\t\x85");
+        QCOMPARE(plain.lost, 0);
     }
 };
 

@@ -96,10 +96,12 @@ private slots:
         QTest::addColumn<Kind>("kind");
         QTest::addColumn<QString>("place");
         QTest::addRow("number") << u"Nr;Name\n1;A\n\n16384;B\n"_s << Kind::BadNumber
-                                << u"4:1 16384"_s;
-        QTest::addRow("zero") << u"Nr;Name\n0;A\n"_s << Kind::BadNumber << u"2:1 0"_s;
-        QTest::addRow("mark") << u"Name;Skip\n\"A\nB\";1\nC;2\n"_s << Kind::BadMark << u"4:3 2"_s;
-        QTest::addRow("cells") << u"Nr;Name\n1;A; ;more\n"_s << Kind::TooManyCells << u"2:7 more"_s;
+                                << u"4:1 16384 in 1 Nr"_s;
+        QTest::addRow("zero") << u"Nr;Name\n0;A\n"_s << Kind::BadNumber << u"2:1 0 in 1 Nr"_s;
+        QTest::addRow("mark") << u"Name;Skip\n\"A\nB\";1\nC;2\n"_s << Kind::BadMark
+                              << u"4:3 2 in 2 Skip"_s;
+        QTest::addRow("cells") << u"Nr;Name\n1;A; ;more\n"_s << Kind::TooManyCells
+                               << u"2:7 more in 4 "_s;
         QTest::addRow("titles") << u"\nNr;what\n1;A\n"_s << Kind::NoColumns << u"2:1 Nr"_s;
         QTest::addRow("twice") << u"Nr;Name;nr\n1;A;1\n"_s << Kind::DoubledColumn << u"1:9 nr"_s;
         QTest::addRow("no rows") << u"Nr;Name\n;;\n"_s << Kind::NoRows << u"1:1 "_s;
@@ -111,13 +113,16 @@ private slots:
         TextFault fault;
         QVERIFY(!rowsOf(text, fault));
         QTEST(fault.kind, "kind");
-        QTEST(u"%1:%2 %3"_s.arg(fault.line).arg(fault.column).arg(fault.cell), "place");
+        QString place = u"%1:%2 %3"_s.arg(fault.line).arg(fault.column).arg(fault.cell);
+        if (fault.cellNumber > 0)
+            place += u" in %1 %2"_s.arg(fault.cellNumber).arg(fault.title);
+        QTEST(place, "place");
     }
 
     void takesOnlyWhatIsTold()
     {
         TextFault fault;
-        const auto rows = rowsOf(u"Name;NR;Skip;Lock;other\nÄ;;x;1;?\n;7;;;\nB;8;;0;\n"_s, fault);
+        const auto rows = rowsOf(u"Name;NR;Lock;other;Skip\nÄ;;1;?;x\n;7\nB;8;0;;\n"_s, fault);
         QVERIFY(rows);
         using Difference = StationDifference;
         QCOMPARE(rows->told[0], StationDifferences() | Difference::Name | Difference::Skipped |
@@ -174,7 +179,7 @@ private slots:
         TextFault fault;
         std::optional<StationRows> rows = rowsOf(text.replace(u"\u0086E\u0087 "_s, u"E"_s), fault);
         QVERIFY(rows);
-        QCOMPARE(completeRows(*rows, list), list.size());
+        QCOMPARE(completeRows(*rows, list).certain, list.size());
         for (std::size_t i = 0; i < list.size(); ++i) {
             const LGStation &row = *rows->stations[list.size() - 1 - i];
             QCOMPARE(row.shownName(), list[i]->shownName());
@@ -182,7 +187,7 @@ private slots:
         }
         // A list that was reordered since: the name goes before the occurrence.
         rows = rowsOf(u"Key;Name\nn1-t2-s3-f4-3;A\n"_s, fault);
-        QCOMPARE(completeRows(*rows, list), std::size_t(1));
+        QCOMPARE(completeRows(*rows, list).certain, std::size_t(1));
         QCOMPARE(rows->stations[0]->progNum(), 1);
     }
 
@@ -204,7 +209,7 @@ private slots:
             station(u"A;1"_s, {u"1"_s, u"2"_s, u"3"_s}, 0), station(u"B"_s, {}, 1),
             station(u"C"_s, {u"1-1"_s, u"2"_s, u"4"_s}, 2), station(u"D\r\nd"_s, {}, 3)};
         const ReferenceText text = referenceText(list);
-        QCOMPARE(text.bytes, "1;A,1;1-2-3\r\n2;B;--\r\n3;C;--\r\n4;D  d;--\r\n");
+        QCOMPARE(text.bytes, "1;A,1;1-2-3\r\n2;B;?-?-?\r\n3;C;?-?-?\r\n4;D  d;?-?-?\r\n");
         QCOMPARE(text.changedNames, std::size_t(2));
         QCOMPARE(text.byNameAlone, std::size_t(3));
         StationList shuffled{list[2], list[1], list[0]};
@@ -213,6 +218,12 @@ private slots:
         applyReferenceOrder(shuffled, *entries);
         QCOMPARE(shuffled, (StationList{list[0], list[1], list[2]}));
         QVERIFY(referenceText({list[0], list[1]}).isTooShort);
+        // Empty identifiers are told as well, and whatever is told is not taken for none.
+        const StationList odd{station(u"X"_s, {u"1"_s, u"2"_s, {}}, 0), station(u"Y"_s, {}, 1),
+                              station(u"Z"_s, {{}, {}, u"?"_s}, 2)};
+        StationList mixed{odd[2], odd[0], odd[1]};
+        applyReferenceOrder(mixed, *referenceListFromData(referenceText(odd).bytes));
+        QCOMPARE(mixed, odd);
     }
 
     void escapesTables()

@@ -9,6 +9,8 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDialogButtonBox>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -52,13 +54,13 @@ private slots:
         QTest::addColumn<int>("remarks");
         QTest::addRow("semicolons, one byte a letter")
             << ExportOptions{.separator = u';', .form = TextForm::Windows1252}
-            << QByteArray("kColumnName;kColumnNumber;kColumnSkipped;kColumnKey\r\n"
+            << QByteArray("kColumnName;kColumnNumber;kColumnSkipped;stationKey\r\n"
                           "\"A;\"\"b\"\" ?\";1;0;x\r\nB;2;1;n1-t1019-s10301\r\nA<c>;3;0;x-2\r\n")
             << 1;
         // Of the rows on show, the keys are those of the whole list.
         QTest::addRow("what is shown")
             << ExportOptions{.form = TextForm::Utf8, .onlyShown = true}
-            << QByteArray("kColumnName,kColumnNumber,kColumnSkipped,kColumnKey\r\n"
+            << QByteArray("kColumnName,kColumnNumber,kColumnSkipped,stationKey\r\n"
                           "\"A;\"\"b\"\" \xC5\x81\",1,0,x\r\nA<c>,3,0,x-2\r\n")
             << 0;
         QTest::addRow("no keys") << ExportOptions{.hasKeys = false, .onlyShown = true}
@@ -68,10 +70,10 @@ private slots:
                                  << 0;
         QTest::addRow("reference list")
             << ExportOptions{.format = Format::Order}
-            << QByteArray("1;A,\"b\" \xC5\x81;--\r\n2;B;1-1019-10301\r\n3;A<c>;--\r\n") << 2;
+            << QByteArray("1;A,\"b\" \xC5\x81;?-?-?\r\n2;B;1-1019-10301\r\n3;A<c>;?-?-?\r\n") << 2;
         QTest::addRow("too short for one")
             << ExportOptions{.format = Format::Order, .onlyShown = true}
-            << QByteArray("1;A,\"b\" \xC5\x81;--\r\n3;A<c>;--\r\n") << 3;
+            << QByteArray("1;A,\"b\" \xC5\x81;?-?-?\r\n3;A<c>;?-?-?\r\n") << 3;
     }
     void writesTheColumnsOnShow()
     {
@@ -110,10 +112,17 @@ private slots:
         auto *format = dialog->findChild<QComboBox *>(u"exportFormat"_s);
         format->setCurrentIndex(static_cast<int>(Format::Page));
         QVERIFY(!separator->isEnabled() && separator->toolTip() == u"kTipExportTableOnly"_s);
+        format->setCurrentIndex(static_cast<int>(Format::Order));
+        QString told;
+        connect(&editor.document, &Document::told, this,
+                [&told](const QString &text) { told = text; });
+        // Who does not see the line hears it.
+        auto *button = dialog->findChild<QDialogButtonBox *>()->buttons().first();
+        QVERIFY(button->accessibleDescription().contains(u"kExportByName"_s));
         format->setCurrentIndex(static_cast<int>(Format::Table));
         QVERIFY(!dialog->findChild<QComboBox *>(u"exportStations"_s)->isEnabled());
         dialog->accept();
-        QTRY_COMPARE(contentOf(path), "\xEF\xBB\xBFkColumnNumber\tkColumnKey\r\n"
+        QTRY_COMPARE(contentOf(path), "\xEF\xBB\xBFkColumnNumber\tstationKey\r\n"
                                       "1\tx\r\n2\tn1-t1019-s10301\r\n3\tx-2\r\n");
         QVERIFY(editor.prompts.savePanels().front().suggestedPath.endsWith(u"list.tsv"_s));
         QVERIFY(!editor.document.isDirty());

@@ -22,7 +22,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 /// Stations of which some share names, identifiers and whatever else tells them apart.
-QByteArray randomList(QRandomGenerator &random, bool isJSON)
+QByteArray randomList(QRandomGenerator &random, bool isJSON, int stationsOfNumber = 1)
 {
     const QStringList names{u"Das Erste"_s, u"RTL HD"_s, u"a;b"_s, u"\"q\", r"_s, u"Ä"_s, u" x"_s};
     std::vector<Item> items;
@@ -32,7 +32,8 @@ QByteArray randomList(QRandomGenerator &random, bool isJSON)
         const QString name = names[random.bounded(names.size())];
         const QString id = QString::number(random.bounded(4));
         const bool isTold = random.bounded(4) > 0;
-        Item item = makeStation(3 * i + 1, name);
+        const int number = 3 * (i / stationsOfNumber) + 1;
+        Item item = makeStation(number, name);
         QByteArray more = ",\"skipped\":false";
         for (const auto &[key, keyOfJSON] :
              {std::pair{u"original_network_id"_s, "ONID"}, std::pair{u"transport_id"_s, "TSID"},
@@ -43,8 +44,8 @@ QByteArray randomList(QRandomGenerator &random, bool isJSON)
             more += ",\""_ba + keyOfJSON + "\":" + id.toUtf8();
         }
         items.push_back(item);
-        channels.append(QString::fromUtf8(makeChannel(
-            name.toUtf8().replace('"', "\\\""), QByteArray::number(3 * i + 1), {.more = more})));
+        channels.append(QString::fromUtf8(makeChannel(name.toUtf8().replace('"', "\\\""),
+                                                      QByteArray::number(number), {.more = more})));
     }
     if (!isJSON)
         return fileOf(items);
@@ -172,42 +173,161 @@ private slots:
         }
     }
 
+    /// Where several stations may have one number, those that share one are left alone.
+    void oneNumberMovesOneStation()
+    {
+        QRandomGenerator random(13);
+        for (int round = 0; round < 60; ++round) {
+            Editor editor({});
+            editor.show(randomList(random, true, random.bounded(1, 4)));
+            std::vector<std::pair<qint64, StationPtr>> expected;
+            for (const StationPtr &station : *editor.document.stations())
+                expected.emplace_back(station->progNum(), station);
+            const std::size_t at = random.bounded(static_cast<quint32>(expected.size()));
+            expected[at].first = 3 * random.bounded(40) + 2; // between those that there are
+            const auto edit = [&](std::vector<QStringList> &rows) {
+                rows[at + 1][0] = QString::number(expected[at].first);
+            };
+            QString reason;
+            const auto imported =
+                importedTable(edited(ListExport(editor.controller, usualColumns()).make({}).bytes,
+                                     u',', TextForm::MarkedUtf8, edit),
+                              {}, editor.document, reason);
+            QVERIFY2(imported, qPrintable(reason));
+            std::make_shared<StationComparison>(editor.controller, *imported)->takeOverAll();
+            std::stable_sort(expected.begin(), expected.end(),
+                             [](const auto &a, const auto &b) { return a.first < b.first; });
+            std::vector<std::pair<qint64, StationPtr>> after;
+            for (const StationPtr &station : *editor.document.stations())
+                after.emplace_back(station->progNum(), station);
+            QCOMPARE(after, expected);
+        }
+    }
+
     void findsListAndRule_data()
     {
-        QTest::addColumn<QString>("table");
-        QTest::addColumn<bool>("isByRows");
-        QTest::addColumn<QString>("remark");
-        QTest::addColumn<int>("source");
-        QTest::addRow("as it was") << u"Nr;progname\n1;A\n2;B\n3;C\n"_s << false << QString() << 0;
-        QTest::addRow("no names") << u"progNum;what\n1;A\n"_s << false << QString() << -1;
-        QTest::addRow("rows moved")
-            << u"progNum;progName\n1;A\n3;C\n2;B\n"_s << true << u"kImportByRows"_s << 0;
-        QTest::addRow("renumbered in place")
-            << u"progNum;progName\n1;A\n5;B\n3;C\n"_s << false << QString() << 0;
-        QTest::addRow("renumbered and moved")
-            << u"progNum;progName\n3;C\n1;A\n5;B\n"_s << false << u"kImportByNumbers"_s << 0;
-        QTest::addRow("no numbers") << u"progName\nC\nA\nB\n"_s << true << u"kImportByRows"_s << 0;
-        QTest::addRow("another list")
-            << u"progNum;progName\n7;Z\n8;Y\n"_s << false << u"kImportOtherList"_s << 1;
+        QTest::addColumn<QByteArray>("table");
+        QTest::addColumn<QString>("remark"); ///< but that names alone decide
+        QTest::addColumn<QString>("lists");  ///< once all is taken over; empty: it is no table
+        const auto row = [](const char *name, const QByteArray &table, const QString &remark,
+                            const QString &lists) {
+            QTest::newRow(name) << table << remark << lists;
+        };
+        const QString cable = u"1 A, 2 B, 3 C"_s, satellite = u" | 7 Z, 8 Y, 9 C"_s;
+        row("as it was", "Nr;progname\n1;A\n2;B\n3;C\n", u"kImportUnknownColumns"_s,
+            cable + satellite);
+        row("no names", "progNum;what\n1;A\n", {}, {});
+        row("rows moved", "progNum;progName\n1;A\n3;C\n2;B\n", u"kImportByRows"_s,
+            u"1 A, 2 C, 3 B"_s + satellite);
+        row("a number left out", "progNum;progName\n;C\n1;A\n2;B\n", u"kImportByRows"_s,
+            u"1 C, 2 A, 3 B"_s + satellite);
+        row("renumbered in place", "progNum;progName\n1;A\n5;B\n3;C\n", {},
+            u"1 A, 3 C, 5 B"_s + satellite);
+        row("renumbered and moved", "progNum;progName\n3;C\n1;A\n5;B\n", u"kImportByNumbers"_s,
+            u"1 A, 3 C, 5 B"_s + satellite);
+        row("no numbers", "progName\nC\nA\nB\n", u"kImportRowsAlone"_s,
+            u"1 C, 2 A, 3 B"_s + satellite);
+        row("another list", "progNum;progName\n8;Z\n7;Y\n", u"kImportOtherList"_s,
+            cable + u" | 7 Y, 8 Z, 9 C"_s);
+        // That a name is on show as well counts for less than a key or an identifier.
+        row("keys of another list", "progNum;progName;stationKey\n5;C;n1-t2-s3\n",
+            u"kImportOtherList"_s, cable + u" | 5 C, 7 Z, 8 Y"_s);
+        row("keys without a title", "progNum;progName;?\n5;C;n1-t2-s3\n", u"kImportOtherList"_s,
+            cable + u" | 5 C, 7 Z, 8 Y"_s);
+        row("identifiers", "progNum;progName;serviceId;transportStreamId\n5;C;3;2\n",
+            u"kImportOtherList"_s, cable + u" | 5 C, 7 Z, 8 Y"_s);
+        row("a damaged letter", "\xEF\xBB\xBFprogNum;progName\n5;B\n6;\xE4\n", {},
+            u"1 A, 3 C, 5 B"_s + satellite);
     }
     void findsListAndRule()
     {
-        QFETCH(const QString, table);
-        QFETCH(const int, source);
+        QFETCH(const QByteArray, table);
+        QFETCH(const QString, lists);
         std::vector<Item> items = lettered({1, 2, 3});
         items.push_back(makeStation(7, u"Z"_s, FileSource::Satellite));
         items.push_back(makeStation(8, u"Y"_s, FileSource::Satellite));
+        items.push_back(makeStation(9, u"C"_s, FileSource::Satellite));
+        items.back().insert(items.back().end(), {{u"original_network_id"_s, u"1"_s},
+                                                 {u"transport_id"_s, u"2"_s},
+                                                 {u"service_id"_s, u"3"_s}});
         Editor editor(items);
         QString reason;
-        const auto imported = importedTable(table.toUtf8(), {}, editor.document, reason);
-        QCOMPARE(imported.has_value(), source >= 0);
+        const auto imported = importedTable(table, {}, editor.document, reason);
+        QCOMPARE(!imported, lists.isEmpty());
         if (!imported) {
             QVERIFY(reason.contains(u"kFaultNoColumns"_s));
             return;
         }
-        QTEST(imported->rule == NumberRule::ByRows, "isByRows");
-        QTEST(imported->remark, "remark");
-        QVERIFY(!imported->lists.list(true, source)->empty());
+        QStringList remarks = imported->remark.split(u' ');
+        remarks.removeAll(u"kImportByNames"_s);
+        QTEST(remarks.join(u' '), "remark");
+        std::make_shared<StationComparison>(editor.controller, *imported)->takeOverAll();
+        QCOMPARE(editor.list(0) + u" | "_s + editor.list(1), lists);
+    }
+
+    /// What spreadsheets of other countries write, with the titles and words of those.
+    void readsBytesOfOtherCountries_data()
+    {
+        QTest::addColumn<QByteArray>("table");
+        QTest::newRow("Polish, a mark")
+            << QByteArray("progNum;progName;skipped;blocked\n1;X\xA3\x9F;PRAWDA;FA\xA3SZ\n");
+        QTest::newRow("Turkish, a mark")
+            << QByteArray("progNum;progName;skipped;blocked\n2;A;DO\xD0RU;YANLI\xDE\n");
+        QTest::newRow("Polish, a name") << QByteArray("progNum;progName;skipped\n1;X\xA3\x9F;1\n");
+        QTest::newRow("Mac, a name") << QByteArray("progNum;progName;skipped\n3;X\x8A\x8A;1\n");
+    }
+    void readsBytesOfOtherCountries()
+    {
+        QFETCH(const QByteArray, table);
+        Editor editor({makeStation(1, u"X\u0141\u017A"_s), makeStation(2, u"A"_s),
+                       makeStation(3, u"X\u00E4\u00E4"_s)});
+        QString reason;
+        const auto imported = importedTable(table, {}, editor.document, reason);
+        QVERIFY2(imported, qPrintable(reason));
+        const StationComparison comparison(editor.controller, *imported);
+        QCOMPARE(comparison.count(ComparisonKind::OnlyThere), std::size_t(0));
+        QCOMPARE(comparison.count(ComparisonKind::Flags), std::size_t(1));
+    }
+
+    /// Rows that tell two stations are left to a person; what is clear beside them is not.
+    void unclearRowsAreNotChecked_data()
+    {
+        QTest::addColumn<FileSource>("source");
+        QTest::addColumn<QString>("rows");
+        QTest::addColumn<QString>("after");
+        QTest::newRow("renamed in a chain")
+            << FileSource::Analogue << u"1;B;x\n2;N;x-2\n3;C;x-3\n"_s << u"1 B, 2 N, 3 C"_s;
+        QTest::newRow("renamed in a ring")
+            << FileSource::Analogue << u"7;B;x\n8;A;x-2\n9;C;x-3\n"_s << u"1 A, 2 B, 9 C"_s;
+        QTest::newRow("reordered since")
+            << FileSource::Cable << u"7;B;x\n8;A;x-2\n9;C;x-3\n"_s << u"7 B, 8 A, 9 C"_s;
+        QTest::newRow("twice") << FileSource::Cable << u"8;A;x\n9;A;x\n6;C;x-3\n"_s
+                               << u"1 A, 2 B, 6 C"_s;
+        QTest::newRow("columns out of step")
+            << FileSource::Cable << u"7;D;x\n8;A;n1-t2-s3\n9;C;x-3\n"_s << u"1 A, 2 B, 4 D, 9 C"_s;
+    }
+    void unclearRowsAreNotChecked()
+    {
+        QFETCH(const FileSource, source);
+        QFETCH(const QString, rows);
+        std::vector<Item> items = lettered({1, 2, 3}, source);
+        if (rows.contains(u";D"_s)) {
+            items.push_back(makeStation(4, u"D"_s, source));
+            items.back().insert(items.back().end(), {{u"original_network_id"_s, u"1"_s},
+                                                     {u"transport_id"_s, u"2"_s},
+                                                     {u"service_id"_s, u"3"_s}});
+        }
+        Editor editor(items);
+        QString reason;
+        const auto imported = importedTable("progNum;progName;stationKey\n" + rows.toUtf8(), {},
+                                            editor.document, reason);
+        QVERIFY2(imported, qPrintable(reason));
+        const auto comparison = std::make_shared<StationComparison>(editor.controller, *imported);
+        QCOMPARE(imported->remark == u"kImportUnclear"_s, comparison->uncheckedLoose() > 0);
+        comparison->takeOverAll();
+        const auto segment =
+            source == FileSource::Analogue ? StationSource::Analogue : StationSource::Cable;
+        QTEST(editor.list(static_cast<int>(segment)), "after");
     }
 
     /// Names where stations may be renamed, and marks, are changed in one step.
@@ -243,7 +363,7 @@ private slots:
         writeFile(good, "progNum,progName\n2,A\n");
         writeFile(bad, "progNum,progName\n1,A\n2.5,B\n");
         editor.controller.comparing().compareWithTable(bad);
-        QVERIFY(editor.prompts.lastText().contains(u"kFaultPlace kFaultBadNumber"_s));
+        QVERIFY(editor.prompts.lastText().contains(u"kFaultCellPlace kFaultBadNumber"_s));
         editor.prompts.answerOpenPanel({good});
         editor.controller.comparing().askForTable();
         QTRY_COMPARE(wanted.size(), std::size_t(1));

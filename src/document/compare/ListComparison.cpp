@@ -65,7 +65,11 @@ void count(ListComparison &comparison)
 class Comparing
 {
 public:
-    explicit Comparing(std::size_t stations) { m_pairing.reserve(stations); }
+    Comparing(std::size_t stations, const KnownPairs &known)
+    {
+        m_pairing.reserve(stations);
+        m_pairing.know(known);
+    }
     void compareLists(const StationList &first, const StationList &second,
                       ComparedLists &&compared);
     void compareAcross(bool isTV);
@@ -184,7 +188,8 @@ bool ListComparison::isEmpty() const
            onlyFirst + onlySecond + doubtful + numbers + names + skipped + locked + fields == 0;
 }
 
-ListComparison compare(const StationLists &first, const StationLists &second)
+ListComparison compare(const StationLists &first, const StationLists &second,
+                       const KnownPairs &known)
 {
     const auto listOf = [](const StationLists &lists, bool isTV,
                            int source) -> const StationList & {
@@ -197,7 +202,7 @@ ListComparison compare(const StationLists &first, const StationLists &second)
         for (const StationLists *lists : {&first, &second})
             count += listOf(*lists, i % 2 == 0, i / 2).size();
     }
-    Comparing comparing(count);
+    Comparing comparing(count, known);
     for (const bool isTV : {true, false}) {
         for (int source = 0; source < stationSourceCount; ++source) {
             const StationList &one = listOf(first, isTV, source);

@@ -65,8 +65,9 @@ struct ListComparison
 };
 
 /// Matches stations as pairStations() does: list by list, and then what is left over across the
-/// lists of a mode. Reads the stations' names; otherwise changes nothing.
-[[nodiscard]] ListComparison compare(const StationLists &first, const StationLists &second);
+/// lists of a mode, unless it is known. Reads the stations' names; otherwise changes nothing.
+[[nodiscard]] ListComparison compare(const StationLists &first, const StationLists &second,
+                                     const KnownPairs &known = {});
 
 /// Drops the differences that a second record does not tell, where those are but parts of stations.
 void keepOnlyTold(ListComparison &comparison,

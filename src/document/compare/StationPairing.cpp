@@ -44,6 +44,7 @@ StationPairing::Pairs StationPairing::pair(const std::vector<std::size_t> &first
     m_second.places = second;
     m_first.left = indexesOf(first);
     m_second.left = indexesOf(second);
+    pairKnown();
     pairByIdentity();
     pairByContent();
     pairBySharedIdentity();
@@ -51,6 +52,27 @@ StationPairing::Pairs StationPairing::pair(const std::vector<std::size_t> &first
     pairByName();
     pairByUnedited(false);
     return std::exchange(m_pairs, {});
+}
+
+/// A station that is known but is in another list, or in none any more, is found as any other.
+void StationPairing::pairKnown()
+{
+    if (m_known.isEmpty())
+        return;
+    QHash<const LGStation *, std::size_t> indexes;
+    for (const std::size_t i : m_first.left)
+        indexes.insert(&m_facts.station(m_first.places[i]), i);
+    std::erase_if(m_second.left, [this, &indexes](std::size_t j) {
+        const auto known = m_known.constFind(&m_facts.station(m_second.places[j]));
+        if (known == m_known.cend() || !known->first)
+            return known != m_known.cend();
+        const auto index = indexes.constFind(known->first.get());
+        if (index == indexes.cend() || m_pairs[*index])
+            return false;
+        m_pairs[*index] = {j, known->likeness};
+        return true;
+    });
+    std::erase_if(m_first.left, [this](std::size_t i) { return m_pairs[i].has_value(); });
 }
 
 /// Stations without a fact are left out, and so are pairs that have no likeness.
@@ -291,9 +313,11 @@ void StationPairing::pairByName()
            [](std::size_t, std::size_t) { return std::optional(Likeness::Loose); });
 }
 
-StationPairing::Pairs pairStations(const StationList &first, const StationList &second)
+StationPairing::Pairs pairStations(const StationList &first, const StationList &second,
+                                   const KnownPairs &known)
 {
     StationPairing pairing;
+    pairing.know(known);
     pairing.reserve(first.size() + second.size());
     const auto added = [&pairing](const StationList &list) {
         std::vector<std::size_t> places;

@@ -2,7 +2,10 @@
 
 #include "document/compare/StationFacts.h"
 
+#include <QHash>
+
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace quillet {
@@ -22,6 +25,15 @@ struct StationPair
     Likeness likeness = Likeness::Sure;
 };
 
+/// A station of the first of two lists, of which a record of the second one is known to be.
+struct KnownPair
+{
+    StationPtr first; ///< null: it is none of those that are there
+    Likeness likeness = Likeness::Sure;
+};
+/// By the records of the second list.
+using KnownPairs = QHash<const LGStation *, KnownPair>;
+
 /// Finds stations again in other lists. The two may be of different variants of the file, and
 /// records need not tell everything. Goes by the identifiers; among stations that share those by
 /// what they hold, by frequency, name and number; then by frequency and name; then by name alone;
@@ -35,6 +47,8 @@ public:
 
     /// Makes room for so many stations.
     void reserve(std::size_t count) { m_facts.reserve(count); }
+    /// What is known goes before all that is found.
+    void know(KnownPairs known) { m_known = std::move(known); }
     /// Adds a station. Returns its place, by which it is named from then on.
     std::size_t add(const LGStation &station) { return m_facts.add(station); }
     /// Finds the stations of one list again in another, each at most once: for each where it is
@@ -70,6 +84,7 @@ private:
     [[nodiscard]] std::vector<Counts> count(const FactOf &factOf,
                                             const std::vector<std::size_t> &ofFirst,
                                             const std::vector<std::size_t> &ofSecond);
+    void pairKnown();
     void findNear();
     void pairByIdentity();
     void pairByContent();
@@ -79,6 +94,7 @@ private:
     void pairByName();
     [[nodiscard]] bool isAgainstIdentities(std::size_t i, std::size_t j) const;
 
+    KnownPairs m_known;
     StationFacts m_facts;
     Side m_first, m_second;
     Pairs m_pairs;
@@ -86,7 +102,7 @@ private:
 };
 
 /// Finds the stations of one list again in another.
-[[nodiscard]] StationPairing::Pairs pairStations(const StationList &first,
-                                                 const StationList &second);
+[[nodiscard]] StationPairing::Pairs
+pairStations(const StationList &first, const StationList &second, const KnownPairs &known = {});
 
 } // namespace quillet

@@ -3,15 +3,16 @@
 #include "document/order/ReferenceList.h"
 #include "support/TextConversion.h"
 
-#include <array>
+#include <algorithm>
 
 namespace quillet {
 
 namespace {
 
 constexpr QChar separator = u';';
-/// Identifiers that no station has: none of the three is told.
-constexpr QLatin1String noIdentifiers("--");
+/// Stands for each identifier that is not told. An empty one would be that of stations whose file
+/// has an empty text there.
+constexpr QChar noIdentifier = u'?';
 
 bool isLineEnd(QChar c)
 {
@@ -43,12 +44,27 @@ bool areTexts(const LGStation &station)
     return station.service_id() && station.transport_id() && station.originalNetwork_id();
 }
 
+/// Identifiers that none of the stations has.
+QString noIdentifiers(const StationList &stations)
+{
+    const auto isService = [&stations](const QString &part) {
+        return std::any_of(stations.begin(), stations.end(), [&part](const StationPtr &station) {
+            return station->service_id() == part;
+        });
+    };
+    QString part = noIdentifier;
+    while (isService(part))
+        part += noIdentifier;
+    return QStringList(3, part).join(u'-');
+}
+
 } // namespace
 
 ReferenceText referenceText(const StationList &stations)
 {
     ReferenceText made;
     QString text;
+    const QString nothing = noIdentifiers(stations);
     for (const StationPtr &station : stations) {
         QString name = station->shownName();
         bool isChanged = false;
@@ -61,9 +77,10 @@ ReferenceText referenceText(const StationList &stations)
         const std::optional<QString> identifiers = identifiersOf(*station);
         made.changedNames += isChanged ? 1 : 0;
         made.byNameAlone += identifiers ? 0 : 1;
+        made.renamed += !identifiers && station->isRenamed() ? 1 : 0;
         made.withNumbers += identifiers && !areTexts(*station) ? 1 : 0;
         text += station->progNumString() + separator + name + separator +
-                identifiers.value_or(noIdentifiers) + QStringLiteral("\r\n");
+                identifiers.value_or(nothing) + QStringLiteral("\r\n");
     }
     made.bytes = getAsData(text);
     made.entries = stations.size();

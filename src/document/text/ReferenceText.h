@@ -20,6 +20,9 @@ struct ReferenceText
     /// Stations that do not tell three identifiers, or one with "-" or the like in it: they are
     /// found again by their names alone.
     std::size_t byNameAlone = 0;
+    /// Those of them that have another name than was read, by which they are not found again before
+    /// the list has been saved and opened.
+    std::size_t renamed = 0;
     /// Stations with an identifier that is a number in their file. Other lists find them again by
     /// their identifiers, which are text there; this one by their names alone.
     std::size_t withNumbers = 0;

@@ -77,7 +77,9 @@ bool RowReading::take(RowField field, const QString &text, TextFault::Kind &kind
         kind = TextFault::Kind::BadMark;
         return takeMark(field, text);
     case RowField::Name:
-        takeName(text);
+        if (!text.contains(
+                QChar::ReplacementCharacter)) // what was damaged on its way tells nothing
+            takeName(text);
         return true;
     case RowField::NetworkId:
         takeIdentifier(keys.keyNetwork_id, text);

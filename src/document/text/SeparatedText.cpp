@@ -39,6 +39,8 @@ public:
                 passLineEnd();
                 continue;
             }
+            if (rows.size() == mostSeparatedRows)
+                return failed(TextFault::Kind::TooLarge, fault);
             SeparatedRow &row = rows.emplace_back();
             do {
                 if (!readCell(row, fault))
@@ -77,7 +79,7 @@ private:
 
     bool readCell(SeparatedRow &row, TextFault &fault)
     {
-        if (++m_cells > mostSeparatedCells)
+        if (++m_cells > mostSeparatedCells || row.size() == mostCellsOfRow)
             return failed(TextFault::Kind::TooLarge, fault);
         SeparatedCell &cell = row.emplace_back();
         cell.line = m_line;

@@ -44,8 +44,11 @@ struct SeparatedTable
     std::vector<SeparatedRow> rows;
 };
 
-/// The cells that a text may have: more than any list needs, and what fits into memory.
-inline constexpr std::size_t mostSeparatedCells = 2'000'000;
+/// How much a text may have: more than any list needs, and what is read and compared in a time
+/// that can be waited for.
+inline constexpr std::size_t mostSeparatedRows = 150'000;
+inline constexpr std::size_t mostCellsOfRow = 1'000;
+inline constexpr std::size_t mostSeparatedCells = 4'000'000;
 
 /// Reads what spreadsheets write: CR, LF or CR LF ends a row; a quote within a cell that does not
 /// begin with one stands for itself. Without a separator given, it is the one that a first line

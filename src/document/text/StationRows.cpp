@@ -1,14 +1,16 @@
 #include "document/text/StationRows.h"
 
 #include "document/text/CellValues.h"
+#include "document/text/RowMatching.h"
 #include "document/text/RowReading.h"
 #include "document/text/StationKey.h"
-#include "model/CleanName.h"
 #include "model/LGLegacyStation.h"
 #include "support/ShortText.h"
 
+#include <QSet>
+
 #include <algorithm>
-#include <array>
+#include <iterator>
 #include <utility>
 
 namespace quillet {
@@ -36,9 +38,14 @@ auto firstRow(const SeparatedTable &table)
                             [](const SeparatedRow &row) { return isBlank(row); });
 }
 
+QString toldText(const QString &text)
+{
+    return shortened(text.simplified(), longestCellTold);
+}
+
 TextFault faultAt(const SeparatedCell &cell, TextFault::Kind kind)
 {
-    return {kind, cell.line, cell.column, shortened(cell.text.simplified(), longestCellTold)};
+    return {kind, cell.line, cell.column, toldText(cell.text)};
 }
 
 /// By which a station may be found.
@@ -47,24 +54,74 @@ bool findsStations(RowField field)
     return field == RowField::Key || field == RowField::Name || field == RowField::ServiceId;
 }
 
-std::optional<Columns> columnsOf(const SeparatedRow &titles, const RowTitles &known,
-                                 TextFault &fault)
+/// Whether a column has nothing but keys, as they are written: no two are the same. An "x" alone
+/// may be a mark as well.
+bool isOfKeys(const SeparatedTable &table, std::size_t column)
 {
-    Columns columns;
-    for (const SeparatedCell &cell : titles) {
-        const RowField field = known.value(foldedTitle(cell.text), RowField::Other);
-        if (field != RowField::Other &&
-            std::find(columns.begin(), columns.end(), field) != columns.end()) {
-            fault = faultAt(cell, TextFault::Kind::DoubledColumn);
-            return {};
+    QSet<QString> keys;
+    bool areTelling = false;
+    for (auto row = std::next(firstRow(table)); row != table.rows.end(); ++row) {
+        if (column >= row->size() || isBlank((*row)[column].text))
+            continue;
+        const QString text = (*row)[column].text.trimmed();
+        const std::optional<StationKey> key = StationKey::fromText(text);
+        const bool isOwnText = key && (key->text() == text || text.front().isDigit());
+        if (!isOwnText || keys.contains(text))
+            return false;
+        keys.insert(text);
+        areTelling = areTelling || text.size() > 1;
+    }
+    return areTelling;
+}
+
+/// Sets the columns of the rows; false with the fault set.
+bool readTitles(const SeparatedTable &table, const RowTitles &known, StationRows &rows,
+                TextFault &fault)
+{
+    const SeparatedRow &titles = *firstRow(table);
+    std::vector<std::size_t> unknown;
+    for (std::size_t i = 0; i < titles.size(); ++i) {
+        const auto title = known.constFind(foldedTitle(titles[i].text));
+        const RowField field = title == known.cend() ? RowField::Other : *title;
+        if (field != RowField::Other && rows.hasColumn(field)) {
+            fault = faultAt(titles[i], TextFault::Kind::DoubledColumn);
+            return false;
         }
-        columns.push_back(field);
+        rows.columns.push_back(field);
+        if (title == known.cend())
+            unknown.push_back(i);
     }
-    if (std::none_of(columns.begin(), columns.end(), findsStations)) {
-        fault = faultAt(titles.front(), TextFault::Kind::NoColumns);
-        return {};
+    for (const std::size_t i : unknown) {
+        if (!rows.hasColumn(RowField::Key) && isOfKeys(table, i))
+            rows.columns[i] = RowField::Key;
+        else if (!isBlank(titles[i].text))
+            rows.unknown.append(toldText(titles[i].text));
     }
-    return columns;
+    if (std::any_of(rows.columns.begin(), rows.columns.end(), findsStations))
+        return true;
+    fault = faultAt(titles.front(), TextFault::Kind::NoColumns);
+    return false;
+}
+
+/// Reads a row of the table, of whose columns those are known in which an empty cell is a mark that
+/// is not set. Cells that a program left out at its end are empty as well.
+bool readRow(const SeparatedRow &row, const SeparatedRow &titles, const Columns &columns,
+             const std::vector<bool> &emptyIsUnset, RowReading &reading, TextFault &fault)
+{
+    for (std::size_t i = 0; i < std::max(row.size(), columns.size()); ++i) {
+        const bool isEmpty = i >= row.size() || isBlank(row[i].text);
+        if (isEmpty && (i >= columns.size() || !emptyIsUnset[i]))
+            continue;
+        TextFault::Kind kind = TextFault::Kind::TooManyCells;
+        if (i < columns.size() &&
+            reading.take(columns[i], isEmpty ? QStringLiteral("0") : row[i].text, kind))
+            continue;
+        fault = faultAt(row[i], kind);
+        fault.cellNumber = static_cast<qsizetype>(i) + 1;
+        fault.title = i < titles.size() ? toldText(titles[i].text) : QString();
+        return false;
+    }
+    return true;
 }
 
 /// The columns in whose empty cells a mark is not set: those of marks that are set, and no other.
@@ -93,13 +150,6 @@ void add(StationRows &rows, const RowReading &row, qsizetype line)
     rows.keys.push_back(row.key() ? std::optional(row.key()->text()) : std::nullopt);
 }
 
-/// What a spreadsheet surely keeps of a name: not the blanks around it and the codes of the
-/// broadcast.
-QString plainName(const QString &name)
-{
-    return cleanName(name).simplified();
-}
-
 /// Only what is told and differs is changed, so that everything else stays as it is in the file.
 StationPtr completed(const LGStation &row, StationDifferences told, const LGStation &station)
 {
@@ -117,56 +167,17 @@ StationPtr completed(const LGStation &row, StationDifferences told, const LGStat
     if (told.testFlag(StationDifference::Locked) && row.isBlocked() != made->isBlocked())
         made->setBlocked(row.isBlocked());
     if (told.testFlag(StationDifference::Name) &&
-        plainName(row.shownName()) != plainName(made->shownName()))
+        RowMatching::plainName(row) != RowMatching::plainName(*made))
         made->setStationName(row.shownName());
     return made;
 }
 
-/// The stations of a list by their keys.
-class KeyedStations
-{
-public:
-    explicit KeyedStations(const StationList &list) : m_list(list)
-    {
-        const QStringList keys = stationKeys(list);
-        for (std::size_t i = 0; i < list.size(); ++i) {
-            m_places.insert(keys[static_cast<qsizetype>(i)], i);
-            Named &named = m_named[alikeAndNamed(*list[i], *list[i])];
-            named.first = named.count++ == 0 ? i : named.first;
-        }
-    }
-
-    /// Of stations that differ in the occurrence alone, the one with the row's name if only one
-    /// has it.
-    [[nodiscard]] const LGStation *find(const QString &key, const LGStation &row) const
-    {
-        const auto place = m_places.constFind(key);
-        if (place == m_places.cend())
-            return nullptr;
-        const LGStation *found = m_list[*place].get();
-        const auto named = m_named.constFind(alikeAndNamed(*found, row));
-        return named != m_named.cend() && named->count == 1 ? m_list[named->first].get() : found;
-    }
-
-private:
-    struct Named
-    {
-        std::size_t first = 0;
-        std::size_t count = 0;
-    };
-
-    static std::pair<QString, QString> alikeAndNamed(const LGStation &station,
-                                                     const LGStation &name)
-    {
-        return {StationKey::of(station).text(), plainName(name.shownName())};
-    }
-
-    const StationList &m_list;
-    QHash<QString, std::size_t> m_places;
-    QHash<std::pair<QString, QString>, Named> m_named;
-};
-
 } // namespace
+
+bool StationRows::hasColumn(RowField field) const
+{
+    return std::find(columns.begin(), columns.end(), field) != columns.end();
+}
 
 QString foldedTitle(const QString &title)
 {
@@ -190,27 +201,16 @@ std::optional<StationRows> stationRows(const SeparatedTable &table, const RowTit
         fault = {TextFault::Kind::NoRows, 0, 0, {}};
         return {};
     }
-    const std::optional<Columns> columns = columnsOf(*head, titles, fault);
-    if (!columns)
-        return {};
-    const std::vector<bool> emptyIsUnset = columnsOfSetMarks(table, *columns);
     StationRows rows;
+    if (!readTitles(table, titles, rows, fault))
+        return {};
+    const std::vector<bool> emptyIsUnset = columnsOfSetMarks(table, rows.columns);
     for (auto row = std::next(head); row != table.rows.end(); ++row) {
         if (isBlank(*row))
             continue;
         RowReading reading(rows.stations.size());
-        for (std::size_t i = 0; i < row->size(); ++i) {
-            const SeparatedCell &cell = (*row)[i];
-            const bool isEmpty = isBlank(cell.text);
-            if (isEmpty && (i >= columns->size() || !emptyIsUnset[i]))
-                continue;
-            TextFault::Kind kind = TextFault::Kind::TooManyCells;
-            if (i >= columns->size() ||
-                !reading.take((*columns)[i], isEmpty ? QStringLiteral("0") : cell.text, kind)) {
-                fault = faultAt(cell, kind);
-                return {};
-            }
-        }
+        if (!readRow(*row, *head, rows.columns, emptyIsUnset, reading, fault))
+            return {};
         add(rows, reading, row->front().line);
     }
     if (rows.stations.empty()) {
@@ -238,19 +238,20 @@ StationRows stationRowsWithoutTitles(const SeparatedTable &table)
     return rows;
 }
 
-std::size_t completeRows(StationRows &rows, const StationList &list)
+RowMatches completeRows(StationRows &rows, const StationList &list, bool mayRename)
 {
-    const KeyedStations keyed(list);
-    std::size_t found = 0;
+    RowMatching matching(rows, list, mayRename);
+    const RowMatches found = matching.match();
+    RowMatches matches{{}, found.certain, found.unclear};
     for (std::size_t i = 0; i < rows.stations.size(); ++i) {
-        const LGStation *station =
-            rows.keys[i] ? keyed.find(*rows.keys[i], *rows.stations[i]) : nullptr;
-        if (!station)
+        const std::optional<std::size_t> place = matching.place(i);
+        if (!place)
             continue;
-        rows.stations[i] = completed(*rows.stations[i], rows.told[i], *station);
-        ++found;
+        const StationPtr row = std::exchange(
+            rows.stations[i], completed(*rows.stations[i], rows.told[i], *list[*place]));
+        matches.pairs.insert(rows.stations[i].get(), found.pairs.value(row.get()));
     }
-    return found;
+    return matches;
 }
 
 } // namespace quillet

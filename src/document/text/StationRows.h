@@ -5,6 +5,7 @@
 
 #include <QHash>
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 #include <vector>
@@ -25,18 +26,23 @@ enum class RowField {
     Other, ///< something that is not read
 };
 
-/// What columns are, by their titles as `foldedTitle` gives them.
+/// What columns are, by their titles as `foldedTitle` gives them. Those that are Other are known,
+/// but not read.
 using RowTitles = QHash<QString, RowField>;
 [[nodiscard]] QString foldedTitle(const QString &title);
 
 /// The rows of a table as stations: records of their own, which hold what their rows tell and
-/// nothing else. The three have an element for each row.
+/// nothing else. Those of a row have an element for each.
 struct StationRows
 {
     StationList stations;
     std::vector<StationDifferences> told;     ///< of a number, a name and marks, what is in the row
     std::vector<qsizetype> lines;             ///< of the text, from 1
     std::vector<std::optional<QString>> keys; ///< as StationKey::text() gives them
+    std::vector<RowField> columns = {};       ///< of a table with titles
+    QStringList unknown = {};                 ///< titles of columns that are not known
+
+    [[nodiscard]] bool hasColumn(RowField field) const;
 };
 
 /// Whether the first row of the table is one of titles that are known, two of them at least.
@@ -44,8 +50,9 @@ struct StationRows
 
 /// Reads a table with a row of titles. None of a table in which anything is not as it should be.
 /// Numbers are read as spreadsheets write them, and marks in the words of all languages that the
-/// program knows. An empty cell tells nothing, but is a mark that is not set where the column has
-/// none of those and some that are.
+/// program knows. Without a title of keys, a column is one that has nothing but keys. An empty cell
+/// tells nothing, but is a mark that is not set where the column has none of those and some that
+/// are.
 [[nodiscard]] std::optional<StationRows> stationRows(const SeparatedTable &table,
                                                      const RowTitles &titles, TextFault &fault);
 
@@ -53,9 +60,19 @@ struct StationRows
 /// reference list. A row without one is none, and nothing else of a row is read.
 [[nodiscard]] StationRows stationRowsWithoutTitles(const SeparatedTable &table);
 
-/// Puts whole records in the place of those whose key is one of the list's: like the station that
-/// has it, but for what the row tells. Where several stations differ in the occurrence alone, the
-/// name that the row tells goes before that. Returns how many rows have found their station.
-std::size_t completeRows(StationRows &rows, const StationList &list);
+/// The stations of a list that rows are known to be of.
+struct RowMatches
+{
+    KnownPairs pairs;        ///< by the rows' records; those that tell no station are not in it
+    std::size_t certain = 0; ///< rows whose station is beyond doubt
+    /// Rows that tell two stations, one by the key and another by the name, or one that another row
+    /// tells as well.
+    std::size_t unclear = 0;
+};
+
+/// Finds the stations of rows, as RowMatching does, and puts whole records in the place of the
+/// rows': like the station, but for what the row tells. `mayRename` says whether stations of the
+/// list can get names by that. Takes linear time.
+RowMatches completeRows(StationRows &rows, const StationList &list, bool mayRename = false);
 
 } // namespace quillet

@@ -5,33 +5,13 @@
 #include <QUtf8StringView>
 
 #include <algorithm>
-#include <array>
 
 namespace quillet {
 
 namespace {
 
-constexpr char16_t replacement = u'?';
-
-/// What Windows-1252 has at 0x80 to 0x9F. As browsers have it, its gaps stand for themselves.
-constexpr std::array<char16_t, 32> windowsLetters{
-    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
-    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
-    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178,
-};
-constexpr char16_t firstWindowsLetter = 0x80;
-constexpr char16_t behindWindowsLetters = firstWindowsLetter + windowsLetters.size();
-
-/// The byte of a character; -1 when there is none.
-int windowsByte(char16_t letter)
-{
-    if (letter < firstWindowsLetter || (letter >= behindWindowsLetters && letter <= 0xFF))
-        return letter;
-    const auto *const found = std::find(windowsLetters.begin(), windowsLetters.end(), letter);
-    return found == windowsLetters.end()
-               ? -1
-               : static_cast<int>(firstWindowsLetter + (found - windowsLetters.begin()));
-}
+constexpr char replacement = '?';
+constexpr QByteArrayView utf8Mark("\xEF\xBB\xBF");
 
 /// A character beyond 16 bits is one: its second half is passed over with the first.
 bool isPairAt(QStringView text, qsizetype i)
@@ -39,14 +19,23 @@ bool isPairAt(QStringView text, qsizetype i)
     return text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate();
 }
 
+/// The control codes of the broadcast, which are not seen.
+bool isHidden(QChar letter)
+{
+    return letter.category() == QChar::Other_Control && letter != u'\t' && letter != u'\r' &&
+           letter != u'\n';
+}
+
 EncodedText inWindows1252(QStringView text)
 {
     EncodedText made;
     made.bytes.reserve(text.size());
     for (qsizetype i = 0; i < text.size(); ++i) {
-        const int byte = windowsByte(text[i].unicode());
-        made.lost += byte < 0 ? 1 : 0;
-        made.bytes += static_cast<char>(byte < 0 ? replacement : byte);
+        if (isHidden(text[i]))
+            continue;
+        const std::optional<char> byte = inCodePage(text[i].unicode(), CodePage::Western);
+        made.lost += byte ? 0 : 1;
+        made.bytes += byte.value_or(replacement);
         i += isPairAt(text, i) ? 1 : 0;
     }
     return made;
@@ -61,23 +50,12 @@ EncodedText inUtf8(QStringView text)
         if (isPairAt(whole, i)) {
             ++i;
         } else if (whole[i].isSurrogate()) {
-            whole[i] = replacement;
+            whole[i] = QLatin1Char(replacement);
             ++made.lost;
         }
     }
     made.bytes = whole.toUtf8();
     return made;
-}
-
-QString fromWindows1252(QByteArrayView bytes)
-{
-    QString text = QString::fromLatin1(bytes);
-    for (QChar &letter : text) {
-        const char16_t code = letter.unicode();
-        if (code >= firstWindowsLetter && code < behindWindowsLetters)
-            letter = QChar(windowsLetters.at(code - firstWindowsLetter));
-    }
-    return text;
 }
 
 /// UTF-16 without a mark, in either order; UTF-8 when it does not look like that.
@@ -105,7 +83,7 @@ EncodedText encoded(QStringView text, TextForm form)
     switch (form) {
     case TextForm::MarkedUtf8: {
         EncodedText made = inUtf8(text);
-        made.bytes.prepend("\xEF\xBB\xBF");
+        made.bytes.prepend(utf8Mark);
         return made;
     }
     case TextForm::Utf8:
@@ -120,13 +98,18 @@ EncodedText encoded(QStringView text, TextForm form)
     return {};
 }
 
-QString decoded(QByteArrayView bytes)
+bool isOfCodePage(QByteArrayView bytes)
 {
-    const auto encoding = QStringConverter::encodingForData(bytes).value_or(guessed(bytes));
+    return !QStringConverter::encodingForData(bytes) && guessed(bytes) == QStringConverter::Utf8 &&
+           !QUtf8StringView(bytes).isValidUtf8();
+}
+
+QString decoded(QByteArrayView bytes, CodePage page)
+{
+    if (isOfCodePage(bytes))
+        return fromCodePage(bytes, page);
     // That also knows the marks of UTF-32, which no spreadsheet writes.
-    if (encoding == QStringConverter::Utf8 && !QUtf8StringView(bytes).isValidUtf8())
-        return fromWindows1252(bytes);
-    QStringDecoder decoder(encoding);
+    QStringDecoder decoder(QStringConverter::encodingForData(bytes).value_or(guessed(bytes)));
     return decoder.decode(bytes);
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "document/text/CodePages.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -20,10 +22,15 @@ struct EncodedText
     qsizetype lost = 0; ///< characters that the form cannot hold, in whose place stands "?"
 };
 
+/// Windows-1252 leaves out control codes, for which spreadsheets show something else.
 [[nodiscard]] EncodedText encoded(QStringView text, TextForm form);
 
+/// Whether bytes are of one byte a letter. No mark and no other form of text is known in them.
+[[nodiscard]] bool isOfCodePage(QByteArrayView bytes);
+
 /// Goes by a mark, else takes text with a zero beside most letters for UTF-16, what is valid as
-/// that for UTF-8, and anything else for Windows-1252. The mark is no part of the text.
-[[nodiscard]] QString decoded(QByteArrayView bytes);
+/// that for UTF-8, and anything else for that of the page. The mark is no part of the text, and
+/// behind it what is not valid is U+FFFD.
+[[nodiscard]] QString decoded(QByteArrayView bytes, CodePage page = CodePage::Western);
 
 } // namespace quillet

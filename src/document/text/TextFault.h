@@ -21,9 +21,11 @@ struct TextFault
     };
 
     Kind kind = Kind::NoRows;
-    qsizetype line = 0;   ///< of the file, from 1
-    qsizetype column = 0; ///< in UTF-16 code units of the line, from 1
-    QString cell = {};    ///< what stands there, of a fault in a cell
+    qsizetype line = 0;       ///< of the file, from 1
+    qsizetype column = 0;     ///< in UTF-16 code units of the line, from 1
+    QString cell = {};        ///< what stands there, of a fault in a cell
+    qsizetype cellNumber = 0; ///< of a fault in a cell below the titles: in its row, from 1
+    QString title = {};       ///< of its column; may be empty
 };
 
 } // namespace quillet

@@ -2,6 +2,7 @@
 
 #include "document/TLLDocument.h"
 #include "document/compare/StationPairing.h"
+#include "document/compare/UnkeptNames.h"
 #include "document/text/CellValues.h"
 #include "document/text/StationRows.h"
 #include "document/text/TextBytes.h"
@@ -274,6 +275,8 @@ std::optional<ComparedWith> importedFile(const QString &path, const TLLDocument 
     try {
         QByteArray bytes;
         Error error;
+        // Reference lists go by the names that somebody has seen.
+        const UnkeptNames names(document.lists());
         if (readFile(QUrl::fromLocalFile(path), bytes, error))
             return importedTable(bytes, readable(QFileInfo(path).fileName()), document, reason);
         reason = error.text();

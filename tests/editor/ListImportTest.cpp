@@ -323,7 +323,7 @@ private slots:
                                             editor.document, reason);
         QVERIFY2(imported, qPrintable(reason));
         const auto comparison = std::make_shared<StationComparison>(editor.controller, *imported);
-        QCOMPARE(imported->remark == u"kImportUnclear"_s, comparison->uncheckedLoose() > 0);
+        QCOMPARE(imported->remark == u"kImportUnclear"_s, comparison->uncheckedUnsure() > 0);
         comparison->takeOverAll();
         const auto segment =
             source == FileSource::Analogue ? StationSource::Analogue : StationSource::Cable;
@@ -347,6 +347,15 @@ private slots:
         QVERIFY2(imported, qPrintable(reason));
         std::make_shared<StationComparison>(editor.controller, *imported)->takeOverAll();
         QCOMPARE(editor.rows(), u"1 \u00C4rte s, 2 B b, 3 C"_s);
+        // A letter that the table could not hold is no other name.
+        const auto lossy =
+            importedTable(edited(exported, u',', TextForm::MarkedUtf8,
+                                 [](std::vector<QStringList> &rows) { rows[1][1] = u"?rte"_s; }),
+                          {}, editor.document, reason);
+        QVERIFY2(lossy, qPrintable(reason));
+        std::make_shared<StationComparison>(editor.controller, *lossy)->takeOverAll();
+        QCOMPARE(editor.rows(), u"1 \u00C4rte, 2 B, 3 C"_s);
+        editor.controller.undoing().undo();
         editor.controller.undoing().undo();
         QCOMPARE(editor.rows(), u"1 A, 2 B, 3 C"_s);
     }

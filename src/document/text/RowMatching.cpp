@@ -3,6 +3,7 @@
 #include "document/text/StationKey.h"
 #include "model/CleanName.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -83,6 +84,15 @@ QString RowMatching::plainName(const LGStation &station)
     return cleanName(station.shownName()).simplified();
 }
 
+bool RowMatching::areSameNames(const QString &inTable, const QString &name)
+{
+    if (inTable == name || !inTable.contains(u'?'))
+        return inTable == name;
+    const QList<uint> told = inTable.toUcs4(), own = name.toUcs4();
+    return std::equal(told.begin(), told.end(), own.begin(), own.end(),
+                      [](uint a, uint b) { return a == b || (a == u'?' && b > 0x7F); });
+}
+
 RowMatching::RowMatching(const StationRows &rows, const StationList &list, bool mayRename)
     : m_told(rows), m_list(list), m_mayRename(mayRename), m_rows(rows.stations.size()),
       m_ownRows(list.size()), m_claimedBy(list.size())
@@ -108,7 +118,7 @@ void RowMatching::findOwn()
         if (!row.own)
             continue;
         row.isNameOther = m_told.told[i].testFlag(StationDifference::Name) &&
-                          plainName(*m_told.stations[i]) != m_names[*row.own];
+                          !areSameNames(plainName(*m_told.stations[i]), m_names[*row.own]);
         if (!m_ownRows[*row.own])
             m_ownRows[*row.own] = i;
     }

@@ -167,7 +167,7 @@ StationPtr completed(const LGStation &row, StationDifferences told, const LGStat
     if (told.testFlag(StationDifference::Locked) && row.isBlocked() != made->isBlocked())
         made->setBlocked(row.isBlocked());
     if (told.testFlag(StationDifference::Name) &&
-        RowMatching::plainName(row) != RowMatching::plainName(*made))
+        !RowMatching::areSameNames(RowMatching::plainName(row), RowMatching::plainName(*made)))
         made->setStationName(row.shownName());
     return made;
 }

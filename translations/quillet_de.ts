@@ -2358,6 +2358,14 @@ Diese folgen ab Nummer: %3</translation>
             <numerusform>%n weitere Nummern geändert</numerusform>
         </translation>
     </message>
+    <message id="kToldPasteGone">
+        <source></source>
+        <translation>Nichts verschoben: Die Sender oder die Zeile, an deren Platz sie sollten, sind nicht mehr in der gezeigten Liste</translation>
+    </message>
+    <message id="kToldPasteThere">
+        <source></source>
+        <translation>Nichts verschoben: Die Sender stehen schon dort</translation>
+    </message>
     <message id="kToldPrinted">
         <source></source>
         <translation>Gedruckt nach %1.</translation>

@@ -2358,6 +2358,14 @@ These go on from number: %3</translation>
             <numerusform>%n other numbers changed</numerusform>
         </translation>
     </message>
+    <message id="kToldPasteGone">
+        <source></source>
+        <translation>Nothing was moved: the stations, or the row to move them to, are no longer in the list on show</translation>
+    </message>
+    <message id="kToldPasteThere">
+        <source></source>
+        <translation>Nothing was moved: the stations stand there already</translation>
+    </message>
     <message id="kToldPrinted">
         <source></source>
         <translation>Printed to %1.</translation>

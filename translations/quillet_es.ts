@@ -2358,6 +2358,14 @@ Estos continúan a partir del número: %3</translation>
             <numerusform>%n números más cambiados</numerusform>
         </translation>
     </message>
+    <message id="kToldPasteGone">
+        <source></source>
+        <translation>No se ha movido nada: los canales, o la fila a la que debían ir, ya no están en la lista mostrada</translation>
+    </message>
+    <message id="kToldPasteThere">
+        <source></source>
+        <translation>No se ha movido nada: los canales ya están ahí</translation>
+    </message>
     <message id="kToldPrinted">
         <source></source>
         <translation>Impreso en %1.</translation>

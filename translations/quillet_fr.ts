@@ -2358,6 +2358,14 @@ Ces dernières suivent à partir du numéro : %3</translation>
             <numerusform>%n autres numéros modifiés</numerusform>
         </translation>
     </message>
+    <message id="kToldPasteGone">
+        <source></source>
+        <translation>Rien n’a été déplacé : les chaînes, ou la ligne où les placer, ne sont plus dans la liste affichée</translation>
+    </message>
+    <message id="kToldPasteThere">
+        <source></source>
+        <translation>Rien n’a été déplacé : les chaînes s’y trouvent déjà</translation>
+    </message>
     <message id="kToldPrinted">
         <source></source>
         <translation>Imprimé dans %1.</translation>

@@ -2358,6 +2358,14 @@ Questi proseguono dal numero: %3</translation>
             <numerusform>altri %n numeri cambiati</numerusform>
         </translation>
     </message>
+    <message id="kToldPasteGone">
+        <source></source>
+        <translation>Nulla è stato spostato: i canali, o la riga in cui metterli, non sono più nell’elenco visualizzato</translation>
+    </message>
+    <message id="kToldPasteThere">
+        <source></source>
+        <translation>Nulla è stato spostato: i canali sono già lì</translation>
+    </message>
     <message id="kToldPrinted">
         <source></source>
         <translation>Stampato in %1.</translation>

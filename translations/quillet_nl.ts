@@ -2358,6 +2358,14 @@ Deze gaan verder vanaf nummer: %3</translation>
             <numerusform>%n andere nummers gewijzigd</numerusform>
         </translation>
     </message>
+    <message id="kToldPasteGone">
+        <source></source>
+        <translation>Niets verplaatst: de zenders, of de rij waar ze moesten komen, staan niet meer in de getoonde lijst</translation>
+    </message>
+    <message id="kToldPasteThere">
+        <source></source>
+        <translation>Niets verplaatst: de zenders staan daar al</translation>
+    </message>
     <message id="kToldPrinted">
         <source></source>
         <translation>Afgedrukt naar %1.</translation>

@@ -2425,6 +2425,14 @@ Te następują od numeru: %3</translation>
             <numerusform>zmieniono %n innych numerów</numerusform>
         </translation>
     </message>
+    <message id="kToldPasteGone">
+        <source></source>
+        <translation>Niczego nie przeniesiono: kanałów albo wiersza, do którego miały trafić, nie ma już na wyświetlanej liście</translation>
+    </message>
+    <message id="kToldPasteThere">
+        <source></source>
+        <translation>Niczego nie przeniesiono: kanały już tam są</translation>
+    </message>
     <message id="kToldPrinted">
         <source></source>
         <translation>Wydrukowano do %1.</translation>

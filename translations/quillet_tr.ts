@@ -2291,6 +2291,14 @@ Bunların devam ettiği numara: %3</translation>
             <numerusform>%n başka numara değişti</numerusform>
         </translation>
     </message>
+    <message id="kToldPasteGone">
+        <source></source>
+        <translation>Hiçbir şey taşınmadı: kanallar ya da taşınacakları satır artık gösterilen listede değil</translation>
+    </message>
+    <message id="kToldPasteThere">
+        <source></source>
+        <translation>Hiçbir şey taşınmadı: kanallar zaten orada</translation>
+    </message>
     <message id="kToldPrinted">
         <source></source>
         <translation>%1 dosyasına yazdırıldı.</translation>

@@ -88,8 +88,9 @@ QAction *EditMenu::add(QMenu &menu, const Item &item, const std::function<void()
     QAction *action = menu.addAction(qtTrId(item.title));
     action->setObjectName(QLatin1String(item.name));
     action->setShortcuts(item.shortcuts);
-    connect(action, &QAction::triggered, this, [this, slot] {
-        m_editor.commitEditing(); // what is typed belongs to the list that the command works on
+    connect(action, &QAction::triggered, this, [this, slot, goesIntoField = item.goesIntoField] {
+        if (!goesIntoField)
+            m_editor.commitEditing(); // what is typed belongs to the list the command works on
         slot();
     });
     m_commands.push_back({action, reason, item.tip ? qtTrId(item.tip) : QString()});
@@ -151,9 +152,6 @@ void EditMenu::addFlags(QMenu &menu)
         return controller.isEnabled(EditorOutlets::Control::InfoButton) ? QString()
                                                                         : qtTrId("kTipSelectFirst");
     };
-    const Reason copyReason = [this] {
-        return m_editor.selectedRows().isEmpty() ? qtTrId("kTipSelectFirst") : QString();
-    };
     m_contextActions.append(menu.addSeparator());
     m_contextActions.append(add(
         menu, {"kMenuSkip", "skipSelectedItems", {Qt::CTRL | Qt::Key_K}},
@@ -166,11 +164,11 @@ void EditMenu::addFlags(QMenu &menu)
         menu, {"kMenuRename", "rename", {Qt::Key_F2}}, [this] { m_editor.renameSelected(); },
         renameReason));
     m_contextActions.append(add(
-        menu, {"kMenuCopy", "copy", {QKeySequence::Copy}}, [this] { m_editor.copy(); },
-        copyReason));
+        menu, {"kMenuCopy", "copy", {QKeySequence::Copy}, nullptr, true},
+        [this] { m_editor.copy(); }, [this] { return m_editor.reasonAgainstCopying(); }));
     m_contextActions.append(add(
-        menu, {"kMenuPaste", "paste", {QKeySequence::Paste}}, [this] { m_editor.paste(); },
-        [this] { return m_editor.reasonAgainstPasting(); }));
+        menu, {"kMenuPaste", "paste", {QKeySequence::Paste}, nullptr, true},
+        [this] { m_editor.paste(); }, [this] { return m_editor.reasonAgainstPasting(); }));
     m_contextActions.append(add(
         menu, {"kMenuInfo", "showInfo", {Qt::CTRL | Qt::Key_I}}, [this] { m_editor.showInfo(); },
         infoReason));

@@ -33,7 +33,8 @@ private:
         const char *title; ///< id of the localized text
         const char *name;
         QList<QKeySequence> shortcuts = {};
-        const char *tip = nullptr; ///< id of a text for the enabled command
+        const char *tip = nullptr;  ///< id of a text for the enabled command
+        bool goesIntoField = false; ///< what is being typed into, which goes on
     };
     using Reason = std::function<QString()>;
 

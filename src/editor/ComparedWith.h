@@ -30,6 +30,7 @@ struct ComparedWith
     NumberRule rule = NumberRule::AsGiven;
     QString remark = {};        ///< a sentence that the window shows
     ReferenceList entries = {}; ///< of a reference list alone
+    StationPtr place = {};      ///< that stands where those of the clipboard are to be moved
 };
 
 } // namespace quillet

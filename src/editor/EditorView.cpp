@@ -33,6 +33,12 @@ namespace {
 /// The label takes the room it needs, and the window with it.
 constexpr qsizetype longestDeviceName = 30;
 
+/// What text is being typed into.
+QLineEdit *fieldInFocus()
+{
+    return qobject_cast<QLineEdit *>(QApplication::focusWidget());
+}
+
 } // namespace
 
 EditorView::EditorView(QWidget *parent)
@@ -123,12 +129,13 @@ void EditorView::connectControls()
     connect(m_ui->fileBar, &NoticeBar::otherActionTriggered, &m_controller,
             &ViewController::keepMine);
     connect(&m_controller, &ViewController::stateChanged, this, &EditorView::stateChanged);
-    connect(
-        &m_controller, &ViewController::comparisonWanted, this, [this](const ComparedWith &other) {
-            showComparison(m_controller, other, sheetWindow(), [this](const StationList &chosen) {
-                m_controller.pasteStations(chosen);
+    connect(&m_controller, &ViewController::comparisonWanted, this,
+            [this](const ComparedWith &other) {
+                showComparison(m_controller, other, sheetWindow(),
+                               [this, place = other.place](const StationList &chosen) {
+                                   m_controller.pasteStations(chosen, place);
+                               });
             });
-        });
     connect(&m_controller, &ViewController::stateChanged, m_ui->fillGapsButton,
             [this] { m_ui->fillGapsButton->setChecked(m_controller.fillGaps()); });
     connect(m_ui->list, &DarkModeTableView::editingChanged, this, &EditorView::stateChanged);
@@ -172,14 +179,23 @@ std::vector<ColumnContent> EditorView::shownColumns() const
 
 void EditorView::copy()
 {
+    if (const auto *field = fieldInFocus())
+        return field->copy();
     const StationList selected = m_controller.shown().stationsAt(selectedRows());
+    if (selected.empty())
+        return; // what is on the clipboard stays there
     QGuiApplication::clipboard()->setMimeData(
         copiedStations(m_controller, selected, shownColumns()).release());
 }
 
+QString EditorView::reasonAgainstCopying() const
+{
+    return fieldInFocus() || !selectedRows().isEmpty() ? QString() : qtTrId("kTipSelectFirst");
+}
+
 void EditorView::paste()
 {
-    if (auto *field = qobject_cast<QLineEdit *>(QApplication::focusWidget()))
+    if (auto *field = fieldInFocus())
         field->paste();
     else if (const QMimeData *held = QGuiApplication::clipboard()->mimeData())
         m_controller.paste(*held);
@@ -187,7 +203,7 @@ void EditorView::paste()
 
 QString EditorView::reasonAgainstPasting() const
 {
-    if (qobject_cast<QLineEdit *>(QApplication::focusWidget()))
+    if (fieldInFocus())
         return {};
     const QString reason = m_controller.pasting().reasonAgainst();
     return reason.isEmpty() && !m_mayPaste ? qtTrId("kTipNothingToPaste") : reason;

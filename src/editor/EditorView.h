@@ -48,8 +48,11 @@ public:
     [[nodiscard]] QString reasonAgainstRenaming() const { return m_cells->reasonAgainstRenaming(); }
     void renameSelected() { m_cells->rename(); }
     void askToArrange();
-    /// Puts the selected stations on the clipboard.
+    /// Puts the selected stations on the clipboard; of a field that has the focus, its selected
+    /// text instead.
     void copy();
+    /// Why it would do nothing; empty when it would do something.
+    [[nodiscard]] QString reasonAgainstCopying() const;
     /// Moves the stations that are on the clipboard here; into a field that has the focus, its text
     /// goes instead.
     void paste();

@@ -10,14 +10,20 @@ QString PasteCommand::reasonAgainst() const
 {
     if (!m_table.shown().hasData())
         return qtTrId("kTipNoStations");
+    if (m_table.shown().areForeign())
+        return qtTrId("kTipForeign");
     return m_outlets.selectedRows().isEmpty() ? qtTrId("kTipSelectFirst") : QString();
 }
 
-std::optional<PasteCommand::Move> PasteCommand::plan(PastedStations &pasted)
+StationPtr PasteCommand::place() const
 {
     const StationList selected = m_table.shown().ownStationsAt(m_outlets.selectedRows().first(1));
+    return selected.empty() ? nullptr : selected.front();
+}
+
+std::optional<PasteCommand::Move> PasteCommand::plan(PastedStations &pasted) const
+{
     const StationListPtr &list = m_table.stationDoc()->stations();
-    m_place = selected.empty() ? nullptr : selected.front();
     completeRows(pasted.rows, *list);
     StationList found(pasted.rows.stations.size());
     const auto pairs = pairStations(*list, pasted.rows.stations);
@@ -25,16 +31,19 @@ std::optional<PasteCommand::Move> PasteCommand::plan(PastedStations &pasted)
         if (pairs[i] && pairs[i]->likeness == Likeness::Sure)
             found[pairs[i]->index] = (*list)[i];
     }
-    const bool isSure = m_place && pasted.unread == 0 &&
+    const StationPtr target = place();
+    const bool isSure = target && pasted.unread == 0 &&
                         std::find(found.begin(), found.end(), nullptr) == found.end();
-    return isSure ? std::optional(Move{std::move(found), m_place->progNum()}) : std::nullopt;
+    return isSure ? std::optional(Move{std::move(found), target->progNum()}) : std::nullopt;
 }
 
 ComparedWith PasteCommand::comparison(const PastedStations &pasted) const
 {
     const TLLDocument &document = *m_table.stationDoc();
-    ComparedWith other{
-        .purpose = ComparedWith::Purpose::Paste, .name = qtTrId("kClipboard"), .lists = {}};
+    ComparedWith other{.purpose = ComparedWith::Purpose::Paste,
+                       .name = qtTrId("kClipboard"),
+                       .lists = {},
+                       .place = place()};
     other.lists.setupLists();
     *other.lists.list(document.usesTV(), document.curSource()) = pasted.rows.stations;
     for (std::size_t i = 0; i < pasted.rows.stations.size(); ++i) {
@@ -47,16 +56,16 @@ ComparedWith PasteCommand::comparison(const PastedStations &pasted) const
     return other;
 }
 
-PasteCommand::Move PasteCommand::planFor(const StationList &chosen) const
+PasteCommand::Move PasteCommand::planFor(const StationList &chosen, const StationPtr &place) const
 {
     const TLLDocument *document = m_table.stationDoc();
     if (!document || !document->stations())
         return {};
     const StationList &list = *document->stations();
     const QSet<StationPtr> known(list.begin(), list.end());
-    if (!m_place || !known.contains(m_place))
+    if (!place || !known.contains(place))
         return {};
-    Move move{{}, m_place->progNum()};
+    Move move{{}, place->progNum()};
     for (const StationPtr &station : chosen) {
         if (known.contains(station))
             move.stations.push_back(station);

@@ -28,17 +28,19 @@ public:
     };
     /// What pasting would do. None when a row fits no station, or not surely: then the comparison
     /// is to be shown first.
-    [[nodiscard]] std::optional<Move> plan(PastedStations &pasted);
+    [[nodiscard]] std::optional<Move> plan(PastedStations &pasted) const;
     /// To be called after plan().
     [[nodiscard]] ComparedWith comparison(const PastedStations &pasted) const;
-    /// The same for those stations that a person has chosen then. Without stations when the place
-    /// or all of them have gone.
-    [[nodiscard]] Move planFor(const StationList &chosen) const;
+    /// The same for those stations that a person has chosen then, and the place of that time.
+    /// Without stations when the place or all of them are no longer in the list on show.
+    [[nodiscard]] Move planFor(const StationList &chosen, const StationPtr &place) const;
 
 private:
+    /// The station of the first selected row; null without one.
+    [[nodiscard]] StationPtr place() const;
+
     const TableController &m_table;
     const EditorOutlets &m_outlets;
-    StationPtr m_place; ///< the station of the row that was selected when it was planned
 };
 
 } // namespace quillet

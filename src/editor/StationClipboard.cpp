@@ -62,14 +62,25 @@ QByteArray keyedRows(const StationList &stations, const StationList &list)
     return text.text().toUtf8();
 }
 
-std::size_t rowsWithText(const SeparatedTable &table)
+bool hasText(const SeparatedRow &row)
 {
-    return static_cast<std::size_t>(
-        std::count_if(table.rows.begin(), table.rows.end(), [](const SeparatedRow &row) {
-            return std::any_of(row.begin(), row.end(), [](const SeparatedCell &cell) {
-                return !cell.text.trimmed().isEmpty();
-            });
-        }));
+    return std::any_of(row.begin(), row.end(),
+                       [](const SeparatedCell &cell) { return !cell.text.trimmed().isEmpty(); });
+}
+
+/// Whether the row that nothing was read of, above all others, is one of titles: of a known one,
+/// or over each of several columns.
+bool areTitles(const SeparatedRow &first, const SeparatedTable &table, const RowTitles &titles)
+{
+    const bool isKnown =
+        std::any_of(first.begin(), first.end(), [&titles](const SeparatedCell &cell) {
+            return titles.contains(foldedTitle(cell.text));
+        });
+    return isKnown ||
+           (first.size() > 1 &&
+            std::all_of(table.rows.begin(), table.rows.end(), [&first](const SeparatedRow &row) {
+                return row.size() == first.size() || !hasText(row);
+            }));
 }
 
 /// What other programs copy may have titles or not.
@@ -79,16 +90,18 @@ std::optional<PastedStations> readRows(const QString &text)
     const auto table = readSeparatedText(text, fault);
     if (!table)
         return {};
-    if (const RowTitles titles = titlesFor(*table); hasTitles(*table, titles)) {
+    const RowTitles titles = titlesFor(*table);
+    if (hasTitles(*table, titles)) {
         if (auto rows = stationRows(*table, titles, fault))
             return PastedStations{std::move(*rows)};
     }
     PastedStations pasted{stationRowsWithoutTitles(*table)};
     if (pasted.rows.stations.empty())
         return {};
-    pasted.unread = rowsWithText(*table) - pasted.rows.stations.size();
-    // The first row may be one of titles that are not known.
-    if (pasted.unread > 0 && pasted.rows.lines.front() > table->rows.front().front().line)
+    const auto first = std::find_if(table->rows.begin(), table->rows.end(), hasText);
+    pasted.unread = static_cast<std::size_t>(std::count_if(first, table->rows.end(), hasText)) -
+                    pasted.rows.stations.size();
+    if (pasted.rows.lines.front() > first->front().line && areTitles(*first, *table, titles))
         --pasted.unread;
     return pasted;
 }

@@ -278,16 +278,27 @@ void ViewController::paste(const QMimeData &data)
     if (!pasted)
         return outlets().tell(qtTrId("kTipNothingToPaste"));
     if (const auto move = m_pasting.plan(*pasted))
-        moveStations(move->stations, move->target);
+        carryOutPaste(*move);
     else
         emit comparisonWanted(m_pasting.comparison(*pasted));
 }
 
-void ViewController::pasteStations(const StationList &chosen)
+void ViewController::pasteStations(const StationList &chosen, const StationPtr &place)
 {
-    const PasteCommand::Move move = m_pasting.planFor(chosen);
-    if (!move.stations.empty())
-        moveStations(move.stations, move.target);
+    const PasteCommand::Move move = m_pasting.planFor(chosen, place);
+    if (move.stations.empty())
+        outlets().tell(qtTrId("kToldPasteGone"));
+    else
+        carryOutPaste(move);
+}
+
+void ViewController::carryOutPaste(const PasteCommand::Move &move)
+{
+    const bool areThere = m_editor.planMove(move.stations, move.target, m_fillGaps)
+                              .changesNothingIn(*stationDoc()->stations());
+    moveStations(move.stations, move.target);
+    if (areThere)
+        outlets().tell(qtTrId("kToldPasteThere"));
 }
 
 DragOperation ViewController::validateDrop(const TableDrag &drag)

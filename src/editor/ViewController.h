@@ -82,8 +82,9 @@ public:
     /// Moves the stations that it tells to the place of the first selected row, or has what is
     /// doubtful of that shown by comparisonWanted().
     void paste(const QMimeData &data);
-    /// The same for those of them that were chosen there.
-    void pasteStations(const StationList &chosen);
+    /// The same for those of them that were chosen there, to the place that it told. Says so when
+    /// nothing is moved.
+    void pasteStations(const StationList &chosen, const StationPtr &place);
     [[nodiscard]] const PasteCommand &pasting() const { return m_pasting; }
 
     // Drag and drop
@@ -113,6 +114,7 @@ signals:
 
 private:
     void moveStations(const StationList &stations, qint64 target);
+    void carryOutPaste(const PasteCommand::Move &move);
     void carryOut(const MovePlan &plan, ListEditor::Beyond beyond);
     void carryOutArrangement(const ArrangeCommands::Plan &planned, ListEditor::Beyond beyond);
     void closeGaps(ListEditor::Beyond beyond);

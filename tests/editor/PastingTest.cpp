@@ -89,6 +89,10 @@ private slots:
             Editor editor(isJSON ? std::vector<Item>() : randomStations(random, distinct));
             if (isJSON)
                 editor.show(randomChannels(distinct));
+            const bool fillsGaps = seed % 2 == 0;
+            editor.controller.fillGapsClicked(fillsGaps);
+            const QUndoStack &steps = editor.document.history().stack();
+            const int step = steps.index();
             const StationListPtr list = editor.document.stations();
             const StationList before = *list;
             const QString rowsBefore = editor.rows();
@@ -96,8 +100,12 @@ private slots:
             std::shuffle(moved.begin(), moved.end(), random);
             moved.resize(std::size_t(1 + random.bounded(12)));
             const auto place = qsizetype(random.bounded(int(before.size())));
-            const StationPtr there = before[std::size_t(place)];
-            const qint64 target = there->progNum();
+            const auto isMoved = [&moved](const StationPtr &station) {
+                return std::find(moved.begin(), moved.end(), station) != moved.end();
+            };
+            const auto above =
+                place - std::count_if(before.begin(), before.begin() + place, isMoved);
+            const qint64 target = fillsGaps ? above + 1 : before[std::size_t(place)]->progNum();
             editor.outlets.selectRows({place});
             QSignalSpy preview(&editor.controller, &ViewController::comparisonWanted);
             editor.controller.paste(*dataOf(editor, moved, form));
@@ -105,18 +113,19 @@ private slots:
             const auto first = std::find(list->begin(), list->end(), moved.front());
             QVERIFY(list->end() - first >= std::ptrdiff_t(moved.size()));
             QVERIFY(std::equal(moved.begin(), moved.end(), first));
+            QCOMPARE(first - list->begin(), above);
             QCOMPARE((*first)->progNum(), target);
-            const auto without = [&moved](StationList stations) {
-                std::erase_if(stations, [&moved](const StationPtr &station) {
-                    return std::find(moved.begin(), moved.end(), station) != moved.end();
-                });
+            const auto without = [&isMoved](StationList stations) {
+                std::erase_if(stations, isMoved);
                 return stations;
             };
             QVERIFY(without(*list) == without(before));
-            if (editor.document.isDirty())
+            if (editor.rows() == rowsBefore)
+                QCOMPARE(editor.outlets.told, qtTrId("kToldPasteThere"));
+            else
                 editor.controller.undoing().undo();
             QCOMPARE(editor.rows(), rowsBefore);
-            QVERIFY(!editor.document.isDirty());
+            QCOMPARE(steps.index(), step);
         }
     }
 
@@ -128,6 +137,8 @@ private slots:
         QTest::newRow("fits nothing") << u"1-10-3\n1-10-99"_s << 2 << false;
         QTest::newRow("of another list") << u"1-10-3\n1-10-77"_s << 2 << false;
         QTest::newRow("twice the same") << u"n1-t10-s3\nn1-t10-s3"_s << 2 << false;
+        QTest::newRow("name above") << u"B\n1-10-3"_s << 1 << true;
+        QTest::newRow("name above, apart") << u"\t\nB\n1\t1-10-3"_s << 1 << true;
         QTest::newRow("another row among them") << u"1-10-3\tC\nB\n1-10-1\tA"_s << 2 << true;
     }
     void doubtfulRowsAreShownFirst()
@@ -155,11 +166,15 @@ private slots:
         QCOMPARE(!shown.remark.isEmpty(), hasRemark);
 
         // What is chosen there goes to where the selection was; what is elsewhere stays there.
-        editor.outlets.selectRows({4});
+        editor.outlets.selectRows({3});
         const StationList &list = *editor.document.stations();
         const StationPtr elsewhere = editor.document.lists().list(true, 1)->front();
-        editor.controller.pasteStations({list[3], elsewhere, list[2]});
+        const StationList chosen{list[3], elsewhere, list[2]};
+        editor.controller.paste(*textData(u"1-10-4"_s)); // meanwhile
+        editor.controller.pasteStations(chosen, shown.place);
         QCOMPARE(editor.rows(), u"1 A, 2 D, 3 C, 4 B, 5 E, 6 F"_s);
+        editor.controller.pasteStations({elsewhere}, shown.place);
+        QCOMPARE(editor.outlets.told, qtTrId("kToldPasteGone"));
     }
 
     void otherContentDoesNothing_data()
@@ -196,6 +211,11 @@ private slots:
         editor.controller.paste(*textData(u"1-10-3"_s));
         QCOMPARE(editor.outlets.told, qtTrId("kTipSelectFirst"));
         QCOMPARE(editor.rows(), before);
+        editor.outlets.selectRows({1});
+        QVERIFY(editor.controller.pasting().reasonAgainst().isEmpty());
+        editor.search(u"A"_s);
+        editor.clickSegment(static_cast<int>(StationSource::Satellite));
+        QCOMPARE(editor.controller.pasting().reasonAgainst(), qtTrId("kTipForeign"));
     }
 
     void otherProgramsGetTables()

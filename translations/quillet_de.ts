@@ -455,8 +455,8 @@
     <message id="kDiffFields" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n mit anderen Angaben</numerusform>
-            <numerusform>%n mit anderen Angaben</numerusform>
+            <numerusform>%n Sender mit anderen Angaben</numerusform>
+            <numerusform>%n Sender mit anderen Angaben</numerusform>
         </translation>
     </message>
     <message id="kDiffGone" numerus="yes">
@@ -469,8 +469,8 @@
     <message id="kDiffLocked" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n anders gesperrt</numerusform>
-            <numerusform>%n anders gesperrt</numerusform>
+            <numerusform>%n Sender mit anderer Kindersicherung</numerusform>
+            <numerusform>%n Sender mit anderer Kindersicherung</numerusform>
         </translation>
     </message>
     <message id="kDiffMore" numerus="yes">
@@ -483,8 +483,8 @@
     <message id="kDiffNames" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n mit anderem Namen</numerusform>
-            <numerusform>%n mit anderen Namen</numerusform>
+            <numerusform>%n Sender mit anderem Namen</numerusform>
+            <numerusform>%n Sender mit anderen Namen</numerusform>
         </translation>
     </message>
     <message id="kDiffNew" numerus="yes">
@@ -497,8 +497,8 @@
     <message id="kDiffNumbers" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n unter anderer Nummer</numerusform>
-            <numerusform>%n unter anderen Nummern</numerusform>
+            <numerusform>%n Sender unter anderer Nummer</numerusform>
+            <numerusform>%n Sender unter anderen Nummern</numerusform>
         </translation>
     </message>
     <message id="kDiffOrder">
@@ -512,8 +512,8 @@
     <message id="kDiffSkipped" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n anders übersprungen</numerusform>
-            <numerusform>%n anders übersprungen</numerusform>
+            <numerusform>%n Sender mit anderer Markierung „Überspringen“</numerusform>
+            <numerusform>%n Sender mit anderer Markierung „Überspringen“</numerusform>
         </translation>
     </message>
     <message id="kDiscard">
@@ -989,11 +989,11 @@
     </message>
     <message id="kMarkNotSet">
         <source></source>
-        <translation>%1: nicht aktiviert</translation>
+        <translation>%1: nicht angekreuzt</translation>
     </message>
     <message id="kMarkSet">
         <source></source>
-        <translation>%1: aktiviert</translation>
+        <translation>%1: angekreuzt</translation>
     </message>
     <message id="kMendedAmpersands" numerus="yes">
         <source></source>
@@ -1560,11 +1560,18 @@
             <numerusform>%n Nummern sind dort mehrmals vergeben.</numerusform>
         </translation>
     </message>
+    <message id="kPreviewHidden" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Dabei ist %n angekreuzte Zeile, die nicht angezeigt wird.</numerusform>
+            <numerusform>Dabei sind %n angekreuzte Zeilen, die nicht angezeigt werden.</numerusform>
+        </translation>
+    </message>
     <message id="kPreviewLocked" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n anders gesperrt</numerusform>
-            <numerusform>%n anders gesperrt</numerusform>
+            <numerusform>%n Kindersicherung ändert sich</numerusform>
+            <numerusform>%n Kindersicherungen ändern sich</numerusform>
         </translation>
     </message>
     <message id="kPreviewMoved" numerus="yes">
@@ -1589,15 +1596,23 @@
     <message id="kPreviewPaste" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n angekreuzter Sender kommt hierher.</numerusform>
-            <numerusform>%n angekreuzte Sender kommen hierher.</numerusform>
+            <numerusform>%n angekreuzter Sender kommt auf die Nummer %1, wo jetzt „%2“ ist.</numerusform>
+            <numerusform>%n angekreuzte Sender kommen auf die Nummer %1, wo jetzt „%2“ ist.</numerusform>
         </translation>
+    </message>
+    <message id="kPreviewPasteNone">
+        <source></source>
+        <translation>Es kann nichts verschoben werden: Keine Zeile passt zu einem Sender der angezeigten Liste.</translation>
+    </message>
+    <message id="kPreviewPasteUnchecked">
+        <source></source>
+        <translation>Keine Zeile ist angekreuzt: Kreuzen Sie die Sender an, die verschoben werden sollen.</translation>
     </message>
     <message id="kPreviewRenamed" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n wird umbenannt</numerusform>
-            <numerusform>%n werden umbenannt</numerusform>
+            <numerusform>%n Sender wird umbenannt</numerusform>
+            <numerusform>%n Sender werden umbenannt</numerusform>
         </translation>
     </message>
     <message id="kPreviewSelected">
@@ -1607,8 +1622,8 @@
     <message id="kPreviewSkipped" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n anders übersprungen</numerusform>
-            <numerusform>%n anders übersprungen</numerusform>
+            <numerusform>%n Markierung „Überspringen“ ändert sich</numerusform>
+            <numerusform>%n Markierungen „Überspringen“ ändern sich</numerusform>
         </translation>
     </message>
     <message id="kPreviewSorted">
@@ -1893,7 +1908,7 @@
     </message>
     <message id="kRowLoose">
         <source></source>
-        <translation>unsicher: nur der Name ist ähnlich</translation>
+        <translation>unsicher: ähnlicher Name</translation>
     </message>
     <message id="kRowMoved">
         <source></source>
@@ -2231,7 +2246,7 @@ Diese folgen ab Nummer: %3</translation>
     </message>
     <message id="kTipTakeSelected">
         <source></source>
-        <translation>Keine ausgewählte Zeile ist angekreuzt, oder sie ändern nichts</translation>
+        <translation>Keine der ausgewählten Zeilen ist angekreuzt.</translation>
     </message>
     <message id="kTipTooFew">
         <source></source>
@@ -2356,6 +2371,13 @@ Diese folgen ab Nummer: %3</translation>
         <translation>
             <numerusform>%n weitere Nummer geändert</numerusform>
             <numerusform>%n weitere Nummern geändert</numerusform>
+        </translation>
+    </message>
+    <message id="kToldOthersToTheEnd" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n weiterer ans Ende gestellt</numerusform>
+            <numerusform>%n weitere ans Ende gestellt</numerusform>
         </translation>
     </message>
     <message id="kToldPasteGone">

@@ -455,8 +455,8 @@
     <message id="kDiffFields" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n with other details</numerusform>
-            <numerusform>%n with other details</numerusform>
+            <numerusform>%n station with other details</numerusform>
+            <numerusform>%n stations with other details</numerusform>
         </translation>
     </message>
     <message id="kDiffGone" numerus="yes">
@@ -469,8 +469,8 @@
     <message id="kDiffLocked" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n locked differently</numerusform>
-            <numerusform>%n locked differently</numerusform>
+            <numerusform>%n station with another child lock</numerusform>
+            <numerusform>%n stations with other child locks</numerusform>
         </translation>
     </message>
     <message id="kDiffMore" numerus="yes">
@@ -483,8 +483,8 @@
     <message id="kDiffNames" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n with another name</numerusform>
-            <numerusform>%n with other names</numerusform>
+            <numerusform>%n station with another name</numerusform>
+            <numerusform>%n stations with other names</numerusform>
         </translation>
     </message>
     <message id="kDiffNew" numerus="yes">
@@ -497,8 +497,8 @@
     <message id="kDiffNumbers" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n at another number</numerusform>
-            <numerusform>%n at other numbers</numerusform>
+            <numerusform>%n station at another number</numerusform>
+            <numerusform>%n stations at other numbers</numerusform>
         </translation>
     </message>
     <message id="kDiffOrder">
@@ -512,8 +512,8 @@
     <message id="kDiffSkipped" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n skipped differently</numerusform>
-            <numerusform>%n skipped differently</numerusform>
+            <numerusform>%n station with another skip mark</numerusform>
+            <numerusform>%n stations with other skip marks</numerusform>
         </translation>
     </message>
     <message id="kDiscard">
@@ -1560,11 +1560,18 @@
             <numerusform>%n numbers are given more than once there.</numerusform>
         </translation>
     </message>
+    <message id="kPreviewHidden" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>This includes %n checked row that is not on show.</numerusform>
+            <numerusform>This includes %n checked rows that are not on show.</numerusform>
+        </translation>
+    </message>
     <message id="kPreviewLocked" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n other child lock</numerusform>
-            <numerusform>%n other child locks</numerusform>
+            <numerusform>%n child lock changes</numerusform>
+            <numerusform>%n child locks change</numerusform>
         </translation>
     </message>
     <message id="kPreviewMoved" numerus="yes">
@@ -1589,15 +1596,23 @@
     <message id="kPreviewPaste" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n checked station moves here.</numerusform>
-            <numerusform>%n checked stations move here.</numerusform>
+            <numerusform>%n checked station moves to number %1, where “%2” is now.</numerusform>
+            <numerusform>%n checked stations move to number %1, where “%2” is now.</numerusform>
         </translation>
+    </message>
+    <message id="kPreviewPasteNone">
+        <source></source>
+        <translation>Nothing can be moved: no row fits a station of the list on show.</translation>
+    </message>
+    <message id="kPreviewPasteUnchecked">
+        <source></source>
+        <translation>No row is checked: check the stations that are to be moved.</translation>
     </message>
     <message id="kPreviewRenamed" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n is renamed</numerusform>
-            <numerusform>%n are renamed</numerusform>
+            <numerusform>%n station is renamed</numerusform>
+            <numerusform>%n stations are renamed</numerusform>
         </translation>
     </message>
     <message id="kPreviewSelected">
@@ -1607,8 +1622,8 @@
     <message id="kPreviewSkipped" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n other skip mark</numerusform>
-            <numerusform>%n other skip marks</numerusform>
+            <numerusform>%n skip mark changes</numerusform>
+            <numerusform>%n skip marks change</numerusform>
         </translation>
     </message>
     <message id="kPreviewSorted">
@@ -1893,7 +1908,7 @@
     </message>
     <message id="kRowLoose">
         <source></source>
-        <translation>uncertain: only the name is alike</translation>
+        <translation>uncertain: similar name</translation>
     </message>
     <message id="kRowMoved">
         <source></source>
@@ -2231,7 +2246,7 @@ These go on from number: %3</translation>
     </message>
     <message id="kTipTakeSelected">
         <source></source>
-        <translation>None of the selected rows is checked, or they change nothing</translation>
+        <translation>None of the selected rows is checked.</translation>
     </message>
     <message id="kTipTooFew">
         <source></source>
@@ -2356,6 +2371,13 @@ These go on from number: %3</translation>
         <translation>
             <numerusform>%n other number changed</numerusform>
             <numerusform>%n other numbers changed</numerusform>
+        </translation>
+    </message>
+    <message id="kToldOthersToTheEnd" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n other moved to the end</numerusform>
+            <numerusform>%n others moved to the end</numerusform>
         </translation>
     </message>
     <message id="kToldPasteGone">

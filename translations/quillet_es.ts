@@ -455,8 +455,8 @@
     <message id="kDiffFields" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n con otros datos</numerusform>
-            <numerusform>%n con otros datos</numerusform>
+            <numerusform>%n canal con otros datos</numerusform>
+            <numerusform>%n canales con otros datos</numerusform>
         </translation>
     </message>
     <message id="kDiffGone" numerus="yes">
@@ -469,8 +469,8 @@
     <message id="kDiffLocked" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n con otro bloqueo</numerusform>
-            <numerusform>%n con otro bloqueo</numerusform>
+            <numerusform>%n canal con otro bloqueo</numerusform>
+            <numerusform>%n canales con otro bloqueo</numerusform>
         </translation>
     </message>
     <message id="kDiffMore" numerus="yes">
@@ -483,8 +483,8 @@
     <message id="kDiffNames" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n con otro nombre</numerusform>
-            <numerusform>%n con otros nombres</numerusform>
+            <numerusform>%n canal con otro nombre</numerusform>
+            <numerusform>%n canales con otro nombre</numerusform>
         </translation>
     </message>
     <message id="kDiffNew" numerus="yes">
@@ -497,8 +497,8 @@
     <message id="kDiffNumbers" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n con otro número</numerusform>
-            <numerusform>%n con otros números</numerusform>
+            <numerusform>%n canal con otro número</numerusform>
+            <numerusform>%n canales con otro número</numerusform>
         </translation>
     </message>
     <message id="kDiffOrder">
@@ -512,8 +512,8 @@
     <message id="kDiffSkipped" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n con otra marca de omisión</numerusform>
-            <numerusform>%n con otra marca de omisión</numerusform>
+            <numerusform>%n canal con otra marca de omisión</numerusform>
+            <numerusform>%n canales con otra marca de omisión</numerusform>
         </translation>
     </message>
     <message id="kDiscard">
@@ -1560,11 +1560,18 @@
             <numerusform>%n números están dados allí más de una vez.</numerusform>
         </translation>
     </message>
+    <message id="kPreviewHidden" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Esto incluye %n fila marcada que no se muestra.</numerusform>
+            <numerusform>Esto incluye %n filas marcadas que no se muestran.</numerusform>
+        </translation>
+    </message>
     <message id="kPreviewLocked" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n bloqueo distinto</numerusform>
-            <numerusform>%n bloqueos distintos</numerusform>
+            <numerusform>%n bloqueo cambia</numerusform>
+            <numerusform>%n bloqueos cambian</numerusform>
         </translation>
     </message>
     <message id="kPreviewMoved" numerus="yes">
@@ -1589,15 +1596,23 @@
     <message id="kPreviewPaste" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n canal marcado pasa aquí.</numerusform>
-            <numerusform>%n canales marcados pasan aquí.</numerusform>
+            <numerusform>%n canal marcado pasa al número %1, donde ahora está «%2».</numerusform>
+            <numerusform>%n canales marcados pasan al número %1, donde ahora está «%2».</numerusform>
         </translation>
+    </message>
+    <message id="kPreviewPasteNone">
+        <source></source>
+        <translation>No se puede mover nada: ninguna fila corresponde a un canal de la lista mostrada.</translation>
+    </message>
+    <message id="kPreviewPasteUnchecked">
+        <source></source>
+        <translation>No hay ninguna fila marcada: marque los canales que se deben mover.</translation>
     </message>
     <message id="kPreviewRenamed" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n cambia de nombre</numerusform>
-            <numerusform>%n cambian de nombre</numerusform>
+            <numerusform>%n canal cambia de nombre</numerusform>
+            <numerusform>%n canales cambian de nombre</numerusform>
         </translation>
     </message>
     <message id="kPreviewSelected">
@@ -1607,8 +1622,8 @@
     <message id="kPreviewSkipped" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n marca de omisión distinta</numerusform>
-            <numerusform>%n marcas de omisión distintas</numerusform>
+            <numerusform>%n marca de omisión cambia</numerusform>
+            <numerusform>%n marcas de omisión cambian</numerusform>
         </translation>
     </message>
     <message id="kPreviewSorted">
@@ -1893,7 +1908,7 @@
     </message>
     <message id="kRowLoose">
         <source></source>
-        <translation>incierto: solo se parece el nombre</translation>
+        <translation>incierto: nombre parecido</translation>
     </message>
     <message id="kRowMoved">
         <source></source>
@@ -2231,7 +2246,7 @@ Estos continúan a partir del número: %3</translation>
     </message>
     <message id="kTipTakeSelected">
         <source></source>
-        <translation>Ninguna fila seleccionada está marcada, o no cambian nada</translation>
+        <translation>Ninguna de las filas seleccionadas está marcada.</translation>
     </message>
     <message id="kTipTooFew">
         <source></source>
@@ -2356,6 +2371,13 @@ Estos continúan a partir del número: %3</translation>
         <translation>
             <numerusform>%n número más cambiado</numerusform>
             <numerusform>%n números más cambiados</numerusform>
+        </translation>
+    </message>
+    <message id="kToldOthersToTheEnd" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n más pasado al final</numerusform>
+            <numerusform>%n más pasados al final</numerusform>
         </translation>
     </message>
     <message id="kToldPasteGone">

@@ -455,8 +455,8 @@
     <message id="kDiffFields" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n avec d’autres données</numerusform>
-            <numerusform>%n avec d’autres données</numerusform>
+            <numerusform>%n chaîne avec d’autres indications</numerusform>
+            <numerusform>%n chaînes avec d’autres indications</numerusform>
         </translation>
     </message>
     <message id="kDiffGone" numerus="yes">
@@ -469,8 +469,8 @@
     <message id="kDiffLocked" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n au verrouillage différent</numerusform>
-            <numerusform>%n au verrouillage différent</numerusform>
+            <numerusform>%n chaîne avec un autre verrouillage</numerusform>
+            <numerusform>%n chaînes avec un autre verrouillage</numerusform>
         </translation>
     </message>
     <message id="kDiffMore" numerus="yes">
@@ -483,8 +483,8 @@
     <message id="kDiffNames" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n sous un autre nom</numerusform>
-            <numerusform>%n sous d’autres noms</numerusform>
+            <numerusform>%n chaîne avec un autre nom</numerusform>
+            <numerusform>%n chaînes avec d’autres noms</numerusform>
         </translation>
     </message>
     <message id="kDiffNew" numerus="yes">
@@ -497,8 +497,8 @@
     <message id="kDiffNumbers" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n à un autre numéro</numerusform>
-            <numerusform>%n à d’autres numéros</numerusform>
+            <numerusform>%n chaîne sous un autre numéro</numerusform>
+            <numerusform>%n chaînes sous d’autres numéros</numerusform>
         </translation>
     </message>
     <message id="kDiffOrder">
@@ -512,8 +512,8 @@
     <message id="kDiffSkipped" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n à l’état « ignorée » différent</numerusform>
-            <numerusform>%n à l’état « ignorée » différent</numerusform>
+            <numerusform>%n chaîne avec une autre marque « ignorer »</numerusform>
+            <numerusform>%n chaînes avec une autre marque « ignorer »</numerusform>
         </translation>
     </message>
     <message id="kDiscard">
@@ -1560,11 +1560,18 @@
             <numerusform>%n numéros y sont donnés plusieurs fois.</numerusform>
         </translation>
     </message>
+    <message id="kPreviewHidden" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Cela comprend %n ligne cochée qui n’est pas affichée.</numerusform>
+            <numerusform>Cela comprend %n lignes cochées qui ne sont pas affichées.</numerusform>
+        </translation>
+    </message>
     <message id="kPreviewLocked" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n autre verrouillage</numerusform>
-            <numerusform>%n autres verrouillages</numerusform>
+            <numerusform>%n verrouillage change</numerusform>
+            <numerusform>%n verrouillages changent</numerusform>
         </translation>
     </message>
     <message id="kPreviewMoved" numerus="yes">
@@ -1589,15 +1596,23 @@
     <message id="kPreviewPaste" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n chaîne cochée vient ici.</numerusform>
-            <numerusform>%n chaînes cochées viennent ici.</numerusform>
+            <numerusform>%n chaîne cochée va au numéro %1, où se trouve « %2 ».</numerusform>
+            <numerusform>%n chaînes cochées vont au numéro %1, où se trouve « %2 ».</numerusform>
         </translation>
+    </message>
+    <message id="kPreviewPasteNone">
+        <source></source>
+        <translation>Rien ne peut être déplacé : aucune ligne ne correspond à une chaîne de la liste affichée.</translation>
+    </message>
+    <message id="kPreviewPasteUnchecked">
+        <source></source>
+        <translation>Aucune ligne n’est cochée : cochez les chaînes à déplacer.</translation>
     </message>
     <message id="kPreviewRenamed" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n est renommée</numerusform>
-            <numerusform>%n sont renommées</numerusform>
+            <numerusform>%n chaîne est renommée</numerusform>
+            <numerusform>%n chaînes sont renommées</numerusform>
         </translation>
     </message>
     <message id="kPreviewSelected">
@@ -1607,8 +1622,8 @@
     <message id="kPreviewSkipped" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n autre marque « ignorer »</numerusform>
-            <numerusform>%n autres marques « ignorer »</numerusform>
+            <numerusform>%n marque « ignorer » change</numerusform>
+            <numerusform>%n marques « ignorer » changent</numerusform>
         </translation>
     </message>
     <message id="kPreviewSorted">
@@ -1893,7 +1908,7 @@
     </message>
     <message id="kRowLoose">
         <source></source>
-        <translation>incertain : seul le nom est semblable</translation>
+        <translation>incertain : nom semblable</translation>
     </message>
     <message id="kRowMoved">
         <source></source>
@@ -2231,7 +2246,7 @@ Ces dernières suivent à partir du numéro : %3</translation>
     </message>
     <message id="kTipTakeSelected">
         <source></source>
-        <translation>Aucune ligne sélectionnée n’est cochée, ou elles ne changent rien</translation>
+        <translation>Aucune des lignes sélectionnées n’est cochée.</translation>
     </message>
     <message id="kTipTooFew">
         <source></source>
@@ -2356,6 +2371,13 @@ Ces dernières suivent à partir du numéro : %3</translation>
         <translation>
             <numerusform>%n autre numéro modifié</numerusform>
             <numerusform>%n autres numéros modifiés</numerusform>
+        </translation>
+    </message>
+    <message id="kToldOthersToTheEnd" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n autre mise à la fin</numerusform>
+            <numerusform>%n autres mises à la fin</numerusform>
         </translation>
     </message>
     <message id="kToldPasteGone">

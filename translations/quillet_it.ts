@@ -455,8 +455,8 @@
     <message id="kDiffFields" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n con altri dati</numerusform>
-            <numerusform>%n con altri dati</numerusform>
+            <numerusform>%n canale con altri dati</numerusform>
+            <numerusform>%n canali con altri dati</numerusform>
         </translation>
     </message>
     <message id="kDiffGone" numerus="yes">
@@ -469,8 +469,8 @@
     <message id="kDiffLocked" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n bloccato diversamente</numerusform>
-            <numerusform>%n bloccati diversamente</numerusform>
+            <numerusform>%n canale con un altro blocco</numerusform>
+            <numerusform>%n canali con un altro blocco</numerusform>
         </translation>
     </message>
     <message id="kDiffMore" numerus="yes">
@@ -483,8 +483,8 @@
     <message id="kDiffNames" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n con un altro nome</numerusform>
-            <numerusform>%n con altri nomi</numerusform>
+            <numerusform>%n canale con un altro nome</numerusform>
+            <numerusform>%n canali con altri nomi</numerusform>
         </translation>
     </message>
     <message id="kDiffNew" numerus="yes">
@@ -497,8 +497,8 @@
     <message id="kDiffNumbers" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n a un altro numero</numerusform>
-            <numerusform>%n ad altri numeri</numerusform>
+            <numerusform>%n canale a un altro numero</numerusform>
+            <numerusform>%n canali ad altri numeri</numerusform>
         </translation>
     </message>
     <message id="kDiffOrder">
@@ -512,8 +512,8 @@
     <message id="kDiffSkipped" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n saltato diversamente</numerusform>
-            <numerusform>%n saltati diversamente</numerusform>
+            <numerusform>%n canale con un altro contrassegno di salto</numerusform>
+            <numerusform>%n canali con altri contrassegni di salto</numerusform>
         </translation>
     </message>
     <message id="kDiscard">
@@ -989,11 +989,11 @@
     </message>
     <message id="kMarkNotSet">
         <source></source>
-        <translation>%1: non selezionato</translation>
+        <translation>%1: non spuntato</translation>
     </message>
     <message id="kMarkSet">
         <source></source>
-        <translation>%1: selezionato</translation>
+        <translation>%1: spuntato</translation>
     </message>
     <message id="kMendedAmpersands" numerus="yes">
         <source></source>
@@ -1560,11 +1560,18 @@
             <numerusform>%n numeri sono assegnati là più volte.</numerusform>
         </translation>
     </message>
+    <message id="kPreviewHidden" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>È compresa %n riga spuntata che non è mostrata.</numerusform>
+            <numerusform>Sono comprese %n righe spuntate che non sono mostrate.</numerusform>
+        </translation>
+    </message>
     <message id="kPreviewLocked" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n blocco diverso</numerusform>
-            <numerusform>%n blocchi diversi</numerusform>
+            <numerusform>%n blocco cambia</numerusform>
+            <numerusform>%n blocchi cambiano</numerusform>
         </translation>
     </message>
     <message id="kPreviewMoved" numerus="yes">
@@ -1589,15 +1596,23 @@
     <message id="kPreviewPaste" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n canale spuntato viene spostato qui.</numerusform>
-            <numerusform>%n canali spuntati vengono spostati qui.</numerusform>
+            <numerusform>%n canale spuntato va al numero %1, dove ora c’è “%2”.</numerusform>
+            <numerusform>%n canali spuntati vanno al numero %1, dove ora c’è “%2”.</numerusform>
         </translation>
+    </message>
+    <message id="kPreviewPasteNone">
+        <source></source>
+        <translation>Non si può spostare nulla: nessuna riga corrisponde a un canale dell’elenco mostrato.</translation>
+    </message>
+    <message id="kPreviewPasteUnchecked">
+        <source></source>
+        <translation>Nessuna riga è spuntata: spunta i canali da spostare.</translation>
     </message>
     <message id="kPreviewRenamed" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n viene rinominato</numerusform>
-            <numerusform>%n vengono rinominati</numerusform>
+            <numerusform>%n canale viene rinominato</numerusform>
+            <numerusform>%n canali vengono rinominati</numerusform>
         </translation>
     </message>
     <message id="kPreviewSelected">
@@ -1607,8 +1622,8 @@
     <message id="kPreviewSkipped" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n contrassegno di salto diverso</numerusform>
-            <numerusform>%n contrassegni di salto diversi</numerusform>
+            <numerusform>%n contrassegno di salto cambia</numerusform>
+            <numerusform>%n contrassegni di salto cambiano</numerusform>
         </translation>
     </message>
     <message id="kPreviewSorted">
@@ -1893,7 +1908,7 @@
     </message>
     <message id="kRowLoose">
         <source></source>
-        <translation>incerto: solo il nome è simile</translation>
+        <translation>incerto: nome simile</translation>
     </message>
     <message id="kRowMoved">
         <source></source>
@@ -2231,7 +2246,7 @@ Questi proseguono dal numero: %3</translation>
     </message>
     <message id="kTipTakeSelected">
         <source></source>
-        <translation>Nessuna riga selezionata è spuntata, o non cambiano nulla</translation>
+        <translation>Nessuna delle righe selezionate è spuntata.</translation>
     </message>
     <message id="kTipTooFew">
         <source></source>
@@ -2356,6 +2371,13 @@ Questi proseguono dal numero: %3</translation>
         <translation>
             <numerusform>%n altro numero cambiato</numerusform>
             <numerusform>altri %n numeri cambiati</numerusform>
+        </translation>
+    </message>
+    <message id="kToldOthersToTheEnd" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n altro spostato alla fine</numerusform>
+            <numerusform>altri %n spostati alla fine</numerusform>
         </translation>
     </message>
     <message id="kToldPasteGone">

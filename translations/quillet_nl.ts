@@ -455,8 +455,8 @@
     <message id="kDiffFields" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n met andere gegevens</numerusform>
-            <numerusform>%n met andere gegevens</numerusform>
+            <numerusform>%n zender met andere gegevens</numerusform>
+            <numerusform>%n zenders met andere gegevens</numerusform>
         </translation>
     </message>
     <message id="kDiffGone" numerus="yes">
@@ -469,8 +469,8 @@
     <message id="kDiffLocked" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n anders wat vergrendeling betreft</numerusform>
-            <numerusform>%n anders wat vergrendeling betreft</numerusform>
+            <numerusform>%n zender met een ander kinderslot</numerusform>
+            <numerusform>%n zenders met een ander kinderslot</numerusform>
         </translation>
     </message>
     <message id="kDiffMore" numerus="yes">
@@ -483,8 +483,8 @@
     <message id="kDiffNames" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n met een andere naam</numerusform>
-            <numerusform>%n met andere namen</numerusform>
+            <numerusform>%n zender met een andere naam</numerusform>
+            <numerusform>%n zenders met andere namen</numerusform>
         </translation>
     </message>
     <message id="kDiffNew" numerus="yes">
@@ -497,8 +497,8 @@
     <message id="kDiffNumbers" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n op een ander nummer</numerusform>
-            <numerusform>%n op andere nummers</numerusform>
+            <numerusform>%n zender op een ander nummer</numerusform>
+            <numerusform>%n zenders op andere nummers</numerusform>
         </translation>
     </message>
     <message id="kDiffOrder">
@@ -512,8 +512,8 @@
     <message id="kDiffSkipped" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n anders wat overslaan betreft</numerusform>
-            <numerusform>%n anders wat overslaan betreft</numerusform>
+            <numerusform>%n zender met een andere overslaanmarkering</numerusform>
+            <numerusform>%n zenders met andere overslaanmarkeringen</numerusform>
         </translation>
     </message>
     <message id="kDiscard">
@@ -1560,11 +1560,18 @@
             <numerusform>%n nummers zijn daar meermaals gegeven.</numerusform>
         </translation>
     </message>
+    <message id="kPreviewHidden" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Daarbij is %n aangevinkte rij die niet wordt getoond.</numerusform>
+            <numerusform>Daarbij zijn %n aangevinkte rijen die niet worden getoond.</numerusform>
+        </translation>
+    </message>
     <message id="kPreviewLocked" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n ander kinderslot</numerusform>
-            <numerusform>%n andere kindersloten</numerusform>
+            <numerusform>%n kinderslot verandert</numerusform>
+            <numerusform>%n kindersloten veranderen</numerusform>
         </translation>
     </message>
     <message id="kPreviewMoved" numerus="yes">
@@ -1589,15 +1596,23 @@
     <message id="kPreviewPaste" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n aangevinkte zender komt hierheen.</numerusform>
-            <numerusform>%n aangevinkte zenders komen hierheen.</numerusform>
+            <numerusform>%n aangevinkte zender gaat naar nummer %1, waar nu “%2” staat.</numerusform>
+            <numerusform>%n aangevinkte zenders gaan naar nummer %1, waar nu “%2” staat.</numerusform>
         </translation>
+    </message>
+    <message id="kPreviewPasteNone">
+        <source></source>
+        <translation>Er kan niets worden verplaatst: geen rij past bij een zender van de getoonde lijst.</translation>
+    </message>
+    <message id="kPreviewPasteUnchecked">
+        <source></source>
+        <translation>Geen rij is aangevinkt: vink de zenders aan die moeten worden verplaatst.</translation>
     </message>
     <message id="kPreviewRenamed" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n krijgt een andere naam</numerusform>
-            <numerusform>%n krijgen een andere naam</numerusform>
+            <numerusform>%n zender krijgt een andere naam</numerusform>
+            <numerusform>%n zenders krijgen een andere naam</numerusform>
         </translation>
     </message>
     <message id="kPreviewSelected">
@@ -1607,8 +1622,8 @@
     <message id="kPreviewSkipped" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n andere overslaanmarkering</numerusform>
-            <numerusform>%n andere overslaanmarkeringen</numerusform>
+            <numerusform>%n overslaanmarkering verandert</numerusform>
+            <numerusform>%n overslaanmarkeringen veranderen</numerusform>
         </translation>
     </message>
     <message id="kPreviewSorted">
@@ -1893,7 +1908,7 @@
     </message>
     <message id="kRowLoose">
         <source></source>
-        <translation>onzeker: alleen de naam lijkt erop</translation>
+        <translation>onzeker: naam lijkt erop</translation>
     </message>
     <message id="kRowMoved">
         <source></source>
@@ -2231,7 +2246,7 @@ Deze gaan verder vanaf nummer: %3</translation>
     </message>
     <message id="kTipTakeSelected">
         <source></source>
-        <translation>Geen van de geselecteerde rijen is aangevinkt, of ze veranderen niets</translation>
+        <translation>Geen van de geselecteerde rijen is aangevinkt.</translation>
     </message>
     <message id="kTipTooFew">
         <source></source>
@@ -2356,6 +2371,13 @@ Deze gaan verder vanaf nummer: %3</translation>
         <translation>
             <numerusform>%n ander nummer gewijzigd</numerusform>
             <numerusform>%n andere nummers gewijzigd</numerusform>
+        </translation>
+    </message>
+    <message id="kToldOthersToTheEnd" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n andere naar het einde verplaatst</numerusform>
+            <numerusform>%n andere naar het einde verplaatst</numerusform>
         </translation>
     </message>
     <message id="kToldPasteGone">

@@ -462,9 +462,9 @@
     <message id="kDiffFields" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n z innymi danymi</numerusform>
-            <numerusform>%n z innymi danymi</numerusform>
-            <numerusform>%n z innymi danymi</numerusform>
+            <numerusform>%n kanał z innymi danymi</numerusform>
+            <numerusform>%n kanały z innymi danymi</numerusform>
+            <numerusform>%n kanałów z innymi danymi</numerusform>
         </translation>
     </message>
     <message id="kDiffGone" numerus="yes">
@@ -478,9 +478,9 @@
     <message id="kDiffLocked" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n z inną blokadą</numerusform>
-            <numerusform>%n z inną blokadą</numerusform>
-            <numerusform>%n z inną blokadą</numerusform>
+            <numerusform>%n kanał z inną blokadą</numerusform>
+            <numerusform>%n kanały z inną blokadą</numerusform>
+            <numerusform>%n kanałów z inną blokadą</numerusform>
         </translation>
     </message>
     <message id="kDiffMore" numerus="yes">
@@ -494,9 +494,9 @@
     <message id="kDiffNames" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n z inną nazwą</numerusform>
-            <numerusform>%n z innymi nazwami</numerusform>
-            <numerusform>%n z innymi nazwami</numerusform>
+            <numerusform>%n kanał z inną nazwą</numerusform>
+            <numerusform>%n kanały z innymi nazwami</numerusform>
+            <numerusform>%n kanałów z innymi nazwami</numerusform>
         </translation>
     </message>
     <message id="kDiffNew" numerus="yes">
@@ -510,9 +510,9 @@
     <message id="kDiffNumbers" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n pod innym numerem</numerusform>
-            <numerusform>%n pod innymi numerami</numerusform>
-            <numerusform>%n pod innymi numerami</numerusform>
+            <numerusform>%n kanał pod innym numerem</numerusform>
+            <numerusform>%n kanały pod innymi numerami</numerusform>
+            <numerusform>%n kanałów pod innymi numerami</numerusform>
         </translation>
     </message>
     <message id="kDiffOrder">
@@ -526,9 +526,9 @@
     <message id="kDiffSkipped" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n z innym znakiem pomijania</numerusform>
-            <numerusform>%n z innym znakiem pomijania</numerusform>
-            <numerusform>%n z innym znakiem pomijania</numerusform>
+            <numerusform>%n kanał z innym oznaczeniem pomijania</numerusform>
+            <numerusform>%n kanały z innym oznaczeniem pomijania</numerusform>
+            <numerusform>%n kanałów z innym oznaczeniem pomijania</numerusform>
         </translation>
     </message>
     <message id="kDiscard">
@@ -1595,12 +1595,20 @@
             <numerusform>%n numerów jest tam nadanych kilkakrotnie.</numerusform>
         </translation>
     </message>
+    <message id="kPreviewHidden" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Obejmuje to %n zaznaczony wiersz, którego nie widać.</numerusform>
+            <numerusform>Obejmuje to %n zaznaczone wiersze, których nie widać.</numerusform>
+            <numerusform>Obejmuje to %n zaznaczonych wierszy, których nie widać.</numerusform>
+        </translation>
+    </message>
     <message id="kPreviewLocked" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n inna blokada</numerusform>
-            <numerusform>%n inne blokady</numerusform>
-            <numerusform>%n innych blokad</numerusform>
+            <numerusform>%n blokada się zmienia</numerusform>
+            <numerusform>%n blokady się zmieniają</numerusform>
+            <numerusform>%n blokad się zmienia</numerusform>
         </translation>
     </message>
     <message id="kPreviewMoved" numerus="yes">
@@ -1626,17 +1634,25 @@
     <message id="kPreviewPaste" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n zaznaczony kanał trafia tutaj.</numerusform>
-            <numerusform>%n zaznaczone kanały trafiają tutaj.</numerusform>
-            <numerusform>%n zaznaczonych kanałów trafia tutaj.</numerusform>
+            <numerusform>%n zaznaczony kanał trafia na numer %1, gdzie teraz jest „%2”.</numerusform>
+            <numerusform>%n zaznaczone kanały trafiają na numer %1, gdzie teraz jest „%2”.</numerusform>
+            <numerusform>%n zaznaczonych kanałów trafia na numer %1, gdzie teraz jest „%2”.</numerusform>
         </translation>
+    </message>
+    <message id="kPreviewPasteNone">
+        <source></source>
+        <translation>Nie można niczego przenieść: żaden wiersz nie pasuje do kanału z wyświetlanej listy.</translation>
+    </message>
+    <message id="kPreviewPasteUnchecked">
+        <source></source>
+        <translation>Żaden wiersz nie jest zaznaczony: zaznacz kanały, które mają zostać przeniesione.</translation>
     </message>
     <message id="kPreviewRenamed" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n zmienia nazwę</numerusform>
-            <numerusform>%n zmieniają nazwę</numerusform>
-            <numerusform>%n zmienia nazwę</numerusform>
+            <numerusform>%n kanał zmienia nazwę</numerusform>
+            <numerusform>%n kanały zmieniają nazwę</numerusform>
+            <numerusform>%n kanałów zmienia nazwę</numerusform>
         </translation>
     </message>
     <message id="kPreviewSelected">
@@ -1646,9 +1662,9 @@
     <message id="kPreviewSkipped" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n inne oznaczenie pomijania</numerusform>
-            <numerusform>%n inne oznaczenia pomijania</numerusform>
-            <numerusform>%n innych oznaczeń pomijania</numerusform>
+            <numerusform>%n oznaczenie pomijania się zmienia</numerusform>
+            <numerusform>%n oznaczenia pomijania się zmieniają</numerusform>
+            <numerusform>%n oznaczeń pomijania się zmienia</numerusform>
         </translation>
     </message>
     <message id="kPreviewSorted">
@@ -1941,7 +1957,7 @@
     </message>
     <message id="kRowLoose">
         <source></source>
-        <translation>niepewne: podobna tylko nazwa</translation>
+        <translation>niepewne: podobna nazwa</translation>
     </message>
     <message id="kRowMoved">
         <source></source>
@@ -2287,7 +2303,7 @@ Te następują od numeru: %3</translation>
     </message>
     <message id="kTipTakeSelected">
         <source></source>
-        <translation>Żaden wybrany wiersz nie jest zaznaczony albo nic nie zmienia</translation>
+        <translation>Żaden z wybranych wierszy nie jest zaznaczony.</translation>
     </message>
     <message id="kTipTooFew">
         <source></source>
@@ -2423,6 +2439,14 @@ Te następują od numeru: %3</translation>
             <numerusform>zmieniono %n inny numer</numerusform>
             <numerusform>zmieniono %n inne numery</numerusform>
             <numerusform>zmieniono %n innych numerów</numerusform>
+        </translation>
+    </message>
+    <message id="kToldOthersToTheEnd" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n inny przeniesiono na koniec</numerusform>
+            <numerusform>%n inne przeniesiono na koniec</numerusform>
+            <numerusform>%n innych przeniesiono na koniec</numerusform>
         </translation>
     </message>
     <message id="kToldPasteGone">

@@ -1525,10 +1525,16 @@
             <numerusform>Orada %n numara birden çok kez verilmiş.</numerusform>
         </translation>
     </message>
+    <message id="kPreviewHidden" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Buna gösterilmeyen, işaretli %n satır dahildir.</numerusform>
+        </translation>
+    </message>
     <message id="kPreviewLocked" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n farklı çocuk kilidi</numerusform>
+            <numerusform>%n çocuk kilidi değişir</numerusform>
         </translation>
     </message>
     <message id="kPreviewMoved" numerus="yes">
@@ -1552,8 +1558,16 @@
     <message id="kPreviewPaste" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>İşaretli %n kanal buraya taşınır.</numerusform>
+            <numerusform>İşaretli %n kanal, şimdi “%2” kanalının bulunduğu %1 numarasına taşınır.</numerusform>
         </translation>
+    </message>
+    <message id="kPreviewPasteNone">
+        <source></source>
+        <translation>Hiçbir şey taşınamaz: satırların hiçbiri gösterilen listedeki bir kanala uymuyor.</translation>
+    </message>
+    <message id="kPreviewPasteUnchecked">
+        <source></source>
+        <translation>Hiçbir satır işaretli değil: taşınacak kanalları işaretleyin.</translation>
     </message>
     <message id="kPreviewRenamed" numerus="yes">
         <source></source>
@@ -1568,7 +1582,7 @@
     <message id="kPreviewSkipped" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n farklı atlama işareti</numerusform>
+            <numerusform>%n atlama işareti değişir</numerusform>
         </translation>
     </message>
     <message id="kPreviewSorted">
@@ -1845,7 +1859,7 @@
     </message>
     <message id="kRowLoose">
         <source></source>
-        <translation>kesin değil: yalnızca adı benziyor</translation>
+        <translation>kesin değil: adı benziyor</translation>
     </message>
     <message id="kRowMoved">
         <source></source>
@@ -2175,7 +2189,7 @@ Bunların devam ettiği numara: %3</translation>
     </message>
     <message id="kTipTakeSelected">
         <source></source>
-        <translation>Seçilen satırların hiçbiri işaretli değil veya bir şeyi değiştirmiyor</translation>
+        <translation>Seçilen satırların hiçbiri işaretli değil.</translation>
     </message>
     <message id="kTipTooFew">
         <source></source>
@@ -2289,6 +2303,12 @@ Bunların devam ettiği numara: %3</translation>
         <source></source>
         <translation>
             <numerusform>%n başka numara değişti</numerusform>
+        </translation>
+    </message>
+    <message id="kToldOthersToTheEnd" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>başka %n kanal sona taşındı</numerusform>
         </translation>
     </message>
     <message id="kToldPasteGone">

@@ -13,8 +13,10 @@
 #include <QPushButton>
 #include <QSettings>
 #include <QShortcut>
+#include <QSignalBlocker>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <array>
 
 namespace quillet {
@@ -137,6 +139,10 @@ QWidget *CompareDialog::makeButtons()
         connect(m_take, &QPushButton::clicked, &m_comparison, &StationComparison::takeOverAll);
     } else {
         m_take = add(purpose == Purpose::Paste ? "kComparePaste" : "kCompareApply", "compareApply");
+        m_take->setAutoDefault(true);
+        m_take->setDefault(true);
+        if (purpose == Purpose::Paste) // elsewhere Return shows the station
+            connect(m_table, &DarkModeTableView::returnPressed, m_take, &QPushButton::click);
         connect(m_take, &QPushButton::clicked, this, &CompareDialog::accept);
     }
     QPushButton *close = buttons->addButton(
@@ -180,6 +186,8 @@ void CompareDialog::showPlan()
 {
     for (const auto &[aspect, box] : m_aspects) {
         const QString reason = m_comparison.reasonAgainst(aspect);
+        const QSignalBlocker blocker(box); // what is chosen is kept while nothing differs
+        box->setChecked(reason.isEmpty() && m_comparison.choice().takes(aspect));
         box->setEnabled(reason.isEmpty());
         box->setToolTip(reason);
         box->setAccessibleDescription(reason);
@@ -190,7 +198,7 @@ void CompareDialog::showPlan()
         (m_comparison.purpose() == Purpose::Paste ? !m_comparison.checkedStations().empty()
                                                   : !m_comparison.planForAll().empty());
     m_take->setEnabled(canGoOn);
-    m_take->setToolTip(canGoOn ? QString() : qtTrId("kPreviewNothing"));
+    m_take->setToolTip(canGoOn ? QString() : m_plan);
     m_take->setAccessibleDescription(m_plan);
     showSelected();
 }
@@ -203,9 +211,12 @@ void CompareDialog::showSelected()
         return m_preview->setText(m_plan);
     const std::vector<std::size_t> rows = m_table->selected();
     const StationComparison::Parts parts = m_comparison.planFor(rows);
+    const bool areChecked = std::any_of(
+        rows.begin(), rows.end(), [this](std::size_t row) { return m_comparison.isChecked(row); });
     const QString text =
-        parts.empty() ? qtTrId("kTipTakeSelected") : qtTrId("kPreviewSelected").arg(textOf(parts));
-    m_preview->setText(parts.empty() ? m_plan : m_plan + u'\n' + text);
+        areChecked ? qtTrId("kPreviewSelected").arg(textOf(parts)) : qtTrId("kTipTakeSelected");
+    // Where nothing would change at all, that says enough.
+    m_preview->setText(m_comparison.planForAll().empty() ? m_plan : m_plan + u'\n' + text);
     m_takeSelected->setEnabled(!parts.empty());
     m_takeSelected->setToolTip(parts.empty() ? text : QString());
     m_takeSelected->setAccessibleDescription(text);

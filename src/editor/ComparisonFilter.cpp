@@ -8,7 +8,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QLocale>
 
 #include <array>
 
@@ -32,9 +31,12 @@ bool hasKind(Purpose purpose, ComparisonKind kind)
         return true;
     case Purpose::Order:
         return kind == ComparisonKind::Moved || kind >= ComparisonKind::OnlyHere;
-    default:
+    case Purpose::Import:
         return kind != ComparisonKind::OnlyHere;
+    case Purpose::Paste:
+        break; // where they go does not depend on what differs
     }
+    return false;
 }
 
 } // namespace
@@ -104,9 +106,9 @@ void ComparisonFilter::showState()
     m_lists->setCurrentIndex(current);
     m_lists->setVisible(m_lists->count() > 2);
     for (const auto &[kind, box] : m_kinds) {
-        const auto count = static_cast<qlonglong>(m_comparison.count(kind));
-        box->setText(QStringLiteral("%1 (%2)").arg(titleOf(kind, m_comparison.purpose()),
-                                                   QLocale().toString(count)));
+        box->setText(QStringLiteral("%1 (%2)")
+                         .arg(titleOf(kind, m_comparison.purpose()))
+                         .arg(m_comparison.count(kind)));
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "document/compare/UnkeptNames.h"
 #include "document/order/ReferenceOrder.h"
+#include "document/text/StationKey.h"
 
 #include <algorithm>
 #include <array>
@@ -60,6 +61,8 @@ ComparisonRow rowOf(const ComparedStation &station, const ComparedLists &lists,
             row.differences.setFlag(StationDifference::Number, false);
         if (told.testFlag(StationDifference::Name))
             row.nameThere = there.shownName();
+        else if (!station.first)
+            row.nameThere = StationKey::of(there).text();
     }
     return row;
 }
@@ -99,6 +102,9 @@ ComparisonRows comparisonRows(const StationLists &here, const ComparedWith &othe
             if (isOfRows && !station.second)
                 continue;
             rows.push_back(rowOf(station, lists, toldOf));
+            // What a row says that fits nothing is all there is to be seen of it.
+            if (const auto number = station.first ? std::nullopt : toldNumber(*station.second))
+                rows.back().numberThere = QString::number(*number);
             rows.back().placeThere = places.value(station.second.get());
         }
     }

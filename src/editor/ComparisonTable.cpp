@@ -1,6 +1,7 @@
 #include "editor/ComparisonTable.h"
 
 #include "editor/CheckMarkDelegate.h"
+#include "editor/ComparisonTexts.h"
 #include "editor/TableColumns.h"
 #include "editor/TableSelection.h"
 #include "editor/TypedTextDelegate.h"
@@ -13,6 +14,12 @@
 
 namespace quillet {
 
+namespace {
+
+constexpr int rowsMeasured = 300; // the widths of the others will not be much larger
+
+} // namespace
+
 ComparisonTable::ComparisonTable(StationComparison &comparison, QWidget *parent)
     : DarkModeTableView(parent), m_comparison(comparison), m_model(comparison)
 {
@@ -24,8 +31,13 @@ ComparisonTable::ComparisonTable(StationComparison &comparison, QWidget *parent)
     setItemDelegate(new TypedTextDelegate(this));
     setItemDelegateForColumn(ComparisonModel::Check, new CheckMarkDelegate(this));
     setColumnHidden(ComparisonModel::Check, comparison.purpose() == ComparedWith::Purpose::Order);
-    sizeColumns();
-    connect(this, &DarkModeTableView::returnPressed, this, &ComparisonTable::reveal);
+    sizeRows(*this, fontMetrics());
+    horizontalHeader()->setResizeContentsPrecision(rowsMeasured);
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int, int, int width) {
+        m_isSizedByHand = m_isSizedByHand || (!m_isFitting && width > 0);
+    });
+    if (comparison.purpose() != ComparedWith::Purpose::Paste) // there it is the question's
+        connect(this, &DarkModeTableView::returnPressed, this, &ComparisonTable::reveal);
     connect(this, &QTableView::doubleClicked, this, [this](const QModelIndex &index) {
         if (index.column() != ComparisonModel::Check)
             reveal();
@@ -44,21 +56,55 @@ ComparisonTable::~ComparisonTable()
     selectionModel()->disconnect(this);
 }
 
-void ComparisonTable::sizeColumns()
+void ComparisonTable::measureColumns()
 {
-    sizeRows(*this, fontMetrics());
     QHeaderView &header = *horizontalHeader();
-    header.setStretchLastSection(true);
     const int letter = fontMetrics().averageCharWidth();
-    const auto widen = [&header, letter](int column, int letters) {
-        header.resizeSection(column, qMax(letters * letter, header.sectionSizeHint(column)));
-    };
-    widen(ComparisonModel::Check, 0);
-    widen(ComparisonModel::List, 14);
+    for (int column = 0; column < ComparisonModel::columns; ++column)
+        m_wanted.at(column) = qMax(header.sectionSizeHint(column), sizeHintForColumn(column));
+    // The same whichever rows are on show.
+    int &list = m_wanted[ComparisonModel::List];
+    for (const StationComparison::List &each : m_comparison.lists())
+        list = qMax(list, fontMetrics().horizontalAdvance(shortTitleOf(each)) + 2 * letter);
     for (const int column : {ComparisonModel::NumberHere, ComparisonModel::NumberThere})
-        widen(column, 9);
-    for (const int column : {ComparisonModel::NameHere, ComparisonModel::NameThere})
-        widen(column, 24);
+        m_wanted.at(column) = qMax(m_wanted.at(column), 7 * letter);
+}
+
+/// What the narrow columns leave goes to the texts in equal shares, and what one of them does not
+/// need to the others; of what then is left the names have the most use.
+void ComparisonTable::fitColumns()
+{
+    if (m_isSizedByHand)
+        return;
+    QHeaderView &header = *horizontalHeader();
+    std::array texts{ComparisonModel::Difference, ComparisonModel::NameHere,
+                     ComparisonModel::NameThere};
+    std::sort(texts.begin(), texts.end(),
+              [this](int a, int b) { return m_wanted.at(a) < m_wanted.at(b); });
+    int left = viewport()->width();
+    std::array<int, ComparisonModel::columns> widths = m_wanted;
+    for (int column = 0; column < ComparisonModel::NameHere; ++column)
+        left -= header.isSectionHidden(column) ? 0 : m_wanted.at(column);
+    int others = texts.size();
+    for (const int column : texts) {
+        const int least = header.sectionSizeHint(column);
+        widths.at(column) = qMin(m_wanted.at(column), qMax(least, left / others--));
+        left -= widths.at(column);
+    }
+    if (left > 0) {
+        widths[ComparisonModel::NameHere] += left / 2;
+        widths[ComparisonModel::NameThere] += left - left / 2;
+    }
+    m_isFitting = true;
+    for (int column = 0; column < ComparisonModel::columns; ++column)
+        header.resizeSection(column, widths.at(column));
+    m_isFitting = false;
+}
+
+void ComparisonTable::resizeEvent(QResizeEvent *event)
+{
+    DarkModeTableView::resizeEvent(event);
+    fitColumns();
 }
 
 std::vector<std::size_t> ComparisonTable::selected() const
@@ -143,6 +189,8 @@ void ComparisonTable::restoreSelection()
                                                : qtTrId("kDiffOrder") + u'.');
     setColumnHidden(ComparisonModel::List,
                     m_comparison.lists().size() < 2 || m_comparison.filter().list().has_value());
+    measureColumns();
+    fitColumns();
 }
 
 /// If its station has gone, then the row that stands there now.

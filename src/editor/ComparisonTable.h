@@ -4,13 +4,15 @@
 #include "editor/DarkModeTableView.h"
 #include "editor/StationComparison.h"
 
+#include <array>
 #include <tuple>
 #include <vector>
 
 namespace quillet {
 
 /// The rows of a comparison as a table: the space bar checks what is selected, and the selection
-/// stays with its stations while the rows change. Owned by the window that compares.
+/// stays with its stations while the rows change. Its columns fit its width until somebody sizes
+/// one. Owned by the window that compares.
 class ComparisonTable : public DarkModeTableView
 {
     Q_OBJECT
@@ -31,12 +33,14 @@ signals:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     /// Of the row at a time when there may be others.
     using RowKey = std::tuple<const LGStation *, const LGStation *, std::size_t>;
 
-    void sizeColumns();
+    void measureColumns();
+    void fitColumns();
     void keepSelection();
     void restoreSelection();
     void restoreCurrent();
@@ -50,6 +54,9 @@ private:
     int m_currentRow = -1; ///< when there are others
     int m_currentColumn = ComparisonModel::NameHere;
     int m_scrolled = 0;
+    std::array<int, ComparisonModel::columns> m_wanted{}; ///< the widths that would cut nothing
+    bool m_isFitting = false;
+    bool m_isSizedByHand = false; ///< then the columns stay
 };
 
 } // namespace quillet

@@ -4,7 +4,6 @@
 #include "editor/ShownTexts.h"
 #include "editor/SourceTitles.h"
 
-#include <QLocale>
 #include <QStringList>
 
 #include <algorithm>
@@ -76,16 +75,34 @@ QString orderPreview(const StationComparison &comparison)
     std::size_t matched = 0;
     for (const ComparisonKind kind : {ComparisonKind::Moved, ComparisonKind::Same})
         matched += comparison.count(kind);
-    const QLocale locale;
-    const auto number = [&locale](std::size_t count) {
-        return locale.toString(static_cast<qlonglong>(count));
-    };
-    const QString text =
-        qtTrId("kPreviewOrderCounts")
-            .arg(number(matched), number(comparison.count(ComparisonKind::OnlyHere)),
-                 number(comparison.count(ComparisonKind::OnlyThere)));
+    const QString text = qtTrId("kPreviewOrderCounts")
+                             .arg(matched)
+                             .arg(comparison.count(ComparisonKind::OnlyHere))
+                             .arg(comparison.count(ComparisonKind::OnlyThere));
     const std::size_t doubled = comparison.doubledNumbers();
     return doubled == 0 ? text : text + u' ' + qtTrId("kPreviewDoubled", static_cast<int>(doubled));
+}
+
+/// That rows are taken, too, which the filter hides.
+QString hiddenText(const StationComparison &comparison)
+{
+    const std::size_t hidden = comparison.checkedHidden();
+    return hidden == 0 ? QString() : u' ' + qtTrId("kPreviewHidden", static_cast<int>(hidden));
+}
+
+/// Where the checked stations go, or why none of them does.
+QString pastePreview(const StationComparison &comparison)
+{
+    const StationList stations = comparison.checkedStations();
+    if (stations.empty()) {
+        bool canMove = false;
+        for (std::size_t row = 0; row < comparison.rowCount(); ++row)
+            canMove = canMove || comparison.canBeChecked(row);
+        return qtTrId(canMove ? "kPreviewPasteUnchecked" : "kPreviewPasteNone");
+    }
+    const StationPtr &place = comparison.other().place;
+    return qtTrId("kPreviewPaste", static_cast<int>(stations.size()))
+        .arg(place ? place->progNumString() : QString(), place ? namesOf({place}) : QString());
 }
 
 /// Whether the list did not stand in the order of its numbers before.
@@ -216,7 +233,7 @@ QString previewOf(const StationComparison &comparison)
     case Purpose::Order:
         return orderPreview(comparison);
     case Purpose::Paste:
-        return qtTrId("kPreviewPaste", static_cast<int>(comparison.checkedStations().size()));
+        return pastePreview(comparison) + hiddenText(comparison);
     default:
         break;
     }
@@ -226,7 +243,7 @@ QString previewOf(const StationComparison &comparison)
         sentences.append(qtTrId("kPreviewDoubledThere", static_cast<int>(doubled)));
     if (const std::size_t unsure = comparison.uncheckedUnsure(); unsure > 0)
         sentences.append(qtTrId("kPreviewUnsure", static_cast<int>(unsure)));
-    return sentences.join(u' ');
+    return sentences.join(u' ') + hiddenText(comparison);
 }
 
 } // namespace quillet

@@ -67,10 +67,11 @@ QString textOf(const EditSummary &summary)
     const KindTexts &texts = textsOf(summary.kind);
     const QString told = text(texts.told, texts.isToldCounted, summary.stations);
     const QString first = QString::number(summary.first), last = QString::number(summary.last);
-    const QString others =
-        summary.others == 0
-            ? QString()
-            : QStringLiteral(", ") + text("kToldOthersRenumbered", true, summary.others);
+    const bool isTaken = summary.kind == Kind::TakenOver || summary.kind == Kind::Imported;
+    const char *othersId = isTaken ? "kToldOthersToTheEnd" : "kToldOthersRenumbered";
+    const QString others = summary.others == 0
+                               ? QString()
+                               : QStringLiteral(", ") + text(othersId, true, summary.others);
     switch (summary.kind) {
     case Kind::Moved: {
         const QString numbers = first == last ? first : first + QStringLiteral(u"\u2013") + last;

@@ -33,7 +33,8 @@ struct EditSummary
     std::size_t stations = 0; ///< that were edited; after closing gaps, those with another number
     qint64 first = 0;         ///< the number of the first that was moved, now
     qint64 last = 0;          ///< and of the last
-    std::size_t others = 0;   ///< stations besides them that got another number
+    std::size_t others = 0;   ///< stations besides them that got another number; of what was taken
+                              ///< over, those that went to the end
     QString name = {};        ///< that was given; after an order, that of its file; of a version;
                               ///< of what was taken over from
 };

@@ -227,6 +227,15 @@ std::size_t StationComparison::uncheckedUnsure() const
     return static_cast<std::size_t>(std::count_if(m_rows.begin(), m_rows.end(), is));
 }
 
+std::size_t StationComparison::checkedHidden() const
+{
+    const auto is = [this](const ComparisonRow &row) {
+        return m_filter.isOfList(row) && !m_filter.shows(row) && m_choice.isChecked(row) &&
+               (purpose() == Purpose::Paste || takeable(row));
+    };
+    return static_cast<std::size_t>(std::count_if(m_rows.begin(), m_rows.end(), is));
+}
+
 std::size_t StationComparison::doubledNumbers() const
 {
     return m_choice.doubledNumbers(m_rows, m_filter);

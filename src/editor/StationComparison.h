@@ -63,6 +63,9 @@ public:
 
     /// Rows of the list chosen that are unchecked because they are not sure, or of another list.
     [[nodiscard]] std::size_t uncheckedUnsure() const;
+    /// Checked rows of the list chosen that tell something to be taken over, or a station to be
+    /// moved, and are not on show.
+    [[nodiscard]] std::size_t checkedHidden() const;
     /// How many of the numbers that stations take are told of several stations of a list.
     [[nodiscard]] std::size_t doubledNumbers() const;
     using Parts = TakeOverChoice::Parts;

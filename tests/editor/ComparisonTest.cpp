@@ -148,7 +148,7 @@ private slots:
         QCOMPARE(compared.rows(), u"+1>2 A, +2>1 B, -3>4 C, -1>5 X"_s);
         comparison.takeOver({0, 2}); // of which one is checked; it takes the number of another
         QCOMPARE(editor.list(0), u"2 A, 3 C, 4 B"_s);
-        QVERIFY(editor.outlets.told.contains(u"kToldTakenOver, kToldOthersRenumbered"_s));
+        QVERIFY(editor.outlets.told.contains(u"kToldTakenOver, kToldOthersToTheEnd"_s));
         QTRY_COMPARE(compared.rows(), u"-3>4 C, +4>1 B, -1>5 X"_s);
         editor.controller.undoing().undo();
         QCOMPARE(editor.list(0), before);
@@ -259,10 +259,10 @@ private slots:
         for (const StationPtr &station : *rows.lists.list(true, 0))
             rows.told.insert(station.get(), StationDifference::Number);
         const Compared compared(editor, rows);
-        QCOMPARE(compared.rows(), u"+1>2 A/, +2>7 B/, +7>1 C/,  >2 "_s);
+        QCOMPARE(compared.rows(), u"+1>2 A/, +2>7 B/, +7>1 C/,  >2 /n1-t10-s50"_s);
         QCOMPARE(compared.difference(3), u"kRowFitsNothing"_s);
         compared.comparison->toggle({2});
-        QCOMPARE(compared.rows(), u"+1>1 A/, +2>2 B/, -7>1 C/,  >2 "_s);
+        QCOMPARE(compared.rows(), u"+1>1 A/, +2>2 B/, -7>1 C/,  >2 /n1-t10-s50"_s);
         compared.comparison->toggle({2});
         compared.comparison->takeOverAll();
         QCOMPARE(editor.rows(), u"1 C, 2 A, 7 B, 9 D"_s);

@@ -133,8 +133,12 @@ private slots:
         QVERIFY(!window->isWindowModified());
         menuItem(*window, "rename").trigger();
         QTest::keyClicks(typedField(), u"new"_s);
+        typedField()->selectAll();
+        for (const char *command : {"copy", "paste", "paste"})
+            menuItem(*window, command).trigger();
+        QVERIFY(typedField());
         QTest::keyClick(typedField(), Qt::Key_Return);
-        QTRY_COMPARE(cell(*window, 1, Name), u"new"_s);
+        QTRY_COMPARE(cell(*window, 1, Name), u"newnew"_s);
         menuItem(*window, "undo").trigger();
         QCOMPARE(cell(*window, 1, Name), u"B"_s);
     }

@@ -1195,7 +1195,7 @@
     </message>
     <message id="kMenuPrintCompact">
         <source></source>
-        <translation>&amp;Kompakt Yazdır…</translation>
+        <translation>K&amp;ompakt Yazdır…</translation>
     </message>
     <message id="kMenuQuit">
         <source></source>

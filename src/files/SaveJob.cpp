@@ -101,7 +101,6 @@ void SaveJob::keepOld(const FileState &now, const QByteArray &bytes)
 {
     // What is no file is not replaced either.
     const bool mayBeLost = !now.exists() || !isOrdinaryFile(m_path) ||
-                           !m_client->isWorthKeeping(m_path) ||
                            (now.obstacle().isEmpty() && now.bytes() == bytes) ||
                            (m_unkept && now.changeSince(*m_unkept) == FileState::Change::None);
     Error error;

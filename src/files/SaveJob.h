@@ -26,8 +26,7 @@ class FileOperations;
 ///   6. the disk is looked at. Any answer so far may have taken an hour, so only now: whether what
 ///      is there is still what was there, on the same device. If not, that is asked about, and then
 ///      the disk is looked at again, until it is as it was agreed to be;
-///   7. the very bytes that are there, if they are others and worth it, are kept. If that fails,
-///   that is asked
+///   7. the very bytes that are there, if they are others, are kept. If that fails, that is asked
 ///      about, and then the disk is looked at again;
 ///   8. the file is replaced; writing takes a while, so the last look is taken right before that.
 ///      A file that changes at every attempt, there and back, is asked about as well.
@@ -63,8 +62,6 @@ public:
         /// Whether to write all the same, after such a change on the disk.
         virtual void confirm(FileState::Change change,
                              const std::function<void(bool)> &answered) = 0;
-        /// Whether what the file at the path has is to be kept before it is replaced.
-        [[nodiscard]] virtual bool isWorthKeeping(const QString &path) const = 0;
         /// Keeps the bytes that the file at the path has and is about to lose; false, with why,
         /// when that failed.
         [[nodiscard]] virtual bool keep(const QString &path, const QByteArray &replaced,

@@ -18,8 +18,6 @@ namespace quillet {
 
 namespace {
 
-constexpr QLatin1String listSuffix("tll");
-
 struct NotKeptText
 {
     NotKept what;
@@ -115,7 +113,8 @@ QString DocumentSaving::suggestedPath() const
     if (!path.isEmpty() && isOnItsDisk && isThere(QFileInfo(placeOf(path)).path()))
         return path;
     return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) + u'/' +
-           (path.isEmpty() ? qtTrId("kUntitled") + u'.' + listSuffix : QFileInfo(path).fileName());
+           (path.isEmpty() ? qtTrId("kUntitled") + QLatin1String(".tll")
+                           : QFileInfo(path).fileName());
 }
 
 void DocumentSaving::writeToChosenPlace(const SavePanel &panel)
@@ -201,12 +200,6 @@ void DocumentSaving::confirm(FileState::Change change, const std::function<void(
     if (isOwnFile() && !isGone)
         choices.push_back(Choice::Reload);
     offer(std::move(alert), choices, chosen);
-}
-
-/// What is made for people or other programs replaces what was made so; a list is kept even then.
-bool DocumentSaving::isWorthKeeping(const QString &path) const
-{
-    return !m_made || QFileInfo(path).suffix().compare(listSuffix, Qt::CaseInsensitive) == 0;
 }
 
 bool DocumentSaving::keep(const QString &path, const QByteArray &replaced, Error &error)

@@ -55,7 +55,6 @@ public:
     [[nodiscard]] QByteArray makeBytes(Error &error) override;
     void review(const QByteArray &bytes, const Decided &decided) override;
     void confirm(FileState::Change change, const std::function<void(bool)> &answered) override;
-    [[nodiscard]] bool isWorthKeeping(const QString &path) const override;
     [[nodiscard]] bool keep(const QString &path, const QByteArray &replaced, Error &error) override;
     void confirmUnkept(const Error &error, const std::function<void(bool)> &answered) override;
     void finished(const SaveJob::Result &result) override;

@@ -54,23 +54,6 @@ private slots:
         QCOMPARE(kept(u"none.tll"_s), QByteArrayList());
     }
 
-    /// What another program could not open as a list fills no store, and is not asked about.
-    void replacedListsAloneAreKeptForTables()
-    {
-        writeFile(path(u"list.csv"_s), "table");
-        QVERIFY(QFile::resize(path(u"list.csv"_s), qint64{1} << 40)); // more than can be kept
-        writeFile(path(u"OTHER.TLL"_s), "other");
-        for (const QString &name : {u"list.csv"_s, u"OTHER.TLL"_s}) {
-            m_prompts->answerSavePanel(path(name));
-            m_document->exportBytes({}, {"rows", "kToldExportedList"},
-                                    [](bool isWritten, const Error &) { QVERIFY(isWritten); });
-            QCOMPARE(contentOf(path(name)), QByteArray("rows"));
-        }
-        QVERIFY(m_prompts->isSettled());
-        QCOMPARE(kept(u"list.csv"_s), QByteArrayList());
-        QCOMPARE(kept(u"OTHER.TLL"_s), (QByteArrayList{"other"}));
-    }
-
     /// Not what was read, but what another program put there.
     void bytesOnTheDiskAreKept()
     {

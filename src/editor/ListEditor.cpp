@@ -53,11 +53,12 @@ std::vector<StationState> statesOf(const ComparedLists &compared, const StationL
 
 } // namespace
 
-MovePlan ListEditor::planMove(const StationList &stations, qint64 target, bool fillGaps) const
+MovePlan ListEditor::planMove(const StationList &stations, qint64 target, bool fillGaps,
+                              Removal removal) const
 {
     if (!areIn(list(), stations))
         return {}; // stations are taken out by number, so others of this list would go
-    return quillet::planMove(list(), stations, target, fillGaps);
+    return quillet::planMove(list(), stations, target, fillGaps, removal);
 }
 
 bool ListEditor::move(const MovePlan &plan, Beyond beyond)

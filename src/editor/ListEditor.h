@@ -35,8 +35,8 @@ public:
     enum class Beyond { Refused, Wanted };
 
     /// What moving stations (at least one) to a number would do; empty for ones of another list.
-    [[nodiscard]] MovePlan planMove(const StationList &stations, qint64 target,
-                                    bool fillGaps) const;
+    [[nodiscard]] MovePlan planMove(const StationList &stations, qint64 target, bool fillGaps,
+                                    Removal removal = Removal::ByNumber) const;
     /// Carries out a plan that was made of the list as it is. Returns whether it did, also when
     /// everything stood there already.
     bool move(const MovePlan &plan, Beyond beyond = Beyond::Refused);

@@ -24,9 +24,9 @@ StationPtr PasteCommand::place() const
 std::optional<PasteCommand::Move> PasteCommand::plan(PastedStations &pasted) const
 {
     const StationListPtr &list = m_table.stationDoc()->stations();
-    completeRows(pasted.rows, *list);
+    pasted.known = completeRows(pasted.rows, *list).pairs;
     StationList found(pasted.rows.stations.size());
-    const auto pairs = pairStations(*list, pasted.rows.stations);
+    const auto pairs = pairStations(*list, pasted.rows.stations, pasted.known);
     for (std::size_t i = 0; i < pairs.size(); ++i) {
         if (pairs[i] && pairs[i]->likeness == Likeness::Sure)
             found[pairs[i]->index] = (*list)[i];
@@ -43,6 +43,7 @@ ComparedWith PasteCommand::comparison(const PastedStations &pasted) const
     ComparedWith other{.purpose = ComparedWith::Purpose::Paste,
                        .name = qtTrId("kClipboard"),
                        .lists = {},
+                       .known = pasted.known,
                        .place = place()};
     other.lists.setupLists();
     *other.lists.list(document.usesTV(), document.curSource()) = pasted.rows.stations;

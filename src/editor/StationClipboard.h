@@ -28,6 +28,7 @@ struct PastedStations
 {
     StationRows rows;
     std::size_t unread = 0; ///< rows beside them, without anything that finds a station
+    KnownPairs known = {};  ///< once they were looked for in a list
 };
 /// The stations that it tells, by rows that were copied here or that another program has. None when
 /// it tells none, or is more than any list.

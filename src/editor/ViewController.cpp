@@ -149,18 +149,18 @@ void ViewController::moveElements(qsizetype firstRow, qsizetype count, qint64 ta
 
 /// The numbers to select are the editor's fixed rule. With gaps filled other stations may carry
 /// them; then the moved ones are selected all the same.
-void ViewController::moveStations(const StationList &stations, qint64 target)
+void ViewController::moveStations(const StationList &stations, qint64 target, Removal removal)
 {
     if (stations.empty()) {
         tellForeignRows();
         return;
     }
-    const MovePlan plan = m_editor.planMove(stations, target, m_fillGaps);
+    const MovePlan plan = m_editor.planMove(stations, target, m_fillGaps, removal);
     whenNumbersSuffice(plan.beyond(), [this, plan](ListEditor::Beyond beyond) {
         // What was asked may have taken a while.
         carryOut(beyond == ListEditor::Beyond::Refused
                      ? plan
-                     : m_editor.planMove(plan.moved, plan.target, m_fillGaps),
+                     : m_editor.planMove(plan.moved, plan.target, m_fillGaps, plan.removal),
                  beyond);
     });
 }
@@ -294,9 +294,9 @@ void ViewController::pasteStations(const StationList &chosen, const StationPtr &
 
 void ViewController::carryOutPaste(const PasteCommand::Move &move)
 {
-    const bool areThere = m_editor.planMove(move.stations, move.target, m_fillGaps)
+    const bool areThere = m_editor.planMove(move.stations, move.target, m_fillGaps, Removal::Itself)
                               .changesNothingIn(*stationDoc()->stations());
-    moveStations(move.stations, move.target);
+    moveStations(move.stations, move.target, Removal::Itself);
     if (areThere)
         outlets().tell(qtTrId("kToldPasteThere"));
 }

@@ -113,7 +113,8 @@ signals:
     void comparisonWanted(const quillet::ComparedWith &other);
 
 private:
-    void moveStations(const StationList &stations, qint64 target);
+    void moveStations(const StationList &stations, qint64 target,
+                      Removal removal = Removal::ByNumber);
     void carryOutPaste(const PasteCommand::Move &move);
     void carryOut(const MovePlan &plan, ListEditor::Beyond beyond);
     void carryOutArrangement(const ArrangeCommands::Plan &planned, ListEditor::Beyond beyond);

@@ -5,6 +5,8 @@
 
 #include <QTest>
 
+#include <algorithm>
+
 using namespace quillet;
 using namespace quillet::testing;
 using namespace Qt::Literals::StringLiterals;
@@ -92,6 +94,26 @@ private slots:
         const QStringList selection = plan.selection;
         QTEST(numbersAndLetters(stations), "after");
         QTEST(selection.join(u' '), "selected");
+    }
+
+    /// Whatever the numbers are, none is lost then.
+    void movingTheStationsThemselves_data() { moving_data(); }
+    void movingTheStationsThemselves()
+    {
+        QFETCH(QString, before);
+        QFETCH(QString, moved);
+        QFETCH(int, target);
+        QFETCH(bool, fillGaps);
+        StationList stations = stationsNumbered(before), wanted;
+        for (const QChar letter : moved)
+            wanted.push_back(stations.at(letter.unicode() - u'A'));
+        const StationList all = stations;
+        EditRecord unused;
+        moveElemList(stations, planMove(stations, wanted, target, fillGaps, Removal::Itself),
+                     unused);
+        QVERIFY(std::is_permutation(stations.begin(), stations.end(), all.begin(), all.end()));
+        QVERIFY(std::search(stations.begin(), stations.end(), wanted.begin(), wanted.end()) !=
+                stations.end());
     }
 };
 

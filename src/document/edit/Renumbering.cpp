@@ -19,6 +19,7 @@ struct StayedBehind
 /// Takes the moved stations' numbers out of the list's, which become the plan's.
 std::vector<StayedBehind> planRemoval(MovePlan &plan, const StationList &stations)
 {
+    const bool isItself = plan.removal == Removal::Itself;
     QHash<qint64, qsizetype> wanted;
     QHash<const LGStation *, std::size_t> moved;
     for (std::size_t j = 0; j < plan.moved.size(); ++j) {
@@ -30,7 +31,8 @@ std::vector<StayedBehind> planRemoval(MovePlan &plan, const StationList &station
     for (std::size_t place = 0; place < stations.size(); ++place) {
         const qint64 number = stations[place]->progNum();
         const auto found = wanted.find(number);
-        if (found == wanted.end() || found.value() == 0) {
+        const bool isOther = isItself && !moved.contains(stations[place].get());
+        if (found == wanted.end() || found.value() == 0 || isOther) {
             if (found != wanted.end() && moved.contains(stations[place].get()))
                 stayed.push_back({plan.numbers.size(), moved.value(stations[place].get())});
             plan.numbers.push_back(number);
@@ -134,9 +136,10 @@ std::size_t MovePlan::beyond() const
 }
 
 MovePlan planMove(const StationList &stations, const StationList &moved, qint64 target,
-                  bool fillGaps)
+                  bool fillGaps, Removal removal)
 {
     MovePlan plan;
+    plan.removal = removal;
     plan.moved = moved;
     plan.target = target;
     const std::vector<StayedBehind> stayed = planRemoval(plan, stations);

@@ -21,11 +21,18 @@ inline constexpr qint64 highestTarget = 9999;
 /// there is none.
 [[nodiscard]] std::size_t indexForNewProgNum(const std::vector<qint64> &numbers, qint64 number);
 
+/// How a move finds the stations that it takes out of the list.
+enum class Removal {
+    ByNumber, ///< as moving has always done
+    Itself,
+};
+
 /// What moving would do to a list. Means nothing any more once that list has changed.
 struct MovePlan
 {
     StationList moved;
-    qint64 target = 0;                ///< as it was given
+    qint64 target = 0; ///< as it was given
+    Removal removal = Removal::ByNumber;
     std::vector<std::size_t> removed; ///< the places that stations are taken out of, ascending
     std::size_t place = 0;            ///< where the first moved one stands afterwards
     std::vector<qint64> numbers;      ///< of the whole list afterwards
@@ -43,10 +50,10 @@ struct MovePlan
 /// with `fillGaps` to 1, 2, 3 and so on, else raising only what is not above its predecessor. A
 /// target above highestTarget counts as highestTarget, one of 0 or below puts the stations first.
 ///
-/// Stations are taken out by number: of several with the same number the first in the list goes,
-/// even when another one is moved.
+/// ByNumber, of several stations with the same number the first in the list goes, even when another
+/// one is moved.
 [[nodiscard]] MovePlan planMove(const StationList &stations, const StationList &moved,
-                                qint64 target, bool fillGaps);
+                                qint64 target, bool fillGaps, Removal removal = Removal::ByNumber);
 /// Carries out a plan for that very list. Returns how many stations besides the moved ones got
 /// another number.
 std::size_t moveElemList(StationList &stations, const MovePlan &plan, EditRecord &record);

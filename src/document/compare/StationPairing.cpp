@@ -46,9 +46,9 @@ StationPairing::Pairs StationPairing::pair(const std::vector<std::size_t> &first
     m_second.left = indexesOf(second);
     pairKnown();
     pairByIdentity();
+    pairByFrequencyAndName(); // before the whole content, which takes long to read
     pairByContent();
     pairBySharedIdentity();
-    pairByFrequencyAndName();
     pairByName();
     pairByUnedited(false);
     return std::exchange(m_pairs, {});

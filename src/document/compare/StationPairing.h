@@ -35,11 +35,10 @@ struct KnownPair
 using KnownPairs = QHash<const LGStation *, KnownPair>;
 
 /// Finds stations again in other lists. The two may be of different variants of the file, and
-/// records need not tell everything. Goes by the identifiers; among stations that share those by
-/// what they hold, by frequency, name and number; then by frequency and name; then by name alone;
-/// at last by what editing leaves of stations that tell nothing of all that.
-/// Takes linear time. Reads the stations' names; otherwise changes nothing. Made for one
-/// comparison, whose stations must outlive it.
+/// records need not tell everything. Goes by the identifiers; by frequency and name; among stations
+/// that share those by what they hold and by number; then by name alone; at last by what editing
+/// leaves of stations that tell nothing of all that. Takes linear time. Reads the stations' names;
+/// otherwise changes nothing. Made for one comparison, whose stations must outlive it.
 class StationPairing
 {
 public:

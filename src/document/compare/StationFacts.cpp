@@ -4,6 +4,18 @@
 
 namespace quillet {
 
+/// None of an empty text.
+StationFacts::Number StationFacts::number(TextNumbers &texts, QStringView text)
+{
+    if (text.isEmpty())
+        return none;
+    if (texts.count() == 0)
+        texts.reserve(m_stations.capacity());
+    const Number number = texts.number(text);
+    m_end = std::max(m_end, texts.count());
+    return number;
+}
+
 template<typename Fact>
 StationFacts::Number StationFacts::number(QHash<Fact, Number> &numbers, const Fact &fact)
 {
@@ -37,21 +49,21 @@ StationFacts::Number StationFacts::frequency(std::size_t place)
 StationFacts::Number StationFacts::name(std::size_t place)
 {
     Facts &facts = m_stations[place];
-    if (facts.name == unread) {
-        const QString name = toldName(*facts.station);
-        facts.name = name.isEmpty() ? none : number(m_names, name);
-    }
+    if (facts.name == unread)
+        facts.name = number(m_names, toldName(*facts.station));
     return facts.name;
 }
 
 StationFacts::Number StationFacts::looseName(std::size_t place)
 {
-    Facts &facts = m_stations[place];
-    if (facts.looseName == unread) {
-        const QString name = quillet::looseName(toldName(*facts.station));
-        facts.looseName = name.isEmpty() ? none : number(m_looseNames, name);
-    }
-    return facts.looseName;
+    const Number ofName = name(place);
+    if (ofName == none)
+        return none;
+    m_looseOf.resize(std::max(m_looseOf.size(), m_names.count()), unread);
+    Number &loose = m_looseOf[static_cast<std::size_t>(ofName)];
+    if (loose == unread)
+        loose = number(m_looseNames, quillet::looseName(m_names.text(ofName)));
+    return loose;
 }
 
 void StationFacts::readContent(Facts &facts)

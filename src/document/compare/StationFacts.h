@@ -2,9 +2,9 @@
 
 #include "document/compare/StationContent.h"
 #include "document/compare/StationIdentity.h"
+#include "document/compare/TextNumbers.h"
 
 #include <QHash>
-#include <QString>
 
 #include <cstddef>
 #include <utility>
@@ -19,7 +19,7 @@ namespace quillet {
 class StationFacts
 {
 public:
-    using Number = qint32;
+    using Number = TextNumbers::Number;
     static constexpr Number none = -1; ///< nothing is told
 
     /// Makes room for so many stations.
@@ -56,10 +56,10 @@ private:
         Number identity;
         Number frequency = unread;
         Number name = unread;
-        Number looseName = unread;
         Number content = unread;
         Number unedited = unread;
     };
+    Number number(TextNumbers &texts, QStringView text);
     template<typename Fact>
     Number number(QHash<Fact, Number> &numbers, const Fact &fact);
     void readContent(Facts &facts);
@@ -70,8 +70,9 @@ private:
     std::size_t m_end = 0;
     QHash<StationIdentity, Number> m_identities;
     QHash<qint64, Number> m_frequencies;
-    QHash<QString, Number> m_names;
-    QHash<QString, Number> m_looseNames;
+    TextNumbers m_names;
+    TextNumbers m_looseNames;
+    std::vector<Number> m_looseOf; ///< of each name
     QHash<WholeContent, Number> m_contents;
     QHash<UneditedContent, Number> m_unedited;
     QHash<std::pair<Number, Number>, Number> m_pairs;

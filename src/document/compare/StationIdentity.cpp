@@ -26,12 +26,20 @@ std::optional<qint64> plainNumber(QStringView text)
     return number;
 }
 
-/// Letters that have one form alone, and whose case is theirs alone: most of them.
+/// Letters that are shown as they are and have one form alone, and whose case is theirs alone: most
+/// of them.
 bool isSimple(QChar c)
 {
     const char16_t u = c.unicode();
-    return u < 0x80 || (u >= 0xC0 && u < 0x130 && u != 0xDF) || (u >= 0x141 && u < 0x149) ||
+    return (u >= 0x20 && u < 0x7F) || (u >= 0xC0 && u < 0x130 && u != 0xDF) || (u >= 0x141 && u < 0x149) ||
            (u >= 0x14A && u < 0x17F) || (u >= 0x400 && u < 0x480);
+}
+
+QChar simpleFolded(QChar c)
+{
+    if (c >= u'\x80')
+        return c.toCaseFolded();
+    return c >= u'A' && c <= u'Z' ? QChar(c.unicode() | 0x20) : c;
 }
 
 /// Blanks, and signs that nobody sees.
@@ -44,25 +52,40 @@ bool isUnseen(QChar c)
 
 std::optional<StationIdentity> IdentityReader::read(const LGStation &station)
 {
-    const StationKeys &keys = station.keys();
-    const Dictionary &entry = station.entry();
-    const std::optional<qint64> service = part(entry.find(keys.keyService_id));
+    if (station.entry().keys() != m_keys)
+        findParts(station);
+    const std::optional<qint64> service = part(station, Service);
     if (!service || *service == 0)
         return {};
-    const std::optional<qint64> transport = part(entry.find(keys.keyTransport_id));
+    const std::optional<qint64> transport = part(station, Transport);
     if (!transport)
         return {};
-    const std::optional<qint64> network = part(entry.find(keys.keyOriginalNetwork_id));
+    const std::optional<qint64> network = part(station, Network);
     if (!network)
         return {};
     return StationIdentity{{*network, *transport, *service}};
 }
 
-std::optional<qint64> IdentityReader::part(const Value *value)
+void IdentityReader::findParts(const LGStation &station)
 {
-    if (!value || value->isNull())
+    m_keys = station.entry().keys();
+    const StationKeys &keys = station.keys();
+    const auto placeOf = [this](const QString &key) {
+        return m_keys ? m_keys->indexOf(key) : KeyTable::none;
+    };
+    m_places = {placeOf(keys.keyOriginalNetwork_id), placeOf(keys.keyTransport_id),
+                placeOf(keys.keyService_id)};
+}
+
+std::optional<qint64> IdentityReader::part(const LGStation &station, Part part)
+{
+    const qsizetype place = m_places.at(part);
+    if (place == KeyTable::none)
         return {};
-    if (const QString *text = value->string()) {
+    const Value &value = station.entry().at(place).value;
+    if (value.isNull())
+        return {};
+    if (const QString *text = value.string()) {
         if (const std::optional<qint64> number = plainNumber(*text))
             return number;
         const QStringView told = QStringView(*text).trimmed();
@@ -71,8 +94,8 @@ std::optional<qint64> IdentityReader::part(const Value *value)
         const std::optional<qint64> number = plainNumber(told);
         return number ? *number : numberOf(told.toString());
     }
-    const std::optional<qint64> number = value->wholeNumber();
-    return number && *number >= 0 ? *number : numberOf(value->description());
+    const std::optional<qint64> number = value.wholeNumber();
+    return number && *number >= 0 ? *number : numberOf(value.description());
 }
 
 /// Below 0, where no plain number is.
@@ -90,16 +113,19 @@ QString toldName(const LGStation &station)
     return mayBeNone && !station.entry().string(station.keys().keyStationName) ? QString() : name;
 }
 
-QString looseName(const QString &name)
+QString looseName(QStringView name)
 {
-    QString loose = cleanName(name);
-    if (std::all_of(loose.begin(), loose.end(), isSimple)) {
-        const auto end = std::remove(loose.begin(), loose.end(), u' ');
-        loose.truncate(end - loose.begin());
-        for (QChar &c : loose)
-            c = c.toCaseFolded();
+    if (std::all_of(name.begin(), name.end(), isSimple)) {
+        QString loose(name.size(), Qt::Uninitialized);
+        QChar *end = loose.data();
+        for (const QChar c : name) {
+            if (c != u' ')
+                *end++ = simpleFolded(c);
+        }
+        loose.truncate(end - loose.constData());
         return loose;
     }
+    QString loose = cleanName(name.toString());
     if (loose.size() <= longestNormalized)
         loose = loose.normalized(QString::NormalizationForm_KC);
     return loose.toCaseFolded().removeIf(isUnseen);

@@ -34,10 +34,14 @@ public:
     [[nodiscard]] std::optional<StationIdentity> read(const LGStation &station);
 
 private:
+    enum Part { Network, Transport, Service };
+    void findParts(const LGStation &station);
     /// None where nothing is told.
-    [[nodiscard]] std::optional<qint64> part(const Value *value);
+    [[nodiscard]] std::optional<qint64> part(const LGStation &station, Part part);
     [[nodiscard]] qint64 numberOf(const QString &text);
 
+    Dictionary::Keys m_keys;             ///< of the records read last, mostly those of all
+    std::array<qsizetype, 3> m_places{}; ///< of the parts among them
     QHash<QString, qint64> m_texts; ///< those that are no numbers, with the numbers they have here
 };
 
@@ -46,6 +50,6 @@ private:
 
 /// The name without what people and broadcasts write one way or the other: case, blanks, control
 /// codes, compatible forms of the letters. Empty when nothing is left.
-[[nodiscard]] QString looseName(const QString &name);
+[[nodiscard]] QString looseName(QStringView name);
 
 } // namespace quillet

@@ -50,7 +50,8 @@ StationPairing::Pairs StationPairing::pair(const std::vector<std::size_t> &first
     pairByContent();
     pairBySharedIdentity();
     pairByName();
-    pairByUnedited(false);
+    if (areUnknown())
+        pairByUnedited(false);
     return std::exchange(m_pairs, {});
 }
 
@@ -171,6 +172,7 @@ void StationPairing::pairByIdentity()
     pairSurely(Rule::Unique, identity);
     for (Side *side : {&m_first, &m_second}) {
         side->isShared.assign(side->places.size(), false);
+        side->hasShared = false;
         side->hasUnknown = false;
         for (const std::size_t i : side->left) {
             const Number fact = identity(*side, i);
@@ -180,6 +182,7 @@ void StationPairing::pairByIdentity()
             }
             const auto [first, second] = counts[static_cast<std::size_t>(fact)];
             side->isShared[i] = first > 0 && second > 0;
+            side->hasShared = side->hasShared || side->isShared[i];
         }
     }
 }
@@ -188,11 +191,10 @@ void StationPairing::pairByIdentity()
 /// not have by what is read quickly.
 void StationPairing::findNear()
 {
-    const bool areUnknown = m_first.hasUnknown && m_second.hasUnknown;
-    const auto near = [this, areUnknown](const Side &side, std::size_t i) {
+    const auto near = [this](const Side &side, std::size_t i) {
         const std::size_t place = side.places[i];
         const bool isUnknown = m_facts.identity(place) == none;
-        return (isUnknown ? areUnknown : side.isShared[i])
+        return (isUnknown ? areUnknown() : side.isShared[i])
                    ? m_facts.both(m_facts.identity(place) + 1, m_facts.frequency(place) + 1)
                    : none;
     };
@@ -211,7 +213,7 @@ void StationPairing::findNear()
 
 void StationPairing::pairByContent()
 {
-    if (isDone())
+    if (isDone() || !(areShared() || areUnknown()))
         return;
     findNear();
     pairSurely(Rule::InOrder, [&](const Side &side, std::size_t i) {
@@ -246,6 +248,8 @@ void StationPairing::pairByUnedited(bool isSure)
 /// Where an identity is given more than once.
 void StationPairing::pairBySharedIdentity()
 {
+    if (!areShared())
+        return;
     const auto with = [this](const Side &side, std::size_t i, const auto &factOf) {
         const std::size_t place = side.places[i];
         return side.isShared[i] ? m_facts.both(m_facts.identity(place), factOf(place)) : none;

@@ -71,10 +71,13 @@ private:
         std::vector<std::size_t> left; ///< indexes of those not matched yet, ascending
         std::vector<bool> isShared;    ///< whether the other side has the identity as well
         std::vector<bool> isNear;      ///< whether it may have the content as well
+        bool hasShared = false;        ///< whether isShared of one of those left
         bool hasUnknown = false;       ///< whether one of those left tells no identity
     };
 
     [[nodiscard]] bool isDone() const { return m_first.left.empty() || m_second.left.empty(); }
+    [[nodiscard]] bool areUnknown() const { return m_first.hasUnknown && m_second.hasUnknown; }
+    [[nodiscard]] bool areShared() const { return m_first.hasShared && m_second.hasShared; }
     template<typename FactOf, typename LikenessOf>
     void pairBy(Rule rule, const FactOf &factOf, const LikenessOf &likenessOf);
     template<typename FactOf>

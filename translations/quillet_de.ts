@@ -1938,6 +1938,10 @@
         <source></source>
         <translation>kommt ans Ende</translation>
     </message>
+    <message id="kRowUnsure">
+        <source></source>
+        <translation>unsicher</translation>
+    </message>
     <message id="kSatellite">
         <source></source>
         <translation>Satellit</translation>

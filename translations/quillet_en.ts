@@ -1938,6 +1938,10 @@
         <source></source>
         <translation>goes to the end</translation>
     </message>
+    <message id="kRowUnsure">
+        <source></source>
+        <translation>uncertain</translation>
+    </message>
     <message id="kSatellite">
         <source></source>
         <translation>Satellite</translation>

@@ -1938,6 +1938,10 @@
         <source></source>
         <translation>va al final</translation>
     </message>
+    <message id="kRowUnsure">
+        <source></source>
+        <translation>incierto</translation>
+    </message>
     <message id="kSatellite">
         <source></source>
         <translation>Satélite</translation>

@@ -1938,6 +1938,10 @@
         <source></source>
         <translation>va à la fin</translation>
     </message>
+    <message id="kRowUnsure">
+        <source></source>
+        <translation>incertain</translation>
+    </message>
     <message id="kSatellite">
         <source></source>
         <translation>Satellite</translation>

@@ -1938,6 +1938,10 @@
         <source></source>
         <translation>va alla fine</translation>
     </message>
+    <message id="kRowUnsure">
+        <source></source>
+        <translation>incerto</translation>
+    </message>
     <message id="kSatellite">
         <source></source>
         <translation>Satellite</translation>

@@ -1938,6 +1938,10 @@
         <source></source>
         <translation>gaat naar het einde</translation>
     </message>
+    <message id="kRowUnsure">
+        <source></source>
+        <translation>onzeker</translation>
+    </message>
     <message id="kSatellite">
         <source></source>
         <translation>Satelliet</translation>

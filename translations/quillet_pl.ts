@@ -1987,6 +1987,10 @@
         <source></source>
         <translation>trafia na koniec</translation>
     </message>
+    <message id="kRowUnsure">
+        <source></source>
+        <translation>niepewne</translation>
+    </message>
     <message id="kSatellite">
         <source></source>
         <translation>Satelita</translation>

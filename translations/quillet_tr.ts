@@ -1889,6 +1889,10 @@
         <source></source>
         <translation>sona gider</translation>
     </message>
+    <message id="kRowUnsure">
+        <source></source>
+        <translation>kesin değil</translation>
+    </message>
     <message id="kSatellite">
         <source></source>
         <translation>Uydu</translation>

@@ -1,5 +1,6 @@
 #include "editor/ComparisonTexts.h"
 
+#include "document/compare/StationIdentity.h"
 #include "document/compare/UnkeptNames.h"
 #include "editor/ShownTexts.h"
 #include "editor/SourceTitles.h"
@@ -175,9 +176,12 @@ QString titleOf(ComparisonKind kind, Purpose purpose)
 
 QString textOf(const ComparisonRow &row, Purpose purpose)
 {
+    const auto areAlike = [](const ComparisonRow &each) {
+        return looseName(each.nameHere) == looseName(each.nameThere);
+    };
     QStringList parts;
     if (row.likeness == Likeness::Loose)
-        parts.append(qtTrId("kRowLoose"));
+        parts.append(qtTrId(areAlike(row) ? "kRowLoose" : "kRowUnsure"));
     for (const KindTitle &each : kindTitles) {
         const char *text = titlesOf(each.kind, purpose).ofRow;
         if (row.kinds.testFlag(each.kind) && text)

@@ -15,12 +15,15 @@ TakeOverChoice::TakeOverChoice(const ComparedWith &other) : m_other(other)
         m_takes.setFlag(aspect);
 }
 
-/// What is moved needs no difference, only a place among the others.
+/// What is moved needs no difference, only a place among the others: what is pasted, one in the
+/// list into which it is pasted.
 bool TakeOverChoice::canBeChecked(const ComparisonRow &row) const
 {
     if (m_other.purpose == Purpose::Order || !row.here || !row.there)
         return false;
-    return m_other.purpose == Purpose::Paste || m_other.rule == NumberRule::ByRows || takeable(row);
+    if (m_other.purpose == Purpose::Paste)
+        return !row.isElsewhere;
+    return m_other.rule == NumberRule::ByRows || takeable(row);
 }
 
 bool TakeOverChoice::isChecked(const ComparisonRow &row) const

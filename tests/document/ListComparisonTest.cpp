@@ -114,7 +114,21 @@ private slots:
         row("no identifiers, by what stays",
             {item(1, "A", {{"frequency", "1"}}), item(2, "B", {{"frequency", "2"}})},
             {item(1, "D", {{"frequency", "2"}}), item(2, "C", {{"frequency", "1"}})},
-            "A=Cnr B=Dnr out of order");
+            "A=Cnr~ B=Dnr~ out of order"); // several stations are on a frequency
+        row("analogue ones, by what stays", {analogue(1, "A", "1"), analogue(2, "B", "2")},
+            {analogue(1, "D", "2"), analogue(2, "C", "1")}, "A=Cnr B=Dnr out of order");
+        row("identifiers given twice, by number or frequency alone",
+            {item(1, "A", service("7", {{"frequency", "1"}})),
+             item(2, "B", service("7", {{"frequency", "2"}}))},
+            {item(1, "X", service("7", {{"frequency", "3"}})),
+             item(3, "Y", service("7", {{"frequency", "2"}, {"x", "1"}}))},
+            "A=Xrx~ B=Ynrx~ in order");
+        row("left over of identifiers given twice",
+            {item(1, "A", service("7", {{"frequency", "1"}})),
+             item(2, "B", service("7", {{"frequency", "2"}})), item(3, "C", service("9"))},
+            {item(1, "A", service("7", {{"frequency", "1"}})), item(3, "C", service("9")),
+             item(5, "Z", service("7", {{"frequency", "3"}}))},
+            "A=A B= C=C =Z in order");
         row("no identifiers, by name and by number", {item(1, "A"), item(2, "B"), item(3, "C")},
             {item(1, "C"), item(2, "X"), item(4, "Y")}, "A=Ynr~ B=Xr~ C=Cn out of order");
         row("no identifiers, not even a name", {item(1, "")}, {item(1, "B")}, "=Br~ in order");

@@ -164,7 +164,13 @@ private slots:
         row("two change places", "1 A, 2 B, 5 C", "2 A, 1 B", "1 B, 2 A, 5 C", "", 2);
         row("a free number", "1 A, 2 B, 5 C", "3 A", "2 B, 3 A, 5 C", "", 1);
         row("the number of another", "1 A, 2 B, 5 C", "2 A", "2 A, 5 C, 6 B", "B", 1);
-        row("one number twice", "1 A, 2 B, 5 C", "7 C, 7 A", "2 B, 7 A, 8 C", "C", 1);
+        row("one number twice", "1 A, 2 B, 5 C", "7 C, 7 A", "2 B, 5 C, 7 A", "", 1);
+        row("the same, the own one taken", "1 A, 2 B, 5 C", "7 C, 7 A, 5 B", "5 B, 7 A, 8 C", "C",
+            2);
+        row("one that its holder is told, too", "1 A, 2 B, 5 C", "1 A, 1 C", "1 A, 2 B, 5 C", "",
+            0);
+        row("one that two keep", "1 A, 1 B, 3 C", "1 A, 1 B, 8 C", "1 A, 1 B, 8 C", "", 1);
+        row("the same, of one nothing told", "1 A, 1 B, 3 C", "1 A, 8 C", "1 A, 1 B, 8 C", "", 1);
         row("several to the end", "4 A, 5 B, 6 C, 7 D", "5 D, 4 C", "4 C, 5 D, 6 A, 7 B", "A, B",
             2);
         row("no number", "1 A, 2 B", "0 B, 1 A", "1 A, 2 B", "", 0);
@@ -173,8 +179,7 @@ private slots:
         row("numbers out of order", "3 A, 1 B, 1 C, 2 D", "4 D", "1 B, 1 C, 3 A, 4 D", "", 1);
         row("none of those another one", "3 A, 1 B, 1 C, 2 D", "2 D, 1 B", "3 A, 1 B, 1 C, 2 D", "",
             0);
-        row("beyond what can be carried", "1 A, 2 B", "16383 A, 16383 B", "16383 A, 0 B", "B", 1,
-            1);
+        row("beyond what can be carried", "1 A, 16383 B", "16383 A", "16383 A, 0 B", "B", 1, 1);
     }
     void numbersAreTaken()
     {
@@ -314,8 +319,8 @@ private slots:
             QCOMPARE(now, before);
             QVERIFY(entriesOf(now) == entries);
             record.redo(now);
-            QVERIFY(planTakeOver(now, allOf(now, then), NumberRule::AsGiven, true).isEmpty() ||
-                    round % 2 == 1);
+            QVERIFY(round % 2 == 1 ||
+                    planTakeOver(now, allOf(now, then), NumberRule::AsGiven, true).isEmpty());
         }
         QVERIFY(unlike > 500);
     }

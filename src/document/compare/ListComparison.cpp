@@ -133,7 +133,8 @@ void Comparing::compareLists(const StationList &first, const StationList &second
     m_comparison.lists.push_back(std::move(compared));
 }
 
-/// Matches what is left over in the lists of a mode.
+/// Matches what is left over in the lists of a mode. What was not found again in its own list is
+/// not, for there it only seems to be the only one of its kind.
 void Comparing::compareAcross(bool isTV)
 {
     const std::vector<LeftOver> first = std::exchange(m_ofFirst, {});
@@ -152,9 +153,11 @@ void Comparing::compareAcross(bool isTV)
         if (!pairs[i])
             continue;
         const LeftOver &other = second[pairs[i]->index];
+        if (first[i].list == other.list)
+            continue;
         ComparedStation &row = lists[first[i].list].stations[first[i].row];
         row.second = std::exchange(lists[other.list].stations[other.row].second, nullptr);
-        row.isElsewhere = first[i].list != other.list;
+        row.isElsewhere = true;
         // What has one name on a satellite and in a cable need not be one station.
         const bool isSure = pairs[i]->likeness == Likeness::Sure;
         row.likeness = isSure ? Likeness::Sure : Likeness::Loose;

@@ -31,8 +31,8 @@ std::optional<qint64> plainNumber(QStringView text)
 bool isSimple(QChar c)
 {
     const char16_t u = c.unicode();
-    return (u >= 0x20 && u < 0x7F) || (u >= 0xC0 && u < 0x130 && u != 0xDF) || (u >= 0x141 && u < 0x149) ||
-           (u >= 0x14A && u < 0x17F) || (u >= 0x400 && u < 0x480);
+    return (u >= 0x20 && u < 0x7F) || (u >= 0xC0 && u < 0x130 && u != 0xDF) ||
+           (u >= 0x141 && u < 0x149) || (u >= 0x14A && u < 0x17F) || (u >= 0x400 && u < 0x480);
 }
 
 QChar simpleFolded(QChar c)

@@ -1,5 +1,7 @@
 #include "document/compare/StationPairing.h"
 
+#include "model/StationSource.h"
+
 #include <algorithm>
 #include <numeric>
 #include <utility>
@@ -226,17 +228,27 @@ void StationPairing::pairByContent()
     pairByUnedited(true);
 }
 
-/// By what editing does not change: sure where that tells an identity or a frequency, and a mere
-/// guess among stations that tell neither.
-void StationPairing::pairByUnedited(bool isSure)
+/// Where an analogue station was found is all that it tells besides its name, which anybody may
+/// change. Of others, several are on each frequency and under each shared identity.
+Likeness StationPairing::likenessByUnedited(std::size_t i, std::size_t j)
 {
-    const auto unedited = [this, isSure](const Side &side, std::size_t i) {
+    const LGStation &station = m_facts.station(m_first.places[i]);
+    const bool isAnalogue =
+        station.mappedSourceIndex() == static_cast<int>(StationSource::Analogue);
+    return isAnalogue || !haveUnlikeNames(i, j) ? Likeness::Sure : Likeness::Loose;
+}
+
+/// By what editing does not change: a mere guess among stations that tell neither an identity nor a
+/// frequency.
+void StationPairing::pairByUnedited(bool isTelling)
+{
+    const auto unedited = [this, isTelling](const Side &side, std::size_t i) {
         const std::size_t place = side.places[i];
-        const bool isTelling = m_facts.identity(place) != none || m_facts.frequency(place) != none;
-        return side.isNear[i] && isTelling == isSure ? m_facts.unedited(place) : none;
+        const bool tells = m_facts.identity(place) != none || m_facts.frequency(place) != none;
+        return side.isNear[i] && tells == isTelling ? m_facts.unedited(place) : none;
     };
-    const auto likeness = [isSure](std::size_t, std::size_t) {
-        return std::optional(isSure ? Likeness::Sure : Likeness::Loose);
+    const auto likeness = [this, isTelling](std::size_t i, std::size_t j) {
+        return std::optional(isTelling ? likenessByUnedited(i, j) : Likeness::Loose);
     };
     const auto andNumber = [&](const Side &side, std::size_t i) {
         return m_facts.both(unedited(side, i), m_facts.programNumber(side.places[i]));
@@ -259,15 +271,27 @@ void StationPairing::pairBySharedIdentity()
             return m_facts.both(m_facts.name(place), m_facts.frequency(place));
         });
     });
-    pairSurely(Rule::Unique, [&](const Side &side, std::size_t i) {
+    const auto frequency = [&](const Side &side, std::size_t i) {
         return with(side, i, [this](std::size_t place) { return m_facts.frequency(place); });
+    };
+    pairBy(Rule::Unique, frequency, [this](std::size_t i, std::size_t j) {
+        return std::optional(haveUnlikeNames(i, j) ? Likeness::Loose : Likeness::Sure);
     });
     pairSurely(Rule::InOrder, [&](const Side &side, std::size_t i) {
         return with(side, i, [this](std::size_t place) { return m_facts.name(place); });
     });
-    pairSurely(Rule::Unique, [&](const Side &side, std::size_t i) {
+    const auto number = [&](const Side &side, std::size_t i) {
         return with(side, i, [this](std::size_t place) { return m_facts.programNumber(place); });
-    });
+    };
+    pairBy(Rule::Unique, number,
+           [](std::size_t, std::size_t) { return std::optional(Likeness::Loose); });
+}
+
+bool StationPairing::haveUnlikeNames(std::size_t i, std::size_t j)
+{
+    const Number one = m_facts.looseName(m_first.places[i]);
+    const Number other = m_facts.looseName(m_second.places[j]);
+    return one != none && other != none && one != other;
 }
 
 bool StationPairing::isAgainstIdentities(std::size_t i, std::size_t j) const

@@ -90,10 +90,12 @@ private:
     void findNear();
     void pairByIdentity();
     void pairByContent();
-    void pairByUnedited(bool isSure);
+    void pairByUnedited(bool isTelling);
     void pairBySharedIdentity();
     void pairByFrequencyAndName();
     void pairByName();
+    [[nodiscard]] Likeness likenessByUnedited(std::size_t i, std::size_t j);
+    [[nodiscard]] bool haveUnlikeNames(std::size_t i, std::size_t j);
     [[nodiscard]] bool isAgainstIdentities(std::size_t i, std::size_t j) const;
 
     KnownPairs m_known;

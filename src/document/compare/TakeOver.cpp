@@ -91,20 +91,29 @@ void planNumbersAsGiven(TakeOverPlan &plan, const StationList &list, const Taken
                         bool mayShare)
 {
     const Places places(list);
-    enum class State { Keeps, Takes, Collided };
+    enum class State { Keeps, KeepsAsTold, Takes, Collided };
     std::vector<State> states(list.size(), State::Keeps);
-    QSet<qint64> numbersTaken;
+    std::vector<std::optional<qint64>> told(list.size());
+    QSet<qint64> numbersKept, numbersTaken; // as told, and anew
     std::vector<Placed> placed;
     for (std::size_t at = 0; at < list.size(); ++at) {
-        const auto number =
-            places.isFirst[at] ? takenNumber(taken.value(list[at].get())) : std::nullopt;
-        if (!number)
+        if (places.isFirst[at])
+            told[at] = takenNumber(taken.value(list[at].get()));
+        if (told[at] != list[at]->progNum())
             continue;
-        const bool isFree = mayShare || !numbersTaken.contains(*number);
-        numbersTaken.insert(*number);
-        states[at] = isFree ? State::Takes : State::Collided;
-        if (isFree)
-            placed.push_back({at, *number});
+        states[at] = State::KeepsAsTold;
+        numbersKept.insert(*told[at]);
+        placed.push_back({at, *told[at]});
+    }
+    for (std::size_t at = 0; at < list.size(); ++at) {
+        if (!told[at] || states[at] == State::KeepsAsTold)
+            continue;
+        const qint64 number = *told[at];
+        if (!mayShare && (numbersKept.contains(number) || numbersTaken.contains(number)))
+            continue;
+        states[at] = State::Takes;
+        numbersTaken.insert(number);
+        placed.push_back({at, number});
     }
     for (std::size_t at = 0; at < list.size(); ++at) {
         if (!places.isFirst[at] || states[at] != State::Keeps)
@@ -125,7 +134,6 @@ void planNumbersAsGiven(TakeOverPlan &plan, const StationList &list, const Taken
         placed.push_back({at, ++last});
         plan.toTheEnd.push_back(list[at]);
     }
-    plan.collided = plan.toTheEnd.size();
     setOrder(plan, list, placed, places);
 }
 

@@ -19,7 +19,7 @@ struct TakenStation
 
 /// Which numbers stations take.
 enum class NumberRule {
-    AsGiven, ///< that of the other record; of several with one number the first
+    AsGiven, ///< that of the other record; of several that take one number the first
     AsThere, ///< the same, but several may have one number, as in the other list
     ByRows,  ///< in the order in which they are given, those that they have among themselves
 };
@@ -44,9 +44,9 @@ struct TakeOverPlan
     std::size_t renamed = 0;
     std::size_t skipped = 0; ///< that are skipped then, or are not any more
     std::size_t locked = 0;
-    std::size_t collided = 0; ///< stations whose number another one takes
-    StationList toTheEnd;     ///< those, in the order and with the last numbers that they get
-    StationList changed;      ///< all stations with anything else than before
+    StationList toTheEnd; ///< whose number another one takes, in the order and with the last
+                          ///< numbers that they get
+    StationList changed;  ///< all stations with anything else than before
 
     /// How many stations get a number that they cannot carry.
     [[nodiscard]] std::size_t beyond() const;
@@ -60,9 +60,10 @@ struct TakeOverPlan
 /// records of one station the first counts.
 ///
 /// AsGiven and AsThere: a station whose number another one takes, and who takes none, goes to the
-/// end of the list, and AsGiven so does the second one to take a number. There they keep their
-/// order, numbered on from the highest number. The others keep their numbers, and the list stands
-/// in the order of its numbers then. A record without number gives none.
+/// end of the list. There they keep their order, numbered on from the highest number. The others
+/// keep their numbers, even where several have one, and the list stands in the order of its numbers
+/// then. AsGiven the second station that is told a number takes none, and so does one that is told
+/// the number that its holder is told as well. A record without number gives none.
 ///
 /// ByRows: the others keep numbers and places.
 ///

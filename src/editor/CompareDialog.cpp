@@ -128,7 +128,7 @@ QWidget *CompareDialog::makeButtons()
     const auto add = [buttons](const char *title, const char *name) {
         QPushButton *button = buttons->addButton(qtTrId(title), QDialogButtonBox::ActionRole);
         button->setObjectName(QLatin1String(name));
-        button->setAutoDefault(false); // Return is the table's
+        button->setAutoDefault(false); // Return shows the station
         return button;
     };
     if (purpose == Purpose::Compare) {
@@ -141,8 +141,7 @@ QWidget *CompareDialog::makeButtons()
         m_take = add(purpose == Purpose::Paste ? "kComparePaste" : "kCompareApply", "compareApply");
         m_take->setAutoDefault(true);
         m_take->setDefault(true);
-        if (purpose == Purpose::Paste) // elsewhere Return shows the station
-            connect(m_table, &DarkModeTableView::returnPressed, m_take, &QPushButton::click);
+        connect(m_table, &DarkModeTableView::returnPressed, m_take, &QPushButton::click);
         connect(m_take, &QPushButton::clicked, this, &CompareDialog::accept);
     }
     QPushButton *close = buttons->addButton(

@@ -36,7 +36,7 @@ ComparisonTable::ComparisonTable(StationComparison &comparison, QWidget *parent)
     connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int, int, int width) {
         m_isSizedByHand = m_isSizedByHand || (!m_isFitting && width > 0);
     });
-    if (comparison.purpose() != ComparedWith::Purpose::Paste) // there it is the question's
+    if (comparison.purpose() == ComparedWith::Purpose::Compare) // elsewhere it goes on
         connect(this, &DarkModeTableView::returnPressed, this, &ComparisonTable::reveal);
     connect(this, &QTableView::doubleClicked, this, [this](const QModelIndex &index) {
         if (index.column() != ComparisonModel::Check)
@@ -132,9 +132,13 @@ QString ComparisonTable::currentMark() const
         .toString();
 }
 
-/// Wherever in the row the current cell is.
+/// Wherever in the row the current cell is. A Return that was meant for something else and is held
+/// down is none.
 void ComparisonTable::keyPressEvent(QKeyEvent *event)
 {
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isReturn && event->isAutoRepeat())
+        return;
     const bool isSpace = event->key() == Qt::Key_Space || event->key() == Qt::Key_Select;
     if (!isSpace || event->modifiers())
         return DarkModeTableView::keyPressEvent(event);

@@ -365,6 +365,10 @@
         <source></source>
         <translation>%1 vom %2</translation>
     </message>
+    <message id="kCompareNameWindow">
+        <source></source>
+        <translation>%1 (Stand %2)</translation>
+    </message>
     <message id="kCompareNoneShown">
         <source></source>
         <translation>Kein Sender ist von einer oben angekreuzten Art und passt zur Suche.</translation>

@@ -365,6 +365,10 @@
         <source></source>
         <translation>%1 of %2</translation>
     </message>
+    <message id="kCompareNameWindow">
+        <source></source>
+        <translation>%1 (as it was at %2)</translation>
+    </message>
     <message id="kCompareNoneShown">
         <source></source>
         <translation>No station is of a kind that is checked above and fits the search.</translation>

@@ -365,6 +365,10 @@
         <source></source>
         <translation>%1 del %2</translation>
     </message>
+    <message id="kCompareNameWindow">
+        <source></source>
+        <translation>%1 (tal como estaba a las %2)</translation>
+    </message>
     <message id="kCompareNoneShown">
         <source></source>
         <translation>Ningún canal es de un tipo marcado arriba y corresponde a la búsqueda.</translation>

@@ -365,6 +365,10 @@
         <source></source>
         <translation>%1 du %2</translation>
     </message>
+    <message id="kCompareNameWindow">
+        <source></source>
+        <translation>%1 (tel qu’à %2)</translation>
+    </message>
     <message id="kCompareNoneShown">
         <source></source>
         <translation>Aucune chaîne n’est d’un type coché ci-dessus tout en correspondant à la recherche.</translation>

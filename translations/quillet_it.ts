@@ -365,6 +365,10 @@
         <source></source>
         <translation>%1 del %2</translation>
     </message>
+    <message id="kCompareNameWindow">
+        <source></source>
+        <translation>%1 (com’era alle %2)</translation>
+    </message>
     <message id="kCompareNoneShown">
         <source></source>
         <translation>Nessun canale è di un tipo spuntato sopra e corrisponde alla ricerca.</translation>

@@ -365,6 +365,10 @@
         <source></source>
         <translation>%1 van %2</translation>
     </message>
+    <message id="kCompareNameWindow">
+        <source></source>
+        <translation>%1 (zoals het om %2 was)</translation>
+    </message>
     <message id="kCompareNoneShown">
         <source></source>
         <translation>Geen zender is van een hierboven aangevinkte soort en past bij de zoekopdracht.</translation>

@@ -371,6 +371,10 @@
         <source></source>
         <translation>%1 z %2</translation>
     </message>
+    <message id="kCompareNameWindow">
+        <source></source>
+        <translation>%1 (stan z godz. %2)</translation>
+    </message>
     <message id="kCompareNoneShown">
         <source></source>
         <translation>Żaden kanał nie jest rodzaju zaznaczonego powyżej i nie pasuje zarazem do wyszukiwania.</translation>

@@ -359,6 +359,10 @@
         <source></source>
         <translation>%1, %2</translation>
     </message>
+    <message id="kCompareNameWindow">
+        <source></source>
+        <translation>%1 (saat %2 itibarıyla)</translation>
+    </message>
     <message id="kCompareNoneShown">
         <source></source>
         <translation>Yukarıda işaretli türde olup aramaya da uyan kanal yok.</translation>

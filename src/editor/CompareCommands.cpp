@@ -9,6 +9,8 @@
 #include "framework/WaitCursor.h"
 
 #include <QFileInfo>
+#include <QLocale>
+#include <QTime>
 #include <QTimer>
 #include <QUrl>
 
@@ -77,7 +79,8 @@ NumberRule CompareCommands::rule() const
     return document && document->list().isLegacyFormat ? NumberRule::AsThere : NumberRule::AsGiven;
 }
 
-/// Of copies, for the other window goes on.
+/// Of copies, for the other window goes on: what is checked and told of them stays true. When they
+/// were made is in the name.
 void CompareCommands::compareWithDocument(const TLLDocument &other)
 {
     const StationLists &lists = other.lists();
@@ -90,8 +93,11 @@ void CompareCommands::compareWithDocument(const TLLDocument &other)
         }
     }
     const WaitCursor wait(WaitCursor::Work::Opening, other.list().text.bytes().size());
+    const QString time = QLocale().toString(QTime::currentTime(), QLocale::ShortFormat);
     emit m_controller.comparisonWanted(
-        {.name = other.titleName(), .lists = std::move(copies), .rule = rule()});
+        {.name = qtTrId("kCompareNameWindow").arg(other.titleName(), time),
+         .lists = std::move(copies),
+         .rule = rule()});
 }
 
 void CompareCommands::askForTable()

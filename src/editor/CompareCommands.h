@@ -34,7 +34,7 @@ public:
     void compareWithRead();
     /// Empty when there is something to compare so.
     [[nodiscard]] QString reasonAgainstRead() const;
-    /// With what the list of another window is now.
+    /// With what the list of another window is now; what becomes of it there is not followed.
     void compareWithDocument(const TLLDocument &other);
     /// The name is that of the content, for people.
     void compareWithBytes(const QByteArray &bytes, const QString &name);

@@ -343,6 +343,7 @@ private slots:
         QCOMPARE(wanted.size(), std::size_t{3});
         QCOMPARE(Compared(editor, wanted[1]).rows(), u"+1>1 Ã©/X"_s);
         QVERIFY(StationComparison(editor.controller, wanted[2]).isEmpty());
+        QCOMPARE(wanted[2].name, u"kCompareNameWindow"_s); // which tells the time
         QVERIFY(editor.prompts.isSettled());
     }
 

@@ -433,6 +433,10 @@
         <source></source>
         <translation>Kommt ans Ende</translation>
     </message>
+    <message id="kCompareUnclear">
+        <source></source>
+        <translation>Unsicher</translation>
+    </message>
     <message id="kContentUnknownReason">
         <source></source>
         <translation>Die Datei ist leer oder keine Senderliste.</translation>
@@ -1641,6 +1645,13 @@
             <numerusform>%n Sender, deren Nummern vergeben werden, kommen ans Ende: %1.</numerusform>
         </translation>
     </message>
+    <message id="kPreviewUnfit" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n Zeile passt zu keinem Sender.</numerusform>
+            <numerusform>%n Zeilen passen zu keinem Sender.</numerusform>
+        </translation>
+    </message>
     <message id="kPreviewUnsure" numerus="yes">
         <source></source>
         <translation>
@@ -1889,6 +1900,10 @@
     <message id="kRowByName">
         <source></source>
         <translation>am Namen erkannt</translation>
+    </message>
+    <message id="kRowDoubled">
+        <source></source>
+        <translation>steht mehrmals da</translation>
     </message>
     <message id="kRowElsewhere">
         <source></source>

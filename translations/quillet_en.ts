@@ -433,6 +433,10 @@
         <source></source>
         <translation>Goes to the end</translation>
     </message>
+    <message id="kCompareUnclear">
+        <source></source>
+        <translation>Uncertain</translation>
+    </message>
     <message id="kContentUnknownReason">
         <source></source>
         <translation>The file is empty or not a channel list.</translation>
@@ -1641,6 +1645,13 @@
             <numerusform>%n stations whose numbers are taken go to the end: %1.</numerusform>
         </translation>
     </message>
+    <message id="kPreviewUnfit" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n row fits no station.</numerusform>
+            <numerusform>%n rows fit no station.</numerusform>
+        </translation>
+    </message>
     <message id="kPreviewUnsure" numerus="yes">
         <source></source>
         <translation>
@@ -1889,6 +1900,10 @@
     <message id="kRowByName">
         <source></source>
         <translation>found by its name</translation>
+    </message>
+    <message id="kRowDoubled">
+        <source></source>
+        <translation>stands there several times</translation>
     </message>
     <message id="kRowElsewhere">
         <source></source>

@@ -433,6 +433,10 @@
         <source></source>
         <translation>Va al final</translation>
     </message>
+    <message id="kCompareUnclear">
+        <source></source>
+        <translation>Incierto</translation>
+    </message>
     <message id="kContentUnknownReason">
         <source></source>
         <translation>El archivo está vacío o no es una lista de canales.</translation>
@@ -1641,6 +1645,13 @@
             <numerusform>%n canales cuyos números se ocupan van al final: %1.</numerusform>
         </translation>
     </message>
+    <message id="kPreviewUnfit" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n fila no corresponde a ningún canal.</numerusform>
+            <numerusform>%n filas no corresponden a ningún canal.</numerusform>
+        </translation>
+    </message>
     <message id="kPreviewUnsure" numerus="yes">
         <source></source>
         <translation>
@@ -1889,6 +1900,10 @@
     <message id="kRowByName">
         <source></source>
         <translation>hallado por su nombre</translation>
+    </message>
+    <message id="kRowDoubled">
+        <source></source>
+        <translation>aparece varias veces</translation>
     </message>
     <message id="kRowElsewhere">
         <source></source>

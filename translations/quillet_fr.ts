@@ -433,6 +433,10 @@
         <source></source>
         <translation>Va à la fin</translation>
     </message>
+    <message id="kCompareUnclear">
+        <source></source>
+        <translation>Incertain</translation>
+    </message>
     <message id="kContentUnknownReason">
         <source></source>
         <translation>Le fichier est vide ou n’est pas une liste de chaînes.</translation>
@@ -1641,6 +1645,13 @@
             <numerusform>%n chaînes dont les numéros sont pris vont à la fin : %1.</numerusform>
         </translation>
     </message>
+    <message id="kPreviewUnfit" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n ligne ne correspond à aucune chaîne.</numerusform>
+            <numerusform>%n lignes ne correspondent à aucune chaîne.</numerusform>
+        </translation>
+    </message>
     <message id="kPreviewUnsure" numerus="yes">
         <source></source>
         <translation>
@@ -1889,6 +1900,10 @@
     <message id="kRowByName">
         <source></source>
         <translation>trouvée par son nom</translation>
+    </message>
+    <message id="kRowDoubled">
+        <source></source>
+        <translation>y figure plusieurs fois</translation>
     </message>
     <message id="kRowElsewhere">
         <source></source>

@@ -433,6 +433,10 @@
         <source></source>
         <translation>Va alla fine</translation>
     </message>
+    <message id="kCompareUnclear">
+        <source></source>
+        <translation>Incerto</translation>
+    </message>
     <message id="kContentUnknownReason">
         <source></source>
         <translation>Il file è vuoto o non è una lista di canali.</translation>
@@ -1641,6 +1645,13 @@
             <numerusform>%n canali i cui numeri vengono occupati vanno alla fine: %1.</numerusform>
         </translation>
     </message>
+    <message id="kPreviewUnfit" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n riga non corrisponde ad alcun canale.</numerusform>
+            <numerusform>%n righe non corrispondono ad alcun canale.</numerusform>
+        </translation>
+    </message>
     <message id="kPreviewUnsure" numerus="yes">
         <source></source>
         <translation>
@@ -1889,6 +1900,10 @@
     <message id="kRowByName">
         <source></source>
         <translation>trovato dal nome</translation>
+    </message>
+    <message id="kRowDoubled">
+        <source></source>
+        <translation>compare più volte</translation>
     </message>
     <message id="kRowElsewhere">
         <source></source>

@@ -433,6 +433,10 @@
         <source></source>
         <translation>Gaat naar het einde</translation>
     </message>
+    <message id="kCompareUnclear">
+        <source></source>
+        <translation>Onzeker</translation>
+    </message>
     <message id="kContentUnknownReason">
         <source></source>
         <translation>Het bestand is leeg of geen zenderlijst.</translation>
@@ -1641,6 +1645,13 @@
             <numerusform>%n zenders waarvan de nummers worden ingenomen, gaan naar het einde: %1.</numerusform>
         </translation>
     </message>
+    <message id="kPreviewUnfit" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n rij past bij geen zender.</numerusform>
+            <numerusform>%n rijen passen bij geen zender.</numerusform>
+        </translation>
+    </message>
     <message id="kPreviewUnsure" numerus="yes">
         <source></source>
         <translation>
@@ -1889,6 +1900,10 @@
     <message id="kRowByName">
         <source></source>
         <translation>gevonden op naam</translation>
+    </message>
+    <message id="kRowDoubled">
+        <source></source>
+        <translation>staat er meermaals</translation>
     </message>
     <message id="kRowElsewhere">
         <source></source>

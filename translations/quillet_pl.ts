@@ -439,6 +439,10 @@
         <source></source>
         <translation>Trafia na koniec</translation>
     </message>
+    <message id="kCompareUnclear">
+        <source></source>
+        <translation>Niepewne</translation>
+    </message>
     <message id="kContentUnknownReason">
         <source></source>
         <translation>Plik jest pusty lub nie jest listą kanałów.</translation>
@@ -1683,6 +1687,14 @@
             <numerusform>%n kanałów, których numery zostają zajęte, trafia na koniec: %1.</numerusform>
         </translation>
     </message>
+    <message id="kPreviewUnfit" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n wiersz nie pasuje do żadnego kanału.</numerusform>
+            <numerusform>%n wiersze nie pasują do żadnego kanału.</numerusform>
+            <numerusform>%n wierszy nie pasuje do żadnego kanału.</numerusform>
+        </translation>
+    </message>
     <message id="kPreviewUnsure" numerus="yes">
         <source></source>
         <translation>
@@ -1938,6 +1950,10 @@
     <message id="kRowByName">
         <source></source>
         <translation>znaleziony po nazwie</translation>
+    </message>
+    <message id="kRowDoubled">
+        <source></source>
+        <translation>występuje kilka razy</translation>
     </message>
     <message id="kRowElsewhere">
         <source></source>

@@ -427,6 +427,10 @@
         <source></source>
         <translation>Sona gider</translation>
     </message>
+    <message id="kCompareUnclear">
+        <source></source>
+        <translation>Kesin değil</translation>
+    </message>
     <message id="kContentUnknownReason">
         <source></source>
         <translation>Dosya boş ya da bir kanal listesi değil.</translation>
@@ -1599,6 +1603,12 @@
             <numerusform>Numarası alınan %n kanal sona gider: %1.</numerusform>
         </translation>
     </message>
+    <message id="kPreviewUnfit" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n satır hiçbir kanala uymuyor.</numerusform>
+        </translation>
+    </message>
     <message id="kPreviewUnsure" numerus="yes">
         <source></source>
         <translation>
@@ -1840,6 +1850,10 @@
     <message id="kRowByName">
         <source></source>
         <translation>adıyla bulundu</translation>
+    </message>
+    <message id="kRowDoubled">
+        <source></source>
+        <translation>birden çok kez geçiyor</translation>
     </message>
     <message id="kRowElsewhere">
         <source></source>

@@ -20,7 +20,7 @@ using Purpose = ComparedWith::Purpose;
 constexpr std::array kindsInOrder{ComparisonKind::Moved,    ComparisonKind::Renamed,
                                   ComparisonKind::Flags,    ComparisonKind::Fields,
                                   ComparisonKind::OnlyHere, ComparisonKind::OnlyThere,
-                                  ComparisonKind::Same};
+                                  ComparisonKind::Unclear,  ComparisonKind::Same};
 constexpr int kindsInLine = 4;
 
 /// Whether a purpose has rows of that kind.
@@ -28,9 +28,10 @@ bool hasKind(Purpose purpose, ComparisonKind kind)
 {
     switch (purpose) {
     case Purpose::Compare:
-        return true;
+        return kind != ComparisonKind::Unclear;
     case Purpose::Order:
-        return kind == ComparisonKind::Moved || kind >= ComparisonKind::OnlyHere;
+        return kind == ComparisonKind::Moved || kind == ComparisonKind::OnlyHere ||
+               kind == ComparisonKind::OnlyThere || kind == ComparisonKind::Same;
     case Purpose::Import:
         return kind != ComparisonKind::OnlyHere;
     case Purpose::Paste:

@@ -4,6 +4,8 @@
 #include "document/order/ReferenceOrder.h"
 #include "document/text/StationKey.h"
 
+#include <QSet>
+
 #include <algorithm>
 #include <array>
 #include <utility>
@@ -26,17 +28,21 @@ constexpr std::array kindsOfDifferences{
     std::pair{StationDifference::Fields, ComparisonKind::Fields},
 };
 
-ComparisonKinds kindsOf(const ComparisonRow &row)
+/// `isOfRows`: of those of another program or of the clipboard.
+ComparisonKinds kindsOf(const ComparisonRow &row, bool isOfRows)
 {
     if (!row.there && row.numberThere.isEmpty())
         return ComparisonKind::OnlyHere;
     if (!row.here)
-        return ComparisonKind::OnlyThere;
+        return row.isDoubled ? ComparisonKind::Unclear : ComparisonKind::OnlyThere;
     ComparisonKinds kinds;
+    kinds.setFlag(ComparisonKind::Unclear, isOfRows && !isTakenUnasked(row));
     for (const auto &[difference, kind] : kindsOfDifferences)
         kinds.setFlag(kind, kinds.testFlag(kind) || row.differences.testFlag(difference));
     return kinds ? kinds : ComparisonKind::Same;
 }
+
+constexpr ComparisonKinds kindsInDoubt{ComparisonKind::OnlyThere, ComparisonKind::Unclear};
 
 ComparisonRow rowOf(const ComparedStation &station, const ComparedLists &lists,
                     const std::function<StationDifferences(const LGStation &)> &toldOf)
@@ -83,6 +89,17 @@ QHash<const LGStation *, std::size_t> placesIn(const StationLists &lists)
     return places;
 }
 
+/// The places of the stations in their file of which several records are known to be.
+QSet<qint64> doubledPlaces(const KnownPairs &known)
+{
+    QSet<qint64> places;
+    for (auto pair = known.cbegin(); pair != known.cend(); ++pair) {
+        if (!pair->first)
+            places.insert(pair.key()->origPos());
+    }
+    return places;
+}
+
 } // namespace
 
 ComparisonRows comparisonRows(const StationLists &here, const ComparedWith &other)
@@ -96,6 +113,7 @@ ComparisonRows comparisonRows(const StationLists &here, const ComparedWith &othe
         keepOnlyTold(comparison, toldOf);
     const bool isOfRows = other.purpose == Purpose::Import || other.purpose == Purpose::Paste;
     const auto places = placesIn(other.lists);
+    const QSet<qint64> doubled = doubledPlaces(other.known);
     ComparisonRows rows;
     for (const ComparedLists &lists : comparison.lists) {
         for (const ComparedStation &station : lists.stations) {
@@ -106,12 +124,18 @@ ComparisonRows comparisonRows(const StationLists &here, const ComparedWith &othe
             if (const auto number = station.first ? std::nullopt : toldNumber(*station.second))
                 rows.back().numberThere = QString::number(*number);
             rows.back().placeThere = places.value(station.second.get());
+            rows.back().isDoubled = other.known.contains(station.second.get()) &&
+                                    doubled.contains(station.second->origPos());
         }
     }
     if (other.rule == NumberRule::ByRows)
         numberByRows(rows, here, isTakenUnasked);
     for (ComparisonRow &row : rows)
-        row.kinds = kindsOf(row);
+        row.kinds = kindsOf(row, isOfRows);
+    if (other.purpose == Purpose::Paste)
+        std::stable_partition(rows.begin(), rows.end(), [](const ComparisonRow &row) {
+            return bool(row.kinds & kindsInDoubt);
+        });
     return rows;
 }
 

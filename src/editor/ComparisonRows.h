@@ -18,6 +18,7 @@ enum class ComparisonKind {
     OnlyHere = 16,
     OnlyThere = 32,
     Same = 64,
+    Unclear = 128, ///< a row of another program or of the clipboard that is not surely of a station
 };
 Q_DECLARE_FLAGS(ComparisonKinds, ComparisonKind)
 
@@ -43,6 +44,7 @@ struct ComparisonRow
     ComparisonKinds kinds = {};
     Likeness likeness = Likeness::Sure;
     bool isElsewhere = false;   ///< there it is in the list of another source
+    bool isDoubled = false;     ///< the other side tells its station in another row as well
     std::size_t placeThere = 0; ///< in the order of the other list
 
     bool operator==(const ComparisonRow &) const = default;
@@ -51,7 +53,8 @@ using ComparisonRows = std::vector<ComparisonRow>;
 
 /// The comparison of a document's lists with another list, one row a station: list by list in the
 /// order of the document, behind them what only the other one has. Stations that rows of another
-/// program or of the clipboard do not mention are no finding, and are left out.
+/// program or of the clipboard do not mention are no finding, and are left out. Of the clipboard's
+/// those come first that are not surely of a station.
 /// Keeps no name that was not read before.
 [[nodiscard]] ComparisonRows comparisonRows(const StationLists &here, const ComparedWith &other);
 /// What applying a reference list would do to one of the lists: the stations in their new order,

@@ -32,6 +32,7 @@ constexpr std::array kindTitles{
     KindTitle{ComparisonKind::OnlyHere, "kCompareOnlyHere", "kRowOnlyHere"},
     KindTitle{ComparisonKind::OnlyThere, "kCompareOnlyThere", "kRowOnlyThere"},
     KindTitle{ComparisonKind::Same, "kCompareSame", nullptr},
+    KindTitle{ComparisonKind::Unclear, "kCompareUnclear", nullptr},
 };
 
 /// The same where only one list has the station, and it is more than that.
@@ -89,6 +90,22 @@ QString hiddenText(const StationComparison &comparison)
 {
     const std::size_t hidden = comparison.checkedHidden();
     return hidden == 0 ? QString() : u' ' + qtTrId("kPreviewHidden", static_cast<int>(hidden));
+}
+
+/// What is said of rows that are not checked by themselves.
+QString unsureText(const StationComparison &comparison)
+{
+    const std::size_t unsure = comparison.uncheckedUnsure();
+    return unsure == 0 ? QString() : u' ' + qtTrId("kPreviewUnsure", static_cast<int>(unsure));
+}
+
+/// How many rows it was that made it ask.
+QString pasteDoubts(const StationComparison &comparison)
+{
+    const std::size_t unfit = comparison.count(ComparisonKind::OnlyThere);
+    const QString text =
+        unfit == 0 ? QString() : u' ' + qtTrId("kPreviewUnfit", static_cast<int>(unfit));
+    return text + unsureText(comparison);
 }
 
 /// Where the checked stations go, or why none of them does.
@@ -177,10 +194,13 @@ QString titleOf(ComparisonKind kind, Purpose purpose)
 QString textOf(const ComparisonRow &row, Purpose purpose)
 {
     const auto areAlike = [](const ComparisonRow &each) {
-        return looseName(each.nameHere) == looseName(each.nameThere);
+        return each.nameHere != each.nameThere &&
+               looseName(each.nameHere) == looseName(each.nameThere);
     };
     QStringList parts;
-    if (row.likeness == Likeness::Loose)
+    if (row.isDoubled)
+        parts.append(qtTrId("kRowDoubled"));
+    else if (row.likeness == Likeness::Loose)
         parts.append(qtTrId(areAlike(row) ? "kRowLoose" : "kRowUnsure"));
     for (const KindTitle &each : kindTitles) {
         const char *text = titlesOf(each.kind, purpose).ofRow;
@@ -237,7 +257,7 @@ QString previewOf(const StationComparison &comparison)
     case Purpose::Order:
         return orderPreview(comparison);
     case Purpose::Paste:
-        return pastePreview(comparison) + hiddenText(comparison);
+        return pastePreview(comparison) + pasteDoubts(comparison) + hiddenText(comparison);
     default:
         break;
     }
@@ -245,9 +265,7 @@ QString previewOf(const StationComparison &comparison)
     QStringList sentences{textOf(parts)};
     if (const std::size_t doubled = comparison.doubledNumbers(); doubled > 0 && !parts.empty())
         sentences.append(qtTrId("kPreviewDoubledThere", static_cast<int>(doubled)));
-    if (const std::size_t unsure = comparison.uncheckedUnsure(); unsure > 0)
-        sentences.append(qtTrId("kPreviewUnsure", static_cast<int>(unsure)));
-    return sentences.join(u' ') + hiddenText(comparison);
+    return sentences.join(u' ') + unsureText(comparison) + hiddenText(comparison);
 }
 
 } // namespace quillet

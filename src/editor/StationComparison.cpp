@@ -14,7 +14,8 @@ namespace {
 
 constexpr ComparisonKinds differing{ComparisonKind::Moved,    ComparisonKind::Renamed,
                                     ComparisonKind::Flags,    ComparisonKind::Fields,
-                                    ComparisonKind::OnlyHere, ComparisonKind::OnlyThere};
+                                    ComparisonKind::OnlyHere, ComparisonKind::OnlyThere,
+                                    ComparisonKind::Unclear};
 
 /// The kinds that are worth showing. What is to be pasted need not differ.
 ComparisonKinds findings(const ComparedWith &other)
@@ -221,8 +222,10 @@ QString StationComparison::reasonAgainst(StationDifference aspect) const
 std::size_t StationComparison::uncheckedUnsure() const
 {
     const auto is = [this](const ComparisonRow &row) {
-        return m_filter.isOfList(row) && !isTakenUnasked(row) && m_choice.canBeChecked(row) &&
-               !m_choice.isChecked(row);
+        const bool isUnsure = purpose() == Purpose::Compare
+                                  ? !isTakenUnasked(row) && m_choice.canBeChecked(row)
+                                  : row.kinds.testFlag(ComparisonKind::Unclear);
+        return isUnsure && m_filter.isOfList(row) && !m_choice.isChecked(row);
     };
     return static_cast<std::size_t>(std::count_if(m_rows.begin(), m_rows.end(), is));
 }

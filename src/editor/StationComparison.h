@@ -61,7 +61,8 @@ public:
     /// Why nothing of that kind can be taken over; empty when something can.
     [[nodiscard]] QString reasonAgainst(StationDifference aspect) const;
 
-    /// Rows of the list chosen that are unchecked because they are not sure, or of another list.
+    /// Rows of the list chosen that are unchecked because they are not sure, or of another list. Of
+    /// a comparison of lists, those with something to be taken over.
     [[nodiscard]] std::size_t uncheckedUnsure() const;
     /// Checked rows of the list chosen that tell something to be taken over, or a station to be
     /// moved, and are not on show.

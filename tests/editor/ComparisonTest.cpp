@@ -269,6 +269,20 @@ private slots:
         QVERIFY(editor.outlets.told.contains(u"kToldImported"_s));
     }
 
+    /// Those that may be wrong are seen first, and counted.
+    void doubtsStandFirstInAPaste()
+    {
+        Editor editor({identified(1, u"A"_s, 1), identified(2, u"B"_s, 2), makeRadio(1, u"R"_s)});
+        const Compared compared(
+            editor, {.purpose = Purpose::Paste,
+                     .name = {},
+                     .lists = listsOf({identified(1, u"B"_s, 2), identified(2, u"b"_s, 77),
+                                       identified(3, u"a"_s, 76)}),
+                     .place = editor.document.stations()->back()});
+        QCOMPARE(compared.rows(), u"-1>3 A/a,  >2 /b, +2>1 B"_s);
+        QCOMPARE(previewOf(*compared.comparison), u"kPreviewPaste kPreviewUnfit kPreviewUnsure"_s);
+    }
+
     /// Whatever the entries: doubled, unknown, with numbers that are none.
     void orderIsWhatItsPreviewSaid_data()
     {

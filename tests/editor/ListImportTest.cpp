@@ -3,6 +3,7 @@
 #include "EditorFixture.h"
 
 #include "document/text/SeparatedText.h"
+#include "editor/ComparisonTexts.h"
 #include "editor/ListExport.h"
 #include "editor/StationComparison.h"
 #include "testing/TestFiles.h"
@@ -296,13 +297,15 @@ private slots:
         QTest::addColumn<QString>("rows");
         QTest::addColumn<QString>("after");
         QTest::newRow("renamed in a chain")
-            << FileSource::Analogue << u"1;B;x\n2;N;x-2\n3;C;x-3\n"_s << u"1 B, 2 N, 3 C"_s;
+            << FileSource::Analogue << u"1;B;x\n2;N;x-2\n9;C;x-3\n"_s << u"1 B, 2 N, 9 C"_s;
         QTest::newRow("renamed in a ring")
             << FileSource::Analogue << u"7;B;x\n8;A;x-2\n9;C;x-3\n"_s << u"1 A, 2 B, 9 C"_s;
         QTest::newRow("reordered since")
             << FileSource::Cable << u"7;B;x\n8;A;x-2\n9;C;x-3\n"_s << u"7 B, 8 A, 9 C"_s;
         QTest::newRow("twice") << FileSource::Cable << u"8;A;x\n9;A;x\n6;C;x-3\n"_s
                                << u"1 A, 2 B, 6 C"_s;
+        QTest::newRow("twice, once as it was")
+            << FileSource::Cable << u"1;A;x\n9;A;x\n6;C;x-3\n"_s << u"1 A, 2 B, 6 C"_s;
         QTest::newRow("columns out of step")
             << FileSource::Cable << u"7;D;x\n8;A;n1-t2-s3\n9;C;x-3\n"_s << u"1 A, 2 B, 4 D, 9 C"_s;
     }
@@ -324,6 +327,11 @@ private slots:
         QVERIFY2(imported, qPrintable(reason));
         const auto comparison = std::make_shared<StationComparison>(editor.controller, *imported);
         QCOMPARE(imported->remark == u"kImportUnclear"_s, comparison->uncheckedUnsure() > 0);
+        QCOMPARE(comparison->rowCount(), imported->told.size()); // nothing is hidden
+        std::size_t doubled = 0;
+        for (std::size_t row = 0; row < comparison->rowCount(); ++row)
+            doubled += textOf(comparison->row(row), imported->purpose).startsWith(u"kRowDoubled"_s);
+        QCOMPARE(doubled, QByteArray(QTest::currentDataTag()).startsWith("twice") ? 2 : 0);
         comparison->takeOverAll();
         const auto segment =
             source == FileSource::Analogue ? StationSource::Analogue : StationSource::Cable;

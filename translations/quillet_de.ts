@@ -1589,6 +1589,10 @@
             <numerusform>%n Sender bekommen eine andere Nummer oder Stelle</numerusform>
         </translation>
     </message>
+    <message id="kPreviewNoneInCommon">
+        <source></source>
+        <translation>Die beiden Listen haben keinen Sender gemeinsam.</translation>
+    </message>
     <message id="kPreviewNothing">
         <source></source>
         <translation>Es würde sich nichts ändern.</translation>

@@ -1589,6 +1589,10 @@
             <numerusform>%n stations get another number or place</numerusform>
         </translation>
     </message>
+    <message id="kPreviewNoneInCommon">
+        <source></source>
+        <translation>The two lists have no station in common.</translation>
+    </message>
     <message id="kPreviewNothing">
         <source></source>
         <translation>Nothing would change.</translation>

@@ -1589,6 +1589,10 @@
             <numerusform>%n canales reciben otro número o lugar</numerusform>
         </translation>
     </message>
+    <message id="kPreviewNoneInCommon">
+        <source></source>
+        <translation>Las dos listas no tienen ningún canal en común.</translation>
+    </message>
     <message id="kPreviewNothing">
         <source></source>
         <translation>No cambiaría nada.</translation>

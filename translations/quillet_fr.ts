@@ -1589,6 +1589,10 @@
             <numerusform>%n chaînes reçoivent un autre numéro ou une autre place</numerusform>
         </translation>
     </message>
+    <message id="kPreviewNoneInCommon">
+        <source></source>
+        <translation>Les deux listes n’ont aucune chaîne en commun.</translation>
+    </message>
     <message id="kPreviewNothing">
         <source></source>
         <translation>Rien ne changerait.</translation>

@@ -1589,6 +1589,10 @@
             <numerusform>%n canali ricevono un altro numero o posto</numerusform>
         </translation>
     </message>
+    <message id="kPreviewNoneInCommon">
+        <source></source>
+        <translation>I due elenchi non hanno alcun canale in comune.</translation>
+    </message>
     <message id="kPreviewNothing">
         <source></source>
         <translation>Non cambierebbe nulla.</translation>

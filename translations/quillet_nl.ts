@@ -1589,6 +1589,10 @@
             <numerusform>%n zenders krijgen een ander nummer of een andere plaats</numerusform>
         </translation>
     </message>
+    <message id="kPreviewNoneInCommon">
+        <source></source>
+        <translation>De twee lijsten hebben geen enkele zender gemeen.</translation>
+    </message>
     <message id="kPreviewNothing">
         <source></source>
         <translation>Er zou niets veranderen.</translation>

@@ -1627,6 +1627,10 @@
             <numerusform>%n kanałów dostaje inny numer lub miejsce</numerusform>
         </translation>
     </message>
+    <message id="kPreviewNoneInCommon">
+        <source></source>
+        <translation>Obie listy nie mają żadnego wspólnego kanału.</translation>
+    </message>
     <message id="kPreviewNothing">
         <source></source>
         <translation>Nic by się nie zmieniło.</translation>

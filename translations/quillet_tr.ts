@@ -1551,6 +1551,10 @@
             <numerusform>%n kanal başka numara veya yer alır</numerusform>
         </translation>
     </message>
+    <message id="kPreviewNoneInCommon">
+        <source></source>
+        <translation>İki listenin ortak kanalı yok.</translation>
+    </message>
     <message id="kPreviewNothing">
         <source></source>
         <translation>Hiçbir şey değişmez.</translation>

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <utility>
 
 namespace quillet {
@@ -137,6 +138,33 @@ ComparisonRows comparisonRows(const StationLists &here, const ComparedWith &othe
             return bool(row.kinds & kindsInDoubt);
         });
     return rows;
+}
+
+bool areInSameOrder(const ComparisonRows &rows)
+{
+    std::optional<ComparedList> list;
+    std::size_t next = 0; // of the other list
+    return std::all_of(rows.begin(), rows.end(), [&](const ComparisonRow &row) {
+        if (!row.here || !row.there || row.isElsewhere)
+            return true;
+        const ComparedList own{row.isTV, row.source};
+        const bool isInOrder = list != own || row.placeThere >= next;
+        list = own;
+        next = row.placeThere;
+        return isInOrder;
+    });
+}
+
+bool haveNoneInCommon(const ComparisonRows &rows)
+{
+    bool anyHere = false, anyThere = false;
+    for (const ComparisonRow &row : rows) {
+        if (row.here && row.there)
+            return false;
+        anyHere = anyHere || row.here;
+        anyThere = anyThere || row.there;
+    }
+    return anyHere && anyThere;
 }
 
 ComparisonRows orderRows(const StationList &here, bool isTV, int source,

@@ -57,6 +57,11 @@ using ComparisonRows = std::vector<ComparisonRow>;
 /// those come first that are not surely of a station.
 /// Keeps no name that was not read before.
 [[nodiscard]] ComparisonRows comparisonRows(const StationLists &here, const ComparedWith &other);
+/// Whether the stations on both sides stand in one order, in every list; without what is in the
+/// list of another source there.
+[[nodiscard]] bool areInSameOrder(const ComparisonRows &rows);
+/// Whether both sides have stations, and no row is of one that is on both.
+[[nodiscard]] bool haveNoneInCommon(const ComparisonRows &rows);
 /// What applying a reference list would do to one of the lists: the stations in their new order,
 /// behind them the entries that fit none. Keeps no name that was not read before, for by the
 /// names that were they are matched.

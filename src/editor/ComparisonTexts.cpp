@@ -261,6 +261,8 @@ QString previewOf(const StationComparison &comparison)
     default:
         break;
     }
+    if (comparison.purpose() == Purpose::Compare && comparison.isOfStrangers())
+        return qtTrId("kPreviewNoneInCommon");
     const StationComparison::Parts &parts = comparison.planForAll();
     QStringList sentences{textOf(parts)};
     if (const std::size_t doubled = comparison.doubledNumbers(); doubled > 0 && !parts.empty())

@@ -126,22 +126,6 @@ bool StationComparison::isEmpty() const
         [kinds = findings(m_other)](const ComparisonRow &row) { return bool(row.kinds & kinds); });
 }
 
-/// Without what is in the list of another source there.
-bool StationComparison::isSameOrder() const
-{
-    std::optional<List> list;
-    std::size_t next = 0; // of the other list
-    return std::all_of(m_rows.begin(), m_rows.end(), [&](const ComparisonRow &row) {
-        if (!row.here || !row.there || row.isElsewhere)
-            return true;
-        const List own{row.isTV, row.source};
-        const bool isInOrder = list != own || row.placeThere >= next;
-        list = own;
-        next = row.placeThere;
-        return isInOrder;
-    });
-}
-
 void StationComparison::showKinds(ComparisonKinds kinds)
 {
     narrow([this, kinds] { m_filter.setKinds(kinds); });

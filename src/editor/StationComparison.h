@@ -40,7 +40,9 @@ public:
     /// Whether nothing differs, in any list, but perhaps the order.
     [[nodiscard]] bool isEmpty() const;
     /// Whether the stations on both sides stand in one order, in every list.
-    [[nodiscard]] bool isSameOrder() const;
+    [[nodiscard]] bool isSameOrder() const { return areInSameOrder(m_rows); }
+    /// Whether there are stations to be compared, but none that both sides have.
+    [[nodiscard]] bool isOfStrangers() const { return haveNoneInCommon(m_rows); }
     [[nodiscard]] const RowFilter &filter() const { return m_filter; }
     void showKinds(ComparisonKinds kinds);
     void search(const QString &text);

@@ -166,6 +166,8 @@ private slots:
         QCOMPARE(editor.rows(), u"1 B, 2 A b, 4 C"_s);
         QCOMPARE(editor.list(3), u"5 X"_s);
         QCOMPARE(textOf(comparison.planForAll()), u"kPreviewNothing"_s);
+        const Compared strangers(editor, {identified(1, u"Z"_s, 99)});
+        QCOMPARE(previewOf(*strangers.comparison), u"kPreviewNoneInCommon"_s);
         QVERIFY(editor.prompts.isSettled());
     }
 

@@ -2227,6 +2227,10 @@ Diese folgen ab Nummer: %3</translation>
         <source></source>
         <translation>Die Datei nennt keinen verschlüsselten Sender</translation>
     </message>
+    <message id="kTipNoRow">
+        <source></source>
+        <translation>Es ist keine Zeile ausgewählt.</translation>
+    </message>
     <message id="kTipNoStations">
         <source></source>
         <translation>Öffnen Sie eine Liste oder wählen Sie eine Empfangsart, die Sender enthält</translation>
@@ -2270,6 +2274,10 @@ Diese folgen ab Nummer: %3</translation>
     <message id="kTipSelectTwo">
         <source></source>
         <translation>Wählen Sie zuerst genau zwei Sender aus</translation>
+    </message>
+    <message id="kTipTakeNothing">
+        <source></source>
+        <translation>Von den ausgewählten Zeilen lässt sich nichts übernehmen.</translation>
     </message>
     <message id="kTipTakeSelected">
         <source></source>

@@ -2227,6 +2227,10 @@ These go on from number: %3</translation>
         <source></source>
         <translation>The file tells of no encrypted station</translation>
     </message>
+    <message id="kTipNoRow">
+        <source></source>
+        <translation>No row is selected.</translation>
+    </message>
     <message id="kTipNoStations">
         <source></source>
         <translation>Open a list, or choose a source, that has stations</translation>
@@ -2270,6 +2274,10 @@ These go on from number: %3</translation>
     <message id="kTipSelectTwo">
         <source></source>
         <translation>Select exactly two stations first</translation>
+    </message>
+    <message id="kTipTakeNothing">
+        <source></source>
+        <translation>Nothing of the selected rows can be taken over.</translation>
     </message>
     <message id="kTipTakeSelected">
         <source></source>

@@ -2227,6 +2227,10 @@ Estos continúan a partir del número: %3</translation>
         <source></source>
         <translation>El archivo no indica ningún canal codificado</translation>
     </message>
+    <message id="kTipNoRow">
+        <source></source>
+        <translation>No hay ninguna fila seleccionada.</translation>
+    </message>
     <message id="kTipNoStations">
         <source></source>
         <translation>Abra una lista, o elija un tipo de recepción, que tenga canales</translation>
@@ -2270,6 +2274,10 @@ Estos continúan a partir del número: %3</translation>
     <message id="kTipSelectTwo">
         <source></source>
         <translation>Seleccione primero exactamente dos canales</translation>
+    </message>
+    <message id="kTipTakeNothing">
+        <source></source>
+        <translation>De las filas seleccionadas no se puede adoptar nada.</translation>
     </message>
     <message id="kTipTakeSelected">
         <source></source>

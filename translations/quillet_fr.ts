@@ -2227,6 +2227,10 @@ Ces dernières suivent à partir du numéro : %3</translation>
         <source></source>
         <translation>Le fichier n’indique aucune chaîne cryptée</translation>
     </message>
+    <message id="kTipNoRow">
+        <source></source>
+        <translation>Aucune ligne n’est sélectionnée.</translation>
+    </message>
     <message id="kTipNoStations">
         <source></source>
         <translation>Ouvrez une liste, ou choisissez un mode de réception, qui contient des chaînes</translation>
@@ -2270,6 +2274,10 @@ Ces dernières suivent à partir du numéro : %3</translation>
     <message id="kTipSelectTwo">
         <source></source>
         <translation>Sélectionnez d’abord exactement deux chaînes</translation>
+    </message>
+    <message id="kTipTakeNothing">
+        <source></source>
+        <translation>Rien des lignes sélectionnées ne peut être repris.</translation>
     </message>
     <message id="kTipTakeSelected">
         <source></source>

@@ -2227,6 +2227,10 @@ Questi proseguono dal numero: %3</translation>
         <source></source>
         <translation>Il file non indica alcun canale criptato</translation>
     </message>
+    <message id="kTipNoRow">
+        <source></source>
+        <translation>Nessuna riga è selezionata.</translation>
+    </message>
     <message id="kTipNoStations">
         <source></source>
         <translation>Apri una lista, o scegli un tipo di ricezione, che contenga canali</translation>
@@ -2270,6 +2274,10 @@ Questi proseguono dal numero: %3</translation>
     <message id="kTipSelectTwo">
         <source></source>
         <translation>Seleziona prima esattamente due canali</translation>
+    </message>
+    <message id="kTipTakeNothing">
+        <source></source>
+        <translation>Dalle righe selezionate non si può riprendere nulla.</translation>
     </message>
     <message id="kTipTakeSelected">
         <source></source>

@@ -2227,6 +2227,10 @@ Deze gaan verder vanaf nummer: %3</translation>
         <source></source>
         <translation>Het bestand vermeldt geen versleutelde zender</translation>
     </message>
+    <message id="kTipNoRow">
+        <source></source>
+        <translation>Er is geen rij geselecteerd.</translation>
+    </message>
     <message id="kTipNoStations">
         <source></source>
         <translation>Open een lijst of kies een ontvangstbron die zenders bevat</translation>
@@ -2270,6 +2274,10 @@ Deze gaan verder vanaf nummer: %3</translation>
     <message id="kTipSelectTwo">
         <source></source>
         <translation>Selecteer eerst precies twee zenders</translation>
+    </message>
+    <message id="kTipTakeNothing">
+        <source></source>
+        <translation>Van de geselecteerde rijen kan niets worden overgenomen.</translation>
     </message>
     <message id="kTipTakeSelected">
         <source></source>

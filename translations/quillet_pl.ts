@@ -2285,6 +2285,10 @@ Te następują od numeru: %3</translation>
         <source></source>
         <translation>Plik nie wskazuje żadnego kodowanego kanału</translation>
     </message>
+    <message id="kTipNoRow">
+        <source></source>
+        <translation>Żaden wiersz nie jest wybrany.</translation>
+    </message>
     <message id="kTipNoStations">
         <source></source>
         <translation>Otwórz listę lub wybierz źródło, które zawiera kanały</translation>
@@ -2328,6 +2332,10 @@ Te następują od numeru: %3</translation>
     <message id="kTipSelectTwo">
         <source></source>
         <translation>Najpierw wybierz dokładnie dwa kanały</translation>
+    </message>
+    <message id="kTipTakeNothing">
+        <source></source>
+        <translation>Z wybranych wierszy nie można niczego przejąć.</translation>
     </message>
     <message id="kTipTakeSelected">
         <source></source>

@@ -2169,6 +2169,10 @@ Bunların devam ettiği numara: %3</translation>
         <source></source>
         <translation>Dosya hiçbir kanalın şifreli olduğunu belirtmiyor</translation>
     </message>
+    <message id="kTipNoRow">
+        <source></source>
+        <translation>Seçili satır yok.</translation>
+    </message>
     <message id="kTipNoStations">
         <source></source>
         <translation>Kanal içeren bir liste açın veya kanal içeren bir kaynak seçin</translation>
@@ -2212,6 +2216,10 @@ Bunların devam ettiği numara: %3</translation>
     <message id="kTipSelectTwo">
         <source></source>
         <translation>Önce tam iki kanal seçin</translation>
+    </message>
+    <message id="kTipTakeNothing">
+        <source></source>
+        <translation>Seçilen satırlardan devralınabilecek bir şey yok.</translation>
     </message>
     <message id="kTipTakeSelected">
         <source></source>

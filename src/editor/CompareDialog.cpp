@@ -210,12 +210,18 @@ void CompareDialog::showSelected()
         return m_preview->setText(m_plan);
     const std::vector<std::size_t> rows = m_table->selected();
     const StationComparison::Parts parts = m_comparison.planFor(rows);
-    const bool areChecked = std::any_of(
-        rows.begin(), rows.end(), [this](std::size_t row) { return m_comparison.isChecked(row); });
-    const QString text =
-        areChecked ? qtTrId("kPreviewSelected").arg(textOf(parts)) : qtTrId("kTipTakeSelected");
-    // Where nothing would change at all, that says enough.
-    m_preview->setText(m_comparison.planForAll().empty() ? m_plan : m_plan + u'\n' + text);
+    const auto any = [&](bool (StationComparison::*is)(std::size_t) const) {
+        return std::any_of(rows.begin(), rows.end(),
+                           [&](std::size_t row) { return (m_comparison.*is)(row); });
+    };
+    const QString text = rows.empty() ? qtTrId("kTipNoRow")
+                         : any(&StationComparison::isChecked)
+                             ? qtTrId("kPreviewSelected").arg(textOf(parts))
+                         : any(&StationComparison::canBeChecked) ? qtTrId("kTipTakeSelected")
+                                                                 : qtTrId("kTipTakeNothing");
+    // Where nothing would change at all, or nothing is selected, that says enough.
+    const bool isEnough = rows.empty() || m_comparison.planForAll().empty();
+    m_preview->setText(isEnough ? m_plan : m_plan + u'\n' + text);
     m_takeSelected->setEnabled(!parts.empty());
     m_takeSelected->setToolTip(parts.empty() ? text : QString());
     m_takeSelected->setAccessibleDescription(text);

@@ -196,6 +196,8 @@ void CompareDialog::showPlan()
         m_comparison.purpose() == Purpose::Order ||
         (m_comparison.purpose() == Purpose::Paste ? !m_comparison.checkedStations().empty()
                                                   : !m_comparison.planForAll().empty());
+    if (!canGoOn && m_take->hasFocus())
+        m_table->setFocus(); // rather than what is next to the button
     m_take->setEnabled(canGoOn);
     m_take->setToolTip(canGoOn ? QString() : m_plan);
     m_take->setAccessibleDescription(m_plan);

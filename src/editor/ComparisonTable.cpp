@@ -118,9 +118,10 @@ void ComparisonTable::focusRows()
     setFocus();
     if (selectionModel()->hasSelection() || m_model.rowCount() == 0)
         return;
-    goToRow(0);
+    const int row = qMax(0, currentIndex().row());
+    goToRow(row);
     // To the name: a mark need not be there, and says nothing of the station.
-    selectionModel()->setCurrentIndex(m_model.index(0, ComparisonModel::NameHere),
+    selectionModel()->setCurrentIndex(m_model.index(row, ComparisonModel::NameHere),
                                       QItemSelectionModel::NoUpdate);
 }
 
@@ -164,14 +165,17 @@ ComparisonTable::RowKey ComparisonTable::keyOf(std::size_t row) const
 
 void ComparisonTable::keepSelection()
 {
-    m_selectedKeys.clear();
-    for (const std::size_t row : selected())
+    const std::vector<std::size_t> rows = selected();
+    if (!rows.empty() || !m_areSelectedHidden)
+        m_selectedKeys.clear();
+    for (const std::size_t row : rows)
         m_selectedKeys.push_back(keyOf(row));
     std::sort(m_selectedKeys.begin(), m_selectedKeys.end());
     if (const QModelIndex current = currentIndex(); current.isValid()) {
         m_currentRow = current.row();
         m_currentColumn = current.column();
-        m_currentKey = keyOf(static_cast<std::size_t>(m_currentRow));
+        const RowKey key = keyOf(static_cast<std::size_t>(m_currentRow));
+        m_currentKey = m_standIn == key ? m_currentKey : key;
     }
     m_scrolled = verticalScrollBar()->value();
 }
@@ -183,6 +187,7 @@ void ComparisonTable::restoreSelection()
         if (std::binary_search(m_selectedKeys.begin(), m_selectedKeys.end(), keyOf(row)))
             rows.append(static_cast<qsizetype>(row));
     }
+    m_areSelectedHidden = rows.isEmpty() && !m_selectedKeys.empty();
     selectRows(*this, rows);
     restoreCurrent();
     verticalScrollBar()->setValue(m_scrolled);
@@ -197,16 +202,19 @@ void ComparisonTable::restoreSelection()
     fitColumns();
 }
 
-/// If its station has gone, then the row that stands there now.
+/// While its station is not on show, the row that stands there now.
 void ComparisonTable::restoreCurrent()
 {
+    m_standIn.reset();
     const int count = m_model.rowCount();
     if (m_currentRow < 0 || count == 0)
         return;
-    int row = qMin(m_currentRow, count - 1);
-    for (int each = 0; each < count; ++each) {
-        if (keyOf(static_cast<std::size_t>(each)) == m_currentKey)
-            row = each;
+    int row = 0;
+    while (row < count && keyOf(static_cast<std::size_t>(row)) != m_currentKey)
+        ++row;
+    if (row == count) {
+        row = qMin(m_currentRow, count - 1);
+        m_standIn = keyOf(static_cast<std::size_t>(row));
     }
     selectionModel()->setCurrentIndex(m_model.index(row, m_currentColumn),
                                       QItemSelectionModel::NoUpdate);

@@ -5,14 +5,15 @@
 #include "editor/StationComparison.h"
 
 #include <array>
+#include <optional>
 #include <tuple>
 #include <vector>
 
 namespace quillet {
 
 /// The rows of a comparison as a table: the space bar checks what is selected, and the selection
-/// stays with its stations while the rows change. Its columns fit its width until somebody sizes
-/// one. Owned by the window that compares.
+/// stays with its stations while the rows change, also when they are not on show for a time. Its
+/// columns fit its width until somebody sizes one. Owned by the window that compares.
 class ComparisonTable : public DarkModeTableView
 {
     Q_OBJECT
@@ -23,7 +24,7 @@ public:
     ~ComparisonTable() override;
 
     [[nodiscard]] std::vector<std::size_t> selected() const;
-    /// Gives it the focus, and the first row the selection if there is none.
+    /// Gives it the focus, and the current row, or else the first, the selection if there is none.
     void focusRows();
     /// Whether the current row is checked, in words.
     [[nodiscard]] QString currentMark() const;
@@ -49,9 +50,11 @@ private:
 
     StationComparison &m_comparison;
     ComparisonModel m_model;
-    std::vector<RowKey> m_selectedKeys; ///< ascending, while the rows change
+    std::vector<RowKey> m_selectedKeys; ///< ascending, of what was selected last
+    bool m_areSelectedHidden = false;   ///< then none of those is on show
     RowKey m_currentKey;
-    int m_currentRow = -1; ///< when there are others
+    std::optional<RowKey> m_standIn; ///< the current row while that one is not on show
+    int m_currentRow = -1;           ///< when there are others
     int m_currentColumn = ComparisonModel::NameHere;
     int m_scrolled = 0;
     std::array<int, ComparisonModel::columns> m_wanted{}; ///< the widths that would cut nothing

@@ -72,6 +72,15 @@ private slots:
         QVERIFY(table.currentIndex().isValid() && table.currentIndex().column() == 4);
         QTest::keyClick(dialog, Qt::Key_Z, Qt::ControlModifier);
         QCOMPARE(cell(*window, 3, 0), u"4"_s);
+        // What is not on show for a time is selected again.
+        part<QCheckBox>(*dialog, "compareKind64").click();
+        QTRY_COMPARE(table.model()->rowCount(), 1);
+        part<QPushButton>(*dialog, "takeOverAll").setFocus();
+        part<QPushButton>(*dialog, "takeOverAll").click();
+        QTRY_COMPARE(table.model()->rowCount(), 0);
+        QCOMPARE(dialog->focusWidget(), &table);
+        QTest::keyClick(dialog, Qt::Key_Z, Qt::ControlModifier);
+        QTRY_COMPARE(table.selectionModel()->selectedRows().size(), 1);
         QVERIFY(!window->isWindowModified());
         QTest::keyClick(&table, Qt::Key_Escape);
         QTRY_VERIFY(!window->findChild<QDialog *>(u"compareDialog"_s));

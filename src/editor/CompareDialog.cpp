@@ -11,6 +11,7 @@
 #include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QSettings>
 #include <QShortcut>
 #include <QSignalBlocker>
@@ -31,6 +32,12 @@ constexpr std::array aspectTitles{std::pair{StationDifference::Number, "kTakeNum
 QString sizeKey()
 {
     return QStringLiteral("windows/Comparison/size");
+}
+
+/// What a side of the window is to be the next time: not what a screen without more room made it.
+int sideToKeep(int now, int atFirst, int wanted, int room)
+{
+    return now == atFirst || now >= room ? std::max(now, wanted) : now;
 }
 
 SpokenLabel *makeText(const char *objectName)
@@ -67,8 +74,10 @@ CompareDialog::CompareDialog(ViewController &controller, const ComparedWith &oth
     connect(&m_comparison, &StationComparison::takenOver, m_preview, &SpokenLabel::speak);
     connect(&m_comparison, &StationComparison::documentGone, this, &QDialog::reject);
     const int line = fontMetrics().height();
-    resize(QSettings().value(sizeKey(), QSize(72 * line, 44 * line)).toSize());
+    m_wantedSize = QSettings().value(sizeKey(), QSize(72 * line, 44 * line)).toSize();
+    resize(m_wantedSize);
     keepOnScreen(*this);
+    m_firstSize = size();
     showPlan();
     m_table->focusRows();
 }
@@ -76,7 +85,12 @@ CompareDialog::CompareDialog(ViewController &controller, const ComparedWith &oth
 /// What it shows goes before the comparison does, which a question may keep.
 CompareDialog::~CompareDialog()
 {
-    QSettings().setValue(sizeKey(), size());
+    const QSize room = screen()->availableGeometry().size() - frameGeometry().size() + size();
+    const auto side = [&](auto of) {
+        return sideToKeep((size().*of)(), (m_firstSize.*of)(), (m_wantedSize.*of)(), (room.*of)());
+    };
+    if (!isMaximized())
+        QSettings().setValue(sizeKey(), QSize(side(&QSize::width), side(&QSize::height)));
     m_table->disconnect(this);
     delete m_table;
     delete m_filter;

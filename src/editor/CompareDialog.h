@@ -56,6 +56,7 @@ private:
     ComparisonTable *m_table;
     SpokenLabel *m_preview;
     QTimer m_selectionShown;               ///< when no more keys wait
+    QSize m_wantedSize, m_firstSize;       ///< the screen may not have had room for it
     QString m_plan;                        ///< of all that is checked, in words
     QPushButton *m_takeSelected = nullptr; ///< null: there is but one way to go on
     QPushButton *m_take = nullptr;

@@ -17,6 +17,8 @@ namespace quillet {
 namespace {
 
 constexpr int rowsMeasured = 300; // the widths of the others will not be much larger
+constexpr int lettersOfName = 12; // that tell most names apart
+constexpr int leastRows = 5;      // on show in the smallest window
 
 } // namespace
 
@@ -32,6 +34,9 @@ ComparisonTable::ComparisonTable(StationComparison &comparison, QWidget *parent)
     setItemDelegateForColumn(ComparisonModel::Check, new CheckMarkDelegate(this));
     setColumnHidden(ComparisonModel::Check, comparison.purpose() == ComparedWith::Purpose::Order);
     sizeRows(*this, fontMetrics());
+    setMinimumHeight(horizontalHeader()->sizeHint().height() +
+                     leastRows * verticalHeader()->defaultSectionSize() +
+                     horizontalScrollBar()->sizeHint().height() + 2 * frameWidth());
     horizontalHeader()->setResizeContentsPrecision(rowsMeasured);
     connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int, int, int width) {
         m_isSizedByHand = m_isSizedByHand || (!m_isFitting && width > 0);
@@ -70,25 +75,31 @@ void ComparisonTable::measureColumns()
         m_wanted.at(column) = qMax(m_wanted.at(column), 7 * letter);
 }
 
-/// What the narrow columns leave goes to the texts in equal shares, and what one of them does not
-/// need to the others; of what then is left the names have the most use.
+/// What the narrow columns leave goes to the difference first, but for what tells names apart; the
+/// names share the rest, and what one of them does not need is the other's.
 void ComparisonTable::fitColumns()
 {
     if (m_isSizedByHand)
         return;
     QHeaderView &header = *horizontalHeader();
-    std::array texts{ComparisonModel::Difference, ComparisonModel::NameHere,
-                     ComparisonModel::NameThere};
-    std::sort(texts.begin(), texts.end(),
+    std::array names{ComparisonModel::NameHere, ComparisonModel::NameThere};
+    std::sort(names.begin(), names.end(),
               [this](int a, int b) { return m_wanted.at(a) < m_wanted.at(b); });
+    std::array<int, ComparisonModel::columns> widths = m_wanted, least{};
+    const int telling = lettersOfName * fontMetrics().averageCharWidth();
+    for (const int column : names)
+        least.at(column) = qMax(header.sectionSizeHint(column), qMin(m_wanted.at(column), telling));
     int left = viewport()->width();
-    std::array<int, ComparisonModel::columns> widths = m_wanted;
     for (int column = 0; column < ComparisonModel::NameHere; ++column)
         left -= header.isSectionHidden(column) ? 0 : m_wanted.at(column);
-    int others = texts.size();
-    for (const int column : texts) {
-        const int least = header.sectionSizeHint(column);
-        widths.at(column) = qMin(m_wanted.at(column), qMax(least, left / others--));
+    int &difference = widths[ComparisonModel::Difference];
+    const int leftByNames = left - least.at(names.front()) - least.at(names.back());
+    difference =
+        qMin(difference, qMax(header.sectionSizeHint(ComparisonModel::Difference), leftByNames));
+    left -= difference;
+    int others = names.size();
+    for (const int column : names) {
+        widths.at(column) = qMin(m_wanted.at(column), qMax(least.at(column), left / others--));
         left -= widths.at(column);
     }
     if (left > 0) {

@@ -10,6 +10,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
+#include <QSettings>
 #include <QTest>
 
 using namespace quillet;
@@ -30,6 +31,9 @@ private slots:
         QVERIFY(window);
         auto &menu = part<QMenu>(*window, "compareMenu");
         QVERIFY(menuItem(*window, "compareWithRead").isEnabled());
+        const QString sizeKey = u"windows/Comparison/size"_s;
+        const QSize wide(5000, 500); // which no screen has room for
+        QSettings().setValue(sizeKey, wide);
         emit menu.aboutToShow();
         menu.actions().constLast()->trigger();
         QDialog *dialog = shown(*window);
@@ -84,6 +88,7 @@ private slots:
         QVERIFY(!window->isWindowModified());
         QTest::keyClick(&table, Qt::Key_Escape);
         QTRY_VERIFY(!window->findChild<QDialog *>(u"compareDialog"_s));
+        QCOMPARE(QSettings().value(sizeKey).toSize(), wide);
     }
 
     void orderIsAppliedFromItsPreview()

@@ -313,6 +313,10 @@
         <source></source>
         <translation>Anwenden</translation>
     </message>
+    <message id="kCompareClipboard">
+        <source></source>
+        <translation>In der Zwischenablage</translation>
+    </message>
     <message id="kCompareDifference">
         <source></source>
         <translation>Unterschied</translation>
@@ -348,6 +352,10 @@
     <message id="kCompareList">
         <source></source>
         <translation>Liste</translation>
+    </message>
+    <message id="kCompareMove">
+        <source></source>
+        <translation>Verschieben</translation>
     </message>
     <message id="kCompareMoved">
         <source></source>

@@ -313,6 +313,10 @@
         <source></source>
         <translation>Apply</translation>
     </message>
+    <message id="kCompareClipboard">
+        <source></source>
+        <translation>On the clipboard</translation>
+    </message>
     <message id="kCompareDifference">
         <source></source>
         <translation>Difference</translation>
@@ -348,6 +352,10 @@
     <message id="kCompareList">
         <source></source>
         <translation>List</translation>
+    </message>
+    <message id="kCompareMove">
+        <source></source>
+        <translation>Move</translation>
     </message>
     <message id="kCompareMoved">
         <source></source>

@@ -313,6 +313,10 @@
         <source></source>
         <translation>Aplicar</translation>
     </message>
+    <message id="kCompareClipboard">
+        <source></source>
+        <translation>En el portapapeles</translation>
+    </message>
     <message id="kCompareDifference">
         <source></source>
         <translation>Diferencia</translation>
@@ -348,6 +352,10 @@
     <message id="kCompareList">
         <source></source>
         <translation>Lista</translation>
+    </message>
+    <message id="kCompareMove">
+        <source></source>
+        <translation>Mover</translation>
     </message>
     <message id="kCompareMoved">
         <source></source>

@@ -313,6 +313,10 @@
         <source></source>
         <translation>Appliquer</translation>
     </message>
+    <message id="kCompareClipboard">
+        <source></source>
+        <translation>Dans le presse-papiers</translation>
+    </message>
     <message id="kCompareDifference">
         <source></source>
         <translation>Différence</translation>
@@ -348,6 +352,10 @@
     <message id="kCompareList">
         <source></source>
         <translation>Liste</translation>
+    </message>
+    <message id="kCompareMove">
+        <source></source>
+        <translation>Déplacer</translation>
     </message>
     <message id="kCompareMoved">
         <source></source>

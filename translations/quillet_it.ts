@@ -313,6 +313,10 @@
         <source></source>
         <translation>Applica</translation>
     </message>
+    <message id="kCompareClipboard">
+        <source></source>
+        <translation>Negli appunti</translation>
+    </message>
     <message id="kCompareDifference">
         <source></source>
         <translation>Differenza</translation>
@@ -348,6 +352,10 @@
     <message id="kCompareList">
         <source></source>
         <translation>Elenco</translation>
+    </message>
+    <message id="kCompareMove">
+        <source></source>
+        <translation>Sposta</translation>
     </message>
     <message id="kCompareMoved">
         <source></source>

@@ -313,6 +313,10 @@
         <source></source>
         <translation>Toepassen</translation>
     </message>
+    <message id="kCompareClipboard">
+        <source></source>
+        <translation>Op het klembord</translation>
+    </message>
     <message id="kCompareDifference">
         <source></source>
         <translation>Verschil</translation>
@@ -348,6 +352,10 @@
     <message id="kCompareList">
         <source></source>
         <translation>Lijst</translation>
+    </message>
+    <message id="kCompareMove">
+        <source></source>
+        <translation>Verplaatsen</translation>
     </message>
     <message id="kCompareMoved">
         <source></source>

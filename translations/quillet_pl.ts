@@ -319,6 +319,10 @@
         <source></source>
         <translation>Zastosuj</translation>
     </message>
+    <message id="kCompareClipboard">
+        <source></source>
+        <translation>W schowku</translation>
+    </message>
     <message id="kCompareDifference">
         <source></source>
         <translation>Różnica</translation>
@@ -354,6 +358,10 @@
     <message id="kCompareList">
         <source></source>
         <translation>Lista</translation>
+    </message>
+    <message id="kCompareMove">
+        <source></source>
+        <translation>Przenieś</translation>
     </message>
     <message id="kCompareMoved">
         <source></source>

@@ -307,6 +307,10 @@
         <source></source>
         <translation>Uygula</translation>
     </message>
+    <message id="kCompareClipboard">
+        <source></source>
+        <translation>Panoda</translation>
+    </message>
     <message id="kCompareDifference">
         <source></source>
         <translation>Fark</translation>
@@ -342,6 +346,10 @@
     <message id="kCompareList">
         <source></source>
         <translation>Liste</translation>
+    </message>
+    <message id="kCompareMove">
+        <source></source>
+        <translation>Taşı</translation>
     </message>
     <message id="kCompareMoved">
         <source></source>

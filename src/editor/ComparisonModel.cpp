@@ -18,30 +18,23 @@ bool isNumber(int column)
     return column == ComparisonModel::NumberHere || column == ComparisonModel::NumberThere;
 }
 
-const char *titleOf(int column, bool isOrder)
+std::array<const char *, ComparisonModel::columns> titlesFor(Purpose purpose)
 {
-    switch (column) {
-    case ComparisonModel::Check:
-        return "kCompareTake";
-    case ComparisonModel::List:
-        return "kCompareList";
-    case ComparisonModel::NumberHere:
-        return "kColumnNumber";
-    case ComparisonModel::NumberThere:
-        return isOrder ? "kCompareNumberNew" : "kCompareNumberThere";
-    case ComparisonModel::NameHere:
-        return "kColumnName";
-    case ComparisonModel::NameThere:
-        return "kCompareNameThere";
-    default:
-        return "kCompareDifference";
-    }
+    const bool isPaste = purpose == Purpose::Paste;
+    return {isPaste ? "kCompareMove" : "kCompareTake",
+            "kCompareList",
+            "kColumnNumber",
+            purpose == Purpose::Order ? "kCompareNumberNew" : "kCompareNumberThere",
+            "kColumnName",
+            isPaste ? "kCompareClipboard" : "kCompareNameThere",
+            "kCompareDifference"};
 }
 
 } // namespace
 
 ComparisonModel::ComparisonModel(StationComparison &comparison, QObject *parent)
-    : QAbstractTableModel(parent), m_comparison(comparison)
+    : QAbstractTableModel(parent), m_comparison(comparison),
+      m_titles(titlesFor(comparison.purpose()))
 {
     connect(&comparison, &StationComparison::rowsAboutToChange, this,
             [this] { beginResetModel(); });
@@ -93,7 +86,7 @@ QVariant ComparisonModel::checkData(std::size_t row, int role) const
     if (role == Qt::CheckStateRole)
         return QVariant::fromValue(isChecked ? Qt::Checked : Qt::Unchecked);
     if (role == Qt::AccessibleTextRole)
-        return qtTrId(isChecked ? "kMarkSet" : "kMarkNotSet").arg(qtTrId("kCompareTake"));
+        return qtTrId(isChecked ? "kMarkSet" : "kMarkNotSet").arg(qtTrId(m_titles[Check]));
     return {};
 }
 
@@ -136,7 +129,7 @@ QVariant ComparisonModel::headerData(int section, Qt::Orientation orientation, i
         return QVariant::fromValue((isNumber(section) ? Qt::AlignRight : Qt::AlignLeft) |
                                    Qt::AlignVCenter);
     if (role == Qt::DisplayRole || role == Qt::ToolTipRole || role == Qt::AccessibleTextRole)
-        return qtTrId(titleOf(section, m_comparison.purpose() == Purpose::Order));
+        return qtTrId(m_titles.at(static_cast<std::size_t>(section)));
     return {};
 }
 

@@ -2,6 +2,8 @@
 
 #include <QAbstractTableModel>
 
+#include <array>
+
 namespace quillet {
 
 class StationComparison;
@@ -31,6 +33,7 @@ private:
     [[nodiscard]] QString textAt(std::size_t row, int column) const;
 
     StationComparison &m_comparison;
+    const std::array<const char *, columns> m_titles;
 };
 
 } // namespace quillet

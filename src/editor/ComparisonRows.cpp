@@ -68,10 +68,26 @@ ComparisonRow rowOf(const ComparedStation &station, const ComparedLists &lists,
             row.differences.setFlag(StationDifference::Number, false);
         if (told.testFlag(StationDifference::Name))
             row.nameThere = there.shownName();
-        else if (!station.first)
-            row.nameThere = StationKey::of(there).text();
     }
     return row;
+}
+
+/// Of a clipboard the identifiers stand as in reference lists, where those tell all of them.
+QString keyText(const StationKey &key, Purpose purpose)
+{
+    const QStringList parts{key.network, key.transport, key.service};
+    const bool isOfThose = purpose == Purpose::Paste && key.frequency.isEmpty() &&
+                           key.occurrence == 1 && !parts.contains(QString());
+    return isOfThose ? parts.join(u'-') : key.text();
+}
+
+/// What a record says that fits nothing is all there is to be seen of it.
+void tellAll(const LGStation &there, Purpose purpose, ComparisonRow &row)
+{
+    if (const auto number = toldNumber(there))
+        row.numberThere = QString::number(*number);
+    if (row.nameThere.isEmpty())
+        row.nameThere = keyText(StationKey::of(there), purpose);
 }
 
 /// Where each station of the other list stands, of all its lists one behind the other.
@@ -121,9 +137,8 @@ ComparisonRows comparisonRows(const StationLists &here, const ComparedWith &othe
             if (isOfRows && !station.second)
                 continue;
             rows.push_back(rowOf(station, lists, toldOf));
-            // What a row says that fits nothing is all there is to be seen of it.
-            if (const auto number = station.first ? std::nullopt : toldNumber(*station.second))
-                rows.back().numberThere = QString::number(*number);
+            if (!station.first)
+                tellAll(*station.second, other.purpose, rows.back());
             rows.back().placeThere = places.value(station.second.get());
             rows.back().isDoubled = other.known.contains(station.second.get()) &&
                                     doubled.contains(station.second->origPos());

@@ -33,6 +33,9 @@ ComparisonTable::ComparisonTable(StationComparison &comparison, QWidget *parent)
     setItemDelegate(new TypedTextDelegate(this));
     setItemDelegateForColumn(ComparisonModel::Check, new CheckMarkDelegate(this));
     setColumnHidden(ComparisonModel::Check, comparison.purpose() == ComparedWith::Purpose::Order);
+    // What is pasted gets numbers by its new place.
+    setColumnHidden(ComparisonModel::NumberThere,
+                    comparison.purpose() == ComparedWith::Purpose::Paste);
     sizeRows(*this, fontMetrics());
     setMinimumHeight(horizontalHeader()->sizeHint().height() +
                      leastRows * verticalHeader()->defaultSectionSize() +

@@ -627,8 +627,8 @@
     <message id="kExportLost" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n Zeichen lässt sich so nicht schreiben; an seiner Stelle steht „?“.</numerusform>
-            <numerusform>%n Zeichen lassen sich so nicht schreiben; an ihrer Stelle steht „?“.</numerusform>
+            <numerusform>%n Zeichen gibt es in dieser Kodierung nicht; dafür steht „?“.</numerusform>
+            <numerusform>%n Zeichen gibt es in dieser Kodierung nicht; dafür steht „?“.</numerusform>
         </translation>
     </message>
     <message id="kExportNumbers" numerus="yes">
@@ -1567,6 +1567,13 @@
         <translation>
             <numerusform>%n Nummer würde mehrmals vergeben.</numerusform>
             <numerusform>%n Nummern würden mehrmals vergeben.</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewDoubledTable" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n Nummer ist in der Tabelle mehrmals vergeben.</numerusform>
+            <numerusform>%n Nummern sind in der Tabelle mehrmals vergeben.</numerusform>
         </translation>
     </message>
     <message id="kPreviewDoubledThere" numerus="yes">

@@ -627,8 +627,8 @@
     <message id="kExportLost" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n character cannot be written so; “?” stands in its place.</numerusform>
-            <numerusform>%n characters cannot be written so; “?” stands in their place.</numerusform>
+            <numerusform>%n character does not exist in this encoding: “?” stands for it.</numerusform>
+            <numerusform>%n characters do not exist in this encoding: “?” stands for them.</numerusform>
         </translation>
     </message>
     <message id="kExportNumbers" numerus="yes">
@@ -1525,7 +1525,7 @@
     </message>
     <message id="kOrderNoLines">
         <source></source>
-        <translation>A text file must have at least three lines of the form “101;Sample TV;1-10-300”, and at most two others.</translation>
+        <translation>A text file needs at least three lines like “101;Sample TV;1-10-300”, and may have two others at most.</translation>
     </message>
     <message id="kOrderNoRadioStations">
         <source></source>
@@ -1567,6 +1567,13 @@
         <translation>
             <numerusform>%n number would be given more than once.</numerusform>
             <numerusform>%n numbers would be given more than once.</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewDoubledTable" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n number is given more than once in the table.</numerusform>
+            <numerusform>%n numbers are given more than once in the table.</numerusform>
         </translation>
     </message>
     <message id="kPreviewDoubledThere" numerus="yes">
@@ -2253,7 +2260,7 @@ These go on from number: %3</translation>
     </message>
     <message id="kTipNothingToPaste">
         <source></source>
-        <translation>The clipboard has no rows that tell stations</translation>
+        <translation>The clipboard names no stations</translation>
     </message>
     <message id="kTipNotRead">
         <source></source>

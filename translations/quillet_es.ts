@@ -627,8 +627,8 @@
     <message id="kExportLost" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n carácter no se puede escribir así; en su lugar aparece «?».</numerusform>
-            <numerusform>%n caracteres no se pueden escribir así; en su lugar aparece «?».</numerusform>
+            <numerusform>%n carácter no existe en esta codificación; en su lugar aparece «?».</numerusform>
+            <numerusform>%n caracteres no existen en esta codificación; en su lugar aparece «?».</numerusform>
         </translation>
     </message>
     <message id="kExportNumbers" numerus="yes">
@@ -1567,6 +1567,13 @@
         <translation>
             <numerusform>%n número se daría más de una vez.</numerusform>
             <numerusform>%n números se darían más de una vez.</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewDoubledTable" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n número está dado más de una vez en la tabla.</numerusform>
+            <numerusform>%n números están dados más de una vez en la tabla.</numerusform>
         </translation>
     </message>
     <message id="kPreviewDoubledThere" numerus="yes">

@@ -627,8 +627,8 @@
     <message id="kExportLost" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n caractère ne peut pas être écrit ainsi ; « ? » le remplace.</numerusform>
-            <numerusform>%n caractères ne peuvent pas être écrits ainsi ; « ? » les remplace.</numerusform>
+            <numerusform>%n caractère n’existe pas dans cet encodage ; « ? » le remplace.</numerusform>
+            <numerusform>%n caractères n’existent pas dans cet encodage ; « ? » les remplace.</numerusform>
         </translation>
     </message>
     <message id="kExportNumbers" numerus="yes">
@@ -1567,6 +1567,13 @@
         <translation>
             <numerusform>%n numéro serait donné plusieurs fois.</numerusform>
             <numerusform>%n numéros seraient donnés plusieurs fois.</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewDoubledTable" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n numéro est donné plusieurs fois dans le tableau.</numerusform>
+            <numerusform>%n numéros sont donnés plusieurs fois dans le tableau.</numerusform>
         </translation>
     </message>
     <message id="kPreviewDoubledThere" numerus="yes">

@@ -627,8 +627,8 @@
     <message id="kExportLost" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n carattere non può essere scritto così; al suo posto c’è “?”.</numerusform>
-            <numerusform>%n caratteri non possono essere scritti così; al loro posto c’è “?”.</numerusform>
+            <numerusform>%n carattere non esiste in questa codifica; al suo posto c’è “?”.</numerusform>
+            <numerusform>%n caratteri non esistono in questa codifica; al loro posto c’è “?”.</numerusform>
         </translation>
     </message>
     <message id="kExportNumbers" numerus="yes">
@@ -1567,6 +1567,13 @@
         <translation>
             <numerusform>%n numero verrebbe assegnato più volte.</numerusform>
             <numerusform>%n numeri verrebbero assegnati più volte.</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewDoubledTable" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n numero è assegnato più volte nella tabella.</numerusform>
+            <numerusform>%n numeri sono assegnati più volte nella tabella.</numerusform>
         </translation>
     </message>
     <message id="kPreviewDoubledThere" numerus="yes">

@@ -627,8 +627,8 @@
     <message id="kExportLost" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n teken kan zo niet worden geschreven; daarvoor staat “?” in de plaats.</numerusform>
-            <numerusform>%n tekens kunnen zo niet worden geschreven; daarvoor staat “?” in de plaats.</numerusform>
+            <numerusform>%n teken bestaat niet in deze codering; daarvoor staat “?” in de plaats.</numerusform>
+            <numerusform>%n tekens bestaan niet in deze codering; daarvoor staat “?” in de plaats.</numerusform>
         </translation>
     </message>
     <message id="kExportNumbers" numerus="yes">
@@ -1567,6 +1567,13 @@
         <translation>
             <numerusform>%n nummer zou meermaals worden gegeven.</numerusform>
             <numerusform>%n nummers zouden meermaals worden gegeven.</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewDoubledTable" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n nummer is in de tabel meermaals gegeven.</numerusform>
+            <numerusform>%n nummers zijn in de tabel meermaals gegeven.</numerusform>
         </translation>
     </message>
     <message id="kPreviewDoubledThere" numerus="yes">

@@ -646,9 +646,9 @@
     <message id="kExportLost" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n znaku nie da się tak zapisać; zamiast niego jest „?”.</numerusform>
-            <numerusform>%n znaków nie da się tak zapisać; zamiast nich jest „?”.</numerusform>
-            <numerusform>%n znaków nie da się tak zapisać; zamiast nich jest „?”.</numerusform>
+            <numerusform>%n znak nie istnieje w tym kodowaniu; zamiast niego jest „?”.</numerusform>
+            <numerusform>%n znaki nie istnieją w tym kodowaniu; zamiast nich jest „?”.</numerusform>
+            <numerusform>%n znaków nie istnieje w tym kodowaniu; zamiast nich jest „?”.</numerusform>
         </translation>
     </message>
     <message id="kExportNumbers" numerus="yes">
@@ -1601,6 +1601,14 @@
             <numerusform>%n numer zostałby nadany kilkakrotnie.</numerusform>
             <numerusform>%n numery zostałyby nadane kilkakrotnie.</numerusform>
             <numerusform>%n numerów zostałoby nadanych kilkakrotnie.</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewDoubledTable" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n numer jest w tabeli nadany kilkakrotnie.</numerusform>
+            <numerusform>%n numery są w tabeli nadane kilkakrotnie.</numerusform>
+            <numerusform>%n numerów jest w tabeli nadanych kilkakrotnie.</numerusform>
         </translation>
     </message>
     <message id="kPreviewDoubledThere" numerus="yes">

@@ -608,7 +608,7 @@
     <message id="kExportLost" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n karakter böyle yazılamıyor; yerine “?” konuyor.</numerusform>
+            <numerusform>Bu kodlamada %n karakter yok; yerine “?” konuyor.</numerusform>
         </translation>
     </message>
     <message id="kExportNumbers" numerus="yes">
@@ -1533,6 +1533,12 @@
         <source></source>
         <translation>
             <numerusform>%n numara birden çok kez verilir.</numerusform>
+        </translation>
+    </message>
+    <message id="kPreviewDoubledTable" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Tabloda %n numara birden çok kez verilmiş.</numerusform>
         </translation>
     </message>
     <message id="kPreviewDoubledThere" numerus="yes">

@@ -266,7 +266,9 @@ QString previewOf(const StationComparison &comparison)
     const StationComparison::Parts &parts = comparison.planForAll();
     QStringList sentences{textOf(parts)};
     if (const std::size_t doubled = comparison.doubledNumbers(); doubled > 0 && !parts.empty())
-        sentences.append(qtTrId("kPreviewDoubledThere", static_cast<int>(doubled)));
+        sentences.append(qtTrId(comparison.purpose() == Purpose::Import ? "kPreviewDoubledTable"
+                                                                        : "kPreviewDoubledThere",
+                                static_cast<int>(doubled)));
     return sentences.join(u' ') + unsureText(comparison) + hiddenText(comparison);
 }
 

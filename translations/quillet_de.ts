@@ -2214,17 +2214,9 @@ Diese folgen ab Nummer: %3</translation>
         <source></source>
         <translation>Die Spalten sind schon die üblichen</translation>
     </message>
-    <message id="kTipExportAllShown">
-        <source></source>
-        <translation>Es werden alle Sender der Liste angezeigt</translation>
-    </message>
     <message id="kTipExportKeys">
         <source></source>
         <translation>An dieser Spalte erkennt „Änderungen importieren“ die Sender wieder, auch in anderer Reihenfolge und mit anderen Nummern</translation>
-    </message>
-    <message id="kTipExportTableOnly">
-        <source></source>
-        <translation>Nur für eine Tabelle</translation>
     </message>
     <message id="kTipFilterTVOnly">
         <source></source>

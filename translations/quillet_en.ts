@@ -2214,17 +2214,9 @@ These go on from number: %3</translation>
         <source></source>
         <translation>The columns are the usual ones already</translation>
     </message>
-    <message id="kTipExportAllShown">
-        <source></source>
-        <translation>All stations of the list are shown</translation>
-    </message>
     <message id="kTipExportKeys">
         <source></source>
         <translation>By this column Import Changes finds the stations again, whatever their order and numbers</translation>
-    </message>
-    <message id="kTipExportTableOnly">
-        <source></source>
-        <translation>For a table only</translation>
     </message>
     <message id="kTipFilterTVOnly">
         <source></source>

@@ -2214,17 +2214,9 @@ Estos continúan a partir del número: %3</translation>
         <source></source>
         <translation>Las columnas ya son las habituales</translation>
     </message>
-    <message id="kTipExportAllShown">
-        <source></source>
-        <translation>Se muestran todos los canales de la lista</translation>
-    </message>
     <message id="kTipExportKeys">
         <source></source>
         <translation>Por esta columna se reconocen los canales al importar cambios, sea cual sea su orden y su número</translation>
-    </message>
-    <message id="kTipExportTableOnly">
-        <source></source>
-        <translation>Solo para una tabla</translation>
     </message>
     <message id="kTipFilterTVOnly">
         <source></source>

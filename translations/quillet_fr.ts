@@ -2214,17 +2214,9 @@ Ces dernières suivent à partir du numéro : %3</translation>
         <source></source>
         <translation>Ce sont déjà les colonnes habituelles</translation>
     </message>
-    <message id="kTipExportAllShown">
-        <source></source>
-        <translation>Toutes les chaînes de la liste sont affichées</translation>
-    </message>
     <message id="kTipExportKeys">
         <source></source>
         <translation>Cette colonne permet de reconnaître les chaînes à l’import, quels que soient leur ordre et leurs numéros</translation>
-    </message>
-    <message id="kTipExportTableOnly">
-        <source></source>
-        <translation>Pour un tableau seulement</translation>
     </message>
     <message id="kTipFilterTVOnly">
         <source></source>

@@ -2214,17 +2214,9 @@ Questi proseguono dal numero: %3</translation>
         <source></source>
         <translation>Le colonne sono già quelle abituali</translation>
     </message>
-    <message id="kTipExportAllShown">
-        <source></source>
-        <translation>Sono mostrati tutti i canali della lista</translation>
-    </message>
     <message id="kTipExportKeys">
         <source></source>
         <translation>Da questa colonna si riconoscono i canali all’importazione, qualunque siano ordine e numeri</translation>
-    </message>
-    <message id="kTipExportTableOnly">
-        <source></source>
-        <translation>Solo per una tabella</translation>
     </message>
     <message id="kTipFilterTVOnly">
         <source></source>

@@ -2214,17 +2214,9 @@ Deze gaan verder vanaf nummer: %3</translation>
         <source></source>
         <translation>De kolommen zijn al de gebruikelijke</translation>
     </message>
-    <message id="kTipExportAllShown">
-        <source></source>
-        <translation>Alle zenders van de lijst worden getoond</translation>
-    </message>
     <message id="kTipExportKeys">
         <source></source>
         <translation>Aan deze kolom worden de zenders bij het importeren herkend, in welke volgorde en met welke nummers ook</translation>
-    </message>
-    <message id="kTipExportTableOnly">
-        <source></source>
-        <translation>Alleen voor een tabel</translation>
     </message>
     <message id="kTipFilterTVOnly">
         <source></source>

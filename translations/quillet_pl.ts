@@ -2273,17 +2273,9 @@ Te następują od numeru: %3</translation>
         <source></source>
         <translation>Kolumny są już takie jak zwykle</translation>
     </message>
-    <message id="kTipExportAllShown">
-        <source></source>
-        <translation>Pokazane są wszystkie kanały listy</translation>
-    </message>
     <message id="kTipExportKeys">
         <source></source>
         <translation>Po tej kolumnie import rozpoznaje kanały, niezależnie od kolejności i numerów</translation>
-    </message>
-    <message id="kTipExportTableOnly">
-        <source></source>
-        <translation>Tylko dla tabeli</translation>
     </message>
     <message id="kTipFilterTVOnly">
         <source></source>

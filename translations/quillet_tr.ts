@@ -2155,17 +2155,9 @@ Bunların devam ettiği numara: %3</translation>
         <source></source>
         <translation>Sütunlar zaten olağan sütunlar</translation>
     </message>
-    <message id="kTipExportAllShown">
-        <source></source>
-        <translation>Listenin tüm kanalları gösteriliyor</translation>
-    </message>
     <message id="kTipExportKeys">
         <source></source>
         <translation>İçe aktarırken kanallar, sıraları ve numaraları ne olursa olsun bu sütundan tanınır</translation>
-    </message>
-    <message id="kTipExportTableOnly">
-        <source></source>
-        <translation>Yalnızca tablo için</translation>
     </message>
     <message id="kTipFilterTVOnly">
         <source></source>

@@ -14,6 +14,7 @@
 #include <QVBoxLayout>
 
 #include <array>
+#include <initializer_list>
 #include <memory>
 
 namespace quillet {
@@ -78,14 +79,6 @@ ExportOptions lastOptions()
     return options;
 }
 
-void enable(QWidget &widget, bool isEnabled, const char *reason)
-{
-    const QString why = isEnabled ? QString() : qtTrId(reason);
-    widget.setEnabled(isEnabled);
-    widget.setToolTip(why);
-    widget.setAccessibleDescription(why);
-}
-
 } // namespace
 
 ExportDialog::ExportDialog(const ListExport &list, QWidget *parent)
@@ -108,18 +101,24 @@ ExportDialog::ExportDialog(const ListExport &list, QWidget *parent)
     const std::size_t shown = list.stationCount(true);
     if (shown > 0 && shown < list.stationCount(false))
         m_stations->addItem(qtTrId("kExportShown", static_cast<int>(shown)), true);
-    auto *form = new QFormLayout;
-    form->addRow(qtTrId("kExportFormat"), m_format);
-    form->addRow(qtTrId("kExportStations"), m_stations);
-    form->addRow(qtTrId("kExportSeparator"), m_separator);
-    form->addRow(qtTrId("kExportEncoding"), m_form);
-    form->addRow(m_hasKeys);
+    m_rows = new QFormLayout;
+    m_rows->addRow(qtTrId("kExportFormat"), m_format);
+    m_rows->addRow(qtTrId("kExportStations"), m_stations);
+    auto *all = new QLabel(m_stations->itemText(0)); // where there is nothing to choose
+    m_rows->addRow(qtTrId("kExportStations").remove(u'&'), all);
+    m_rows->setRowVisible(m_stations->count() > 1 ? static_cast<QWidget *>(all) : m_stations,
+                          false);
+    m_rows->addRow(qtTrId("kExportSeparator"), m_separator);
+    m_rows->addRow(qtTrId("kExportEncoding"), m_form);
+    m_rows->addRow(m_hasKeys);
+    m_hasKeys->setToolTip(qtTrId("kTipExportKeys"));
+    m_hasKeys->setAccessibleDescription(qtTrId("kTipExportKeys"));
     auto *buttons = new QDialogButtonBox;
     m_export = buttons->addButton(qtTrId("kExportOK"), QDialogButtonBox::AcceptRole);
     m_export->setDefault(true);
     buttons->addButton(qtTrId("kCancel"), QDialogButtonBox::RejectRole);
     auto *column = new QVBoxLayout(this);
-    column->addLayout(form);
+    column->addLayout(m_rows);
     column->addWidget(m_remarks, 1);
     column->addWidget(buttons);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
@@ -164,14 +163,8 @@ void ExportDialog::showChoice()
 {
     const ExportOptions chosen = options();
     const bool isTable = chosen.format == Format::Table;
-    enable(*m_separator, isTable, "kTipExportTableOnly");
-    enable(*m_form, isTable, "kTipExportTableOnly");
-    enable(*m_hasKeys, isTable, "kTipExportTableOnly");
-    enable(*m_stations, m_stations->count() > 1, "kTipExportAllShown");
-    if (isTable) {
-        m_hasKeys->setToolTip(qtTrId("kTipExportKeys"));
-        m_hasKeys->setAccessibleDescription(qtTrId("kTipExportKeys"));
-    }
+    for (QWidget *each : std::initializer_list<QWidget *>{m_separator, m_form, m_hasKeys})
+        m_rows->setRowVisible(each, isTable);
     tellRemarks(m_list.make(chosen).remarks);
 }
 

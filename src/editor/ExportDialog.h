@@ -6,6 +6,7 @@
 
 class QCheckBox;
 class QComboBox;
+class QFormLayout;
 class QLabel;
 class QPushButton;
 
@@ -13,8 +14,9 @@ namespace quillet {
 
 class ViewController;
 
-/// Asks as what the list on show is to be exported, with a line that says what would be lost. What
-/// was chosen last is chosen again. Writes nothing.
+/// Asks as what the list on show is to be exported, with a line that says what would be lost.
+/// What a format has no use for is not on show. What was chosen last is chosen again. Writes
+/// nothing.
 class ExportDialog : public QDialog
 {
     Q_OBJECT
@@ -38,6 +40,7 @@ private:
     QComboBox *m_form;
     QComboBox *m_stations;
     QCheckBox *m_hasKeys;
+    QFormLayout *m_rows = nullptr;
     QLabel *m_remarks;
     QPushButton *m_export = nullptr;
 };

@@ -275,13 +275,15 @@ private slots:
     void doubtsStandFirstInAPaste()
     {
         Editor editor({identified(1, u"A"_s, 1), identified(2, u"B"_s, 2), makeRadio(1, u"R"_s)});
-        const Compared compared(
-            editor, {.purpose = Purpose::Paste,
-                     .name = {},
-                     .lists = listsOf({identified(1, u"B"_s, 2), identified(2, u"b"_s, 77),
-                                       identified(3, u"a"_s, 76)}),
-                     .place = editor.document.stations()->back()});
-        QCOMPARE(compared.rows(), u"-1>3 A/a,  >2 /b, +2>1 B"_s);
+        ComparedWith rows{.purpose = Purpose::Paste,
+                          .name = {},
+                          .lists = listsOf({identified(1, u"B"_s, 2), identified(2, u"None"_s, 77),
+                                            identified(3, u"a"_s, 76)}),
+                          .place = editor.document.stations()->back()};
+        // A line of a reference list, of which nothing but the identifiers is read.
+        rows.told.insert((*rows.lists.list(true, 0))[1].get(), {});
+        const Compared compared(editor, rows);
+        QCOMPARE(compared.rows(), u"-1>3 A/a,  >2 /1-10-77, +2>1 B"_s);
         QCOMPARE(previewOf(*compared.comparison), u"kPreviewPaste kPreviewUnfit kPreviewUnsure"_s);
     }
 

@@ -1517,7 +1517,7 @@
     </message>
     <message id="kOrderLines">
         <source></source>
-        <translation>Lines of that form in this file: %1. Other lines: %2.</translation>
+        <translation>Such lines in this file: %1. Other lines: %2.</translation>
     </message>
     <message id="kOrderNoIdentifiers">
         <source></source>

@@ -90,9 +90,11 @@ QTableWidget *VersionsDialog::makeList() const
     list->setAlternatingRowColors(true);
     list->setShowGrid(false);
     list->setTabKeyNavigation(false);
-    list->setWordWrap(false);
+    list->verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents); // for what is long
     list->verticalHeader()->hide();
     list->horizontalHeader()->setStretchLastSection(true);
+    QObject::connect(list->horizontalHeader(), &QHeaderView::sectionResized, list,
+                     &QTableWidget::resizeRowsToContents);
     list->horizontalHeader()->setHighlightSections(false);
     list->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     for (int row = 0; row < list->rowCount(); ++row) {

@@ -10,6 +10,7 @@
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
+#include <QHeaderView>
 #include <QPushButton>
 #include <QScreen>
 #include <QSettings>
@@ -78,6 +79,9 @@ CompareDialog::CompareDialog(ViewController &controller, const ComparedWith &oth
     resize(m_wantedSize);
     keepOnScreen(*this);
     m_firstSize = size();
+    // With more rows than the table needs at least, unless what is said needs their room.
+    const int rows = 3 * m_table->verticalHeader()->defaultSectionSize();
+    setMinimumHeight(qMin(height(), layout()->minimumSize().height() + rows));
     showPlan();
     m_table->focusRows();
 }

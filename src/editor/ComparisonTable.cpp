@@ -18,7 +18,7 @@ namespace {
 
 constexpr int rowsMeasured = 300; // the widths of the others will not be much larger
 constexpr int lettersOfName = 12; // that tell most names apart
-constexpr int leastRows = 5;      // on show in the smallest window
+constexpr int leastRows = 2;      // on show whatever else needs room
 
 } // namespace
 

@@ -11,6 +11,7 @@
 #include <QScrollBar>
 
 #include <algorithm>
+#include <utility>
 
 namespace quillet {
 
@@ -85,25 +86,28 @@ void ComparisonTable::fitColumns()
     if (m_isSizedByHand)
         return;
     QHeaderView &header = *horizontalHeader();
-    std::array names{ComparisonModel::NameHere, ComparisonModel::NameThere};
-    std::sort(names.begin(), names.end(),
-              [this](int a, int b) { return m_wanted.at(a) < m_wanted.at(b); });
-    std::array<int, ComparisonModel::columns> widths = m_wanted, least{};
-    const int telling = lettersOfName * fontMetrics().averageCharWidth();
-    for (const int column : names)
-        least.at(column) = qMax(header.sectionSizeHint(column), qMin(m_wanted.at(column), telling));
+    std::array<int, ComparisonModel::columns> widths = m_wanted;
     int left = viewport()->width();
     for (int column = 0; column < ComparisonModel::NameHere; ++column)
         left -= header.isSectionHidden(column) ? 0 : m_wanted.at(column);
+    std::array names{ComparisonModel::NameHere, ComparisonModel::NameThere};
+    const int telling = lettersOfName * fontMetrics().averageCharWidth();
+    for (const int column : names) {
+        widths.at(column) =
+            qMax(header.sectionSizeHint(column), qMin(m_wanted.at(column), telling));
+        left -= widths.at(column);
+    }
     int &difference = widths[ComparisonModel::Difference];
-    const int leftByNames = left - least.at(names.front()) - least.at(names.back());
-    difference =
-        qMin(difference, qMax(header.sectionSizeHint(ComparisonModel::Difference), leftByNames));
+    difference = qMin(difference, qMax(header.sectionSizeHint(ComparisonModel::Difference), left));
     left -= difference;
+    const auto missing = [&](int column) { return m_wanted.at(column) - widths.at(column); };
+    if (missing(names.front()) > missing(names.back()))
+        std::swap(names.front(), names.back());
     int others = names.size();
     for (const int column : names) {
-        widths.at(column) = qMin(m_wanted.at(column), qMax(least.at(column), left / others--));
-        left -= widths.at(column);
+        const int more = qMin(missing(column), qMax(0, left) / others--);
+        widths.at(column) += more;
+        left -= more;
     }
     if (left > 0) {
         widths[ComparisonModel::NameHere] += left / 2;

@@ -136,11 +136,12 @@ void ComparisonTable::focusRows()
     setFocus();
     if (selectionModel()->hasSelection() || m_model.rowCount() == 0)
         return;
-    const int row = qMax(0, currentIndex().row());
-    goToRow(row);
     // To the name: a mark need not be there, and says nothing of the station.
-    selectionModel()->setCurrentIndex(m_model.index(row, ComparisonModel::NameHere),
-                                      QItemSelectionModel::NoUpdate);
+    const QModelIndex name =
+        m_model.index(qMax(0, currentIndex().row()), ComparisonModel::NameHere);
+    selectionModel()->setCurrentIndex(name, QItemSelectionModel::NoUpdate);
+    goToRow(name.row());
+    selectionModel()->setCurrentIndex(name, QItemSelectionModel::NoUpdate);
 }
 
 QString ComparisonTable::currentMark() const

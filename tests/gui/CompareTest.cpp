@@ -102,6 +102,7 @@ private slots:
         QDialog *dialog = shown(*window);
         QVERIFY(dialog && dialog->isModal());
         QCOMPARE(part<QTableView>(*dialog, "compareTable").model()->rowCount(), 4);
+        QVERIFY(part<QTableView>(*dialog, "compareTable").selectionModel()->isRowSelected(0));
         QCOMPARE(cell(*window, 0, 1), u"Station 1"_s);
         app.preset.answerAlert(label("kOK"));
         QVERIFY(part<QPushButton>(*dialog, "compareApply").isDefault());

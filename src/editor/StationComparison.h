@@ -32,7 +32,6 @@ public:
     [[nodiscard]] Purpose purpose() const { return m_other.purpose; }
 
     // What is on show
-
     [[nodiscard]] std::size_t rowCount() const { return m_shown.size(); }
     [[nodiscard]] const ComparisonRow &row(std::size_t row) const { return m_rows[m_shown[row]]; }
     /// Of the list chosen, whatever is searched for.
@@ -52,7 +51,6 @@ public:
     void showList(const std::optional<List> &list);
 
     // What is to be taken over
-
     [[nodiscard]] bool canBeChecked(std::size_t row) const;
     [[nodiscard]] bool isChecked(std::size_t row) const;
     void check(const std::vector<std::size_t> &rows, bool isChecked);
@@ -63,13 +61,13 @@ public:
     /// Why nothing of that kind can be taken over; empty when something can.
     [[nodiscard]] QString reasonAgainst(StationDifference aspect) const;
 
-    /// Rows of the list chosen that are unchecked because they are not sure, or of another list. Of
-    /// a comparison of lists, those with something to be taken over.
+    /// Rows of the list chosen that are unchecked because they are not sure, or of another list; of
+    /// another channel list, those alone that tell something to be taken over.
     [[nodiscard]] std::size_t uncheckedUnsure() const;
     /// Checked rows of the list chosen that tell something to be taken over, or a station to be
     /// moved, and are not on show.
     [[nodiscard]] std::size_t checkedHidden() const;
-    /// How many of the numbers that stations take are told of several stations of a list.
+    /// How many numbers that stations take are told of several stations of a list.
     [[nodiscard]] std::size_t doubledNumbers() const;
     using Parts = TakeOverChoice::Parts;
     /// What taking over all checked rows of the list chosen would do.
@@ -80,8 +78,8 @@ public:
     void takeOver(const std::vector<std::size_t> &rows);
     /// The checked stations, in the order of the other list.
     [[nodiscard]] StationList checkedStations() const;
-    /// Whether the rows are what comparing would find now; names that were read since may make a
-    /// difference for a reference list. If not, they are shown anew.
+    /// Whether the rows are what comparing would find now, with names that were read since. If not,
+    /// they are shown anew.
     bool isStillSo();
     /// Applies the reference list that the rows show.
     void applyOrder();

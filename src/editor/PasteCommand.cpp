@@ -1,5 +1,7 @@
 #include "editor/PasteCommand.h"
 
+#include "document/compare/UnkeptNames.h"
+
 #include <QSet>
 
 #include <algorithm>
@@ -21,9 +23,17 @@ StationPtr PasteCommand::place() const
     return selected.empty() ? nullptr : selected.front();
 }
 
+std::optional<PastedStations> PasteCommand::read(const QMimeData &data) const
+{
+    const StationListPtr &list = m_table.stationDoc()->stations();
+    const UnkeptNames names(*list);
+    return pastedStations(data, *list);
+}
+
 std::optional<PasteCommand::Move> PasteCommand::plan(PastedStations &pasted) const
 {
     const StationListPtr &list = m_table.stationDoc()->stations();
+    const UnkeptNames names(*list);
     pasted.known = completeRows(pasted.rows, *list).pairs;
     StationList found(pasted.rows.stations.size());
     const auto pairs = pairStations(*list, pasted.rows.stations, pasted.known);

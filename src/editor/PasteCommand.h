@@ -21,6 +21,10 @@ public:
     /// something could be.
     [[nodiscard]] QString reasonAgainst() const;
 
+    /// What a clipboard tells. None when it tells no stations; not to be asked for when something
+    /// is against pasting.
+    [[nodiscard]] std::optional<PastedStations> read(const QMimeData &data) const;
+
     struct Move
     {
         StationList stations; ///< of the list on show, in the order of the rows

@@ -1,6 +1,7 @@
 #include "editor/StationClipboard.h"
 
 #include "document/text/HtmlTable.h"
+#include "document/text/NamedRows.h"
 #include "document/text/StationKey.h"
 #include "editor/ColumnTitles.h"
 #include "editor/StationCells.h"
@@ -83,27 +84,45 @@ bool areTitles(const SeparatedRow &first, const SeparatedTable &table, const Row
             }));
 }
 
-/// What other programs copy may have titles or not.
-std::optional<PastedStations> readRows(const QString &text)
+/// None without rows.
+std::optional<PastedStations> pastedOf(StationRows rows, const SeparatedTable &table,
+                                       const RowTitles &titles)
 {
-    TextFault fault;
-    const auto table = readSeparatedText(text, fault);
-    if (!table)
+    if (rows.stations.empty())
         return {};
-    const RowTitles titles = titlesFor(*table);
-    if (hasTitles(*table, titles)) {
-        if (auto rows = stationRows(*table, titles, fault))
-            return PastedStations{std::move(*rows)};
-    }
-    PastedStations pasted{stationRowsWithoutTitles(*table)};
-    if (pasted.rows.stations.empty())
-        return {};
-    const auto first = std::find_if(table->rows.begin(), table->rows.end(), hasText);
-    pasted.unread = static_cast<std::size_t>(std::count_if(first, table->rows.end(), hasText)) -
+    PastedStations pasted{std::move(rows)};
+    const auto first = std::find_if(table.rows.begin(), table.rows.end(), hasText);
+    pasted.unread = static_cast<std::size_t>(std::count_if(first, table.rows.end(), hasText)) -
                     pasted.rows.stations.size();
-    if (pasted.rows.lines.front() > first->front().line && areTitles(*first, *table, titles))
+    if (pasted.rows.lines.front() > first->front().line && areTitles(*first, table, titles))
         --pasted.unread;
     return pasted;
+}
+
+/// What other programs copy may have titles or not.
+std::optional<PastedStations> readRows(const SeparatedTable &table, const RowTitles &titles)
+{
+    TextFault fault;
+    if (hasTitles(table, titles)) {
+        if (auto rows = stationRows(table, titles, fault))
+            return PastedStations{std::move(*rows)};
+    }
+    return pastedOf(stationRowsWithoutTitles(table), table, titles);
+}
+
+/// What looks like a separator may be of the names: then the lines have more of these.
+std::optional<PastedStations> readNames(const QString &text, const SeparatedTable &table,
+                                        const RowTitles &titles, const StationList &list)
+{
+    NamedRows named = namedRows(table, titles, list);
+    TextFault fault;
+    if (const auto lines = readSeparatedText(text, fault, u'\t');
+        lines && table.separator != u'\t') {
+        NamedRows ofLines = namedRows(*lines, titles, list);
+        if (ofLines.known >= named.known)
+            return pastedOf(std::move(ofLines.rows), *lines, titles);
+    }
+    return pastedOf(std::move(named.rows), table, titles);
 }
 
 } // namespace
@@ -137,11 +156,18 @@ bool mayHoldStations(const QMimeData &data)
     return data.hasFormat(rowsFormat) || data.hasText();
 }
 
-std::optional<PastedStations> pastedStations(const QMimeData &data)
+std::optional<PastedStations> pastedStations(const QMimeData &data, const StationList &list)
 {
-    const QString text =
-        data.hasFormat(rowsFormat) ? QString::fromUtf8(data.data(rowsFormat)) : data.text();
-    return text.size() > longestText ? std::nullopt : readRows(text);
+    const bool isOwn = data.hasFormat(rowsFormat);
+    const QString text = isOwn ? QString::fromUtf8(data.data(rowsFormat)) : data.text();
+    TextFault fault;
+    const auto table = text.size() > longestText ? std::nullopt : readSeparatedText(text, fault);
+    if (!table)
+        return {};
+    const RowTitles titles = titlesFor(*table);
+    if (auto pasted = readRows(*table, titles); pasted || isOwn)
+        return pasted;
+    return readNames(text, *table, titles, list);
 }
 
 } // namespace quillet

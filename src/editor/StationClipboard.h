@@ -27,11 +27,12 @@ class TableController;
 struct PastedStations
 {
     StationRows rows;
-    std::size_t unread = 0; ///< rows beside them, without anything that finds a station
+    std::size_t unread = 0; ///< rows beside them, in which nothing was found to go by
     KnownPairs known = {};  ///< once they were looked for in a list
 };
-/// The stations that it tells, by rows that were copied here or that another program has. None when
-/// it tells none, or is more than any list.
-[[nodiscard]] std::optional<PastedStations> pastedStations(const QMimeData &data);
+/// The stations that it tells, by rows that were copied here or that another program has; by names
+/// alone where that list has one of them. None when it tells none, or is more than any list.
+[[nodiscard]] std::optional<PastedStations> pastedStations(const QMimeData &data,
+                                                           const StationList &list);
 
 } // namespace quillet

@@ -274,7 +274,7 @@ void ViewController::paste(const QMimeData &data)
         return;
     if (const QString reason = m_pasting.reasonAgainst(); !reason.isEmpty())
         return outlets().tell(reason);
-    std::optional<PastedStations> pasted = pastedStations(data);
+    std::optional<PastedStations> pasted = m_pasting.read(data);
     if (!pasted)
         return outlets().tell(qtTrId("kTipNothingToPaste"));
     if (const auto move = m_pasting.plan(*pasted))

@@ -1,5 +1,6 @@
 #include "EditorFixture.h"
 
+#include "document/compare/StationIdentity.h"
 #include "document/text/StationKey.h"
 #include "editor/StationClipboard.h"
 #include "testing/TestMain.h"
@@ -132,19 +133,23 @@ private slots:
     void doubtfulRowsAreShownFirst_data()
     {
         QTest::addColumn<QString>("text");
-        QTest::addColumn<int>("rows");
+        QTest::addColumn<QString>("names"); // of the rows' stations
         QTest::addColumn<bool>("hasRemark");
-        QTest::newRow("fits nothing") << u"1-10-3\n1-10-99"_s << 2 << false;
-        QTest::newRow("of another list") << u"1-10-3\n1-10-77"_s << 2 << false;
-        QTest::newRow("twice the same") << u"n1-t10-s3\nn1-t10-s3"_s << 2 << false;
-        QTest::newRow("name above") << u"B\n1-10-3"_s << 1 << true;
-        QTest::newRow("name above, apart") << u"\t\nB\n1\t1-10-3"_s << 1 << true;
-        QTest::newRow("another row among them") << u"1-10-3\tC\nB\n1-10-1\tA"_s << 2 << true;
+        QTest::newRow("fits nothing") << u"1-10-3\n1-10-99"_s << u"C|"_s << false;
+        QTest::newRow("of another list") << u"1-10-3\n1-10-77"_s << u"C|"_s << false;
+        QTest::newRow("twice the same") << u"n1-t10-s3\nn1-t10-s3"_s << u"C|C"_s << false;
+        QTest::newRow("name above") << u"B\n1-10-3"_s << u"C"_s << true;
+        QTest::newRow("name above, apart") << u"\t\nB\n1\t1-10-3"_s << u"C"_s << true;
+        QTest::newRow("another row among them") << u"1-10-3\tC\nB\n1-10-1\tA"_s << u"C|A"_s << true;
+        QTest::newRow("names, as they are copied")
+            << u"3\tC\t\n1\tG, late\tHD\n"_s << u"C|G, late"_s << false;
+        QTest::newRow("names under a title")
+            << u"progName\nH, late\nc\n"_s << u"H, late|c"_s << false;
+        QTest::newRow("names between commas") << u"7,C,HD\n8,,\n9,A,"_s << u"C|A"_s << true;
     }
     void doubtfulRowsAreShownFirst()
     {
         QFETCH(QString, text);
-        QFETCH(int, rows);
         QFETCH(bool, hasRemark);
         Editor editor(sixStations());
         editor.clickSegment(static_cast<int>(StationSource::Cable));
@@ -162,7 +167,10 @@ private slots:
         QCOMPARE(editor.rows(), before);
         QCOMPARE(shown.purpose, ComparedWith::Purpose::Paste);
         QCOMPARE(int(editor.document.stations()->size()), 6);
-        QCOMPARE(int(shown.lists.list(true, 0)->size()), rows);
+        QStringList names;
+        for (const StationPtr &row : *shown.lists.list(true, 0))
+            names.append(toldName(*row));
+        QTEST(names.join(u'|'), "names");
         QCOMPARE(!shown.remark.isEmpty(), hasRemark);
 
         // What is chosen there goes to where the selection was; what is elsewhere stays there.

@@ -104,4 +104,12 @@ bool RowReading::take(RowField field, const QString &text, TextFault::Kind &kind
     return true;
 }
 
+void RowReading::addTo(StationRows &rows, qsizetype line) const
+{
+    rows.stations.push_back(m_station);
+    rows.told.push_back(m_told);
+    rows.lines.push_back(line);
+    rows.keys.push_back(m_key ? std::optional(m_key->text()) : std::nullopt);
+}
+
 } // namespace quillet

@@ -19,9 +19,9 @@ public:
     bool take(RowField field, const QString &text, TextFault::Kind &kind);
     void takeKey(const StationKey &key);
 
-    [[nodiscard]] const StationPtr &station() const { return m_station; }
     [[nodiscard]] StationDifferences told() const { return m_told; }
-    [[nodiscard]] const std::optional<StationKey> &key() const { return m_key; }
+    /// Makes it the last of those rows. `line` is where it begins.
+    void addTo(StationRows &rows, qsizetype line) const;
 
 private:
     bool takeNumber(const QString &text);

@@ -142,14 +142,6 @@ std::vector<bool> columnsOfSetMarks(const SeparatedTable &table, const Columns &
     return anySet;
 }
 
-void add(StationRows &rows, const RowReading &row, qsizetype line)
-{
-    rows.stations.push_back(row.station());
-    rows.told.push_back(row.told());
-    rows.lines.push_back(line);
-    rows.keys.push_back(row.key() ? std::optional(row.key()->text()) : std::nullopt);
-}
-
 /// Only what is told and differs is changed, so that everything else stays as it is in the file.
 StationPtr completed(const LGStation &row, StationDifferences told, const LGStation &station)
 {
@@ -211,7 +203,7 @@ std::optional<StationRows> stationRows(const SeparatedTable &table, const RowTit
         RowReading reading(rows.stations.size());
         if (!readRow(*row, *head, rows.columns, emptyIsUnset, reading, fault))
             return {};
-        add(rows, reading, row->front().line);
+        reading.addTo(rows, row->front().line);
     }
     if (rows.stations.empty()) {
         fault = {TextFault::Kind::NoRows, head->front().line, head->front().column, {}};
@@ -231,7 +223,7 @@ StationRows stationRowsWithoutTitles(const SeparatedTable &table)
                 continue;
             RowReading reading(rows.stations.size());
             reading.takeKey(*key);
-            add(rows, reading, row.front().line);
+            reading.addTo(rows, row.front().line);
             break;
         }
     }

@@ -17,7 +17,9 @@ namespace {
 const QString rowsFormat = QStringLiteral("application/x-quillet-stations");
 const QString keyTitle = QStringLiteral("stationKey");
 
-/// More than the rows of any list: what is longer is something else.
+const QString textFormat = QStringLiteral("text/plain");
+
+/// More than the rows of any list, in bytes: what is longer is something else.
 constexpr qsizetype longestText = 32 * 1024 * 1024;
 
 /// A line of a text, without what no text has.
@@ -153,15 +155,18 @@ std::unique_ptr<QMimeData> copiedStations(const TableController &table, const St
 
 bool mayHoldStations(const QMimeData &data)
 {
-    return data.hasFormat(rowsFormat) || data.hasText();
+    return data.hasFormat(rowsFormat) || data.hasFormat(textFormat);
 }
 
 std::optional<PastedStations> pastedStations(const QMimeData &data, const StationList &list)
 {
     const bool isOwn = data.hasFormat(rowsFormat);
-    const QString text = isOwn ? QString::fromUtf8(data.data(rowsFormat)) : data.text();
+    const QByteArray bytes = data.data(isOwn ? rowsFormat : textFormat); // text comes as UTF-8
+    if (bytes.size() > longestText)
+        return {};
+    const QString text = QString::fromUtf8(bytes);
     TextFault fault;
-    const auto table = text.size() > longestText ? std::nullopt : readSeparatedText(text, fault);
+    const auto table = readSeparatedText(text, fault);
     if (!table)
         return {};
     const RowTitles titles = titlesFor(*table);

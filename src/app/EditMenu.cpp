@@ -2,6 +2,7 @@
 
 #include "app/LGWindowController.h"
 #include "document/TLLDocument.h"
+#include "editor/EditorClipboard.h"
 #include "editor/EditorView.h"
 
 #include <QMenu>
@@ -68,7 +69,7 @@ EditMenu::EditMenu(LGWindowController &window, QMenuBar &bar, QObject *parent)
     QMenu &menu = *bar.addMenu(qtTrId("kMenuEdit"));
     menu.setObjectName(QStringLiteral("editMenu"));
     menu.setToolTipsVisible(true);
-    connect(&menu, &QMenu::aboutToShow, &m_editor, &EditorView::lookAtClipboard);
+    connect(&menu, &QMenu::aboutToShow, &m_editor.clipboard(), &EditorClipboard::look);
     connect(&menu, &QMenu::aboutToShow, this, qOverload<>(&EditMenu::validate));
     addUndo(menu);
     menu.addSeparator();
@@ -165,10 +166,12 @@ void EditMenu::addFlags(QMenu &menu)
         renameReason));
     m_contextActions.append(add(
         menu, {"kMenuCopy", "copy", {QKeySequence::Copy}, nullptr, true},
-        [this] { m_editor.copy(); }, [this] { return m_editor.reasonAgainstCopying(); }));
+        [this] { m_editor.clipboard().copy(); },
+        [this] { return m_editor.clipboard().reasonAgainstCopying(); }));
     m_contextActions.append(add(
         menu, {"kMenuPaste", "paste", {QKeySequence::Paste}, nullptr, true},
-        [this] { m_editor.paste(); }, [this] { return m_editor.reasonAgainstPasting(); }));
+        [this] { m_editor.clipboard().paste(); },
+        [this] { return m_editor.clipboard().reasonAgainstPasting(); }));
     m_contextActions.append(add(
         menu, {"kMenuInfo", "showInfo", {Qt::CTRL | Qt::Key_I}}, [this] { m_editor.showInfo(); },
         infoReason));

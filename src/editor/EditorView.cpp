@@ -3,43 +3,22 @@
 #include "editor/ArrangeDialog.h"
 #include "editor/ColumnsMenu.h"
 #include "editor/CompareDialog.h"
+#include "editor/EditorClipboard.h"
+#include "editor/EditorControls.h"
 #include "editor/EditorKeys.h"
 #include "editor/EditorLayout.h"
 #include "editor/EmptyDocText.h"
 #include "editor/ExportDialog.h"
 #include "editor/InfoViewController.h"
-#include "editor/ShownTexts.h"
-#include "editor/SourceTitles.h"
-#include "editor/StationClipboard.h"
-#include "editor/StationHeader.h"
 #include "editor/TableColumns.h"
 #include "editor/TableSelection.h"
 #include "ui_EditorView.h"
 
-#include <QApplication>
-#include <QClipboard>
 #include <QDropEvent>
 #include <QItemSelectionModel>
-#include <QLineEdit>
 #include <QMenu>
 
-#include <utility>
-#include <vector>
-
 namespace quillet {
-
-namespace {
-
-/// The label takes the room it needs, and the window with it.
-constexpr qsizetype longestDeviceName = 30;
-
-/// What text is being typed into.
-QLineEdit *fieldInFocus()
-{
-    return qobject_cast<QLineEdit *>(QApplication::focusWidget());
-}
-
-} // namespace
 
 EditorView::EditorView(QWidget *parent)
     : QWidget(parent), m_ui(std::make_unique<Ui::EditorView>()), m_controller(*this),
@@ -47,7 +26,7 @@ EditorView::EditorView(QWidget *parent)
 {
     m_ui->setupUi(this);
     foldRows(*m_ui);
-    setUpControls();
+    setUpControls(*m_ui);
     setUpTable();
     sizeControls(*m_ui, font());
     connectControls();
@@ -56,29 +35,6 @@ EditorView::EditorView(QWidget *parent)
 }
 
 EditorView::~EditorView() = default;
-
-void EditorView::setUpControls()
-{
-    QStringList titles;
-    for (const StationSource source : stationSources)
-        titles.append(sourceTitle(static_cast<int>(source)));
-    m_ui->sourceSegmentControl->setSegments(titles);
-    QWidget *before = m_ui->radioButton;
-    for (int i = 0; i < titles.size(); ++i) {
-        setTabOrder(before, m_ui->sourceSegmentControl->segment(i));
-        before = m_ui->sourceSegmentControl->segment(i);
-    }
-    if (auto *clear = m_ui->searchText->findChild<QAbstractButton *>()) {
-        clear->setAccessibleName(qtTrId("kClearSearch"));
-        clear->setToolTip(qtTrId("kClearSearch"));
-    }
-    m_ui->foreignRowsBar->setClosable(false);
-    m_ui->foreignRowsBar->setTabOrderAfter(*m_ui->filterPop);
-    m_ui->fileBar->setTabOrderAfter(*m_ui->filterPop);
-    m_ui->noticeBar->setTabOrderAfter(*m_ui->filterPop);
-    for (int tag = 0; tag < typeFilterCount; ++tag)
-        m_ui->filterPop->addItem(typeFilterTitle(tag), tag);
-}
 
 void EditorView::setUpTable()
 {
@@ -93,6 +49,7 @@ void EditorView::setUpTable()
     m_emptyDocText = new EmptyDocText(list.viewport());
     m_keys = std::make_unique<EditorKeys>(list, *m_ui->searchText, *m_ui->filterPop, m_controller);
     m_cells = std::make_unique<CellEditing>(list, m_controller);
+    m_clipboard = std::make_unique<EditorClipboard>(list, *this, m_controller);
 }
 
 void EditorView::connectControls()
@@ -139,10 +96,7 @@ void EditorView::connectControls()
     connect(&m_controller, &ViewController::stateChanged, m_ui->fillGapsButton,
             [this] { m_ui->fillGapsButton->setChecked(m_controller.fillGaps()); });
     connect(m_ui->list, &DarkModeTableView::editingChanged, this, &EditorView::stateChanged);
-    connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, [this] {
-        if (!std::exchange(m_mayPaste, true)) // not looked at now: its program may not answer
-            emit stateChanged();
-    });
+    connect(m_clipboard.get(), &EditorClipboard::stateChanged, this, &EditorView::stateChanged);
     connect(m_emptyDocText, &EmptyDocText::openRequested, this, &EditorView::openRequested);
     connect(m_emptyDocText, &EmptyDocText::tvRequested, &m_controller,
             &ViewController::useTVClicked);
@@ -166,53 +120,6 @@ void EditorView::goToStep(int step)
 {
     commitEditing();
     m_controller.undoing().goToStep(step);
-}
-
-std::vector<ColumnContent> EditorView::shownColumns() const
-{
-    const auto &header = static_cast<const StationHeader &>(*m_ui->list->horizontalHeader());
-    std::vector<ColumnContent> columns;
-    for (const int column : header.shownColumns())
-        columns.push_back(stationColumns.at(static_cast<std::size_t>(column)).content);
-    return columns;
-}
-
-void EditorView::copy()
-{
-    if (const auto *field = fieldInFocus())
-        return field->copy();
-    const StationList selected = m_controller.shown().stationsAt(selectedRows());
-    if (selected.empty())
-        return; // what is on the clipboard stays there
-    QGuiApplication::clipboard()->setMimeData(
-        copiedStations(m_controller, selected, shownColumns()).release());
-}
-
-QString EditorView::reasonAgainstCopying() const
-{
-    return fieldInFocus() || !selectedRows().isEmpty() ? QString() : qtTrId("kTipSelectFirst");
-}
-
-void EditorView::paste()
-{
-    if (auto *field = fieldInFocus())
-        field->paste();
-    else if (const QMimeData *held = QGuiApplication::clipboard()->mimeData())
-        m_controller.paste(*held);
-}
-
-QString EditorView::reasonAgainstPasting() const
-{
-    if (fieldInFocus())
-        return {};
-    const QString reason = m_controller.pasting().reasonAgainst();
-    return reason.isEmpty() && !m_mayPaste ? qtTrId("kTipNothingToPaste") : reason;
-}
-
-void EditorView::lookAtClipboard()
-{
-    const QMimeData *held = QGuiApplication::clipboard()->mimeData();
-    m_mayPaste = held && mayHoldStations(*held);
 }
 
 void EditorView::findNext(bool isForward)
@@ -280,7 +187,7 @@ void EditorView::setContextActions(const QList<QAction *> &actions)
 /// Unlike the one that a widget makes of its actions, it says why a command is disabled.
 void EditorView::showContextMenu(const QPoint &place)
 {
-    lookAtClipboard();
+    m_clipboard->look();
     emit stateChanged();
     auto *menu = new QMenu(this);
     menu->setObjectName(QStringLiteral("tableMenu"));
@@ -302,54 +209,17 @@ void EditorView::printList(PrintForm form)
 
 void EditorView::exportList()
 {
-    askToExport(m_controller, shownColumns(), sheetWindow());
+    askToExport(m_controller, shownColumns(*m_ui->list), sheetWindow());
 }
 
 void EditorView::setText(Field field, const QString &text)
 {
-    switch (field) {
-    case Field::FileName:
-        m_ui->fileName->setText(text);
-        break;
-    case Field::DeviceName:
-        m_ui->deviceName->setText(shortened(cleanName(text), longestDeviceName));
-        break;
-    case Field::StationCount:
-        m_ui->stationCount->setText(text);
-        break;
-    case Field::Matches:
-        m_ui->matches->setText(text);
-        break;
-    }
+    quillet::setText(*m_ui, field, text);
 }
 
 void EditorView::setEnabled(Control control, bool enabled)
 {
-    const QString noStations = enabled ? QString() : qtTrId("kTipNoStations");
-    switch (control) {
-    case Control::MoveToButton:
-        m_ui->moveToButton->setEnabled(enabled);
-        m_ui->moveToButton->setToolTip(enabled ? qtTrId("kMoveToTip") : qtTrId("kTipSelectFirst"));
-        break;
-    case Control::InfoButton:
-        m_ui->infoButton->setEnabled(enabled);
-        m_ui->infoButton->setToolTip(enabled ? qtTrId("kInfoTip") : qtTrId("kTipSelectFirst"));
-        break;
-    case Control::ApplyButton:
-        m_ui->applyButton->setEnabled(enabled);
-        m_ui->applyButton->setToolTip(enabled ? qtTrId("kApplyOrderTip") : noStations);
-        break;
-    case Control::ModeButtons:
-        m_ui->tvButton->setEnabled(enabled);
-        m_ui->radioButton->setEnabled(enabled);
-        m_ui->tvButton->setToolTip(noStations);
-        m_ui->radioButton->setToolTip(noStations);
-        break;
-    case Control::FilterPop:
-        m_ui->filterPop->setEnabled(enabled);
-        m_ui->filterPop->setToolTip(enabled ? QString() : qtTrId("kTipFilterTVOnly"));
-        break;
-    }
+    quillet::setEnabled(*m_ui, control, enabled);
 }
 
 bool EditorView::tvButtonIsOn() const
@@ -365,9 +235,7 @@ void EditorView::setTVButtonOn(bool on)
 
 void EditorView::setSegmentEnabled(int segment, bool enabled)
 {
-    m_ui->sourceSegmentControl->setSegmentEnabled(segment, enabled);
-    m_ui->sourceSegmentControl->setSegmentToolTip(
-        segment, enabled ? QString() : qtTrId("kTipNoStationsInSource"));
+    quillet::setSegmentEnabled(*m_ui, segment, enabled);
 }
 
 void EditorView::selectSegment(int segment)
@@ -459,33 +327,17 @@ void EditorView::showEmptyHint(EmptyHint hint)
 
 void EditorView::showForeignRows(const std::optional<ForeignRows> &rows)
 {
-    if (!rows)
-        return m_ui->foreignRowsBar->dismiss();
-    m_ui->foreignRowsBar->showNotice(
-        NoticeBar::Kind::Information,
-        qtTrId("kForeignRows").arg(sourceTitle(rows->source), sourceTitle(rows->currentSource)),
-        qtTrId("kClearFilters"));
+    quillet::showForeignRows(*m_ui, rows);
 }
 
 void EditorView::showNotice(const Notice &notice)
 {
-    if (notice.text.isEmpty())
-        m_ui->noticeBar->dismiss();
-    else
-        m_ui->noticeBar->showNotice(
-            notice.isWarning ? NoticeBar::Kind::Warning : NoticeBar::Kind::Information, notice.text,
-            notice.offersRepair ? qtTrId("kOpenRepairedCopy") : QString());
+    quillet::showNotice(*m_ui, notice);
 }
 
 void EditorView::showFileNotice(const FileNotice &notice)
 {
-    if (notice.text.isEmpty())
-        m_ui->fileBar->dismiss();
-    else if (notice.offersReload)
-        m_ui->fileBar->showNotice(NoticeBar::Kind::Warning, notice.text, qtTrId("kReload"),
-                                  qtTrId("kKeepMine"));
-    else
-        m_ui->fileBar->showNotice(NoticeBar::Kind::Warning, notice.text, qtTrId("kSaveAs"));
+    quillet::showFileNotice(*m_ui, notice);
 }
 
 QWidget *EditorView::sheetWindow() const

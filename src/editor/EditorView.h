@@ -21,6 +21,7 @@ class EditorView;
 namespace quillet {
 
 class ColumnsMenu;
+class EditorClipboard;
 class EditorKeys;
 class EmptyDocText;
 class InfoViewController;
@@ -48,19 +49,8 @@ public:
     [[nodiscard]] QString reasonAgainstRenaming() const { return m_cells->reasonAgainstRenaming(); }
     void renameSelected() { m_cells->rename(); }
     void askToArrange();
-    /// Puts the selected stations on the clipboard; of a field that has the focus, its selected
-    /// text instead.
-    void copy();
-    /// Why it would do nothing; empty when it would do something.
-    [[nodiscard]] QString reasonAgainstCopying() const;
-    /// Moves the stations that are on the clipboard here; into a field that has the focus, its text
-    /// goes instead.
-    void paste();
-    /// Why it would do nothing, as far as was seen at the last look; empty when it would do
-    /// something.
-    [[nodiscard]] QString reasonAgainstPasting() const;
-    /// Looks what the clipboard has, which may mean to wait for the program that has put it there.
-    void lookAtClipboard();
+    /// Copying and pasting.
+    [[nodiscard]] EditorClipboard &clipboard() const { return *m_clipboard; }
     void findNext(bool isForward);
     /// Asks where to print, then prints the rows shown.
     void printList(PrintForm form);
@@ -118,12 +108,9 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    void setUpControls();
     void setUpTable();
     void connectControls();
     void showContextMenu(const QPoint &place);
-    /// In their order on the screen.
-    [[nodiscard]] std::vector<ColumnContent> shownColumns() const;
 
     std::unique_ptr<Ui::EditorView> m_ui;
     ViewController m_controller;
@@ -132,11 +119,11 @@ private:
     ColumnsMenu *m_columnsMenu;
     std::unique_ptr<EditorKeys> m_keys;
     std::unique_ptr<CellEditing> m_cells;
+    std::unique_ptr<EditorClipboard> m_clipboard;
     QList<QAction *> m_contextActions;
     /// None once they may be others: commands are validated by them again and again.
     mutable std::optional<QList<qsizetype>> m_selectedRows;
     QPointer<InfoViewController> m_infoPanel;
-    bool m_mayPaste = true; ///< until a look at the clipboard says otherwise
 };
 
 } // namespace quillet

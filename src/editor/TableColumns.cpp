@@ -4,7 +4,7 @@
 #include "editor/CheckMarkDelegate.h"
 #include "editor/GlyphDelegate.h"
 #include "editor/NumberDelegate.h"
-#include "editor/StationColumns.h"
+#include "editor/StationHeader.h"
 #include "editor/TypedTextDelegate.h"
 
 #include <QHeaderView>
@@ -39,6 +39,15 @@ void setUpColumns(QTableView &table)
         const auto column = static_cast<int>(i);
         table.setItemDelegateForColumn(column, delegateFor(stationColumns[i].content));
     }
+}
+
+std::vector<ColumnContent> shownColumns(const QTableView &table)
+{
+    const auto &header = static_cast<const StationHeader &>(*table.horizontalHeader());
+    std::vector<ColumnContent> columns;
+    for (const int column : header.shownColumns())
+        columns.push_back(stationColumns.at(static_cast<std::size_t>(column)).content);
+    return columns;
 }
 
 void sizeRows(QTableView &table, const QFontMetrics &metrics)

@@ -1,5 +1,9 @@
 #pragma once
 
+#include "editor/StationColumns.h"
+
+#include <vector>
+
 class QFontMetrics;
 class QTableView;
 
@@ -8,6 +12,8 @@ namespace quillet {
 
 /// Gives each column the delegate that its content needs.
 void setUpColumns(QTableView &table);
+/// The columns on show, in the order in which they are read.
+[[nodiscard]] std::vector<ColumnContent> shownColumns(const QTableView &table);
 /// Gives rows and titles the height that the font needs.
 void sizeRows(QTableView &table, const QFontMetrics &metrics);
 

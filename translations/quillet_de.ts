@@ -2377,6 +2377,10 @@ Diese folgen ab Nummer: %3</translation>
             <numerusform>%n Sender nach oben verschoben</numerusform>
         </translation>
     </message>
+    <message id="kToldNotExported">
+        <source></source>
+        <translation>Nichts geschrieben: Zu dieser Liste ist noch eine Frage offen</translation>
+    </message>
     <message id="kToldNotFound">
         <source></source>
         <translation>Kein Sender der Liste hat „%1“ im Namen</translation>

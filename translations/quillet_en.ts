@@ -2377,6 +2377,10 @@ These go on from number: %3</translation>
             <numerusform>%n stations moved up</numerusform>
         </translation>
     </message>
+    <message id="kToldNotExported">
+        <source></source>
+        <translation>Nothing was written: a question about this list is still open</translation>
+    </message>
     <message id="kToldNotFound">
         <source></source>
         <translation>No station in the list has “%1” in its name</translation>

@@ -2377,6 +2377,10 @@ Estos continúan a partir del número: %3</translation>
             <numerusform>%n canales movidos hacia arriba</numerusform>
         </translation>
     </message>
+    <message id="kToldNotExported">
+        <source></source>
+        <translation>No se ha escrito nada: aún hay una pregunta abierta sobre esta lista</translation>
+    </message>
     <message id="kToldNotFound">
         <source></source>
         <translation>Ningún canal de la lista contiene «%1» en su nombre</translation>

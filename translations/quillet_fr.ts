@@ -2377,6 +2377,10 @@ Ces dernières suivent à partir du numéro : %3</translation>
             <numerusform>%n chaînes déplacées vers le haut</numerusform>
         </translation>
     </message>
+    <message id="kToldNotExported">
+        <source></source>
+        <translation>Rien n’a été écrit : une question sur cette liste est encore ouverte</translation>
+    </message>
     <message id="kToldNotFound">
         <source></source>
         <translation>Aucune chaîne de la liste ne contient « %1 » dans son nom</translation>

@@ -2377,6 +2377,10 @@ Questi proseguono dal numero: %3</translation>
             <numerusform>%n canali spostati verso l’alto</numerusform>
         </translation>
     </message>
+    <message id="kToldNotExported">
+        <source></source>
+        <translation>Nulla è stato scritto: c’è ancora una domanda aperta su questa lista</translation>
+    </message>
     <message id="kToldNotFound">
         <source></source>
         <translation>Nessun canale della lista contiene “%1” nel nome</translation>

@@ -2377,6 +2377,10 @@ Deze gaan verder vanaf nummer: %3</translation>
             <numerusform>%n zenders omhoog verplaatst</numerusform>
         </translation>
     </message>
+    <message id="kToldNotExported">
+        <source></source>
+        <translation>Niets geschreven: er staat nog een vraag over deze lijst open</translation>
+    </message>
     <message id="kToldNotFound">
         <source></source>
         <translation>Geen enkele zender in de lijst heeft “%1” in de naam</translation>

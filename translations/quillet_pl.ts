@@ -2445,6 +2445,10 @@ Te następują od numeru: %3</translation>
             <numerusform>Przeniesiono w górę %n kanałów</numerusform>
         </translation>
     </message>
+    <message id="kToldNotExported">
+        <source></source>
+        <translation>Niczego nie zapisano: pytanie dotyczące tej listy jest jeszcze otwarte</translation>
+    </message>
     <message id="kToldNotFound">
         <source></source>
         <translation>Żaden kanał na liście nie ma w nazwie „%1”</translation>

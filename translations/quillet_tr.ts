@@ -2309,6 +2309,10 @@ Bunların devam ettiği numara: %3</translation>
             <numerusform>%n kanal yukarı taşındı</numerusform>
         </translation>
     </message>
+    <message id="kToldNotExported">
+        <source></source>
+        <translation>Hiçbir şey yazılmadı: bu listeyle ilgili bir soru hâlâ açık</translation>
+    </message>
     <message id="kToldNotFound">
         <source></source>
         <translation>Listede adında “%1” geçen kanal yok</translation>

@@ -250,7 +250,7 @@ bool Document::canSaveAs() const
 void Document::exportDocument(const SavePanel &panel, const QString &typeName,
                               const DocumentSaving::Done &done)
 {
-    if (m_isAsking)
+    if (mustNotExport())
         return done(false, {});
     std::make_shared<DocumentSaving>(*this, SavePurpose::Export, typeName, done)
         ->writeToChosenPlace(panel);
@@ -259,7 +259,7 @@ void Document::exportDocument(const SavePanel &panel, const QString &typeName,
 void Document::exportBytes(const SavePanel &panel, const MadeBytes &made,
                            const DocumentSaving::Done &done)
 {
-    if (m_isAsking)
+    if (mustNotExport())
         return done(false, {});
     std::make_shared<DocumentSaving>(*this, made, done)->writeToChosenPlace(panel);
 }
@@ -267,7 +267,16 @@ void Document::exportBytes(const SavePanel &panel, const MadeBytes &made,
 void Document::exportBytesThere(const SavePanel &panel, const MadeBytes &made,
                                 const DocumentSaving::Done &done)
 {
+    if (mustNotExport())
+        return done(false, {});
     std::make_shared<DocumentSaving>(*this, made, done)->writeToSuggestedPlace(panel);
+}
+
+bool Document::mustNotExport()
+{
+    if (m_isAsking)
+        emit told(qtTrId("kToldNotExported"));
+    return m_isAsking;
 }
 
 void Document::askForPlace(const SavePanel &panel,

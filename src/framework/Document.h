@@ -136,6 +136,7 @@ public:
     [[nodiscard]] bool canSaveAs() const;
     /// Asks for a place and writes the document's bytes of that type there, by the same steps as a
     /// save. The document's own file, which is not to be chosen, and its changes stay as they are.
+    /// While another question of this document is open nothing is written, and that is told.
     void exportDocument(const SavePanel &panel, const QString &typeName,
                         const DocumentSaving::Done &done);
     /// Asks for a place and writes there what was made of the document, by the same steps.
@@ -213,6 +214,8 @@ private:
     /// `changeCount` is that of the history when the bytes were made: what was done since then is
     /// not in the file.
     void wasWritten(const FileState &written, quint64 changeCount);
+    /// Tells the person so, who may have come from a panel of their own to this.
+    [[nodiscard]] bool mustNotExport();
     void revert();
     void reload();
     /// Reads the file again and refills every window. A failure is shown and changes nothing.

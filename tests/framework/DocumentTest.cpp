@@ -533,7 +533,15 @@ private slots:
         m_document->askToClose([&second](bool may) { second = may; });
         QCOMPARE(second, std::optional<bool>(false));
         m_document->revertDocumentToSaved();
-        m_document->exportDocument({}, {}, [](bool, const Error &) {});
+        QSignalSpy told(m_document.get(), &Document::told);
+        const auto done = [](bool, const Error &) {};
+        const MadeBytes made{"made", "kToldExportedList"};
+        const SavePanel panel{{}, m_path + id("-made"), {}};
+        m_document->exportDocument({}, {}, done);
+        m_document->exportBytes({}, made, done);
+        m_document->exportBytesThere(panel, made, done);
+        QCOMPARE(told.size(), 3);
+        QVERIFY(!QFile::exists(panel.suggestedPath));
         QCOMPARE(save(), std::optional<bool>(false));
         QCOMPARE(m_prompts->alerts().size(), size_t{1});
         QVERIFY(m_prompts->savePanels().empty());

@@ -8,6 +8,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <iterator>
 
 namespace quillet {
 
@@ -55,6 +56,33 @@ struct Places
     }
 };
 
+/// Whether the record tells a number; without one it reads as if it had the highest.
+bool tellsNumber(const LGStation &record)
+{
+    if (record.getRawProgNum() != LGStation::missingProgNum)
+        return true;
+    const std::optional<Value> told = record.field(record.keys().keyProgNum);
+    const QString *text = told ? told->string() : nullptr;
+    const qint64 number = text ? text->toLongLong() : told ? told->wholeNumber().value_or(0) : 0;
+    return number == LGStation::missingProgNum;
+}
+
+/// The number from which those go on that go to the end. Stations without a number, and what stands
+/// behind these, stay behind them as far as there is room.
+qint64 lastNumber(const StationList &list, const std::vector<Placed> &placed, std::size_t following)
+{
+    const bool areAllNumbered = std::all_of(
+        list.begin(), list.end(), [](const StationPtr &station) { return tellsNumber(*station); });
+    constexpr qint64 none = LGStation::missingProgNum;
+    const auto behind =
+        std::lower_bound(placed.begin(), placed.end(), none,
+                         [](const Placed &each, qint64 number) { return each.number < number; });
+    const qint64 before = behind == placed.begin() ? 0 : std::prev(behind)->number;
+    if (!areAllNumbered && before + static_cast<qint64>(following) < none)
+        return before;
+    return placed.empty() ? 0 : placed.back().number;
+}
+
 /// The number that a station takes; none when it takes none.
 std::optional<qint64> takenNumber(const TakenStation *taken)
 {
@@ -87,53 +115,70 @@ void setOrder(TakeOverPlan &plan, const StationList &list, const std::vector<Pla
     }
 }
 
+/// The stations by the numbers that they get, and those whose number another one takes.
+struct Claims
+{
+    std::vector<Placed> placed;
+    std::vector<std::size_t> collided;
+};
+
+Claims claimsOf(const StationList &list, const TakenByStation &taken, const Places &places,
+                bool mayShare)
+{
+    Claims claims;
+    std::vector<Placed> takers;
+    std::vector<std::size_t> others;
+    QSet<qint64> numbersKept, numbersTaken; // as told, and anew
+    for (std::size_t at = 0; at < list.size(); ++at) {
+        if (!places.isFirst[at])
+            continue;
+        const std::optional<qint64> told = takenNumber(taken.value(list[at].get()));
+        if (!told) {
+            others.push_back(at);
+        } else if (*told != list[at]->progNum()) {
+            takers.push_back({at, *told});
+        } else {
+            numbersKept.insert(*told);
+            claims.placed.push_back({at, *told});
+        }
+    }
+    for (const Placed &taker : takers) {
+        const bool isFree =
+            !numbersKept.contains(taker.number) && !numbersTaken.contains(taker.number);
+        if (!mayShare && !isFree) {
+            others.push_back(taker.place);
+            continue;
+        }
+        numbersTaken.insert(taker.number);
+        claims.placed.push_back(taker);
+    }
+    std::sort(others.begin(), others.end());
+    for (const std::size_t at : others) {
+        if (numbersTaken.contains(list[at]->progNum()))
+            claims.collided.push_back(at);
+        else
+            claims.placed.push_back({at, list[at]->progNum()});
+    }
+    return claims;
+}
+
 void planNumbersAsGiven(TakeOverPlan &plan, const StationList &list, const TakenByStation &taken,
                         bool mayShare)
 {
     const Places places(list);
-    enum class State { Keeps, KeepsAsTold, Takes, Collided };
-    std::vector<State> states(list.size(), State::Keeps);
-    std::vector<std::optional<qint64>> told(list.size());
-    QSet<qint64> numbersKept, numbersTaken; // as told, and anew
-    std::vector<Placed> placed;
-    for (std::size_t at = 0; at < list.size(); ++at) {
-        if (places.isFirst[at])
-            told[at] = takenNumber(taken.value(list[at].get()));
-        if (told[at] != list[at]->progNum())
-            continue;
-        states[at] = State::KeepsAsTold;
-        numbersKept.insert(*told[at]);
-        placed.push_back({at, *told[at]});
-    }
-    for (std::size_t at = 0; at < list.size(); ++at) {
-        if (!told[at] || states[at] == State::KeepsAsTold)
-            continue;
-        const qint64 number = *told[at];
-        if (!mayShare && (numbersKept.contains(number) || numbersTaken.contains(number)))
-            continue;
-        states[at] = State::Takes;
-        numbersTaken.insert(number);
-        placed.push_back({at, number});
-    }
-    for (std::size_t at = 0; at < list.size(); ++at) {
-        if (!places.isFirst[at] || states[at] != State::Keeps)
-            continue;
-        const qint64 number = list[at]->progNum();
-        if (numbersTaken.contains(number))
-            states[at] = State::Collided;
-        else
-            placed.push_back({at, number});
-    }
-    std::sort(placed.begin(), placed.end(), [](const Placed &a, const Placed &b) {
-        return std::pair(a.number, a.place) < std::pair(b.number, b.place);
-    });
-    qint64 last = placed.empty() ? 0 : placed.back().number;
-    for (std::size_t at = 0; at < list.size(); ++at) {
-        if (states[at] != State::Collided)
-            continue;
+    auto [placed, collided] = claimsOf(list, taken, places, mayShare);
+    const auto sort = [](std::vector<Placed> &each) {
+        std::sort(each.begin(), each.end(), [](const Placed &a, const Placed &b) {
+            return std::pair(a.number, a.place) < std::pair(b.number, b.place);
+        });
+    };
+    sort(placed);
+    qint64 last = lastNumber(list, placed, collided.size());
+    for (const std::size_t at : collided) {
         placed.push_back({at, ++last});
         plan.toTheEnd.push_back(list[at]);
     }
+    sort(placed);
     setOrder(plan, list, placed, places);
 }
 
@@ -218,17 +263,8 @@ void findChanges(TakeOverPlan &plan, const StationList &list, NumberRule rule)
 
 std::optional<qint64> toldNumber(const LGStation &record)
 {
-    if (record.getRawProgNum() == LGStation::missingProgNum) {
-        const std::optional<Value> told = record.field(record.keys().keyProgNum);
-        const QString *text = told ? told->string() : nullptr;
-        const qint64 number = text   ? text->toLongLong()
-                              : told ? told->wholeNumber().value_or(0)
-                                     : 0;
-        if (number != LGStation::missingProgNum)
-            return {};
-    }
     const qint64 number = record.progNum();
-    return number > 0 ? std::optional(number) : std::nullopt;
+    return number > 0 && tellsNumber(record) ? std::optional(number) : std::nullopt;
 }
 
 std::size_t TakeOverPlan::beyond() const

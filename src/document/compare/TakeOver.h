@@ -60,10 +60,11 @@ struct TakeOverPlan
 /// records of one station the first counts.
 ///
 /// AsGiven and AsThere: a station whose number another one takes, and who takes none, goes to the
-/// end of the list. There they keep their order, numbered on from the highest number. The others
-/// keep their numbers, even where several have one, and the list stands in the order of its numbers
-/// then. AsGiven the second station that is told a number takes none, and so does one that is told
-/// the number that its holder is told as well. A record without number gives none.
+/// end of the list. There they keep their order, numbered on from the highest number, but before
+/// stations without one while there is room. The others keep their numbers, even where several have
+/// one, and the list stands in the order of its numbers then. AsGiven the second station that is
+/// told a number takes none, and so does one that is told the number that its holder is told as
+/// well. A record without number gives none.
 ///
 /// ByRows: the others keep numbers and places.
 ///

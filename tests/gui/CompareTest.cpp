@@ -1,5 +1,10 @@
 #include "AppFixture.h"
 
+#include "app/Translations.h"
+#include "document/TLLDocument.h"
+#include "editor/EditorView.h"
+#include "editor/ListExport.h"
+#include "editor/ListImport.h"
 #include "testing/TestMain.h"
 
 #include <QAction>
@@ -89,6 +94,35 @@ private slots:
         QTest::keyClick(&table, Qt::Key_Escape);
         QTRY_VERIFY(!window->findChild<QDialog *>(u"compareDialog"_s));
         QCOMPARE(QSettings().value(sizeKey).toSize(), wide);
+    }
+
+    /// Whoever gets a table may use the program in another language than who has made it.
+    void tablesOfAllLanguagesAreRead()
+    {
+        App app;
+        QMainWindow *window = app.open("a.tll", listOf(2));
+        QVERIFY(window);
+        const ViewController &editor = window->findChild<EditorView *>()->controller();
+        std::vector<ColumnContent> columns;
+        for (const StationColumn &column : stationColumns)
+            columns.push_back(column.content);
+        const StationDifferences all = StationDifferences(StationDifference::Number) |
+                                       StationDifference::Name | StationDifference::Skipped |
+                                       StationDifference::Locked;
+        for (const QString &written : textLanguages()) {
+            installTranslations(written);
+            const QByteArray table = ListExport(editor, columns).make({}).bytes;
+            for (const QString &shown : textLanguages()) {
+                installTranslations(shown);
+                QString reason;
+                const auto read = importedTable(table, {}, *editor.stationDoc(), reason);
+                QVERIFY2(read, qPrintable(written + u' ' + shown + u": "_s + reason));
+                QCOMPARE(read->remark, QString());
+                for (const StationPtr &row : *read->lists.list(true, 0))
+                    QCOMPARE(read->told.value(row.get()), all);
+            }
+        }
+        installTranslations();
     }
 
     void orderIsAppliedFromItsPreview()

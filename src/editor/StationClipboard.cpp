@@ -118,8 +118,9 @@ std::optional<PastedStations> readNames(const QString &text, const SeparatedTabl
 {
     NamedRows named = namedRows(table, titles, list);
     TextFault fault;
-    if (const auto lines = readSeparatedText(text, fault, u'\t');
-        lines && table.separator != u'\t') {
+    const auto lines =
+        table.separator == u'\t' ? std::nullopt : readSeparatedText(text, fault, u'\t');
+    if (lines) {
         NamedRows ofLines = namedRows(*lines, titles, list);
         if (ofLines.known >= named.known)
             return pastedOf(std::move(ofLines.rows), *lines, titles);

@@ -83,7 +83,6 @@ ReferenceText referenceText(const StationList &stations)
                 identifiers.value_or(nothing) + QStringLiteral("\r\n");
     }
     made.bytes = getAsData(text);
-    made.entries = stations.size();
     made.isTooShort = !referenceListFromData(made.bytes);
     return made;
 }

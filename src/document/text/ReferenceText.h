@@ -13,7 +13,6 @@ namespace quillet {
 struct ReferenceText
 {
     QByteArray bytes;
-    std::size_t entries = 0;
     /// Names with a separator or a line break, in which others stand for those: such a station is
     /// not found again by its name.
     std::size_t changedNames = 0;

@@ -97,7 +97,6 @@ private slots:
         QTest::addColumn<QString>("place");
         QTest::addRow("number") << u"Nr;Name\n1;A\n\n16384;B\n"_s << Kind::BadNumber
                                 << u"4:1 16384 in 1 Nr"_s;
-        QTest::addRow("zero") << u"Nr;Name\n0;A\n"_s << Kind::BadNumber << u"2:1 0 in 1 Nr"_s;
         QTest::addRow("mark") << u"Name;Skip\n\"A\nB\";1\nC;2\n"_s << Kind::BadMark
                               << u"4:3 2 in 2 Skip"_s;
         QTest::addRow("cells") << u"Nr;Name\n1;A; ;more\n"_s << Kind::TooManyCells
@@ -122,7 +121,7 @@ private slots:
     void takesOnlyWhatIsTold()
     {
         TextFault fault;
-        const auto rows = rowsOf(u"Name;NR;Lock;other;Skip\nÄ;;1;?;x\n;7\nB;8;0;;\n"_s, fault);
+        const auto rows = rowsOf(u"Name;NR;Lock;other;Skip\nÄ;0;1;?;x\n;7\nB;8;0;;\n"_s, fault);
         QVERIFY(rows);
         using Difference = StationDifference;
         QCOMPARE(rows->told[0], StationDifferences() | Difference::Name | Difference::Skipped |

@@ -25,11 +25,14 @@ void RowReading::takeKey(const StationKey &key)
     m_key = key;
 }
 
+/// 0 is what a station without a number has: it tells nothing.
 bool RowReading::takeNumber(const QString &text)
 {
     const std::optional<qint64> number = wholeNumberOf(text);
-    if (!number || *number < 1 || !LGStation::canCarry(*number))
+    if (!number || !LGStation::canCarry(*number))
         return false;
+    if (*number == 0)
+        return true;
     m_station->setProgramNum(*number);
     m_told |= StationDifference::Number;
     return true;

@@ -1,5 +1,6 @@
 #include "editor/ListExport.h"
 
+#include "document/compare/UnkeptNames.h"
 #include "document/text/HtmlTable.h"
 #include "document/text/ReferenceText.h"
 #include "document/text/SeparatedText.h"
@@ -71,6 +72,7 @@ std::size_t ListExport::stationCount(bool onlyShown) const
 
 ListExport::Made ListExport::make(const ExportOptions &options) const
 {
+    const UnkeptNames names(stations(false));
     switch (options.format) {
     case Format::Table:
         return makeTable(options);

@@ -92,6 +92,8 @@ private slots:
         QVERIFY(page.contains("<td>A&lt;c&gt;</td><td class=\"e\">3</td><td class=\"c\"></td>"));
         QVERIFY(page.contains("<tr class=\"p\"><td>B</td>"));
         QVERIFY(page.contains("\u2713"));
+        // Reference lists go by the names that somebody has seen.
+        QVERIFY(editor.document.stations()->front()->name().isEmpty());
     }
 
     /// As it was chosen, through the one way that files are written; the next time it is chosen.

@@ -84,7 +84,8 @@ ListExport::Made ListExport::make(const ExportOptions &options) const
     return {};
 }
 
-/// No text has the character zero, which JSON can put into a name.
+/// No text has the character zero, which JSON can put into a name. Where a letter is one byte, the
+/// codes of the broadcast would be other letters.
 ListExport::Made ListExport::makeTable(const ExportOptions &options) const
 {
     SeparatedText text(options.separator);
@@ -106,6 +107,8 @@ ListExport::Made ListExport::makeTable(const ExportOptions &options) const
         for (const ColumnContent content : m_columns) {
             const std::optional<bool> mark = StationCells::mark(*station, content);
             cells.append(mark ? QString(*mark ? u'1' : u'0') : m_cells.text(*station, content));
+            if (options.form == TextForm::Windows1252)
+                cells.last() = cleanName(cells.last());
             zeros += cells.last().count(QChar::Null);
             cells.last().remove(QChar::Null);
         }

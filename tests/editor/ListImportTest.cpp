@@ -25,7 +25,13 @@ namespace {
 /// Stations of which some share names, identifiers and whatever else tells them apart.
 QByteArray randomList(QRandomGenerator &random, bool isJSON, int stationsOfNumber = 1)
 {
-    const QStringList names{u"Das Erste"_s, u"RTL HD"_s, u"a;b"_s, u"\"q\", r"_s, u"Ä"_s, u" x"_s};
+    const QStringList names{u"Das Erste"_s,
+                            u"RTL HD"_s,
+                            u"a;b"_s,
+                            u"\"q\", r"_s,
+                            u"Ä"_s,
+                            u" x"_s,
+                            u"\u0086E\u008AF\u2028g\uE087"_s};
     std::vector<Item> items;
     QStringList channels;
     const int count = random.bounded(2, 30);
@@ -166,9 +172,12 @@ private slots:
         for (int round = 0; round < 40; ++round) {
             Editor editor({});
             editor.show(randomList(random, round % 2 == 1));
-            const QByteArray bytes = ListExport(editor.controller, usualColumns()).make({}).bytes;
+            ExportOptions options;
+            options.form = static_cast<TextForm>(random.bounded(4));
+            const auto made = ListExport(editor.controller, usualColumns()).make(options);
+            QVERIFY(made.remarks.isEmpty());
             QString reason;
-            const auto imported = importedTable(bytes, {}, editor.document, reason);
+            const auto imported = importedTable(made.bytes, {}, editor.document, reason);
             QVERIFY2(imported, qPrintable(reason));
             QVERIFY(StationComparison(editor.controller, *imported).isEmpty());
         }

@@ -19,20 +19,11 @@ bool isPairAt(QStringView text, qsizetype i)
     return text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate();
 }
 
-/// The control codes of the broadcast, which are not seen.
-bool isHidden(QChar letter)
-{
-    return letter.category() == QChar::Other_Control && letter != u'\t' && letter != u'\r' &&
-           letter != u'\n';
-}
-
 EncodedText inWindows1252(QStringView text)
 {
     EncodedText made;
     made.bytes.reserve(text.size());
     for (qsizetype i = 0; i < text.size(); ++i) {
-        if (isHidden(text[i]))
-            continue;
         const std::optional<char> byte = inCodePage(text[i].unicode(), CodePage::Western);
         made.lost += byte ? 0 : 1;
         made.bytes += byte.value_or(replacement);

@@ -22,7 +22,6 @@ struct EncodedText
     qsizetype lost = 0; ///< characters that the form cannot hold, in whose place stands "?"
 };
 
-/// Windows-1252 leaves out control codes, for which spreadsheets show something else.
 [[nodiscard]] EncodedText encoded(QStringView text, TextForm form);
 
 /// Whether bytes are of one byte a letter. No mark and no other form of text is known in them.

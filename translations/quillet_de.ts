@@ -959,6 +959,13 @@
         <source></source>
         <translation>Nicht gelesene Spalten: %1.</translation>
     </message>
+    <message id="kImportUntold" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n Zeile der Tabelle nennt keinen Sender.</numerusform>
+            <numerusform>%n Zeilen der Tabelle nennen keinen Sender.</numerusform>
+        </translation>
+    </message>
     <message id="kInfo">
         <source></source>
         <translation>&amp;Info …</translation>

@@ -959,6 +959,13 @@
         <source></source>
         <translation>Columns that are not read: %1.</translation>
     </message>
+    <message id="kImportUntold" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n row of the table does not tell a station.</numerusform>
+            <numerusform>%n rows of the table do not tell a station.</numerusform>
+        </translation>
+    </message>
     <message id="kInfo">
         <source></source>
         <translation>&amp;Info…</translation>

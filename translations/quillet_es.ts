@@ -959,6 +959,13 @@
         <source></source>
         <translation>Columnas que no se leen: %1.</translation>
     </message>
+    <message id="kImportUntold" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n fila de la tabla no indica ningún canal.</numerusform>
+            <numerusform>%n filas de la tabla no indican ningún canal.</numerusform>
+        </translation>
+    </message>
     <message id="kInfo">
         <source></source>
         <translation>&amp;Información…</translation>

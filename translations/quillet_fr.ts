@@ -959,6 +959,13 @@
         <source></source>
         <translation>Colonnes non lues : %1.</translation>
     </message>
+    <message id="kImportUntold" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n ligne du tableau ne désigne aucune chaîne.</numerusform>
+            <numerusform>%n lignes du tableau ne désignent aucune chaîne.</numerusform>
+        </translation>
+    </message>
     <message id="kInfo">
         <source></source>
         <translation>&amp;Informations…</translation>

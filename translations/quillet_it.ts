@@ -959,6 +959,13 @@
         <source></source>
         <translation>Colonne non lette: %1.</translation>
     </message>
+    <message id="kImportUntold" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n riga della tabella non indica alcun canale.</numerusform>
+            <numerusform>%n righe della tabella non indicano alcun canale.</numerusform>
+        </translation>
+    </message>
     <message id="kInfo">
         <source></source>
         <translation>&amp;Info…</translation>

@@ -959,6 +959,13 @@
         <source></source>
         <translation>Kolommen die niet worden gelezen: %1.</translation>
     </message>
+    <message id="kImportUntold" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n rij van de tabel noemt geen zender.</numerusform>
+            <numerusform>%n rijen van de tabel noemen geen zender.</numerusform>
+        </translation>
+    </message>
     <message id="kInfo">
         <source></source>
         <translation>&amp;Info…</translation>

@@ -983,6 +983,14 @@
         <source></source>
         <translation>Kolumny, które nie są odczytywane: %1.</translation>
     </message>
+    <message id="kImportUntold" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n wiersz tabeli nie wskazuje kanału.</numerusform>
+            <numerusform>%n wiersze tabeli nie wskazują kanału.</numerusform>
+            <numerusform>%n wierszy tabeli nie wskazuje kanału.</numerusform>
+        </translation>
+    </message>
     <message id="kInfo">
         <source></source>
         <translation>&amp;Informacje…</translation>

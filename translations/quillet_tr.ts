@@ -935,6 +935,12 @@
         <source></source>
         <translation>Okunmayan sütunlar: %1.</translation>
     </message>
+    <message id="kImportUntold" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Tablodaki %n satır bir kanal belirtmiyor.</numerusform>
+        </translation>
+    </message>
     <message id="kInfo">
         <source></source>
         <translation>&amp;Bilgi…</translation>

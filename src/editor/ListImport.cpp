@@ -247,11 +247,17 @@ ComparedWith comparedWith(const StationRows &rows, const TLLDocument &document,
     if (list && fit.count > 0)
         remarks.append(chooseRule(fit, *list, compared.rule));
     remarks.append(remarksOn(fit));
+    StationList &told = *compared.lists.list(fit.isTV, fit.source);
+    for (std::size_t i = 0; i < fit.rows.stations.size(); ++i) {
+        if (!fit.rows.tellsStation(i))
+            continue;
+        told.push_back(fit.rows.stations[i]);
+        compared.told.insert(told.back().get(), fit.rows.told[i]);
+    }
+    if (const auto untold = static_cast<int>(fit.rows.stations.size() - told.size()))
+        remarks.append(qtTrId("kImportUntold", untold));
     remarks.removeAll(QString());
     compared.remark = remarks.join(u' ');
-    for (std::size_t i = 0; i < fit.rows.stations.size(); ++i)
-        compared.told.insert(fit.rows.stations[i].get(), fit.rows.told[i]);
-    *compared.lists.list(fit.isTV, fit.source) = std::move(fit.rows.stations);
     return compared;
 }
 

@@ -184,6 +184,10 @@ private slots:
             QCOMPARE(row.shownName(), list[i]->shownName());
             QCOMPARE(row.progNum(), static_cast<qint64>(i + 11));
         }
+        // Where the name alone tells a station, it is the one that the list has.
+        rows = rowsOf(u"Nr;Name\n7;E\n"_s, fault);
+        completeRows(*rows, list);
+        QCOMPARE(rows->stations[0]->shownName(), u"\u0086E\u0087 "_s);
         // A list that was reordered since: the name goes before the occurrence.
         rows = rowsOf(u"Key;Name\nn1-t2-s3-f4-3;A\n"_s, fault);
         QCOMPARE(completeRows(*rows, list).certain, std::size_t(1));

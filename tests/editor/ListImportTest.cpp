@@ -246,7 +246,7 @@ private slots:
             cable + u" | 5 C, 7 Z, 8 Y"_s);
         row("identifiers", "progNum;progName;serviceId;transportStreamId\n5;C;3;2\n",
             u"kImportOtherList"_s, cable + u" | 5 C, 7 Z, 8 Y"_s);
-        row("a damaged letter", "\xEF\xBB\xBFprogNum;progName\n5;B\n6;\xE4\n", {},
+        row("a damaged letter", "\xEF\xBB\xBFprogNum;progName\n5;B\n6;\xE4\n", u"kImportUntold"_s,
             u"1 A, 3 C, 5 B"_s + satellite);
     }
     void findsListAndRule()

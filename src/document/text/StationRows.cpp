@@ -164,11 +164,43 @@ StationPtr completed(const LGStation &row, StationDifferences told, const LGStat
     return made;
 }
 
+/// Names of a list by what a table surely keeps of them, unless that is the same of several.
+QHash<QString, QString> wholeNames(const StationList &list)
+{
+    QHash<QString, QString> names;
+    for (const StationPtr &station : list) {
+        const QString name = station->shownName();
+        const QString plain = RowMatching::plainName(*station);
+        if (const auto known = names.find(plain); known == names.end())
+            names.insert(plain, name);
+        else if (*known != name)
+            *known = plain;
+    }
+    return names;
+}
+
+/// The same row but for that. Rows are tried with several lists, so it is a record of its own.
+StationPtr withWholeName(const StationPtr &row, const QHash<QString, QString> &names)
+{
+    const auto whole = names.constFind(RowMatching::plainName(*row));
+    if (whole == names.cend() || *whole == row->shownName())
+        return row;
+    const auto made = std::make_shared<LGStation>(row->entry(), row->origPos());
+    made->setName(*whole);
+    return made;
+}
+
 } // namespace
 
 bool StationRows::hasColumn(RowField field) const
 {
     return std::find(columns.begin(), columns.end(), field) != columns.end();
+}
+
+bool StationRows::tellsStation(std::size_t row) const
+{
+    return keys[row] || told[row].testFlag(StationDifference::Name) ||
+           stations[row]->serviceIdText();
 }
 
 QString foldedTitle(const QString &title)
@@ -235,10 +267,14 @@ RowMatches completeRows(StationRows &rows, const StationList &list, bool mayRena
     RowMatching matching(rows, list, mayRename);
     const RowMatches found = matching.match();
     RowMatches matches{{}, found.certain, found.unclear};
+    const QHash<QString, QString> names = wholeNames(list);
     for (std::size_t i = 0; i < rows.stations.size(); ++i) {
         const std::optional<std::size_t> place = matching.place(i);
-        if (!place)
+        if (!place) {
+            if (rows.told[i].testFlag(StationDifference::Name))
+                rows.stations[i] = withWholeName(rows.stations[i], names);
             continue;
+        }
         const StationPtr row = std::exchange(
             rows.stations[i], completed(*rows.stations[i], rows.told[i], *list[*place]));
         matches.pairs.insert(rows.stations[i].get(), found.pairs.value(row.get()));

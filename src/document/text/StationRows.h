@@ -43,6 +43,8 @@ struct StationRows
     QStringList unknown = {};                 ///< titles of columns that are not known
 
     [[nodiscard]] bool hasColumn(RowField field) const;
+    /// Whether a row has anything by which its station could be found.
+    [[nodiscard]] bool tellsStation(std::size_t row) const;
 };
 
 /// Whether the first row of the table is one of titles that are known, two of them at least.
@@ -71,7 +73,8 @@ struct RowMatches
 };
 
 /// Finds the stations of rows, as RowMatching does, and puts whole records in the place of the
-/// rows': like the station, but for what the row tells. `mayRename` says whether stations of the
+/// rows': like the station, but for what the row tells. The others get the names of the list as they
+/// are there, with what a table does not keep of them. `mayRename` says whether stations of the
 /// list can get names by that. Takes linear time.
 RowMatches completeRows(StationRows &rows, const StationList &list, bool mayRename = false);
 

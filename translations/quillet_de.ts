@@ -951,8 +951,8 @@
     <message id="kImportUnclear" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n Zeile ist nicht eindeutig: Ihr Schlüssel und ihr Name gehören zu verschiedenen Sendern, oder der Sender steht noch einmal da.</numerusform>
-            <numerusform>%n Zeilen sind nicht eindeutig: Schlüssel und Name gehören zu verschiedenen Sendern, oder ein Sender steht mehrmals da.</numerusform>
+            <numerusform>%n Zeile ist nicht eindeutig: Ihr Schlüssel und ihr Name passen nicht zusammen, oder der Sender steht noch einmal da.</numerusform>
+            <numerusform>%n Zeilen sind nicht eindeutig: Schlüssel und Name passen nicht zusammen, oder ein Sender steht mehrmals da.</numerusform>
         </translation>
     </message>
     <message id="kImportUnknownColumns">

@@ -951,8 +951,8 @@
     <message id="kImportUnclear" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n row is unclear: its key and its name are of different stations, or the station stands there again.</numerusform>
-            <numerusform>%n rows are unclear: key and name are of different stations, or a station stands there several times.</numerusform>
+            <numerusform>%n row is unclear: its key and its name do not agree, or the station stands there again.</numerusform>
+            <numerusform>%n rows are unclear: key and name do not agree, or a station stands there several times.</numerusform>
         </translation>
     </message>
     <message id="kImportUnknownColumns">

@@ -951,8 +951,8 @@
     <message id="kImportUnclear" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n fila no está clara: su clave y su nombre son de canales distintos, o el canal aparece otra vez.</numerusform>
-            <numerusform>%n filas no están claras: la clave y el nombre son de canales distintos, o un canal aparece varias veces.</numerusform>
+            <numerusform>%n fila no está clara: su clave y su nombre no concuerdan, o el canal aparece otra vez.</numerusform>
+            <numerusform>%n filas no están claras: la clave y el nombre no concuerdan, o un canal aparece varias veces.</numerusform>
         </translation>
     </message>
     <message id="kImportUnknownColumns">

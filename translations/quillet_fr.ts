@@ -951,8 +951,8 @@
     <message id="kImportUnclear" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n ligne n’est pas claire : sa clé et son nom sont de chaînes différentes, ou la chaîne y figure encore.</numerusform>
-            <numerusform>%n lignes ne sont pas claires : la clé et le nom sont de chaînes différentes, ou une chaîne y figure plusieurs fois.</numerusform>
+            <numerusform>%n ligne n’est pas claire : sa clé et son nom ne concordent pas, ou la chaîne y figure encore.</numerusform>
+            <numerusform>%n lignes ne sont pas claires : la clé et le nom ne concordent pas, ou une chaîne y figure plusieurs fois.</numerusform>
         </translation>
     </message>
     <message id="kImportUnknownColumns">

@@ -951,8 +951,8 @@
     <message id="kImportUnclear" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n riga non è chiara: la chiave e il nome sono di canali diversi, o il canale compare di nuovo.</numerusform>
-            <numerusform>%n righe non sono chiare: la chiave e il nome sono di canali diversi, o un canale compare più volte.</numerusform>
+            <numerusform>%n riga non è chiara: la chiave e il nome non concordano, o il canale compare di nuovo.</numerusform>
+            <numerusform>%n righe non sono chiare: la chiave e il nome non concordano, o un canale compare più volte.</numerusform>
         </translation>
     </message>
     <message id="kImportUnknownColumns">

@@ -951,8 +951,8 @@
     <message id="kImportUnclear" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n rij is onduidelijk: de sleutel en de naam zijn van verschillende zenders, of de zender staat er nog eens.</numerusform>
-            <numerusform>%n rijen zijn onduidelijk: sleutel en naam zijn van verschillende zenders, of een zender staat er meermaals.</numerusform>
+            <numerusform>%n rij is onduidelijk: de sleutel en de naam passen niet bij elkaar, of de zender staat er nog eens.</numerusform>
+            <numerusform>%n rijen zijn onduidelijk: sleutel en naam passen niet bij elkaar, of een zender staat er meermaals.</numerusform>
         </translation>
     </message>
     <message id="kImportUnknownColumns">

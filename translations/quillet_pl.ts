@@ -974,9 +974,9 @@
     <message id="kImportUnclear" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n wiersz jest niejasny: jego klucz i nazwa należą do różnych kanałów albo kanał występuje ponownie.</numerusform>
-            <numerusform>%n wiersze są niejasne: klucz i nazwa należą do różnych kanałów albo kanał występuje kilka razy.</numerusform>
-            <numerusform>%n wierszy jest niejasnych: klucz i nazwa należą do różnych kanałów albo kanał występuje kilka razy.</numerusform>
+            <numerusform>%n wiersz jest niejasny: jego klucz i nazwa nie pasują do siebie albo kanał występuje ponownie.</numerusform>
+            <numerusform>%n wiersze są niejasne: klucz i nazwa nie pasują do siebie albo kanał występuje kilka razy.</numerusform>
+            <numerusform>%n wierszy jest niejasnych: klucz i nazwa nie pasują do siebie albo kanał występuje kilka razy.</numerusform>
         </translation>
     </message>
     <message id="kImportUnknownColumns">

@@ -928,7 +928,7 @@
     <message id="kImportUnclear" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n satır belirsiz: anahtar ile ad farklı kanallara ait ya da bir kanal birden çok kez geçiyor.</numerusform>
+            <numerusform>%n satır belirsiz: anahtar ile ad birbirine uymuyor ya da bir kanal birden çok kez geçiyor.</numerusform>
         </translation>
     </message>
     <message id="kImportUnknownColumns">

@@ -306,7 +306,18 @@ private slots:
         QTest::addColumn<QString>("rows");
         QTest::addColumn<QString>("after");
         QTest::newRow("renamed in a chain")
-            << FileSource::Analogue << u"1;B;x\n2;N;x-2\n9;C;x-3\n"_s << u"1 B, 2 N, 9 C"_s;
+            << FileSource::Analogue << u"1;B;x\n2;N;x-2\n9;C;x-3\n10;D;f5\n"_s
+            << u"1 B, 2 N, 9 C, 10 D"_s;
+        QTest::newRow("renamed, by the frequency")
+            << FileSource::Analogue << u"7;N;f5\n"_s << u"1 A, 2 B, 3 C, 7 N"_s;
+        QTest::newRow("renamed, by the service")
+            << FileSource::Cable << u"7;N;n1-t2-s3\n"_s << u"1 A, 2 B, 3 C, 7 D"_s;
+        QTest::newRow("of another list")
+            << FileSource::Cable << u"7;K;x\n8;L;x-2\n9;C;x-3\n"_s << u"1 A, 2 B, 9 C"_s;
+        QTest::newRow("of another list, frequencies")
+            << FileSource::Cable << u"7;K;f5\n9;C;x-3\n"_s << u"1 A, 2 B, 4 D, 9 C"_s;
+        QTest::newRow("of another analogue list")
+            << FileSource::Analogue << u"7;K;x\n8;L;x-2\n9;C;x-3\n"_s << u"1 A, 2 B, 9 C"_s;
         QTest::newRow("renamed in a ring")
             << FileSource::Analogue << u"7;B;x\n8;A;x-2\n9;C;x-3\n"_s << u"1 A, 2 B, 9 C"_s;
         QTest::newRow("reordered since")
@@ -323,12 +334,14 @@ private slots:
         QFETCH(const FileSource, source);
         QFETCH(const QString, rows);
         std::vector<Item> items = lettered({1, 2, 3}, source);
-        if (rows.contains(u";D"_s)) {
+        if (rows.contains(u"n1-t2-s3"_s) || rows.contains(u"f5"_s))
             items.push_back(makeStation(4, u"D"_s, source));
+        if (rows.contains(u"f5"_s))
+            items.back().push_back({u"frequency"_s, u"5"_s});
+        else if (items.size() > 3)
             items.back().insert(items.back().end(), {{u"original_network_id"_s, u"1"_s},
                                                      {u"transport_id"_s, u"2"_s},
                                                      {u"service_id"_s, u"3"_s}});
-        }
         Editor editor(items);
         QString reason;
         const auto imported = importedTable("progNum;progName;stationKey\n" + rows.toUtf8(), {},
@@ -353,7 +366,7 @@ private slots:
         Editor editor(lettered({1, 2, 3}, FileSource::Analogue));
         editor.clickSegment(static_cast<int>(StationSource::Analogue));
         const auto edit = [](std::vector<QStringList> &rows) {
-            rows[1] = {u"1,00"_s, u"\u00C4rte"_s, u"x"_s, {}, rows[1].last()};
+            rows[1] = {u"1,00"_s, u"\u00C4r \r\nte"_s, u"x"_s, {}, rows[1].last()};
             rows[2] = {{}, {}, {}, u"JA"_s, rows[2].last()};
             rows[3] = {u"3"_s, u" C "_s, {}, {}, rows[3].last()};
         };
@@ -363,15 +376,15 @@ private slots:
                                             editor.document, reason);
         QVERIFY2(imported, qPrintable(reason));
         std::make_shared<StationComparison>(editor.controller, *imported)->takeOverAll();
-        QCOMPARE(editor.rows(), u"1 \u00C4rte s, 2 B b, 3 C"_s);
+        QCOMPARE(editor.rows(), u"1 \u00C4r te s, 2 B b, 3 C"_s);
         // A letter that the table could not hold is no other name.
         const auto lossy =
             importedTable(edited(exported, u',', TextForm::MarkedUtf8,
-                                 [](std::vector<QStringList> &rows) { rows[1][1] = u"?rte"_s; }),
+                                 [](std::vector<QStringList> &rows) { rows[1][1] = u"?r te"_s; }),
                           {}, editor.document, reason);
         QVERIFY2(lossy, qPrintable(reason));
         std::make_shared<StationComparison>(editor.controller, *lossy)->takeOverAll();
-        QCOMPARE(editor.rows(), u"1 \u00C4rte, 2 B, 3 C"_s);
+        QCOMPARE(editor.rows(), u"1 \u00C4r te, 2 B, 3 C"_s);
         editor.controller.undoing().undo();
         editor.controller.undoing().undo();
         QCOMPARE(editor.rows(), u"1 A, 2 B, 3 C"_s);

@@ -124,6 +124,45 @@ void RowMatching::findOwn()
     }
 }
 
+/// What of a key tells a station even where its name is another one: the identifiers of a service;
+/// or the frequency where stations can be renamed, which are analogue and have theirs alone. Empty
+/// when nothing does. Many lists have 0 for what they do not know.
+QString RowMatching::tellingPart(const LGStation &station) const
+{
+    StationKey key = StationKey::of(station);
+    const auto isTold = [](const QString &part) { return !part.isEmpty() && part != u"0"; };
+    if (isTold(key.service) && !key.transport.isEmpty()) {
+        key.frequency.clear();
+        return key.text();
+    }
+    return m_mayRename && isTold(key.frequency) ? key.frequency : QString();
+}
+
+/// Which rows with another name are surely of the stations of their keys, and not of those that
+/// stand in their places in another list, or stood there when the table was made: no other station
+/// is told by that, or, where stations can be renamed, most of the other rows have the names of
+/// their stations.
+void RowMatching::findTelling()
+{
+    QHash<QString, std::size_t> counts;
+    for (const StationPtr &station : m_list)
+        ++counts[tellingPart(*station)];
+    std::size_t named = 0, agreeing = 0;
+    for (std::size_t i = 0; i < m_rows.size(); ++i) {
+        const bool isNamed = m_rows[i].own && m_told.told[i].testFlag(StationDifference::Name);
+        named += isNamed ? 1 : 0;
+        agreeing += isNamed && !m_rows[i].isNameOther ? 1 : 0;
+    }
+    const bool isOfList = m_mayRename && agreeing * 2 >= named;
+    for (std::size_t i = 0; i < m_rows.size(); ++i) {
+        Row &row = m_rows[i];
+        if (!row.isNameOther)
+            continue;
+        const QString part = tellingPart(*m_told.stations[i]);
+        row.isOwnSure = isOfList || (!part.isEmpty() && counts.value(part) == 1);
+    }
+}
+
 /// For rows with another name than their stations. Those with the same name are settled then.
 void RowMatching::findNamed()
 {
@@ -192,6 +231,7 @@ RowMatches RowMatching::match()
         if (m_rows[i].own && !m_rows[i].isNameOther)
             claim(i, *m_rows[i].own, Likeness::Sure);
     }
+    findTelling();
     findNamed();
     for (std::size_t i = 0; i < m_rows.size(); ++i) {
         if (m_rows[i].isNameOther && m_rows[i].verdict == Verdict::None)
@@ -203,7 +243,8 @@ RowMatches RowMatching::match()
             if (row.verdict != verdict)
                 continue;
             const bool isByName = row.isNamedAlike && (!m_mayRename || verdict == Verdict::Unclear);
-            const bool isSure = verdict == Verdict::Renamed || (isByName && !m_mayRename);
+            const bool isSure =
+                isByName ? !m_mayRename : verdict == Verdict::Renamed && row.isOwnSure;
             claim(i, isByName ? *row.named : *row.own, isSure ? Likeness::Sure : Likeness::Loose);
         }
     }

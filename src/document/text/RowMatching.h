@@ -9,8 +9,8 @@ namespace quillet {
 
 /// Says of each row of a table which station of a list it is of: that of its key, or else that
 /// which has its identifiers alone. Its name tells stations apart that differ in the occurrence
-/// alone, and shows that cells of one row are no longer of one station. Made for one answer; rows
-/// and list must outlive it.
+/// alone, and shows that cells of one row are no longer of one station, or that the table is of
+/// another list. Made for one answer; rows and list must outlive it.
 class RowMatching
 {
 public:
@@ -41,11 +41,14 @@ private:
         bool isNamedAlike = false; ///< that one has the same key but for the occurrence
         bool isNameKnown = false;  ///< there are such at all
         bool isNameOther = false;  ///< than that of its own station
+        bool isOwnSure = false;    ///< nevertheless, if that was renamed
         Verdict verdict = Verdict::None;
         std::optional<std::size_t> place = {}; ///< in the end
     };
 
     void findOwn();
+    [[nodiscard]] QString tellingPart(const LGStation &station) const;
+    void findTelling();
     void findNamed();
     void judge(std::size_t first);
     void claim(std::size_t row, std::size_t place, Likeness likeness);

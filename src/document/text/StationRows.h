@@ -68,7 +68,7 @@ struct RowMatches
     KnownPairs pairs;        ///< by the rows' records; those that tell no station are not in it
     std::size_t certain = 0; ///< rows whose station is beyond doubt
     /// Rows that tell two stations, one by the key and another by the name, or one that another row
-    /// tells as well.
+    /// tells as well, or one that has another name by a key that does not tell it for sure.
     std::size_t unclear = 0;
 };
 

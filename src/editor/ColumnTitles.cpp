@@ -47,11 +47,7 @@ qsizetype fitOf(const RowTitles &titles, const SeparatedTable &table)
     const auto isKnown = [&titles](const SeparatedCell &cell) {
         return titles.contains(foldedTitle(cell.text));
     };
-    const auto isBlank = [](const SeparatedRow &row) {
-        return std::all_of(row.begin(), row.end(),
-                           [](const SeparatedCell &cell) { return cell.text.trimmed().isEmpty(); });
-    };
-    const auto first = std::find_if_not(table.rows.begin(), table.rows.end(), isBlank);
+    const auto first = table.firstRow();
     return first == table.rows.end() ? 0 : std::count_if(first->begin(), first->end(), isKnown);
 }
 

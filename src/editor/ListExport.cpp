@@ -12,7 +12,6 @@
 
 #include <QDateTime>
 #include <QFileInfo>
-#include <QHash>
 #include <QLocale>
 #include <QStandardPaths>
 
@@ -96,11 +95,8 @@ ListExport::Made ListExport::makeTable(const ExportOptions &options) const
         titles.append(stationKeyTitle);
     text.addRow(titles);
     // Keys tell the stations of the whole list apart.
-    const StationList &all = stations(false);
-    const QStringList allKeys = options.hasKeys ? stationKeys(all) : QStringList();
-    QHash<const LGStation *, QString> keys;
-    for (qsizetype i = 0; i < allKeys.size(); ++i)
-        keys.insert(all[static_cast<std::size_t>(i)].get(), allKeys[i]);
+    const auto keys =
+        options.hasKeys ? keysByStation(stations(false)) : QHash<const LGStation *, QString>();
     qsizetype zeros = 0;
     for (const StationPtr &station : stations(options.onlyShown)) {
         QStringList cells;

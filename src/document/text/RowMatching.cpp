@@ -53,10 +53,9 @@ private:
 
     static QString plain(const std::optional<QString> &text)
     {
-        bool isNumber = false;
         const QString told = text.value_or(QString()).trimmed();
-        const qint64 number = told.toLongLong(&isNumber);
-        return isNumber ? QString::number(number) : told;
+        const QString digits = digitsOf(told);
+        return digits.isEmpty() ? told : digits;
     }
     static Texts textsOf(const LGStation &station)
     {
@@ -126,7 +125,7 @@ void RowMatching::findOwn()
 
 /// What of a key tells a station even where its name is another one: the identifiers of a service;
 /// or the frequency where stations can be renamed, which are analogue and have theirs alone. Empty
-/// when nothing does. Many lists have 0 for what they do not know.
+/// when nothing does. No service and no frequency is 0.
 QString RowMatching::tellingPart(const LGStation &station) const
 {
     StationKey key = StationKey::of(station);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <functional>
 #include <limits>
 
 namespace quillet {
@@ -217,6 +218,21 @@ std::optional<SeparatedTable> readSeparatedText(QStringView text, TextFault &fau
     if (!reader.read(table.rows, std::numeric_limits<std::size_t>::max(), fault))
         return {};
     return table;
+}
+
+bool SeparatedCell::isBlank() const
+{
+    return std::all_of(text.begin(), text.end(), [](QChar c) { return c.isSpace(); });
+}
+
+bool isBlank(const SeparatedRow &row)
+{
+    return std::all_of(row.begin(), row.end(), std::mem_fn(&SeparatedCell::isBlank));
+}
+
+std::vector<SeparatedRow>::const_iterator SeparatedTable::firstRow() const
+{
+    return std::find_if_not(rows.begin(), rows.end(), isBlank);
 }
 
 } // namespace quillet

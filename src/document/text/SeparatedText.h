@@ -34,14 +34,20 @@ struct SeparatedCell
     QString text;
     qsizetype line = 1;   ///< where it begins, of the text, from 1
     qsizetype column = 1; ///< in UTF-16 code units of that line, from 1; with its quote
+
+    [[nodiscard]] bool isBlank() const;
 };
 using SeparatedRow = std::vector<SeparatedCell>;
+[[nodiscard]] bool isBlank(const SeparatedRow &row);
 
 /// The rows of a text; one without any character is none.
 struct SeparatedTable
 {
     QChar separator;
     std::vector<SeparatedRow> rows;
+
+    /// The first one that is not blank; the end when there is none.
+    [[nodiscard]] std::vector<SeparatedRow>::const_iterator firstRow() const;
 };
 
 /// How much a text may have: more than any list needs, and what is read and compared in a time

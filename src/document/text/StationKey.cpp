@@ -1,6 +1,5 @@
 #include "document/text/StationKey.h"
 
-#include <QHash>
 #include <QStringTokenizer>
 
 #include <array>
@@ -21,22 +20,7 @@ constexpr std::array keyParts{
 /// Of a station that tells nothing.
 constexpr QChar nothing = u'x';
 
-/// Digits without the zeros before them; empty for anything else.
-QString digitsOf(QStringView text)
-{
-    text = text.trimmed();
-    while (text.size() > 1 && text.startsWith(u'0'))
-        text = text.sliced(1);
-    if (text.size() > mostDigits)
-        return {};
-    for (const QChar c : text) {
-        if (c < u'0' || c > u'9')
-            return {};
-    }
-    return text.toString();
-}
-
-QString digitsOf(const LGStation &station, const QString &field)
+QString digitsIn(const LGStation &station, const QString &field)
 {
     const Value *value = station.entry().find(field);
     if (!value)
@@ -79,10 +63,10 @@ StationKey StationKey::of(const LGStation &station)
 {
     const StationKeys &keys = station.keys();
     StationKey key;
-    key.network = digitsOf(station, keys.keyOriginalNetwork_id);
-    key.transport = digitsOf(station, keys.keyTransport_id);
-    key.service = digitsOf(station, keys.keyService_id);
-    key.frequency = digitsOf(station, keys.keyFrequency);
+    key.network = digitsIn(station, keys.keyOriginalNetwork_id);
+    key.transport = digitsIn(station, keys.keyTransport_id);
+    key.service = digitsIn(station, keys.keyService_id);
+    key.frequency = digitsIn(station, keys.keyFrequency);
     return key;
 }
 
@@ -134,6 +118,20 @@ QString StationKey::text() const
     return parts.join(u'-');
 }
 
+QString digitsOf(QStringView text)
+{
+    text = text.trimmed();
+    while (text.size() > 1 && text.startsWith(u'0'))
+        text = text.sliced(1);
+    if (text.size() > mostDigits)
+        return {};
+    for (const QChar c : text) {
+        if (c < u'0' || c > u'9')
+            return {};
+    }
+    return text.toString();
+}
+
 QStringList stationKeys(const StationList &stations)
 {
     QHash<QString, qsizetype> counts;
@@ -146,6 +144,16 @@ QStringList stationKeys(const StationList &stations)
         texts.append(key.text());
     }
     return texts;
+}
+
+QHash<const LGStation *, QString> keysByStation(const StationList &stations)
+{
+    const QStringList texts = stationKeys(stations);
+    QHash<const LGStation *, QString> keys;
+    keys.reserve(texts.size());
+    for (qsizetype i = 0; i < texts.size(); ++i)
+        keys.insert(stations[static_cast<std::size_t>(i)].get(), texts[i]);
+    return keys;
 }
 
 } // namespace quillet

@@ -2,6 +2,7 @@
 
 #include "model/LGStation.h"
 
+#include <QHash>
 #include <QString>
 #include <QStringList>
 
@@ -33,7 +34,12 @@ struct StationKey
     bool operator==(const StationKey &) const = default;
 };
 
+/// The digits of a number without the zeros before them; empty for anything else.
+[[nodiscard]] QString digitsOf(QStringView text);
+
 /// The keys of the stations of a list, in its order, all different.
 [[nodiscard]] QStringList stationKeys(const StationList &stations);
+/// The same by the stations.
+[[nodiscard]] QHash<const LGStation *, QString> keysByStation(const StationList &stations);
 
 } // namespace quillet

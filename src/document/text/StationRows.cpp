@@ -21,23 +21,6 @@ constexpr qsizetype longestCellTold = 40;
 
 using Columns = std::vector<RowField>;
 
-bool isBlank(const QString &text)
-{
-    return std::all_of(text.begin(), text.end(), [](QChar c) { return c.isSpace(); });
-}
-
-bool isBlank(const SeparatedRow &row)
-{
-    return std::all_of(row.begin(), row.end(),
-                       [](const SeparatedCell &cell) { return isBlank(cell.text); });
-}
-
-auto firstRow(const SeparatedTable &table)
-{
-    return std::find_if_not(table.rows.begin(), table.rows.end(),
-                            [](const SeparatedRow &row) { return isBlank(row); });
-}
-
 QString toldText(const QString &text)
 {
     return shortened(text.simplified(), longestCellTold);
@@ -60,8 +43,8 @@ bool isOfKeys(const SeparatedTable &table, std::size_t column)
 {
     QSet<QString> keys;
     bool areTelling = false;
-    for (auto row = std::next(firstRow(table)); row != table.rows.end(); ++row) {
-        if (column >= row->size() || isBlank((*row)[column].text))
+    for (auto row = std::next(table.firstRow()); row != table.rows.end(); ++row) {
+        if (column >= row->size() || (*row)[column].isBlank())
             continue;
         const QString text = (*row)[column].text.trimmed();
         const std::optional<StationKey> key = StationKey::fromText(text);
@@ -78,7 +61,7 @@ bool isOfKeys(const SeparatedTable &table, std::size_t column)
 bool readTitles(const SeparatedTable &table, const RowTitles &known, StationRows &rows,
                 TextFault &fault)
 {
-    const SeparatedRow &titles = *firstRow(table);
+    const SeparatedRow &titles = *table.firstRow();
     std::vector<std::size_t> unknown;
     for (std::size_t i = 0; i < titles.size(); ++i) {
         const auto title = known.constFind(foldedTitle(titles[i].text));
@@ -94,7 +77,7 @@ bool readTitles(const SeparatedTable &table, const RowTitles &known, StationRows
     for (const std::size_t i : unknown) {
         if (!rows.hasColumn(RowField::Key) && isOfKeys(table, i))
             rows.columns[i] = RowField::Key;
-        else if (!isBlank(titles[i].text))
+        else if (!titles[i].isBlank())
             rows.unknown.append(toldText(titles[i].text));
     }
     if (std::any_of(rows.columns.begin(), rows.columns.end(), findsStations))
@@ -109,7 +92,7 @@ bool readRow(const SeparatedRow &row, const SeparatedRow &titles, const Columns 
              const std::vector<bool> &emptyIsUnset, RowReading &reading, TextFault &fault)
 {
     for (std::size_t i = 0; i < std::max(row.size(), columns.size()); ++i) {
-        const bool isEmpty = i >= row.size() || isBlank(row[i].text);
+        const bool isEmpty = i >= row.size() || row[i].isBlank();
         if (isEmpty && (i >= columns.size() || !emptyIsUnset[i]))
             continue;
         TextFault::Kind kind = TextFault::Kind::TooManyCells;
@@ -128,7 +111,7 @@ bool readRow(const SeparatedRow &row, const SeparatedRow &titles, const Columns 
 std::vector<bool> columnsOfSetMarks(const SeparatedTable &table, const Columns &columns)
 {
     std::vector<bool> anySet(columns.size()), anyUnset(columns.size());
-    for (auto row = std::next(firstRow(table)); row != table.rows.end(); ++row) {
+    for (auto row = std::next(table.firstRow()); row != table.rows.end(); ++row) {
         for (std::size_t i = 0; i < std::min(row->size(), columns.size()); ++i) {
             if (columns[i] != RowField::Skipped && columns[i] != RowField::Locked)
                 continue;
@@ -210,7 +193,7 @@ QString foldedTitle(const QString &title)
 
 bool hasTitles(const SeparatedTable &table, const RowTitles &titles)
 {
-    const auto first = firstRow(table);
+    const auto first = table.firstRow();
     return first != table.rows.end() &&
            std::count_if(first->begin(), first->end(), [&titles](const SeparatedCell &cell) {
                return titles.contains(foldedTitle(cell.text));
@@ -220,7 +203,7 @@ bool hasTitles(const SeparatedTable &table, const RowTitles &titles)
 std::optional<StationRows> stationRows(const SeparatedTable &table, const RowTitles &titles,
                                        TextFault &fault)
 {
-    const auto head = firstRow(table);
+    const auto head = table.firstRow();
     if (head == table.rows.end()) {
         fault = {TextFault::Kind::NoRows, 0, 0, {}};
         return {};

@@ -73,9 +73,9 @@ struct RowMatches
 };
 
 /// Finds the stations of rows, as RowMatching does, and puts whole records in the place of the
-/// rows': like the station, but for what the row tells. The others get the names of the list as they
-/// are there, with what a table does not keep of them. `mayRename` says whether stations of the
-/// list can get names by that. Takes linear time.
+/// rows': like the station, but for what the row tells. The others get the names of the list as
+/// they are there, with what a table does not keep of them. `mayRename` says whether stations of
+/// the list can get names by that. Takes linear time.
 RowMatches completeRows(StationRows &rows, const StationList &list, bool mayRename = false);
 
 } // namespace quillet

@@ -307,7 +307,7 @@
     </message>
     <message id="kCompareAllLists">
         <source></source>
-        <translation>Tutti gli elenchi</translation>
+        <translation>Tutte le liste</translation>
     </message>
     <message id="kCompareApply">
         <source></source>
@@ -327,7 +327,7 @@
     </message>
     <message id="kCompareFailed">
         <source></source>
-        <translation>“%1” non contiene alcun elenco da confrontare.</translation>
+        <translation>“%1” non contiene alcuna lista da confrontare.</translation>
     </message>
     <message id="kCompareFailedReason">
         <source></source>
@@ -351,7 +351,7 @@
     </message>
     <message id="kCompareList">
         <source></source>
-        <translation>Elenco</translation>
+        <translation>Lista</translation>
     </message>
     <message id="kCompareMove">
         <source></source>
@@ -882,7 +882,7 @@
     </message>
     <message id="kHintRadioNotShown">
         <source></source>
-        <translation>Le stazioni radio di questo tipo di elenco non vengono mostrate</translation>
+        <translation>Le stazioni radio di questo tipo di lista non vengono mostrate</translation>
     </message>
     <message id="kHintRadioNotShownDetail">
         <source></source>
@@ -1111,7 +1111,7 @@
     </message>
     <message id="kMenuCompareFile">
         <source></source>
-        <translation>Altro &amp;elenco…</translation>
+        <translation>&amp;Altra lista…</translation>
     </message>
     <message id="kMenuCompareRead">
         <source></source>
@@ -1378,7 +1378,7 @@
     </message>
     <message id="kNoSuchPageReason">
         <source></source>
-        <translation>L’elenco non ha nessuna delle pagine scelte.</translation>
+        <translation>La lista non ha nessuna delle pagine scelte.</translation>
     </message>
     <message id="kNotAFileReason">
         <source></source>
@@ -1445,7 +1445,7 @@
     </message>
     <message id="kNoticeLimit">
         <source></source>
-        <translation>Dalla riga %1 in poi il file non è stato letto: lì contiene più campi, attributi o elementi annidati di qualsiasi elenco di un televisore.</translation>
+        <translation>Dalla riga %1 in poi il file non è stato letto: lì contiene più campi, attributi o elementi annidati di qualsiasi lista di un televisore.</translation>
     </message>
     <message id="kNoticeNoXML">
         <source></source>
@@ -1520,7 +1520,7 @@
     </message>
     <message id="kOrderJSON">
         <source></source>
-        <translation>È un elenco del tipo che conserva i canali come JSON. Lì gli identificatori sono numeri, con i quali non si riconoscono i canali di altri elenchi.</translation>
+        <translation>È una lista del tipo che conserva i canali come JSON. Lì gli identificatori sono numeri, con i quali non si riconoscono i canali di altre liste.</translation>
     </message>
     <message id="kOrderLines">
         <source></source>
@@ -1636,7 +1636,7 @@
     </message>
     <message id="kPreviewPasteNone">
         <source></source>
-        <translation>Non si può spostare nulla: nessuna riga corrisponde a un canale dell’elenco mostrato.</translation>
+        <translation>Non si può spostare nulla: nessuna riga corrisponde a un canale della lista mostrata.</translation>
     </message>
     <message id="kPreviewPasteUnchecked">
         <source></source>
@@ -1662,7 +1662,7 @@
     </message>
     <message id="kPreviewSorted">
         <source></source>
-        <translation>L’elenco viene messo nell’ordine dei suoi numeri.</translation>
+        <translation>La lista viene messa nell’ordine dei suoi numeri.</translation>
     </message>
     <message id="kPreviewToTheEnd" numerus="yes">
         <source></source>
@@ -1681,8 +1681,8 @@
     <message id="kPreviewUnsure" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n riga incerta o di un altro elenco non è spuntata.</numerusform>
-            <numerusform>%n righe incerte o di un altro elenco non sono spuntate.</numerusform>
+            <numerusform>%n riga incerta o di un’altra lista non è spuntata.</numerusform>
+            <numerusform>%n righe incerte o di un’altra lista non sono spuntate.</numerusform>
         </translation>
     </message>
     <message id="kPrintedFiltered">
@@ -1933,7 +1933,7 @@
     </message>
     <message id="kRowElsewhere">
         <source></source>
-        <translation>là in un altro elenco</translation>
+        <translation>là in un’altra lista</translation>
     </message>
     <message id="kRowFields">
         <source></source>
@@ -2263,7 +2263,7 @@ Questi proseguono dal numero: %3</translation>
     </message>
     <message id="kTipNotRead">
         <source></source>
-        <translation>L’elenco non è stato letto da un file</translation>
+        <translation>La lista non è stata letta da un file</translation>
     </message>
     <message id="kTipNotTold">
         <source></source>
@@ -2406,7 +2406,7 @@ Questi proseguono dal numero: %3</translation>
     </message>
     <message id="kToldNotTakenOver">
         <source></source>
-        <translation>Nulla ripreso: nel frattempo l’elenco è cambiato</translation>
+        <translation>Nulla ripreso: nel frattempo la lista è cambiata</translation>
     </message>
     <message id="kToldOrdered">
         <source></source>
@@ -2435,7 +2435,7 @@ Questi proseguono dal numero: %3</translation>
     </message>
     <message id="kToldPasteGone">
         <source></source>
-        <translation>Nulla è stato spostato: i canali, o la riga in cui metterli, non sono più nell’elenco visualizzato</translation>
+        <translation>Nulla è stato spostato: i canali, o la riga in cui metterli, non sono più nella lista visualizzata</translation>
     </message>
     <message id="kToldPasteThere">
         <source></source>

@@ -385,7 +385,7 @@
     </message>
     <message id="kCompareNoneShown">
         <source></source>
-        <translation>Żaden kanał nie jest rodzaju zaznaczonego powyżej i nie pasuje zarazem do wyszukiwania.</translation>
+        <translation>Żaden kanał zaznaczonego powyżej rodzaju nie pasuje do wyszukiwania.</translation>
     </message>
     <message id="kCompareNoSuchDifference">
         <source></source>

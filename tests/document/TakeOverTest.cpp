@@ -68,13 +68,6 @@ std::vector<TakenStation> allOf(const StationList &list, const StationList &othe
     return taken;
 }
 
-StationPtr copyOf(const LGStation &station)
-{
-    if (isOfLegacyFormat(station))
-        return std::make_shared<LGLegacyStation>(station.entry(), station.origPos());
-    return std::make_shared<LGStation>(station.entry(), station.origPos());
-}
-
 /// Made-up lists whose numbers rise, some of whose identifiers, frequencies and names are shared.
 class RandomLists
 {

@@ -176,13 +176,6 @@ ListComparison Comparing::take()
     return std::move(m_comparison);
 }
 
-StationPtr copyOf(const LGStation &station)
-{
-    if (isOfLegacyFormat(station))
-        return std::make_shared<LGLegacyStation>(station.entry(), station.origPos());
-    return std::make_shared<LGStation>(station.entry(), station.origPos());
-}
-
 } // namespace
 
 bool ListComparison::isEmpty() const
@@ -232,6 +225,13 @@ void keepOnlyTold(ListComparison &comparison,
     counted.isSameOrder = comparison.isSameOrder;
     count(counted);
     comparison = std::move(counted);
+}
+
+StationPtr copyOf(const LGStation &station)
+{
+    if (isOfLegacyFormat(station))
+        return std::make_shared<LGLegacyStation>(station.entry(), station.origPos());
+    return std::make_shared<LGStation>(station.entry(), station.origPos());
 }
 
 StationLists copyOf(const StationLists &lists)

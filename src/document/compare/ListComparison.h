@@ -73,6 +73,8 @@ struct ListComparison
 void keepOnlyTold(ListComparison &comparison,
                   const std::function<StationDifferences(const LGStation &second)> &told);
 
+/// The same station again, in its variant of the file, named as if it had just been read.
+[[nodiscard]] StationPtr copyOf(const LGStation &station);
 /// The same stations again, in the same order, in lists of their own: for comparing them on another
 /// thread. They are named as if they had just been read.
 [[nodiscard]] StationLists copyOf(const StationLists &lists);

@@ -4,7 +4,6 @@
 #include "document/text/RowMatching.h"
 #include "document/text/RowReading.h"
 #include "document/text/StationKey.h"
-#include "model/LGLegacyStation.h"
 #include "support/ShortText.h"
 
 #include <QSet>
@@ -128,11 +127,7 @@ std::vector<bool> columnsOfSetMarks(const SeparatedTable &table, const Columns &
 /// Only what is told and differs is changed, so that everything else stays as it is in the file.
 StationPtr completed(const LGStation &row, StationDifferences told, const LGStation &station)
 {
-    StationPtr made;
-    if (isOfLegacyFormat(station))
-        made = std::make_shared<LGLegacyStation>(station.entry(), station.origPos());
-    else
-        made = std::make_shared<LGStation>(station.entry(), station.origPos());
+    const StationPtr made = copyOf(station);
     made->setRememberedName(station.rememberedName());
     made->setIsRadio(station.isRadio());
     if (told.testFlag(StationDifference::Number) && row.progNum() != made->progNum())
@@ -168,7 +163,7 @@ StationPtr withWholeName(const StationPtr &row, const QHash<QString, QString> &n
     const auto whole = names.constFind(RowMatching::plainName(*row));
     if (whole == names.cend() || *whole == row->shownName())
         return row;
-    const auto made = std::make_shared<LGStation>(row->entry(), row->origPos());
+    const StationPtr made = copyOf(*row);
     made->setName(*whole);
     return made;
 }

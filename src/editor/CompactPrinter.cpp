@@ -8,8 +8,6 @@
 #include <QPainter>
 #include <QTableView>
 
-#include <cmath>
-
 namespace quillet {
 
 namespace {
@@ -18,6 +16,15 @@ namespace {
 constexpr double fontSize = 0.9;
 /// What a longer name is cut to, so that a single one does not cost all others a column.
 constexpr int longestName = 22; // average letters
+/// To which it grows where there is room.
+constexpr qreal largestScale = 1.5;
+/// In its widths, how wide a column may be: the eye has to find the mark behind the name.
+constexpr qreal widestColumn = 1.3;
+
+int ceilOf(int number, int divisor)
+{
+    return (number + divisor - 1) / divisor;
+}
 
 qreal widestText(const QAbstractItemModel &model, const std::vector<int> &rows, int column,
                  const QFontMetrics &metrics, qreal most)
@@ -43,22 +50,32 @@ QFont CompactPrinter::font() const
 
 int CompactPrinter::layOut(QSizeF room, const QFontMetrics &metrics)
 {
-    m_room = room;
     m_lineHeight = metrics.height();
-    m_lines = qMax(1, static_cast<int>(std::floor(room.height() / m_lineHeight)));
     m_numberWidth =
         widestText(model(), rows(), columnOf(ColumnContent::Number), metrics, room.width());
-    const qreal name = widestText(model(), rows(), columnOf(ColumnContent::Name), metrics,
-                                  longestName * metrics.averageCharWidth());
-    const qreal mark = m_lineHeight;
-    const qreal needed = m_numberWidth + name + mark + 4 * cellPadding;
-    const int columns = qMax(1, static_cast<int>(std::floor(room.width() / needed)));
-    m_columnWidth = room.width() / columns;
+    const qreal besides = m_numberWidth + m_lineHeight + 4 * cellPadding; // with the mark
+    const qreal name =
+        widestText(model(), rows(), columnOf(ColumnContent::Name), metrics, room.width());
+    const qreal cut = qMin<qreal>(name, longestName * metrics.averageCharWidth());
+    const int mostLines = qMax(1, static_cast<int>(room.height() / m_lineHeight));
+    const int mostColumns = qMax(1, static_cast<int>(room.width() / (besides + cut)));
+    const int count = qMax(1, static_cast<int>(rows().size()));
+    const int pages = ceilOf(count, mostLines * mostColumns);
+    const int columns = ceilOf(count, mostLines * pages);
+    m_lines = ceilOf(count, columns * pages);
+    m_scale = qBound<qreal>(
+        1,
+        qMin(room.height() / (m_lines * m_lineHeight), room.width() / (columns * (besides + name))),
+        largestScale);
+    m_room = room / m_scale;
+    m_columnWidth = qMin(m_room.width() / columns, widestColumn * (besides + name));
     return m_lines * columns;
 }
 
 void CompactPrinter::drawRows(QPainter &painter, int first, int end) const
 {
+    painter.save();
+    painter.scale(m_scale, m_scale);
     const bool fromRight = painter.layoutDirection() == Qt::RightToLeft;
     for (int place = first; place < end; ++place) {
         const int column = (place - first) / m_lines;
@@ -75,6 +92,7 @@ void CompactPrinter::drawRows(QPainter &painter, int first, int end) const
         drawStation(painter, rows()[static_cast<std::size_t>(place)],
                     cell.adjusted(cellPadding, 0, -cellPadding, 0));
     }
+    painter.restore();
 }
 
 void CompactPrinter::drawStation(QPainter &painter, int row, const QRectF &cell) const

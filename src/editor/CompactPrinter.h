@@ -4,8 +4,9 @@
 
 namespace quillet {
 
-/// Prints numbers and names alone, in as many columns as fit on the page, to be read downwards, one
-/// column after the other. Stations that are locked have a mark behind the name.
+/// Prints numbers and names alone, to be read downwards, one column after the other: on as few
+/// pages as they fit on, and there in no more columns and no smaller letters than that takes.
+/// Stations that are locked have a mark behind the name.
 class CompactPrinter : public PagePrinter
 {
 public:
@@ -19,6 +20,7 @@ protected:
 private:
     void drawStation(QPainter &painter, int row, const QRectF &cell) const;
 
+    qreal m_scale = 1; ///< by which all is larger than the font; lengths are before it
     QSizeF m_room;
     qreal m_lineHeight = 0;
     qreal m_numberWidth = 0;

@@ -18,6 +18,8 @@ constexpr double fontSize = 0.9;
 constexpr int longestName = 22; // average letters
 /// To which it grows where there is room.
 constexpr qreal largestScale = 1.5;
+/// In heights of letters, how high a line may be.
+constexpr qreal highestLine = 1.5;
 /// In its widths, how wide a column may be: the eye has to find the mark behind the name.
 constexpr qreal widestColumn = 1.3;
 
@@ -50,24 +52,25 @@ QFont CompactPrinter::font() const
 
 int CompactPrinter::layOut(QSizeF room, const QFontMetrics &metrics)
 {
-    m_lineHeight = metrics.height();
+    m_markWidth = metrics.height();
     m_numberWidth =
         widestText(model(), rows(), columnOf(ColumnContent::Number), metrics, room.width());
-    const qreal besides = m_numberWidth + m_lineHeight + 4 * cellPadding; // with the mark
+    const qreal besides = m_numberWidth + m_markWidth + 4 * cellPadding;
     const qreal name =
         widestText(model(), rows(), columnOf(ColumnContent::Name), metrics, room.width());
     const qreal cut = qMin<qreal>(name, longestName * metrics.averageCharWidth());
-    const int mostLines = qMax(1, static_cast<int>(room.height() / m_lineHeight));
+    const int mostLines = qMax(1, static_cast<int>(room.height() / metrics.height()));
     const int mostColumns = qMax(1, static_cast<int>(room.width() / (besides + cut)));
     const int count = qMax(1, static_cast<int>(rows().size()));
     const int pages = ceilOf(count, mostLines * mostColumns);
     const int columns = ceilOf(count, mostLines * pages);
     m_lines = ceilOf(count, columns * pages);
-    m_scale = qBound<qreal>(
-        1,
-        qMin(room.height() / (m_lines * m_lineHeight), room.width() / (columns * (besides + name))),
-        largestScale);
+    m_scale = qBound<qreal>(1,
+                            qMin(room.height() / (m_lines * metrics.height()),
+                                 room.width() / (columns * (besides + name))),
+                            largestScale);
     m_room = room / m_scale;
+    m_lineHeight = qMin(m_room.height() / m_lines, highestLine * metrics.height());
     m_columnWidth = qMin(m_room.width() / columns, widestColumn * (besides + name));
     return m_lines * columns;
 }
@@ -110,7 +113,7 @@ void CompactPrinter::drawStation(QPainter &painter, int row, const QRectF &cell)
                       width, cell.height());
     };
     const qreal nameLeft = m_numberWidth + 2 * cellPadding;
-    const qreal nameWidth = cell.width() - nameLeft - (isLocked ? m_lineHeight : 0);
+    const qreal nameWidth = cell.width() - nameLeft - (isLocked ? m_markWidth : 0);
     painter.setPen(ink(isSkipped));
     drawText(painter, partOf(0, m_numberWidth), int{Qt::AlignRight | Qt::AlignVCenter},
              of(ColumnContent::Number, Qt::DisplayRole).toString());
@@ -119,7 +122,7 @@ void CompactPrinter::drawStation(QPainter &painter, int row, const QRectF &cell)
              of(ColumnContent::Name, Qt::DisplayRole).toString());
     if (isLocked)
         drawGlyph(painter, Glyph::Lock,
-                  glyphPlace(painter, partOf(cell.width() - m_lineHeight, m_lineHeight)),
+                  glyphPlace(painter, partOf(cell.width() - m_markWidth, m_markWidth)),
                   ink(isSkipped));
 }
 

@@ -24,6 +24,7 @@ private:
     QSizeF m_room;
     qreal m_lineHeight = 0;
     qreal m_numberWidth = 0;
+    qreal m_markWidth = 0;
     qreal m_columnWidth = 0;
     int m_lines = 1; ///< of a column
 };

@@ -54,21 +54,12 @@ QByteArray separated(const HtmlTable &table, QChar separator)
 /// Keys tell the stations of a whole list apart.
 QByteArray keyedRows(const StationList &stations, const StationList &list)
 {
-    const QStringList keys = stationKeys(list);
-    QHash<const LGStation *, QString> keyOf;
-    for (qsizetype i = 0; i < keys.size(); ++i)
-        keyOf.insert(list[static_cast<std::size_t>(i)].get(), keys[i]);
+    const auto keyOf = keysByStation(list);
     SeparatedText text(u',');
     text.addRow({columnWith(ColumnContent::Name).identifier, keyTitle});
     for (const StationPtr &station : stations)
         text.addRow({station->shownName().remove(QChar::Null), keyOf.value(station.get())});
     return text.text().toUtf8();
-}
-
-bool hasText(const SeparatedRow &row)
-{
-    return std::any_of(row.begin(), row.end(),
-                       [](const SeparatedCell &cell) { return !cell.text.trimmed().isEmpty(); });
 }
 
 /// Whether the row that nothing was read of, above all others, is one of titles: of a known one,
@@ -82,7 +73,7 @@ bool areTitles(const SeparatedRow &first, const SeparatedTable &table, const Row
     return isKnown ||
            (first.size() > 1 &&
             std::all_of(table.rows.begin(), table.rows.end(), [&first](const SeparatedRow &row) {
-                return row.size() == first.size() || !hasText(row);
+                return row.size() == first.size() || isBlank(row);
             }));
 }
 
@@ -93,8 +84,9 @@ std::optional<PastedStations> pastedOf(StationRows rows, const SeparatedTable &t
     if (rows.stations.empty())
         return {};
     PastedStations pasted{std::move(rows)};
-    const auto first = std::find_if(table.rows.begin(), table.rows.end(), hasText);
-    pasted.unread = static_cast<std::size_t>(std::count_if(first, table.rows.end(), hasText)) -
+    const auto first = table.firstRow();
+    const auto isTelling = [](const SeparatedRow &row) { return !isBlank(row); };
+    pasted.unread = static_cast<std::size_t>(std::count_if(first, table.rows.end(), isTelling)) -
                     pasted.rows.stations.size();
     if (pasted.rows.lines.front() > first->front().line && areTitles(*first, table, titles))
         --pasted.unread;

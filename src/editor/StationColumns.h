@@ -51,7 +51,7 @@ struct StationColumn
 inline constexpr std::array stationColumns{
     StationColumn{QLatin1String("progNum"), ColumnContent::Number, "kColumnNumber", "kColumnNumberFull", 9, Qt::AlignRight, ColumnUse::Always, Glyph::None},
     StationColumn{QLatin1String("progName"), ColumnContent::Name, "kColumnName", "kColumnName", 0, Qt::AlignLeft, ColumnUse::Always, Glyph::None},
-    StationColumn{QLatin1String("visible"), ColumnContent::Type, "kColumnType", "kColumnType", 11, Qt::AlignHCenter, ColumnUse::Usual, Glyph::None},
+    StationColumn{QLatin1String("visible"), ColumnContent::Type, "kColumnType", "kColumnType", 13, Qt::AlignHCenter, ColumnUse::Usual, Glyph::None},
     StationColumn{QLatin1String("skipped"), ColumnContent::Skipped, "kColumnSkipped", "kColumnSkipped", 9, Qt::AlignHCenter, ColumnUse::Usual, Glyph::None},
     StationColumn{QLatin1String("blocked"), ColumnContent::Blocked, "kColumnBlocked", "kColumnBlocked", 9, Qt::AlignHCenter, ColumnUse::Usual, Glyph::Lock},
     StationColumn{QLatin1String("networkId"), ColumnContent::NetworkId, "kColumnNetworkId", "kColumnNetworkIdFull", 10, Qt::AlignRight, ColumnUse::Extra, Glyph::None},

@@ -6,6 +6,7 @@
 #include "document/text/StationKey.h"
 #include "support/ShortText.h"
 
+#include <QRegularExpression>
 #include <QSet>
 
 #include <algorithm>
@@ -124,6 +125,13 @@ std::vector<bool> columnsOfSetMarks(const SeparatedTable &table, const Columns &
     return anySet;
 }
 
+/// Spreadsheets break lines within cells; sets show one line.
+QString inOneLine(QString name)
+{
+    static const QRegularExpression breaks(QStringLiteral("\\s*[\\r\\n]+\\s*"));
+    return name.replace(breaks, QStringLiteral(" "));
+}
+
 /// Only what is told and differs is changed, so that everything else stays as it is in the file.
 StationPtr completed(const LGStation &row, StationDifferences told, const LGStation &station)
 {
@@ -138,7 +146,7 @@ StationPtr completed(const LGStation &row, StationDifferences told, const LGStat
         made->setBlocked(row.isBlocked());
     if (told.testFlag(StationDifference::Name) &&
         !RowMatching::areSameNames(RowMatching::plainName(row), RowMatching::plainName(*made)))
-        made->setStationName(row.shownName());
+        made->setStationName(inOneLine(row.shownName()));
     return made;
 }
 

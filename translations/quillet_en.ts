@@ -2291,7 +2291,7 @@ These go on from number: %3</translation>
     </message>
     <message id="kTipTakeNothing">
         <source></source>
-        <translation>Nothing of the selected rows can be taken over.</translation>
+        <translation>Nothing in the selected rows can be taken over.</translation>
     </message>
     <message id="kTipTakeSelected">
         <source></source>

@@ -90,17 +90,14 @@ public:
 signals:
     void rowsAboutToChange();
     void rowsChanged();
-    /// What is checked or taken over has.
     void choiceChanged();
-    /// In a sentence.
-    void takenOver(const QString &text);
+    void takenOver(const QString &sentence);
     void documentGone();
 
 private:
     void compareAnew();
     [[nodiscard]] ComparisonRows rowsNow(const TLLDocument &document) const;
     void show(ComparisonRows rows);
-    /// Changes what is on show.
     void narrow(const std::function<void()> &change);
     void choose();
     void numberChecked();

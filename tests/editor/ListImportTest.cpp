@@ -390,6 +390,18 @@ private slots:
         QCOMPARE(editor.rows(), u"1 A, 2 B, 3 C"_s);
     }
 
+    void anEmptyListOnShowIsNoTable()
+    {
+        Editor editor(lettered({1, 2}));
+        editor.controller.useRadioClicked();
+        QString reason;
+        const auto imported = importedTable("progNum;progName;Remark\n;;Our own\n5;A;good\n", {},
+                                            editor.document, reason);
+        QVERIFY2(imported, qPrintable(reason));
+        std::make_shared<StationComparison>(editor.controller, *imported)->takeOverAll();
+        QCOMPARE(editor.list(0), u"2 B, 5 A"_s);
+    }
+
     /// Whoever asks sees the comparison, or why there is none; nothing is changed by that.
     void tellsWhatComesOfAFile()
     {

@@ -40,8 +40,10 @@ private:
     [[nodiscard]] std::optional<qint64> part(const LGStation &station, Part part);
     [[nodiscard]] qint64 numberOf(const QString &text);
 
-    Dictionary::Keys m_keys;             ///< of the records read last, mostly those of all
-    std::array<qsizetype, 3> m_places{}; ///< of the parts among them
+    /// Of the records read last, mostly those of all; null if they have none.
+    Dictionary::Keys m_keys;
+    /// Of the parts among them.
+    std::array<qsizetype, 3> m_places{KeyTable::none, KeyTable::none, KeyTable::none};
     QHash<QString, qint64> m_texts; ///< those that are no numbers, with the numbers they have here
 };
 

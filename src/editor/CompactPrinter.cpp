@@ -55,7 +55,7 @@ int CompactPrinter::layOut(QSizeF room, const QFontMetrics &metrics)
     m_markWidth = metrics.height();
     m_numberWidth =
         widestText(model(), rows(), columnOf(ColumnContent::Number), metrics, room.width());
-    const qreal besides = m_numberWidth + m_markWidth + 4 * cellPadding;
+    const qreal besides = m_numberWidth + m_markWidth + 4 * cellPadding + 1; // by which is rounded
     const qreal name =
         widestText(model(), rows(), columnOf(ColumnContent::Name), metrics, room.width());
     const qreal cut = qMin<qreal>(name, longestName * metrics.averageCharWidth());

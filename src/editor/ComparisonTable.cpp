@@ -42,9 +42,11 @@ ComparisonTable::ComparisonTable(StationComparison &comparison, QWidget *parent)
                      leastRows * verticalHeader()->defaultSectionSize() +
                      horizontalScrollBar()->sizeHint().height() + 2 * frameWidth());
     horizontalHeader()->setResizeContentsPrecision(rowsMeasured);
-    connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int, int, int width) {
-        m_isSizedByHand = m_isSizedByHand || (!m_isFitting && width > 0);
-    });
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this,
+            [this](int, int before, int now) {
+                const bool isShownOrHidden = before == 0 || now == 0;
+                m_isSizedByHand = m_isSizedByHand || !(m_isFitting || isShownOrHidden);
+            });
     if (comparison.purpose() == ComparedWith::Purpose::Compare) // elsewhere it goes on
         connect(this, &DarkModeTableView::returnPressed, this, &ComparisonTable::reveal);
     connect(this, &QTableView::doubleClicked, this, [this](const QModelIndex &index) {

@@ -390,7 +390,7 @@ private slots:
         QCOMPARE(editor.rows(), u"1 A, 2 B, 3 C"_s);
     }
 
-    void anEmptyListOnShowIsNoTable()
+    void tableIsReadBesideAnEmptyList()
     {
         Editor editor(lettered({1, 2}));
         editor.controller.useRadioClicked();

@@ -180,7 +180,7 @@ QSet<QString> namesIn(const StationLists &lists)
         for (int source = 0; source < stationSourceCount; ++source) {
             if (const StationListPtr &list = lists.list(isTV, source)) {
                 for (const StationPtr &station : *list)
-                    names.insert(cleanName(station->shownName()).simplified());
+                    names.insert(plainName(station->shownName()));
             }
         }
     }

@@ -22,18 +22,12 @@ const QString textFormat = QStringLiteral("text/plain");
 /// More than the rows of any list, in bytes: what is longer is something else.
 constexpr qsizetype longestText = 32 * 1024 * 1024;
 
-/// A line of a text, without what no text has.
-QString inOneLine(const QString &text)
-{
-    return cleanName(text).simplified();
-}
-
 QString linesOf(const StationList &stations, const StationCells &cells)
 {
     QString lines;
     for (const StationPtr &station : stations) {
         lines += cells.text(*station, ColumnContent::Number) + u'\t' +
-                 inOneLine(cells.text(*station, ColumnContent::Name)) + u'\t' +
+                 plainName(cells.text(*station, ColumnContent::Name)) + u'\t' +
                  cells.text(*station, ColumnContent::Type) + u'\n';
     }
     return lines;
@@ -133,7 +127,7 @@ std::unique_ptr<QMimeData> copiedStations(const TableController &table, const St
         QStringList &row = copied.rows.emplace_back().cells;
         for (const ColumnContent content : columns) {
             const std::optional<bool> mark = StationCells::mark(*station, content);
-            row.append(mark ? QString::number(*mark) : inOneLine(cells.text(*station, content)));
+            row.append(mark ? QString::number(*mark) : plainName(cells.text(*station, content)));
         }
     }
     auto data = std::make_unique<QMimeData>();

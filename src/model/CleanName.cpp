@@ -76,4 +76,9 @@ QString cleanName(const QString &name)
     return clean;
 }
 
+QString plainName(const QString &name)
+{
+    return cleanName(name).simplified();
+}
+
 } // namespace quillet

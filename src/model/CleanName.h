@@ -10,4 +10,8 @@ namespace quillet {
 /// are returned as they are.
 [[nodiscard]] QString cleanName(const QString &name);
 
+/// What a table or a line of text surely keeps of a name: the clean one, without blanks around it
+/// and with one between its words.
+[[nodiscard]] QString plainName(const QString &name);
+
 } // namespace quillet

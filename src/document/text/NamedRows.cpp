@@ -12,11 +12,6 @@ namespace quillet {
 
 namespace {
 
-QString plainText(const QString &text)
-{
-    return cleanName(text).simplified();
-}
-
 /// The names of a list, in the form in which a text surely has them.
 class Names
 {
@@ -42,10 +37,10 @@ public:
     /// only one station may be meant.
     [[nodiscard]] QString meantBy(const QString &text) const
     {
-        const QString plain = plainText(text);
+        const QString plain = plainName(text);
         const auto known = m_names.constFind(looseName(text));
         const bool isOne = known != m_names.cend() && known->stations == 1;
-        return isOne && plainText(known->whole) == plain ? known->whole : plain;
+        return isOne && plainName(known->whole) == plain ? known->whole : plain;
     }
 
 private:

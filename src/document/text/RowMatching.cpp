@@ -78,11 +78,6 @@ private:
 
 } // namespace
 
-QString RowMatching::plainName(const LGStation &station)
-{
-    return cleanName(station.shownName()).simplified();
-}
-
 bool RowMatching::areSameNames(const QString &inTable, const QString &name)
 {
     if (inTable == name || !inTable.contains(u'?'))
@@ -98,7 +93,7 @@ RowMatching::RowMatching(const StationRows &rows, const StationList &list, bool 
 {
     m_names.reserve(list.size());
     for (const StationPtr &station : list)
-        m_names.push_back(plainName(*station));
+        m_names.push_back(plainName(station->shownName()));
 }
 
 void RowMatching::findOwn()
@@ -116,8 +111,9 @@ void RowMatching::findOwn()
             row.own = *found;
         if (!row.own)
             continue;
-        row.isNameOther = m_told.told[i].testFlag(StationDifference::Name) &&
-                          !areSameNames(plainName(*m_told.stations[i]), m_names[*row.own]);
+        row.isNameOther =
+            m_told.told[i].testFlag(StationDifference::Name) &&
+            !areSameNames(plainName(m_told.stations[i]->shownName()), m_names[*row.own]);
         if (!m_ownRows[*row.own])
             m_ownRows[*row.own] = i;
     }
@@ -177,7 +173,7 @@ void RowMatching::findNamed()
         Row &row = m_rows[i];
         if (!row.isNameOther)
             continue;
-        const QString name = plainName(*m_told.stations[i]);
+        const QString name = plainName(m_told.stations[i]->shownName());
         const Group near = alike.value(std::pair(keyOf(*row.own), name));
         const Group all = byName.value(name);
         row.isNamedAlike = near.count == 1;

@@ -24,9 +24,6 @@ public:
         return m_rows[row].place;
     }
 
-    /// What a spreadsheet surely keeps of a name: not the blanks around it and the codes of the
-    /// broadcast.
-    [[nodiscard]] static QString plainName(const LGStation &station);
     /// Whether plain names are the same but for letters that a table could not hold: there it has
     /// question marks.
     [[nodiscard]] static bool areSameNames(const QString &inTable, const QString &name);

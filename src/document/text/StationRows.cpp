@@ -4,6 +4,7 @@
 #include "document/text/RowMatching.h"
 #include "document/text/RowReading.h"
 #include "document/text/StationKey.h"
+#include "model/CleanName.h"
 #include "support/ShortText.h"
 
 #include <QRegularExpression>
@@ -126,7 +127,7 @@ std::vector<bool> columnsOfSetMarks(const SeparatedTable &table, const Columns &
 }
 
 /// Spreadsheets break lines within cells; sets show one line.
-QString inOneLine(QString name)
+QString withoutBreaks(QString name)
 {
     static const QRegularExpression breaks(QStringLiteral("\\s*[\\r\\n]+\\s*"));
     return name.replace(breaks, QStringLiteral(" "));
@@ -145,8 +146,8 @@ StationPtr completed(const LGStation &row, StationDifferences told, const LGStat
     if (told.testFlag(StationDifference::Locked) && row.isBlocked() != made->isBlocked())
         made->setBlocked(row.isBlocked());
     if (told.testFlag(StationDifference::Name) &&
-        !RowMatching::areSameNames(RowMatching::plainName(row), RowMatching::plainName(*made)))
-        made->setStationName(inOneLine(row.shownName()));
+        !RowMatching::areSameNames(plainName(row.shownName()), plainName(made->shownName())))
+        made->setStationName(withoutBreaks(row.shownName()));
     return made;
 }
 
@@ -156,7 +157,7 @@ QHash<QString, QString> wholeNames(const StationList &list)
     QHash<QString, QString> names;
     for (const StationPtr &station : list) {
         const QString name = station->shownName();
-        const QString plain = RowMatching::plainName(*station);
+        const QString plain = plainName(station->shownName());
         if (const auto known = names.find(plain); known == names.end())
             names.insert(plain, name);
         else if (*known != name)
@@ -168,7 +169,7 @@ QHash<QString, QString> wholeNames(const StationList &list)
 /// The same row but for that. Rows are tried with several lists, so it is a record of its own.
 StationPtr withWholeName(const StationPtr &row, const QHash<QString, QString> &names)
 {
-    const auto whole = names.constFind(RowMatching::plainName(*row));
+    const auto whole = names.constFind(plainName(row->shownName()));
     if (whole == names.cend() || *whole == row->shownName())
         return row;
     const StationPtr made = copyOf(*row);

@@ -2,9 +2,9 @@
 
 #include "app/AppDelegate.h"
 #include "app/CommandLine.h"
-#include "app/Translations.h"
 #include "bench/FirstPaint.h"
 #include "framework/QtPrompts.h"
+#include "texts/Translations.h"
 
 int main(int argc, char *argv[])
 {

@@ -1,7 +1,7 @@
 #include "app/CommandLine.h"
 
 #include "app/PlatformOptions.h"
-#include "app/Translations.h"
+#include "texts/Translations.h"
 
 #include <QCommandLineParser>
 

@@ -1,6 +1,5 @@
 #include "app/AppDelegate.h"
 #include "app/CommandLine.h"
-#include "app/Environment.h"
 #include "app/ExitHook.h"
 #include "app/HelpProgram.h"
 #include "app/OneInstance.h"
@@ -8,13 +7,14 @@
 #include "app/SessionFolder.h"
 #include "app/Snapshot.h"
 #include "app/TerminationSignals.h"
-#include "app/Translations.h"
+#include "files/Environment.h"
 #include "files/FileNames.h"
 #include "files/FileOperations.h"
 #include "files/RecoveryStore.h"
 #include "framework/QtPrompts.h"
 #include "support/KXFileLog.h"
 #include "support/LogClaim.h"
+#include "texts/Translations.h"
 
 #include <QApplication>
 #include <QIcon>

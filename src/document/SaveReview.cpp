@@ -1,7 +1,6 @@
 #include "document/SaveReview.h"
 
-#include "model/CleanName.h"
-#include "support/ShortText.h"
+#include "texts/RehearsalTexts.h"
 
 #include <QStringList>
 
@@ -9,44 +8,9 @@ namespace quillet {
 
 namespace {
 
-constexpr qsizetype longestName = 60;
-
-QString withNames(const char *id, const Rehearsal::Stations &stations)
+QStringList bulletsOf(const Rehearsal &rehearsal)
 {
-    QStringList drawn;
-    for (const QString &name : stations.names)
-        drawn.append(shortened(cleanName(name), longestName));
-    QString names = drawn.join(QLatin1String(", "));
-    if (stations.count > stations.names.size())
-        names += QStringLiteral(" …");
-    return qtTrId(id, static_cast<int>(stations.count)).arg(names);
-}
-
-QStringList findings(const Rehearsal &rehearsal)
-{
-    QStringList lines;
-    const auto add = [&lines](const char *id, const Rehearsal::Stations &stations) {
-        if (stations.count > 0)
-            lines.append(withNames(id, stations));
-    };
-    if (rehearsal.isRefused)
-        lines.append(qtTrId("kReviewRefused"));
-    add("kReviewMissing", rehearsal.missing);
-    add("kReviewDoubled", rehearsal.doubled);
-    add("kReviewChanged", rehearsal.changed);
-    add("kReviewRenumbered", rehearsal.renumbered);
-    if (rehearsal.unread > 0)
-        lines.append(qtTrId("kReviewUnread", static_cast<int>(rehearsal.unread)));
-    else if (rehearsal.losesTail)
-        lines.append(qtTrId("kReviewTail"));
-    if (rehearsal.losesSurroundings)
-        lines.append(qtTrId("kReviewSurroundings"));
-    if (rehearsal.losesExtras)
-        lines.append(qtTrId("kReviewExtras"));
-    if (rehearsal.mixesEncodings)
-        lines.append(qtTrId("kReviewEncoding"));
-    if (rehearsal.inexactNumbers > 0)
-        lines.append(qtTrId("kReviewNumbers", static_cast<int>(rehearsal.inexactNumbers)));
+    QStringList lines = textsOf(rehearsal);
     for (QString &line : lines)
         line.prepend(QStringLiteral("• "));
     return lines;
@@ -67,7 +31,7 @@ SaveReview reviewOfSave(const QString &fileName, const Rehearsal &plain,
     using Answer = SaveReview::Answer;
     SaveReview review;
     review.alert.message = qtTrId("kReviewMessage").arg(fileName);
-    QStringList lines = findings(plain);
+    QStringList lines = bulletsOf(plain);
     lines.append(QString());
     if (!repaired) {
         lines.append(
@@ -75,7 +39,7 @@ SaveReview reviewOfSave(const QString &fileName, const Rehearsal &plain,
         review.answers = {Answer::Cancel, Answer::SaveAnyway};
     } else {
         lines.append(qtTrId(repaired->isClean() ? "kReviewRepair" : "kReviewRepairPartly"));
-        lines.append(findings(*repaired));
+        lines.append(bulletsOf(*repaired));
         review.answers = {Answer::SaveRepaired, Answer::SaveAnyway, Answer::Cancel};
         if (kind == SaveReview::Kind::JSONList && repaired->isClean())
             review.alert.checkBox = qtTrId("kReviewAlways");

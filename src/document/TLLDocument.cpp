@@ -9,6 +9,7 @@
 #include "document/review/Rehearsal.h"
 #include "document/write/TLLWriter.h"
 #include "framework/Prompts.h"
+#include "texts/FormatTexts.h"
 
 #include <QFileInfo>
 #include <QLoggingCategory>
@@ -63,22 +64,6 @@ bool TLLDocument::readRepaired(const MendedText &mended, const QString &fileName
         return false;
     m_repair = Repair{mended.mending, fileName};
     return true;
-}
-
-/// Which section made the file one of a bad format, and why.
-QString TLLDocument::badFormatDetail(const ChannelList &list)
-{
-    QStringList lines;
-    if (const auto &fault = list.formatFault)
-        lines.append(fault->distance == 0
-                         ? qtTrId("kBadSectionContent").arg(fault->section)
-                         : qtTrId("kBadSectionDistance", static_cast<int>(fault->distance))
-                               .arg(fault->section)
-                               .arg(FileLayout::longestDistance));
-    if (list.parseError)
-        lines.append(qtTrId(list.parseError->isLimit ? "kNoticeLimit" : "kNoticeDamagedLine")
-                         .arg(list.parseError->line));
-    return lines.join(u'\n');
 }
 
 QByteArray TLLDocument::dataOfType(const QString &, Error &)

@@ -127,7 +127,6 @@ protected:
     [[nodiscard]] QString savedText() const override;
 
 private:
-    [[nodiscard]] static QString badFormatDetail(const ChannelList &list);
     void updateStationPointer();
     [[nodiscard]] bool savesRepairedUnasked() const;
 

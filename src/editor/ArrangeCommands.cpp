@@ -1,7 +1,7 @@
 #include "editor/ArrangeCommands.h"
 
 #include "document/edit/StationEdits.h"
-#include "editor/StationSorting.h"
+#include "document/edit/StationSorting.h"
 
 #include <QSet>
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "document/edit/ArrangeKey.h"
 #include "document/edit/Arranging.h"
-#include "editor/ArrangeKey.h"
 #include "editor/EditSummary.h"
 #include "editor/EditorOutlets.h"
 #include "editor/ShownStations.h"

@@ -1,7 +1,8 @@
 #include "editor/ArrangeDialog.h"
 
-#include "editor/StationSorting.h"
+#include "document/edit/StationSorting.h"
 #include "editor/ViewController.h"
+#include "texts/ArrangeTitles.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>

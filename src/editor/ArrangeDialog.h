@@ -1,6 +1,6 @@
 #pragma once
 
-#include "editor/ArrangeKey.h"
+#include "document/edit/ArrangeKey.h"
 
 #include <QDialog>
 

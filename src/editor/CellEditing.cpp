@@ -1,9 +1,9 @@
 #include "editor/CellEditing.h"
 
 #include "editor/DarkModeTableView.h"
-#include "editor/StationColumns.h"
 #include "editor/TableSelection.h"
 #include "editor/ViewController.h"
+#include "texts/StationColumns.h"
 
 #include <QLineEdit>
 

@@ -1,9 +1,9 @@
 #include "editor/ColumnsMenu.h"
 
 #include "editor/ShownColumns.h"
-#include "editor/StationDetails.h"
 #include "editor/ViewController.h"
 #include "framework/Mnemonics.h"
+#include "texts/StationDetails.h"
 
 #include <QHeaderView>
 #include <QTableView>

@@ -1,8 +1,8 @@
 #include "editor/CompactPrinter.h"
 
 #include "editor/Glyphs.h"
-#include "editor/StationColumns.h"
 #include "editor/StationTableModel.h"
+#include "texts/StationColumns.h"
 
 #include <QFontMetrics>
 #include <QPainter>

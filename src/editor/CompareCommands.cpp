@@ -50,7 +50,9 @@ void CompareCommands::compareWithBytes(const QByteArray &bytes, const QString &n
         if (std::optional<ChannelList> list = channelListFromBytes(bytes);
             list && list->stationCount() > 0) {
             emit m_controller.comparisonWanted(
-                {.name = name, .lists = std::move(list->lists), .rule = rule()});
+                {.name = name,
+                 .lists = std::move(list->lists),
+                 .rule = numberRuleFor(m_controller.stationDoc()->list())});
             return;
         }
     } catch (const std::bad_alloc &) {
@@ -72,13 +74,6 @@ QString CompareCommands::reasonAgainstRead() const
     return document && !document->list().text.bytes().isEmpty() ? QString() : qtTrId("kTipNotRead");
 }
 
-/// Several of the channels of a list that is kept as JSON may have one number.
-NumberRule CompareCommands::rule() const
-{
-    const TLLDocument *document = m_controller.stationDoc();
-    return document && document->list().isLegacyFormat ? NumberRule::AsThere : NumberRule::AsGiven;
-}
-
 /// Of copies, for the other window goes on: what is checked and told of them stays true. When they
 /// were made is in the name.
 void CompareCommands::compareWithDocument(const TLLDocument &other)
@@ -97,7 +92,7 @@ void CompareCommands::compareWithDocument(const TLLDocument &other)
     emit m_controller.comparisonWanted(
         {.name = qtTrId("kCompareNameWindow").arg(other.titleName(), time),
          .lists = std::move(copies),
-         .rule = rule()});
+         .rule = numberRuleFor(m_controller.stationDoc()->list())});
 }
 
 void CompareCommands::askForTable()
@@ -133,7 +128,7 @@ void CompareCommands::compareWithTable(const QString &path)
 void CompareCommands::takeOver(const Plan &plan, const EditSummary &summary,
                                const std::function<void()> &done)
 {
-    const std::vector<ListEditor::TakeOverPart> planned = plan();
+    const TakeOverParts planned = plan();
     std::size_t beyond = 0;
     for (const auto &part : planned)
         beyond += part.plan.beyond();

@@ -44,14 +44,13 @@ public:
     /// One that cannot be used is told.
     void compareWithTable(const QString &path);
 
-    using Plan = std::function<std::vector<ListEditor::TakeOverPart>()>;
+    using Plan = std::function<TakeOverParts()>;
     /// Carries out what is planned, as one step that the summary tells, and calls `done`. Behind a
     /// question it is planned anew.
     void takeOver(const Plan &plan, const EditSummary &summary, const std::function<void()> &done);
 
 private:
     /// How equal numbers are taken over.
-    [[nodiscard]] NumberRule rule() const;
 
     ViewController &m_controller;
     EditorOutlets &m_outlets;

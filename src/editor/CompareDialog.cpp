@@ -7,6 +7,7 @@
 #include "editor/ViewController.h"
 #include "framework/Mnemonics.h"
 #include "framework/ScreenPlace.h"
+#include "texts/TakeOverTexts.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>

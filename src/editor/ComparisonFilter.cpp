@@ -1,6 +1,6 @@
 #include "editor/ComparisonFilter.h"
 
-#include "editor/ComparisonTexts.h"
+#include "texts/RowTexts.h"
 
 #include <QCheckBox>
 #include <QComboBox>

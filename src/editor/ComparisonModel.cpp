@@ -1,9 +1,10 @@
 #include "editor/ComparisonModel.h"
 
 #include "editor/CellFont.h"
-#include "editor/ComparisonTexts.h"
-#include "editor/ShownTexts.h"
+#include "editor/StationComparison.h"
 #include "framework/PlainToolTip.h"
+#include "texts/RowTexts.h"
+#include "texts/ShownTexts.h"
 
 #include <array>
 

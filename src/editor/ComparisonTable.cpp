@@ -1,10 +1,10 @@
 #include "editor/ComparisonTable.h"
 
 #include "editor/CheckMarkDelegate.h"
-#include "editor/ComparisonTexts.h"
 #include "editor/TableColumns.h"
 #include "editor/TableSelection.h"
 #include "editor/TypedTextDelegate.h"
+#include "texts/RowTexts.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>

@@ -1,76 +1,15 @@
 #include "editor/ComparisonTexts.h"
 
-#include "document/compare/StationIdentity.h"
-#include "document/compare/UnkeptNames.h"
-#include "editor/ShownTexts.h"
-#include "editor/SourceTitles.h"
+#include "texts/ShownTexts.h"
+#include "texts/TakeOverTexts.h"
 
 #include <QStringList>
-
-#include <algorithm>
-#include <array>
-#include <utility>
 
 namespace quillet {
 
 namespace {
 
 using Purpose = ComparedWith::Purpose;
-
-struct KindTitle
-{
-    ComparisonKind kind;
-    const char *title;
-    const char *ofRow; ///< in its row; null: other texts say more
-};
-
-constexpr std::array kindTitles{
-    KindTitle{ComparisonKind::Moved, "kCompareMoved", "kRowMoved"},
-    KindTitle{ComparisonKind::Renamed, "kCompareRenamed", "kRowRenamed"},
-    KindTitle{ComparisonKind::Flags, "kCompareFlags", nullptr},
-    KindTitle{ComparisonKind::Fields, "kCompareFields", "kRowFields"},
-    KindTitle{ComparisonKind::OnlyHere, "kCompareOnlyHere", "kRowOnlyHere"},
-    KindTitle{ComparisonKind::OnlyThere, "kCompareOnlyThere", "kRowOnlyThere"},
-    KindTitle{ComparisonKind::Same, "kCompareSame", nullptr},
-    KindTitle{ComparisonKind::Unclear, "kCompareUnclear", nullptr},
-};
-
-/// The same where only one list has the station, and it is more than that.
-constexpr std::array fateTitles{
-    KindTitle{ComparisonKind::OnlyHere, "kCompareToTheEnd", "kRowToTheEnd"},
-    KindTitle{ComparisonKind::OnlyThere, "kCompareFitsNothing", "kRowFitsNothing"},
-};
-
-const KindTitle &titlesOf(ComparisonKind kind, Purpose purpose)
-{
-    if (purpose != Purpose::Compare) {
-        for (const KindTitle &each : fateTitles) {
-            if (each.kind == kind)
-                return each;
-        }
-    }
-    std::size_t place = 0;
-    while (kindTitles.at(place).kind != kind)
-        ++place;
-    return kindTitles.at(place);
-}
-
-constexpr std::size_t mostNames = 5;
-
-QString namesOf(const StationList &stations)
-{
-    const StationList first(stations.begin(),
-                            stations.begin() +
-                                static_cast<std::ptrdiff_t>(std::min(stations.size(), mostNames)));
-    const UnkeptNames unkept(first);
-    QStringList names;
-    for (const StationPtr &station : first)
-        names.append(drawnName(*station));
-    const QString text = names.join(QStringLiteral(", "));
-    return stations.size() <= mostNames
-               ? text
-               : qtTrId("kAndMore", static_cast<int>(stations.size() - mostNames)).arg(text);
-}
 
 QString orderPreview(const StationComparison &comparison)
 {
@@ -123,41 +62,7 @@ QString pastePreview(const StationComparison &comparison)
         .arg(place ? place->progNumString() : QString(), place ? namesOf({place}) : QString());
 }
 
-/// Whether the list did not stand in the order of its numbers before.
-bool isPutInOrder(const ListEditor::TakeOverPart &part)
-{
-    const auto isBefore = [](const StationPtr &a, const StationPtr &b) {
-        return a->progNum() < b->progNum();
-    };
-    const std::vector<qint64> &numbers = part.plan.numbers;
-    return !std::is_sorted(part.list->begin(), part.list->end(), isBefore) &&
-           std::is_sorted(numbers.begin(), numbers.end());
-}
-
 } // namespace
-
-QString textOf(const ListComparison &comparison)
-{
-    if (comparison.isEmpty())
-        return qtTrId("kDiffSame");
-    QStringList parts;
-    const auto add = [&parts](const char *id, std::size_t count) {
-        if (count > 0)
-            parts.append(qtTrId(id, static_cast<int>(count)));
-    };
-    // Of stations on both sides a sum would say nothing.
-    const std::size_t gone = comparison.onlySecond + comparison.doubtful;
-    const std::size_t added = comparison.onlyFirst + comparison.doubtful;
-    const bool isBoth = gone > 0 && added > 0;
-    add(isBoth ? "kDiffGone" : "kDiffMore", gone);
-    add(isBoth ? "kDiffNew" : "kDiffFewer", added);
-    add("kDiffNumbers", comparison.numbers);
-    add("kDiffNames", comparison.names);
-    add("kDiffSkipped", comparison.skipped);
-    add("kDiffLocked", comparison.locked);
-    add("kDiffFields", comparison.fields);
-    return parts.isEmpty() ? qtTrId("kDiffOrder") : parts.join(QStringLiteral(", "));
-}
 
 QString titleOf(const ComparedWith &other)
 {
@@ -173,82 +78,6 @@ QString titleOf(const ComparedWith &other)
         return qtTrId("kCompareTitlePaste");
     }
     return {};
-}
-
-QString titleOf(StationComparison::List list)
-{
-    return qtTrId(list.isTV ? "kPrintedTV" : "kPrintedRadio").arg(sourceTitle(list.source));
-}
-
-QString shortTitleOf(StationComparison::List list)
-{
-    const QString source = sourceTitle(list.source);
-    return list.isTV ? source : source + u' ' + qtTrId("kRadio").remove(u'&');
-}
-
-QString titleOf(ComparisonKind kind, Purpose purpose)
-{
-    return qtTrId(titlesOf(kind, purpose).title);
-}
-
-QString textOf(const ComparisonRow &row, Purpose purpose)
-{
-    const auto areAlike = [](const ComparisonRow &each) {
-        return each.nameHere != each.nameThere &&
-               looseName(each.nameHere) == looseName(each.nameThere);
-    };
-    QStringList parts;
-    if (row.isDoubled)
-        parts.append(qtTrId("kRowDoubled"));
-    else if (row.likeness == Likeness::Loose)
-        parts.append(qtTrId(areAlike(row) ? "kRowLoose" : "kRowUnsure"));
-    for (const KindTitle &each : kindTitles) {
-        const char *text = titlesOf(each.kind, purpose).ofRow;
-        if (row.kinds.testFlag(each.kind) && text)
-            parts.append(qtTrId(text));
-    }
-    if (row.differences.testFlag(StationDifference::Skipped))
-        parts.append(qtTrId(row.there->isSkipped() ? "kRowSkippedThere" : "kRowSkippedHere"));
-    if (row.differences.testFlag(StationDifference::Locked))
-        parts.append(qtTrId(row.there->isBlocked() ? "kRowLockedThere" : "kRowLockedHere"));
-    if (row.isElsewhere)
-        parts.append(qtTrId("kRowElsewhere"));
-    if (row.likeness == Likeness::ByName)
-        parts.append(qtTrId("kRowByName"));
-    return parts.join(QStringLiteral(", "));
-}
-
-QString textOf(const StationComparison::Parts &parts)
-{
-    if (parts.empty())
-        return qtTrId("kPreviewNothing");
-    TakeOverPlan sum;
-    StationList toTheEnd;
-    for (const auto &[list, plan] : parts) {
-        sum.moved += plan.moved;
-        sum.renamed += plan.renamed;
-        sum.skipped += plan.skipped;
-        sum.locked += plan.locked;
-        toTheEnd.insert(toTheEnd.end(), plan.toTheEnd.begin(), plan.toTheEnd.end());
-    }
-    QStringList texts;
-    const auto add = [&texts](const char *id, std::size_t count) {
-        if (count > 0)
-            texts.append(qtTrId(id, static_cast<int>(count)));
-    };
-    add("kPreviewMoved", sum.moved);
-    add("kPreviewRenamed", sum.renamed);
-    add("kPreviewSkipped", sum.skipped);
-    add("kPreviewLocked", sum.locked);
-    QStringList sentences;
-    if (!texts.isEmpty())
-        sentences.append(texts.join(QStringLiteral(", ")) + u'.');
-    if (!toTheEnd.empty())
-        sentences.append(
-            qtTrId("kPreviewToTheEnd", static_cast<int>(toTheEnd.size())).arg(namesOf(toTheEnd)));
-    if (std::any_of(parts.begin(), parts.end(), isPutInOrder))
-        sentences.append(qtTrId("kPreviewSorted"));
-    return sentences.join(u' ');
 }
 
 QString previewOf(const StationComparison &comparison)

@@ -2,8 +2,8 @@
 
 #include "document/TLLDocument.h"
 #include "document/read/ListReading.h"
-#include "editor/ComparisonTexts.h"
 #include "editor/ViewController.h"
+#include "texts/DifferenceTexts.h"
 
 #include <QFileInfo>
 #include <QLocale>

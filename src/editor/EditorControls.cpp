@@ -1,10 +1,10 @@
 #include "editor/EditorControls.h"
 
-#include "editor/SourceTitles.h"
 #include "model/CleanName.h"
 #include "model/StationSource.h"
 #include "model/TypeFilter.h"
 #include "support/ShortText.h"
+#include "texts/SourceTitles.h"
 #include "ui_EditorView.h"
 
 namespace quillet {

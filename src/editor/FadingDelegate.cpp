@@ -1,8 +1,8 @@
 #include "editor/FadingDelegate.h"
 
 #include "editor/Contrast.h"
-#include "editor/StationColumns.h"
 #include "editor/StationTableModel.h"
+#include "texts/StationColumns.h"
 
 #include <QApplication>
 #include <QTableView>

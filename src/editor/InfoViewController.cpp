@@ -2,9 +2,9 @@
 
 #include "editor/CellText.h"
 #include "editor/RoomyCells.h"
-#include "editor/ShownTexts.h"
 #include "editor/StationInfoModel.h"
 #include "framework/ScreenPlace.h"
+#include "texts/ShownTexts.h"
 
 #include <QClipboard>
 #include <QDialogButtonBox>

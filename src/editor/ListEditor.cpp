@@ -190,8 +190,7 @@ bool ListEditor::putBack(const ChannelList &version, const QString &name)
     return true;
 }
 
-bool ListEditor::takeOver(const std::vector<TakeOverPart> &parts, const EditSummary &summary,
-                          Beyond beyond)
+bool ListEditor::takeOver(const TakeOverParts &parts, const EditSummary &summary, Beyond beyond)
 {
     const auto isRefused = [this, beyond](const TakeOverPart &part) {
         return !isListOfDocument(part.list) ||

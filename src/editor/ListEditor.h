@@ -1,10 +1,10 @@
 #pragma once
 
 #include "document/TLLDocument.h"
-#include "document/compare/TakeOver.h"
 #include "document/edit/Arranging.h"
 #include "document/edit/Renumbering.h"
 #include "document/edit/StationEdits.h"
+#include "document/rows/TakeOverParts.h"
 #include "editor/ListChange.h"
 
 #include <QObject>
@@ -58,15 +58,9 @@ public:
     /// Returns whether everything is so now.
     bool putBack(const ChannelList &version, const QString &name);
 
-    /// A list of the document and what is taken over in it.
-    struct TakeOverPart
-    {
-        StationListPtr list;
-        TakeOverPlan plan;
-    };
-    /// Carries out plans, each made of another list as it is, as one step, which the summary tells.
-    /// Returns whether it did, also when nothing was to be changed.
-    bool takeOver(const std::vector<TakeOverPart> &parts, const EditSummary &summary,
+    /// Carries out plans, each made of another list of the document as it is, as one step, which
+    /// the summary tells. Returns whether it did, also when nothing was to be changed.
+    bool takeOver(const TakeOverParts &parts, const EditSummary &summary,
                   Beyond beyond = Beyond::Refused);
 
     /// Tells the changes of one edit, each of another list.

@@ -5,10 +5,10 @@
 #include "document/text/ReferenceText.h"
 #include "document/text/SeparatedText.h"
 #include "document/text/StationKey.h"
-#include "editor/ColumnTitles.h"
 #include "editor/ListHeading.h"
 #include "editor/TableController.h"
 #include "model/CleanName.h"
+#include "texts/ColumnTitles.h"
 
 #include <QDateTime>
 #include <QFileInfo>
@@ -54,7 +54,7 @@ void remark(const char *id, std::size_t count, QStringList &remarks)
 } // namespace
 
 ListExport::ListExport(const TableController &table, std::vector<ColumnContent> columns)
-    : m_table(table), m_columns(std::move(columns)), m_cells(table)
+    : m_table(table), m_columns(std::move(columns)), m_cells(table.source(), table.satelliteNames())
 {
 }
 
@@ -101,7 +101,7 @@ ListExport::Made ListExport::makeTable(const ExportOptions &options) const
     for (const StationPtr &station : stations(options.onlyShown)) {
         QStringList cells;
         for (const ColumnContent content : m_columns) {
-            const std::optional<bool> mark = StationCells::mark(*station, content);
+            const std::optional<bool> mark = CellTexts::mark(*station, content);
             cells.append(mark ? QString(*mark ? u'1' : u'0') : m_cells.text(*station, content));
             if (options.form == TextForm::Windows1252)
                 cells.last() = cleanName(cells.last());
@@ -144,12 +144,12 @@ ListExport::Made ListExport::makePage(const ExportOptions &options) const
     table.language = locale.bcp47Name();
     table.isRightToLeft = locale.textDirection() == Qt::RightToLeft;
     for (const ColumnContent content : m_columns)
-        table.columns.push_back(StationCells::column(content));
+        table.columns.push_back(CellTexts::column(content));
     for (const StationPtr &station : exported) {
         HtmlTable::Row &row = table.rows.emplace_back();
         row.isPale = station->isSkipped();
         for (const ColumnContent content : m_columns) {
-            const std::optional<bool> mark = StationCells::mark(*station, content);
+            const std::optional<bool> mark = CellTexts::mark(*station, content);
             row.cells.append(!mark   ? cleanName(m_cells.text(*station, content))
                              : *mark ? QStringLiteral(u"\u2713")
                                      : QString());

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "document/text/TextBytes.h"
-#include "editor/StationCells.h"
 #include "framework/Prompts.h"
 #include "model/LGStation.h"
+#include "texts/CellTexts.h"
 
 #include <QByteArray>
 #include <QStringList>
@@ -58,7 +58,7 @@ private:
 
     const TableController &m_table;
     std::vector<ColumnContent> m_columns;
-    StationCells m_cells;
+    CellTexts m_cells;
 };
 
 } // namespace quillet

@@ -1,9 +1,9 @@
 #include "editor/ListHeading.h"
 
-#include "editor/ShownTexts.h"
-#include "editor/SourceTitles.h"
 #include "editor/TableController.h"
 #include "model/TypeFilter.h"
+#include "texts/ShownTexts.h"
+#include "texts/SourceTitles.h"
 
 #include <QStringList>
 
@@ -13,9 +13,8 @@ QString listHeading(const TableController &controller, bool isWhole)
 {
     const ShownStations &shown = controller.shown();
     const auto foreign = shown.foreignRows();
-    const QString source =
-        sourceTitle(foreign ? foreign->source : controller.stationDoc()->curSource());
-    QString heading = qtTrId(controller.isModeTV() ? "kPrintedTV" : "kPrintedRadio").arg(source);
+    QString heading = listTitle(controller.isModeTV(),
+                                foreign ? foreign->source : controller.stationDoc()->curSource());
     const QString dash = QStringLiteral(u" \u2014 ");
     if (const std::optional<QString> model = controller.stationDoc()->modelName())
         heading = drawnName(*model) + dash + heading;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "editor/ComparedWith.h"
+#include "document/rows/ComparedWith.h"
 #include "editor/StationClipboard.h"
 #include "editor/TableController.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "editor/ComparisonRows.h"
+#include "document/rows/ComparisonRows.h"
 
 #include <QString>
 

@@ -3,10 +3,10 @@
 #include "document/text/HtmlTable.h"
 #include "document/text/NamedRows.h"
 #include "document/text/StationKey.h"
-#include "editor/ColumnTitles.h"
-#include "editor/StationCells.h"
 #include "editor/TableController.h"
 #include "model/CleanName.h"
+#include "texts/CellTexts.h"
+#include "texts/ColumnTitles.h"
 
 #include <algorithm>
 
@@ -22,7 +22,7 @@ const QString textFormat = QStringLiteral("text/plain");
 /// More than the rows of any list, in bytes: what is longer is something else.
 constexpr qsizetype longestText = 32 * 1024 * 1024;
 
-QString linesOf(const StationList &stations, const StationCells &cells)
+QString linesOf(const StationList &stations, const CellTexts &cells)
 {
     QString lines;
     for (const StationPtr &station : stations) {
@@ -119,14 +119,14 @@ std::optional<PastedStations> readNames(const QString &text, const SeparatedTabl
 std::unique_ptr<QMimeData> copiedStations(const TableController &table, const StationList &stations,
                                           const std::vector<ColumnContent> &columns)
 {
-    const StationCells cells(table);
+    const CellTexts cells(table.source(), table.satelliteNames());
     HtmlTable copied;
     for (const ColumnContent content : columns)
-        copied.columns.push_back(StationCells::column(content));
+        copied.columns.push_back(CellTexts::column(content));
     for (const StationPtr &station : stations) {
         QStringList &row = copied.rows.emplace_back().cells;
         for (const ColumnContent content : columns) {
-            const std::optional<bool> mark = StationCells::mark(*station, content);
+            const std::optional<bool> mark = CellTexts::mark(*station, content);
             row.append(mark ? QString::number(*mark) : plainName(cells.text(*station, content)));
         }
     }

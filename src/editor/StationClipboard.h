@@ -1,7 +1,7 @@
 #pragma once
 
 #include "document/text/StationRows.h"
-#include "editor/StationColumns.h"
+#include "texts/StationColumns.h"
 
 #include <QMimeData>
 

@@ -69,7 +69,7 @@ public:
     [[nodiscard]] std::size_t checkedHidden() const;
     /// How many numbers that stations take are told of several stations of a list.
     [[nodiscard]] std::size_t doubledNumbers() const;
-    using Parts = TakeOverChoice::Parts;
+    using Parts = TakeOverParts;
     /// What taking over all checked rows of the list chosen would do.
     [[nodiscard]] const Parts &planForAll() const;
     /// The same of those checked ones among these rows.

@@ -1,6 +1,6 @@
 #include "editor/StationInfo.h"
 
-#include "editor/ShownTexts.h"
+#include "texts/ShownTexts.h"
 #include "xml/FormattedDescription.h"
 
 #include <algorithm>

@@ -2,8 +2,8 @@
 
 #include "editor/CellFont.h"
 #include "editor/CellText.h"
-#include "editor/ShownTexts.h"
 #include "framework/PlainToolTip.h"
+#include "texts/ShownTexts.h"
 
 namespace quillet {
 

@@ -3,10 +3,10 @@
 #include "editor/CellFont.h"
 #include "editor/CellText.h"
 #include "editor/ListChange.h"
-#include "editor/ShownTexts.h"
-#include "editor/StationColumns.h"
 #include "editor/ViewController.h"
 #include "framework/PlainToolTip.h"
+#include "texts/ShownTexts.h"
+#include "texts/StationColumns.h"
 
 #include <QHash>
 #include <QMimeData>
@@ -250,10 +250,8 @@ QVariant StationTableModel::textData(const LGStation &station, const StationColu
 
 const SatelliteNames &StationTableModel::satellites() const
 {
-    if (!m_satellites) {
-        const TLLDocument *document = m_controller.stationDoc();
-        m_satellites = document ? document->list().broadcast.satelliteNames() : SatelliteNames();
-    }
+    if (!m_satellites)
+        m_satellites = m_controller.satelliteNames();
     return *m_satellites;
 }
 

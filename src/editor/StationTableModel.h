@@ -1,8 +1,8 @@
 #pragma once
 
 #include "document/edit/ListStretch.h"
-#include "editor/StationDetails.h"
 #include "model/LGStation.h"
+#include "texts/StationDetails.h"
 
 #include <QAbstractTableModel>
 #include <QFont>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "editor/StationColumns.h"
+#include "texts/StationColumns.h"
 
 #include <vector>
 

@@ -60,6 +60,12 @@ bool TableController::populateFromTLLDoc(TLLDocument &document, const Error &err
     return !m_loadFailed;
 }
 
+SatelliteNames TableController::satelliteNames() const
+{
+    const TLLDocument *document = stationDoc();
+    return document ? document->list().broadcast.satelliteNames() : SatelliteNames();
+}
+
 ShownPlace TableController::place() const
 {
     return stationDoc() ? ShownPlace(m_shown.shownSource(), currentList(), m_outlets)

@@ -3,6 +3,7 @@
 #include "editor/EditorOutlets.h"
 #include "editor/ShownPlace.h"
 #include "editor/ShownStations.h"
+#include "texts/StationDetails.h"
 
 #include <QMap>
 #include <QObject>
@@ -31,6 +32,8 @@ public:
     [[nodiscard]] TLLDocument *stationDoc() const { return m_shown.document(); }
     /// What is on show of it.
     [[nodiscard]] const ShownStations &shown() const { return m_shown; }
+    /// Of its file; none before there is one.
+    [[nodiscard]] SatelliteNames satelliteNames() const;
 
     /// Where the person is, and going there again after the document was read anew.
     [[nodiscard]] ShownPlace place() const;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "editor/PagePrinter.h"
-#include "editor/StationColumns.h"
+#include "texts/StationColumns.h"
 
 namespace quillet {
 

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "editor/ListEditor.h"
+#include "document/rows/TakeOverParts.h"
 #include "editor/RowFilter.h"
 
 #include <QHash>
 
-#include <array>
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace quillet {
@@ -21,20 +21,23 @@ public:
     /// What is compared with must outlive it.
     explicit TakeOverChoice(const ComparedWith &other);
 
-    static constexpr std::array aspects{StationDifference::Number, StationDifference::Name,
-                                        StationDifference::Skipped, StationDifference::Locked};
     [[nodiscard]] bool takes(StationDifference aspect) const { return m_takes.testFlag(aspect); }
     void take(StationDifference aspect, bool isTaken) { m_takes.setFlag(aspect, isTaken); }
 
     /// Whether there is anything in it to be taken over, or a station to be moved.
-    [[nodiscard]] bool canBeChecked(const ComparisonRow &row) const;
+    [[nodiscard]] bool canBeChecked(const ComparisonRow &row) const
+    {
+        return canBeTaken(row, m_other);
+    }
     [[nodiscard]] bool isChecked(const ComparisonRow &row) const;
     void check(const ComparisonRow &row, bool isChecked);
 
-    using Parts = std::vector<ListEditor::TakeOverPart>;
     /// What taking over some of all the rows would do to the lists.
-    [[nodiscard]] Parts plan(const StationLists &lists, const ComparisonRows &all,
-                             std::vector<const ComparisonRow *> some) const;
+    [[nodiscard]] TakeOverParts plan(const StationLists &lists, const ComparisonRows &all,
+                                     std::vector<const ComparisonRow *> some) const
+    {
+        return takeOverParts(lists, m_other, m_takes, all, std::move(some));
+    }
     /// How many of the numbers that stations take are told of several stations of a list.
     [[nodiscard]] std::size_t doubledNumbers(const ComparisonRows &rows,
                                              const RowFilter &filter) const;
@@ -47,16 +50,9 @@ private:
         std::weak_ptr<LGStation> here;
     };
 
-    [[nodiscard]] std::vector<TakenStation>
-    taken(const ComparedList &list, const ComparisonRows &all,
-          const std::vector<const ComparisonRow *> &some) const;
-
     const ComparedWith &m_other;
     StationDifferences m_takes;
     QHash<const LGStation *, Mark> m_marks; ///< by the other side
 };
-
-/// Puts rows into the order of the other list.
-void orderAsThere(std::vector<const ComparisonRow *> &rows);
 
 } // namespace quillet

@@ -1,7 +1,7 @@
 #include "editor/TypedTextDelegate.h"
 
 #include "editor/CellText.h"
-#include "editor/ShownTexts.h"
+#include "texts/ShownTexts.h"
 
 #include <QLineEdit>
 

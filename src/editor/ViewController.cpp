@@ -2,9 +2,9 @@
 
 #include "editor/EditorQuestions.h"
 #include "editor/NoticeTexts.h"
-#include "editor/SourceTitles.h"
-#include "editor/StationColumns.h"
 #include "support/LenientNumber.h"
+#include "texts/SourceTitles.h"
+#include "texts/StationColumns.h"
 
 #include <QSet>
 #include <QTimer>

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "document/edit/StationEdits.h"
+#include "document/rows/ComparedWith.h"
 #include "editor/ArrangeCommands.h"
 #include "editor/CompareCommands.h"
-#include "editor/ComparedWith.h"
 #include "editor/DroppedFiles.h"
 #include "editor/ListEditor.h"
 #include "editor/OrderCommands.h"

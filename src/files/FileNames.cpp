@@ -18,6 +18,11 @@ constexpr bool isEscape(QChar c)
     return c.unicode() >= firstEscape && c.unicode() <= lastEscape;
 }
 
+constexpr bool isLineBreak(QChar c)
+{
+    return c == QChar::LineSeparator || c == QChar::ParagraphSeparator;
+}
+
 QString escaped(QByteArrayView bytes)
 {
     QString text;
@@ -105,7 +110,7 @@ QString readable(const QString &path)
 {
     QString text = path;
     for (QChar &c : text) {
-        if (isEscape(c) || c < u' ')
+        if (isEscape(c) || c.category() == QChar::Other_Control || isLineBreak(c))
             c = QChar::ReplacementCharacter;
     }
     return text;

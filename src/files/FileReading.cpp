@@ -54,7 +54,8 @@ QString obstacleOf(const struct stat &status, const QString &name)
 QString openForReading(QFile &file)
 {
     const QString path = file.fileName();
-    const QString name = readable(QFileInfo(path).fileName());
+    const QString fileName = QFileInfo(path).fileName();
+    const QString name = readable(fileName.isEmpty() ? path : fileName);
     const auto unreadable = [](int number) {
         return qtTrId("kFileUnreadableReason")
             .arg(
@@ -107,6 +108,7 @@ QString readAll(QFile &file, QByteArray &bytes)
             return qtTrId("kFileUnreadableReason").arg(file.errorString());
         if (taken == 0) {
             bytes.truncate(count);
+            bytes.squeeze(); // some callers hold the bytes of many files
             return {};
         }
         count += taken;

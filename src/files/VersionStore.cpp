@@ -154,6 +154,18 @@ std::vector<KeptVersion> VersionStore::versionsOf(const QString &path) const
     return versions;
 }
 
+bool VersionStore::isKnown(const QString &path) const
+{
+    const Histories histories = readHistories();
+    const QString name = historyName(placeOf(path));
+    const auto isDamaged = [&name](const HistoryFile &file) {
+        return !file.history && file.path.startsWith(name);
+    };
+    const bool isNothingKept = isMissing(m_folder + QStringLiteral("/histories"));
+    return isNothingKept || (histories.isWhole() && std::none_of(histories.files.begin(),
+                                                                 histories.files.end(), isDamaged));
+}
+
 bool VersionStore::read(const KeptVersion &version, QByteArray &bytes, Error &error) const
 {
     const QString path = contentPath(version.digest);

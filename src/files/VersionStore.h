@@ -41,6 +41,9 @@ public:
     [[nodiscard]] bool keep(const QString &path, const QByteArray &bytes, Error &error);
     /// What is kept of the file that the path leads to, the newest first.
     [[nodiscard]] std::vector<KeptVersion> versionsOf(const QString &path) const;
+    /// Whether all could be read that may tell of versions of the file. A folder that nothing was
+    /// kept in yet tells all.
+    [[nodiscard]] bool isKnown(const QString &path) const;
     /// The bytes of a version. Fails when they are missing or are not what was kept.
     [[nodiscard]] bool read(const KeptVersion &version, QByteArray &bytes, Error &error) const;
 

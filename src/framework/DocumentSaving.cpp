@@ -1,6 +1,7 @@
 #include "framework/DocumentSaving.h"
 
 #include "files/FileNames.h"
+#include "files/NotKeptTexts.h"
 #include "files/Places.h"
 #include "files/ShownPath.h"
 #include "files/VersionStore.h"
@@ -17,21 +18,6 @@
 namespace quillet {
 
 namespace {
-
-struct NotKeptText
-{
-    NotKept what;
-    const char *id;
-};
-
-constexpr std::array notKeptTexts{
-    NotKeptText{NotKept::Owner, "kNotKeptOwner"},
-    NotKeptText{NotKept::Group, "kNotKeptGroup"},
-    NotKeptText{NotKept::AccessList, "kNotKeptAccessList"},
-    NotKeptText{NotKept::Permissions, "kNotKeptPermissions"},
-    NotKeptText{NotKept::Attributes, "kNotKeptAttributes"},
-    NotKeptText{NotKept::HardLinks, "kNotKeptHardLinks"},
-};
 
 struct ChangeTexts
 {
@@ -69,12 +55,7 @@ QString allFiles()
 /// Says what the file has lost besides its old content.
 QString notKeptText(const QString &fileName, const std::vector<NotKept> &notKept)
 {
-    QStringList losses;
-    for (const auto &[what, id] : notKeptTexts) {
-        if (std::find(notKept.begin(), notKept.end(), what) != notKept.end())
-            losses.append(qtTrId(id));
-    }
-    return qtTrId("kToldNotKept").arg(fileName, losses.join(QLatin1String("; ")));
+    return qtTrId("kToldNotKept").arg(fileName, textOf(notKept));
 }
 
 } // namespace

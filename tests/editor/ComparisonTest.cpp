@@ -5,6 +5,7 @@
 #include "editor/ComparisonTexts.h"
 #include "testing/TestFiles.h"
 #include "testing/TestMain.h"
+#include "texts/TakeOverTexts.h"
 
 #include <QRandomGenerator>
 #include <QSignalSpy>

@@ -3,11 +3,11 @@
 #include "EditorFixture.h"
 
 #include "document/text/SeparatedText.h"
-#include "editor/ComparisonTexts.h"
 #include "editor/ListExport.h"
 #include "editor/StationComparison.h"
 #include "testing/TestFiles.h"
 #include "testing/TestMain.h"
+#include "texts/RowTexts.h"
 
 #include <QRandomGenerator>
 #include <QTemporaryDir>

@@ -2,9 +2,9 @@
 
 #include "document/order/ReferenceOrder.h"
 
-#include "editor/StationColumns.h"
 #include "editor/StationInfoModel.h"
 #include "testing/TestMain.h"
+#include "texts/StationColumns.h"
 
 #include <QMimeData>
 #include <QSignalSpy>

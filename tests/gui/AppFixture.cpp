@@ -1,8 +1,8 @@
 #include "AppFixture.h"
 
-#include "app/Translations.h"
 #include "framework/WindowController.h"
 #include "testing/TLLText.h"
+#include "texts/Translations.h"
 
 #include <QAction>
 #include <QDir>

@@ -1,8 +1,8 @@
 #include "AppFixture.h"
 
-#include "editor/StationColumns.h"
 #include "testing/TLLText.h"
 #include "testing/TestMain.h"
+#include "texts/StationColumns.h"
 
 #include <QAction>
 #include <QHeaderView>

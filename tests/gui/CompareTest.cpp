@@ -1,11 +1,11 @@
 #include "AppFixture.h"
 
-#include "app/Translations.h"
 #include "document/TLLDocument.h"
 #include "editor/EditorView.h"
 #include "editor/ListExport.h"
 #include "editor/ListImport.h"
 #include "testing/TestMain.h"
+#include "texts/Translations.h"
 
 #include <QAction>
 #include <QApplication>

@@ -1,6 +1,5 @@
 #include "AppFixture.h"
 
-#include "app/Translations.h"
 #include "editor/EditorView.h"
 #include "editor/ElidedLabel.h"
 #include "editor/NoticeBar.h"
@@ -8,6 +7,7 @@
 #include "framework/QtPrompts.h"
 #include "testing/TLLText.h"
 #include "testing/TestMain.h"
+#include "texts/Translations.h"
 
 #include <QAbstractButton>
 #include <QAction>

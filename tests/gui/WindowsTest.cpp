@@ -2,13 +2,13 @@
 
 #include "app/OpenRequest.h"
 #include "app/TerminationSignals.h"
-#include "app/Translations.h"
 #include "document/SaveReview.h"
 #include "editor/EditorView.h"
 #include "files/FileNames.h"
 #include "files/FileOperations.h"
 #include "framework/RecentFiles.h"
 #include "testing/TestMain.h"
+#include "texts/Translations.h"
 
 #include <QAccessible>
 #include <QAction>

@@ -1,9 +1,12 @@
 #include "document/order/ReferenceOrder.h"
 #include "document/read/ListReading.h"
+#include "document/review/Rehearsal.h"
 #include "document/write/TLLWriter.h"
 #include "files/FileOperations.h"
 #include "files/FileReading.h"
 #include "files/FileReplacement.h"
+#include "texts/FindingTexts.h"
+#include "texts/RehearsalTexts.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -40,9 +43,11 @@ private slots:
             order[i].num = QString::number(i + 1);
         QCOMPARE(applyReferenceOrder(*stations, order).matched, order.size());
 
+        const QByteArray written = writeTLL(*list, {});
+        QCOMPARE(findingTexts(*list) + textsOf(rehearse(*list, written)), QStringList());
         FileOperations operations;
         FileReplacement replacement(operations);
-        QVERIFY2(replacement.replace(path, writeTLL(*list, {}), error), qPrintable(error.text()));
+        QVERIFY2(replacement.replace(path, written, error), qPrintable(error.text()));
         QVERIFY(readFile(QUrl::fromLocalFile(path), bytes, error));
         const std::optional<ChannelList> again = channelListFromBytes(bytes);
         QVERIFY(again);

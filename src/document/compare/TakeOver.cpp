@@ -3,6 +3,8 @@
 #include "document/compare/StationIdentity.h"
 #include "document/edit/Renumbering.h"
 #include "document/edit/StationEdits.h"
+#include "document/list/ChannelList.h"
+#include "model/StationSource.h"
 
 #include <QHash>
 #include <QSet>
@@ -235,7 +237,29 @@ void planFields(TakeOverPlan &plan, const TakenStation &taken, bool canRename)
         plan.fields.push_back(std::move(fields));
 }
 
-/// What comes of a plan for the stations, told in the order of the list afterwards.
+} // namespace
+
+NumberRule numberRuleFor(const ChannelList &list)
+{
+    return list.isLegacyFormat ? NumberRule::AsThere : NumberRule::AsGiven;
+}
+
+bool mayRename(int source)
+{
+    return source == static_cast<int>(StationSource::Analogue);
+}
+
+std::optional<qint64> toldNumber(const LGStation &record)
+{
+    const qint64 number = record.progNum();
+    return number > 0 && tellsNumber(record) ? std::optional(number) : std::nullopt;
+}
+
+std::size_t TakeOverPlan::beyond() const
+{
+    return isEmpty() ? 0 : countBeyond(numbers);
+}
+
 void findChanges(TakeOverPlan &plan, const StationList &list, NumberRule rule)
 {
     QSet<const LGStation *> changed, atTheEnd;
@@ -257,19 +281,6 @@ void findChanges(TakeOverPlan &plan, const StationList &list, NumberRule rule)
         if (changed.remove(station.get()))
             plan.changed.push_back(station);
     }
-}
-
-} // namespace
-
-std::optional<qint64> toldNumber(const LGStation &record)
-{
-    const qint64 number = record.progNum();
-    return number > 0 && tellsNumber(record) ? std::optional(number) : std::nullopt;
-}
-
-std::size_t TakeOverPlan::beyond() const
-{
-    return isEmpty() ? 0 : countBeyond(numbers);
 }
 
 TakeOverPlan planTakeOver(const StationList &list, const std::vector<TakenStation> &taken,

@@ -9,6 +9,8 @@
 /// Giving the stations of a list what other records of them tell.
 namespace quillet {
 
+struct ChannelList;
+
 /// A station of a list, another record of it, and what is to be taken over from that.
 struct TakenStation
 {
@@ -17,12 +19,19 @@ struct TakenStation
     StationDifferences what = {}; ///< Fields is ignored
 };
 
+/// Whether the stations of that source may be given names.
+[[nodiscard]] bool mayRename(int source);
+
 /// Which numbers stations take.
 enum class NumberRule {
     AsGiven, ///< that of the other record; of several that take one number the first
     AsThere, ///< the same, but several may have one number, as in the other list
     ByRows,  ///< in the order in which they are given, those that they have among themselves
 };
+
+/// That of taking over into the list: several of the channels of one that is kept as JSON may have
+/// one number.
+[[nodiscard]] NumberRule numberRuleFor(const ChannelList &list);
 
 /// What taking over would do to a list. Means nothing any more once that list has changed.
 struct TakeOverPlan
@@ -73,6 +82,9 @@ struct TakeOverPlan
 [[nodiscard]] TakeOverPlan planTakeOver(const StationList &list,
                                         const std::vector<TakenStation> &taken, NumberRule rule,
                                         bool canRename);
+/// Fills in what the order, the numbers and the fields of a plan change. ByRows a station that only
+/// stands at another place counts as well.
+void findChanges(TakeOverPlan &plan, const StationList &list, NumberRule rule);
 /// Carries out a plan for that very list.
 void takeOver(StationList &list, const TakeOverPlan &plan, EditRecord &record);
 

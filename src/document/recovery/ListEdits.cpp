@@ -59,6 +59,11 @@ QByteArray ListEdits::encoded() const
     return edits->isSound() ? editsformat::encoded(*edits) : QByteArray();
 }
 
+bool ListEdits::changesStations() const
+{
+    return !difference()->stations.empty();
+}
+
 bool ListEdits::applyTo(ChannelList &fresh) const
 {
     const std::shared_ptr<const ListDifference> edits = difference();

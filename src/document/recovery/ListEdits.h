@@ -27,6 +27,9 @@ public:
     /// On any thread; takes about as long as reading the file. Null when the list is not one that
     /// can be brought back, which editing cannot make it.
     [[nodiscard]] QByteArray encoded() const;
+    /// Whether a station holds anything else than the file tells, even if only reading has given it
+    /// another number. Takes about as long as encoded().
+    [[nodiscard]] bool changesStations() const;
     /// Makes the edits in a list that was just read from the same bytes. False when it was not, and
     /// then it stays as it is.
     [[nodiscard]] bool applyTo(ChannelList &fresh) const;

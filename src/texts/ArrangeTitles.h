@@ -1,15 +1,10 @@
 #pragma once
 
-#include "model/LGStation.h"
+#include "document/edit/ArrangeKey.h"
 
 #include <array>
-#include <functional>
-#include <vector>
 
 namespace quillet {
-
-/// What stations can be arranged by.
-enum class ArrangeBy { Name, Type, Encryption, Satellite, Network, Frequency, ServiceId, Number };
 
 struct ArrangeByTitle
 {
@@ -28,15 +23,5 @@ inline constexpr std::array arrangeByTitles{
     ArrangeByTitle{ArrangeBy::ServiceId, "kArrangeByServiceId"},
     ArrangeByTitle{ArrangeBy::Number, "kArrangeByNumber"},
 };
-
-/// One of up to three things to arrange by, the first of which counts most.
-struct ArrangeKey
-{
-    ArrangeBy by = ArrangeBy::Name;
-    bool isDescending = false;
-
-    bool operator==(const ArrangeKey &) const = default;
-};
-using ArrangeKeys = std::vector<ArrangeKey>;
 
 } // namespace quillet

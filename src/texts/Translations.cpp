@@ -1,4 +1,4 @@
-#include "app/Translations.h"
+#include "texts/Translations.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -23,14 +23,18 @@ QString textFolder()
     return QStringLiteral(":/i18n");
 }
 
-void install(const QLocale &locale, const QString &name, const QString &folder)
+void install(std::unique_ptr<QTranslator> translator)
 {
-    auto translator = std::make_unique<QTranslator>();
-    if (!translator->load(locale, name, QStringLiteral("_"), folder))
-        return;
     translator->setObjectName(translatorName());
     translator->setParent(qApp);
     QCoreApplication::installTranslator(translator.release());
+}
+
+void install(const QLocale &locale, const QString &name, const QString &folder)
+{
+    auto translator = std::make_unique<QTranslator>();
+    if (translator->load(locale, name, QStringLiteral("_"), folder))
+        install(std::move(translator));
 }
 
 } // namespace
@@ -62,6 +66,13 @@ void installTranslations(const QString &language)
     for (const char *catalogue : {"qtbase", "qtwebengine"})
         install(locale, QLatin1String(catalogue), qtsFolder);
     install(locale, QStringLiteral("quillet"), textFolder());
+}
+
+void installEnglishTexts()
+{
+    auto translator = std::make_unique<QTranslator>();
+    if (translator->load(textFolder() + QLatin1String("/quillet_en.qm")))
+        install(std::move(translator));
 }
 
 } // namespace quillet

@@ -1,20 +1,18 @@
 #pragma once
 
 #include "document/text/HtmlTable.h"
-#include "editor/StationDetails.h"
+#include "texts/StationDetails.h"
 
 #include <optional>
 
 namespace quillet {
 
-class TableController;
-
 /// What the cells of the station table say, for other programs: texts in their full length, and
-/// marks. Made when it is needed: it takes over which source is on show, and its satellites.
-class StationCells
+/// marks. Made when it is needed, for stations of one source and the satellites of their file.
+class CellTexts
 {
 public:
-    explicit StationCells(const TableController &table);
+    CellTexts(int source, SatelliteNames satellites);
 
     /// Empty for a column of marks.
     [[nodiscard]] QString text(const LGStation &station, ColumnContent content) const;

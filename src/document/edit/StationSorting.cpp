@@ -1,4 +1,4 @@
-#include "editor/StationSorting.h"
+#include "document/edit/StationSorting.h"
 
 #include "model/TypeFilter.h"
 

@@ -1,5 +1,6 @@
-#include "editor/ComparisonRows.h"
+#include "document/rows/ComparisonRows.h"
 
+#include "document/compare/TakeOver.h"
 #include "document/compare/UnkeptNames.h"
 #include "document/order/ReferenceOrder.h"
 #include "document/text/StationKey.h"
@@ -273,11 +274,6 @@ StationDifferences takeable(const ComparisonRow &row)
     if (row.numberThere.isEmpty())
         what.setFlag(StationDifference::Number, false);
     return what;
-}
-
-bool mayRename(int source)
-{
-    return source == static_cast<int>(StationSource::Analogue);
 }
 
 } // namespace quillet

@@ -1,4 +1,4 @@
-#include "editor/SourceTitles.h"
+#include "texts/SourceTitles.h"
 
 #include <array>
 
@@ -24,6 +24,11 @@ QString titleAt(int number, const std::array<const char *, count> &titles)
 QString sourceTitle(int source)
 {
     return titleAt(source, sourceTitles);
+}
+
+QString listTitle(bool isTV, int source)
+{
+    return qtTrId(isTV ? "kPrintedTV" : "kPrintedRadio").arg(sourceTitle(source));
 }
 
 QString typeFilterTitle(int tag)

@@ -1,6 +1,6 @@
-#include "editor/ColumnTitles.h"
+#include "texts/ColumnTitles.h"
 
-#include "editor/StationColumns.h"
+#include "texts/StationColumns.h"
 
 #include <QDir>
 #include <QTranslator>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "editor/ComparedWith.h"
+#include "document/rows/ComparedWith.h"
 
 #include <QFlags>
 
@@ -80,7 +80,5 @@ void numberByRows(ComparisonRows &rows, const StationLists &here,
 [[nodiscard]] bool hasNumberThere(const ComparisonRow &row);
 /// Whether the two sides are so surely the same that nobody need be asked.
 [[nodiscard]] bool isTakenUnasked(const ComparisonRow &row);
-/// Whether the stations of that source may be given names.
-[[nodiscard]] bool mayRename(int source);
 
 } // namespace quillet

@@ -1,6 +1,6 @@
-#include "editor/StationDetails.h"
+#include "texts/StationDetails.h"
 
-#include "editor/ShownTexts.h"
+#include "texts/ShownTexts.h"
 
 #include <QLocale>
 
@@ -11,15 +11,12 @@ namespace {
 /// Satellites broadcast below 31 GHz and cables from 40 MHz on, so the number tells its unit.
 constexpr qint64 lowestInKilohertz = 31'000;
 
-QString megahertz(qint64 frequency)
+QString withUnit(double megahertz)
 {
     QLocale locale;
     locale.setNumberOptions(QLocale::OmitGroupSeparator);
-    const QString number = frequency < lowestInKilohertz
-                               ? locale.toString(frequency)
-                               : locale.toString(static_cast<double>(frequency) / 1000, 'g',
-                                                 QLocale::FloatingPointShortest);
-    return number + QStringLiteral(u"\u00A0MHz");
+    return locale.toString(megahertz, 'f', QLocale::FloatingPointShortest) +
+           QStringLiteral(u"\u00A0MHz");
 }
 
 std::optional<QString> storedText(const LGStation &station, ColumnContent content)
@@ -40,12 +37,21 @@ std::optional<QString> storedText(const LGStation &station, ColumnContent conten
 
 } // namespace
 
+std::optional<double> megahertz(const LGStation &station)
+{
+    const std::optional<qint64> frequency = station.frequency();
+    if (!frequency)
+        return {};
+    const auto number = static_cast<double>(*frequency);
+    return *frequency < lowestInKilohertz ? number : number / 1000;
+}
+
 QString wholeDetailText(const LGStation &station, ColumnContent content,
                         const SatelliteNames &satellites)
 {
     if (content == ColumnContent::Frequency) {
-        const std::optional<qint64> frequency = station.frequency();
-        return frequency ? megahertz(*frequency) : QString();
+        const std::optional<double> frequency = megahertz(station);
+        return frequency ? withUnit(*frequency) : QString();
     }
     const QString text = storedText(station, content).value_or(QString());
     return cleanName(content == ColumnContent::Satellite ? satellites.value(text, text) : text);

@@ -1,4 +1,4 @@
-#include "app/Environment.h"
+#include "files/Environment.h"
 
 #include <QByteArray>
 #include <QtGlobal>

@@ -1,16 +1,15 @@
-#include "editor/StationCells.h"
+#include "texts/CellTexts.h"
 
-#include "editor/TableController.h"
+#include <utility>
 
 namespace quillet {
 
-StationCells::StationCells(const TableController &table) : m_source(table.source())
+CellTexts::CellTexts(int source, SatelliteNames satellites)
+    : m_source(source), m_satellites(std::move(satellites))
 {
-    if (const TLLDocument *document = table.stationDoc())
-        m_satellites = document->list().broadcast.satelliteNames();
 }
 
-QString StationCells::text(const LGStation &station, ColumnContent content) const
+QString CellTexts::text(const LGStation &station, ColumnContent content) const
 {
     switch (content) {
     case ColumnContent::Number:
@@ -24,7 +23,7 @@ QString StationCells::text(const LGStation &station, ColumnContent content) cons
     }
 }
 
-std::optional<bool> StationCells::mark(const LGStation &station, ColumnContent content)
+std::optional<bool> CellTexts::mark(const LGStation &station, ColumnContent content)
 {
     switch (content) {
     case ColumnContent::Skipped:
@@ -40,7 +39,7 @@ std::optional<bool> StationCells::mark(const LGStation &station, ColumnContent c
     }
 }
 
-HtmlTable::Column StationCells::column(ColumnContent content)
+HtmlTable::Column CellTexts::column(ColumnContent content)
 {
     const StationColumn &column = columnWith(content);
     const bool isAtEnd = column.alignment == Qt::AlignRight;

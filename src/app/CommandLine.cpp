@@ -1,6 +1,7 @@
 #include "app/CommandLine.h"
 
 #include "app/PlatformOptions.h"
+#include "files/FileNames.h"
 #include "texts/Translations.h"
 
 #include <QCommandLineParser>
@@ -17,7 +18,8 @@ struct Option
 };
 
 constexpr Option languageOption{"language", "language",
-                                "Show the texts in <language>, for example \"de\"."};
+                                "Show the texts in <language> (%LANGUAGES) instead of the "
+                                "desktop's."};
 constexpr Option snapshotOption{
     "snapshot", "picture",
     "Save a picture of the window that shows FILE as <picture> (PNG) and end. "
@@ -31,9 +33,27 @@ constexpr Option allHelpOption{"help-all", nullptr, "Show this help and Qt's own
 constexpr Option versionOption{"v,version", nullptr, "Show the program's version."};
 constexpr Option helpWindowOption{"help-window", nullptr, ""}; // for the program itself
 
+constexpr char exitStatus[] =
+    R"(Exit status:
+  0  The program was quit, its files were handed to one that is running, the
+     picture was saved, or the text that was asked for was printed.
+  1  The file could not be read or the picture not be saved, the text could not
+     be printed, or there is no display (any more) to show windows on.
+  2  An argument is wrong, or the picture would replace something else than a
+     PNG picture. Nothing was done.
+The window tells of files that cannot be opened; the exit status does not.
+)";
+
+QString languageNames()
+{
+    return textLanguages().join(QLatin1String(", "));
+}
+
 QCommandLineOption made(const Option &option)
 {
-    return {QString::fromLatin1(option.names).split(u','), QString::fromLatin1(option.description),
+    QString description = QString::fromLatin1(option.description);
+    description.replace(QLatin1String("%LANGUAGES"), languageNames());
+    return {QString::fromLatin1(option.names).split(u','), description,
             QString::fromLatin1(option.value)};
 }
 
@@ -54,7 +74,7 @@ QString problem(const QCommandLineParser &parser)
     const QString chosen = parser.value(firstName(languageOption));
     if (parser.isSet(firstName(languageOption)) && !hasTexts(chosen))
         return QStringLiteral("There are no texts in the language \"%1\", only in %2.")
-            .arg(chosen, textLanguages().join(QLatin1String(", ")));
+            .arg(chosen, languageNames());
     if (parser.positionalArguments().contains(QString()))
         return QStringLiteral("A file needs a name.");
     if (!parser.isSet(firstName(snapshotOption)))
@@ -82,15 +102,19 @@ CommandLine CommandLine::parse(const QStringList &arguments)
     QCommandLineOption hidden = made(helpWindowOption);
     hidden.setFlags(QCommandLineOption::HiddenFromHelp);
     parser.addOption(hidden);
-    parser.addPositionalArgument(QStringLiteral("files"), QStringLiteral("Channel lists to open."),
+    parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("A channel list to open."),
                                  QStringLiteral("[FILE...]"));
 
     CommandLine line;
     line.error = parser.parse(platform.others) ? problem(parser) : parser.errorText();
-    if (parser.isSet(firstName(allHelpOption)))
-        line.answer = helpText(parser) + u'\n' + platformOptionsText();
-    else if (parser.isSet(firstName(helpOption)))
-        line.answer = helpText(parser);
+    if (!platform.incomplete.isEmpty())
+        line.error = QStringLiteral("Missing value after '%1'.").arg(platform.incomplete);
+    line.error = readable(line.error); // an argument may be anything
+    const bool isAllWanted = parser.isSet(firstName(allHelpOption));
+    if (isAllWanted || parser.isSet(firstName(helpOption)))
+        line.answer = helpText(parser) + u'\n' +
+                      (isAllWanted ? platformOptionsText() + u'\n' : QString()) +
+                      QLatin1String(exitStatus);
     else if (parser.isSet(firstName(versionOption)))
         line.answer = QStringLiteral("Quillet " QUILLET_VERSION "\n");
     line.files = parser.positionalArguments();

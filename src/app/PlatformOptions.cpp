@@ -66,7 +66,9 @@ PlatformOptions takePlatformOptions(const QStringList &arguments)
         }
         QStringList whole{arguments[i]};
         const bool valueFollows = option->value && beforeValue == name;
-        if (valueFollows && i + 1 < arguments.size())
+        if (valueFollows && i + 1 == arguments.size())
+            found.incomplete = arguments[i];
+        else if (valueFollows)
             whole.append(arguments[++i]);
         if (option->isOfEveryWindow)
             found.ofEveryWindow += whole;

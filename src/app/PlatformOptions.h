@@ -11,7 +11,8 @@ struct PlatformOptions
 {
     QStringList others; ///< the arguments without Qt's options
     QStringList
-        ofEveryWindow; ///< Qt's options that hold for another process of the program as well
+        ofEveryWindow;  ///< Qt's options that hold for another process of the program as well
+    QString incomplete; ///< an option at the end that lacks its value; empty: none
 };
 
 [[nodiscard]] PlatformOptions takePlatformOptions(const QStringList &arguments);

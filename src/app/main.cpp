@@ -14,6 +14,7 @@
 #include "framework/QtPrompts.h"
 #include "support/KXFileLog.h"
 #include "support/LogClaim.h"
+#include "support/StandardStreams.h"
 #include "texts/Translations.h"
 
 #include <QApplication>
@@ -21,6 +22,7 @@
 
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 
 using namespace quillet;
 
@@ -36,14 +38,23 @@ QIcon applicationIcon()
 
 enum ExitCode { Succeeded, Failed, Misused };
 
-constexpr char usage[] = "usage: quillet [--new-instance] [FILE...]\n"
-                         "       quillet --snapshot <picture> [FILE]\n"
-                         "       quillet --help\n";
+constexpr char hint[] = "Try 'quillet --help' for more information.\n";
 
 int fail(ExitCode code, const QString &problem)
 {
-    std::fprintf(stderr, "quillet: %s\n%s", qPrintable(problem), code == Misused ? usage : "");
+    std::fprintf(stderr, "quillet: %s\n%s", qPrintable(problem), code == Misused ? hint : "");
     return code;
+}
+
+QtMessageHandler printMessage = nullptr;
+
+/// Qt would abort the program when there is no display; that is no crash.
+void endWhereQtCannotStart(QtMsgType type, const QMessageLogContext &context,
+                           const QString &message)
+{
+    if (type == QtFatalMsg)
+        std::_Exit(fail(Failed, message.trimmed()));
+    printMessage(type, context, message);
 }
 
 int makePicture(const CommandLine &line)
@@ -98,6 +109,7 @@ int main(int argc, char *argv[])
 #ifdef SIGXFSZ
     std::signal(SIGXFSZ, SIG_IGN); // a file that may grow no more is an error of its writing
 #endif
+    holdStandardStreams();
     ignoreRelativeFolders();
     QCoreApplication::setApplicationName(QStringLiteral("Quillet"));
     QCoreApplication::setOrganizationName(QStringLiteral("Quillet"));
@@ -111,8 +123,10 @@ int main(int argc, char *argv[])
     if (!line.error.isEmpty())
         return fail(Misused, line.error);
     if (line.answer) {
-        std::fputs(qPrintable(*line.answer), stdout);
-        return Succeeded;
+        const QString obstacle = printOut(line.answer->toLocal8Bit());
+        return obstacle.isEmpty()
+                   ? Succeeded
+                   : fail(Failed, QStringLiteral("The text could not be printed: ") + obstacle);
     }
     if (!line.snapshot.isEmpty()) {
         const QString obstacle = snapshotObstacle(line.snapshot);
@@ -124,7 +138,9 @@ int main(int argc, char *argv[])
     if (line.isHelpWindow)
         QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts); // the engine's wish
     const OpenRequest request = OpenRequest::ofThisStart(line.files);
+    printMessage = qInstallMessageHandler(endWhereQtCannotStart);
     QApplication app(argc, argv); // takes Qt's own options
+    qInstallMessageHandler(printMessage);
     QApplication::setDesktopFileName(QStringLiteral("quillet"));
     QApplication::setWindowIcon(applicationIcon());
     installTranslations(line.language);

@@ -63,16 +63,23 @@ private slots:
             QTest::newRow(arguments) << code << QByteArray(output) << QByteArray(errors);
         };
         row("--help", 0, "Usage: quillet [options] [FILE...]", "");
-        row("--help-all", 0, "-stylesheet <file>", "");
+        row("--help-all -platform offscreen", 0, "-stylesheet <file>", "");
+        row("-platform", 2, "", "'-platform'");
         row("--version", 0, "Quillet " QUILLET_VERSION, "");
         row("-style --help -reverse --stylesheet=a.css --version", 0, "Quillet " QUILLET_VERSION,
             "");
         row("-reverse --unknown", 2, "", "'unknown'");
         row("-geometryy", 2, "", "'geometryy'");
         row("--language xx a.tll", 2, "", "\"xx\", only in de, en, es");
+        row("--language C", 2, "", "\"C\", only in de, en, es");
+        row("--language de_AT --version", 0, "Quillet", "");
+        row("--language", 2, "", "'--language'");
+        row("--a\tb", 2, "",
+            "a\xef\xbf\xbd"
+            "b");
         row("a.tll ", 2, "", "a name");
-        row("--snapshot", 2, "", "--snapshot <picture> [FILE]");
-        row("--snapshot= a.tll", 2, "", "--snapshot <picture> [FILE]");
+        row("--snapshot", 2, "", "'--snapshot'");
+        row("--snapshot= a.tll", 2, "", "a picture");
         row("--snapshot /nowhere/a.png /nowhere/a.tll", 1, "", "/nowhere/a.tll");
         row("--snapshot /nowhere/a.png", 1, "", "/nowhere");
     }
@@ -88,9 +95,38 @@ private slots:
         QVERIFY2(run.errors.contains(errors), run.errors.constData());
         QCOMPARE(run.output.isEmpty(), output.isEmpty());
         QCOMPARE(run.errors.startsWith("quillet: "), !errors.isEmpty());
+        QCOMPARE(run.errors.endsWith("\nTry 'quillet --help' for more information.\n"), code == 2);
+        for (const QByteArray &line : run.output.split('\n'))
+            QVERIFY2(line.size() <= 80, line.constData());
+    }
+
+    void placeThatShowsNoWindowsIsAnError()
+    {
+        const Run run({u"-platform"_s, u"none"_s});
+        QCOMPARE(run.code, 1);
+        QVERIFY2(run.errors.contains("\nquillet: "), run.errors.constData());
     }
 
 #ifndef Q_OS_WIN
+    void helpThatCannotBePrintedIsAnError_data()
+    {
+        QTest::addColumn<QString>("redirection");
+        QTest::newRow("closed") << u">&-"_s;
+#ifdef Q_OS_LINUX
+        QTest::newRow("full disk") << u">/dev/full"_s;
+#endif
+    }
+    void helpThatCannotBePrintedIsAnError()
+    {
+        QFETCH(QString, redirection);
+        QProcess shell;
+        shell.start(u"/bin/sh"_s, {u"-c"_s, u"exec \"$0\" --help "_s + redirection,
+                                   QStringLiteral(QUILLET_EXECUTABLE)});
+        QVERIFY(shell.waitForFinished(60000));
+        QCOMPARE(shell.exitCode(), 1);
+        QVERIFY(shell.readAllStandardError().startsWith("quillet: "));
+    }
+
     void fileThatMayNotGrowIsAnError()
     {
         const QTemporaryDir folder;
@@ -188,7 +224,7 @@ private slots:
         const QStringList before = QDir(folder.path()).entryList(QDir::AllEntries | QDir::System);
         const Run run({QStringLiteral("--snapshot"), picture, sample}, folder.path());
         QCOMPARE(run.code, 2);
-        QVERIFY2(run.errors.startsWith("quillet: ") && run.errors.contains("usage: "),
+        QVERIFY2(run.errors.startsWith("quillet: ") && run.errors.contains("picture"),
                  run.errors.constData());
         QCOMPARE(QDir(folder.path()).entryList(QDir::AllEntries | QDir::System), before);
         QCOMPARE(contentOf(list), contentOf(sample));

@@ -43,6 +43,13 @@ qsizetype lengthOfCharacter(QByteArrayView bytes)
 
 QString pathFromBytes(QByteArrayView name)
 {
+    // Nearly all names are such that can be decoded at once.
+    if (name.isValidUtf8()) {
+        QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
+        const QString text = decoder(name);
+        if (std::none_of(text.begin(), text.end(), isEscape))
+            return text;
+    }
     QString path;
     while (!name.isEmpty()) {
         const qsizetype length = lengthOfCharacter(name);

@@ -4,6 +4,7 @@
 #include "cli/JsonReport.h"
 #include "cli/ListEditing.h"
 #include "cli/ListFile.h"
+#include "cli/ListSaving.h"
 #include "cli/ListedRows.h"
 #include "document/rows/RowFitting.h"
 #include "document/rows/TakeOverParts.h"
@@ -172,7 +173,8 @@ ExitStatus runApply(const Invocation &invocation, Console &console)
     // What is no table, or of another file, changes nothing; nor does it where it is so in part.
     if (applying.isRefused())
         return reportFailure(file->path, applying.problem(), status, invocation, console);
-    return edited.finish(applying.changed(), status);
+    ListSaving saving(invocation, console);
+    return edited.finish(saving, applying.changed(), status);
 }
 
 } // namespace quillet

@@ -20,8 +20,8 @@ QString reasonOfUnmet(const QStringList &unmet)
         .arg(unmet.join(QLatin1String(", ")));
 }
 
-ExitStatus editFile(const QString &path, const Invocation &invocation, Console &console,
-                    EditOf about, const ListEdit &edit)
+ExitStatus editFile(const QString &path, ListSaving &saving, const Invocation &invocation,
+                    Console &console, EditOf about, const ListEdit &edit)
 {
     const auto file = openList(path, invocation, console);
     if (!file)
@@ -53,7 +53,7 @@ ExitStatus editFile(const QString &path, const Invocation &invocation, Console &
     }
     if (!changed && about == EditOf::Numbers && isRenumberedByReading(*file))
         changed = lists.front().stations;
-    return edited.finish(changed);
+    return edited.finish(saving, changed);
 }
 
 } // namespace
@@ -66,8 +66,9 @@ ExitStatus editFiles(const Invocation &invocation, Console &console, EditOf abou
         console.tell({}, choice.problem());
         return ExitStatus::Usage;
     }
+    ListSaving saving(invocation, console);
     return forEachFile(invocation, console, [&](const QString &path) {
-        return editFile(path, invocation, console, about, edit);
+        return editFile(path, saving, invocation, console, about, edit);
     });
 }
 
@@ -88,13 +89,12 @@ void EditedList::tellMore(const QString &member, const Value &value)
     m_more.insert(member, value);
 }
 
-ExitStatus EditedList::finish(const StationListPtr &changed, ExitStatus found)
+ExitStatus EditedList::finish(ListSaving &saving, const StationListPtr &changed, ExitStatus found)
 {
     if (m_before) {
         show(found);
         return found;
     }
-    ListSaving saving(m_invocation, m_console);
     if (changed)
         return worse(found, saving.write(m_file, changed));
     return m_invocation.isSet(Option::InPlace)

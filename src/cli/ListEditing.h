@@ -13,6 +13,7 @@ namespace quillet {
 
 class Console;
 class Invocation;
+class ListSaving;
 class StationChoice;
 struct ListFile;
 
@@ -44,7 +45,8 @@ public:
     /// `changed` is the list that was edited, of which alone JSON channels are written in the plain
     /// form; null: none was, and the file stays as it was read. `found` is what the edit itself has
     /// come to.
-    ExitStatus finish(const StationListPtr &changed, ExitStatus found = ExitStatus::Done);
+    ExitStatus finish(ListSaving &saving, const StationListPtr &changed,
+                      ExitStatus found = ExitStatus::Done);
 
 private:
     void show(ExitStatus found);

@@ -98,7 +98,8 @@ ExitStatus runMerge(const Invocation &invocation, Console &console)
     }
     carryOut(merge);
     edited.tellMore(QStringLiteral("conflicts"), jsonConflicts(merge.conflicts));
-    return edited.finish(merge.parts.empty() ? StationListPtr() : merge.parts.front().list,
+    ListSaving saving(invocation, console);
+    return edited.finish(saving, merge.parts.empty() ? StationListPtr() : merge.parts.front().list,
                          merge.conflicts.empty() ? ExitStatus::Done : ExitStatus::Findings);
 }
 

@@ -4,6 +4,7 @@
 #include "cli/JsonReport.h"
 #include "cli/ListEditing.h"
 #include "cli/ListFile.h"
+#include "cli/ListSaving.h"
 #include "document/compare/StationPairing.h"
 #include "document/compare/TakeOver.h"
 #include "document/order/ReferenceOrder.h"
@@ -234,7 +235,8 @@ ExitStatus runOrder(const Invocation &invocation, Console &console)
     if (!changed && isRenumberedByReading(*file))
         changed = lists.front().stations;
     edited.tellMore(QStringLiteral("orders"), reports);
-    return edited.finish(changed);
+    ListSaving saving(invocation, console);
+    return edited.finish(saving, changed);
 }
 
 } // namespace quillet

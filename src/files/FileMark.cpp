@@ -14,7 +14,7 @@ namespace quillet {
 
 #ifdef Q_OS_WIN
 
-FileMark FileMark::at(const QString &path)
+FileMark FileMark::ofFileAt(const QString &path)
 {
     namespace fs = std::filesystem;
     FileMark mark;
@@ -28,7 +28,7 @@ FileMark FileMark::at(const QString &path)
 
 #else
 
-FileMark FileMark::at(const QString &path)
+FileMark FileMark::ofFileAt(const QString &path)
 {
 #ifdef Q_OS_DARWIN
     const auto written = [](const struct stat &of) { return of.st_mtimespec; };
@@ -41,22 +41,24 @@ FileMark FileMark::at(const QString &path)
         return qint64{time.tv_sec} * 1'000'000'000 + qint64{time.tv_nsec};
     };
     FileMark mark;
-    // A folder that stays while its disk goes shows by its device alone.
-    mark.m_facts[0] = static_cast<qint64>(deviceOf(path).value_or(0));
     struct stat status = {};
     if (::stat(bytesOfPath(path).constData(), &status) != 0)
         return mark;
-    mark.m_facts = {mark.m_facts[0],
-                    static_cast<qint64>(status.st_dev),
-                    static_cast<qint64>(status.st_ino),
-                    static_cast<qint64>(status.st_mode),
-                    static_cast<qint64>(status.st_uid),
-                    static_cast<qint64>(status.st_size),
-                    nanoseconds(written(status)),
+    mark.m_facts = {static_cast<qint64>(status.st_dev),  static_cast<qint64>(status.st_ino),
+                    static_cast<qint64>(status.st_mode), static_cast<qint64>(status.st_uid),
+                    static_cast<qint64>(status.st_size), nanoseconds(written(status)),
                     nanoseconds(changed(status))};
     return mark;
 }
 
 #endif
+
+FileMark FileMark::at(const QString &path)
+{
+    FileMark mark = ofFileAt(path);
+    // A folder that stays while its disk goes shows by its device alone.
+    mark.m_facts.back() = static_cast<qint64>(deviceOf(path).value_or(0));
+    return mark;
+}
 
 } // namespace quillet

@@ -13,6 +13,8 @@ class FileMark
 public:
     /// Of what is there now; all that is nowhere has the same.
     [[nodiscard]] static FileMark at(const QString &path);
+    /// The same without the folder's device, which takes longer to find than all the rest.
+    [[nodiscard]] static FileMark ofFileAt(const QString &path);
     [[nodiscard]] bool operator==(const FileMark &) const = default;
 
 private:

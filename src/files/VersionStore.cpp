@@ -41,6 +41,7 @@ struct VersionStore::HistoryFile
     QString path;
     QByteArray bytes;
     std::optional<VersionHistory> history; ///< none: it is not understood
+    FileMark mark;                         ///< from before it was read
 
     /// Whether that content may still be wanted.
     [[nodiscard]] bool mentions(const QByteArray &digest) const
@@ -83,28 +84,41 @@ QString VersionStore::historyName(const QString &place) const
            QString::fromLatin1(digestOf(bytesOfPath(place)).first(16));
 }
 
-VersionStore::Histories VersionStore::readHistories() const
+VersionStore::Histories VersionStore::readHistories(const QString &ownName) const
 {
     Histories histories;
     std::error_code code;
     const fs::path folder = nativePath(m_folder + QStringLiteral("/histories"));
     for (fs::directory_iterator each(folder, code), end; !code && each != end;
          each.increment(code)) {
-        HistoryFile file;
-        file.path = pathFromNative(each->path());
-        if (!file.path.endsWith(QLatin1String(".json")))
+        const QString path = pathFromNative(each->path());
+        if (!path.endsWith(QLatin1String(".json")))
             continue;
-        Error unused;
-        if (sizeOf(file.path) > largestHistory ||
-            !readFile(QUrl::fromLocalFile(file.path), file.bytes, unused)) {
-            histories.unread.append(file.path);
-            continue;
-        }
-        file.history = VersionHistory::fromJSON(file.bytes);
-        histories.files.push_back(std::move(file));
+        const HistoryFile *file = readHistory(path, path.startsWith(ownName));
+        if (file)
+            histories.files.push_back(*file);
+        else
+            histories.unread.append(path);
     }
     histories.isListed = !code;
     return histories;
+}
+
+/// All are asked for each time that one of many files is kept.
+const VersionStore::HistoryFile *VersionStore::readHistory(const QString &path, bool isAnew) const
+{
+    std::shared_ptr<HistoryFile> &known = m_read[path];
+    const FileMark mark = FileMark::ofFileAt(path);
+    if (known && !isAnew && known->mark == mark)
+        return known.get();
+    known.reset();
+    HistoryFile file{path, {}, {}, mark};
+    Error unused;
+    if (sizeOf(path) > largestHistory || !readFile(QUrl::fromLocalFile(path), file.bytes, unused))
+        return nullptr;
+    file.history = VersionHistory::fromJSON(file.bytes);
+    known = std::make_shared<HistoryFile>(std::move(file));
+    return known.get();
 }
 
 /// The disk is asked about no file that is called otherwise: it may lie where nothing answers.
@@ -125,8 +139,9 @@ VersionStore::HistoryFiles::iterator VersionStore::historyOf(const QString &plac
 /// While a history is not understood, a second one is begun; both are the file's when it is again.
 std::vector<KeptVersion> VersionStore::versionsOf(const QString &path) const
 {
-    HistoryFiles files = readHistories().files;
-    const auto own = historyOf(placeOf(path), files);
+    const QString place = placeOf(path);
+    HistoryFiles files = readHistories(historyName(place)).files;
+    const auto own = historyOf(place, files);
     if (own == files.end())
         return {};
     std::vector<KeptVersion> versions = own->history->versions();
@@ -156,8 +171,8 @@ std::vector<KeptVersion> VersionStore::versionsOf(const QString &path) const
 
 bool VersionStore::isKnown(const QString &path) const
 {
-    const Histories histories = readHistories();
     const QString name = historyName(placeOf(path));
+    const Histories histories = readHistories(name);
     const auto isDamaged = [&name](const HistoryFile &file) {
         return !file.history && file.path.startsWith(name);
     };
@@ -220,7 +235,7 @@ std::unique_ptr<FileLock> VersionStore::takeLock(FileLock::Obstacle &obstacle) c
 bool VersionStore::keepNow(const QString &path, const QByteArray &bytes, bool isAlone, Error &error)
 {
     const QString place = placeOf(path);
-    Histories histories = readHistories();
+    Histories histories = readHistories(historyName(place));
     auto own = historyOf(place, histories.files);
     if (own == histories.files.end()) {
         const QString name = historyName(place);
@@ -234,7 +249,7 @@ bool VersionStore::keepNow(const QString &path, const QByteArray &bytes, bool is
             return false;
         }
         // A damaged one may have the name.
-        HistoryFile made{name + QLatin1String(".json"), {}, VersionHistory(place)};
+        HistoryFile made{name + QLatin1String(".json"), {}, VersionHistory(place), {}};
         for (int i = 2; isThere(made.path); ++i)
             made.path = QStringLiteral("%1-%2.json").arg(name).arg(i);
         histories.files.push_back(std::move(made));
@@ -257,7 +272,7 @@ bool VersionStore::keepNow(const QString &path, const QByteArray &bytes, bool is
     if (!write(own->path, own->history->toJSON(), error))
         return false;
     if (mayDrop)
-        makeRoom(histories.files, version.digest);
+        makeRoom(histories.files, version.digest, own->history->versions().size());
     return true;
 }
 
@@ -292,10 +307,11 @@ std::optional<VersionStore::Sizes> VersionStore::contentSizes() const
     const fs::path folder = nativePath(m_folder + QStringLiteral("/contents"));
     for (fs::directory_iterator each(folder, code), end; !code && each != end;
          each.increment(code)) {
-        const QString path = pathFromNative(each->path());
         const QByteArray name = pathFromNative(each->path().filename()).toLatin1();
+        std::error_code unused;
+        const auto size = each->file_size(unused);
         if (VersionHistory::isDigest(name))
-            sizes.insert(name, sizeOf(path));
+            sizes.insert(name, unused ? 0 : static_cast<qint64>(size));
     }
     return code ? std::nullopt : std::optional(sizes);
 }
@@ -324,7 +340,7 @@ void VersionStore::removeUnwanted(const HistoryFiles &files, const QByteArray &j
 }
 
 /// What cannot be dropped now, a later save drops.
-void VersionStore::makeRoom(HistoryFiles &files, const QByteArray &justKept)
+void VersionStore::makeRoom(HistoryFiles &files, const QByteArray &justKept, std::size_t ownCount)
 {
     std::optional<Sizes> sizes = contentSizes();
     if (!sizes)
@@ -332,6 +348,8 @@ void VersionStore::makeRoom(HistoryFiles &files, const QByteArray &justKept)
     const auto isTooMuch = [this, &sizes] {
         return std::accumulate(sizes->cbegin(), sizes->cend(), qint64{0}) > m_limit;
     };
+    if (!isTooMuch() && ownCount <= 1 + mostLater)
+        return;
     if (isTooMuch())
         removeUnwanted(files, justKept, *sizes);
     for (bool isDone = false; !isDone;) {

@@ -2,6 +2,7 @@
 
 #include "files/Error.h"
 #include "files/FileLock.h"
+#include "files/FileMark.h"
 #include "files/VersionHistory.h"
 
 #include <QHash>
@@ -20,8 +21,8 @@ class FileOperations;
 /// is bounded: the oldest of the longest histories go first, never a first one, nor the one that
 /// was just kept. Two programs may use one folder. What is found damaged there is passed over and
 /// left alone, and while something cannot be read nothing is dropped. Of other files than the one
-/// that is asked about it looks only at the names. Owns no file but those in its folder, which
-/// nobody else can read:
+/// that is asked about it looks only at the names. Remembers the histories that it has read; all
+/// but read() is for one thread. Owns no file but those in its folder, which nobody else can read:
 ///   contents/<digest>       the bytes
 ///   histories/<name>.json   which of them a path has had (VersionHistory)
 class VersionStore
@@ -54,7 +55,10 @@ private:
     using Sizes = QHash<QByteArray, qint64>; ///< of contents, in bytes
 
     [[nodiscard]] QString historyName(const QString &place) const;
-    [[nodiscard]] Histories readHistories() const;
+    /// Those whose names begin like that are read, others only when they have changed.
+    [[nodiscard]] Histories readHistories(const QString &ownName) const;
+    /// Null when it cannot be read. Valid until the next call.
+    [[nodiscard]] const HistoryFile *readHistory(const QString &path, bool isAnew) const;
     [[nodiscard]] static HistoryFiles::iterator historyOf(const QString &place,
                                                           HistoryFiles &files);
     [[nodiscard]] QString contentPath(const QByteArray &digest) const;
@@ -65,12 +69,14 @@ private:
                                Error &error);
     [[nodiscard]] std::optional<Sizes> contentSizes() const;
     void removeUnwanted(const HistoryFiles &files, const QByteArray &justKept, Sizes &sizes);
-    void makeRoom(HistoryFiles &files, const QByteArray &justKept);
+    /// `ownCount`: versions in the history of what was just kept.
+    void makeRoom(HistoryFiles &files, const QByteArray &justKept, std::size_t ownCount);
     [[nodiscard]] bool drop(HistoryFiles &files, std::size_t from, const QByteArray &digest);
 
     QString m_folder;
     FileOperations &m_operations;
     qint64 m_limit;
+    mutable QHash<QString, std::shared_ptr<HistoryFile>> m_read; ///< by their paths
 };
 
 } // namespace quillet

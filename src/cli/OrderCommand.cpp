@@ -9,6 +9,7 @@
 #include "document/compare/TakeOver.h"
 #include "document/order/ReferenceOrder.h"
 #include "document/read/ListReading.h"
+#include "document/text/RowReading.h"
 #include "model/CleanName.h"
 #include "texts/ReferenceListReading.h"
 
@@ -16,47 +17,27 @@ namespace quillet {
 
 namespace {
 
-/// Where the order comes from.
+/// Where the order comes from. What it is tells the text itself, for a pipe has no name.
 struct OrderSource
 {
-    QString path;
     QByteArray bytes;
-    ReferenceSource kind = ReferenceSource::Text;
+    ReferenceSource kind;
 };
-
-/// What it is tells the text itself: a pipe has no name, and a temporary file another one.
-ReferenceSource kindOf(const QByteArray &bytes)
-{
-    constexpr qsizetype beginning = 4096;
-    // In UTF-16 there is a zero beside each letter.
-    return bytes.first(qMin(bytes.size(), beginning)).replace('\0', "").contains("<TLLDATA")
-               ? ReferenceSource::ChannelList
-               : ReferenceSource::Text;
-}
 
 /// The stations of a reference list as records, which tell number, name and identifiers.
 StationList recordsOf(const ReferenceList &entries)
 {
-    StationList records;
-    for (const ReferenceEntry &entry : entries) {
-        const auto record =
-            std::make_shared<LGStation>(Dictionary(), static_cast<qint64>(records.size()));
-        const StationKeys &keys = record->keys();
-        record->setName(entry.name);
-        record->setField(keys.keyStationName, Value(entry.name));
-        const QStringList parts = entry.serviceID.split(u'-');
-        if (parts.size() == 3) {
-            record->setField(keys.keyOriginalNetwork_id, Value(parts[0]));
-            record->setField(keys.keyTransport_id, Value(parts[1]));
-            record->setField(keys.keyService_id, Value(parts[2]));
-        }
-        bool isNumber = false;
-        const int number = entry.num.trimmed().toInt(&isNumber);
-        if (isNumber)
-            record->setProgramNum(number);
-        records.push_back(record);
+    StationRows rows;
+    TextFault::Kind unused;
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        RowReading reading(i);
+        // What is no number that a station can have is none.
+        reading.take(RowField::Number, entries[i].num, unused);
+        reading.take(RowField::Name, entries[i].name, unused);
+        reading.take(RowField::Key, entries[i].serviceID, unused);
+        reading.addTo(rows, 0);
     }
-    return records;
+    return rows.stations;
 }
 
 /// Applies reference lists in one of the two ways.
@@ -72,9 +53,8 @@ public:
     {
         std::size_t matched = 0;
         std::size_t remaining = 0;
-        std::optional<qint64>
-            last;           ///< number of the last entry that was matched, where that counts
-        QStringList unused; ///< names of what the order has and the list has not
+        std::optional<qint64> last; ///< number of the last entry matched, where that counts
+        QStringList unused;         ///< names of what the order has and the list has not
     };
     [[nodiscard]] const Result &result() const { return m_result; }
 
@@ -200,12 +180,11 @@ Dictionary jsonOf(const ChosenList &list, const Ordering::Result &result)
 
 ExitStatus runOrder(const Invocation &invocation, Console &console)
 {
-    OrderSource source{.path = invocation.operands().at(1), .bytes = {}};
-    const auto bytes = openBytes(source.path, invocation, console);
+    const QString order = invocation.operands().at(1);
+    const auto bytes = openBytes(order, invocation, console);
     if (!bytes)
         return ExitStatus::FileError;
-    source.bytes = *bytes;
-    source.kind = kindOf(source.bytes);
+    const OrderSource source{*bytes, referenceSourceOf(*bytes)};
     const auto file = openList(invocation.operands().at(0), invocation, console);
     if (!file)
         return ExitStatus::FileError;
@@ -224,7 +203,7 @@ ExitStatus runOrder(const Invocation &invocation, Console &console)
         const QString reason = ordering(*file, list, record);
         if (!reason.isEmpty()) {
             const QString text = titleOf(list) + QLatin1String(": ") + reason;
-            console.tell(source.path, text);
+            console.tell(order, text);
             return reportFailure(file->path, text, ExitStatus::Findings, invocation, console);
         }
         if (!changed && !record.isEmpty())

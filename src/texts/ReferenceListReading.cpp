@@ -9,18 +9,11 @@ namespace quillet {
 
 namespace {
 
-/// Exports are such lists, also under a name that ends in .txt.
-bool isChannelList(const QByteArray &bytes)
-{
-    constexpr qsizetype beginning = 4096;
-    // In UTF-16 there is a zero beside each letter.
-    return bytes.first(qMin(bytes.size(), beginning)).replace('\0', "").contains("<TLLDATA");
-}
-
 /// What such a file must hold, and what this one does.
 QString reasonAgainst(const QByteArray &bytes)
 {
-    if (isChannelList(bytes))
+    // Exports are such lists, also under a name that ends in .txt.
+    if (referenceSourceOf(bytes) == ReferenceSource::ChannelList)
         return qtTrId("kOrderIsChannelList");
     const ReferenceLines lines = referenceLinesIn(bytes);
     return qtTrId("kOrderNoLines") + u' ' +
@@ -29,6 +22,15 @@ QString reasonAgainst(const QByteArray &bytes)
 }
 
 } // namespace
+
+ReferenceSource referenceSourceOf(const QByteArray &bytes)
+{
+    constexpr qsizetype beginning = 4096;
+    // In UTF-16 there is a zero beside each letter.
+    return bytes.first(qMin(bytes.size(), beginning)).replace('\0', "").contains("<TLLDATA")
+               ? ReferenceSource::ChannelList
+               : ReferenceSource::Text;
+}
 
 ReferenceList referenceListFromBytes(const QByteArray &bytes, ReferenceSource source, bool isTV,
                                      QString &reason)

@@ -12,6 +12,9 @@ enum class ReferenceSource {
     Text,
 };
 
+/// What the bytes of a file look like, whatever it is called.
+[[nodiscard]] ReferenceSource referenceSourceOf(const QByteArray &bytes);
+
 /// Reads a reference list from the bytes of a file. Empty for one that cannot be used; then the
 /// reason is one to show. `isTV` means nothing for a text. Writes nothing to the log.
 [[nodiscard]] ReferenceList referenceListFromBytes(const QByteArray &bytes, ReferenceSource source,

@@ -46,6 +46,13 @@ def test_order_of_another_list(tool, xml_file):
     assert tool("order", xml_file, "-", *CHOICE, "--match", "identity", "-o", "-", stdin=wanted) == wanted
 
 
+def test_order_by_identity_takes_no_number_that_there_is_not(tool, edited):
+    lines = tool("list", "--format", "reference", *CHOICE, edited).decode().splitlines()
+    lines[0] = "20000;" + lines[0].split(";", 1)[1]
+    order = "\n".join(lines).encode()
+    assert tool("order", edited, "-", *CHOICE, "--match", "identity", "-o", "-", stdin=order) == edited.read_bytes()
+
+
 @pytest.mark.parametrize("text", [b"1;Morgen satellite tv;1-2-3", b"1;a;1-2-3\n2;b;1-2-3\n3;c;1-2-3", b"a\nb\nc\nd"])
 def test_order_that_cannot_be_applied(tool, edited, text):
     assert tool("order", edited, "-", *CHOICE, "-o", "-", stdin=text, status=1) == b""

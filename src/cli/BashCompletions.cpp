@@ -205,7 +205,7 @@ QString optionCase(const OptionFacts &facts)
                        .arg(switches.join(QLatin1String(" | ")), quoted(switches.join(u' ')),
                             nameOf(valueKind(facts)));
     if (facts.choices)
-        text += QLatin1String(" choices=") + quoted(choicesOf(facts));
+        text += QLatin1String(" choices=") + quoted(choicesOf(facts).join(u' '));
     if (facts.option == Option::By)
         text += QLatin1String(" directions=") + quoted(QLatin1String(directionNames));
     if (repeatedOptions.has(facts.option))

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cli/CommandTable.h"
+#include "cli/OptionTexts.h"
 
 #include <QString>
 #include <QStringList>
@@ -15,11 +16,6 @@ enum class ValueKind { None, Text, File, Choice, List };
 /// "none", "text", "file", "choice" or "list".
 [[nodiscard]] QString nameOf(ValueKind kind);
 
-/// "-o" and "--output".
-[[nodiscard]] QStringList switchesOf(const OptionFacts &facts);
-[[nodiscard]] QString longNameOf(const OptionFacts &facts);
-/// The values there are, apart by blanks.
-[[nodiscard]] QString choicesOf(const OptionFacts &facts);
 /// The beginning of the description, for a row of a menu.
 [[nodiscard]] QString hintOf(const OptionFacts &facts);
 [[nodiscard]] std::vector<OptionFacts> factsOf(OptionSet options);

@@ -47,24 +47,6 @@ QString nameOf(ValueKind kind)
     return QLatin1String(kindNames.at(static_cast<std::size_t>(kind)));
 }
 
-QStringList switchesOf(const OptionFacts &facts)
-{
-    QStringList switches = QString::fromLatin1(facts.names).split(u',');
-    for (QString &name : switches)
-        name.prepend(name.size() == 1 ? QLatin1String("-") : QLatin1String("--"));
-    return switches;
-}
-
-QString longNameOf(const OptionFacts &facts)
-{
-    return QString::fromLatin1(facts.names).section(u',', -1);
-}
-
-QString choicesOf(const OptionFacts &facts)
-{
-    return QString::fromLatin1(facts.choices);
-}
-
 QString hintOf(const OptionFacts &facts)
 {
     QString hint = QString::fromLatin1(facts.description);

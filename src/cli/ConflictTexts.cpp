@@ -4,6 +4,8 @@
 #include "document/compare/MergeConflict.h"
 #include "model/CleanName.h"
 
+#include <QStringList>
+
 #include <algorithm>
 #include <array>
 
@@ -53,14 +55,26 @@ QString told(const MergeConflict &conflict, const Side &side)
     return conflict.kind == Kind::Name ? cleanName(side.name) : QString::number(side.number);
 }
 
+/// At once, for a name may hold "%2". A text need not have all of them.
+QString filled(QLatin1String text, const QStringList &values)
+{
+    QString result;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (text[i] == QLatin1Char('%'))
+            result += values.at(QChar(text[++i]).digitValue() - 1);
+        else
+            result += text[i];
+    }
+    return result;
+}
+
 } // namespace
 
 QString textOf(const MergeConflict &conflict)
 {
-    QString text = QString::fromLatin1(factsOf(conflict.kind).text);
-    text.replace(QLatin1String("%1"), told(conflict, conflict.ours));
-    text.replace(QLatin1String("%2"), told(conflict, conflict.theirs));
-    text.replace(QLatin1String("%3"), cleanName(conflict.rival.name));
+    const QString text = filled(QLatin1String(factsOf(conflict.kind).text),
+                                {told(conflict, conflict.ours), told(conflict, conflict.theirs),
+                                 cleanName(conflict.rival.name)});
     const auto sides = {conflict.ours, conflict.theirs, conflict.base};
     const auto *const side = std::find_if(sides.begin(), sides.end(),
                                           [](const Side &each) { return each.station != nullptr; });

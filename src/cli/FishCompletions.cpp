@@ -88,7 +88,7 @@ QString line(const QString &condition, const QString &rest)
 
 QString valuesOf(const OptionFacts &facts)
 {
-    QStringList values = choicesOf(facts).split(u' ');
+    QStringList values = choicesOf(facts);
     switch (valueKind(facts)) {
     case ValueKind::None:
         return {};
@@ -97,7 +97,7 @@ QString valuesOf(const OptionFacts &facts)
     case ValueKind::File:
         return QStringLiteral(" -rF");
     case ValueKind::Choice:
-        return QStringLiteral(" -kxa ") + quoted(choicesOf(facts));
+        return QStringLiteral(" -kxa ") + quoted(choicesOf(facts).join(u' '));
     case ValueKind::List:
         break;
     }
@@ -188,7 +188,7 @@ QString fishCompletions()
         text += line(first, switchesAndHint(facts));
         if (facts.choices)
             text += line(first + QLatin1String(" --") + longNameOf(facts),
-                         QLatin1String("-kxa ") + quoted(choicesOf(facts)));
+                         QLatin1String("-kxa ") + quoted(choicesOf(facts).join(u' ')));
     }
     for (const OptionFacts &facts : optionFacts)
         text += optionLine(facts);

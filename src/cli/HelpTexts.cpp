@@ -1,6 +1,7 @@
 #include "cli/HelpTexts.h"
 
 #include "cli/CommandTable.h"
+#include "cli/OptionTexts.h"
 
 #include <QStringList>
 
@@ -37,10 +38,7 @@ QString row(const QString &name, const QString &text)
 
 QString nameOf(const OptionFacts &facts)
 {
-    QStringList names;
-    for (const QString &name : QString::fromLatin1(facts.names).split(u','))
-        names.append((name.size() == 1 ? QLatin1String("-") : QLatin1String("--")) + name);
-    QString text = names.join(QLatin1String(", "));
+    QString text = switchesOf(facts).join(QLatin1String(", "));
     if (facts.value)
         text += QLatin1String(" <") + QLatin1String(facts.value) + u'>';
     return text;
@@ -53,7 +51,7 @@ QString descriptionOf(const OptionFacts &facts)
         text +=
             QStringLiteral(" %1 of %2.")
                 .arg(listOptions.has(facts.option) ? QLatin1String("Some") : QLatin1String("One"),
-                     QString::fromLatin1(facts.choices).replace(u' ', QLatin1String(", ")));
+                     choicesOf(facts).join(QLatin1String(", ")));
     return text;
 }
 

@@ -1,27 +1,10 @@
 #include "cli/Invocation.h"
 
+#include "cli/OptionTexts.h"
+
 #include <QCommandLineParser>
 
 namespace quillet {
-
-namespace {
-
-QStringList namesOf(const OptionFacts &facts)
-{
-    return QString::fromLatin1(facts.names).split(u',');
-}
-
-QString longName(const OptionFacts &facts)
-{
-    return QLatin1String("--") + namesOf(facts).constLast();
-}
-
-QStringList choicesOf(const OptionFacts &facts)
-{
-    return QString::fromLatin1(facts.choices).split(u' ', Qt::SkipEmptyParts);
-}
-
-} // namespace
 
 std::optional<Invocation> Invocation::parse(const Command &command, const QStringList &arguments,
                                             QString &problem)
@@ -77,13 +60,13 @@ QString Invocation::wrongChoice() const
             listOptions.has(facts.option) ? parts(facts.option) : values(facts.option);
         if (isSet(facts.option) && chosenParts.isEmpty())
             return QStringLiteral("%1 takes %2, and has nothing.")
-                .arg(longName(facts), choices.join(QLatin1String(", ")));
+                .arg(switchesOf(facts).constLast(), choices.join(QLatin1String(", ")));
         for (const QString &part : chosenParts) {
             // What to sort by may have a direction behind it.
             const QString chosen = facts.option == Option::By ? part.section(u':', 0, 0) : part;
             if (!choices.contains(chosen))
                 return QStringLiteral("%1 takes %2, not \"%3\".")
-                    .arg(longName(facts), choices.join(QLatin1String(", ")), part);
+                    .arg(switchesOf(facts).constLast(), choices.join(QLatin1String(", ")), part);
         }
     }
     return {};

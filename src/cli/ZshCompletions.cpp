@@ -44,7 +44,7 @@ QString actionOf(const OptionFacts &facts)
     case ValueKind::File:
         return QStringLiteral("_quillet_cli_files tll");
     case ValueKind::Choice:
-        return u'(' + choicesOf(facts) + u')';
+        return u'(' + choicesOf(facts).join(u' ') + u')';
     case ValueKind::List:
         return QStringLiteral(" _quillet_cli_list ") + longNameOf(facts);
     case ValueKind::Text:
@@ -54,7 +54,7 @@ QString actionOf(const OptionFacts &facts)
     return QStringLiteral(" ");
 }
 
-QString specOf(const OptionFacts &facts, bool endsAll)
+QString formOf(const OptionFacts &facts, bool endsAll)
 {
     const QStringList switches = switchesOf(facts);
     const bool hasValue = valueKind(facts) != ValueKind::None;
@@ -75,7 +75,7 @@ QString specOf(const OptionFacts &facts, bool endsAll)
     return QLatin1String("            ") + text + quoted(rest) + QLatin1String(" \\\n");
 }
 
-QString operandSpecs(const Command &command)
+QString operandForms(const Command &command)
 {
     QString text;
     const QStringList names = QString::fromLatin1(command.operands).split(u' ');
@@ -93,11 +93,11 @@ QString operandSpecs(const Command &command)
 
 QString commandCase(const Command &command)
 {
-    QString specs;
+    QString forms;
     for (const OptionFacts &facts : factsOf(command.options))
-        specs += specOf(facts, false);
+        forms += formOf(facts, false);
     return QStringLiteral("    %1)\n        _arguments -s -S : \\\n%2        ;;\n")
-        .arg(QLatin1String(command.name), specs + operandSpecs(command));
+        .arg(QLatin1String(command.name), forms + operandForms(command));
 }
 
 /// How the values of options are completed that are several, apart by commas.
@@ -105,7 +105,7 @@ QString listFunction()
 {
     QString cases;
     for (const OptionFacts &facts : factsOf(listOptions)) {
-        QStringList values = choicesOf(facts).split(u' ');
+        QStringList values = choicesOf(facts);
         if (facts.option == Option::By) {
             for (QString &value : values)
                 value = quoted(value + QLatin1String("::direction:(") +
@@ -135,9 +135,9 @@ QString commandsFunction()
 
 QString zshCompletions()
 {
-    QString toolSpecs;
+    QString toolForms;
     for (const OptionFacts &facts : factsOf(toolOptions))
-        toolSpecs += specOf(facts, true);
+        toolForms += formOf(facts, true);
     QString cases;
     for (const Command &command : commands())
         cases += commandCase(command);
@@ -147,7 +147,7 @@ QString zshCompletions()
                          "    typeset -A opt_args\n"
                          "    if (( CURRENT == 2 )) || [[ $words[2] == -* ]]; then\n"
                          "        _arguments : \\\n") +
-           toolSpecs +
+           toolForms +
            QLatin1String("            '1:command: _quillet_cli_commands \"help:Show help\"'\n"
                          "        return\n    fi\n"
                          "    shift words\n"

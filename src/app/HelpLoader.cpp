@@ -1,6 +1,9 @@
 #include "app/HelpLoader.h"
 
+#include "texts/Translations.h"
+
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
 #include <QLoggingCategory>
 #include <QPluginLoader>
@@ -18,14 +21,18 @@ constexpr std::array resourcePlaces{"/resources", "/../share/quillet", "/../Reso
 constexpr std::array modulePlaces{"/modules", "/../lib/quillet", QUILLET_MODULE_PLACE,
                                   "/../PlugIns"};
 
+/// Where that file is: in one of the folders of the first place that has it.
 template<typename Places>
-std::optional<QString> find(const Places &places, const QString &wanted)
+std::optional<QString> find(const Places &places, const QString &wanted,
+                            const QStringList &folders = {QString()})
 {
-    for (const char *place : places) {
-        const QString folder = QCoreApplication::applicationDirPath() + QLatin1String(place);
-        if (QFileInfo::exists(folder + wanted))
-            return QFileInfo(folder).absoluteFilePath();
-    }
+    for (const char *place : places)
+        for (const QString &name : folders) {
+            const QString folder =
+                QCoreApplication::applicationDirPath() + QLatin1String(place) + name;
+            if (QFileInfo::exists(folder + wanted))
+                return QDir(folder).absolutePath();
+        }
     return {};
 }
 
@@ -33,7 +40,8 @@ std::optional<QString> find(const Places &places, const QString &wanted)
 
 std::optional<QString> resourceFolder()
 {
-    return find(resourcePlaces, QStringLiteral("/User-Guide/index.html"));
+    return find(resourcePlaces, QStringLiteral("/User-Guide/index.html"),
+                {u'/' + shownLanguage(), QString()});
 }
 
 std::optional<QString> helpModule()

@@ -7,7 +7,8 @@
 
 namespace quillet {
 
-/// The folder of the program's resources; none when it was not installed with the program.
+/// The folder of the program's resources in the language of its texts, or else in English; none
+/// when it was not installed with the program.
 [[nodiscard]] std::optional<QString> resourceFolder();
 
 /// The module with the help window; none when a package left it out.

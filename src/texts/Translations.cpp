@@ -23,6 +23,18 @@ QString textFolder()
     return QStringLiteral(":/i18n");
 }
 
+/// Of a file of texts.
+QString languageOf(const QString &path)
+{
+    return QFileInfo(path).completeBaseName().section(u'_', 1);
+}
+
+/// The last one's texts come first.
+QList<QTranslator *> installedTranslators()
+{
+    return qApp->findChildren<QTranslator *>(translatorName(), Qt::FindDirectChildrenOnly);
+}
+
 void install(std::unique_ptr<QTranslator> translator)
 {
     translator->setObjectName(translatorName());
@@ -44,7 +56,7 @@ QStringList textLanguages()
     QStringList languages;
     const QStringList names = QDir(textFolder()).entryList({QStringLiteral("quillet_*.qm")});
     for (const QString &name : names)
-        languages.append(QFileInfo(name).completeBaseName().section(u'_', 1));
+        languages.append(languageOf(name));
     return languages;
 }
 
@@ -57,7 +69,7 @@ bool hasTexts(const QString &language)
 void installTranslations(const QString &language)
 {
     // A translator that is deleted takes itself out of the application object.
-    qDeleteAll(qApp->findChildren<QTranslator *>(translatorName(), Qt::FindDirectChildrenOnly));
+    qDeleteAll(installedTranslators());
     const QLocale locale = language.isEmpty() ? QLocale::system() : QLocale(language);
     QLocale::setDefault(locale); // by which names are sorted
     // Texts are looked for in the last one first.
@@ -66,6 +78,15 @@ void installTranslations(const QString &language)
     for (const char *catalogue : {"qtbase", "qtwebengine"})
         install(locale, QLatin1String(catalogue), qtsFolder);
     install(locale, QStringLiteral("quillet"), textFolder());
+}
+
+QString shownLanguage()
+{
+    QString language;
+    for (const QTranslator *translator : installedTranslators())
+        if (translator->filePath().startsWith(textFolder()))
+            language = languageOf(translator->filePath());
+    return language;
 }
 
 void installEnglishTexts()

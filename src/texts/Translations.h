@@ -14,6 +14,8 @@ namespace quillet {
 /// the system's when it is empty. What a language lacks is shown in English. Takes the place of the
 /// texts loaded before; what is on show keeps the ones it was made with.
 void installTranslations(const QString &language = {});
+/// The language that the loaded texts are in ("de"); empty when there are none.
+[[nodiscard]] QString shownLanguage();
 /// Loads the program's English texts alone, at once: for a tool that speaks English everywhere and
 /// starts often.
 void installEnglishTexts();

@@ -1,5 +1,6 @@
 #include "app/help/NavigationPolicy.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
 
@@ -12,6 +13,13 @@ namespace {
 
 constexpr QStringView localNetwork = u"http://192.168.";
 constexpr std::array<QStringView, 3> outside{u"http://", u"https://", u"mailto:"};
+
+/// With all links followed.
+bool liesIn(const QString &path, const QString &folder)
+{
+    const QString canonical = QFileInfo(folder).canonicalFilePath();
+    return !canonical.isEmpty() && QFileInfo(path).canonicalFilePath().startsWith(canonical + u'/');
+}
 
 } // namespace
 
@@ -28,10 +36,11 @@ Navigation navigationFor(const QUrl &url, bool handleLocalURLsInApp)
 bool mayFetch(const QUrl &url, const QString &guideFolder, bool handleLocalURLsInApp)
 {
     if (url.isLocalFile()) {
-        // A link in the folder must not lead out of it either.
-        const QString file = QFileInfo(url.toLocalFile()).canonicalFilePath();
-        const QString folder = QFileInfo(guideFolder).canonicalFilePath();
-        return !folder.isEmpty() && file.startsWith(folder + u'/');
+        const QString path = QDir::cleanPath(url.toLocalFile());
+        const QString pictures = QDir::cleanPath(guideFolder) + QLatin1String("/pictures");
+        // A link in the folder must not lead out of it either, except to the pictures.
+        return liesIn(path, guideFolder) ||
+               (path.startsWith(pictures + u'/') && liesIn(path, pictures));
     }
     if (url.scheme() == QLatin1String("data") || url.scheme() == QLatin1String("about"))
         return true;

@@ -3,9 +3,11 @@
 #include "app/DesktopServices.h"
 #include "testing/TestFiles.h"
 #include "testing/TestMain.h"
+#include "texts/Translations.h"
 
 #include <QDir>
 #include <QRegularExpression>
+#include <QScopeGuard>
 #include <QTest>
 
 using namespace quillet;
@@ -33,6 +35,20 @@ private slots:
             QVERIFY(resourceFolder() != at(place)); // a folder is no guide
             writeFile(at(place + u"/User-Guide/index.html"_s), "x");
             QCOMPARE(resourceFolder(), std::optional(at(place)));
+        }
+    }
+
+    void findsTheGuideInTheLanguageOfTheTexts()
+    {
+        for (const QString &folder : {u"resources/User-Guide"_s, u"resources/de/User-Guide"_s}) {
+            QVERIFY(QDir().mkpath(at(folder)));
+            writeFile(at(folder + u"/index.html"_s), "x");
+        }
+        const auto restore = qScopeGuard([] { installTranslations(); });
+        for (const auto &[language, folder] :
+             {std::pair{u"de_AT"_s, u"resources/de"_s}, {u"pl"_s, u"resources"_s}}) {
+            installTranslations(language);
+            QCOMPARE(resourceFolder(), std::optional(at(folder)));
         }
     }
 

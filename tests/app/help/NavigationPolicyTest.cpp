@@ -61,6 +61,8 @@ private slots:
         row("file://%1/guide/%2e%2e/secret.txt", false);
         row("file://%1/guide/link.txt", false); // leads out of the folder
         row("file://%1/guide2/index.html", false);
+        row("file://%1/guide2/pictures/window.png", false); // though a link leads there
+        row("file://%1/guide/pictures/link.txt", false);
         row("file://%1/guide/missing.html", false);
         row("https://example.org/x.png", false);
         row("https://example.org/?http://192.168.0.1", false);
@@ -74,13 +76,16 @@ private slots:
         QFETCH(QString, address);
         QTemporaryDir home;
         const QDir folder(home.path());
-        QVERIFY(folder.mkpath(QStringLiteral("guide/pictures")));
-        QVERIFY(folder.mkpath(QStringLiteral("guide2")));
+        QVERIFY(folder.mkpath(QStringLiteral("guide")));
+        QVERIFY(folder.mkpath(QStringLiteral("guide2/pictures")));
         for (const char *name :
-             {"guide/index.html", "guide/pictures/window.png", "guide2/index.html", "secret.txt"})
+             {"guide/index.html", "guide2/pictures/window.png", "guide2/index.html", "secret.txt"})
             writeFile(folder.filePath(QLatin1String(name)), "x");
-        QVERIFY(QFile::link(folder.filePath(QStringLiteral("secret.txt")),
-                            folder.filePath(QStringLiteral("guide/link.txt"))));
+        for (const auto &[target, link] : {std::pair{"guide2/pictures", "guide/pictures"},
+                                           {"secret.txt", "guide2/pictures/link.txt"},
+                                           {"secret.txt", "guide/link.txt"}})
+            QVERIFY(QFile::link(folder.filePath(QLatin1String(target)),
+                                folder.filePath(QLatin1String(link))));
 
         const QUrl url(address.replace(QLatin1String("%1"), folder.canonicalPath()));
         QTEST(mayFetch(url, folder.filePath(QStringLiteral("guide")), true), "allowed");

@@ -5,7 +5,6 @@ it is translated; put_names() sets the language's own words in their places. Use
 guide-translations.
 """
 
-import collections
 import html
 import json
 import re
@@ -15,6 +14,11 @@ SOURCE_LANGUAGE = "en"
 MENU_ARROW = " › "
 BOLD = re.compile(r"<b(?:\s+data-id=\"([^\"]*)\")?>(.*?)</b>", re.DOTALL)
 KEY = re.compile(r"<kbd(?:\s+data-id=\"([^\"]*)\")?>([^<]*)</kbd>")
+
+
+def one_line(text):
+    """With each run of ordinary spaces and line ends as one space."""
+    return re.sub("[ \t\n]+", " ", text).strip(" ")
 
 
 def plain(text):
@@ -34,10 +38,10 @@ class Words:
                 texts = translation.findall("numerusform") or [translation]
                 forms[message.get("id")] = [text.text or "" for text in texts]
             self.texts[path.stem.split("_")[1]] = forms
-        self.ids = collections.defaultdict(list)  # English name: where it stands
+        self.ids = {}  # English name: where it stands
         for name, forms in self.texts[SOURCE_LANGUAGE].items():
             for place, form in enumerate(forms):
-                self.ids[plain(form)].append((name, place))
+                self.ids.setdefault(plain(form), []).append((name, place))
         keys = root / "translations" / "guide" / "keys.json"
         self.keys = json.loads(keys.read_text(encoding="utf-8")) if keys.is_file() else {}
 
@@ -52,12 +56,24 @@ class Words:
         forms = self.texts[language].get(name, [""])
         return forms[min(place, len(forms) - 1)] or self.texts[SOURCE_LANGUAGE][name][place]
 
-    def named(self, english, ids, language):
-        """What the language has for the text of that English name, of the ids if it has one of them; none
-        when it is no text of the program, several when several texts are called so."""
-        places = self.ids.get(english, [])
-        meant = [(name, place) for name, place in places if name in ids] or places
-        return sorted({plain(self.form(name, place, language)) for name, place in meant})
+    def meant(self, path, ids):
+        """The names on a path "Menu › Item", each with where it stands in the texts: [(name, [(id, form)])].
+        Several texts may be called so: one of the ids is meant then, or, on a path, a menu's text."""
+        names = path.split(MENU_ARROW)
+        found = []
+        for name in names:
+            places = self.ids.get(name, [])
+            menus = [place for place in places if len(names) > 1 and place[0].startswith("kMenu")]
+            found.append((name, [place for place in places if place[0] in ids] or menus or places))
+        return found
+
+    def in_language(self, places, language):
+        """What the language calls the texts at these places."""
+        return sorted({plain(self.form(name, place, language)) for name, place in places})
+
+    def is_name(self, path):
+        """Whether all on it are texts of the program."""
+        return all(places for _, places in self.meant(one_line(html.unescape(path)), ()))
 
     def mnemonic(self, name, language):
         """The letter that leads to the control with Alt; none when it has none."""
@@ -71,13 +87,11 @@ class Words:
         """The page with the language's names in place of the English ones."""
         def bold(found):
             ids, inside = found.groups()
-            parts = []
-            for part in " ".join(html.unescape(inside).split()).split(MENU_ARROW):
-                named = self.named(part, (ids or "").split(), language)
-                if not named:
-                    return found.group(0)
-                parts.append(named[0])
-            return "<b>%s</b>" % html.escape(MENU_ARROW.join(parts), quote=False)
+            parts = [self.in_language(places, language)[:1] for _, places in
+                     self.meant(one_line(html.unescape(inside)), (ids or "").split())]
+            if not all(parts):
+                return found.group(0)
+            return "<b>%s</b>" % html.escape(MENU_ARROW.join(part[0] for part in parts), quote=False)
 
         def key(found):
             name, label = found.groups()

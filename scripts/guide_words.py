@@ -107,17 +107,31 @@ def unquoted(lines):
     return re.sub(r"\\(.)", lambda found: {"n": "\n", "t": "\t"}.get(found.group(1), found.group(1)), text)
 
 
+def without_ids(text):
+    return re.sub(r"\s+data-id=\"[^\"]*\"", "", text)
+
+
 class Entry:
     """One text of a .po file: the English one and its translation, empty when there is none to use."""
 
     def __init__(self, block):
         lines = [line for line in block.split("\n") if line and not line.startswith("#~")]
-        flags = [line for line in lines if line.startswith("#,")]
-        self.is_fuzzy = any("fuzzy" in line for line in flags)
+        self.is_fuzzy = any(line.startswith("#,") and "fuzzy" in line for line in lines)
         strings = [line for line in lines if not line.startswith("#")]
         start = next((place for place, line in enumerate(strings) if line.startswith("msgstr")), len(strings))
         self.source = unquoted(strings[:start])
-        self.translation = "" if self.is_fuzzy else unquoted(strings[start:])
+        self.draft = unquoted(strings[start:])  # of another text when it is fuzzy
+        self.translation = "" if self.is_fuzzy else self.draft
+        self.previous = unquoted([line for line in lines if line.startswith("#|")])
+
+    def with_new_ids(self):
+        """The translation of a text that has changed in nothing but data-id; empty when that is not so."""
+        if not self.is_fuzzy or without_ids(self.source) != without_ids(self.previous):
+            return ""
+        text = without_ids(self.draft)
+        for element in (found.group(0) for kind in (BOLD, KEY) for found in kind.finditer(self.source)):
+            text = text.replace(without_ids(element), element, 1)
+        return text
 
 
 def read_entries(path):

@@ -832,6 +832,38 @@
         <source></source>
         <translation>Zurück</translation>
     </message>
+    <message id="kHelpFind">
+        <source></source>
+        <translation>Suchen</translation>
+    </message>
+    <message id="kHelpFindClose">
+        <source></source>
+        <translation>Suchleiste schließen</translation>
+    </message>
+    <message id="kHelpFindCount">
+        <source></source>
+        <translation>Treffer %1 von %2</translation>
+    </message>
+    <message id="kHelpFindField">
+        <source></source>
+        <translation>Auf dieser Seite suchen</translation>
+    </message>
+    <message id="kHelpFindNext">
+        <source></source>
+        <translation>Nächster Treffer</translation>
+    </message>
+    <message id="kHelpFindNone">
+        <source></source>
+        <translation>Auf dieser Seite nicht gefunden</translation>
+    </message>
+    <message id="kHelpFindPrevious">
+        <source></source>
+        <translation>Vorheriger Treffer</translation>
+    </message>
+    <message id="kHelpFindTip">
+        <source></source>
+        <translation>Ein Wort auf dieser Seite suchen</translation>
+    </message>
     <message id="kHelpForward">
         <source></source>
         <translation>Vorwärts</translation>

@@ -832,6 +832,38 @@
         <source></source>
         <translation>Back</translation>
     </message>
+    <message id="kHelpFind">
+        <source></source>
+        <translation>Find</translation>
+    </message>
+    <message id="kHelpFindClose">
+        <source></source>
+        <translation>Close the find bar</translation>
+    </message>
+    <message id="kHelpFindCount">
+        <source></source>
+        <translation>Match %1 of %2</translation>
+    </message>
+    <message id="kHelpFindField">
+        <source></source>
+        <translation>Find on this page</translation>
+    </message>
+    <message id="kHelpFindNext">
+        <source></source>
+        <translation>Next match</translation>
+    </message>
+    <message id="kHelpFindNone">
+        <source></source>
+        <translation>Not found on this page</translation>
+    </message>
+    <message id="kHelpFindPrevious">
+        <source></source>
+        <translation>Previous match</translation>
+    </message>
+    <message id="kHelpFindTip">
+        <source></source>
+        <translation>Find a word on this page</translation>
+    </message>
     <message id="kHelpForward">
         <source></source>
         <translation>Forward</translation>

@@ -832,6 +832,38 @@
         <source></source>
         <translation>Atrás</translation>
     </message>
+    <message id="kHelpFind">
+        <source></source>
+        <translation>Buscar</translation>
+    </message>
+    <message id="kHelpFindClose">
+        <source></source>
+        <translation>Cerrar la barra de búsqueda</translation>
+    </message>
+    <message id="kHelpFindCount">
+        <source></source>
+        <translation>Coincidencia %1 de %2</translation>
+    </message>
+    <message id="kHelpFindField">
+        <source></source>
+        <translation>Buscar en esta página</translation>
+    </message>
+    <message id="kHelpFindNext">
+        <source></source>
+        <translation>Coincidencia siguiente</translation>
+    </message>
+    <message id="kHelpFindNone">
+        <source></source>
+        <translation>No se ha encontrado en esta página</translation>
+    </message>
+    <message id="kHelpFindPrevious">
+        <source></source>
+        <translation>Coincidencia anterior</translation>
+    </message>
+    <message id="kHelpFindTip">
+        <source></source>
+        <translation>Buscar una palabra en esta página</translation>
+    </message>
     <message id="kHelpForward">
         <source></source>
         <translation>Adelante</translation>

@@ -832,6 +832,38 @@
         <source></source>
         <translation>Précédent</translation>
     </message>
+    <message id="kHelpFind">
+        <source></source>
+        <translation>Rechercher</translation>
+    </message>
+    <message id="kHelpFindClose">
+        <source></source>
+        <translation>Fermer la barre de recherche</translation>
+    </message>
+    <message id="kHelpFindCount">
+        <source></source>
+        <translation>Résultat %1 sur %2</translation>
+    </message>
+    <message id="kHelpFindField">
+        <source></source>
+        <translation>Rechercher dans cette page</translation>
+    </message>
+    <message id="kHelpFindNext">
+        <source></source>
+        <translation>Résultat suivant</translation>
+    </message>
+    <message id="kHelpFindNone">
+        <source></source>
+        <translation>Introuvable dans cette page</translation>
+    </message>
+    <message id="kHelpFindPrevious">
+        <source></source>
+        <translation>Résultat précédent</translation>
+    </message>
+    <message id="kHelpFindTip">
+        <source></source>
+        <translation>Rechercher un mot dans cette page</translation>
+    </message>
     <message id="kHelpForward">
         <source></source>
         <translation>Suivant</translation>

@@ -832,6 +832,38 @@
         <source></source>
         <translation>Indietro</translation>
     </message>
+    <message id="kHelpFind">
+        <source></source>
+        <translation>Cerca</translation>
+    </message>
+    <message id="kHelpFindClose">
+        <source></source>
+        <translation>Chiudi la barra di ricerca</translation>
+    </message>
+    <message id="kHelpFindCount">
+        <source></source>
+        <translation>Risultato %1 di %2</translation>
+    </message>
+    <message id="kHelpFindField">
+        <source></source>
+        <translation>Cerca in questa pagina</translation>
+    </message>
+    <message id="kHelpFindNext">
+        <source></source>
+        <translation>Risultato successivo</translation>
+    </message>
+    <message id="kHelpFindNone">
+        <source></source>
+        <translation>Non trovato in questa pagina</translation>
+    </message>
+    <message id="kHelpFindPrevious">
+        <source></source>
+        <translation>Risultato precedente</translation>
+    </message>
+    <message id="kHelpFindTip">
+        <source></source>
+        <translation>Cerca una parola in questa pagina</translation>
+    </message>
     <message id="kHelpForward">
         <source></source>
         <translation>Avanti</translation>

@@ -832,6 +832,38 @@
         <source></source>
         <translation>Terug</translation>
     </message>
+    <message id="kHelpFind">
+        <source></source>
+        <translation>Zoeken</translation>
+    </message>
+    <message id="kHelpFindClose">
+        <source></source>
+        <translation>Zoekbalk sluiten</translation>
+    </message>
+    <message id="kHelpFindCount">
+        <source></source>
+        <translation>Resultaat %1 van %2</translation>
+    </message>
+    <message id="kHelpFindField">
+        <source></source>
+        <translation>Op deze pagina zoeken</translation>
+    </message>
+    <message id="kHelpFindNext">
+        <source></source>
+        <translation>Volgend resultaat</translation>
+    </message>
+    <message id="kHelpFindNone">
+        <source></source>
+        <translation>Niet gevonden op deze pagina</translation>
+    </message>
+    <message id="kHelpFindPrevious">
+        <source></source>
+        <translation>Vorig resultaat</translation>
+    </message>
+    <message id="kHelpFindTip">
+        <source></source>
+        <translation>Een woord op deze pagina zoeken</translation>
+    </message>
     <message id="kHelpForward">
         <source></source>
         <translation>Vooruit</translation>

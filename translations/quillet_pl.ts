@@ -855,6 +855,38 @@
         <source></source>
         <translation>Wstecz</translation>
     </message>
+    <message id="kHelpFind">
+        <source></source>
+        <translation>Znajdź</translation>
+    </message>
+    <message id="kHelpFindClose">
+        <source></source>
+        <translation>Zamknij pasek wyszukiwania</translation>
+    </message>
+    <message id="kHelpFindCount">
+        <source></source>
+        <translation>Wynik %1 z %2</translation>
+    </message>
+    <message id="kHelpFindField">
+        <source></source>
+        <translation>Znajdź na tej stronie</translation>
+    </message>
+    <message id="kHelpFindNext">
+        <source></source>
+        <translation>Następny wynik</translation>
+    </message>
+    <message id="kHelpFindNone">
+        <source></source>
+        <translation>Nie znaleziono na tej stronie</translation>
+    </message>
+    <message id="kHelpFindPrevious">
+        <source></source>
+        <translation>Poprzedni wynik</translation>
+    </message>
+    <message id="kHelpFindTip">
+        <source></source>
+        <translation>Znajdź słowo na tej stronie</translation>
+    </message>
     <message id="kHelpForward">
         <source></source>
         <translation>Dalej</translation>

@@ -809,6 +809,38 @@
         <source></source>
         <translation>Geri</translation>
     </message>
+    <message id="kHelpFind">
+        <source></source>
+        <translation>Bul</translation>
+    </message>
+    <message id="kHelpFindClose">
+        <source></source>
+        <translation>Arama çubuğunu kapat</translation>
+    </message>
+    <message id="kHelpFindCount">
+        <source></source>
+        <translation>Eşleşme %1 / %2</translation>
+    </message>
+    <message id="kHelpFindField">
+        <source></source>
+        <translation>Bu sayfada bul</translation>
+    </message>
+    <message id="kHelpFindNext">
+        <source></source>
+        <translation>Sonraki eşleşme</translation>
+    </message>
+    <message id="kHelpFindNone">
+        <source></source>
+        <translation>Bu sayfada bulunamadı</translation>
+    </message>
+    <message id="kHelpFindPrevious">
+        <source></source>
+        <translation>Önceki eşleşme</translation>
+    </message>
+    <message id="kHelpFindTip">
+        <source></source>
+        <translation>Bu sayfada bir sözcük bul</translation>
+    </message>
     <message id="kHelpForward">
         <source></source>
         <translation>İleri</translation>

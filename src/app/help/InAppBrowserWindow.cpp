@@ -1,5 +1,6 @@
 #include "app/help/InAppBrowserWindow.h"
 
+#include "app/help/FindBar.h"
 #include "app/help/InAppBrowserController.h"
 #include "app/help/SystemServices.h"
 
@@ -9,6 +10,7 @@
 #include <QScreen>
 #include <QSettings>
 #include <QToolBar>
+#include <QVBoxLayout>
 #include <QWebEnginePage>
 #include <QWebEngineView>
 
@@ -26,21 +28,24 @@ QString frameKey()
 struct ToolbarItem
 {
     const char *name;
-    const char *title; ///< id of the localized text
-    const char *icon;  ///< its name in the desktop's icon theme; null: none
-    Qt::Key key;       ///< with Alt; Key_unknown: none
+    const char *title;    ///< id of the localized text
+    const char *icon;     ///< its name in the desktop's icon theme; null: none
+    QKeyCombination keys; ///< Key_unknown: none
     void (InAppBrowserWindow::*perform)();
 };
 
 constexpr std::array toolbarItems{
-    ToolbarItem{"goBack", "kHelpBack", "go-previous", Qt::Key_Left, &InAppBrowserWindow::goBack},
-    ToolbarItem{"goForward", "kHelpForward", "go-next", Qt::Key_Right,
+    ToolbarItem{"goBack", "kHelpBack", "go-previous", Qt::ALT | Qt::Key_Left,
+                &InAppBrowserWindow::goBack},
+    ToolbarItem{"goForward", "kHelpForward", "go-next", Qt::ALT | Qt::Key_Right,
                 &InAppBrowserWindow::goForward},
-    ToolbarItem{"goHome", "kHelpHome", "go-home", Qt::Key_Home, &InAppBrowserWindow::goHome},
+    ToolbarItem{"goHome", "kHelpHome", "go-home", Qt::ALT | Qt::Key_Home,
+                &InAppBrowserWindow::goHome},
     ToolbarItem{"openInBrowser", "kHelpOpenInBrowser", nullptr, Qt::Key_unknown,
                 &InAppBrowserWindow::openInBrowser},
     ToolbarItem{"chrome", "kHelpOpenInChrome", nullptr, Qt::Key_unknown,
                 &InAppBrowserWindow::openInChrome},
+    ToolbarItem{"find", "kHelpFind", "edit-find", Qt::CTRL | Qt::Key_F, &InAppBrowserWindow::find},
 };
 
 // Connections that a page makes to other computers pass every filter of requests by.
@@ -70,16 +75,25 @@ void setEngineUp(const QPalette &palette)
 } // namespace
 
 InAppBrowserWindow::InAppBrowserWindow(SystemServices &services)
-    : m_services(services), m_controller(nullptr), m_toolbar(addToolBar(qtTrId("kHelpToolbar")))
+    : m_services(services), m_controller(nullptr), m_toolbar(addToolBar(qtTrId("kHelpToolbar"))),
+      m_findBar(nullptr)
 {
     setObjectName(QStringLiteral("helpWindow"));
     setEngineUp(palette());
     auto *container = new QWidget;
-    setCentralWidget(container);
+    auto *content = new QWidget;
+    setCentralWidget(content);
     m_controller = new InAppBrowserController(*container, services, this);
+    m_findBar = new FindBar(m_controller->webView());
+    auto *column = new QVBoxLayout(content);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(container, 1);
+    column->addWidget(m_findBar);
     // No flash of white before the first page of a dark window.
     m_controller->webView().page()->setBackgroundColor(palette().color(QPalette::Base));
     makeToolbar();
+    addKeys();
     connect(m_controller, &InAppBrowserController::historyChanged, this,
             &InAppBrowserWindow::validateToolbar);
     connect(&m_controller->webView(), &QWebEngineView::loadFinished, this, [this] {
@@ -111,13 +125,25 @@ void InAppBrowserWindow::makeToolbar()
         if (item.icon)
             action->setIcon(QIcon::fromTheme(QLatin1String(item.icon)));
         action->setObjectName(QLatin1String(item.name));
-        if (item.key != Qt::Key_unknown)
-            action->setShortcut(Qt::ALT | item.key);
+        if (item.keys.key() != Qt::Key_unknown)
+            action->setShortcut(item.keys);
+        if (item.perform == &InAppBrowserWindow::find)
+            action->setToolTip(qtTrId("kHelpFindTip"));
     }
-    auto *close = new QAction(this);
-    close->setShortcut(Qt::CTRL | Qt::Key_W);
-    connect(close, &QAction::triggered, this, &QWidget::close);
-    addAction(close);
+}
+
+void InAppBrowserWindow::addKeys()
+{
+    const auto addKey = [this](const QList<QKeySequence> &keys, auto *receiver, auto perform) {
+        auto *action = new QAction(this);
+        action->setShortcuts(keys);
+        connect(action, &QAction::triggered, receiver, perform);
+        addAction(action);
+    };
+    addKey({Qt::CTRL | Qt::Key_W}, this, &QWidget::close);
+    addKey({Qt::Key_F3, Qt::CTRL | Qt::Key_G}, m_findBar, &FindBar::findNext);
+    addKey({Qt::SHIFT | Qt::Key_F3, Qt::CTRL | Qt::SHIFT | Qt::Key_G}, m_findBar,
+           &FindBar::findPrevious);
 }
 
 void InAppBrowserWindow::showPage(const QUrl &page, const QString &title)
@@ -156,6 +182,11 @@ void InAppBrowserWindow::openInChrome()
     const std::optional<QString> chrome = m_services.findChrome();
     if (chrome && !m_controller->homeURL().isEmpty())
         m_services.openUrlWith(m_controller->homeURL(), *chrome);
+}
+
+void InAppBrowserWindow::find()
+{
+    m_findBar->open();
 }
 
 bool InAppBrowserWindow::validateToolbarItem(const QString &name) const

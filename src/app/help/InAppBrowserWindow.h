@@ -9,6 +9,7 @@ class QToolBar;
 
 namespace quillet {
 
+class FindBar;
 class InAppBrowserController;
 class SystemServices;
 
@@ -31,6 +32,8 @@ public:
     void goForward();
     void openInBrowser();
     void openInChrome();
+    /// Opens the bar in which a word of the page can be looked for.
+    void find();
     /// Whether the toolbar item of that name is enabled.
     [[nodiscard]] bool validateToolbarItem(const QString &name) const;
 
@@ -39,6 +42,7 @@ protected:
 
 private:
     void makeToolbar();
+    void addKeys();
     void validateToolbar();
     void restoreFrame();
     void saveFrame() const;
@@ -46,6 +50,7 @@ private:
     SystemServices &m_services;
     InAppBrowserController *m_controller;
     QToolBar *m_toolbar;
+    FindBar *m_findBar;
 };
 
 } // namespace quillet

@@ -1,9 +1,12 @@
 #include "HelpWindowFixture.h"
 
 #include "testing/TestMain.h"
+#include "texts/Translations.h"
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPointer>
 #include <QSettings>
@@ -20,7 +23,11 @@ class HelpWindowTest : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QtWebEngineQuick::initialize(); }
+    void initTestCase()
+    {
+        QtWebEngineQuick::initialize();
+        installEnglishTexts();
+    }
     void init() { QSettings().clear(); }
 
     void loadsEveryPage_data()
@@ -162,6 +169,50 @@ private slots:
         services.chrome.reset(); // taken off the computer since
         window.item("chrome").trigger();
         QCOMPARE(services.openedWith.size(), 1);
+    }
+
+    void findsAWordOnThePage()
+    {
+        const SmallGuide guide;
+        const QUrl start = guide.writePage("guide/index.html", "One set, two sets, a Setting");
+        FakeServices services;
+        Window window(services);
+        QVERIFY(window.show(start));
+        auto *bar = window.findChild<QWidget *>(QStringLiteral("findBar"));
+        auto *field = window.findChild<QLineEdit *>(QStringLiteral("findField"));
+        auto *matches = window.findChild<QLabel *>(QStringLiteral("findMatches"));
+        QVERIFY(bar && bar->isHidden() && field && matches);
+        const auto isTold = [matches](const QString &text) {
+            return QTest::qWaitFor([&] { return matches->text() == text; }, patience);
+        };
+        const auto match = [](int active) { return QStringLiteral("Match %1 of 3").arg(active); };
+
+        window.item("find").trigger();
+        QVERIFY(bar->isVisible() && window.focusWidget() == field);
+        QTest::keyClicks(field, QStringLiteral("set"));
+        QVERIFY(isTold(match(1)));
+        QTest::keyClick(field, Qt::Key_Return);
+        QVERIFY(isTold(match(2)));
+        QTest::keyClick(field, Qt::Key_F3);
+        QVERIFY(isTold(match(3)));
+        QTest::keyClick(field, Qt::Key_G, Qt::ControlModifier); // from the last to the first
+        QVERIFY(isTold(match(1)));
+        QTest::keyClick(field, Qt::Key_Return, Qt::ShiftModifier);
+        QVERIFY(isTold(match(3)));
+        QTest::keyClick(field, Qt::Key_F3, Qt::ShiftModifier);
+        QVERIFY(isTold(match(2)));
+        QTest::keyClicks(field, QStringLiteral("s!"));
+        QVERIFY(isTold(QStringLiteral("Not found on this page")));
+
+        // On another page the word is looked for again.
+        QVERIFY(window.load(guide.writePage("guide/other.html", "Sets! sets!")));
+        QVERIFY(isTold(QStringLiteral("Match 1 of 2")));
+        field->clear();
+        QVERIFY(isTold({}));
+        QTest::keyClick(field, Qt::Key_Escape);
+        QVERIFY(bar->isHidden() && window.focusWidget() != field);
+        QTest::keyClick(&window, Qt::Key_F3); // nothing to look for
+        QVERIFY(bar->isVisible() && window.focusWidget() == field);
     }
 
     void showsTheAlertOfAPage()

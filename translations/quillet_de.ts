@@ -169,7 +169,7 @@
     </message>
     <message id="kBadSectionContent">
         <source></source>
-        <translation>Der Abschnitt %1 enthält keine Liste von Sendern.</translation>
+        <translation>Der Abschnitt %1 enthält keine Senderliste.</translation>
     </message>
     <message id="kBadSectionDistance" numerus="yes">
         <source></source>
@@ -223,7 +223,7 @@
     </message>
     <message id="kClearMenu">
         <source></source>
-        <translation>Einträge löschen</translation>
+        <translation>Liste leeren</translation>
     </message>
     <message id="kClearSearch">
         <source></source>
@@ -243,7 +243,7 @@
     </message>
     <message id="kColumnBlocked">
         <source></source>
-        <translation>Sperren</translation>
+        <translation>Sperre</translation>
     </message>
     <message id="kColumnEncrypted">
         <source></source>
@@ -1053,15 +1053,15 @@
     <message id="kMendedAmpersands" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n einzelnes „&amp;“ wurde gültig gemacht.</numerusform>
-            <numerusform>%n einzelne „&amp;“ wurden gültig gemacht.</numerusform>
+            <numerusform>%n einzelnes „&amp;“ wurde berichtigt.</numerusform>
+            <numerusform>%n einzelne „&amp;“ wurden berichtigt.</numerusform>
         </translation>
     </message>
     <message id="kMendedBrackets" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n einzelnes „&lt;“ wurde gültig gemacht.</numerusform>
-            <numerusform>%n einzelne „&lt;“ wurden gültig gemacht.</numerusform>
+            <numerusform>%n einzelnes „&lt;“ wurde berichtigt.</numerusform>
+            <numerusform>%n einzelne „&lt;“ wurden berichtigt.</numerusform>
         </translation>
     </message>
     <message id="kMendedControls" numerus="yes">
@@ -1099,7 +1099,7 @@
     </message>
     <message id="kMendedTitle">
         <source></source>
-        <translation>Dies ist eine reparierte Kopie von „%1“. Jene Datei bleibt, wie sie ist.</translation>
+        <translation>Dies ist eine reparierte Kopie von „%1“. Die Datei selbst bleibt unverändert.</translation>
     </message>
     <message id="kMenuAbout">
         <source></source>
@@ -1311,7 +1311,7 @@
     </message>
     <message id="kMenuRevert">
         <source></source>
-        <translation>Gespeicherte Version &amp;wiederherstellen</translation>
+        <translation>Änderungen ver&amp;werfen</translation>
     </message>
     <message id="kMenuSatellite">
         <source></source>
@@ -2283,7 +2283,7 @@ Diese folgen ab Nummer: %3</translation>
     </message>
     <message id="kTipNoStationsInSource">
         <source></source>
-        <translation>Nur für Dateien mit Sendern dieser Empfangsart</translation>
+        <translation>Öffnen Sie eine Datei mit Sendern dieser Empfangsart</translation>
     </message>
     <message id="kTipNoSteps">
         <source></source>

@@ -174,8 +174,8 @@
     <message id="kBadSectionDistance" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>The first station of the section %1 stands %n character behind the start of the section; at most %2 are allowed.</numerusform>
-            <numerusform>The first station of the section %1 stands %n characters behind the start of the section; at most %2 are allowed.</numerusform>
+            <numerusform>The first station of the section %1 comes %n character after the start of the section; at most %2 are allowed.</numerusform>
+            <numerusform>The first station of the section %1 comes %n characters after the start of the section; at most %2 are allowed.</numerusform>
         </translation>
     </message>
     <message id="kBeyondAnyway">
@@ -331,7 +331,7 @@
     </message>
     <message id="kCompareFailedReason">
         <source></source>
-        <translation>The disk did not store what was written. It may be full or damaged.</translation>
+        <translation>What was written could not be read back from the disk. The disk may be full or damaged.</translation>
     </message>
     <message id="kCompareFields">
         <source></source>
@@ -1053,15 +1053,15 @@
     <message id="kMendedAmpersands" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n lone “&amp;” was made valid.</numerusform>
-            <numerusform>%n lone “&amp;” were made valid.</numerusform>
+            <numerusform>%n stray “&amp;” was corrected.</numerusform>
+            <numerusform>%n stray “&amp;” were corrected.</numerusform>
         </translation>
     </message>
     <message id="kMendedBrackets" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n lone “&lt;” was made valid.</numerusform>
-            <numerusform>%n lone “&lt;” were made valid.</numerusform>
+            <numerusform>%n stray “&lt;” was corrected.</numerusform>
+            <numerusform>%n stray “&lt;” were corrected.</numerusform>
         </translation>
     </message>
     <message id="kMendedControls" numerus="yes">
@@ -1311,7 +1311,7 @@
     </message>
     <message id="kMenuRevert">
         <source></source>
-        <translation>Re&amp;vert to Saved</translation>
+        <translation>&amp;Discard Changes</translation>
     </message>
     <message id="kMenuSatellite">
         <source></source>
@@ -1847,7 +1847,7 @@
     </message>
     <message id="kReplaceDetail">
         <source></source>
-        <translation>It has unsaved changes in lists that are not on show. Opening the dropped file here gives them up.</translation>
+        <translation>It has unsaved changes in lists that are not shown. Opening the dropped file here discards them.</translation>
     </message>
     <message id="kReplaceFailedReason">
         <source></source>
@@ -1946,13 +1946,13 @@
     </message>
     <message id="kReviewTail">
         <source></source>
-        <translation>What stands behind a damaged place of the file would be gone.</translation>
+        <translation>Everything after a damaged place in the file would be lost.</translation>
     </message>
     <message id="kReviewUnread" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n station behind a damaged place of the file was never read and would be gone.</numerusform>
-            <numerusform>%n stations behind a damaged place of the file were never read and would be gone.</numerusform>
+            <numerusform>%n station after a damaged place in the file was never read and would be lost.</numerusform>
+            <numerusform>%n stations after a damaged place in the file were never read and would be lost.</numerusform>
         </translation>
     </message>
     <message id="kRowByName">
@@ -2283,7 +2283,7 @@ These go on from number: %3</translation>
     </message>
     <message id="kTipNoStationsInSource">
         <source></source>
-        <translation>For files that have stations from this source</translation>
+        <translation>Open a file that has stations from this source</translation>
     </message>
     <message id="kTipNoSteps">
         <source></source>

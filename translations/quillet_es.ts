@@ -243,7 +243,7 @@
     </message>
     <message id="kColumnBlocked">
         <source></source>
-        <translation>Bloquear</translation>
+        <translation>Bloqueo</translation>
     </message>
     <message id="kColumnEncrypted">
         <source></source>
@@ -538,7 +538,7 @@
     </message>
     <message id="kDiscardChanges">
         <source></source>
-        <translation>Descartar los cambios</translation>
+        <translation>Descartar cambios</translation>
     </message>
     <message id="kDiscardFailedMessage">
         <source></source>
@@ -742,7 +742,7 @@
     </message>
     <message id="kFileTooLargeReason">
         <source></source>
-        <translation>El archivo es demasiado grande para ser una lista de canales.</translation>
+        <translation>El archivo es excesivamente grande para ser una lista de canales.</translation>
     </message>
     <message id="kFileUnreadableReason">
         <source></source>
@@ -1053,15 +1053,15 @@
     <message id="kMendedAmpersands" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>Se ha hecho válido %n «&amp;» suelto.</numerusform>
-            <numerusform>Se han hecho válidos %n «&amp;» sueltos.</numerusform>
+            <numerusform>Se ha corregido %n «&amp;» suelto.</numerusform>
+            <numerusform>Se han corregido %n «&amp;» sueltos.</numerusform>
         </translation>
     </message>
     <message id="kMendedBrackets" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>Se ha hecho válido %n «&lt;» suelto.</numerusform>
-            <numerusform>Se han hecho válidos %n «&lt;» sueltos.</numerusform>
+            <numerusform>Se ha corregido %n «&lt;» suelto.</numerusform>
+            <numerusform>Se han corregido %n «&lt;» sueltos.</numerusform>
         </translation>
     </message>
     <message id="kMendedControls" numerus="yes">
@@ -1303,7 +1303,7 @@
     </message>
     <message id="kMenuReload">
         <source></source>
-        <translation>Volver a cargar &amp;del disco</translation>
+        <translation>&amp;Volver a cargar del disco</translation>
     </message>
     <message id="kMenuRename">
         <source></source>
@@ -1311,7 +1311,7 @@
     </message>
     <message id="kMenuRevert">
         <source></source>
-        <translation>&amp;Volver a la versión guardada</translation>
+        <translation>&amp;Descartar cambios</translation>
     </message>
     <message id="kMenuSatellite">
         <source></source>
@@ -1934,11 +1934,11 @@
     </message>
     <message id="kReviewRepair">
         <source></source>
-        <translation>Con «Guardar reparado» no se pierde nada: se escriben sus cambios y todo lo demás queda como se leyó.</translation>
+        <translation>Con «Guardar la versión reparada» no se pierde nada: se escriben sus cambios y todo lo demás queda como se leyó.</translation>
     </message>
     <message id="kReviewRepairPartly">
         <source></source>
-        <translation>«Guardar reparado» escribe sus cambios y deja todo lo demás como se leyó, pero aun así:</translation>
+        <translation>«Guardar la versión reparada» escribe sus cambios y deja todo lo demás como se leyó, pero aun así:</translation>
     </message>
     <message id="kReviewSurroundings">
         <source></source>
@@ -1946,13 +1946,13 @@
     </message>
     <message id="kReviewTail">
         <source></source>
-        <translation>Lo que sigue a un punto dañado del archivo desaparecería.</translation>
+        <translation>Todo lo que sigue a un punto dañado del archivo se perdería.</translation>
     </message>
     <message id="kReviewUnread" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n canal situado tras un punto dañado del archivo nunca se leyó y desaparecería.</numerusform>
-            <numerusform>%n canales situados tras un punto dañado del archivo nunca se leyeron y desaparecerían.</numerusform>
+            <numerusform>%n canal situado tras un punto dañado del archivo nunca se leyó y se perdería.</numerusform>
+            <numerusform>%n canales situados tras un punto dañado del archivo nunca se leyeron y se perderían.</numerusform>
         </translation>
     </message>
     <message id="kRowByName">
@@ -2073,7 +2073,7 @@
     </message>
     <message id="kSaveRepaired">
         <source></source>
-        <translation>Guardar reparado</translation>
+        <translation>Guardar la versión reparada</translation>
     </message>
     <message id="kSaveTitle">
         <source></source>
@@ -2283,7 +2283,7 @@ Estos continúan a partir del número: %3</translation>
     </message>
     <message id="kTipNoStationsInSource">
         <source></source>
-        <translation>Para archivos que tienen canales de este tipo de recepción</translation>
+        <translation>Abra un archivo que tenga canales de este tipo de recepción</translation>
     </message>
     <message id="kTipNoSteps">
         <source></source>

@@ -174,8 +174,8 @@
     <message id="kBadSectionDistance" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>La première chaîne de la section %1 se trouve à %n caractère du début de la section ; %2 au plus sont admis.</numerusform>
-            <numerusform>La première chaîne de la section %1 se trouve à %n caractères du début de la section ; %2 au plus sont admis.</numerusform>
+            <numerusform>La première chaîne de la section %1 se trouve à %n caractère du début de la section ; %2 au plus sont admis.</numerusform>
+            <numerusform>La première chaîne de la section %1 se trouve à %n caractères du début de la section ; %2 au plus sont admis.</numerusform>
         </translation>
     </message>
     <message id="kBeyondAnyway">
@@ -243,7 +243,7 @@
     </message>
     <message id="kColumnBlocked">
         <source></source>
-        <translation>Verrouiller</translation>
+        <translation>Verrou</translation>
     </message>
     <message id="kColumnEncrypted">
         <source></source>
@@ -327,7 +327,7 @@
     </message>
     <message id="kCompareFailed">
         <source></source>
-        <translation>« %1 » ne contient aucune liste à comparer.</translation>
+        <translation>« %1 » ne contient aucune liste à comparer.</translation>
     </message>
     <message id="kCompareFailedReason">
         <source></source>
@@ -423,15 +423,15 @@
     </message>
     <message id="kCompareTitle">
         <source></source>
-        <translation>Comparaison avec « %1 »</translation>
+        <translation>Comparaison avec « %1 »</translation>
     </message>
     <message id="kCompareTitleImport">
         <source></source>
-        <translation>Modifications de « %1 »</translation>
+        <translation>Modifications de « %1 »</translation>
     </message>
     <message id="kCompareTitleOrder">
         <source></source>
-        <translation>Ordre de « %1 »</translation>
+        <translation>Ordre de « %1 »</translation>
     </message>
     <message id="kCompareTitlePaste">
         <source></source>
@@ -451,7 +451,7 @@
     </message>
     <message id="kCopyBecomesText">
         <source></source>
-        <translation>Si vous enregistrez une copie, cette fenêtre continue avec elle : « Enregistrer » écrira désormais dans la copie.</translation>
+        <translation>Si vous enregistrez une copie, cette fenêtre continue avec elle : « Enregistrer » écrira désormais dans la copie.</translation>
     </message>
     <message id="kCreateFailedReason">
         <source></source>
@@ -528,8 +528,8 @@
     <message id="kDiffSkipped" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n chaîne avec une autre marque « ignorer »</numerusform>
-            <numerusform>%n chaînes avec une autre marque « ignorer »</numerusform>
+            <numerusform>%n chaîne avec une autre marque « ignorer »</numerusform>
+            <numerusform>%n chaînes avec une autre marque « ignorer »</numerusform>
         </translation>
     </message>
     <message id="kDiscard">
@@ -542,17 +542,17 @@
     </message>
     <message id="kDiscardFailedMessage">
         <source></source>
-        <translation>Tout n’a pas pu être abandonné. Un autre programme utilise ces dossiers, ou rien ne peut y être supprimé :</translation>
+        <translation>Tout n’a pas pu être abandonné. Un autre programme utilise ces dossiers, ou rien ne peut y être supprimé :</translation>
     </message>
     <message id="kDiscardOneMessage">
         <source></source>
-        <translation>Voulez-vous abandonner les modifications non enregistrées de « %1 » ?</translation>
+        <translation>Voulez-vous abandonner les modifications non enregistrées de « %1 » ?</translation>
     </message>
     <message id="kDiscardSomeMessage" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>Voulez-vous abandonner les modifications non enregistrées de %n liste ?</numerusform>
-            <numerusform>Voulez-vous abandonner les modifications non enregistrées de %n listes ?</numerusform>
+            <numerusform>Voulez-vous abandonner les modifications non enregistrées de %n liste ?</numerusform>
+            <numerusform>Voulez-vous abandonner les modifications non enregistrées de %n listes ?</numerusform>
         </translation>
     </message>
     <message id="kDiscardText">
@@ -561,7 +561,7 @@
     </message>
     <message id="kDiscardUnreadableMessage">
         <source></source>
-        <translation>Voulez-vous abandonner des modifications non enregistrées qui sont illisibles ?</translation>
+        <translation>Voulez-vous abandonner des modifications non enregistrées qui sont illisibles ?</translation>
     </message>
     <message id="kEncodingMarkedUtf8">
         <source></source>
@@ -596,13 +596,13 @@
     <message id="kExportChangedNames" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>Dans %n nom, des virgules et des espaces remplacent les points-virgules et les sauts de ligne ; ce nom ne permet plus de reconnaître la chaîne.</numerusform>
-            <numerusform>Dans %n noms, des virgules et des espaces remplacent les points-virgules et les sauts de ligne ; ces noms ne permettent plus de reconnaître les chaînes.</numerusform>
+            <numerusform>Dans %n nom, des virgules et des espaces remplacent les points-virgules et les sauts de ligne ; ce nom ne permet plus de reconnaître la chaîne.</numerusform>
+            <numerusform>Dans %n noms, des virgules et des espaces remplacent les points-virgules et les sauts de ligne ; ces noms ne permettent plus de reconnaître les chaînes.</numerusform>
         </translation>
     </message>
     <message id="kExportEncoding">
         <source></source>
-        <translation>&amp;Encodage :</translation>
+        <translation>&amp;Encodage :</translation>
     </message>
     <message id="kExportExplanation">
         <source></source>
@@ -610,11 +610,11 @@
     </message>
     <message id="kExportFailedMessage">
         <source></source>
-        <translation>Impossible d’exporter la liste sous le nom « %1 ».</translation>
+        <translation>Impossible d’exporter la liste sous le nom « %1 ».</translation>
     </message>
     <message id="kExportFormat">
         <source></source>
-        <translation>&amp;Format :</translation>
+        <translation>&amp;Format :</translation>
     </message>
     <message id="kExportKeys">
         <source></source>
@@ -634,8 +634,8 @@
     <message id="kExportNumbers" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n chaîne a des nombres comme identifiants : les listes dont les identifiants sont du texte la reconnaissent ainsi, cette liste par son nom seulement.</numerusform>
-            <numerusform>%n chaînes ont des nombres comme identifiants : les listes dont les identifiants sont du texte les reconnaissent ainsi, cette liste par leur nom seulement.</numerusform>
+            <numerusform>%n chaîne a des nombres comme identifiants : les listes dont les identifiants sont du texte la reconnaissent ainsi, cette liste par son nom seulement.</numerusform>
+            <numerusform>%n chaînes ont des nombres comme identifiants : les listes dont les identifiants sont du texte les reconnaissent ainsi, cette liste par leur nom seulement.</numerusform>
         </translation>
     </message>
     <message id="kExportOK">
@@ -653,13 +653,13 @@
     <message id="kExportRenamed" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n chaîne renommée n’a pas d’identifiants complets : elle n’est reconnue qu’une fois la liste enregistrée et rouverte.</numerusform>
-            <numerusform>%n chaînes renommées n’ont pas d’identifiants complets : elles ne sont reconnues qu’une fois la liste enregistrée et rouverte.</numerusform>
+            <numerusform>%n chaîne renommée n’a pas d’identifiants complets : elle n’est reconnue qu’une fois la liste enregistrée et rouverte.</numerusform>
+            <numerusform>%n chaînes renommées n’ont pas d’identifiants complets : elles ne sont reconnues qu’une fois la liste enregistrée et rouverte.</numerusform>
         </translation>
     </message>
     <message id="kExportSeparator">
         <source></source>
-        <translation>Sé&amp;parateur :</translation>
+        <translation>Sé&amp;parateur :</translation>
     </message>
     <message id="kExportShown" numerus="yes">
         <source></source>
@@ -670,7 +670,7 @@
     </message>
     <message id="kExportStations">
         <source></source>
-        <translation>&amp;Chaînes :</translation>
+        <translation>&amp;Chaînes :</translation>
     </message>
     <message id="kExportTable">
         <source></source>
@@ -682,27 +682,27 @@
     </message>
     <message id="kExportTooShort">
         <source></source>
-        <translation>Un ordre se lit à partir de trois chaînes au moins : ce fichier ne pourrait pas être appliqué.</translation>
+        <translation>Un ordre se lit à partir de trois chaînes au moins : ce fichier ne pourrait pas être appliqué.</translation>
     </message>
     <message id="kFaultBadMark">
         <source></source>
-        <translation>« %1 » ne dit pas si la chaîne porte cette marque ; 1 ou 0 conviendrait.</translation>
+        <translation>« %1 » ne dit pas si la chaîne porte cette marque ; 1 ou 0 conviendrait.</translation>
     </message>
     <message id="kFaultBadNumber">
         <source></source>
-        <translation>« %1 » n’est pas un numéro de 1 à 16383.</translation>
+        <translation>« %1 » n’est pas un numéro de 1 à 16383.</translation>
     </message>
     <message id="kFaultCellPlace">
         <source></source>
-        <translation>Ligne %1, colonne %2 « %3 » :</translation>
+        <translation>Ligne %1, colonne %2 « %3 » :</translation>
     </message>
     <message id="kFaultDoubledColumn">
         <source></source>
-        <translation>Il y a deux colonnes « %1 ».</translation>
+        <translation>Il y a deux colonnes « %1 ».</translation>
     </message>
     <message id="kFaultNoColumns">
         <source></source>
-        <translation>La première ligne doit porter les titres des colonnes tels qu’ils ont été exportés, dont le nom, le service ou « stationKey ».</translation>
+        <translation>La première ligne doit porter les titres des colonnes tels qu’ils ont été exportés, dont le nom, le service ou « stationKey ».</translation>
     </message>
     <message id="kFaultNoRows">
         <source></source>
@@ -710,7 +710,7 @@
     </message>
     <message id="kFaultPlace">
         <source></source>
-        <translation>Ligne %1, caractère %2 :</translation>
+        <translation>Ligne %1, caractère %2 :</translation>
     </message>
     <message id="kFaultTextBehindQuote">
         <source></source>
@@ -722,7 +722,7 @@
     </message>
     <message id="kFaultTooManyCells">
         <source></source>
-        <translation>« %1 » n’est dans aucune colonne titrée.</translation>
+        <translation>« %1 » n’est dans aucune colonne titrée.</translation>
     </message>
     <message id="kFaultUnclosedQuote">
         <source></source>
@@ -814,7 +814,7 @@
     </message>
     <message id="kFolderNotShownMessage">
         <source></source>
-        <translation>Aucun programme n’a pu être lancé pour afficher le dossier « %1 ».</translation>
+        <translation>Aucun programme n’a pu être lancé pour afficher le dossier « %1 ».</translation>
     </message>
     <message id="kForeignRows">
         <source></source>
@@ -822,11 +822,11 @@
     </message>
     <message id="kGoneMessage">
         <source></source>
-        <translation>« %1 » n’est plus là.</translation>
+        <translation>« %1 » n’est plus là.</translation>
     </message>
     <message id="kGoneText">
         <source></source>
-        <translation>Le fichier a été déplacé ou supprimé, ou le disque qui le contenait a été retiré. Enregistrer ici crée un nouveau fichier à cet endroit ; si vous le voulez sur une clé, branchez-la d’abord.</translation>
+        <translation>Le fichier a été déplacé ou supprimé, ou le disque qui le contenait a été retiré. Enregistrer ici crée un nouveau fichier à cet endroit ; si vous le voulez sur une clé, branchez-la d’abord.</translation>
     </message>
     <message id="kHelpBack">
         <source></source>
@@ -954,27 +954,27 @@
     </message>
     <message id="kImportByNames">
         <source></source>
-        <translation>Le tableau n’a pas de colonne « stationKey » : des chaînes sont reconnues par leur nom seul.</translation>
+        <translation>Le tableau n’a pas de colonne « stationKey » : des chaînes sont reconnues par leur nom seul.</translation>
     </message>
     <message id="kImportByNumbers">
         <source></source>
-        <translation>Les numéros et l’ordre des lignes ont changé et ne s’accordent pas : les numéros comptent.</translation>
+        <translation>Les numéros et l’ordre des lignes ont changé et ne s’accordent pas : les numéros comptent.</translation>
     </message>
     <message id="kImportByRows">
         <source></source>
-        <translation>Les numéros n’ont pas changé mais les lignes sont dans un autre ordre : les chaînes prennent l’ordre des lignes.</translation>
+        <translation>Les numéros n’ont pas changé mais les lignes sont dans un autre ordre : les chaînes prennent l’ordre des lignes.</translation>
     </message>
     <message id="kImportFailed">
         <source></source>
-        <translation>Impossible d’importer « %1 ». La liste reste telle quelle.</translation>
+        <translation>Impossible d’importer « %1 ». La liste reste telle quelle.</translation>
     </message>
     <message id="kImportOtherList">
         <source></source>
-        <translation>Les lignes correspondent à une autre liste de ce fichier : %1.</translation>
+        <translation>Les lignes correspondent à une autre liste de ce fichier : %1.</translation>
     </message>
     <message id="kImportRowsAlone">
         <source></source>
-        <translation>Le tableau n’indique pas de numéros : les chaînes prennent l’ordre des lignes.</translation>
+        <translation>Le tableau n’indique pas de numéros : les chaînes prennent l’ordre des lignes.</translation>
     </message>
     <message id="kImportTitle">
         <source></source>
@@ -983,13 +983,13 @@
     <message id="kImportUnclear" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n ligne n’est pas claire : sa clé et son nom ne concordent pas, ou la chaîne y figure encore.</numerusform>
-            <numerusform>%n lignes ne sont pas claires : la clé et le nom ne concordent pas, ou une chaîne y figure plusieurs fois.</numerusform>
+            <numerusform>%n ligne n’est pas claire : sa clé et son nom ne concordent pas, ou la chaîne y figure encore.</numerusform>
+            <numerusform>%n lignes ne sont pas claires : la clé et le nom ne concordent pas, ou une chaîne y figure plusieurs fois.</numerusform>
         </translation>
     </message>
     <message id="kImportUnknownColumns">
         <source></source>
-        <translation>Colonnes non lues : %1.</translation>
+        <translation>Colonnes non lues : %1.</translation>
     </message>
     <message id="kImportUntold" numerus="yes">
         <source></source>
@@ -1044,24 +1044,24 @@
     </message>
     <message id="kMarkNotSet">
         <source></source>
-        <translation>%1 : non coché</translation>
+        <translation>%1 : non coché</translation>
     </message>
     <message id="kMarkSet">
         <source></source>
-        <translation>%1 : coché</translation>
+        <translation>%1 : coché</translation>
     </message>
     <message id="kMendedAmpersands" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n « &amp; » isolé a été rendu valide.</numerusform>
-            <numerusform>%n « &amp; » isolés ont été rendus valides.</numerusform>
+            <numerusform>%n « &amp; » isolé a été corrigé.</numerusform>
+            <numerusform>%n « &amp; » isolés ont été corrigés.</numerusform>
         </translation>
     </message>
     <message id="kMendedBrackets" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n « &lt; » isolé a été rendu valide.</numerusform>
-            <numerusform>%n « &lt; » isolés ont été rendus valides.</numerusform>
+            <numerusform>%n « &lt; » isolé a été corrigé.</numerusform>
+            <numerusform>%n « &lt; » isolés ont été corrigés.</numerusform>
         </translation>
     </message>
     <message id="kMendedControls" numerus="yes">
@@ -1073,7 +1073,7 @@
     </message>
     <message id="kMendedCut">
         <source></source>
-        <translation>La dernière chaîne était tronquée ; ce qui en est intact a été conservé.</translation>
+        <translation>La dernière chaîne était tronquée ; ce qui en est intact a été conservé.</translation>
     </message>
     <message id="kMendedDropped">
         <source></source>
@@ -1093,13 +1093,13 @@
     <message id="kMendedTags" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n balise absente ou fausse a été corrigée.</numerusform>
-            <numerusform>%n balises absentes ou fausses ont été corrigées.</numerusform>
+            <numerusform>%n balise manquante ou incorrecte a été corrigée.</numerusform>
+            <numerusform>%n balises manquantes ou incorrectes ont été corrigées.</numerusform>
         </translation>
     </message>
     <message id="kMendedTitle">
         <source></source>
-        <translation>Ceci est une copie réparée de « %1 ». Ce fichier reste tel quel.</translation>
+        <translation>Ceci est une copie réparée de « %1 ». Ce fichier reste tel quel.</translation>
     </message>
     <message id="kMenuAbout">
         <source></source>
@@ -1311,7 +1311,7 @@
     </message>
     <message id="kMenuRevert">
         <source></source>
-        <translation>Re&amp;venir à la version enregistrée</translation>
+        <translation>&amp;Abandonner les modifications</translation>
     </message>
     <message id="kMenuSatellite">
         <source></source>
@@ -1375,7 +1375,7 @@
     </message>
     <message id="kMenuVersions">
         <source></source>
-        <translation>Versions &amp;antérieures…</translation>
+        <translation>&amp;Versions antérieures…</translation>
     </message>
     <message id="kMenuView">
         <source></source>
@@ -1392,8 +1392,8 @@
     <message id="kMovingMessage" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>Déplacer la chaîne sélectionnée vers le numéro (1 à 9999) :</numerusform>
-            <numerusform>Déplacer les chaînes sélectionnées vers le numéro (1 à 9999) :</numerusform>
+            <numerusform>Déplacer la chaîne sélectionnée vers le numéro (1 à 9999) :</numerusform>
+            <numerusform>Déplacer les chaînes sélectionnées vers le numéro (1 à 9999) :</numerusform>
         </translation>
     </message>
     <message id="kMovingOK">
@@ -1423,13 +1423,13 @@
     <message id="kNoticeBeyond" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>Les numéros ne suffisent pas : ils s’arrêtent à %1, et %n chaîne au numéro déjà pris n’a pas pu en recevoir un libre. L’enregistrement lui laisserait un petit numéro, comme radio.</numerusform>
-            <numerusform>Les numéros ne suffisent pas : ils s’arrêtent à %1, et %n chaînes aux numéros déjà pris n’ont pas pu en recevoir de libres. L’enregistrement leur laisserait de petits numéros, comme radios.</numerusform>
+            <numerusform>Les numéros ne suffisent pas : ils s’arrêtent à %1, et %n chaîne au numéro déjà pris n’a pas pu en recevoir un libre. L’enregistrement lui laisserait un petit numéro, comme radio.</numerusform>
+            <numerusform>Les numéros ne suffisent pas : ils s’arrêtent à %1, et %n chaînes aux numéros déjà pris n’ont pas pu en recevoir de libres. L’enregistrement leur laisserait de petits numéros, comme radios.</numerusform>
         </translation>
     </message>
     <message id="kNoticeBinary">
         <source></source>
-        <translation>Aucune chaîne n’a été trouvée : ceci ressemble à une liste binaire et non à un fichier texte TLL.</translation>
+        <translation>Aucune chaîne n’a été trouvée : ceci ressemble à une liste binaire et non à un fichier texte TLL.</translation>
     </message>
     <message id="kNoticeClose">
         <source></source>
@@ -1437,7 +1437,7 @@
     </message>
     <message id="kNoticeDamaged">
         <source></source>
-        <translation>Le fichier est endommagé à la ligne %1, après la chaîne « %2 ».</translation>
+        <translation>Le fichier est endommagé à la ligne %1, après la chaîne « %2 ».</translation>
     </message>
     <message id="kNoticeDamagedFirst">
         <source></source>
@@ -1449,7 +1449,7 @@
     </message>
     <message id="kNoticeDeclaration">
         <source></source>
-        <translation>Le fichier déclare l’encodage %1, mais ses lettres sont en UTF-8. Quillet garde les deux tels quels ; un téléviseur qui se fie à la déclaration affiche mal les lettres accentuées.</translation>
+        <translation>Le fichier déclare l’encodage %1, mais ses lettres sont en UTF-8. Quillet garde les deux tels quels ; un téléviseur qui se fie à la déclaration affiche mal les lettres accentuées.</translation>
     </message>
     <message id="kNoticeFileChanged">
         <source></source>
@@ -1477,7 +1477,7 @@
     </message>
     <message id="kNoticeLimit">
         <source></source>
-        <translation>Le fichier n’a pas été lu à partir de la ligne %1 : il y contient plus de champs, d’attributs ou d’éléments imbriqués que toute liste d’un téléviseur.</translation>
+        <translation>Le fichier n’a pas été lu à partir de la ligne %1 : il y contient plus de champs, d’attributs ou d’éléments imbriqués que toute liste d’un téléviseur.</translation>
     </message>
     <message id="kNoticeNoXML">
         <source></source>
@@ -1485,7 +1485,7 @@
     </message>
     <message id="kNoticeReadOnly">
         <source></source>
-        <translation>Ce fichier ne peut pas être modifié : lui, son dossier ou son disque est protégé en écriture. Pour garder vos modifications, enregistrez une copie ; « Enregistrer » le propose.</translation>
+        <translation>Ce fichier ne peut pas être modifié : lui, son dossier ou son disque est protégé en écriture. Pour garder vos modifications, enregistrez une copie ; « Enregistrer » le propose.</translation>
     </message>
     <message id="kNoticeUnread" numerus="yes">
         <source></source>
@@ -1544,7 +1544,7 @@
     </message>
     <message id="kOrderEmpty">
         <source></source>
-        <translation>« %1 » ne contient aucun ordre qui puisse être appliqué.</translation>
+        <translation>« %1 » ne contient aucun ordre qui puisse être appliqué.</translation>
     </message>
     <message id="kOrderIsChannelList">
         <source></source>
@@ -1556,7 +1556,7 @@
     </message>
     <message id="kOrderLines">
         <source></source>
-        <translation>Lignes de cette forme dans ce fichier : %1. Autres lignes : %2.</translation>
+        <translation>Lignes de cette forme dans ce fichier : %1. Autres lignes : %2.</translation>
     </message>
     <message id="kOrderNoIdentifiers">
         <source></source>
@@ -1564,7 +1564,7 @@
     </message>
     <message id="kOrderNoLines">
         <source></source>
-        <translation>Un fichier texte doit avoir au moins trois lignes de la forme « 101;Sample TV;1-10-300 » et au plus deux autres.</translation>
+        <translation>Un fichier texte doit avoir au moins trois lignes de la forme « 101;Sample TV;1-10-300 » et au plus deux autres.</translation>
     </message>
     <message id="kOrderNoRadioStations">
         <source></source>
@@ -1599,7 +1599,7 @@
     </message>
     <message id="kPreviewAnew">
         <source></source>
-        <translation>L’aperçu a changé entre-temps ; voici le nouveau.</translation>
+        <translation>L’aperçu a changé entre-temps ; voici le nouveau.</translation>
     </message>
     <message id="kPreviewDoubled" numerus="yes">
         <source></source>
@@ -1657,22 +1657,22 @@
     </message>
     <message id="kPreviewOrderCounts">
         <source></source>
-        <translation>Chaînes trouvées : %1. Vont à la fin : %2. Entrées sans chaîne : %3.</translation>
+        <translation>Chaînes trouvées : %1. Vont à la fin : %2. Entrées sans chaîne : %3.</translation>
     </message>
     <message id="kPreviewPaste" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n chaîne cochée va au numéro %1, où se trouve « %2 ».</numerusform>
-            <numerusform>%n chaînes cochées vont au numéro %1, où se trouve « %2 ».</numerusform>
+            <numerusform>%n chaîne cochée va au numéro %1, où se trouve « %2 ».</numerusform>
+            <numerusform>%n chaînes cochées vont au numéro %1, où se trouve « %2 ».</numerusform>
         </translation>
     </message>
     <message id="kPreviewPasteNone">
         <source></source>
-        <translation>Rien ne peut être déplacé : aucune ligne ne correspond à une chaîne de la liste affichée.</translation>
+        <translation>Rien ne peut être déplacé : aucune ligne ne correspond à une chaîne de la liste affichée.</translation>
     </message>
     <message id="kPreviewPasteUnchecked">
         <source></source>
-        <translation>Aucune ligne n’est cochée : cochez les chaînes à déplacer.</translation>
+        <translation>Aucune ligne n’est cochée : cochez les chaînes à déplacer.</translation>
     </message>
     <message id="kPreviewRenamed" numerus="yes">
         <source></source>
@@ -1683,13 +1683,13 @@
     </message>
     <message id="kPreviewSelected">
         <source></source>
-        <translation>Sélection seule : %1</translation>
+        <translation>Sélection seule : %1</translation>
     </message>
     <message id="kPreviewSkipped" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n marque « ignorer » change</numerusform>
-            <numerusform>%n marques « ignorer » changent</numerusform>
+            <numerusform>%n marque « ignorer » change</numerusform>
+            <numerusform>%n marques « ignorer » changent</numerusform>
         </translation>
     </message>
     <message id="kPreviewSorted">
@@ -1699,8 +1699,8 @@
     <message id="kPreviewToTheEnd" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n chaîne dont le numéro est pris va à la fin : %1.</numerusform>
-            <numerusform>%n chaînes dont les numéros sont pris vont à la fin : %1.</numerusform>
+            <numerusform>%n chaîne dont le numéro est pris va à la fin : %1.</numerusform>
+            <numerusform>%n chaînes dont les numéros sont pris vont à la fin : %1.</numerusform>
         </translation>
     </message>
     <message id="kPreviewUnfit" numerus="yes">
@@ -1727,7 +1727,7 @@
     </message>
     <message id="kPrintedSearch">
         <source></source>
-        <translation>« %1 »</translation>
+        <translation>« %1 »</translation>
     </message>
     <message id="kPrintedTV">
         <source></source>
@@ -1735,7 +1735,7 @@
     </message>
     <message id="kPrintFailedMessage">
         <source></source>
-        <translation>« %1 » n’a pas pu être imprimé.</translation>
+        <translation>« %1 » n’a pas pu être imprimé.</translation>
     </message>
     <message id="kPrintFailedReason">
         <source></source>
@@ -1747,7 +1747,7 @@
     </message>
     <message id="kPrintToFileFailedMessage">
         <source></source>
-        <translation>La liste n’a pas pu être imprimée dans « %1 ».</translation>
+        <translation>La liste n’a pas pu être imprimée dans « %1 ».</translation>
     </message>
     <message id="kPutBack">
         <source></source>
@@ -1759,7 +1759,7 @@
     </message>
     <message id="kPutBackOthers">
         <source></source>
-        <translation>Ses chaînes ne sont pas exactement celles de la liste actuelle ; elle peut seulement être ouverte.</translation>
+        <translation>Ses chaînes ne sont pas exactement celles de la liste actuelle ; elle peut seulement être ouverte.</translation>
     </message>
     <message id="kPutBackSame">
         <source></source>
@@ -1767,7 +1767,7 @@
     </message>
     <message id="kPutBackText">
         <source></source>
-        <translation>La rétablir est une seule étape, qui peut être annulée ; rien n’est enregistré.</translation>
+        <translation>La rétablir est une seule étape, qui peut être annulée ; rien n’est enregistré.</translation>
     </message>
     <message id="kRadio">
         <source></source>
@@ -1807,7 +1807,7 @@
     </message>
     <message id="kRecoveryOlderReason">
         <source></source>
-        <translation>C’est un état plus ancien d’une liste qui vient d’être récupérée. Il reste conservé : abandonnez-le, ou récupérez-le une fois l’autre fermée.</translation>
+        <translation>C’est un état plus ancien d’une liste qui vient d’être récupérée. Il reste conservé : abandonnez-le, ou récupérez-le une fois l’autre fermée.</translation>
     </message>
     <message id="kRecoveryOpenReason">
         <source></source>
@@ -1815,7 +1815,7 @@
     </message>
     <message id="kRecoveryOriginalAt">
         <source></source>
-        <translation>La liste d’avant les modifications se trouve ici : %1</translation>
+        <translation>La liste d’avant les modifications se trouve ici : %1</translation>
     </message>
     <message id="kRecoveryText">
         <source></source>
@@ -1839,7 +1839,7 @@
     </message>
     <message id="kReloadMessage">
         <source></source>
-        <translation>Voulez-vous relire « %1 » depuis le disque ?</translation>
+        <translation>Voulez-vous relire « %1 » depuis le disque ?</translation>
     </message>
     <message id="kReloadText">
         <source></source>
@@ -1876,15 +1876,15 @@
     <message id="kReviewChanged" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n chaîne perdrait une partie de ses données : %1</numerusform>
-            <numerusform>%n chaînes perdraient une partie de leurs données : %1</numerusform>
+            <numerusform>%n chaîne perdrait une partie de ses données : %1</numerusform>
+            <numerusform>%n chaînes perdraient une partie de leurs données : %1</numerusform>
         </translation>
     </message>
     <message id="kReviewDoubled" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n chaîne y figurerait deux fois : %1</numerusform>
-            <numerusform>%n chaînes y figureraient deux fois : %1</numerusform>
+            <numerusform>%n chaîne y figurerait deux fois : %1</numerusform>
+            <numerusform>%n chaînes y figureraient deux fois : %1</numerusform>
         </translation>
     </message>
     <message id="kReviewEncoding">
@@ -1901,18 +1901,18 @@
     </message>
     <message id="kReviewMessage">
         <source></source>
-        <translation>L’enregistrement de « %1 » ferait perdre des données.</translation>
+        <translation>L’enregistrement de « %1 » ferait perdre des données.</translation>
     </message>
     <message id="kReviewMissing" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n chaîne manquerait : %1</numerusform>
-            <numerusform>%n chaînes manqueraient : %1</numerusform>
+            <numerusform>%n chaîne manquerait : %1</numerusform>
+            <numerusform>%n chaînes manqueraient : %1</numerusform>
         </translation>
     </message>
     <message id="kReviewNoRepair">
         <source></source>
-        <translation>Il n’existe pas de façon d’écrire ce fichier avec moins de pertes. Gardez une copie de l’ancien fichier avant d’enregistrer.</translation>
+        <translation>Il n’existe aucun moyen d’écrire ce fichier avec moins de pertes. Conservez une copie de l’ancien fichier avant d’enregistrer.</translation>
     </message>
     <message id="kReviewNumbers" numerus="yes">
         <source></source>
@@ -1928,17 +1928,17 @@
     <message id="kReviewRenumbered" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n chaîne recevrait un autre numéro : %1</numerusform>
-            <numerusform>%n chaînes recevraient un autre numéro : %1</numerusform>
+            <numerusform>%n chaîne recevrait un autre numéro : %1</numerusform>
+            <numerusform>%n chaînes recevraient un autre numéro : %1</numerusform>
         </translation>
     </message>
     <message id="kReviewRepair">
         <source></source>
-        <translation>« Enregistrer réparé » ne fait rien perdre : vos modifications sont écrites, tout le reste demeure tel qu’il a été lu.</translation>
+        <translation>« Enregistrer la version réparée » ne perd rien : vos modifications sont écrites, tout le reste demeure tel qu’il a été lu.</translation>
     </message>
     <message id="kReviewRepairPartly">
         <source></source>
-        <translation>« Enregistrer réparé » écrit vos modifications et laisse tout le reste tel qu’il a été lu, mais même ainsi :</translation>
+        <translation>« Enregistrer la version réparée » écrit vos modifications et laisse tout le reste tel qu’il a été lu, mais même ainsi :</translation>
     </message>
     <message id="kReviewSurroundings">
         <source></source>
@@ -1946,13 +1946,13 @@
     </message>
     <message id="kReviewTail">
         <source></source>
-        <translation>Ce qui suit un endroit endommagé du fichier disparaîtrait.</translation>
+        <translation>Tout ce qui suit un endroit endommagé du fichier serait perdu.</translation>
     </message>
     <message id="kReviewUnread" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n chaîne située après un endroit endommagé du fichier n’a jamais été lue et disparaîtrait.</numerusform>
-            <numerusform>%n chaînes situées après un endroit endommagé du fichier n’ont jamais été lues et disparaîtraient.</numerusform>
+            <numerusform>%n chaîne située après un endroit endommagé du fichier n’a jamais été lue et serait perdue.</numerusform>
+            <numerusform>%n chaînes situées après un endroit endommagé du fichier n’ont jamais été lues et seraient perdues.</numerusform>
         </translation>
     </message>
     <message id="kRowByName">
@@ -1985,7 +1985,7 @@
     </message>
     <message id="kRowLoose">
         <source></source>
-        <translation>incertain : nom semblable</translation>
+        <translation>incertain : nom semblable</translation>
     </message>
     <message id="kRowMoved">
         <source></source>
@@ -2061,7 +2061,7 @@
     </message>
     <message id="kSaveGoneMessage">
         <source></source>
-        <translation>« %1 » n’est plus là. Voulez-vous enregistrer la liste à un autre endroit ?</translation>
+        <translation>« %1 » n’est plus là. Voulez-vous enregistrer la liste à un autre endroit ?</translation>
     </message>
     <message id="kSaveGoneText">
         <source></source>
@@ -2073,7 +2073,7 @@
     </message>
     <message id="kSaveRepaired">
         <source></source>
-        <translation>Enregistrer réparé</translation>
+        <translation>Enregistrer la version réparée</translation>
     </message>
     <message id="kSaveTitle">
         <source></source>
@@ -2092,7 +2092,7 @@
     </message>
     <message id="kSearchPlaceholder">
         <source></source>
-        <translation>Nom de chaîne</translation>
+        <translation>Nom de la chaîne</translation>
     </message>
     <message id="kSearchTitle">
         <source></source>
@@ -2148,7 +2148,7 @@ Ces dernières suivent à partir du numéro : %3</translation>
     </message>
     <message id="kStepImported">
         <source></source>
-        <translation>Importation de « %1 »</translation>
+        <translation>Importation de « %1 »</translation>
     </message>
     <message id="kStepLocked" numerus="yes">
         <source></source>
@@ -2189,7 +2189,7 @@ Ces dernières suivent à partir du numéro : %3</translation>
     </message>
     <message id="kStepTakenOver">
         <source></source>
-        <translation>Reprise de « %1 »</translation>
+        <translation>Reprise de « %1 »</translation>
     </message>
     <message id="kStepUnlocked" numerus="yes">
         <source></source>
@@ -2219,7 +2219,7 @@ Ces dernières suivent à partir du numéro : %3</translation>
     </message>
     <message id="kTakeOver">
         <source></source>
-        <translation>Reprendre :</translation>
+        <translation>Reprendre :</translation>
     </message>
     <message id="kTakeOverAll">
         <source></source>
@@ -2231,7 +2231,7 @@ Ces dernières suivent à partir du numéro : %3</translation>
     </message>
     <message id="kTakeSkipped">
         <source></source>
-        <translation>Marques « ignorer »</translation>
+        <translation>Marques « ignorer »</translation>
     </message>
     <message id="kTipAtBottom">
         <source></source>
@@ -2283,7 +2283,7 @@ Ces dernières suivent à partir du numéro : %3</translation>
     </message>
     <message id="kTipNoStationsInSource">
         <source></source>
-        <translation>Pour les fichiers qui ont des chaînes de ce mode de réception</translation>
+        <translation>Ouvrez un fichier qui contient des chaînes de ce mode de réception</translation>
     </message>
     <message id="kTipNoSteps">
         <source></source>
@@ -2303,7 +2303,7 @@ Ces dernières suivent à partir du numéro : %3</translation>
     </message>
     <message id="kTipNoVersions">
         <source></source>
-        <translation>Une version est conservée à chaque enregistrement par-dessus un fichier ; il n’y en a pas encore de cette liste</translation>
+        <translation>Une version est conservée à chaque enregistrement par-dessus un fichier ; il n’y en a pas encore de cette liste</translation>
     </message>
     <message id="kTipRenameAnalogue">
         <source></source>
@@ -2335,7 +2335,7 @@ Ces dernières suivent à partir du numéro : %3</translation>
     </message>
     <message id="kTipVersionStations">
         <source></source>
-        <translation>Dans tout le fichier : TV et radio, de toutes les sources</translation>
+        <translation>Dans tout le fichier : TV et radio, de toutes les sources</translation>
     </message>
     <message id="kToldArranged" numerus="yes">
         <source></source>
@@ -2346,13 +2346,13 @@ Ces dernières suivent à partir du numéro : %3</translation>
     </message>
     <message id="kToldBroughtBack">
         <source></source>
-        <translation>Les modifications de « %1 » sont de retour, mais pas encore enregistrées</translation>
+        <translation>Les modifications de « %1 » sont de retour, mais pas encore enregistrées</translation>
     </message>
     <message id="kToldClosedGaps" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>Trous comblés : %n numéro modifié</numerusform>
-            <numerusform>Trous comblés : %n numéros modifiés</numerusform>
+            <numerusform>Trous comblés : %n numéro modifié</numerusform>
+            <numerusform>Trous comblés : %n numéros modifiés</numerusform>
         </translation>
     </message>
     <message id="kToldExported">
@@ -2365,13 +2365,13 @@ Ces dernières suivent à partir du numéro : %3</translation>
     </message>
     <message id="kToldForeign">
         <source></source>
-        <translation>Rien n’a été modifié : les lignes sont encore celles de « %1 », alors que « %2 » est choisi</translation>
+        <translation>Rien n’a été modifié : les lignes sont encore celles de « %1 », alors que « %2 » est choisi</translation>
     </message>
     <message id="kToldImported" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n chaîne modifiée d’après « %1 »</numerusform>
-            <numerusform>%n chaînes modifiées d’après « %1 »</numerusform>
+            <numerusform>%n chaîne modifiée d’après « %1 »</numerusform>
+            <numerusform>%n chaînes modifiées d’après « %1 »</numerusform>
         </translation>
     </message>
     <message id="kToldLocked" numerus="yes">
@@ -2418,7 +2418,7 @@ Ces dernières suivent à partir du numéro : %3</translation>
     </message>
     <message id="kToldNotExported">
         <source></source>
-        <translation>Rien n’a été écrit : une question sur cette liste est encore ouverte</translation>
+        <translation>Rien n’a été écrit : une question sur cette liste est encore ouverte</translation>
     </message>
     <message id="kToldNotFound">
         <source></source>
@@ -2426,29 +2426,29 @@ Ces dernières suivent à partir du numéro : %3</translation>
     </message>
     <message id="kToldNotKept">
         <source></source>
-        <translation>« %1 » a été enregistré, mais le fichier a perdu : %2.</translation>
+        <translation>« %1 » a été enregistré, mais le fichier a perdu : %2.</translation>
     </message>
     <message id="kToldNotKeptSafe">
         <source></source>
-        <translation>Les modifications de « %1 » seraient perdues en cas de plantage, car elles ne peuvent pas être conservées à part : %2</translation>
+        <translation>Les modifications de « %1 » seraient perdues en cas de plantage, car elles ne peuvent pas être conservées à part : %2</translation>
     </message>
     <message id="kToldNotMoved">
         <source></source>
-        <translation>Rien n’a été déplacé : le numéro doit être compris entre 1 et %1</translation>
+        <translation>Rien n’a été déplacé : le numéro doit être compris entre 1 et %1</translation>
     </message>
     <message id="kToldNotTakenOver">
         <source></source>
-        <translation>Rien n’a été repris : la liste a changé entre-temps</translation>
+        <translation>Rien n’a été repris : la liste a changé entre-temps</translation>
     </message>
     <message id="kToldOrdered">
         <source></source>
-        <translation>Ordre de « %1 » appliqué</translation>
+        <translation>Ordre de « %1 » appliqué</translation>
     </message>
     <message id="kToldOthersDropped" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>Seul « %1 » a été pris : cette fenêtre contient une seule liste. %n autre fichier a été déposé</numerusform>
-            <numerusform>Seul « %1 » a été pris : cette fenêtre contient une seule liste. %n autres fichiers ont été déposés</numerusform>
+            <numerusform>Seul « %1 » a été pris : cette fenêtre contient une seule liste. %n autre fichier a été déposé</numerusform>
+            <numerusform>Seul « %1 » a été pris : cette fenêtre contient une seule liste. %n autres fichiers ont été déposés</numerusform>
         </translation>
     </message>
     <message id="kToldOthersRenumbered" numerus="yes">
@@ -2467,11 +2467,11 @@ Ces dernières suivent à partir du numéro : %3</translation>
     </message>
     <message id="kToldPasteGone">
         <source></source>
-        <translation>Rien n’a été déplacé : les chaînes, ou la ligne où les placer, ne sont plus dans la liste affichée</translation>
+        <translation>Rien n’a été déplacé : les chaînes, ou la ligne où les placer, ne sont plus dans la liste affichée</translation>
     </message>
     <message id="kToldPasteThere">
         <source></source>
-        <translation>Rien n’a été déplacé : les chaînes s’y trouvent déjà</translation>
+        <translation>Rien n’a été déplacé : les chaînes s’y trouvent déjà</translation>
     </message>
     <message id="kToldPrinted">
         <source></source>
@@ -2487,19 +2487,19 @@ Ces dernières suivent à partir du numéro : %3</translation>
     </message>
     <message id="kToldReloaded">
         <source></source>
-        <translation>« %1 » a été relu depuis le disque</translation>
+        <translation>« %1 » a été relu depuis le disque</translation>
     </message>
     <message id="kToldRenamed">
         <source></source>
-        <translation>Chaîne renommée en « %1 »</translation>
+        <translation>Chaîne renommée en « %1 »</translation>
     </message>
     <message id="kToldRepaired">
         <source></source>
-        <translation>Version réparée enregistrée, selon votre choix : rien n’a été perdu.</translation>
+        <translation>Version réparée enregistrée, selon votre choix : rien n’a été perdu.</translation>
     </message>
     <message id="kToldReverted">
         <source></source>
-        <translation>« %1 » est revenu au dernier enregistrement</translation>
+        <translation>« %1 » est revenu au dernier enregistrement</translation>
     </message>
     <message id="kToldSaved">
         <source></source>
@@ -2519,13 +2519,13 @@ Ces dernières suivent à partir du numéro : %3</translation>
     <message id="kToldTakenOver" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n chaîne reprise de « %1 »</numerusform>
-            <numerusform>%n chaînes reprises de « %1 »</numerusform>
+            <numerusform>%n chaîne reprise de « %1 »</numerusform>
+            <numerusform>%n chaînes reprises de « %1 »</numerusform>
         </translation>
     </message>
     <message id="kToldUnchanged">
         <source></source>
-        <translation>« %1 » n’a pas changé sur le disque</translation>
+        <translation>« %1 » n’a pas changé sur le disque</translation>
     </message>
     <message id="kToldUndone">
         <source></source>
@@ -2563,11 +2563,11 @@ Ces dernières suivent à partir du numéro : %3</translation>
     </message>
     <message id="kUnkeptMessage">
         <source></source>
-        <translation>La version de « %1 » qui serait remplacée n’a pas pu être conservée.</translation>
+        <translation>La version de « %1 » qui serait remplacée n’a pas pu être conservée.</translation>
     </message>
     <message id="kUnkeptText">
         <source></source>
-        <translation>L’enregistrement la remplace définitivement : elle ne sera pas parmi les versions antérieures, conservées dans « %1 ».</translation>
+        <translation>L’enregistrement la remplace définitivement : elle ne sera pas parmi les versions antérieures, conservées dans « %1 ».</translation>
     </message>
     <message id="kUnreadableMessage">
         <source></source>
@@ -2579,7 +2579,7 @@ Ces dernières suivent à partir du numéro : %3</translation>
     </message>
     <message id="kUnsureMessage">
         <source></source>
-        <translation>« %1 » a été écrit, mais le disque ne confirme pas que cela restera ainsi.</translation>
+        <translation>« %1 » a été écrit, mais le disque ne confirme pas que cela restera ainsi.</translation>
     </message>
     <message id="kUnsureText">
         <source></source>
@@ -2603,11 +2603,11 @@ Ces dernières suivent à partir du numéro : %3</translation>
     </message>
     <message id="kVersionDamaged">
         <source></source>
-        <translation>Endommagée ou disparue ; elle ne peut plus être lue</translation>
+        <translation>Endommagée ou disparue ; elle ne peut plus être lue</translation>
     </message>
     <message id="kVersionDamagedReason">
         <source></source>
-        <translation>Cette version est endommagée : elle n’est plus ce qui a été conservé.</translation>
+        <translation>Cette version est endommagée : elle n’est plus ce qui a été conservé.</translation>
     </message>
     <message id="kVersionDifference">
         <source></source>
@@ -2631,7 +2631,7 @@ Ces dernières suivent à partir du numéro : %3</translation>
     </message>
     <message id="kVersionsIntro">
         <source></source>
-        <translation>Ce que contenait « %1 » avant d’être remplacé :</translation>
+        <translation>Ce que contenait « %1 » avant d’être remplacé :</translation>
     </message>
     <message id="kVersionSize">
         <source></source>
@@ -2639,7 +2639,7 @@ Ces dernières suivent à partir du numéro : %3</translation>
     </message>
     <message id="kVersionsLockedReason">
         <source></source>
-        <translation>Un autre programme conserve une version dans « %1 » et n’en finit pas.</translation>
+        <translation>Un autre programme conserve une version dans « %1 » et n’en finit pas.</translation>
     </message>
     <message id="kVersionStations">
         <source></source>
@@ -2651,7 +2651,7 @@ Ces dernières suivent à partir du numéro : %3</translation>
     </message>
     <message id="kVersionsUnreadableReason">
         <source></source>
-        <translation>Ce qui est déjà conservé de ce fichier dans « %1 » ne peut pas être lu pour le moment.</translation>
+        <translation>Ce qui est déjà conservé de ce fichier dans « %1 » ne peut pas être lu pour le moment.</translation>
     </message>
     <message id="kVersionTime">
         <source></source>

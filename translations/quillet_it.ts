@@ -243,7 +243,7 @@
     </message>
     <message id="kColumnBlocked">
         <source></source>
-        <translation>Blocca</translation>
+        <translation>Blocco</translation>
     </message>
     <message id="kColumnEncrypted">
         <source></source>
@@ -538,7 +538,7 @@
     </message>
     <message id="kDiscardChanges">
         <source></source>
-        <translation>Scarta le modifiche</translation>
+        <translation>Scarta modifiche</translation>
     </message>
     <message id="kDiscardFailedMessage">
         <source></source>
@@ -1053,15 +1053,15 @@
     <message id="kMendedAmpersands" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n “&amp;” isolato è stato reso valido.</numerusform>
-            <numerusform>%n “&amp;” isolati sono stati resi validi.</numerusform>
+            <numerusform>%n “&amp;” isolato è stato corretto.</numerusform>
+            <numerusform>%n “&amp;” isolati sono stati corretti.</numerusform>
         </translation>
     </message>
     <message id="kMendedBrackets" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n “&lt;” isolato è stato reso valido.</numerusform>
-            <numerusform>%n “&lt;” isolati sono stati resi validi.</numerusform>
+            <numerusform>%n “&lt;” isolato è stato corretto.</numerusform>
+            <numerusform>%n “&lt;” isolati sono stati corretti.</numerusform>
         </translation>
     </message>
     <message id="kMendedControls" numerus="yes">
@@ -1291,7 +1291,7 @@
     </message>
     <message id="kMenuRecoveryFolder">
         <source></source>
-        <translation>Apri la cartella &amp;di recupero</translation>
+        <translation>Apri la cartella di rec&amp;upero</translation>
     </message>
     <message id="kMenuRedo">
         <source></source>
@@ -1311,7 +1311,7 @@
     </message>
     <message id="kMenuRevert">
         <source></source>
-        <translation>Ripristina &amp;versione salvata</translation>
+        <translation>Scarta mo&amp;difiche</translation>
     </message>
     <message id="kMenuSatellite">
         <source></source>
@@ -1912,7 +1912,7 @@
     </message>
     <message id="kReviewNoRepair">
         <source></source>
-        <translation>Non c’è modo di scrivere questo file perdendo di meno. Conservare una copia del vecchio file prima di salvare.</translation>
+        <translation>Non c’è modo di scrivere questo file perdendo di meno. Conserva una copia del vecchio file prima di salvare.</translation>
     </message>
     <message id="kReviewNumbers" numerus="yes">
         <source></source>
@@ -1934,11 +1934,11 @@
     </message>
     <message id="kReviewRepair">
         <source></source>
-        <translation>Con “Salva riparato” non va perso nulla: vengono scritte le modifiche e tutto il resto rimane com’è stato letto.</translation>
+        <translation>Con “Salva la versione riparata” non va perso nulla: vengono scritte le modifiche e tutto il resto rimane com’è stato letto.</translation>
     </message>
     <message id="kReviewRepairPartly">
         <source></source>
-        <translation>“Salva riparato” scrive le modifiche e lascia tutto il resto com’è stato letto, ma anche così:</translation>
+        <translation>“Salva la versione riparata” scrive le modifiche e lascia tutto il resto com’è stato letto, ma anche così:</translation>
     </message>
     <message id="kReviewSurroundings">
         <source></source>
@@ -1946,13 +1946,13 @@
     </message>
     <message id="kReviewTail">
         <source></source>
-        <translation>Ciò che segue un punto danneggiato del file scomparirebbe.</translation>
+        <translation>Tutto ciò che segue un punto danneggiato del file andrebbe perso.</translation>
     </message>
     <message id="kReviewUnread" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n canale dopo un punto danneggiato del file non è mai stato letto e scomparirebbe.</numerusform>
-            <numerusform>%n canali dopo un punto danneggiato del file non sono mai stati letti e scomparirebbero.</numerusform>
+            <numerusform>%n canale dopo un punto danneggiato del file non è mai stato letto e andrebbe perso.</numerusform>
+            <numerusform>%n canali dopo un punto danneggiato del file non sono mai stati letti e andrebbero persi.</numerusform>
         </translation>
     </message>
     <message id="kRowByName">
@@ -2073,7 +2073,7 @@
     </message>
     <message id="kSaveRepaired">
         <source></source>
-        <translation>Salva riparato</translation>
+        <translation>Salva la versione riparata</translation>
     </message>
     <message id="kSaveTitle">
         <source></source>
@@ -2283,7 +2283,7 @@ Questi proseguono dal numero: %3</translation>
     </message>
     <message id="kTipNoStationsInSource">
         <source></source>
-        <translation>Per i file che hanno canali di questo tipo di ricezione</translation>
+        <translation>Apri un file che contenga canali di questo tipo di ricezione</translation>
     </message>
     <message id="kTipNoSteps">
         <source></source>

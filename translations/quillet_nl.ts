@@ -534,25 +534,25 @@
     </message>
     <message id="kDiscard">
         <source></source>
-        <translation>Weggooien</translation>
+        <translation>Verwerpen</translation>
     </message>
     <message id="kDiscardChanges">
         <source></source>
-        <translation>Wijzigingen weggooien</translation>
+        <translation>Wijzigingen verwerpen</translation>
     </message>
     <message id="kDiscardFailedMessage">
         <source></source>
-        <translation>Niet alles kon worden weggegooid. Een ander programma gebruikt deze mappen, of er mag daar niets worden verwijderd:</translation>
+        <translation>Niet alles kon worden verworpen. Een ander programma gebruikt deze mappen, of er mag daar niets worden verwijderd:</translation>
     </message>
     <message id="kDiscardOneMessage">
         <source></source>
-        <translation>Wilt u de niet-opgeslagen wijzigingen in “%1” weggooien?</translation>
+        <translation>Wilt u de niet-opgeslagen wijzigingen in “%1” verwerpen?</translation>
     </message>
     <message id="kDiscardSomeMessage" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>Wilt u de niet-opgeslagen wijzigingen in %n lijst weggooien?</numerusform>
-            <numerusform>Wilt u de niet-opgeslagen wijzigingen in %n lijsten weggooien?</numerusform>
+            <numerusform>Wilt u de niet-opgeslagen wijzigingen in %n lijst verwerpen?</numerusform>
+            <numerusform>Wilt u de niet-opgeslagen wijzigingen in %n lijsten verwerpen?</numerusform>
         </translation>
     </message>
     <message id="kDiscardText">
@@ -561,7 +561,7 @@
     </message>
     <message id="kDiscardUnreadableMessage">
         <source></source>
-        <translation>Wilt u niet-opgeslagen wijzigingen weggooien die onleesbaar zijn?</translation>
+        <translation>Wilt u niet-opgeslagen wijzigingen verwerpen die onleesbaar zijn?</translation>
     </message>
     <message id="kEncodingMarkedUtf8">
         <source></source>
@@ -1053,15 +1053,15 @@
     <message id="kMendedAmpersands" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n losse “&amp;” is geldig gemaakt.</numerusform>
-            <numerusform>%n losse “&amp;”-tekens zijn geldig gemaakt.</numerusform>
+            <numerusform>%n los “&amp;”-teken is hersteld.</numerusform>
+            <numerusform>%n losse “&amp;”-tekens zijn hersteld.</numerusform>
         </translation>
     </message>
     <message id="kMendedBrackets" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n losse “&lt;” is geldig gemaakt.</numerusform>
-            <numerusform>%n losse “&lt;”-tekens zijn geldig gemaakt.</numerusform>
+            <numerusform>%n los “&lt;”-teken is hersteld.</numerusform>
+            <numerusform>%n losse “&lt;”-tekens zijn hersteld.</numerusform>
         </translation>
     </message>
     <message id="kMendedControls" numerus="yes">
@@ -1311,7 +1311,7 @@
     </message>
     <message id="kMenuRevert">
         <source></source>
-        <translation>&amp;Terug naar opgeslagen versie</translation>
+        <translation>&amp;Wijzigingen verwerpen</translation>
     </message>
     <message id="kMenuSatellite">
         <source></source>
@@ -1847,7 +1847,7 @@
     </message>
     <message id="kReplaceDetail">
         <source></source>
-        <translation>Deze bevat niet-opgeslagen wijzigingen in lijsten die niet worden getoond. Als u het neergezette bestand hier opent, gaan die verloren.</translation>
+        <translation>Deze bevat niet-opgeslagen wijzigingen in lijsten die niet worden getoond. Als u het gesleepte bestand hier opent, gaan die verloren.</translation>
     </message>
     <message id="kReplaceFailedReason">
         <source></source>
@@ -1934,11 +1934,11 @@
     </message>
     <message id="kReviewRepair">
         <source></source>
-        <translation>Met “Hersteld opslaan” gaat niets verloren: uw wijzigingen worden geschreven en al het andere blijft zoals het is gelezen.</translation>
+        <translation>Met “Herstelde versie opslaan” gaat niets verloren: uw wijzigingen worden geschreven en al het andere blijft zoals het is gelezen.</translation>
     </message>
     <message id="kReviewRepairPartly">
         <source></source>
-        <translation>“Hersteld opslaan” schrijft uw wijzigingen en laat al het andere zoals het is gelezen, maar ook dan:</translation>
+        <translation>“Herstelde versie opslaan” schrijft uw wijzigingen en laat al het andere zoals het is gelezen, maar ook dan:</translation>
     </message>
     <message id="kReviewSurroundings">
         <source></source>
@@ -1946,13 +1946,13 @@
     </message>
     <message id="kReviewTail">
         <source></source>
-        <translation>Wat achter een beschadigde plek in het bestand staat, zou verdwijnen.</translation>
+        <translation>Alles na een beschadigde plek in het bestand zou verloren gaan.</translation>
     </message>
     <message id="kReviewUnread" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n zender achter een beschadigde plek in het bestand is nooit gelezen en zou verdwijnen.</numerusform>
-            <numerusform>%n zenders achter een beschadigde plek in het bestand zijn nooit gelezen en zouden verdwijnen.</numerusform>
+            <numerusform>%n zender na een beschadigde plek in het bestand is nooit gelezen en zou verloren gaan.</numerusform>
+            <numerusform>%n zenders na een beschadigde plek in het bestand zijn nooit gelezen en zouden verloren gaan.</numerusform>
         </translation>
     </message>
     <message id="kRowByName">
@@ -2073,7 +2073,7 @@
     </message>
     <message id="kSaveRepaired">
         <source></source>
-        <translation>Hersteld opslaan</translation>
+        <translation>Herstelde versie opslaan</translation>
     </message>
     <message id="kSaveTitle">
         <source></source>
@@ -2283,7 +2283,7 @@ Deze gaan verder vanaf nummer: %3</translation>
     </message>
     <message id="kTipNoStationsInSource">
         <source></source>
-        <translation>Voor bestanden met zenders van deze ontvangstbron</translation>
+        <translation>Open een bestand met zenders van deze ontvangstbron</translation>
     </message>
     <message id="kTipNoSteps">
         <source></source>

@@ -889,7 +889,7 @@
     </message>
     <message id="kHelpForward">
         <source></source>
-        <translation>Dalej</translation>
+        <translation>Naprzód</translation>
     </message>
     <message id="kHelpHome">
         <source></source>
@@ -1341,7 +1341,7 @@
     </message>
     <message id="kMenuRevert">
         <source></source>
-        <translation>P&amp;rzywróć zapisaną wersję</translation>
+        <translation>Od&amp;rzuć zmiany</translation>
     </message>
     <message id="kMenuSatellite">
         <source></source>
@@ -1985,11 +1985,11 @@
     </message>
     <message id="kReviewRepair">
         <source></source>
-        <translation>„Zapisz naprawiony” niczego nie traci: zapisuje Twoje zmiany, a całą resztę pozostawia tak, jak została odczytana.</translation>
+        <translation>„Zapisz naprawiony plik” niczego nie traci: zapisuje Twoje zmiany, a całą resztę pozostawia tak, jak została odczytana.</translation>
     </message>
     <message id="kReviewRepairPartly">
         <source></source>
-        <translation>„Zapisz naprawiony” zapisuje Twoje zmiany, a resztę pozostawia tak, jak została odczytana, ale nawet wtedy:</translation>
+        <translation>„Zapisz naprawiony plik” zapisuje Twoje zmiany, a resztę pozostawia tak, jak została odczytana, ale nawet wtedy:</translation>
     </message>
     <message id="kReviewSurroundings">
         <source></source>
@@ -1997,14 +1997,14 @@
     </message>
     <message id="kReviewTail">
         <source></source>
-        <translation>To, co znajduje się za uszkodzonym miejscem pliku, zniknęłoby.</translation>
+        <translation>Wszystko, co znajduje się za uszkodzonym miejscem pliku, zostałoby utracone.</translation>
     </message>
     <message id="kReviewUnread" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n kanał za uszkodzonym miejscem pliku nie został odczytany i zniknąłby.</numerusform>
-            <numerusform>%n kanały za uszkodzonym miejscem pliku nie zostały odczytane i zniknęłyby.</numerusform>
-            <numerusform>%n kanałów za uszkodzonym miejscem pliku nie zostało odczytanych i zniknęłoby.</numerusform>
+            <numerusform>%n kanał za uszkodzonym miejscem pliku nie został odczytany i zostałby utracony.</numerusform>
+            <numerusform>%n kanały za uszkodzonym miejscem pliku nie zostały odczytane i zostałyby utracone.</numerusform>
+            <numerusform>%n kanałów za uszkodzonym miejscem pliku nie zostało odczytanych i zostałoby utraconych.</numerusform>
         </translation>
     </message>
     <message id="kRowByName">
@@ -2125,7 +2125,7 @@
     </message>
     <message id="kSaveRepaired">
         <source></source>
-        <translation>Zapisz naprawiony</translation>
+        <translation>Zapisz naprawiony plik</translation>
     </message>
     <message id="kSaveTitle">
         <source></source>
@@ -2167,7 +2167,7 @@
         <source></source>
         <translation>Kanały dopasowane: %1
 Kanały niedopasowane: %2
-Te następują od numeru: %3</translation>
+Te ostatnie następują od numeru: %3</translation>
     </message>
     <message id="kSortTitle">
         <source></source>
@@ -2343,7 +2343,7 @@ Te następują od numeru: %3</translation>
     </message>
     <message id="kTipNoStationsInSource">
         <source></source>
-        <translation>Dla plików, które zawierają kanały z tego źródła</translation>
+        <translation>Otwórz plik zawierający kanały z tego źródła</translation>
     </message>
     <message id="kTipNoSteps">
         <source></source>

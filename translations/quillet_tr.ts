@@ -867,7 +867,7 @@
     </message>
     <message id="kHintNoFileDetail">
         <source></source>
-        <translation>Televizyonunuzdan bir TLL dosyasını buraya bırakın veya bir dosya seçin.</translation>
+        <translation>Televizyonunuzun TLL dosyasını buraya bırakın veya bir dosya seçin.</translation>
     </message>
     <message id="kHintNoRadioStations">
         <source></source>
@@ -1028,13 +1028,13 @@
     <message id="kMendedAmpersands" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>Tek başına duran %n “&amp;” geçerli hale getirildi.</numerusform>
+            <numerusform>Tek başına duran %n “&amp;” düzeltildi.</numerusform>
         </translation>
     </message>
     <message id="kMendedBrackets" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>Tek başına duran %n “&lt;” geçerli hale getirildi.</numerusform>
+            <numerusform>Tek başına duran %n “&lt;” düzeltildi.</numerusform>
         </translation>
     </message>
     <message id="kMendedControls" numerus="yes">
@@ -1077,7 +1077,7 @@
     </message>
     <message id="kMenuAlwaysRepair">
         <source></source>
-        <translation>&amp;JSON Listelerini Onarılmış Kaydet</translation>
+        <translation>&amp;JSON Listelerini Onarılmış Olarak Kaydet</translation>
     </message>
     <message id="kMenuAnalogue">
         <source></source>
@@ -1261,7 +1261,7 @@
     </message>
     <message id="kMenuRecoveryFolder">
         <source></source>
-        <translation>Kurtarma K&amp;lasörünü Aç</translation>
+        <translation>Kurtarma Klasörü&amp;nü Aç</translation>
     </message>
     <message id="kMenuRedo">
         <source></source>
@@ -1281,7 +1281,7 @@
     </message>
     <message id="kMenuRevert">
         <source></source>
-        <translation>Kaydedilmiş Sürüme Dö&amp;n</translation>
+        <translation>Değişik&amp;likleri At</translation>
     </message>
     <message id="kMenuSatellite">
         <source></source>
@@ -1405,15 +1405,15 @@
     </message>
     <message id="kNoticeDamaged">
         <source></source>
-        <translation>Dosya %1. satırda, “%2” kanalından sonra bozuk.</translation>
+        <translation>Dosya %1. satırda, “%2” kanalından sonra hasarlı.</translation>
     </message>
     <message id="kNoticeDamagedFirst">
         <source></source>
-        <translation>Dosya %1. satırda, ilk tam kanaldan önce bozuk.</translation>
+        <translation>Dosya %1. satırda, ilk tam kanaldan önce hasarlı.</translation>
     </message>
     <message id="kNoticeDamagedLine">
         <source></source>
-        <translation>Dosya %1. satırda bozuk.</translation>
+        <translation>Dosya %1. satırda hasarlı.</translation>
     </message>
     <message id="kNoticeDeclaration">
         <source></source>
@@ -1441,7 +1441,7 @@
     </message>
     <message id="kNoticeLatin1">
         <source></source>
-        <translation>Dosya geçerli UTF-8 değil ve Latin-1 olarak çözüldü. Kaydetme UTF-8 yazar ve böylece dosyanın tamamındaki aksanlı harflerin hepsini değiştirir.</translation>
+        <translation>Dosya geçerli UTF-8 değil ve Latin-1 olarak çözüldü. Kaydedildiğinde dosya UTF-8 olarak yazılır ve dosyadaki bütün aksanlı harfler değişir.</translation>
     </message>
     <message id="kNoticeLimit">
         <source></source>
@@ -1809,7 +1809,7 @@
     </message>
     <message id="kReplaceMessage">
         <source></source>
-        <translation>“%1” kanal listesi değiştirilsin mi?</translation>
+        <translation>“%1” kanal listesinin yerine bırakılan dosya açılsın mı?</translation>
     </message>
     <message id="kRevertFailedMessage">
         <source></source>
@@ -1883,11 +1883,11 @@
     </message>
     <message id="kReviewRepair">
         <source></source>
-        <translation>“Onarılmış Kaydet” hiçbir şey kaybettirmez: değişiklikleriniz yazılır, geri kalan her şey okunduğu gibi kalır.</translation>
+        <translation>“Onarılmış Olarak Kaydet” hiçbir şey kaybettirmez: değişiklikleriniz yazılır, geri kalan her şey okunduğu gibi kalır.</translation>
     </message>
     <message id="kReviewRepairPartly">
         <source></source>
-        <translation>“Onarılmış Kaydet” değişikliklerinizi yazar ve geri kalan her şeyi okunduğu gibi bırakır; yine de:</translation>
+        <translation>“Onarılmış Olarak Kaydet” değişikliklerinizi yazar ve geri kalan her şeyi okunduğu gibi bırakır; yine de:</translation>
     </message>
     <message id="kReviewSurroundings">
         <source></source>
@@ -1895,7 +1895,7 @@
     </message>
     <message id="kReviewTail">
         <source></source>
-        <translation>Dosyanın hasarlı bir yerinden sonra gelenler kaybolur.</translation>
+        <translation>Dosyanın hasarlı bir yerinden sonra gelen her şey kaybolur.</translation>
     </message>
     <message id="kReviewUnread" numerus="yes">
         <source></source>
@@ -2021,7 +2021,7 @@
     </message>
     <message id="kSaveRepaired">
         <source></source>
-        <translation>Onarılmış Kaydet</translation>
+        <translation>Onarılmış Olarak Kaydet</translation>
     </message>
     <message id="kSaveTitle">
         <source></source>
@@ -2223,7 +2223,7 @@ Bunların devam ettiği numara: %3</translation>
     </message>
     <message id="kTipNoStationsInSource">
         <source></source>
-        <translation>Bu kaynaktan kanalları olan dosyalar için</translation>
+        <translation>Bu kaynaktan kanallar içeren bir dosya açın</translation>
     </message>
     <message id="kTipNoSteps">
         <source></source>
@@ -2515,7 +2515,7 @@ Bunların devam ettiği numara: %3</translation>
     </message>
     <message id="kUntouchedReason">
         <source></source>
-        <translation>Bozuk dosya olduğu gibi bırakılır. Başka bir ad veya klasör seçin.</translation>
+        <translation>Hasarlı dosya olduğu gibi bırakılır. Başka bir ad veya klasör seçin.</translation>
     </message>
     <message id="kUsualColumns">
         <source></source>
@@ -2527,7 +2527,7 @@ Bunların devam ettiği numara: %3</translation>
     </message>
     <message id="kVersionDamaged">
         <source></source>
-        <translation>Bozuk veya eksik; artık okunamıyor</translation>
+        <translation>Hasarlı veya eksik; artık okunamıyor</translation>
     </message>
     <message id="kVersionDamagedReason">
         <source></source>

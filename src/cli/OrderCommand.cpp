@@ -12,6 +12,7 @@
 #include "document/text/RowReading.h"
 #include "model/CleanName.h"
 #include "texts/ReferenceListReading.h"
+#include "texts/ReferenceOrderTexts.h"
 
 namespace quillet {
 
@@ -153,10 +154,7 @@ QString reportOf(const ChosenList &list, const Ordering::Result &result)
 {
     QString text = titleOf(list) + QLatin1String(": ");
     if (result.last)
-        text += qtTrId("kSortStatistics")
-                    .arg(result.matched)
-                    .arg(result.remaining)
-                    .arg(*result.last + 1);
+        text += textOf({result.matched, result.remaining, *result.last});
     else
         text += QStringLiteral("%1 stations were matched; the %2 others keep their numbers where "
                                "they can.")

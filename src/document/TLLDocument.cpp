@@ -10,6 +10,7 @@
 #include "document/write/TLLWriter.h"
 #include "framework/Prompts.h"
 #include "texts/FormatTexts.h"
+#include "texts/ReferenceOrderTexts.h"
 
 #include <QFileInfo>
 #include <QLoggingCategory>
@@ -178,10 +179,7 @@ void TLLDocument::applyOrderFromRefList(const ReferenceList &entries, const QStr
     if (!prompts())
         return;
     const Alert report{.message = qtTrId("kSortTitle").arg(fileName),
-                       .informativeText = qtTrId("kSortStatistics")
-                                              .arg(result.matched)
-                                              .arg(result.remaining)
-                                              .arg(result.last + 1),
+                       .informativeText = textOf(result),
                        .buttons = {qtTrId("kOK")}};
     prompts()->showAlert(sheetWindow(), report, [](const AlertAnswer &) {});
 }

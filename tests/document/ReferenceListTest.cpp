@@ -23,7 +23,7 @@ public:
     {
         const QByteArray key(id);
         return key == "kSortTitle"        ? u"%1"_s
-               : key == "kSortStatistics" ? u"%1, %2, %3"_s
+               : key == "kSortStatistics" ? u"%1, %2\n%3"_s
                                           : QString();
     }
 };
@@ -105,15 +105,15 @@ private slots:
     {
         QTest::addColumn<QStringList>("lines");
         QTest::addColumn<QString>("list");
-        QTest::addColumn<QString>("report"); // matched, remaining, next number
+        QTest::addColumn<QString>("report"); // matched, remaining, next number if any remain
         // Of "1 A", "2 B", "5 C", "9 D" with the service ids 300, 301, 302 and 303.
-        QTest::newRow("none") << QStringList() << u"1 A, 2 B, 3 C, 4 D"_s << u"0, 4, 1"_s;
+        QTest::newRow("none") << QStringList() << u"1 A, 2 B, 3 C, 4 D"_s << u"0, 4\n1"_s;
         QTest::newRow("numbers of all kinds")
             << QStringList{u" 12x;303"_s, u"-4;300"_s, u"no;301"_s} << u"12 D, 16380 A, 0 B, 1 C"_s
-            << u"3, 1, 1"_s; // the lower 14 bits of -4
+            << u"3, 1\n1"_s; // the lower 14 bits of -4
         QTest::newRow("all") << QStringList{u"3;300"_s, u"2;301"_s, u"8;303"_s, u"1;302"_s,
                                             u"99;302"_s}
-                             << u"3 A, 2 B, 8 D, 1 C"_s << u"4, 0, 2"_s;
+                             << u"3 A, 2 B, 8 D, 1 C"_s << u"4, 0"_s;
     }
     void reports()
     {

@@ -91,7 +91,7 @@
     </message>
     <message id="kArrangeByServiceId">
         <source></source>
-        <translation>Service-ID</translation>
+        <translation>Dienst-ID</translation>
     </message>
     <message id="kArrangeByType">
         <source></source>
@@ -215,7 +215,7 @@
     </message>
     <message id="kChoosePlace">
         <source></source>
-        <translation>Anderen Ort wählen …</translation>
+        <translation>Anderen Ort wählen …</translation>
     </message>
     <message id="kClearFilters">
         <source></source>
@@ -542,7 +542,7 @@
     </message>
     <message id="kDiscardFailedMessage">
         <source></source>
-        <translation>Nicht alles konnte verworfen werden. Ein anderes Programm hat diese Ordner, oder dort darf nichts gelöscht werden:</translation>
+        <translation>Nicht alles konnte verworfen werden. Ein anderes Programm benutzt diese Ordner, oder dort darf nichts gelöscht werden:</translation>
     </message>
     <message id="kDiscardOneMessage">
         <source></source>
@@ -640,7 +640,7 @@
     </message>
     <message id="kExportOK">
         <source></source>
-        <translation>Exportieren …</translation>
+        <translation>Exportieren …</translation>
     </message>
     <message id="kExportPage">
         <source></source>
@@ -653,8 +653,8 @@
     <message id="kExportRenamed" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n umbenannter Sender hat keine vollständigen Kennungen: Er wird erst wiedererkannt, wenn die Liste gesichert und neu geöffnet ist.</numerusform>
-            <numerusform>%n umbenannte Sender haben keine vollständigen Kennungen: Sie werden erst wiedererkannt, wenn die Liste gesichert und neu geöffnet ist.</numerusform>
+            <numerusform>%n umbenannter Sender hat keine vollständigen Kennungen: Er wird erst wiedererkannt, wenn die Liste gespeichert und neu geöffnet ist.</numerusform>
+            <numerusform>%n umbenannte Sender haben keine vollständigen Kennungen: Sie werden erst wiedererkannt, wenn die Liste gespeichert und neu geöffnet ist.</numerusform>
         </translation>
     </message>
     <message id="kExportSeparator">
@@ -934,7 +934,7 @@
     </message>
     <message id="kHistoryOldest">
         <source></source>
-        <translation>Ältester behaltener Schritt</translation>
+        <translation>Ältester aufbewahrter Schritt</translation>
     </message>
     <message id="kHistorySaved">
         <source></source>
@@ -1143,7 +1143,7 @@
     </message>
     <message id="kMenuCompareFile">
         <source></source>
-        <translation>Anderer &amp;Liste …</translation>
+        <translation>Anderer &amp;Liste …</translation>
     </message>
     <message id="kMenuCompareRead">
         <source></source>
@@ -1163,7 +1163,7 @@
     </message>
     <message id="kMenuExportList">
         <source></source>
-        <translation>Expor&amp;tieren …</translation>
+        <translation>Expor&amp;tieren …</translation>
     </message>
     <message id="kMenuFile">
         <source></source>
@@ -1227,7 +1227,7 @@
     </message>
     <message id="kMenuImport">
         <source></source>
-        <translation>Änderungen &amp;importieren …</translation>
+        <translation>Änderungen &amp;importieren …</translation>
     </message>
     <message id="kMenuInfo">
         <source></source>
@@ -1267,7 +1267,7 @@
     </message>
     <message id="kMenuOpenRecent">
         <source></source>
-        <translation>&amp;Zuletzt verwendete Dateien</translation>
+        <translation>&amp;Zuletzt geöffnete Dateien</translation>
     </message>
     <message id="kMenuPaste">
         <source></source>
@@ -1279,7 +1279,7 @@
     </message>
     <message id="kMenuPrintCompact">
         <source></source>
-        <translation>&amp;Kompakt drucken …</translation>
+        <translation>&amp;Kompakt drucken …</translation>
     </message>
     <message id="kMenuQuit">
         <source></source>
@@ -1371,7 +1371,7 @@
     </message>
     <message id="kMenuUnsavedLists">
         <source></source>
-        <translation>Un&amp;gespeicherte Listen …</translation>
+        <translation>Un&amp;gespeicherte Listen …</translation>
     </message>
     <message id="kMenuVersions">
         <source></source>
@@ -1449,7 +1449,7 @@
     </message>
     <message id="kNoticeDeclaration">
         <source></source>
-        <translation>Die Datei gibt die Codierung %1 an, aber ihre Buchstaben sind UTF-8. Quillet lässt beides, wie es ist; ein Fernseher, der der Angabe glaubt, zeigt Buchstaben mit Akzent falsch an.</translation>
+        <translation>Die Datei gibt die Kodierung %1 an, aber ihre Buchstaben sind UTF-8. Quillet lässt beides, wie es ist; ein Fernseher, der der Angabe glaubt, zeigt Buchstaben mit Akzent falsch an.</translation>
     </message>
     <message id="kNoticeFileChanged">
         <source></source>
@@ -1653,7 +1653,7 @@
     </message>
     <message id="kPreviewOrder">
         <source></source>
-        <translation>Vorschau …</translation>
+        <translation>Vorschau …</translation>
     </message>
     <message id="kPreviewOrderCounts">
         <source></source>
@@ -1807,7 +1807,7 @@
     </message>
     <message id="kRecoveryOlderReason">
         <source></source>
-        <translation>Das ist ein älterer Stand einer Liste, die gerade zurückgeholt wurde. Er bleibt aufgehoben: Verwerfen Sie ihn, oder holen Sie ihn zurück, wenn die andere geschlossen ist.</translation>
+        <translation>Das ist ein älterer Stand einer Liste, die gerade zurückgeholt wurde. Er bleibt aufbewahrt: Verwerfen Sie ihn, oder holen Sie ihn zurück, wenn die andere geschlossen ist.</translation>
     </message>
     <message id="kRecoveryOpenReason">
         <source></source>
@@ -1889,7 +1889,7 @@
     </message>
     <message id="kReviewEncoding">
         <source></source>
-        <translation>Die Buchstaben mit Akzent würden als UTF-8 geschrieben, was nicht die Codierung ist, die die Datei angibt.</translation>
+        <translation>Die Buchstaben mit Akzent würden als UTF-8 geschrieben, was nicht die Kodierung ist, die die Datei angibt.</translation>
     </message>
     <message id="kReviewExport">
         <source></source>
@@ -1912,7 +1912,7 @@
     </message>
     <message id="kReviewNoRepair">
         <source></source>
-        <translation>Es gibt keinen Weg, diese Datei mit weniger Verlust zu schreiben. Heben Sie eine Kopie der alten Datei auf, bevor Sie speichern.</translation>
+        <translation>Es gibt keinen Weg, diese Datei mit weniger Verlust zu schreiben. Bewahren Sie eine Kopie der alten Datei auf, bevor Sie speichern.</translation>
     </message>
     <message id="kReviewNumbers" numerus="yes">
         <source></source>
@@ -2049,7 +2049,7 @@
     </message>
     <message id="kSaveCopy">
         <source></source>
-        <translation>Kopie speichern …</translation>
+        <translation>Kopie speichern …</translation>
     </message>
     <message id="kSaveCopyTitle">
         <source></source>
@@ -2081,7 +2081,7 @@
     </message>
     <message id="kSaveUnkept">
         <source></source>
-        <translation>Speichern, ohne sie aufzuheben</translation>
+        <translation>Speichern, ohne sie aufzubewahren</translation>
     </message>
     <message id="kSaveWithout" numerus="yes">
         <source></source>
@@ -2118,7 +2118,7 @@ Diese folgen ab Nummer: %3</translation>
     </message>
     <message id="kSortTitle">
         <source></source>
-        <translation>Die Reihenfolge aus „%1“ wurde übernommen.</translation>
+        <translation>Die Reihenfolge von „%1“ wurde übernommen.</translation>
     </message>
     <message id="kSource">
         <source></source>
@@ -2243,7 +2243,7 @@ Diese folgen ab Nummer: %3</translation>
     </message>
     <message id="kTipColumnAlwaysShown">
         <source></source>
-        <translation>Diese Spalte wird immer gezeigt</translation>
+        <translation>Diese Spalte wird immer angezeigt</translation>
     </message>
     <message id="kTipColumnNotTold">
         <source></source>
@@ -2303,7 +2303,7 @@ Diese folgen ab Nummer: %3</translation>
     </message>
     <message id="kTipNoVersions">
         <source></source>
-        <translation>Beim Speichern wird die ersetzte Version der Datei aufgehoben; von dieser Liste gibt es noch keine</translation>
+        <translation>Beim Speichern wird die ersetzte Version der Datei aufbewahrt; von dieser Liste gibt es noch keine</translation>
     </message>
     <message id="kTipRenameAnalogue">
         <source></source>
@@ -2335,7 +2335,7 @@ Diese folgen ab Nummer: %3</translation>
     </message>
     <message id="kTipVersionStations">
         <source></source>
-        <translation>In der ganzen Datei: TV und Radio, aus allen Quellen</translation>
+        <translation>In der ganzen Datei: TV und Radio, aus allen Empfangsarten</translation>
     </message>
     <message id="kToldArranged" numerus="yes">
         <source></source>
@@ -2351,8 +2351,8 @@ Diese folgen ab Nummer: %3</translation>
     <message id="kToldClosedGaps" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>Lücken geschlossen: %n Nummer geändert</numerusform>
-            <numerusform>Lücken geschlossen: %n Nummern geändert</numerusform>
+            <numerusform>Lücken gefüllt: %n Nummer geändert</numerusform>
+            <numerusform>Lücken gefüllt: %n Nummern geändert</numerusform>
         </translation>
     </message>
     <message id="kToldExported">
@@ -2442,7 +2442,7 @@ Diese folgen ab Nummer: %3</translation>
     </message>
     <message id="kToldOrdered">
         <source></source>
-        <translation>Reihenfolge von „%1“ angewendet</translation>
+        <translation>Reihenfolge von „%1“ übernommen</translation>
     </message>
     <message id="kToldOthersDropped" numerus="yes">
         <source></source>
@@ -2467,7 +2467,7 @@ Diese folgen ab Nummer: %3</translation>
     </message>
     <message id="kToldPasteGone">
         <source></source>
-        <translation>Nichts verschoben: Die Sender oder die Zeile, an deren Platz sie sollten, sind nicht mehr in der gezeigten Liste</translation>
+        <translation>Nichts verschoben: Die Sender oder die Zeile, an deren Platz sie sollten, sind nicht mehr in der angezeigten Liste</translation>
     </message>
     <message id="kToldPasteThere">
         <source></source>
@@ -2563,11 +2563,11 @@ Diese folgen ab Nummer: %3</translation>
     </message>
     <message id="kUnkeptMessage">
         <source></source>
-        <translation>Die Version von „%1“, die ersetzt würde, konnte nicht aufgehoben werden.</translation>
+        <translation>Die Version von „%1“, die ersetzt würde, konnte nicht aufbewahrt werden.</translation>
     </message>
     <message id="kUnkeptText">
         <source></source>
-        <translation>Beim Speichern wird sie endgültig ersetzt: Sie wird nicht unter den früheren Versionen sein, die in „%1“ aufgehoben werden.</translation>
+        <translation>Beim Speichern wird sie endgültig ersetzt: Sie wird nicht unter den früheren Versionen sein, die in „%1“ aufbewahrt werden.</translation>
     </message>
     <message id="kUnreadableMessage">
         <source></source>
@@ -2579,7 +2579,7 @@ Diese folgen ab Nummer: %3</translation>
     </message>
     <message id="kUnsureMessage">
         <source></source>
-        <translation>„%1“ wurde geschrieben, aber der Datenträger bestätigt nicht, dass es dabei bleibt.</translation>
+        <translation>„%1“ wurde geschrieben, aber der Datenträger bestätigt nicht, dass die Datei sicher gespeichert ist.</translation>
     </message>
     <message id="kUnsureText">
         <source></source>
@@ -2599,7 +2599,7 @@ Diese folgen ab Nummer: %3</translation>
     </message>
     <message id="kVersionCompare">
         <source></source>
-        <translation>Vergleichen …</translation>
+        <translation>Vergleichen …</translation>
     </message>
     <message id="kVersionDamaged">
         <source></source>
@@ -2607,7 +2607,7 @@ Diese folgen ab Nummer: %3</translation>
     </message>
     <message id="kVersionDamagedReason">
         <source></source>
-        <translation>Diese Version ist beschädigt: Sie ist nicht mehr, was aufgehoben wurde.</translation>
+        <translation>Diese Version ist beschädigt: Sie ist nicht mehr, was aufbewahrt wurde.</translation>
     </message>
     <message id="kVersionDifference">
         <source></source>
@@ -2627,7 +2627,7 @@ Diese folgen ab Nummer: %3</translation>
     </message>
     <message id="kVersionReading">
         <source></source>
-        <translation>Wird verglichen …</translation>
+        <translation>Wird verglichen …</translation>
     </message>
     <message id="kVersionsIntro">
         <source></source>
@@ -2651,7 +2651,7 @@ Diese folgen ab Nummer: %3</translation>
     </message>
     <message id="kVersionsUnreadableReason">
         <source></source>
-        <translation>Was in „%1“ schon von dieser Datei aufgehoben ist, lässt sich zurzeit nicht lesen.</translation>
+        <translation>Was in „%1“ schon von dieser Datei aufbewahrt ist, lässt sich zurzeit nicht lesen.</translation>
     </message>
     <message id="kVersionTime">
         <source></source>

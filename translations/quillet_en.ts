@@ -61,8 +61,8 @@
     <message id="kArrangeAllShown" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>Arranges all %n station on show among the numbers they hold now.</numerusform>
-            <numerusform>Arranges all %n stations on show among the numbers they hold now.</numerusform>
+            <numerusform>Arranges the %n station shown among the numbers it holds now.</numerusform>
+            <numerusform>Arranges all %n stations shown among the numbers they hold now.</numerusform>
         </translation>
     </message>
     <message id="kArrangeByEncryption">
@@ -119,7 +119,7 @@
     </message>
     <message id="kArrangeNoChange">
         <source></source>
-        <translation>All of these stations stand in this order already.</translation>
+        <translation>All of these stations are in this order already.</translation>
     </message>
     <message id="kArrangeNothing">
         <source></source>
@@ -139,7 +139,7 @@
     <message id="kArrangeSelected" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>Arranges the %n selected station among the numbers they hold now.</numerusform>
+            <numerusform>Arranges the %n selected station among the numbers it holds now.</numerusform>
             <numerusform>Arranges the %n selected stations among the numbers they hold now.</numerusform>
         </translation>
     </message>
@@ -542,7 +542,7 @@
     </message>
     <message id="kDiscardFailedMessage">
         <source></source>
-        <translation>Not everything could be discarded. Another program has these folders, or nothing may be deleted there:</translation>
+        <translation>Not everything could be discarded. Another program is using these folders, or nothing may be deleted there:</translation>
     </message>
     <message id="kDiscardOneMessage">
         <source></source>
@@ -682,7 +682,7 @@
     </message>
     <message id="kExportTooShort">
         <source></source>
-        <translation>An order is read from three stations at least: this file could not be applied.</translation>
+        <translation>An order needs three stations at least: this file could not be applied.</translation>
     </message>
     <message id="kFaultBadMark">
         <source></source>
@@ -690,7 +690,7 @@
     </message>
     <message id="kFaultBadNumber">
         <source></source>
-        <translation>“%1” is no number from 1 to 16383.</translation>
+        <translation>“%1” is not a number from 1 to 16383.</translation>
     </message>
     <message id="kFaultCellPlace">
         <source></source>
@@ -714,7 +714,7 @@
     </message>
     <message id="kFaultTextBehindQuote">
         <source></source>
-        <translation>There is text behind a closing quotation mark.</translation>
+        <translation>There is text after a closing quotation mark.</translation>
     </message>
     <message id="kFaultTooLarge">
         <source></source>
@@ -730,7 +730,7 @@
     </message>
     <message id="kFaultZeroCharacter">
         <source></source>
-        <translation>This is no text file.</translation>
+        <translation>This is not a text file.</translation>
     </message>
     <message id="kFileMissingReason">
         <source></source>
@@ -918,7 +918,7 @@
     </message>
     <message id="kHintRadioNotShownDetail">
         <source></source>
-        <translation>Whatever it has of them stays in the file.</translation>
+        <translation>Any that it has stay in the file.</translation>
     </message>
     <message id="kHintShowRadio">
         <source></source>
@@ -962,7 +962,7 @@
     </message>
     <message id="kImportByRows">
         <source></source>
-        <translation>The numbers are unchanged but the rows stand in another order: the stations get the order of the rows.</translation>
+        <translation>The numbers are unchanged but the rows are in another order: the stations get the order of the rows.</translation>
     </message>
     <message id="kImportFailed">
         <source></source>
@@ -974,17 +974,17 @@
     </message>
     <message id="kImportRowsAlone">
         <source></source>
-        <translation>The table tells no numbers: the stations get the order of the rows.</translation>
+        <translation>The table has no numbers: the stations get the order of the rows.</translation>
     </message>
     <message id="kImportTitle">
         <source></source>
-        <translation>Import Changes From a Table</translation>
+        <translation>Import Changes from a Table</translation>
     </message>
     <message id="kImportUnclear" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n row is unclear: its key and its name do not agree, or the station stands there again.</numerusform>
-            <numerusform>%n rows are unclear: key and name do not agree, or a station stands there several times.</numerusform>
+            <numerusform>%n row is unclear: its key and its name do not agree, or the station is there again.</numerusform>
+            <numerusform>%n rows are unclear: key and name do not agree, or a station is there several times.</numerusform>
         </translation>
     </message>
     <message id="kImportUnknownColumns">
@@ -994,8 +994,8 @@
     <message id="kImportUntold" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n row of the table does not tell a station.</numerusform>
-            <numerusform>%n rows of the table do not tell a station.</numerusform>
+            <numerusform>%n row of the table does not name a station.</numerusform>
+            <numerusform>%n rows of the table do not name a station.</numerusform>
         </translation>
     </message>
     <message id="kInfo">
@@ -1073,7 +1073,7 @@
     </message>
     <message id="kMendedCut">
         <source></source>
-        <translation>The last station was cut off; what is whole of it was kept.</translation>
+        <translation>The last station was cut off; the part that is intact was kept.</translation>
     </message>
     <message id="kMendedDropped">
         <source></source>
@@ -1093,13 +1093,13 @@
     <message id="kMendedTags" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n tag that was missing or wrong was put right.</numerusform>
-            <numerusform>%n tags that were missing or wrong were put right.</numerusform>
+            <numerusform>%n missing or wrong tag was corrected.</numerusform>
+            <numerusform>%n missing or wrong tags were corrected.</numerusform>
         </translation>
     </message>
     <message id="kMendedTitle">
         <source></source>
-        <translation>This is a repaired copy of “%1”. That file stays as it is.</translation>
+        <translation>This is a repaired copy of “%1”. The file itself stays as it is.</translation>
     </message>
     <message id="kMenuAbout">
         <source></source>
@@ -1423,8 +1423,8 @@
     <message id="kNoticeBeyond" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>The numbers did not suffice: they end at %1, and %n station that shared its number could not be given a free one. Saving would keep it with a low number, as radio.</numerusform>
-            <numerusform>The numbers did not suffice: they end at %1, and %n stations that shared their numbers could not be given free ones. Saving would keep them with low numbers, as radio.</numerusform>
+            <numerusform>There were not enough numbers: they end at %1, and %n station that shared its number could not be given a free one. Saving would keep it with a low number, as radio.</numerusform>
+            <numerusform>There were not enough numbers: they end at %1, and %n stations that shared their numbers could not be given free ones. Saving would keep them with low numbers, as radio.</numerusform>
         </translation>
     </message>
     <message id="kNoticeBinary">
@@ -1469,7 +1469,7 @@
     </message>
     <message id="kNoticeJSONCut">
         <source></source>
-        <translation>No stations were found, because the JSON text that holds them is not whole.</translation>
+        <translation>No stations were found, because the JSON text that holds them is incomplete.</translation>
     </message>
     <message id="kNoticeLatin1">
         <source></source>
@@ -1589,8 +1589,8 @@
     <message id="kPasteUnread" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n row of the clipboard does not tell a station.</numerusform>
-            <numerusform>%n rows of the clipboard do not tell a station.</numerusform>
+            <numerusform>%n row of the clipboard does not name a station.</numerusform>
+            <numerusform>%n rows of the clipboard do not name a station.</numerusform>
         </translation>
     </message>
     <message id="kPermissionsFailedReason">
@@ -1625,8 +1625,8 @@
     <message id="kPreviewHidden" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>This includes %n checked row that is not on show.</numerusform>
-            <numerusform>This includes %n checked rows that are not on show.</numerusform>
+            <numerusform>This includes %n checked row that is not shown.</numerusform>
+            <numerusform>This includes %n checked rows that are not shown.</numerusform>
         </translation>
     </message>
     <message id="kPreviewLocked" numerus="yes">
@@ -1668,7 +1668,7 @@
     </message>
     <message id="kPreviewPasteNone">
         <source></source>
-        <translation>Nothing can be moved: no row fits a station of the list on show.</translation>
+        <translation>Nothing can be moved: no row fits a station of the list that is shown.</translation>
     </message>
     <message id="kPreviewPasteUnchecked">
         <source></source>
@@ -1961,7 +1961,7 @@
     </message>
     <message id="kRowDoubled">
         <source></source>
-        <translation>stands there several times</translation>
+        <translation>there several times</translation>
     </message>
     <message id="kRowElsewhere">
         <source></source>
@@ -2114,7 +2114,7 @@
         <source></source>
         <translation>Stations matched: %1
 Stations not matched: %2
-These go on from number: %3</translation>
+These continue from number: %3</translation>
     </message>
     <message id="kSortTitle">
         <source></source>
@@ -2247,7 +2247,7 @@ These go on from number: %3</translation>
     </message>
     <message id="kTipColumnNotTold">
         <source></source>
-        <translation>The file does not say this of any station in this list</translation>
+        <translation>The file does not say this about any station in this list</translation>
     </message>
     <message id="kTipColumnsUsual">
         <source></source>
@@ -2255,7 +2255,7 @@ These go on from number: %3</translation>
     </message>
     <message id="kTipExportKeys">
         <source></source>
-        <translation>By this column Import Changes finds the stations again, whatever their order and numbers</translation>
+        <translation>Import Changes finds the stations again by this column, whatever their order and numbers</translation>
     </message>
     <message id="kTipFilterTVOnly">
         <source></source>
@@ -2263,7 +2263,7 @@ These go on from number: %3</translation>
     </message>
     <message id="kTipForeign">
         <source></source>
-        <translation>The stations on show are of another source; clear the search and the type first</translation>
+        <translation>The stations shown are of another source; clear the search and the type first</translation>
     </message>
     <message id="kTipNoFile">
         <source></source>
@@ -2271,7 +2271,7 @@ These go on from number: %3</translation>
     </message>
     <message id="kTipNoneEncrypted">
         <source></source>
-        <translation>The file tells of no encrypted station</translation>
+        <translation>The file marks no station as encrypted</translation>
     </message>
     <message id="kTipNoRow">
         <source></source>
@@ -2299,7 +2299,7 @@ These go on from number: %3</translation>
     </message>
     <message id="kTipNotTold">
         <source></source>
-        <translation>The file does not tell this of these stations</translation>
+        <translation>The file does not say this about these stations</translation>
     </message>
     <message id="kTipNoVersions">
         <source></source>
@@ -2467,11 +2467,11 @@ These go on from number: %3</translation>
     </message>
     <message id="kToldPasteGone">
         <source></source>
-        <translation>Nothing was moved: the stations, or the row to move them to, are no longer in the list on show</translation>
+        <translation>Nothing was moved: the stations, or the row to move them to, are no longer in the list that is shown</translation>
     </message>
     <message id="kToldPasteThere">
         <source></source>
-        <translation>Nothing was moved: the stations stand there already</translation>
+        <translation>Nothing was moved: the stations are there already</translation>
     </message>
     <message id="kToldPrinted">
         <source></source>
@@ -2579,7 +2579,7 @@ These go on from number: %3</translation>
     </message>
     <message id="kUnsureMessage">
         <source></source>
-        <translation>“%1” was written, but the disk does not confirm that it will stay so.</translation>
+        <translation>“%1” was written, but the disk does not confirm that it is safely stored.</translation>
     </message>
     <message id="kUnsureText">
         <source></source>
@@ -2639,7 +2639,7 @@ These go on from number: %3</translation>
     </message>
     <message id="kVersionsLockedReason">
         <source></source>
-        <translation>Another program has been keeping a version in “%1” for too long.</translation>
+        <translation>Another program has been busy keeping a version in “%1” for too long.</translation>
     </message>
     <message id="kVersionStations">
         <source></source>

@@ -347,7 +347,7 @@
     </message>
     <message id="kCompareFlags">
         <source></source>
-        <translation>Omitir o bloquear</translation>
+        <translation>Omisión o bloqueo</translation>
     </message>
     <message id="kCompareList">
         <source></source>
@@ -714,7 +714,7 @@
     </message>
     <message id="kFaultTextBehindQuote">
         <source></source>
-        <translation>Hay texto detrás de unas comillas de cierre.</translation>
+        <translation>Hay texto después de unas comillas de cierre.</translation>
     </message>
     <message id="kFaultTooLarge">
         <source></source>
@@ -810,7 +810,7 @@
     </message>
     <message id="kFolderGoneText">
         <source></source>
-        <translation>Se ha movido o eliminado, o se ha retirado su unidad. No se ha guardado nada y no se ha perdido nada: la lista sigue en esta ventana con todos sus cambios.</translation>
+        <translation>Se ha movido o eliminado, o se ha retirado su disco. No se ha guardado nada y no se ha perdido nada: la lista sigue en esta ventana con todos sus cambios.</translation>
     </message>
     <message id="kFolderNotShownMessage">
         <source></source>
@@ -826,7 +826,7 @@
     </message>
     <message id="kGoneText">
         <source></source>
-        <translation>El archivo se ha movido o eliminado, o se ha retirado la unidad en la que estaba. Si guarda aquí, se creará un archivo nuevo en ese lugar; si lo quiere en una memoria USB, conéctela antes.</translation>
+        <translation>El archivo se ha movido o eliminado, o se ha retirado el disco en el que estaba. Si guarda aquí, se creará un archivo nuevo en ese lugar; si lo quiere en una memoria USB, conéctela antes.</translation>
     </message>
     <message id="kHelpBack">
         <source></source>
@@ -1099,7 +1099,7 @@
     </message>
     <message id="kMendedTitle">
         <source></source>
-        <translation>Esta es una copia reparada de «%1». Ese archivo queda como está.</translation>
+        <translation>Esta es una copia reparada de «%1». El archivo en sí queda como está.</translation>
     </message>
     <message id="kMenuAbout">
         <source></source>
@@ -1457,7 +1457,7 @@
     </message>
     <message id="kNoticeFileGone">
         <source></source>
-        <translation>«%1» ya no está: se ha movido, renombrado o eliminado, o se ha retirado su unidad. La lista sigue en esta ventana; puede guardarla en otro lugar.</translation>
+        <translation>«%1» ya no está: se ha movido, renombrado o eliminado, o se ha retirado su disco. La lista sigue en esta ventana; puede guardarla en otro lugar.</translation>
     </message>
     <message id="kNoticeFileUnreadable">
         <source></source>
@@ -1485,7 +1485,7 @@
     </message>
     <message id="kNoticeReadOnly">
         <source></source>
-        <translation>Este archivo no se puede modificar: el archivo, su carpeta o su unidad están protegidos contra escritura. Para conservar sus cambios, guarde una copia; «Guardar» lo ofrece.</translation>
+        <translation>Este archivo no se puede modificar: el archivo, su carpeta o su disco están protegidos contra escritura. Para conservar sus cambios, guarde una copia; «Guardar» lo ofrece.</translation>
     </message>
     <message id="kNoticeUnread" numerus="yes">
         <source></source>
@@ -1572,7 +1572,7 @@
     </message>
     <message id="kOrderNoTVStations">
         <source></source>
-        <translation>No tiene canales de televisión.</translation>
+        <translation>No tiene canales de TV.</translation>
     </message>
     <message id="kOrderWrongType">
         <source></source>
@@ -2335,7 +2335,7 @@ Estos continúan a partir del número: %3</translation>
     </message>
     <message id="kTipVersionStations">
         <source></source>
-        <translation>En todo el archivo: TV y radio, de todas las fuentes</translation>
+        <translation>En todo el archivo: TV y radio, de todos los tipos de recepción</translation>
     </message>
     <message id="kToldArranged" numerus="yes">
         <source></source>
@@ -2495,7 +2495,7 @@ Estos continúan a partir del número: %3</translation>
     </message>
     <message id="kToldRepaired">
         <source></source>
-        <translation>Guardado reparado, como eligió: no se ha perdido nada.</translation>
+        <translation>Se ha guardado la versión reparada, como eligió: no se ha perdido nada.</translation>
     </message>
     <message id="kToldReverted">
         <source></source>
@@ -2579,11 +2579,11 @@ Estos continúan a partir del número: %3</translation>
     </message>
     <message id="kUnsureMessage">
         <source></source>
-        <translation>«%1» se ha escrito, pero la unidad no confirma que vaya a quedar así.</translation>
+        <translation>«%1» se ha escrito, pero el disco no confirma que esté guardado de forma segura.</translation>
     </message>
     <message id="kUnsureText">
         <source></source>
-        <translation>La lista sigue marcada como modificada. Guárdela de nuevo o guarde una copia en otra unidad.</translation>
+        <translation>La lista sigue marcada como modificada. Guárdela de nuevo o guarde una copia en otro disco.</translation>
     </message>
     <message id="kUntitled">
         <source></source>
@@ -2639,7 +2639,7 @@ Estos continúan a partir del número: %3</translation>
     </message>
     <message id="kVersionsLockedReason">
         <source></source>
-        <translation>Otro programa está conservando una versión en «%1» y no termina.</translation>
+        <translation>Otro programa lleva demasiado tiempo conservando una versión en «%1».</translation>
     </message>
     <message id="kVersionStations">
         <source></source>

@@ -247,7 +247,7 @@
     </message>
     <message id="kColumnEncrypted">
         <source></source>
-        <translation>Crypté</translation>
+        <translation>Cryptée</translation>
     </message>
     <message id="kColumnFrequency">
         <source></source>
@@ -255,7 +255,7 @@
     </message>
     <message id="kColumnHidden">
         <source></source>
-        <translation>Masqué</translation>
+        <translation>Masquée</translation>
     </message>
     <message id="kColumnName">
         <source></source>
@@ -443,7 +443,7 @@
     </message>
     <message id="kCompareUnclear">
         <source></source>
-        <translation>Incertain</translation>
+        <translation>Incertaine</translation>
     </message>
     <message id="kContentUnknownReason">
         <source></source>
@@ -754,7 +754,7 @@
     </message>
     <message id="kFillGapsTip">
         <source></source>
-        <translation>Numéroter la liste 1, 2, 3 … sans vides, maintenant et après chaque déplacement</translation>
+        <translation>Numéroter la liste 1, 2, 3… sans vides, maintenant et après chaque déplacement</translation>
     </message>
     <message id="kFilterAll">
         <source></source>
@@ -938,7 +938,7 @@
     </message>
     <message id="kHistorySaved">
         <source></source>
-        <translation>%1 (enregistré)</translation>
+        <translation>%1 (enregistrée)</translation>
     </message>
     <message id="kHistoryStart">
         <source></source>
@@ -950,7 +950,7 @@
     </message>
     <message id="kHistoryUndone">
         <source></source>
-        <translation>Annulé</translation>
+        <translation>Annulée</translation>
     </message>
     <message id="kImportByNames">
         <source></source>
@@ -1099,7 +1099,7 @@
     </message>
     <message id="kMendedTitle">
         <source></source>
-        <translation>Ceci est une copie réparée de « %1 ». Ce fichier reste tel quel.</translation>
+        <translation>Ceci est une copie réparée de « %1 ». Le fichier lui-même reste tel quel.</translation>
     </message>
     <message id="kMenuAbout">
         <source></source>
@@ -1485,7 +1485,7 @@
     </message>
     <message id="kNoticeReadOnly">
         <source></source>
-        <translation>Ce fichier ne peut pas être modifié : lui, son dossier ou son disque est protégé en écriture. Pour garder vos modifications, enregistrez une copie ; « Enregistrer » le propose.</translation>
+        <translation>Ce fichier ne peut pas être modifié : le fichier, son dossier ou son disque est protégé en écriture. Pour garder vos modifications, enregistrez une copie ; « Enregistrer » le propose.</translation>
     </message>
     <message id="kNoticeUnread" numerus="yes">
         <source></source>
@@ -1548,7 +1548,7 @@
     </message>
     <message id="kOrderIsChannelList">
         <source></source>
-        <translation>C’est une liste de chaînes complète, un export par exemple. Donnez-lui un nom terminé par .tll pour reprendre son ordre.</translation>
+        <translation>C’est une liste de chaînes complète, une exportation par exemple. Donnez-lui un nom terminé par .tll pour reprendre son ordre.</translation>
     </message>
     <message id="kOrderJSON">
         <source></source>
@@ -1751,11 +1751,11 @@
     </message>
     <message id="kPutBack">
         <source></source>
-        <translation>Rétablir</translation>
+        <translation>Restaurer</translation>
     </message>
     <message id="kPutBackFailed">
         <source></source>
-        <translation>La version n’a pas pu être rétablie.</translation>
+        <translation>La version n’a pas pu être restaurée.</translation>
     </message>
     <message id="kPutBackOthers">
         <source></source>
@@ -1767,7 +1767,7 @@
     </message>
     <message id="kPutBackText">
         <source></source>
-        <translation>La rétablir est une seule étape, qui peut être annulée ; rien n’est enregistré.</translation>
+        <translation>La restaurer est une seule étape, qui peut être annulée ; rien n’est enregistré.</translation>
     </message>
     <message id="kRadio">
         <source></source>
@@ -1985,7 +1985,7 @@
     </message>
     <message id="kRowLoose">
         <source></source>
-        <translation>incertain : nom semblable</translation>
+        <translation>incertaine : nom semblable</translation>
     </message>
     <message id="kRowMoved">
         <source></source>
@@ -2017,7 +2017,7 @@
     </message>
     <message id="kRowUnsure">
         <source></source>
-        <translation>incertain</translation>
+        <translation>incertaine</translation>
     </message>
     <message id="kSatellite">
         <source></source>
@@ -2255,7 +2255,7 @@ Ces dernières suivent à partir du numéro : %3</translation>
     </message>
     <message id="kTipExportKeys">
         <source></source>
-        <translation>Cette colonne permet de reconnaître les chaînes à l’import, quels que soient leur ordre et leurs numéros</translation>
+        <translation>Cette colonne permet de reconnaître les chaînes à l’importation, quels que soient leur ordre et leurs numéros</translation>
     </message>
     <message id="kTipFilterTVOnly">
         <source></source>
@@ -2335,7 +2335,7 @@ Ces dernières suivent à partir du numéro : %3</translation>
     </message>
     <message id="kTipVersionStations">
         <source></source>
-        <translation>Dans tout le fichier : TV et radio, de toutes les sources</translation>
+        <translation>Dans tout le fichier : TV et radio, de tous les modes de réception</translation>
     </message>
     <message id="kToldArranged" numerus="yes">
         <source></source>
@@ -2351,8 +2351,8 @@ Ces dernières suivent à partir du numéro : %3</translation>
     <message id="kToldClosedGaps" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>Trous comblés : %n numéro modifié</numerusform>
-            <numerusform>Trous comblés : %n numéros modifiés</numerusform>
+            <numerusform>Vides comblés : %n numéro modifié</numerusform>
+            <numerusform>Vides comblés : %n numéros modifiés</numerusform>
         </translation>
     </message>
     <message id="kToldExported">
@@ -2479,7 +2479,7 @@ Ces dernières suivent à partir du numéro : %3</translation>
     </message>
     <message id="kToldPutBack">
         <source></source>
-        <translation>Version du %1 rétablie</translation>
+        <translation>Version du %1 restaurée</translation>
     </message>
     <message id="kToldRedone">
         <source></source>
@@ -2579,7 +2579,7 @@ Ces dernières suivent à partir du numéro : %3</translation>
     </message>
     <message id="kUnsureMessage">
         <source></source>
-        <translation>« %1 » a été écrit, mais le disque ne confirme pas que cela restera ainsi.</translation>
+        <translation>« %1 » a été écrit, mais le disque ne confirme pas que le fichier est bien enregistré.</translation>
     </message>
     <message id="kUnsureText">
         <source></source>
@@ -2639,7 +2639,7 @@ Ces dernières suivent à partir du numéro : %3</translation>
     </message>
     <message id="kVersionsLockedReason">
         <source></source>
-        <translation>Un autre programme conserve une version dans « %1 » et n’en finit pas.</translation>
+        <translation>Un autre programme est occupé depuis trop longtemps à conserver une version dans « %1 ».</translation>
     </message>
     <message id="kVersionStations">
         <source></source>

@@ -1099,7 +1099,7 @@
     </message>
     <message id="kMendedTitle">
         <source></source>
-        <translation>Questa è una copia riparata di “%1”. Quel file resta com’è.</translation>
+        <translation>Questa è una copia riparata di “%1”. Il file stesso resta com’è.</translation>
     </message>
     <message id="kMenuAbout">
         <source></source>
@@ -1645,7 +1645,7 @@
     </message>
     <message id="kPreviewNoneInCommon">
         <source></source>
-        <translation>I due elenchi non hanno alcun canale in comune.</translation>
+        <translation>Le due liste non hanno alcun canale in comune.</translation>
     </message>
     <message id="kPreviewNothing">
         <source></source>
@@ -2335,7 +2335,7 @@ Questi proseguono dal numero: %3</translation>
     </message>
     <message id="kTipVersionStations">
         <source></source>
-        <translation>In tutto il file: TV e radio, di ogni sorgente</translation>
+        <translation>In tutto il file: TV e radio, di ogni tipo di ricezione</translation>
     </message>
     <message id="kToldArranged" numerus="yes">
         <source></source>
@@ -2351,8 +2351,8 @@ Questi proseguono dal numero: %3</translation>
     <message id="kToldClosedGaps" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>Spazi vuoti riempiti: %n numero cambiato</numerusform>
-            <numerusform>Spazi vuoti riempiti: %n numeri cambiati</numerusform>
+            <numerusform>Vuoti riempiti: %n numero cambiato</numerusform>
+            <numerusform>Vuoti riempiti: %n numeri cambiati</numerusform>
         </translation>
     </message>
     <message id="kToldExported">
@@ -2426,7 +2426,7 @@ Questi proseguono dal numero: %3</translation>
     </message>
     <message id="kToldNotKept">
         <source></source>
-        <translation>“%1” è stata salvata, ma il file ha perso: %2.</translation>
+        <translation>“%1” è stato salvato, ma il file ha perso: %2.</translation>
     </message>
     <message id="kToldNotKeptSafe">
         <source></source>
@@ -2495,7 +2495,7 @@ Questi proseguono dal numero: %3</translation>
     </message>
     <message id="kToldRepaired">
         <source></source>
-        <translation>Salvato riparato, come hai scelto: non è andato perso nulla.</translation>
+        <translation>Versione riparata salvata, come hai scelto: non è andato perso nulla.</translation>
     </message>
     <message id="kToldReverted">
         <source></source>
@@ -2579,7 +2579,7 @@ Questi proseguono dal numero: %3</translation>
     </message>
     <message id="kUnsureMessage">
         <source></source>
-        <translation>“%1” è stato scritto, ma il disco non conferma che rimarrà così.</translation>
+        <translation>“%1” è stato scritto, ma il disco non conferma che sia salvato in modo sicuro.</translation>
     </message>
     <message id="kUnsureText">
         <source></source>
@@ -2639,7 +2639,7 @@ Questi proseguono dal numero: %3</translation>
     </message>
     <message id="kVersionsLockedReason">
         <source></source>
-        <translation>Un altro programma sta conservando una versione in “%1” e non finisce.</translation>
+        <translation>Un altro programma sta conservando da troppo tempo una versione in “%1”.</translation>
     </message>
     <message id="kVersionStations">
         <source></source>

@@ -91,7 +91,7 @@
     </message>
     <message id="kArrangeByServiceId">
         <source></source>
-        <translation>Service-ID</translation>
+        <translation>Dienst-ID</translation>
     </message>
     <message id="kArrangeByType">
         <source></source>
@@ -169,7 +169,7 @@
     </message>
     <message id="kBadSectionContent">
         <source></source>
-        <translation>De sectie %1 bevat geen lijst met zenders.</translation>
+        <translation>De sectie %1 bevat geen zenderlijst.</translation>
     </message>
     <message id="kBadSectionDistance" numerus="yes">
         <source></source>
@@ -375,7 +375,7 @@
     </message>
     <message id="kCompareNameWindow">
         <source></source>
-        <translation>%1 (zoals het om %2 was)</translation>
+        <translation>%1 (zoals om %2)</translation>
     </message>
     <message id="kCompareNoneShown">
         <source></source>
@@ -653,8 +653,8 @@
     <message id="kExportRenamed" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n hernoemde zender heeft geen volledige ID’s: hij wordt pas herkend als de lijst is bewaard en opnieuw geopend.</numerusform>
-            <numerusform>%n hernoemde zenders hebben geen volledige ID’s: ze worden pas herkend als de lijst is bewaard en opnieuw geopend.</numerusform>
+            <numerusform>%n hernoemde zender heeft geen volledige ID’s: hij wordt pas herkend als de lijst is opgeslagen en opnieuw geopend.</numerusform>
+            <numerusform>%n hernoemde zenders hebben geen volledige ID’s: ze worden pas herkend als de lijst is opgeslagen en opnieuw geopend.</numerusform>
         </translation>
     </message>
     <message id="kExportSeparator">
@@ -686,7 +686,7 @@
     </message>
     <message id="kFaultBadMark">
         <source></source>
-        <translation>“%1” zegt niet of de zender dit kenmerk heeft; 1 of 0 wel.</translation>
+        <translation>“%1” zegt niet of de zender deze markering heeft; 1 of 0 wel.</translation>
     </message>
     <message id="kFaultBadNumber">
         <source></source>
@@ -1099,7 +1099,7 @@
     </message>
     <message id="kMendedTitle">
         <source></source>
-        <translation>Dit is een herstelde kopie van “%1”. Dat bestand blijft zoals het is.</translation>
+        <translation>Dit is een herstelde kopie van “%1”. Het bestand zelf blijft zoals het is.</translation>
     </message>
     <message id="kMenuAbout">
         <source></source>
@@ -1552,7 +1552,7 @@
     </message>
     <message id="kOrderJSON">
         <source></source>
-        <translation>Het is een lijst van het soort dat zijn zenders als JSON bewaart. Daar zijn de kenmerken getallen, waaraan zenders van andere lijsten niet worden herkend.</translation>
+        <translation>Het is een lijst van het soort dat zijn zenders als JSON bewaart. Daar zijn de ID’s getallen, waaraan zenders van andere lijsten niet worden herkend.</translation>
     </message>
     <message id="kOrderLines">
         <source></source>
@@ -1807,11 +1807,11 @@
     </message>
     <message id="kRecoveryOlderReason">
         <source></source>
-        <translation>Dit is een oudere toestand van een lijst die zojuist is teruggehaald. Ze blijft bewaard: gooi ze weg, of haal ze terug zodra de andere is gesloten.</translation>
+        <translation>Dit is een oudere toestand van een lijst die zojuist is teruggehaald. Ze blijft bewaard: verwerp ze, of haal ze terug zodra de andere is gesloten.</translation>
     </message>
     <message id="kRecoveryOpenReason">
         <source></source>
-        <translation>De lijst is geopend in een venster en daar gewijzigd. Sla die wijzigingen eerst op of gooi ze weg.</translation>
+        <translation>De lijst is geopend in een venster en daar gewijzigd. Sla die wijzigingen eerst op of verwerp ze.</translation>
     </message>
     <message id="kRecoveryOriginalAt">
         <source></source>
@@ -2081,7 +2081,7 @@
     </message>
     <message id="kSaveUnkept">
         <source></source>
-        <translation>Opslaan zonder deze versie te behouden</translation>
+        <translation>Opslaan zonder deze versie te bewaren</translation>
     </message>
     <message id="kSaveWithout" numerus="yes">
         <source></source>
@@ -2335,7 +2335,7 @@ Deze gaan verder vanaf nummer: %3</translation>
     </message>
     <message id="kTipVersionStations">
         <source></source>
-        <translation>In het hele bestand: tv en radio, van alle bronnen</translation>
+        <translation>In het hele bestand: tv en radio, van alle ontvangstbronnen</translation>
     </message>
     <message id="kToldArranged" numerus="yes">
         <source></source>
@@ -2351,8 +2351,8 @@ Deze gaan verder vanaf nummer: %3</translation>
     <message id="kToldClosedGaps" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>Gaten opgevuld: %n nummer gewijzigd</numerusform>
-            <numerusform>Gaten opgevuld: %n nummers gewijzigd</numerusform>
+            <numerusform>Gaten gevuld: %n nummer gewijzigd</numerusform>
+            <numerusform>Gaten gevuld: %n nummers gewijzigd</numerusform>
         </translation>
     </message>
     <message id="kToldExported">
@@ -2447,8 +2447,8 @@ Deze gaan verder vanaf nummer: %3</translation>
     <message id="kToldOthersDropped" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>Alleen “%1” is genomen: dit venster bevat één lijst. Er is nog %n bestand neergezet</numerusform>
-            <numerusform>Alleen “%1” is genomen: dit venster bevat één lijst. Er zijn nog %n bestanden neergezet</numerusform>
+            <numerusform>Alleen “%1” is genomen: dit venster bevat één lijst. Er is nog %n bestand hierheen gesleept</numerusform>
+            <numerusform>Alleen “%1” is genomen: dit venster bevat één lijst. Er zijn nog %n bestanden hierheen gesleept</numerusform>
         </translation>
     </message>
     <message id="kToldOthersRenumbered" numerus="yes">
@@ -2495,7 +2495,7 @@ Deze gaan verder vanaf nummer: %3</translation>
     </message>
     <message id="kToldRepaired">
         <source></source>
-        <translation>Hersteld opgeslagen, zoals u hebt gekozen: er is niets verloren gegaan.</translation>
+        <translation>Herstelde versie opgeslagen, zoals u hebt gekozen: er is niets verloren gegaan.</translation>
     </message>
     <message id="kToldReverted">
         <source></source>
@@ -2579,7 +2579,7 @@ Deze gaan verder vanaf nummer: %3</translation>
     </message>
     <message id="kUnsureMessage">
         <source></source>
-        <translation>“%1” is geschreven, maar de schijf bevestigt niet dat het zo blijft.</translation>
+        <translation>“%1” is geschreven, maar de schijf bevestigt niet dat het veilig is opgeslagen.</translation>
     </message>
     <message id="kUnsureText">
         <source></source>

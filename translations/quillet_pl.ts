@@ -599,8 +599,8 @@
         <source></source>
         <translation>
             <numerusform>Jedyny kanał tej listy</numerusform>
-            <numerusform>Wszystkie %n kanały tej listy</numerusform>
-            <numerusform>Wszystkie %n kanałów tej listy</numerusform>
+            <numerusform>Wszystkie kanały tej listy (%n)</numerusform>
+            <numerusform>Wszystkie kanały tej listy (%n)</numerusform>
         </translation>
     </message>
     <message id="kExportByName" numerus="yes">
@@ -737,7 +737,7 @@
     </message>
     <message id="kFaultTextBehindQuote">
         <source></source>
-        <translation>Za cudzysłowem zamykającym stoi tekst.</translation>
+        <translation>Za cudzysłowem zamykającym jest jeszcze tekst.</translation>
     </message>
     <message id="kFaultTooLarge">
         <source></source>
@@ -745,7 +745,7 @@
     </message>
     <message id="kFaultTooManyCells">
         <source></source>
-        <translation>„%1” nie stoi w kolumnie z tytułem.</translation>
+        <translation>„%1” nie jest w kolumnie z tytułem.</translation>
     </message>
     <message id="kFaultUnclosedQuote">
         <source></source>
@@ -985,7 +985,7 @@
     </message>
     <message id="kImportByRows">
         <source></source>
-        <translation>Numery są bez zmian, ale wiersze stoją w innej kolejności: kanały dostają kolejność wierszy.</translation>
+        <translation>Numery są bez zmian, ale wiersze są w innej kolejności: kanały dostają kolejność wierszy.</translation>
     </message>
     <message id="kImportFailed">
         <source></source>
@@ -1129,7 +1129,7 @@
     </message>
     <message id="kMendedTitle">
         <source></source>
-        <translation>To jest naprawiona kopia pliku „%1”. Tamten plik pozostaje bez zmian.</translation>
+        <translation>To jest naprawiona kopia pliku „%1”. Sam plik pozostaje bez zmian.</translation>
     </message>
     <message id="kMenuAbout">
         <source></source>
@@ -1169,7 +1169,7 @@
     </message>
     <message id="kMenuCompare">
         <source></source>
-        <translation>Porównaj z &amp;listą</translation>
+        <translation>Poró&amp;wnaj z</translation>
     </message>
     <message id="kMenuCompareFile">
         <source></source>
@@ -1333,7 +1333,7 @@
     </message>
     <message id="kMenuReload">
         <source></source>
-        <translation>&amp;Wczytaj ponownie z dysku</translation>
+        <translation>Wcz&amp;ytaj ponownie z dysku</translation>
     </message>
     <message id="kMenuRename">
         <source></source>
@@ -1585,7 +1585,7 @@
     </message>
     <message id="kOrderJSON">
         <source></source>
-        <translation>Jest to lista tego rodzaju, który przechowuje stacje jako JSON. Identyfikatory są w niej liczbami, po których nie rozpoznaje się stacji z innych list.</translation>
+        <translation>Jest to lista tego rodzaju, który przechowuje kanały jako JSON. Identyfikatory są w niej liczbami, po których nie rozpoznaje się kanałów z innych list.</translation>
     </message>
     <message id="kOrderLines">
         <source></source>
@@ -1593,7 +1593,7 @@
     </message>
     <message id="kOrderNoIdentifiers">
         <source></source>
-        <translation>Stacje są rozpoznawane po identyfikatorach sieci, strumienia transportowego i usługi, a żadna stacja w tym pliku nie ma wszystkich trzech i nazwy.</translation>
+        <translation>Kanały są rozpoznawane po identyfikatorach sieci, strumienia transportowego i usługi, a żaden kanał w tym pliku nie ma wszystkich trzech i nazwy.</translation>
     </message>
     <message id="kOrderNoLines">
         <source></source>
@@ -1605,7 +1605,7 @@
     </message>
     <message id="kOrderNoTVStations">
         <source></source>
-        <translation>Nie ma w nim stacji TV.</translation>
+        <translation>Nie ma w nim kanałów TV.</translation>
     </message>
     <message id="kOrderWrongType">
         <source></source>
@@ -2655,7 +2655,7 @@ Te ostatnie następują od numeru: %3</translation>
     </message>
     <message id="kUnsureMessage">
         <source></source>
-        <translation>Zapisano „%1”, ale dysk nie potwierdza, że tak pozostanie.</translation>
+        <translation>Zapisano „%1”, ale dysk nie potwierdza, że plik jest bezpiecznie zapisany.</translation>
     </message>
     <message id="kUnsureText">
         <source></source>

@@ -89,7 +89,7 @@
     </message>
     <message id="kArrangeByServiceId">
         <source></source>
-        <translation>Servis Kimliği</translation>
+        <translation>Hizmet Kimliği</translation>
     </message>
     <message id="kArrangeByType">
         <source></source>
@@ -572,7 +572,7 @@
     <message id="kExportByName" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n kanalın tam tanımlayıcıları yok; yalnızca adından tanınır.</numerusform>
+            <numerusform>%n kanalın kimlikleri eksik; yalnızca adından tanınır.</numerusform>
         </translation>
     </message>
     <message id="kExportChangedNames" numerus="yes">
@@ -614,7 +614,7 @@
     <message id="kExportNumbers" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n kanalın tanımlayıcıları sayı: tanımlayıcıları metin olan listeler onu bunlardan, bu liste yalnızca adından tanır.</numerusform>
+            <numerusform>%n kanalın kimlikleri sayı: kimlikleri metin olan listeler onu bunlardan, bu liste yalnızca adından tanır.</numerusform>
         </translation>
     </message>
     <message id="kExportOK">
@@ -627,12 +627,12 @@
     </message>
     <message id="kExportReferenceList">
         <source></source>
-        <translation>Sıralama uygulamak için referans listesi (metin)</translation>
+        <translation>Sıra uygulamak için referans listesi (metin)</translation>
     </message>
     <message id="kExportRenamed" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>Adı değiştirilmiş %n kanalın tam tanımlayıcıları yok: ancak liste kaydedilip yeniden açıldığında tanınır.</numerusform>
+            <numerusform>Adı değiştirilmiş %n kanalın kimlikleri eksik: ancak liste kaydedilip yeniden açıldığında tanınır.</numerusform>
         </translation>
     </message>
     <message id="kExportSeparator">
@@ -659,7 +659,7 @@
     </message>
     <message id="kExportTooShort">
         <source></source>
-        <translation>Sıralama en az üç kanaldan okunur: bu dosya uygulanamaz.</translation>
+        <translation>Bir sıra en az üç kanaldan okunur: bu dosya uygulanamaz.</translation>
     </message>
     <message id="kFaultBadMark">
         <source></source>
@@ -691,7 +691,7 @@
     </message>
     <message id="kFaultTextBehindQuote">
         <source></source>
-        <translation>Kapanan tırnak işaretinin arkasında metin var.</translation>
+        <translation>Kapanan tırnak işaretinden sonra metin var.</translation>
     </message>
     <message id="kFaultTooLarge">
         <source></source>
@@ -919,7 +919,7 @@
     </message>
     <message id="kHistoryStart">
         <source></source>
-        <translation>Açıldığı Haliyle Liste</translation>
+        <translation>Açıldığı Hâliyle Liste</translation>
     </message>
     <message id="kHistoryTitle">
         <source></source>
@@ -1069,7 +1069,7 @@
     </message>
     <message id="kMendedTitle">
         <source></source>
-        <translation>Bu, “%1” dosyasının onarılmış bir kopyasıdır. O dosya olduğu gibi kalır.</translation>
+        <translation>Bu, “%1” dosyasının onarılmış bir kopyasıdır. Dosyanın kendisi olduğu gibi kalır.</translation>
     </message>
     <message id="kMenuAbout">
         <source></source>
@@ -1511,7 +1511,7 @@
     </message>
     <message id="kOrderEmpty">
         <source></source>
-        <translation>“%1” uygulanabilecek bir sıralama içermiyor.</translation>
+        <translation>“%1” uygulanabilecek bir sıra içermiyor.</translation>
     </message>
     <message id="kOrderIsChannelList">
         <source></source>
@@ -1527,7 +1527,7 @@
     </message>
     <message id="kOrderNoIdentifiers">
         <source></source>
-        <translation>Kanallar özgün ağ, aktarım akışı ve hizmet kimlikleriyle tanınır; bu dosyadaki hiçbir kanalda bu üç kimlik ile bir ad birlikte bulunmuyor.</translation>
+        <translation>Kanallar özgün ağ, taşıma akışı ve hizmet kimlikleriyle tanınır; bu dosyadaki hiçbir kanalda bu üç kimlik ile bir ad birlikte bulunmuyor.</translation>
     </message>
     <message id="kOrderNoLines">
         <source></source>
@@ -1543,7 +1543,7 @@
     </message>
     <message id="kOrderWrongType">
         <source></source>
-        <translation>Sıralama TLL dosyalarından ve metin dosyalarından (.txt) alınabilir.</translation>
+        <translation>Sıra TLL dosyalarından ve metin dosyalarından (.txt) alınabilir.</translation>
     </message>
     <message id="kOwnFileReason">
         <source></source>
@@ -1697,7 +1697,7 @@
     </message>
     <message id="kPrintTitle">
         <source></source>
-        <translation>Dosyaya yazdır</translation>
+        <translation>Dosyaya Yazdır</translation>
     </message>
     <message id="kPrintToFileFailedMessage">
         <source></source>
@@ -1830,7 +1830,7 @@
     <message id="kReviewChanged" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n kanal verilerinin bir bölümünü yitirir: %1</numerusform>
+            <numerusform>%n kanal verilerinin bir bölümünü kaybeder: %1</numerusform>
         </translation>
     </message>
     <message id="kReviewDoubled" numerus="yes">
@@ -2109,7 +2109,7 @@ Bunların devam ettiği numara: %3</translation>
     </message>
     <message id="kStepOrdered">
         <source></source>
-        <translation>%1 Sıralaması</translation>
+        <translation>%1 Sırası</translation>
     </message>
     <message id="kStepPutBack">
         <source></source>
@@ -2357,7 +2357,7 @@ Bunların devam ettiği numara: %3</translation>
     </message>
     <message id="kToldNotKept">
         <source></source>
-        <translation>“%1” kaydedildi, ama dosya şunları yitirdi: %2.</translation>
+        <translation>“%1” kaydedildi, ama dosya şunları kaybetti: %2.</translation>
     </message>
     <message id="kToldNotKeptSafe">
         <source></source>
@@ -2373,7 +2373,7 @@ Bunların devam ettiği numara: %3</translation>
     </message>
     <message id="kToldOrdered">
         <source></source>
-        <translation>“%1” sıralaması uygulandı</translation>
+        <translation>“%1” sırası uygulandı</translation>
     </message>
     <message id="kToldOthersDropped" numerus="yes">
         <source></source>
@@ -2487,11 +2487,11 @@ Bunların devam ettiği numara: %3</translation>
     </message>
     <message id="kUnkeptMessage">
         <source></source>
-        <translation>“%1” dosyasının değiştirilecek sürümü saklanamadı.</translation>
+        <translation>“%1” dosyasının üzerine yazılacak sürümü saklanamadı.</translation>
     </message>
     <message id="kUnkeptText">
         <source></source>
-        <translation>Kaydettiğinizde tümüyle değiştirilir: “%1” içinde saklanan önceki sürümler arasında yer almaz.</translation>
+        <translation>Kaydettiğinizde kalıcı olarak üzerine yazılır: “%1” içinde saklanan önceki sürümler arasında yer almaz.</translation>
     </message>
     <message id="kUnreadableMessage">
         <source></source>
@@ -2503,7 +2503,7 @@ Bunların devam ettiği numara: %3</translation>
     </message>
     <message id="kUnsureMessage">
         <source></source>
-        <translation>“%1” yazıldı, ancak disk bunun böyle kalacağını onaylamıyor.</translation>
+        <translation>“%1” yazıldı, ancak disk dosyanın güvenle saklandığını onaylamıyor.</translation>
     </message>
     <message id="kUnsureText">
         <source></source>
@@ -2531,7 +2531,7 @@ Bunların devam ettiği numara: %3</translation>
     </message>
     <message id="kVersionDamagedReason">
         <source></source>
-        <translation>Bu sürüm bozulmuş: artık saklanan içerik değil.</translation>
+        <translation>Bu sürüm hasarlı: artık saklanan içerik değil.</translation>
     </message>
     <message id="kVersionDifference">
         <source></source>
@@ -2563,7 +2563,7 @@ Bunların devam ettiği numara: %3</translation>
     </message>
     <message id="kVersionsLockedReason">
         <source></source>
-        <translation>Başka bir program “%1” içinde bir sürüm saklıyor ve bitirmiyor.</translation>
+        <translation>Başka bir program “%1” içinde çok uzun süredir bir sürüm saklıyor.</translation>
     </message>
     <message id="kVersionStations">
         <source></source>

@@ -563,6 +563,18 @@
         <source></source>
         <translation>Möchten Sie ungespeicherte Änderungen verwerfen, die nicht lesbar sind?</translation>
     </message>
+    <message id="kDiskFaultReason">
+        <source></source>
+        <translation>Der Datenträger meldet einen Fehler; er ist möglicherweise beschädigt</translation>
+    </message>
+    <message id="kDiskFullReason">
+        <source></source>
+        <translation>Auf dem Datenträger ist kein Platz mehr</translation>
+    </message>
+    <message id="kDiskRemovedReason">
+        <source></source>
+        <translation>Der Datenträger wurde entfernt</translation>
+    </message>
     <message id="kEncodingMarkedUtf8">
         <source></source>
         <translation>UTF-8 mit Kennung (für Tabellenkalkulationen)</translation>
@@ -812,6 +824,10 @@
         <source></source>
         <translation>Er wurde verschoben oder gelöscht, oder sein Datenträger wurde entfernt. Es wurde nichts gespeichert, und nichts ist verloren: Die Liste ist mit allen Änderungen noch in diesem Fenster.</translation>
     </message>
+    <message id="kFolderInPlaceReason">
+        <source></source>
+        <translation>An dieser Stelle ist ein Ordner</translation>
+    </message>
     <message id="kFolderNotShownMessage">
         <source></source>
         <translation>Es konnte kein Programm gestartet werden, das den Ordner „%1“ zeigt.</translation>
@@ -1017,6 +1033,10 @@
     <message id="kInfoTip">
         <source></source>
         <translation>Alle Felder des ausgewählten Senders anzeigen</translation>
+    </message>
+    <message id="kInUseReason">
+        <source></source>
+        <translation>Ein anderes Programm benutzt sie gerade</translation>
     </message>
     <message id="kIsAFolderReason">
         <source></source>
@@ -1400,6 +1420,18 @@
         <source></source>
         <translation>Verschieben</translation>
     </message>
+    <message id="kNameTakenReason">
+        <source></source>
+        <translation>Es gibt schon eine Datei mit diesem Namen</translation>
+    </message>
+    <message id="kNameTooLongReason">
+        <source></source>
+        <translation>Der Name ist zu lang</translation>
+    </message>
+    <message id="kNoAnswerReason">
+        <source></source>
+        <translation>Der Datenträger oder das Netzwerk antwortet nicht</translation>
+    </message>
     <message id="kNoMatches">
         <source></source>
         <translation>Kein Sender passt zur Suche und zum Typ.</translation>
@@ -1415,6 +1447,10 @@
     <message id="kNotAFileReason">
         <source></source>
         <translation>„%1“ ist keine gewöhnliche Datei.</translation>
+    </message>
+    <message id="kNotAllowedReason">
+        <source></source>
+        <translation>Ihnen fehlen die Zugriffsrechte dafür</translation>
     </message>
     <message id="kNotALocalFileReason">
         <source></source>
@@ -1522,6 +1558,14 @@
         <source></source>
         <translation>einige ihrer Zugriffsrechte</translation>
     </message>
+    <message id="kNotSupportedReason">
+        <source></source>
+        <translation>Der Datenträger lässt das oder diesen Namen nicht zu</translation>
+    </message>
+    <message id="kNotThereReason">
+        <source></source>
+        <translation>Die Datei oder ihr Ordner ist nicht da</translation>
+    </message>
     <message id="kOK">
         <source></source>
         <translation>OK</translation>
@@ -1577,6 +1621,14 @@
     <message id="kOrderWrongType">
         <source></source>
         <translation>Eine Reihenfolge kann aus TLL-Dateien und aus Textdateien (.txt) übernommen werden.</translation>
+    </message>
+    <message id="kOtherReason">
+        <source></source>
+        <translation>Das System meldet den Fehler %1</translation>
+    </message>
+    <message id="kOutOfMemoryReason">
+        <source></source>
+        <translation>Der Arbeitsspeicher reicht nicht aus</translation>
     </message>
     <message id="kOwnFileReason">
         <source></source>
@@ -1769,6 +1821,10 @@
         <source></source>
         <translation>Zurückholen ist ein Schritt, der sich rückgängig machen lässt; gespeichert wird dabei nichts.</translation>
     </message>
+    <message id="kQuotaReason">
+        <source></source>
+        <translation>Ihr Anteil am Datenträger ist aufgebraucht</translation>
+    </message>
     <message id="kRadio">
         <source></source>
         <translation>&amp;Radio</translation>
@@ -1776,6 +1832,10 @@
     <message id="kReadBackFailedReason">
         <source></source>
         <translation>Die neue Datei konnte nicht überprüft werden: %1</translation>
+    </message>
+    <message id="kReadOnlyDiskReason">
+        <source></source>
+        <translation>Der Datenträger ist schreibgeschützt</translation>
     </message>
     <message id="kRecentFileMissingMessage">
         <source></source>
@@ -2549,6 +2609,14 @@ Diese folgen ab Nummer: %3</translation>
         <source></source>
         <translation>Zu einem anderen Schritt des Verlaufs gewechselt</translation>
     </message>
+    <message id="kTooLargeForDiskReason">
+        <source></source>
+        <translation>Die Datei ist größer, als dort erlaubt ist</translation>
+    </message>
+    <message id="kTooManyOpenReason">
+        <source></source>
+        <translation>Es sind zu viele Dateien geöffnet</translation>
+    </message>
     <message id="kTV">
         <source></source>
         <translation>&amp;TV</translation>
@@ -2588,6 +2656,10 @@ Diese folgen ab Nummer: %3</translation>
     <message id="kUntitled">
         <source></source>
         <translation>Unbenannt</translation>
+    </message>
+    <message id="kUntoldReason">
+        <source></source>
+        <translation>Das System nennt keinen Grund</translation>
     </message>
     <message id="kUntouchedReason">
         <source></source>

@@ -563,6 +563,18 @@
         <source></source>
         <translation>Do you want to discard unsaved changes that cannot be read?</translation>
     </message>
+    <message id="kDiskFaultReason">
+        <source></source>
+        <translation>the disk reports a fault; it may be damaged</translation>
+    </message>
+    <message id="kDiskFullReason">
+        <source></source>
+        <translation>no space is left on the disk</translation>
+    </message>
+    <message id="kDiskRemovedReason">
+        <source></source>
+        <translation>the disk was removed</translation>
+    </message>
     <message id="kEncodingMarkedUtf8">
         <source></source>
         <translation>UTF-8 with mark (for spreadsheets)</translation>
@@ -812,6 +824,10 @@
         <source></source>
         <translation>It was moved or deleted, or its disk was removed. Nothing was saved, and nothing is lost: the list with all its changes is still in this window.</translation>
     </message>
+    <message id="kFolderInPlaceReason">
+        <source></source>
+        <translation>there is a folder in its place</translation>
+    </message>
     <message id="kFolderNotShownMessage">
         <source></source>
         <translation>No program could be started to show the folder “%1”.</translation>
@@ -1017,6 +1033,10 @@
     <message id="kInfoTip">
         <source></source>
         <translation>Show every field of the selected station</translation>
+    </message>
+    <message id="kInUseReason">
+        <source></source>
+        <translation>another program is using it</translation>
     </message>
     <message id="kIsAFolderReason">
         <source></source>
@@ -1400,6 +1420,18 @@
         <source></source>
         <translation>Move</translation>
     </message>
+    <message id="kNameTakenReason">
+        <source></source>
+        <translation>there is a file with that name already</translation>
+    </message>
+    <message id="kNameTooLongReason">
+        <source></source>
+        <translation>the name is too long</translation>
+    </message>
+    <message id="kNoAnswerReason">
+        <source></source>
+        <translation>the disk or the network does not answer</translation>
+    </message>
     <message id="kNoMatches">
         <source></source>
         <translation>No station matches the search and the type.</translation>
@@ -1415,6 +1447,10 @@
     <message id="kNotAFileReason">
         <source></source>
         <translation>“%1” is not an ordinary file.</translation>
+    </message>
+    <message id="kNotAllowedReason">
+        <source></source>
+        <translation>you do not have the rights for that</translation>
     </message>
     <message id="kNotALocalFileReason">
         <source></source>
@@ -1522,6 +1558,14 @@
         <source></source>
         <translation>some of its permissions</translation>
     </message>
+    <message id="kNotSupportedReason">
+        <source></source>
+        <translation>the disk does not allow that, or not that name</translation>
+    </message>
+    <message id="kNotThereReason">
+        <source></source>
+        <translation>the file or its folder is not there</translation>
+    </message>
     <message id="kOK">
         <source></source>
         <translation>OK</translation>
@@ -1577,6 +1621,14 @@
     <message id="kOrderWrongType">
         <source></source>
         <translation>An order can be taken from TLL files and from text files (.txt).</translation>
+    </message>
+    <message id="kOtherReason">
+        <source></source>
+        <translation>the system reports error %1</translation>
+    </message>
+    <message id="kOutOfMemoryReason">
+        <source></source>
+        <translation>there is not enough memory</translation>
     </message>
     <message id="kOwnFileReason">
         <source></source>
@@ -1769,6 +1821,10 @@
         <source></source>
         <translation>Putting it back is one step, which can be undone; nothing is saved by it.</translation>
     </message>
+    <message id="kQuotaReason">
+        <source></source>
+        <translation>your share of the disk is used up</translation>
+    </message>
     <message id="kRadio">
         <source></source>
         <translation>&amp;Radio</translation>
@@ -1776,6 +1832,10 @@
     <message id="kReadBackFailedReason">
         <source></source>
         <translation>The new file could not be checked: %1</translation>
+    </message>
+    <message id="kReadOnlyDiskReason">
+        <source></source>
+        <translation>the disk is write-protected</translation>
     </message>
     <message id="kRecentFileMissingMessage">
         <source></source>
@@ -2549,6 +2609,14 @@ These continue from number: %3</translation>
         <source></source>
         <translation>Went to another step of the history</translation>
     </message>
+    <message id="kTooLargeForDiskReason">
+        <source></source>
+        <translation>the file is larger than is allowed there</translation>
+    </message>
+    <message id="kTooManyOpenReason">
+        <source></source>
+        <translation>too many files are open</translation>
+    </message>
     <message id="kTV">
         <source></source>
         <translation>&amp;TV</translation>
@@ -2588,6 +2656,10 @@ These continue from number: %3</translation>
     <message id="kUntitled">
         <source></source>
         <translation>Untitled</translation>
+    </message>
+    <message id="kUntoldReason">
+        <source></source>
+        <translation>the system tells no reason</translation>
     </message>
     <message id="kUntouchedReason">
         <source></source>

@@ -563,6 +563,18 @@
         <source></source>
         <translation>¿Desea descartar unos cambios sin guardar que no se pueden leer?</translation>
     </message>
+    <message id="kDiskFaultReason">
+        <source></source>
+        <translation>el disco comunica un error; puede que esté dañado</translation>
+    </message>
+    <message id="kDiskFullReason">
+        <source></source>
+        <translation>no queda espacio en el disco</translation>
+    </message>
+    <message id="kDiskRemovedReason">
+        <source></source>
+        <translation>se ha retirado el disco</translation>
+    </message>
     <message id="kEncodingMarkedUtf8">
         <source></source>
         <translation>UTF-8 con marca (para hojas de cálculo)</translation>
@@ -812,6 +824,10 @@
         <source></source>
         <translation>Se ha movido o eliminado, o se ha retirado su disco. No se ha guardado nada y no se ha perdido nada: la lista sigue en esta ventana con todos sus cambios.</translation>
     </message>
+    <message id="kFolderInPlaceReason">
+        <source></source>
+        <translation>en su lugar hay una carpeta</translation>
+    </message>
     <message id="kFolderNotShownMessage">
         <source></source>
         <translation>No se ha podido iniciar ningún programa que muestre la carpeta «%1».</translation>
@@ -1017,6 +1033,10 @@
     <message id="kInfoTip">
         <source></source>
         <translation>Mostrar todos los campos del canal seleccionado</translation>
+    </message>
+    <message id="kInUseReason">
+        <source></source>
+        <translation>lo está usando otro programa</translation>
     </message>
     <message id="kIsAFolderReason">
         <source></source>
@@ -1400,6 +1420,18 @@
         <source></source>
         <translation>Mover</translation>
     </message>
+    <message id="kNameTakenReason">
+        <source></source>
+        <translation>ya hay un archivo con ese nombre</translation>
+    </message>
+    <message id="kNameTooLongReason">
+        <source></source>
+        <translation>el nombre es demasiado largo</translation>
+    </message>
+    <message id="kNoAnswerReason">
+        <source></source>
+        <translation>el disco o la red no responde</translation>
+    </message>
     <message id="kNoMatches">
         <source></source>
         <translation>Ningún canal coincide con la búsqueda y el tipo.</translation>
@@ -1415,6 +1447,10 @@
     <message id="kNotAFileReason">
         <source></source>
         <translation>«%1» no es un archivo normal.</translation>
+    </message>
+    <message id="kNotAllowedReason">
+        <source></source>
+        <translation>no tiene permiso para ello</translation>
     </message>
     <message id="kNotALocalFileReason">
         <source></source>
@@ -1522,6 +1558,14 @@
         <source></source>
         <translation>algunos de sus permisos</translation>
     </message>
+    <message id="kNotSupportedReason">
+        <source></source>
+        <translation>el disco no lo permite, o no admite ese nombre</translation>
+    </message>
+    <message id="kNotThereReason">
+        <source></source>
+        <translation>el archivo o su carpeta no está</translation>
+    </message>
     <message id="kOK">
         <source></source>
         <translation>Aceptar</translation>
@@ -1577,6 +1621,14 @@
     <message id="kOrderWrongType">
         <source></source>
         <translation>El orden se puede tomar de archivos TLL y de archivos de texto (.txt).</translation>
+    </message>
+    <message id="kOtherReason">
+        <source></source>
+        <translation>el sistema comunica el error %1</translation>
+    </message>
+    <message id="kOutOfMemoryReason">
+        <source></source>
+        <translation>no hay memoria suficiente</translation>
     </message>
     <message id="kOwnFileReason">
         <source></source>
@@ -1769,6 +1821,10 @@
         <source></source>
         <translation>Recuperarla es un solo paso, que se puede deshacer; con ello no se guarda nada.</translation>
     </message>
+    <message id="kQuotaReason">
+        <source></source>
+        <translation>ha agotado su cuota de disco</translation>
+    </message>
     <message id="kRadio">
         <source></source>
         <translation>&amp;Radio</translation>
@@ -1776,6 +1832,10 @@
     <message id="kReadBackFailedReason">
         <source></source>
         <translation>No se ha podido comprobar el archivo nuevo: %1</translation>
+    </message>
+    <message id="kReadOnlyDiskReason">
+        <source></source>
+        <translation>el disco está protegido contra escritura</translation>
     </message>
     <message id="kRecentFileMissingMessage">
         <source></source>
@@ -2549,6 +2609,14 @@ Estos continúan a partir del número: %3</translation>
         <source></source>
         <translation>Se ha pasado a otro paso del historial</translation>
     </message>
+    <message id="kTooLargeForDiskReason">
+        <source></source>
+        <translation>el archivo es más grande de lo que se permite allí</translation>
+    </message>
+    <message id="kTooManyOpenReason">
+        <source></source>
+        <translation>hay demasiados archivos abiertos</translation>
+    </message>
     <message id="kTV">
         <source></source>
         <translation>&amp;TV</translation>
@@ -2588,6 +2656,10 @@ Estos continúan a partir del número: %3</translation>
     <message id="kUntitled">
         <source></source>
         <translation>Sin título</translation>
+    </message>
+    <message id="kUntoldReason">
+        <source></source>
+        <translation>el sistema no indica el motivo</translation>
     </message>
     <message id="kUntouchedReason">
         <source></source>

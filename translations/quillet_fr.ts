@@ -563,6 +563,18 @@
         <source></source>
         <translation>Voulez-vous abandonner des modifications non enregistrées qui sont illisibles ?</translation>
     </message>
+    <message id="kDiskFaultReason">
+        <source></source>
+        <translation>le disque signale une erreur ; il est peut-être endommagé</translation>
+    </message>
+    <message id="kDiskFullReason">
+        <source></source>
+        <translation>il n’y a plus de place sur le disque</translation>
+    </message>
+    <message id="kDiskRemovedReason">
+        <source></source>
+        <translation>le disque a été retiré</translation>
+    </message>
     <message id="kEncodingMarkedUtf8">
         <source></source>
         <translation>UTF-8 avec marque (pour les tableurs)</translation>
@@ -812,6 +824,10 @@
         <source></source>
         <translation>Il a été déplacé ou supprimé, ou son disque a été retiré. Rien n’a été enregistré et rien n’est perdu : la liste est toujours dans cette fenêtre, avec toutes ses modifications.</translation>
     </message>
+    <message id="kFolderInPlaceReason">
+        <source></source>
+        <translation>un dossier se trouve à cet endroit</translation>
+    </message>
     <message id="kFolderNotShownMessage">
         <source></source>
         <translation>Aucun programme n’a pu être lancé pour afficher le dossier « %1 ».</translation>
@@ -1017,6 +1033,10 @@
     <message id="kInfoTip">
         <source></source>
         <translation>Afficher tous les champs de la chaîne sélectionnée</translation>
+    </message>
+    <message id="kInUseReason">
+        <source></source>
+        <translation>un autre programme l’utilise</translation>
     </message>
     <message id="kIsAFolderReason">
         <source></source>
@@ -1400,6 +1420,18 @@
         <source></source>
         <translation>Déplacer</translation>
     </message>
+    <message id="kNameTakenReason">
+        <source></source>
+        <translation>un fichier de ce nom existe déjà</translation>
+    </message>
+    <message id="kNameTooLongReason">
+        <source></source>
+        <translation>le nom est trop long</translation>
+    </message>
+    <message id="kNoAnswerReason">
+        <source></source>
+        <translation>le disque ou le réseau ne répond pas</translation>
+    </message>
     <message id="kNoMatches">
         <source></source>
         <translation>Aucune chaîne ne correspond à la recherche et au type.</translation>
@@ -1415,6 +1447,10 @@
     <message id="kNotAFileReason">
         <source></source>
         <translation>« %1 » n’est pas un fichier ordinaire.</translation>
+    </message>
+    <message id="kNotAllowedReason">
+        <source></source>
+        <translation>vous n’en avez pas le droit</translation>
     </message>
     <message id="kNotALocalFileReason">
         <source></source>
@@ -1522,6 +1558,14 @@
         <source></source>
         <translation>certains de ses droits d’accès</translation>
     </message>
+    <message id="kNotSupportedReason">
+        <source></source>
+        <translation>le disque ne le permet pas, ou n’admet pas ce nom</translation>
+    </message>
+    <message id="kNotThereReason">
+        <source></source>
+        <translation>le fichier ou son dossier n’est pas là</translation>
+    </message>
     <message id="kOK">
         <source></source>
         <translation>OK</translation>
@@ -1577,6 +1621,14 @@
     <message id="kOrderWrongType">
         <source></source>
         <translation>Un ordre peut être repris de fichiers TLL et de fichiers texte (.txt).</translation>
+    </message>
+    <message id="kOtherReason">
+        <source></source>
+        <translation>le système signale l’erreur %1</translation>
+    </message>
+    <message id="kOutOfMemoryReason">
+        <source></source>
+        <translation>il n’y a pas assez de mémoire</translation>
     </message>
     <message id="kOwnFileReason">
         <source></source>
@@ -1769,6 +1821,10 @@
         <source></source>
         <translation>La restaurer est une seule étape, qui peut être annulée ; rien n’est enregistré.</translation>
     </message>
+    <message id="kQuotaReason">
+        <source></source>
+        <translation>votre quota d’espace disque est épuisé</translation>
+    </message>
     <message id="kRadio">
         <source></source>
         <translation>&amp;Radio</translation>
@@ -1776,6 +1832,10 @@
     <message id="kReadBackFailedReason">
         <source></source>
         <translation>Impossible de vérifier le nouveau fichier : %1</translation>
+    </message>
+    <message id="kReadOnlyDiskReason">
+        <source></source>
+        <translation>le disque est protégé en écriture</translation>
     </message>
     <message id="kRecentFileMissingMessage">
         <source></source>
@@ -2549,6 +2609,14 @@ Ces dernières suivent à partir du numéro : %3</translation>
         <source></source>
         <translation>Passage à une autre étape de l’historique</translation>
     </message>
+    <message id="kTooLargeForDiskReason">
+        <source></source>
+        <translation>le fichier dépasse la taille permise à cet endroit</translation>
+    </message>
+    <message id="kTooManyOpenReason">
+        <source></source>
+        <translation>trop de fichiers sont ouverts</translation>
+    </message>
     <message id="kTV">
         <source></source>
         <translation>&amp;TV</translation>
@@ -2588,6 +2656,10 @@ Ces dernières suivent à partir du numéro : %3</translation>
     <message id="kUntitled">
         <source></source>
         <translation>Sans titre</translation>
+    </message>
+    <message id="kUntoldReason">
+        <source></source>
+        <translation>le système n’indique pas de raison</translation>
     </message>
     <message id="kUntouchedReason">
         <source></source>

@@ -563,6 +563,18 @@
         <source></source>
         <translation>Vuoi scartare modifiche non salvate che non si possono leggere?</translation>
     </message>
+    <message id="kDiskFaultReason">
+        <source></source>
+        <translation>il disco segnala un errore; potrebbe essere danneggiato</translation>
+    </message>
+    <message id="kDiskFullReason">
+        <source></source>
+        <translation>non c’è più spazio sul disco</translation>
+    </message>
+    <message id="kDiskRemovedReason">
+        <source></source>
+        <translation>il disco è stato rimosso</translation>
+    </message>
     <message id="kEncodingMarkedUtf8">
         <source></source>
         <translation>UTF-8 con contrassegno (per fogli di calcolo)</translation>
@@ -812,6 +824,10 @@
         <source></source>
         <translation>È stata spostata o eliminata, oppure il suo disco è stato rimosso. Non è stato salvato nulla e nulla è andato perso: la lista è ancora in questa finestra con tutte le modifiche.</translation>
     </message>
+    <message id="kFolderInPlaceReason">
+        <source></source>
+        <translation>al suo posto c’è una cartella</translation>
+    </message>
     <message id="kFolderNotShownMessage">
         <source></source>
         <translation>Non è stato possibile avviare un programma che mostri la cartella “%1”.</translation>
@@ -1017,6 +1033,10 @@
     <message id="kInfoTip">
         <source></source>
         <translation>Mostra tutti i campi del canale selezionato</translation>
+    </message>
+    <message id="kInUseReason">
+        <source></source>
+        <translation>un altro programma lo sta usando</translation>
     </message>
     <message id="kIsAFolderReason">
         <source></source>
@@ -1400,6 +1420,18 @@
         <source></source>
         <translation>Sposta</translation>
     </message>
+    <message id="kNameTakenReason">
+        <source></source>
+        <translation>esiste già un file con quel nome</translation>
+    </message>
+    <message id="kNameTooLongReason">
+        <source></source>
+        <translation>il nome è troppo lungo</translation>
+    </message>
+    <message id="kNoAnswerReason">
+        <source></source>
+        <translation>il disco o la rete non risponde</translation>
+    </message>
     <message id="kNoMatches">
         <source></source>
         <translation>Nessun canale corrisponde alla ricerca e al tipo.</translation>
@@ -1415,6 +1447,10 @@
     <message id="kNotAFileReason">
         <source></source>
         <translation>“%1” non è un file ordinario.</translation>
+    </message>
+    <message id="kNotAllowedReason">
+        <source></source>
+        <translation>non hai i permessi necessari</translation>
     </message>
     <message id="kNotALocalFileReason">
         <source></source>
@@ -1522,6 +1558,14 @@
         <source></source>
         <translation>alcuni dei suoi permessi</translation>
     </message>
+    <message id="kNotSupportedReason">
+        <source></source>
+        <translation>il disco non lo consente, o non ammette quel nome</translation>
+    </message>
+    <message id="kNotThereReason">
+        <source></source>
+        <translation>il file o la sua cartella non c’è</translation>
+    </message>
     <message id="kOK">
         <source></source>
         <translation>OK</translation>
@@ -1577,6 +1621,14 @@
     <message id="kOrderWrongType">
         <source></source>
         <translation>Un ordine si può prendere da file TLL e da file di testo (.txt).</translation>
+    </message>
+    <message id="kOtherReason">
+        <source></source>
+        <translation>il sistema segnala l’errore %1</translation>
+    </message>
+    <message id="kOutOfMemoryReason">
+        <source></source>
+        <translation>la memoria non basta</translation>
     </message>
     <message id="kOwnFileReason">
         <source></source>
@@ -1769,6 +1821,10 @@
         <source></source>
         <translation>Ripristinarla è un solo passo, che si può annullare; non viene salvato nulla.</translation>
     </message>
+    <message id="kQuotaReason">
+        <source></source>
+        <translation>la tua quota di disco è esaurita</translation>
+    </message>
     <message id="kRadio">
         <source></source>
         <translation>&amp;Radio</translation>
@@ -1776,6 +1832,10 @@
     <message id="kReadBackFailedReason">
         <source></source>
         <translation>Impossibile verificare il nuovo file: %1</translation>
+    </message>
+    <message id="kReadOnlyDiskReason">
+        <source></source>
+        <translation>il disco è protetto da scrittura</translation>
     </message>
     <message id="kRecentFileMissingMessage">
         <source></source>
@@ -2549,6 +2609,14 @@ Questi proseguono dal numero: %3</translation>
         <source></source>
         <translation>Passaggio a un altro passo della cronologia</translation>
     </message>
+    <message id="kTooLargeForDiskReason">
+        <source></source>
+        <translation>il file supera la dimensione consentita</translation>
+    </message>
+    <message id="kTooManyOpenReason">
+        <source></source>
+        <translation>ci sono troppi file aperti</translation>
+    </message>
     <message id="kTV">
         <source></source>
         <translation>&amp;TV</translation>
@@ -2588,6 +2656,10 @@ Questi proseguono dal numero: %3</translation>
     <message id="kUntitled">
         <source></source>
         <translation>Senza titolo</translation>
+    </message>
+    <message id="kUntoldReason">
+        <source></source>
+        <translation>il sistema non indica il motivo</translation>
     </message>
     <message id="kUntouchedReason">
         <source></source>

@@ -563,6 +563,18 @@
         <source></source>
         <translation>Wilt u niet-opgeslagen wijzigingen verwerpen die onleesbaar zijn?</translation>
     </message>
+    <message id="kDiskFaultReason">
+        <source></source>
+        <translation>de schijf meldt een fout; mogelijk is de schijf beschadigd</translation>
+    </message>
+    <message id="kDiskFullReason">
+        <source></source>
+        <translation>er is geen ruimte meer op de schijf</translation>
+    </message>
+    <message id="kDiskRemovedReason">
+        <source></source>
+        <translation>de schijf is losgekoppeld</translation>
+    </message>
     <message id="kEncodingMarkedUtf8">
         <source></source>
         <translation>UTF-8 met kenmerk (voor spreadsheets)</translation>
@@ -812,6 +824,10 @@
         <source></source>
         <translation>De map is verplaatst of verwijderd, of de schijf is losgekoppeld. Er is niets opgeslagen en niets verloren: de lijst staat met alle wijzigingen nog in dit venster.</translation>
     </message>
+    <message id="kFolderInPlaceReason">
+        <source></source>
+        <translation>op die plaats staat een map</translation>
+    </message>
     <message id="kFolderNotShownMessage">
         <source></source>
         <translation>Er kon geen programma worden gestart dat de map “%1” toont.</translation>
@@ -1017,6 +1033,10 @@
     <message id="kInfoTip">
         <source></source>
         <translation>Alle velden van de geselecteerde zender tonen</translation>
+    </message>
+    <message id="kInUseReason">
+        <source></source>
+        <translation>een ander programma gebruikt het</translation>
     </message>
     <message id="kIsAFolderReason">
         <source></source>
@@ -1400,6 +1420,18 @@
         <source></source>
         <translation>Verplaatsen</translation>
     </message>
+    <message id="kNameTakenReason">
+        <source></source>
+        <translation>er is al een bestand met die naam</translation>
+    </message>
+    <message id="kNameTooLongReason">
+        <source></source>
+        <translation>de naam is te lang</translation>
+    </message>
+    <message id="kNoAnswerReason">
+        <source></source>
+        <translation>de schijf of het netwerk reageert niet</translation>
+    </message>
     <message id="kNoMatches">
         <source></source>
         <translation>Geen enkele zender komt overeen met de zoekopdracht en het type.</translation>
@@ -1415,6 +1447,10 @@
     <message id="kNotAFileReason">
         <source></source>
         <translation>“%1” is geen gewoon bestand.</translation>
+    </message>
+    <message id="kNotAllowedReason">
+        <source></source>
+        <translation>u hebt daarvoor geen toegangsrechten</translation>
     </message>
     <message id="kNotALocalFileReason">
         <source></source>
@@ -1522,6 +1558,14 @@
         <source></source>
         <translation>enkele van zijn toegangsrechten</translation>
     </message>
+    <message id="kNotSupportedReason">
+        <source></source>
+        <translation>de schijf staat dat of die naam niet toe</translation>
+    </message>
+    <message id="kNotThereReason">
+        <source></source>
+        <translation>het bestand of de map is er niet</translation>
+    </message>
     <message id="kOK">
         <source></source>
         <translation>OK</translation>
@@ -1577,6 +1621,14 @@
     <message id="kOrderWrongType">
         <source></source>
         <translation>Een volgorde kan worden overgenomen uit TLL-bestanden en tekstbestanden (.txt).</translation>
+    </message>
+    <message id="kOtherReason">
+        <source></source>
+        <translation>het systeem meldt fout %1</translation>
+    </message>
+    <message id="kOutOfMemoryReason">
+        <source></source>
+        <translation>er is niet genoeg geheugen</translation>
     </message>
     <message id="kOwnFileReason">
         <source></source>
@@ -1769,6 +1821,10 @@
         <source></source>
         <translation>Terugzetten is één stap, die ongedaan kan worden gemaakt; er wordt niets opgeslagen.</translation>
     </message>
+    <message id="kQuotaReason">
+        <source></source>
+        <translation>uw deel van de schijf is vol</translation>
+    </message>
     <message id="kRadio">
         <source></source>
         <translation>&amp;Radio</translation>
@@ -1776,6 +1832,10 @@
     <message id="kReadBackFailedReason">
         <source></source>
         <translation>Het nieuwe bestand kon niet worden gecontroleerd: %1</translation>
+    </message>
+    <message id="kReadOnlyDiskReason">
+        <source></source>
+        <translation>de schijf is tegen schrijven beveiligd</translation>
     </message>
     <message id="kRecentFileMissingMessage">
         <source></source>
@@ -2549,6 +2609,14 @@ Deze gaan verder vanaf nummer: %3</translation>
         <source></source>
         <translation>Naar een andere stap van de geschiedenis gegaan</translation>
     </message>
+    <message id="kTooLargeForDiskReason">
+        <source></source>
+        <translation>het bestand is groter dan daar is toegestaan</translation>
+    </message>
+    <message id="kTooManyOpenReason">
+        <source></source>
+        <translation>er zijn te veel bestanden geopend</translation>
+    </message>
     <message id="kTV">
         <source></source>
         <translation>&amp;Tv</translation>
@@ -2588,6 +2656,10 @@ Deze gaan verder vanaf nummer: %3</translation>
     <message id="kUntitled">
         <source></source>
         <translation>Naamloos</translation>
+    </message>
+    <message id="kUntoldReason">
+        <source></source>
+        <translation>het systeem noemt geen reden</translation>
     </message>
     <message id="kUntouchedReason">
         <source></source>

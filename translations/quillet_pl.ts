@@ -579,6 +579,18 @@
         <source></source>
         <translation>Czy chcesz odrzucić niezapisane zmiany, których nie można odczytać?</translation>
     </message>
+    <message id="kDiskFaultReason">
+        <source></source>
+        <translation>dysk zgłasza błąd; może być uszkodzony</translation>
+    </message>
+    <message id="kDiskFullReason">
+        <source></source>
+        <translation>na dysku nie ma już miejsca</translation>
+    </message>
+    <message id="kDiskRemovedReason">
+        <source></source>
+        <translation>dysk został odłączony</translation>
+    </message>
     <message id="kEncodingMarkedUtf8">
         <source></source>
         <translation>UTF-8 ze znacznikiem (do arkuszy kalkulacyjnych)</translation>
@@ -835,6 +847,10 @@
         <source></source>
         <translation>Został przeniesiony lub usunięty albo odłączono jego dysk. Niczego nie zapisano i niczego nie utracono: lista ze wszystkimi zmianami nadal jest w tym oknie.</translation>
     </message>
+    <message id="kFolderInPlaceReason">
+        <source></source>
+        <translation>w tym miejscu jest folder</translation>
+    </message>
     <message id="kFolderNotShownMessage">
         <source></source>
         <translation>Nie udało się uruchomić programu, który pokazałby folder „%1”.</translation>
@@ -1042,6 +1058,10 @@
     <message id="kInfoTip">
         <source></source>
         <translation>Pokaż wszystkie pola wybranego kanału</translation>
+    </message>
+    <message id="kInUseReason">
+        <source></source>
+        <translation>używa go inny program</translation>
     </message>
     <message id="kIsAFolderReason">
         <source></source>
@@ -1431,6 +1451,18 @@
         <source></source>
         <translation>Przenieś</translation>
     </message>
+    <message id="kNameTakenReason">
+        <source></source>
+        <translation>istnieje już plik o tej nazwie</translation>
+    </message>
+    <message id="kNameTooLongReason">
+        <source></source>
+        <translation>nazwa jest za długa</translation>
+    </message>
+    <message id="kNoAnswerReason">
+        <source></source>
+        <translation>dysk lub sieć nie odpowiada</translation>
+    </message>
     <message id="kNoMatches">
         <source></source>
         <translation>Żaden kanał nie pasuje do wyszukiwania i typu.</translation>
@@ -1446,6 +1478,10 @@
     <message id="kNotAFileReason">
         <source></source>
         <translation>„%1” nie jest zwykłym plikiem.</translation>
+    </message>
+    <message id="kNotAllowedReason">
+        <source></source>
+        <translation>nie masz do tego uprawnień</translation>
     </message>
     <message id="kNotALocalFileReason">
         <source></source>
@@ -1555,6 +1591,14 @@
         <source></source>
         <translation>część uprawnień</translation>
     </message>
+    <message id="kNotSupportedReason">
+        <source></source>
+        <translation>dysk na to nie pozwala lub nie dopuszcza tej nazwy</translation>
+    </message>
+    <message id="kNotThereReason">
+        <source></source>
+        <translation>nie ma pliku lub jego folderu</translation>
+    </message>
     <message id="kOK">
         <source></source>
         <translation>OK</translation>
@@ -1610,6 +1654,14 @@
     <message id="kOrderWrongType">
         <source></source>
         <translation>Kolejność można wziąć z plików TLL i z plików tekstowych (.txt).</translation>
+    </message>
+    <message id="kOtherReason">
+        <source></source>
+        <translation>system zgłasza błąd %1</translation>
+    </message>
+    <message id="kOutOfMemoryReason">
+        <source></source>
+        <translation>za mało pamięci</translation>
     </message>
     <message id="kOwnFileReason">
         <source></source>
@@ -1815,6 +1867,10 @@
         <source></source>
         <translation>Przywrócenie to jeden krok, który można cofnąć; nic nie zostaje przy tym zapisane.</translation>
     </message>
+    <message id="kQuotaReason">
+        <source></source>
+        <translation>Twój przydział miejsca na dysku został wykorzystany</translation>
+    </message>
     <message id="kRadio">
         <source></source>
         <translation>&amp;Radio</translation>
@@ -1822,6 +1878,10 @@
     <message id="kReadBackFailedReason">
         <source></source>
         <translation>Nie można sprawdzić nowego pliku: %1</translation>
+    </message>
+    <message id="kReadOnlyDiskReason">
+        <source></source>
+        <translation>dysk jest chroniony przed zapisem</translation>
     </message>
     <message id="kRecentFileMissingMessage">
         <source></source>
@@ -2625,6 +2685,14 @@ Te ostatnie następują od numeru: %3</translation>
         <source></source>
         <translation>Przejście do innego kroku historii</translation>
     </message>
+    <message id="kTooLargeForDiskReason">
+        <source></source>
+        <translation>plik jest większy, niż wolno w tym miejscu</translation>
+    </message>
+    <message id="kTooManyOpenReason">
+        <source></source>
+        <translation>otwartych jest za dużo plików</translation>
+    </message>
     <message id="kTV">
         <source></source>
         <translation>&amp;TV</translation>
@@ -2664,6 +2732,10 @@ Te ostatnie następują od numeru: %3</translation>
     <message id="kUntitled">
         <source></source>
         <translation>Bez nazwy</translation>
+    </message>
+    <message id="kUntoldReason">
+        <source></source>
+        <translation>system nie podaje przyczyny</translation>
     </message>
     <message id="kUntouchedReason">
         <source></source>

@@ -547,6 +547,18 @@
         <source></source>
         <translation>Okunamayan, kaydedilmemiş değişiklikleri atmak istiyor musunuz?</translation>
     </message>
+    <message id="kDiskFaultReason">
+        <source></source>
+        <translation>disk bir hata bildiriyor; hasarlı olabilir</translation>
+    </message>
+    <message id="kDiskFullReason">
+        <source></source>
+        <translation>diskte yer kalmadı</translation>
+    </message>
+    <message id="kDiskRemovedReason">
+        <source></source>
+        <translation>disk çıkarıldı</translation>
+    </message>
     <message id="kEncodingMarkedUtf8">
         <source></source>
         <translation>İşaretli UTF-8 (hesap tabloları için)</translation>
@@ -789,6 +801,10 @@
         <source></source>
         <translation>Taşındı veya silindi ya da diski çıkarıldı. Hiçbir şey kaydedilmedi ve hiçbir şey kaybolmadı: liste tüm değişiklikleriyle hâlâ bu pencerede.</translation>
     </message>
+    <message id="kFolderInPlaceReason">
+        <source></source>
+        <translation>yerinde bir klasör var</translation>
+    </message>
     <message id="kFolderNotShownMessage">
         <source></source>
         <translation>“%1” klasörünü gösterecek bir program başlatılamadı.</translation>
@@ -992,6 +1008,10 @@
     <message id="kInfoTip">
         <source></source>
         <translation>Seçili kanalın tüm alanlarını göster</translation>
+    </message>
+    <message id="kInUseReason">
+        <source></source>
+        <translation>başka bir program onu kullanıyor</translation>
     </message>
     <message id="kIsAFolderReason">
         <source></source>
@@ -1369,6 +1389,18 @@
         <source></source>
         <translation>Taşı</translation>
     </message>
+    <message id="kNameTakenReason">
+        <source></source>
+        <translation>bu adda bir dosya zaten var</translation>
+    </message>
+    <message id="kNameTooLongReason">
+        <source></source>
+        <translation>ad çok uzun</translation>
+    </message>
+    <message id="kNoAnswerReason">
+        <source></source>
+        <translation>disk veya ağ yanıt vermiyor</translation>
+    </message>
     <message id="kNoMatches">
         <source></source>
         <translation>Aramaya ve türe uyan kanal yok.</translation>
@@ -1384,6 +1416,10 @@
     <message id="kNotAFileReason">
         <source></source>
         <translation>“%1” sıradan bir dosya değil.</translation>
+    </message>
+    <message id="kNotAllowedReason">
+        <source></source>
+        <translation>bunun için izniniz yok</translation>
     </message>
     <message id="kNotALocalFileReason">
         <source></source>
@@ -1489,6 +1525,14 @@
         <source></source>
         <translation>bazı izinleri</translation>
     </message>
+    <message id="kNotSupportedReason">
+        <source></source>
+        <translation>disk buna veya bu ada izin vermiyor</translation>
+    </message>
+    <message id="kNotThereReason">
+        <source></source>
+        <translation>dosya veya klasörü yerinde değil</translation>
+    </message>
     <message id="kOK">
         <source></source>
         <translation>Tamam</translation>
@@ -1544,6 +1588,14 @@
     <message id="kOrderWrongType">
         <source></source>
         <translation>Sıra TLL dosyalarından ve metin dosyalarından (.txt) alınabilir.</translation>
+    </message>
+    <message id="kOtherReason">
+        <source></source>
+        <translation>sistem %1 numaralı hatayı bildiriyor</translation>
+    </message>
+    <message id="kOutOfMemoryReason">
+        <source></source>
+        <translation>yeterli bellek yok</translation>
     </message>
     <message id="kOwnFileReason">
         <source></source>
@@ -1723,6 +1775,10 @@
         <source></source>
         <translation>Geri getirmek, geri alınabilen tek bir adımdır; hiçbir şey kaydedilmez.</translation>
     </message>
+    <message id="kQuotaReason">
+        <source></source>
+        <translation>disk kotanız doldu</translation>
+    </message>
     <message id="kRadio">
         <source></source>
         <translation>&amp;Radyo</translation>
@@ -1730,6 +1786,10 @@
     <message id="kReadBackFailedReason">
         <source></source>
         <translation>Yeni dosya denetlenemedi: %1</translation>
+    </message>
+    <message id="kReadOnlyDiskReason">
+        <source></source>
+        <translation>disk yazmaya karşı korumalı</translation>
     </message>
     <message id="kRecentFileMissingMessage">
         <source></source>
@@ -2473,6 +2533,14 @@ Bunların devam ettiği numara: %3</translation>
         <source></source>
         <translation>Geçmişin başka bir adımına gidildi</translation>
     </message>
+    <message id="kTooLargeForDiskReason">
+        <source></source>
+        <translation>dosya orada izin verilenden büyük</translation>
+    </message>
+    <message id="kTooManyOpenReason">
+        <source></source>
+        <translation>çok fazla dosya açık</translation>
+    </message>
     <message id="kTV">
         <source></source>
         <translation>&amp;TV</translation>
@@ -2512,6 +2580,10 @@ Bunların devam ettiği numara: %3</translation>
     <message id="kUntitled">
         <source></source>
         <translation>Adsız</translation>
+    </message>
+    <message id="kUntoldReason">
+        <source></source>
+        <translation>sistem bir neden belirtmiyor</translation>
     </message>
     <message id="kUntouchedReason">
         <source></source>

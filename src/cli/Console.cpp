@@ -1,13 +1,13 @@
 #include "cli/Console.h"
 
 #include "files/FileNames.h"
+#include "files/SystemReasons.h"
 
 #include <QStringList>
 
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
-#include <system_error>
 
 namespace quillet {
 
@@ -15,11 +15,6 @@ namespace {
 
 constexpr qsizetype longestWait = 0x10000;
 constexpr char toolName[] = "quillet-cli";
-
-QString reasonOf(int number)
-{
-    return QString::fromStdString(std::error_code(number, std::generic_category()).message());
-}
 
 } // namespace
 
@@ -67,7 +62,7 @@ ExitStatus Console::finish()
         std::raise(SIGPIPE);
     }
 #endif
-    tell(QStringLiteral("standard output"), reasonOf(m_problem));
+    tell(QStringLiteral("standard output"), systemReason(m_problem));
     return ExitStatus::FileError;
 }
 

@@ -6,6 +6,7 @@
 #include "document/repair/FileDiagnosis.h"
 #include "files/FileNames.h"
 #include "files/FileReading.h"
+#include "files/SystemReasons.h"
 #include "texts/FindingTexts.h"
 #include "texts/FormatTexts.h"
 
@@ -33,7 +34,7 @@ bool readPipe(std::FILE *pipe, QByteArray &bytes, Error &error)
 {
     QFile input;
     if (!pipe || !input.open(pipe, QIODevice::ReadOnly)) {
-        error = unreadable(pipe ? input.errorString() : qt_error_string());
+        error = unreadable(lastSystemReason());
         return false;
     }
     constexpr qint64 step = 0x10000;
@@ -42,7 +43,7 @@ bool readPipe(std::FILE *pipe, QByteArray &bytes, Error &error)
         if (part.isEmpty()) {
             if (input.error() == QFileDevice::NoError)
                 return true;
-            error = unreadable(input.errorString());
+            error = unreadable(lastSystemReason());
             return false;
         }
         bytes += part;

@@ -83,7 +83,8 @@ InfoViewController::InfoViewController(QWidget *parent) : QDialog(parent), m_lis
     m_list->horizontalHeader()->setHighlightSections(false);
     m_list->installEventFilter(this);
 
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close);
+    auto *buttons = new QDialogButtonBox;
+    buttons->addButton(qtTrId("kClose"), QDialogButtonBox::RejectRole);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto *rows = new QVBoxLayout(this);
     rows->addWidget(m_list);

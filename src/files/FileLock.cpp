@@ -1,6 +1,7 @@
 #include "files/FileLock.h"
 
 #include "files/FileNames.h"
+#include "files/SystemReasons.h"
 
 #ifdef Q_OS_WIN
 #include <QLockFile>
@@ -28,7 +29,7 @@ std::unique_ptr<FileLock> FileLock::take(const QString &path, Obstacle &obstacle
     auto file = std::make_unique<QLockFile>(path);
     file->setStaleLockTime(0); // only a program that has ended leaves one
     if (!file->tryLock(0)) {
-        obstacle = {file->error() == QLockFile::LockFailedError, qt_error_string()};
+        obstacle = {file->error() == QLockFile::LockFailedError, lastSystemReason()};
         return nullptr;
     }
     return std::unique_ptr<FileLock>(new FileLock(std::move(file)));
@@ -80,18 +81,18 @@ std::unique_ptr<FileLock> FileLock::take(const QString &path, Obstacle &obstacle
     int handle =
         ::open(name.constData(), O_RDWR | O_CREAT | nonBlocking, mode_t{S_IRUSR | S_IWUSR});
     if (handle < 0) {
-        obstacle = {false, qt_error_string(errno)};
+        obstacle = {false, systemReason(errno)};
         handle = ::open(name.constData(), O_RDONLY | nonBlocking);
     }
     if (handle < 0)
         return nullptr;
     std::unique_ptr<FileLock> lock(new FileLock(handle));
     if (!lockFile(handle)) {
-        obstacle = {errno == EWOULDBLOCK, qt_error_string(errno)};
+        obstacle = {errno == EWOULDBLOCK, systemReason(errno)};
         return nullptr;
     }
     if (!isStillThere(handle, name)) {
-        obstacle = {true, qt_error_string(ENOENT)};
+        obstacle = {true, systemReason(ENOENT)};
         return nullptr;
     }
     const QByteArray owner = QByteArray::number(QCoreApplication::applicationPid()) + ' ' +

@@ -4,6 +4,7 @@
 #include "files/FileNames.h"
 #include "files/FileReading.h"
 #include "files/FileRights.h"
+#include "files/SystemReasons.h"
 
 #include <QFile>
 
@@ -23,17 +24,12 @@ namespace quillet {
 
 namespace {
 
-QString text(const std::error_code &code)
-{
-    return QString::fromLocal8Bit(code.message());
-}
-
-/// True when a system call answered 0; otherwise puts its errno's text into `reason`.
+/// True when a system call answered 0; otherwise puts into `reason` what its errno means.
 bool succeeded(int result, QString &reason)
 {
     if (result == 0)
         return true;
-    reason = text(std::error_code(errno, std::generic_category()));
+    reason = systemReason(errno);
     return false;
 }
 
@@ -66,7 +62,7 @@ bool FileOperations::makePrivateFolder(const QString &path, QString &reason)
 #ifdef Q_OS_WIN
     fs::create_directory(folder, code); // access rights come from the folder above
     if (code)
-        reason = text(code);
+        reason = systemReason(code);
     return !code;
 #else
     // Another program may make it at the same moment.
@@ -82,7 +78,7 @@ bool FileOperations::create(QFile &file, bool isPrivate, QString &reason)
     Q_UNUSED(isPrivate); // access rights come from the folder
     const bool isOpen = file.open(mode | QIODevice::NewOnly);
     if (!isOpen)
-        reason = file.errorString();
+        reason = lastSystemReason();
     return isOpen;
 #else
     // Opened here: Qt knows no file whose name is no text.
@@ -94,7 +90,7 @@ bool FileOperations::create(QFile &file, bool isPrivate, QString &reason)
         return false;
     if (file.open(handle, mode, QFileDevice::AutoCloseHandle))
         return true;
-    reason = file.errorString();
+    reason = lastSystemReason();
     ::close(handle);
     ::unlink(bytesOfPath(file.fileName()).constData());
     return false;
@@ -106,9 +102,10 @@ qint64 FileOperations::write(QFile &file, const QByteArray &bytes, QString &reas
     // A disk that is nearly full takes a part first and says why only when asked to take the rest.
     qint64 count = 0;
     while (count < bytes.size()) {
+        errno = 0; // not every failure is the system's
         const qint64 taken = file.write(bytes.constData() + count, bytes.size() - count);
         if (taken <= 0) {
-            reason = file.errorString();
+            reason = lastSystemReason();
             break;
         }
         count += taken;
@@ -192,7 +189,7 @@ bool FileOperations::setMode(QFile &file, quint32 mode, QString &reason)
 bool FileOperations::sync(QFile &file, QString &reason)
 {
     if (!file.flush()) {
-        reason = file.errorString();
+        reason = lastSystemReason();
         return false;
     }
 #if defined(Q_OS_WIN)
@@ -220,7 +217,7 @@ bool FileOperations::rename(const QString &from, const QString &to, QString &rea
     std::error_code code;
     std::filesystem::rename(nativePath(from), nativePath(to), code);
     if (code)
-        reason = text(code);
+        reason = systemReason(code);
     return !code;
 }
 

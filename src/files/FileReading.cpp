@@ -2,6 +2,7 @@
 
 #include "files/FileNames.h"
 #include "files/ShownPath.h"
+#include "files/SystemReasons.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -9,7 +10,6 @@
 #include <cerrno>
 #include <chrono>
 #include <new>
-#include <system_error>
 #include <thread>
 
 #ifndef Q_OS_WIN
@@ -36,7 +36,7 @@ QString openForReading(QFile &file)
     if (!info.isFile())
         return qtTrId("kNotAFileReason").arg(info.fileName());
     if (!file.open(QIODevice::ReadOnly))
-        return qtTrId("kFileUnreadableReason").arg(file.errorString());
+        return qtTrId("kFileUnreadableReason").arg(lastSystemReason());
     return {};
 }
 #else
@@ -57,9 +57,7 @@ QString openForReading(QFile &file)
     const QString fileName = QFileInfo(path).fileName();
     const QString name = readable(fileName.isEmpty() ? path : fileName);
     const auto unreadable = [](int number) {
-        return qtTrId("kFileUnreadableReason")
-            .arg(
-                QString::fromLocal8Bit(std::error_code(number, std::generic_category()).message()));
+        return qtTrId("kFileUnreadableReason").arg(systemReason(number));
     };
     const QByteArray bytes = bytesOfPath(path);
     struct stat status = {};
@@ -84,7 +82,7 @@ QString openForReading(QFile &file)
     if (!file.open(handle, QIODevice::ReadOnly | QIODevice::Unbuffered,
                    QFileDevice::AutoCloseHandle)) {
         ::close(handle);
-        return qtTrId("kFileUnreadableReason").arg(file.errorString());
+        return qtTrId("kFileUnreadableReason").arg(lastSystemReason());
     }
     if (::fstat(handle, &status) != 0)
         return unreadable(errno);
@@ -103,9 +101,10 @@ QString readAll(QFile &file, QByteArray &bytes)
     qint64 count = 0;
     while (count <= largestFile) {
         bytes.resize(qMax(expected, count + step));
+        errno = 0; // not every failure is the system's
         const qint64 taken = file.read(bytes.data() + count, bytes.size() - count);
         if (taken < 0)
-            return qtTrId("kFileUnreadableReason").arg(file.errorString());
+            return qtTrId("kFileUnreadableReason").arg(lastSystemReason());
         if (taken == 0) {
             bytes.truncate(count);
             bytes.squeeze(); // some callers hold the bytes of many files

@@ -766,7 +766,7 @@
     </message>
     <message id="kFillGapsTip">
         <source></source>
-        <translation>Number the list 1, 2, 3 … without gaps, now and after each move</translation>
+        <translation>Number the list 1, 2, 3… without gaps, now and after each move</translation>
     </message>
     <message id="kFilterAll">
         <source></source>

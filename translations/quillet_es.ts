@@ -714,7 +714,7 @@
     </message>
     <message id="kFaultNoColumns">
         <source></source>
-        <translation>La primera fila debe tener los títulos de las columnas tal como se exportaron, entre ellos el nombre, el servicio o «stationKey».</translation>
+        <translation>La primera fila debe tener los títulos de las columnas tal como se exportaron, entre ellos «Nombre», «Servicio» o «stationKey».</translation>
     </message>
     <message id="kFaultNoRows">
         <source></source>
@@ -1167,7 +1167,7 @@
     </message>
     <message id="kMenuCompareRead">
         <source></source>
-        <translation>Archivo tal como se &amp;leyó</translation>
+        <translation>Archivo tal como se le&amp;yó</translation>
     </message>
     <message id="kMenuCopy">
         <source></source>

@@ -714,7 +714,7 @@
     </message>
     <message id="kFaultNoColumns">
         <source></source>
-        <translation>La première ligne doit porter les titres des colonnes tels qu’ils ont été exportés, dont le nom, le service ou « stationKey ».</translation>
+        <translation>La première ligne doit porter les titres des colonnes tels qu’ils ont été exportés, dont « Nom », « Service » ou « stationKey ».</translation>
     </message>
     <message id="kFaultNoRows">
         <source></source>

@@ -714,7 +714,7 @@
     </message>
     <message id="kFaultNoColumns">
         <source></source>
-        <translation>La prima riga deve avere i titoli delle colonne come sono stati esportati, tra cui il nome, il servizio o “stationKey”.</translation>
+        <translation>La prima riga deve avere i titoli delle colonne come sono stati esportati, tra cui “Nome”, “Servizio” o “stationKey”.</translation>
     </message>
     <message id="kFaultNoRows">
         <source></source>

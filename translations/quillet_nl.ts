@@ -714,7 +714,7 @@
     </message>
     <message id="kFaultNoColumns">
         <source></source>
-        <translation>De eerste rij moet de titels van de kolommen hebben zoals ze zijn geëxporteerd, waaronder de naam, de dienst of “stationKey”.</translation>
+        <translation>De eerste rij moet de titels van de kolommen hebben zoals ze zijn geëxporteerd, waaronder “Naam”, “Dienst” of “stationKey”.</translation>
     </message>
     <message id="kFaultNoRows">
         <source></source>

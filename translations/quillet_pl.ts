@@ -737,7 +737,7 @@
     </message>
     <message id="kFaultNoColumns">
         <source></source>
-        <translation>Pierwszy wiersz musi zawierać tytuły kolumn takie, jak wyeksportowano, w tym nazwę, usługę lub „stationKey”.</translation>
+        <translation>Pierwszy wiersz musi zawierać tytuły kolumn takie, jak wyeksportowano, w tym „Nazwa”, „Usługa” lub „stationKey”.</translation>
     </message>
     <message id="kFaultNoRows">
         <source></source>

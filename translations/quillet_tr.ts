@@ -691,7 +691,7 @@
     </message>
     <message id="kFaultNoColumns">
         <source></source>
-        <translation>İlk satırda sütun başlıkları dışa aktarıldığı gibi bulunmalı; aralarında ad, hizmet ya da “stationKey” olmalı.</translation>
+        <translation>İlk satırda sütun başlıkları dışa aktarıldığı gibi bulunmalı; aralarında “Ad”, “Hizmet” ya da “stationKey” olmalı.</translation>
     </message>
     <message id="kFaultNoRows">
         <source></source>

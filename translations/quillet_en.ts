@@ -2141,7 +2141,7 @@
     </message>
     <message id="kSaveUnkept">
         <source></source>
-        <translation>Save without keeping it</translation>
+        <translation>Save Without Keeping It</translation>
     </message>
     <message id="kSaveWithout" numerus="yes">
         <source></source>

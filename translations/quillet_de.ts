@@ -455,7 +455,7 @@
     </message>
     <message id="kCreateFailedReason">
         <source></source>
-        <translation>Im Ordner „%1“ konnte keine neue Datei angelegt werden: %2</translation>
+        <translation>Im Ordner „%1“ konnte keine neue Datei angelegt werden: %2.</translation>
     </message>
     <message id="kDeviceTitle">
         <source></source>
@@ -758,7 +758,7 @@
     </message>
     <message id="kFileUnreadableReason">
         <source></source>
-        <translation>Die Datei konnte nicht gelesen werden: %1</translation>
+        <translation>Die Datei konnte nicht gelesen werden: %1.</translation>
     </message>
     <message id="kFillGaps">
         <source></source>
@@ -1647,7 +1647,7 @@
     </message>
     <message id="kPermissionsFailedReason">
         <source></source>
-        <translation>Die Zugriffsrechte der Datei konnten nicht beibehalten werden: %1</translation>
+        <translation>Die Zugriffsrechte der Datei konnten nicht beibehalten werden: %1.</translation>
     </message>
     <message id="kPreviewAnew">
         <source></source>
@@ -1831,7 +1831,7 @@
     </message>
     <message id="kReadBackFailedReason">
         <source></source>
-        <translation>Die neue Datei konnte nicht überprüft werden: %1</translation>
+        <translation>Die neue Datei konnte nicht überprüft werden. %1</translation>
     </message>
     <message id="kReadOnlyDiskReason">
         <source></source>
@@ -1911,7 +1911,7 @@
     </message>
     <message id="kReplaceFailedReason">
         <source></source>
-        <translation>Die neue Datei konnte die alte nicht ersetzen: %1</translation>
+        <translation>Die neue Datei konnte die alte nicht ersetzen: %1.</translation>
     </message>
     <message id="kReplaceMessage">
         <source></source>
@@ -2735,7 +2735,7 @@ Diese folgen ab Nummer: %3</translation>
     </message>
     <message id="kWriteFailedReason">
         <source></source>
-        <translation>Der Datenträger hat nicht die ganze Datei aufgenommen: %1</translation>
+        <translation>Der Datenträger hat nicht die ganze Datei aufgenommen: %1.</translation>
     </message>
     <message id="kWriteProtectedReason">
         <source></source>

@@ -455,7 +455,7 @@
     </message>
     <message id="kCreateFailedReason">
         <source></source>
-        <translation>No new file could be made in the folder “%1”: %2</translation>
+        <translation>No new file could be made in the folder “%1”: %2.</translation>
     </message>
     <message id="kDeviceTitle">
         <source></source>
@@ -758,7 +758,7 @@
     </message>
     <message id="kFileUnreadableReason">
         <source></source>
-        <translation>The file could not be read: %1</translation>
+        <translation>The file could not be read: %1.</translation>
     </message>
     <message id="kFillGaps">
         <source></source>
@@ -1647,7 +1647,7 @@
     </message>
     <message id="kPermissionsFailedReason">
         <source></source>
-        <translation>The file’s access permissions could not be kept: %1</translation>
+        <translation>The file’s access permissions could not be kept: %1.</translation>
     </message>
     <message id="kPreviewAnew">
         <source></source>
@@ -1831,7 +1831,7 @@
     </message>
     <message id="kReadBackFailedReason">
         <source></source>
-        <translation>The new file could not be checked: %1</translation>
+        <translation>The new file could not be checked. %1</translation>
     </message>
     <message id="kReadOnlyDiskReason">
         <source></source>
@@ -1911,7 +1911,7 @@
     </message>
     <message id="kReplaceFailedReason">
         <source></source>
-        <translation>The new file could not take the place of the old one: %1</translation>
+        <translation>The new file could not take the place of the old one: %1.</translation>
     </message>
     <message id="kReplaceMessage">
         <source></source>
@@ -2735,7 +2735,7 @@ These continue from number: %3</translation>
     </message>
     <message id="kWriteFailedReason">
         <source></source>
-        <translation>The disk did not take the whole file: %1</translation>
+        <translation>The disk did not take the whole file: %1.</translation>
     </message>
     <message id="kWriteProtectedReason">
         <source></source>

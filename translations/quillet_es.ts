@@ -455,7 +455,7 @@
     </message>
     <message id="kCreateFailedReason">
         <source></source>
-        <translation>No se ha podido crear un archivo nuevo en la carpeta «%1»: %2</translation>
+        <translation>No se ha podido crear un archivo nuevo en la carpeta «%1»: %2.</translation>
     </message>
     <message id="kDeviceTitle">
         <source></source>
@@ -758,7 +758,7 @@
     </message>
     <message id="kFileUnreadableReason">
         <source></source>
-        <translation>No se ha podido leer el archivo: %1</translation>
+        <translation>No se ha podido leer el archivo: %1.</translation>
     </message>
     <message id="kFillGaps">
         <source></source>
@@ -1647,7 +1647,7 @@
     </message>
     <message id="kPermissionsFailedReason">
         <source></source>
-        <translation>No se han podido conservar los permisos de acceso del archivo: %1</translation>
+        <translation>No se han podido conservar los permisos de acceso del archivo: %1.</translation>
     </message>
     <message id="kPreviewAnew">
         <source></source>
@@ -1831,7 +1831,7 @@
     </message>
     <message id="kReadBackFailedReason">
         <source></source>
-        <translation>No se ha podido comprobar el archivo nuevo: %1</translation>
+        <translation>No se ha podido comprobar el archivo nuevo. %1</translation>
     </message>
     <message id="kReadOnlyDiskReason">
         <source></source>
@@ -1911,7 +1911,7 @@
     </message>
     <message id="kReplaceFailedReason">
         <source></source>
-        <translation>El archivo nuevo no ha podido sustituir al anterior: %1</translation>
+        <translation>El archivo nuevo no ha podido sustituir al anterior: %1.</translation>
     </message>
     <message id="kReplaceMessage">
         <source></source>
@@ -2735,7 +2735,7 @@ Estos continúan a partir del número: %3</translation>
     </message>
     <message id="kWriteFailedReason">
         <source></source>
-        <translation>El disco no ha admitido el archivo completo: %1</translation>
+        <translation>El disco no ha admitido el archivo completo: %1.</translation>
     </message>
     <message id="kWriteProtectedReason">
         <source></source>

@@ -455,7 +455,7 @@
     </message>
     <message id="kCreateFailedReason">
         <source></source>
-        <translation>Impossible de créer un fichier dans le dossier « %1 » : %2</translation>
+        <translation>Impossible de créer un fichier dans le dossier « %1 » : %2.</translation>
     </message>
     <message id="kDeviceTitle">
         <source></source>
@@ -758,7 +758,7 @@
     </message>
     <message id="kFileUnreadableReason">
         <source></source>
-        <translation>Impossible de lire le fichier : %1</translation>
+        <translation>Impossible de lire le fichier : %1.</translation>
     </message>
     <message id="kFillGaps">
         <source></source>
@@ -1647,7 +1647,7 @@
     </message>
     <message id="kPermissionsFailedReason">
         <source></source>
-        <translation>Impossible de conserver les droits d’accès du fichier : %1</translation>
+        <translation>Impossible de conserver les droits d’accès du fichier : %1.</translation>
     </message>
     <message id="kPreviewAnew">
         <source></source>
@@ -1831,7 +1831,7 @@
     </message>
     <message id="kReadBackFailedReason">
         <source></source>
-        <translation>Impossible de vérifier le nouveau fichier : %1</translation>
+        <translation>Impossible de vérifier le nouveau fichier. %1</translation>
     </message>
     <message id="kReadOnlyDiskReason">
         <source></source>
@@ -1911,7 +1911,7 @@
     </message>
     <message id="kReplaceFailedReason">
         <source></source>
-        <translation>Le nouveau fichier n’a pas pu remplacer l’ancien : %1</translation>
+        <translation>Le nouveau fichier n’a pas pu remplacer l’ancien : %1.</translation>
     </message>
     <message id="kReplaceMessage">
         <source></source>
@@ -2735,7 +2735,7 @@ Ces dernières suivent à partir du numéro : %3</translation>
     </message>
     <message id="kWriteFailedReason">
         <source></source>
-        <translation>Le disque n’a pas pu recevoir tout le fichier : %1</translation>
+        <translation>Le disque n’a pas pu recevoir tout le fichier : %1.</translation>
     </message>
     <message id="kWriteProtectedReason">
         <source></source>

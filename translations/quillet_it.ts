@@ -455,7 +455,7 @@
     </message>
     <message id="kCreateFailedReason">
         <source></source>
-        <translation>Impossibile creare un nuovo file nella cartella “%1”: %2</translation>
+        <translation>Impossibile creare un nuovo file nella cartella “%1”: %2.</translation>
     </message>
     <message id="kDeviceTitle">
         <source></source>
@@ -758,7 +758,7 @@
     </message>
     <message id="kFileUnreadableReason">
         <source></source>
-        <translation>Impossibile leggere il file: %1</translation>
+        <translation>Impossibile leggere il file: %1.</translation>
     </message>
     <message id="kFillGaps">
         <source></source>
@@ -1647,7 +1647,7 @@
     </message>
     <message id="kPermissionsFailedReason">
         <source></source>
-        <translation>Impossibile mantenere i permessi di accesso del file: %1</translation>
+        <translation>Impossibile mantenere i permessi di accesso del file: %1.</translation>
     </message>
     <message id="kPreviewAnew">
         <source></source>
@@ -1831,7 +1831,7 @@
     </message>
     <message id="kReadBackFailedReason">
         <source></source>
-        <translation>Impossibile verificare il nuovo file: %1</translation>
+        <translation>Impossibile verificare il nuovo file. %1</translation>
     </message>
     <message id="kReadOnlyDiskReason">
         <source></source>
@@ -1911,7 +1911,7 @@
     </message>
     <message id="kReplaceFailedReason">
         <source></source>
-        <translation>Il nuovo file non ha potuto sostituire quello vecchio: %1</translation>
+        <translation>Il nuovo file non ha potuto sostituire quello vecchio: %1.</translation>
     </message>
     <message id="kReplaceMessage">
         <source></source>
@@ -2735,7 +2735,7 @@ Questi proseguono dal numero: %3</translation>
     </message>
     <message id="kWriteFailedReason">
         <source></source>
-        <translation>Il disco non ha accettato l’intero file: %1</translation>
+        <translation>Il disco non ha accettato l’intero file: %1.</translation>
     </message>
     <message id="kWriteProtectedReason">
         <source></source>

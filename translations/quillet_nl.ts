@@ -455,7 +455,7 @@
     </message>
     <message id="kCreateFailedReason">
         <source></source>
-        <translation>In de map “%1” kon geen nieuw bestand worden gemaakt: %2</translation>
+        <translation>In de map “%1” kon geen nieuw bestand worden gemaakt: %2.</translation>
     </message>
     <message id="kDeviceTitle">
         <source></source>
@@ -758,7 +758,7 @@
     </message>
     <message id="kFileUnreadableReason">
         <source></source>
-        <translation>Het bestand kon niet worden gelezen: %1</translation>
+        <translation>Het bestand kon niet worden gelezen: %1.</translation>
     </message>
     <message id="kFillGaps">
         <source></source>
@@ -1647,7 +1647,7 @@
     </message>
     <message id="kPermissionsFailedReason">
         <source></source>
-        <translation>De toegangsrechten van het bestand konden niet worden behouden: %1</translation>
+        <translation>De toegangsrechten van het bestand konden niet worden behouden: %1.</translation>
     </message>
     <message id="kPreviewAnew">
         <source></source>
@@ -1831,7 +1831,7 @@
     </message>
     <message id="kReadBackFailedReason">
         <source></source>
-        <translation>Het nieuwe bestand kon niet worden gecontroleerd: %1</translation>
+        <translation>Het nieuwe bestand kon niet worden gecontroleerd. %1</translation>
     </message>
     <message id="kReadOnlyDiskReason">
         <source></source>
@@ -1911,7 +1911,7 @@
     </message>
     <message id="kReplaceFailedReason">
         <source></source>
-        <translation>Het nieuwe bestand kon het oude niet vervangen: %1</translation>
+        <translation>Het nieuwe bestand kon het oude niet vervangen: %1.</translation>
     </message>
     <message id="kReplaceMessage">
         <source></source>
@@ -2735,7 +2735,7 @@ Deze gaan verder vanaf nummer: %3</translation>
     </message>
     <message id="kWriteFailedReason">
         <source></source>
-        <translation>De schijf heeft niet het hele bestand opgenomen: %1</translation>
+        <translation>De schijf heeft niet het hele bestand opgenomen: %1.</translation>
     </message>
     <message id="kWriteProtectedReason">
         <source></source>

@@ -461,7 +461,7 @@
     </message>
     <message id="kCreateFailedReason">
         <source></source>
-        <translation>Nie można utworzyć nowego pliku w folderze „%1”: %2</translation>
+        <translation>Nie można utworzyć nowego pliku w folderze „%1”: %2.</translation>
     </message>
     <message id="kDeviceTitle">
         <source></source>
@@ -781,7 +781,7 @@
     </message>
     <message id="kFileUnreadableReason">
         <source></source>
-        <translation>Nie można odczytać pliku: %1</translation>
+        <translation>Nie można odczytać pliku: %1.</translation>
     </message>
     <message id="kFillGaps">
         <source></source>
@@ -1681,7 +1681,7 @@
     </message>
     <message id="kPermissionsFailedReason">
         <source></source>
-        <translation>Nie można zachować uprawnień dostępu do pliku: %1</translation>
+        <translation>Nie można zachować uprawnień dostępu do pliku: %1.</translation>
     </message>
     <message id="kPreviewAnew">
         <source></source>
@@ -1877,7 +1877,7 @@
     </message>
     <message id="kReadBackFailedReason">
         <source></source>
-        <translation>Nie można sprawdzić nowego pliku: %1</translation>
+        <translation>Nie można sprawdzić nowego pliku. %1</translation>
     </message>
     <message id="kReadOnlyDiskReason">
         <source></source>
@@ -1957,7 +1957,7 @@
     </message>
     <message id="kReplaceFailedReason">
         <source></source>
-        <translation>Nowy plik nie mógł zastąpić starego: %1</translation>
+        <translation>Nowy plik nie mógł zastąpić starego: %1.</translation>
     </message>
     <message id="kReplaceMessage">
         <source></source>
@@ -2811,7 +2811,7 @@ Te ostatnie następują od numeru: %3</translation>
     </message>
     <message id="kWriteFailedReason">
         <source></source>
-        <translation>Dysk nie przyjął całego pliku: %1</translation>
+        <translation>Dysk nie przyjął całego pliku: %1.</translation>
     </message>
     <message id="kWriteProtectedReason">
         <source></source>

@@ -449,7 +449,7 @@
     </message>
     <message id="kCreateFailedReason">
         <source></source>
-        <translation>“%1” klasöründe yeni dosya oluşturulamadı: %2</translation>
+        <translation>“%1” klasöründe yeni dosya oluşturulamadı: %2.</translation>
     </message>
     <message id="kDeviceTitle">
         <source></source>
@@ -735,7 +735,7 @@
     </message>
     <message id="kFileUnreadableReason">
         <source></source>
-        <translation>Dosya okunamadı: %1</translation>
+        <translation>Dosya okunamadı: %1.</translation>
     </message>
     <message id="kFillGaps">
         <source></source>
@@ -1613,7 +1613,7 @@
     </message>
     <message id="kPermissionsFailedReason">
         <source></source>
-        <translation>Dosyanın erişim izinleri korunamadı: %1</translation>
+        <translation>Dosyanın erişim izinleri korunamadı: %1.</translation>
     </message>
     <message id="kPreviewAnew">
         <source></source>
@@ -1785,7 +1785,7 @@
     </message>
     <message id="kReadBackFailedReason">
         <source></source>
-        <translation>Yeni dosya denetlenemedi: %1</translation>
+        <translation>Yeni dosya denetlenemedi. %1</translation>
     </message>
     <message id="kReadOnlyDiskReason">
         <source></source>
@@ -1865,7 +1865,7 @@
     </message>
     <message id="kReplaceFailedReason">
         <source></source>
-        <translation>Yeni dosya eskisinin yerini alamadı: %1</translation>
+        <translation>Yeni dosya eskisinin yerini alamadı: %1.</translation>
     </message>
     <message id="kReplaceMessage">
         <source></source>
@@ -2659,7 +2659,7 @@ Bunların devam ettiği numara: %3</translation>
     </message>
     <message id="kWriteFailedReason">
         <source></source>
-        <translation>Disk, dosyanın tamamını almadı: %1</translation>
+        <translation>Disk, dosyanın tamamını almadı: %1.</translation>
     </message>
     <message id="kWriteProtectedReason">
         <source></source>

@@ -15,7 +15,7 @@ int main(int argc, char *argv[])
         quillet::CommandLine::parse({QString::fromLocal8Bit(argv[0])});
 
     const QApplication app(argc, argv);
-    QApplication::setDesktopFileName(QStringLiteral("quillet"));
+    QApplication::setDesktopFileName(QStringLiteral("org.quillet.Quillet"));
     const quillet::bench::FirstPaint firstPaint;
     quillet::installTranslations();
     quillet::QtPrompts prompts;

@@ -457,6 +457,18 @@
         <source></source>
         <translation>Im Ordner „%1“ konnte keine neue Datei angelegt werden: %2.</translation>
     </message>
+    <message id="kDesktopComment">
+        <source></source>
+        <translation>Senderlisten von LG-Fernsehgeräten sortieren</translation>
+    </message>
+    <message id="kDesktopGenericName">
+        <source></source>
+        <translation>Senderlisten-Editor</translation>
+    </message>
+    <message id="kDesktopKeywords">
+        <source></source>
+        <translation>TLL, Sender, Programm, Fernseher, Fernsehen, TV, Radio, Satellit, Kabel, sortieren</translation>
+    </message>
     <message id="kDeviceTitle">
         <source></source>
         <translation>Fernseher:</translation>
@@ -1401,6 +1413,10 @@
         <source></source>
         <translation>&amp;Ansicht</translation>
     </message>
+    <message id="kMimeComment">
+        <source></source>
+        <translation>LG-Senderliste</translation>
+    </message>
     <message id="kMoveTo">
         <source></source>
         <translation>&amp;Verschieben …</translation>
@@ -1633,6 +1649,46 @@
     <message id="kOwnFileReason">
         <source></source>
         <translation>Das ist die Datei der Liste selbst, die ein Export nie ersetzt. Wählen Sie einen anderen Namen oder einen anderen Ordner.</translation>
+    </message>
+    <message id="kPackageAdvice">
+        <source></source>
+        <translation>Heben Sie eine Kopie der ursprünglichen Datei auf, bevor Sie eine geänderte in Ihren Fernseher importieren.</translation>
+    </message>
+    <message id="kPackageExchange">
+        <source></source>
+        <translation>Listen mit Tabellenprogrammen austauschen und drucken</translation>
+    </message>
+    <message id="kPackageMoves">
+        <source></source>
+        <translation>Sender auf eine Nummer verschieben: durch Ziehen, Eintippen oder per Taste, mit oder ohne Lücken</translation>
+    </message>
+    <message id="kPackageOrder">
+        <source></source>
+        <translation>Die Reihenfolge eines alten Fernsehers auf einen neuen übertragen und zwei Listen Sender für Sender vergleichen</translation>
+    </message>
+    <message id="kPackagePictureCompare">
+        <source></source>
+        <translation>Zwei Listen, Sender für Sender verglichen</translation>
+    </message>
+    <message id="kPackagePictureWindow">
+        <source></source>
+        <translation>Eine Senderliste in ihrem Fenster</translation>
+    </message>
+    <message id="kPackagePurpose">
+        <source></source>
+        <translation>Quillet sortiert die Senderliste eines LG-Fernsehers am Computer. Der Fernseher exportiert seine Sender als TLL-Datei auf einen USB-Stick; Sie bringen Hunderte von Sendern in die gewünschte Reihenfolge, und der Fernseher liest die Datei wieder ein.</translation>
+    </message>
+    <message id="kPackageRelease010">
+        <source></source>
+        <translation>Die erste Version.</translation>
+    </message>
+    <message id="kPackageSafety">
+        <source></source>
+        <translation>Jeden Schritt rückgängig machen, ungespeicherte Änderungen nach einem Absturz zurückholen, frühere Versionen einer Datei wiederherstellen</translation>
+    </message>
+    <message id="kPackageTool">
+        <source></source>
+        <translation>All das in Skripten und in Git mit dem Werkzeug quillet-cli</translation>
     </message>
     <message id="kPageOf">
         <source></source>

@@ -457,6 +457,18 @@
         <source></source>
         <translation>No new file could be made in the folder “%1”: %2.</translation>
     </message>
+    <message id="kDesktopComment">
+        <source></source>
+        <translation>Sort the channel lists of LG television sets</translation>
+    </message>
+    <message id="kDesktopGenericName">
+        <source></source>
+        <translation>Channel List Editor</translation>
+    </message>
+    <message id="kDesktopKeywords">
+        <source></source>
+        <translation>TLL, channel, station, television, TV, radio, satellite, cable, sort</translation>
+    </message>
     <message id="kDeviceTitle">
         <source></source>
         <translation>Television:</translation>
@@ -1401,6 +1413,10 @@
         <source></source>
         <translation>&amp;View</translation>
     </message>
+    <message id="kMimeComment">
+        <source></source>
+        <translation>LG channel list</translation>
+    </message>
     <message id="kMoveTo">
         <source></source>
         <translation>&amp;Move To…</translation>
@@ -1633,6 +1649,46 @@
     <message id="kOwnFileReason">
         <source></source>
         <translation>This is the file of the list itself, and an export never replaces it. Choose another name or another folder.</translation>
+    </message>
+    <message id="kPackageAdvice">
+        <source></source>
+        <translation>Keep a copy of the original file before you import a changed one into your television.</translation>
+    </message>
+    <message id="kPackageExchange">
+        <source></source>
+        <translation>Exchange lists with spreadsheets, and print them</translation>
+    </message>
+    <message id="kPackageMoves">
+        <source></source>
+        <translation>Move stations to a number, by dragging, by typing or by keys, with or without gaps</translation>
+    </message>
+    <message id="kPackageOrder">
+        <source></source>
+        <translation>Carry the order of an old set over to a new one, and compare two lists station by station</translation>
+    </message>
+    <message id="kPackagePictureCompare">
+        <source></source>
+        <translation>Two lists compared station by station</translation>
+    </message>
+    <message id="kPackagePictureWindow">
+        <source></source>
+        <translation>A channel list in its window</translation>
+    </message>
+    <message id="kPackagePurpose">
+        <source></source>
+        <translation>Quillet sorts the channel list of an LG television on your computer. The set exports its stations to a USB stick as a TLL file; you put hundreds of stations into the order you want, and the set takes the file back.</translation>
+    </message>
+    <message id="kPackageRelease010">
+        <source></source>
+        <translation>The first release.</translation>
+    </message>
+    <message id="kPackageSafety">
+        <source></source>
+        <translation>Undo every step, bring back unsaved changes after a crash, put back earlier versions of a file</translation>
+    </message>
+    <message id="kPackageTool">
+        <source></source>
+        <translation>Do all that in scripts and in Git with the tool quillet-cli</translation>
     </message>
     <message id="kPageOf">
         <source></source>

@@ -457,6 +457,18 @@
         <source></source>
         <translation>No se ha podido crear un archivo nuevo en la carpeta «%1»: %2.</translation>
     </message>
+    <message id="kDesktopComment">
+        <source></source>
+        <translation>Ordenar las listas de canales de los televisores LG</translation>
+    </message>
+    <message id="kDesktopGenericName">
+        <source></source>
+        <translation>Editor de listas de canales</translation>
+    </message>
+    <message id="kDesktopKeywords">
+        <source></source>
+        <translation>TLL, canal, emisora, televisor, televisión, TV, radio, satélite, cable, ordenar</translation>
+    </message>
     <message id="kDeviceTitle">
         <source></source>
         <translation>Televisor:</translation>
@@ -1401,6 +1413,10 @@
         <source></source>
         <translation>&amp;Ver</translation>
     </message>
+    <message id="kMimeComment">
+        <source></source>
+        <translation>lista de canales de LG</translation>
+    </message>
     <message id="kMoveTo">
         <source></source>
         <translation>&amp;Mover a…</translation>
@@ -1633,6 +1649,46 @@
     <message id="kOwnFileReason">
         <source></source>
         <translation>Es el archivo de la propia lista, que una exportación nunca sustituye. Elija otro nombre u otra carpeta.</translation>
+    </message>
+    <message id="kPackageAdvice">
+        <source></source>
+        <translation>Conserve una copia del archivo original antes de importar uno modificado en su televisor.</translation>
+    </message>
+    <message id="kPackageExchange">
+        <source></source>
+        <translation>Intercambiar listas con hojas de cálculo e imprimirlas</translation>
+    </message>
+    <message id="kPackageMoves">
+        <source></source>
+        <translation>Mover canales a un número arrastrando, escribiendo o con el teclado, con o sin huecos</translation>
+    </message>
+    <message id="kPackageOrder">
+        <source></source>
+        <translation>Llevar el orden de un televisor antiguo a uno nuevo y comparar dos listas canal por canal</translation>
+    </message>
+    <message id="kPackagePictureCompare">
+        <source></source>
+        <translation>Dos listas comparadas canal por canal</translation>
+    </message>
+    <message id="kPackagePictureWindow">
+        <source></source>
+        <translation>Una lista de canales en su ventana</translation>
+    </message>
+    <message id="kPackagePurpose">
+        <source></source>
+        <translation>Quillet ordena en su ordenador la lista de canales de un televisor LG. El televisor exporta sus canales a una memoria USB como archivo TLL; usted pone cientos de canales en el orden que desee y el televisor vuelve a leer el archivo.</translation>
+    </message>
+    <message id="kPackageRelease010">
+        <source></source>
+        <translation>La primera versión.</translation>
+    </message>
+    <message id="kPackageSafety">
+        <source></source>
+        <translation>Deshacer cada paso, recuperar tras un fallo los cambios sin guardar y volver a versiones anteriores de un archivo</translation>
+    </message>
+    <message id="kPackageTool">
+        <source></source>
+        <translation>Hacer todo eso en scripts y en Git con la herramienta quillet-cli</translation>
     </message>
     <message id="kPageOf">
         <source></source>

@@ -457,6 +457,18 @@
         <source></source>
         <translation>Impossible de créer un fichier dans le dossier « %1 » : %2.</translation>
     </message>
+    <message id="kDesktopComment">
+        <source></source>
+        <translation>Trier les listes de chaînes des téléviseurs LG</translation>
+    </message>
+    <message id="kDesktopGenericName">
+        <source></source>
+        <translation>Éditeur de listes de chaînes</translation>
+    </message>
+    <message id="kDesktopKeywords">
+        <source></source>
+        <translation>TLL, chaîne, station, téléviseur, télévision, TV, radio, satellite, câble, trier</translation>
+    </message>
     <message id="kDeviceTitle">
         <source></source>
         <translation>Téléviseur :</translation>
@@ -1401,6 +1413,10 @@
         <source></source>
         <translation>&amp;Affichage</translation>
     </message>
+    <message id="kMimeComment">
+        <source></source>
+        <translation>liste de chaînes LG</translation>
+    </message>
     <message id="kMoveTo">
         <source></source>
         <translation>Dé&amp;placer vers…</translation>
@@ -1633,6 +1649,46 @@
     <message id="kOwnFileReason">
         <source></source>
         <translation>C’est le fichier de la liste elle-même, qu’une exportation ne remplace jamais. Choisissez un autre nom ou un autre dossier.</translation>
+    </message>
+    <message id="kPackageAdvice">
+        <source></source>
+        <translation>Conservez une copie du fichier d’origine avant d’importer un fichier modifié dans votre téléviseur.</translation>
+    </message>
+    <message id="kPackageExchange">
+        <source></source>
+        <translation>Échanger des listes avec des tableurs et les imprimer</translation>
+    </message>
+    <message id="kPackageMoves">
+        <source></source>
+        <translation>Déplacer des chaînes vers un numéro, par glisser-déposer, par saisie ou au clavier, avec ou sans trous</translation>
+    </message>
+    <message id="kPackageOrder">
+        <source></source>
+        <translation>Reprendre l’ordre d’un ancien téléviseur sur un nouveau et comparer deux listes chaîne par chaîne</translation>
+    </message>
+    <message id="kPackagePictureCompare">
+        <source></source>
+        <translation>Deux listes comparées chaîne par chaîne</translation>
+    </message>
+    <message id="kPackagePictureWindow">
+        <source></source>
+        <translation>Une liste de chaînes dans sa fenêtre</translation>
+    </message>
+    <message id="kPackagePurpose">
+        <source></source>
+        <translation>Quillet trie la liste de chaînes d’un téléviseur LG sur votre ordinateur. Le téléviseur exporte ses chaînes sur une clé USB sous forme de fichier TLL ; vous mettez des centaines de chaînes dans l’ordre voulu, puis le téléviseur relit le fichier.</translation>
+    </message>
+    <message id="kPackageRelease010">
+        <source></source>
+        <translation>La première version.</translation>
+    </message>
+    <message id="kPackageSafety">
+        <source></source>
+        <translation>Annuler chaque étape, récupérer après un plantage les modifications non enregistrées, rétablir des versions antérieures d’un fichier</translation>
+    </message>
+    <message id="kPackageTool">
+        <source></source>
+        <translation>Faire tout cela dans des scripts et dans Git avec l’outil quillet-cli</translation>
     </message>
     <message id="kPageOf">
         <source></source>

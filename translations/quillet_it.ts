@@ -457,6 +457,18 @@
         <source></source>
         <translation>Impossibile creare un nuovo file nella cartella “%1”: %2.</translation>
     </message>
+    <message id="kDesktopComment">
+        <source></source>
+        <translation>Ordina le liste dei canali dei televisori LG</translation>
+    </message>
+    <message id="kDesktopGenericName">
+        <source></source>
+        <translation>Editor di liste dei canali</translation>
+    </message>
+    <message id="kDesktopKeywords">
+        <source></source>
+        <translation>TLL, canale, stazione, televisore, televisione, TV, radio, satellite, cavo, ordinare</translation>
+    </message>
     <message id="kDeviceTitle">
         <source></source>
         <translation>Televisore:</translation>
@@ -1401,6 +1413,10 @@
         <source></source>
         <translation>&amp;Visualizza</translation>
     </message>
+    <message id="kMimeComment">
+        <source></source>
+        <translation>lista dei canali LG</translation>
+    </message>
     <message id="kMoveTo">
         <source></source>
         <translation>&amp;Sposta a…</translation>
@@ -1633,6 +1649,46 @@
     <message id="kOwnFileReason">
         <source></source>
         <translation>Questo è il file della lista stessa, che un’esportazione non sostituisce mai. Scegli un altro nome o un’altra cartella.</translation>
+    </message>
+    <message id="kPackageAdvice">
+        <source></source>
+        <translation>Conserva una copia del file originale prima di importarne uno modificato nel tuo televisore.</translation>
+    </message>
+    <message id="kPackageExchange">
+        <source></source>
+        <translation>Scambia liste con i fogli di calcolo e stampale</translation>
+    </message>
+    <message id="kPackageMoves">
+        <source></source>
+        <translation>Sposta canali su un numero trascinando, digitando o con i tasti, con o senza spazi vuoti</translation>
+    </message>
+    <message id="kPackageOrder">
+        <source></source>
+        <translation>Porta l’ordine di un vecchio televisore su uno nuovo e confronta due liste canale per canale</translation>
+    </message>
+    <message id="kPackagePictureCompare">
+        <source></source>
+        <translation>Due liste confrontate canale per canale</translation>
+    </message>
+    <message id="kPackagePictureWindow">
+        <source></source>
+        <translation>Una lista dei canali nella sua finestra</translation>
+    </message>
+    <message id="kPackagePurpose">
+        <source></source>
+        <translation>Quillet ordina sul tuo computer la lista dei canali di un televisore LG. Il televisore esporta i suoi canali su una chiavetta USB come file TLL; tu disponi centinaia di canali nell’ordine che vuoi e il televisore riprende il file.</translation>
+    </message>
+    <message id="kPackageRelease010">
+        <source></source>
+        <translation>La prima versione.</translation>
+    </message>
+    <message id="kPackageSafety">
+        <source></source>
+        <translation>Annulla ogni passo, recupera dopo un arresto anomalo le modifiche non salvate, ripristina versioni precedenti di un file</translation>
+    </message>
+    <message id="kPackageTool">
+        <source></source>
+        <translation>Fai tutto questo negli script e in Git con lo strumento quillet-cli</translation>
     </message>
     <message id="kPageOf">
         <source></source>

@@ -457,6 +457,18 @@
         <source></source>
         <translation>In de map “%1” kon geen nieuw bestand worden gemaakt: %2.</translation>
     </message>
+    <message id="kDesktopComment">
+        <source></source>
+        <translation>De zenderlijsten van LG-televisies sorteren</translation>
+    </message>
+    <message id="kDesktopGenericName">
+        <source></source>
+        <translation>Zenderlijst-editor</translation>
+    </message>
+    <message id="kDesktopKeywords">
+        <source></source>
+        <translation>TLL, zender, kanaal, televisie, tv, radio, satelliet, kabel, sorteren</translation>
+    </message>
     <message id="kDeviceTitle">
         <source></source>
         <translation>Televisie:</translation>
@@ -1401,6 +1413,10 @@
         <source></source>
         <translation>Bee&amp;ld</translation>
     </message>
+    <message id="kMimeComment">
+        <source></source>
+        <translation>LG-zenderlijst</translation>
+    </message>
     <message id="kMoveTo">
         <source></source>
         <translation>&amp;Verplaatsen naar…</translation>
@@ -1633,6 +1649,46 @@
     <message id="kOwnFileReason">
         <source></source>
         <translation>Dit is het bestand van de lijst zelf, dat door exporteren nooit wordt vervangen. Kies een andere naam of een andere map.</translation>
+    </message>
+    <message id="kPackageAdvice">
+        <source></source>
+        <translation>Bewaar een kopie van het oorspronkelijke bestand voordat u een gewijzigd bestand in uw televisie importeert.</translation>
+    </message>
+    <message id="kPackageExchange">
+        <source></source>
+        <translation>Lijsten uitwisselen met rekenbladen en ze afdrukken</translation>
+    </message>
+    <message id="kPackageMoves">
+        <source></source>
+        <translation>Zenders naar een nummer verplaatsen door te slepen, te typen of met toetsen, met of zonder gaten</translation>
+    </message>
+    <message id="kPackageOrder">
+        <source></source>
+        <translation>De volgorde van een oude televisie op een nieuwe overnemen en twee lijsten zender voor zender vergelijken</translation>
+    </message>
+    <message id="kPackagePictureCompare">
+        <source></source>
+        <translation>Twee lijsten, zender voor zender vergeleken</translation>
+    </message>
+    <message id="kPackagePictureWindow">
+        <source></source>
+        <translation>Een zenderlijst in haar venster</translation>
+    </message>
+    <message id="kPackagePurpose">
+        <source></source>
+        <translation>Quillet sorteert de zenderlijst van een LG-televisie op uw computer. De televisie exporteert haar zenders als TLL-bestand naar een USB-stick; u zet honderden zenders in de gewenste volgorde en de televisie leest het bestand weer in.</translation>
+    </message>
+    <message id="kPackageRelease010">
+        <source></source>
+        <translation>De eerste versie.</translation>
+    </message>
+    <message id="kPackageSafety">
+        <source></source>
+        <translation>Elke stap ongedaan maken, na een crash niet-opgeslagen wijzigingen terughalen, eerdere versies van een bestand terugzetten</translation>
+    </message>
+    <message id="kPackageTool">
+        <source></source>
+        <translation>Dat alles in scripts en in Git met het hulpmiddel quillet-cli</translation>
     </message>
     <message id="kPageOf">
         <source></source>

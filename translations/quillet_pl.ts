@@ -463,6 +463,18 @@
         <source></source>
         <translation>Nie można utworzyć nowego pliku w folderze „%1”: %2.</translation>
     </message>
+    <message id="kDesktopComment">
+        <source></source>
+        <translation>Porządkowanie list kanałów telewizorów LG</translation>
+    </message>
+    <message id="kDesktopGenericName">
+        <source></source>
+        <translation>Edytor list kanałów</translation>
+    </message>
+    <message id="kDesktopKeywords">
+        <source></source>
+        <translation>TLL, kanał, stacja, telewizor, telewizja, TV, radio, satelita, kablówka, sortowanie</translation>
+    </message>
     <message id="kDeviceTitle">
         <source></source>
         <translation>Telewizor:</translation>
@@ -1431,6 +1443,10 @@
         <source></source>
         <translation>&amp;Widok</translation>
     </message>
+    <message id="kMimeComment">
+        <source></source>
+        <translation>lista kanałów LG</translation>
+    </message>
     <message id="kMoveTo">
         <source></source>
         <translation>Prze&amp;nieś do…</translation>
@@ -1666,6 +1682,46 @@
     <message id="kOwnFileReason">
         <source></source>
         <translation>To jest plik samej listy, a eksport nigdy go nie zastępuje. Wybierz inną nazwę lub inny folder.</translation>
+    </message>
+    <message id="kPackageAdvice">
+        <source></source>
+        <translation>Zanim wczytasz zmieniony plik do telewizora, zachowaj kopię pliku oryginalnego.</translation>
+    </message>
+    <message id="kPackageExchange">
+        <source></source>
+        <translation>Wymiana list z arkuszami kalkulacyjnymi i ich drukowanie</translation>
+    </message>
+    <message id="kPackageMoves">
+        <source></source>
+        <translation>Przenoszenie kanałów na wybrany numer przeciąganiem, wpisywaniem lub klawiszami, z przerwami lub bez</translation>
+    </message>
+    <message id="kPackageOrder">
+        <source></source>
+        <translation>Przenoszenie kolejności ze starego telewizora na nowy i porównywanie dwóch list kanał po kanale</translation>
+    </message>
+    <message id="kPackagePictureCompare">
+        <source></source>
+        <translation>Dwie listy porównane kanał po kanale</translation>
+    </message>
+    <message id="kPackagePictureWindow">
+        <source></source>
+        <translation>Lista kanałów w swoim oknie</translation>
+    </message>
+    <message id="kPackagePurpose">
+        <source></source>
+        <translation>Quillet porządkuje listę kanałów telewizora LG na komputerze. Telewizor eksportuje kanały na pamięć USB jako plik TLL, setki kanałów można ułożyć w wybranej kolejności, a telewizor wczytuje plik z powrotem.</translation>
+    </message>
+    <message id="kPackageRelease010">
+        <source></source>
+        <translation>Pierwsze wydanie.</translation>
+    </message>
+    <message id="kPackageSafety">
+        <source></source>
+        <translation>Cofanie każdego kroku, odzyskiwanie niezapisanych zmian po awarii, przywracanie wcześniejszych wersji pliku</translation>
+    </message>
+    <message id="kPackageTool">
+        <source></source>
+        <translation>To wszystko także w skryptach i w Git za pomocą narzędzia quillet-cli</translation>
     </message>
     <message id="kPageOf">
         <source></source>

@@ -451,6 +451,18 @@
         <source></source>
         <translation>“%1” klasöründe yeni dosya oluşturulamadı: %2.</translation>
     </message>
+    <message id="kDesktopComment">
+        <source></source>
+        <translation>LG televizyonların kanal listelerini sıralayın</translation>
+    </message>
+    <message id="kDesktopGenericName">
+        <source></source>
+        <translation>Kanal Listesi Düzenleyicisi</translation>
+    </message>
+    <message id="kDesktopKeywords">
+        <source></source>
+        <translation>TLL, kanal, istasyon, televizyon, TV, radyo, uydu, kablo, sıralama</translation>
+    </message>
     <message id="kDeviceTitle">
         <source></source>
         <translation>Televizyon:</translation>
@@ -1371,6 +1383,10 @@
         <source></source>
         <translation>&amp;Görünüm</translation>
     </message>
+    <message id="kMimeComment">
+        <source></source>
+        <translation>LG kanal listesi</translation>
+    </message>
     <message id="kMoveTo">
         <source></source>
         <translation>&amp;Numaraya Taşı…</translation>
@@ -1600,6 +1616,46 @@
     <message id="kOwnFileReason">
         <source></source>
         <translation>Bu, listenin kendi dosyasıdır; dışa aktarma onun yerine asla yazmaz. Başka bir ad veya klasör seçin.</translation>
+    </message>
+    <message id="kPackageAdvice">
+        <source></source>
+        <translation>Değiştirilmiş bir dosyayı televizyonunuza aktarmadan önce özgün dosyanın bir kopyasını saklayın.</translation>
+    </message>
+    <message id="kPackageExchange">
+        <source></source>
+        <translation>Listeleri hesap tablolarıyla alıp verin ve yazdırın</translation>
+    </message>
+    <message id="kPackageMoves">
+        <source></source>
+        <translation>Kanalları sürükleyerek, yazarak ya da tuşlarla, boşluklu veya boşluksuz bir numaraya taşıyın</translation>
+    </message>
+    <message id="kPackageOrder">
+        <source></source>
+        <translation>Eski bir televizyonun sırasını yenisine aktarın ve iki listeyi kanal kanal karşılaştırın</translation>
+    </message>
+    <message id="kPackagePictureCompare">
+        <source></source>
+        <translation>Kanal kanal karşılaştırılan iki liste</translation>
+    </message>
+    <message id="kPackagePictureWindow">
+        <source></source>
+        <translation>Penceresinde bir kanal listesi</translation>
+    </message>
+    <message id="kPackagePurpose">
+        <source></source>
+        <translation>Quillet, bir LG televizyonun kanal listesini bilgisayarınızda sıralar. Televizyon kanallarını bir USB belleğe TLL dosyası olarak aktarır; yüzlerce kanalı istediğiniz sıraya koyarsınız ve televizyon dosyayı geri alır.</translation>
+    </message>
+    <message id="kPackageRelease010">
+        <source></source>
+        <translation>İlk sürüm.</translation>
+    </message>
+    <message id="kPackageSafety">
+        <source></source>
+        <translation>Her adımı geri alın, çökmeden sonra kaydedilmemiş değişiklikleri geri getirin, bir dosyanın önceki sürümlerine dönün</translation>
+    </message>
+    <message id="kPackageTool">
+        <source></source>
+        <translation>Bütün bunları betiklerde ve Git’te quillet-cli aracıyla yapın</translation>
     </message>
     <message id="kPageOf">
         <source></source>

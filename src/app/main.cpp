@@ -141,7 +141,7 @@ int main(int argc, char *argv[])
     printMessage = qInstallMessageHandler(endWhereQtCannotStart);
     QApplication app(argc, argv); // takes Qt's own options
     qInstallMessageHandler(printMessage);
-    QApplication::setDesktopFileName(QStringLiteral("quillet"));
+    QApplication::setDesktopFileName(QStringLiteral("org.quillet.Quillet"));
     QApplication::setWindowIcon(applicationIcon());
     installTranslations(line.language);
     if (!line.snapshot.isEmpty())

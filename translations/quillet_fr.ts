@@ -1660,7 +1660,7 @@
     </message>
     <message id="kPackageMoves">
         <source></source>
-        <translation>Déplacer des chaînes vers un numéro, par glisser-déposer, par saisie ou au clavier, avec ou sans trous</translation>
+        <translation>Déplacer des chaînes vers un numéro, par glisser-déposer, par saisie ou au clavier, avec ou sans vides</translation>
     </message>
     <message id="kPackageOrder">
         <source></source>

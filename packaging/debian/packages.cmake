@@ -15,12 +15,13 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "") # the first line of each description is its own
 
 set(CPACK_DEBIAN_QUILLET_PACKAGE_NAME quillet)
 set(CPACK_DEBIAN_QUILLET_PACKAGE_SECTION video)
 set(CPACK_DEBIAN_QUILLET_PACKAGE_DEPENDS qt6-translations-l10n)
 set(CPACK_DEBIAN_QUILLET_PACKAGE_RECOMMENDS "quillet-help, qt6-wayland")
-set(CPACK_COMPONENT_QUILLET_DESCRIPTION "${CPACK_PACKAGE_DESCRIPTION_SUMMARY}
+set(CPACK_COMPONENT_QUILLET_DESCRIPTION "editor for the channel lists of LG television sets
 Quillet sorts the channel list of an LG television on a computer. The
 set exports its stations to a USB stick as a TLL file; Quillet moves,
 sorts, skips, compares and prints them, carries the order of one set over

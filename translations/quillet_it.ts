@@ -1660,7 +1660,7 @@
     </message>
     <message id="kPackageMoves">
         <source></source>
-        <translation>Sposta canali su un numero trascinando, digitando o con i tasti, con o senza spazi vuoti</translation>
+        <translation>Sposta canali su un numero trascinando, digitando o con i tasti, con o senza vuoti</translation>
     </message>
     <message id="kPackageOrder">
         <source></source>

@@ -1693,7 +1693,7 @@
     </message>
     <message id="kPackageMoves">
         <source></source>
-        <translation>Przenoszenie kanałów na wybrany numer przeciąganiem, wpisywaniem lub klawiszami, z przerwami lub bez</translation>
+        <translation>Przenoszenie kanałów na wybrany numer przeciąganiem, wpisywaniem lub klawiszami, z lukami lub bez</translation>
     </message>
     <message id="kPackageOrder">
         <source></source>

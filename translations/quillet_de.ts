@@ -1688,7 +1688,7 @@
     </message>
     <message id="kPackageTool">
         <source></source>
-        <translation>All das in Skripten und in Git mit dem Werkzeug quillet-cli</translation>
+        <translation>Listen in Skripten bearbeiten und in Git führen, mit dem Werkzeug quillet-cli</translation>
     </message>
     <message id="kPageOf">
         <source></source>

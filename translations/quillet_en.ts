@@ -1688,7 +1688,7 @@
     </message>
     <message id="kPackageTool">
         <source></source>
-        <translation>Do all that in scripts and in Git with the tool quillet-cli</translation>
+        <translation>Edit lists in scripts and keep them in Git with the tool quillet-cli</translation>
     </message>
     <message id="kPageOf">
         <source></source>

@@ -1688,7 +1688,7 @@
     </message>
     <message id="kPackageTool">
         <source></source>
-        <translation>Hacer todo eso en scripts y en Git con la herramienta quillet-cli</translation>
+        <translation>Editar listas en scripts y llevarlas en Git con la herramienta quillet-cli</translation>
     </message>
     <message id="kPageOf">
         <source></source>

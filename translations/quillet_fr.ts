@@ -1688,7 +1688,7 @@
     </message>
     <message id="kPackageTool">
         <source></source>
-        <translation>Faire tout cela dans des scripts et dans Git avec l’outil quillet-cli</translation>
+        <translation>Modifier des listes par des scripts et les suivre dans Git avec l’outil quillet-cli</translation>
     </message>
     <message id="kPageOf">
         <source></source>

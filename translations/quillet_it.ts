@@ -1688,7 +1688,7 @@
     </message>
     <message id="kPackageTool">
         <source></source>
-        <translation>Fai tutto questo negli script e in Git con lo strumento quillet-cli</translation>
+        <translation>Modifica liste negli script e tienile in Git con lo strumento quillet-cli</translation>
     </message>
     <message id="kPageOf">
         <source></source>

@@ -1688,7 +1688,7 @@
     </message>
     <message id="kPackageTool">
         <source></source>
-        <translation>Dat alles in scripts en in Git met het hulpmiddel quillet-cli</translation>
+        <translation>Lijsten in scripts bewerken en in Git bijhouden met het hulpmiddel quillet-cli</translation>
     </message>
     <message id="kPageOf">
         <source></source>

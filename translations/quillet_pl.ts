@@ -1721,7 +1721,7 @@
     </message>
     <message id="kPackageTool">
         <source></source>
-        <translation>To wszystko także w skryptach i w Git za pomocą narzędzia quillet-cli</translation>
+        <translation>Edycja list w skryptach i przechowywanie ich w Git za pomocą narzędzia quillet-cli</translation>
     </message>
     <message id="kPageOf">
         <source></source>

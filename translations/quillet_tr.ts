@@ -1655,7 +1655,7 @@
     </message>
     <message id="kPackageTool">
         <source></source>
-        <translation>Bütün bunları betiklerde ve Git’te quillet-cli aracıyla yapın</translation>
+        <translation>quillet-cli aracıyla listeleri betiklerde düzenleyin ve Git’te saklayın</translation>
     </message>
     <message id="kPageOf">
         <source></source>

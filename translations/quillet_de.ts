@@ -918,7 +918,7 @@
     </message>
     <message id="kHintNoFileDetail">
         <source></source>
-        <translation>Ziehen Sie eine TLL-Datei Ihres Fernsehers hierher oder wählen Sie eine aus.</translation>
+        <translation>Ziehen Sie eine TLL-Datei Ihres Fernsehers irgendwo in dieses Fenster oder wählen Sie eine aus.</translation>
     </message>
     <message id="kHintNoRadioStations">
         <source></source>
@@ -1344,6 +1344,10 @@
     <message id="kMenuRevert">
         <source></source>
         <translation>Änderungen ver&amp;werfen</translation>
+    </message>
+    <message id="kMenuSample">
+        <source></source>
+        <translation>&amp;Beispiel ausprobieren</translation>
     </message>
     <message id="kMenuSatellite">
         <source></source>
@@ -1897,6 +1901,10 @@
         <source></source>
         <translation>%1 ist nicht mehr vorhanden.</translation>
     </message>
+    <message id="kRecentLists">
+        <source></source>
+        <translation>Zuletzt verwendete Listen</translation>
+    </message>
     <message id="kRecoveryChanges">
         <source></source>
         <translation>Änderungen</translation>
@@ -1960,6 +1968,10 @@
     <message id="kReloadText">
         <source></source>
         <translation>Ihre noch nicht gespeicherten Änderungen gehen verloren.</translation>
+    </message>
+    <message id="kRemoveFromList">
+        <source></source>
+        <translation>Aus der Liste entfernen</translation>
     </message>
     <message id="kReplaceDetail">
         <source></source>
@@ -2135,6 +2147,10 @@
         <source></source>
         <translation>unsicher</translation>
     </message>
+    <message id="kSampleName">
+        <source></source>
+        <translation>Beispielliste</translation>
+    </message>
     <message id="kSatellite">
         <source></source>
         <translation>Satellit</translation>
@@ -2239,6 +2255,22 @@ Diese folgen ab Nummer: %3</translation>
     <message id="kSource">
         <source></source>
         <translation>Empfangsart</translation>
+    </message>
+    <message id="kStartGuide">
+        <source></source>
+        <translation>Schritt für Schritt: vom Fernseher und zurück</translation>
+    </message>
+    <message id="kStartHow">
+        <source></source>
+        <translation>So bekommen Sie eine: Stecken Sie einen USB-Stick in den Fernseher und suchen Sie in seinen Einstellungen bei den Sendern nach einem Eintrag, der die Senderliste auf USB kopiert oder exportiert. Stecken Sie den Stick dann in diesen Computer, machen Sie eine Kopie der Datei und öffnen Sie diese.</translation>
+    </message>
+    <message id="kStartWhat">
+        <source></source>
+        <translation>Was ist eine TLL-Datei?</translation>
+    </message>
+    <message id="kStartWhatText">
+        <source></source>
+        <translation>Das ist die Senderliste eines Fernsehers: seine Sender und ihre Nummern. Der Fernseher schreibt sie auf einen USB-Stick, hier ordnen Sie sie, und dann liest der Fernseher sie wieder ein.</translation>
     </message>
     <message id="kStations" numerus="yes">
         <source></source>
@@ -2672,6 +2704,10 @@ Diese folgen ab Nummer: %3</translation>
     <message id="kTooManyOpenReason">
         <source></source>
         <translation>Es sind zu viele Dateien geöffnet</translation>
+    </message>
+    <message id="kTrySample">
+        <source></source>
+        <translation>Beispiel ausprobieren</translation>
     </message>
     <message id="kTV">
         <source></source>

@@ -918,7 +918,7 @@
     </message>
     <message id="kHintNoFileDetail">
         <source></source>
-        <translation>Drop a TLL file from your television here, or choose one.</translation>
+        <translation>Drop a TLL file from your television anywhere in this window, or choose one.</translation>
     </message>
     <message id="kHintNoRadioStations">
         <source></source>
@@ -938,7 +938,7 @@
     </message>
     <message id="kHintOpen">
         <source></source>
-        <translation>Open a file…</translation>
+        <translation>Open a File…</translation>
     </message>
     <message id="kHintRadioNotShown">
         <source></source>
@@ -1344,6 +1344,10 @@
     <message id="kMenuRevert">
         <source></source>
         <translation>&amp;Discard Changes</translation>
+    </message>
+    <message id="kMenuSample">
+        <source></source>
+        <translation>&amp;Try a Sample</translation>
     </message>
     <message id="kMenuSatellite">
         <source></source>
@@ -1897,6 +1901,10 @@
         <source></source>
         <translation>%1 is no longer there.</translation>
     </message>
+    <message id="kRecentLists">
+        <source></source>
+        <translation>Recent lists</translation>
+    </message>
     <message id="kRecoveryChanges">
         <source></source>
         <translation>Changes</translation>
@@ -1960,6 +1968,10 @@
     <message id="kReloadText">
         <source></source>
         <translation>The changes you made and have not saved will be lost.</translation>
+    </message>
+    <message id="kRemoveFromList">
+        <source></source>
+        <translation>Remove from List</translation>
     </message>
     <message id="kReplaceDetail">
         <source></source>
@@ -2135,6 +2147,10 @@
         <source></source>
         <translation>uncertain</translation>
     </message>
+    <message id="kSampleName">
+        <source></source>
+        <translation>Sample list</translation>
+    </message>
     <message id="kSatellite">
         <source></source>
         <translation>Satellite</translation>
@@ -2239,6 +2255,22 @@ These continue from number: %3</translation>
     <message id="kSource">
         <source></source>
         <translation>Source</translation>
+    </message>
+    <message id="kStartGuide">
+        <source></source>
+        <translation>Step by Step: From the Television and Back</translation>
+    </message>
+    <message id="kStartHow">
+        <source></source>
+        <translation>To get one, put a USB stick into the television and look in its settings, among those for channels, for an item that copies or exports the channel list to USB. Then put the stick into this computer, make a copy of the file and open that.</translation>
+    </message>
+    <message id="kStartWhat">
+        <source></source>
+        <translation>What is a TLL file?</translation>
+    </message>
+    <message id="kStartWhatText">
+        <source></source>
+        <translation>It is the channel list of a television: its stations and the numbers they have. The television writes it to a USB stick, here you put it in order, and then the television reads it again.</translation>
     </message>
     <message id="kStations" numerus="yes">
         <source></source>
@@ -2672,6 +2704,10 @@ These continue from number: %3</translation>
     <message id="kTooManyOpenReason">
         <source></source>
         <translation>too many files are open</translation>
+    </message>
+    <message id="kTrySample">
+        <source></source>
+        <translation>Try a Sample</translation>
     </message>
     <message id="kTV">
         <source></source>

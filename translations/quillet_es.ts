@@ -918,7 +918,7 @@
     </message>
     <message id="kHintNoFileDetail">
         <source></source>
-        <translation>Arrastre aquí un archivo TLL de su televisor o elija uno.</translation>
+        <translation>Arrastre un archivo TLL de su televisor a cualquier lugar de esta ventana o elija uno.</translation>
     </message>
     <message id="kHintNoRadioStations">
         <source></source>
@@ -1344,6 +1344,10 @@
     <message id="kMenuRevert">
         <source></source>
         <translation>&amp;Descartar cambios</translation>
+    </message>
+    <message id="kMenuSample">
+        <source></source>
+        <translation>&amp;Probar un ejemplo</translation>
     </message>
     <message id="kMenuSatellite">
         <source></source>
@@ -1897,6 +1901,10 @@
         <source></source>
         <translation>%1 ya no existe.</translation>
     </message>
+    <message id="kRecentLists">
+        <source></source>
+        <translation>Listas recientes</translation>
+    </message>
     <message id="kRecoveryChanges">
         <source></source>
         <translation>Cambios</translation>
@@ -1960,6 +1968,10 @@
     <message id="kReloadText">
         <source></source>
         <translation>Se perderán los cambios que no haya guardado.</translation>
+    </message>
+    <message id="kRemoveFromList">
+        <source></source>
+        <translation>Quitar de la lista</translation>
     </message>
     <message id="kReplaceDetail">
         <source></source>
@@ -2135,6 +2147,10 @@
         <source></source>
         <translation>incierto</translation>
     </message>
+    <message id="kSampleName">
+        <source></source>
+        <translation>Lista de ejemplo</translation>
+    </message>
     <message id="kSatellite">
         <source></source>
         <translation>Satélite</translation>
@@ -2239,6 +2255,22 @@ Estos continúan a partir del número: %3</translation>
     <message id="kSource">
         <source></source>
         <translation>Tipo de recepción</translation>
+    </message>
+    <message id="kStartGuide">
+        <source></source>
+        <translation>Paso a paso: del televisor y de vuelta</translation>
+    </message>
+    <message id="kStartHow">
+        <source></source>
+        <translation>Para obtener uno, conecte una memoria USB al televisor y busque en sus ajustes, entre los de los canales, una opción que copie o exporte la lista de canales a USB. Conecte después la memoria a este ordenador, haga una copia del archivo y ábrala.</translation>
+    </message>
+    <message id="kStartWhat">
+        <source></source>
+        <translation>¿Qué es un archivo TLL?</translation>
+    </message>
+    <message id="kStartWhatText">
+        <source></source>
+        <translation>Es la lista de canales de un televisor: sus canales y los números que tienen. El televisor la escribe en una memoria USB, aquí la ordena y después el televisor la vuelve a leer.</translation>
     </message>
     <message id="kStations" numerus="yes">
         <source></source>
@@ -2672,6 +2704,10 @@ Estos continúan a partir del número: %3</translation>
     <message id="kTooManyOpenReason">
         <source></source>
         <translation>hay demasiados archivos abiertos</translation>
+    </message>
+    <message id="kTrySample">
+        <source></source>
+        <translation>Probar un ejemplo</translation>
     </message>
     <message id="kTV">
         <source></source>

@@ -918,7 +918,7 @@
     </message>
     <message id="kHintNoFileDetail">
         <source></source>
-        <translation>Déposez ici un fichier TLL de votre téléviseur ou choisissez-en un.</translation>
+        <translation>Déposez un fichier TLL de votre téléviseur n’importe où dans cette fenêtre ou choisissez-en un.</translation>
     </message>
     <message id="kHintNoRadioStations">
         <source></source>
@@ -1344,6 +1344,10 @@
     <message id="kMenuRevert">
         <source></source>
         <translation>&amp;Abandonner les modifications</translation>
+    </message>
+    <message id="kMenuSample">
+        <source></source>
+        <translation>&amp;Essayer un exemple</translation>
     </message>
     <message id="kMenuSatellite">
         <source></source>
@@ -1897,6 +1901,10 @@
         <source></source>
         <translation>%1 n’existe plus.</translation>
     </message>
+    <message id="kRecentLists">
+        <source></source>
+        <translation>Listes récentes</translation>
+    </message>
     <message id="kRecoveryChanges">
         <source></source>
         <translation>Modifications</translation>
@@ -1960,6 +1968,10 @@
     <message id="kReloadText">
         <source></source>
         <translation>Les modifications que vous n’avez pas enregistrées seront perdues.</translation>
+    </message>
+    <message id="kRemoveFromList">
+        <source></source>
+        <translation>Retirer de la liste</translation>
     </message>
     <message id="kReplaceDetail">
         <source></source>
@@ -2135,6 +2147,10 @@
         <source></source>
         <translation>incertaine</translation>
     </message>
+    <message id="kSampleName">
+        <source></source>
+        <translation>Liste d’exemple</translation>
+    </message>
     <message id="kSatellite">
         <source></source>
         <translation>Satellite</translation>
@@ -2239,6 +2255,22 @@ Ces dernières suivent à partir du numéro : %3</translation>
     <message id="kSource">
         <source></source>
         <translation>Mode de réception</translation>
+    </message>
+    <message id="kStartGuide">
+        <source></source>
+        <translation>Pas à pas : du téléviseur et retour</translation>
+    </message>
+    <message id="kStartHow">
+        <source></source>
+        <translation>Pour en obtenir un, branchez une clé USB sur le téléviseur et cherchez dans ses réglages, parmi ceux des chaînes, une option qui copie ou exporte la liste des chaînes vers l’USB. Branchez ensuite la clé sur cet ordinateur, faites une copie du fichier et ouvrez-la.</translation>
+    </message>
+    <message id="kStartWhat">
+        <source></source>
+        <translation>Qu’est-ce qu’un fichier TLL ?</translation>
+    </message>
+    <message id="kStartWhatText">
+        <source></source>
+        <translation>C’est la liste des chaînes d’un téléviseur : ses chaînes et leurs numéros. Le téléviseur l’écrit sur une clé USB, vous la mettez ici en ordre, puis le téléviseur la relit.</translation>
     </message>
     <message id="kStations" numerus="yes">
         <source></source>
@@ -2672,6 +2704,10 @@ Ces dernières suivent à partir du numéro : %3</translation>
     <message id="kTooManyOpenReason">
         <source></source>
         <translation>trop de fichiers sont ouverts</translation>
+    </message>
+    <message id="kTrySample">
+        <source></source>
+        <translation>Essayer un exemple</translation>
     </message>
     <message id="kTV">
         <source></source>

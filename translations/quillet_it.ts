@@ -918,7 +918,7 @@
     </message>
     <message id="kHintNoFileDetail">
         <source></source>
-        <translation>Trascina qui un file TLL del tuo televisore o scegline uno.</translation>
+        <translation>Trascina un file TLL del tuo televisore in un punto qualsiasi di questa finestra o scegline uno.</translation>
     </message>
     <message id="kHintNoRadioStations">
         <source></source>
@@ -1344,6 +1344,10 @@
     <message id="kMenuRevert">
         <source></source>
         <translation>Scarta mo&amp;difiche</translation>
+    </message>
+    <message id="kMenuSample">
+        <source></source>
+        <translation>&amp;Prova un esempio</translation>
     </message>
     <message id="kMenuSatellite">
         <source></source>
@@ -1897,6 +1901,10 @@
         <source></source>
         <translation>%1 non esiste più.</translation>
     </message>
+    <message id="kRecentLists">
+        <source></source>
+        <translation>Liste recenti</translation>
+    </message>
     <message id="kRecoveryChanges">
         <source></source>
         <translation>Modifiche</translation>
@@ -1960,6 +1968,10 @@
     <message id="kReloadText">
         <source></source>
         <translation>Le modifiche non salvate andranno perse.</translation>
+    </message>
+    <message id="kRemoveFromList">
+        <source></source>
+        <translation>Rimuovi dalla lista</translation>
     </message>
     <message id="kReplaceDetail">
         <source></source>
@@ -2135,6 +2147,10 @@
         <source></source>
         <translation>incerto</translation>
     </message>
+    <message id="kSampleName">
+        <source></source>
+        <translation>Lista di esempio</translation>
+    </message>
     <message id="kSatellite">
         <source></source>
         <translation>Satellite</translation>
@@ -2239,6 +2255,22 @@ Questi proseguono dal numero: %3</translation>
     <message id="kSource">
         <source></source>
         <translation>Tipo di ricezione</translation>
+    </message>
+    <message id="kStartGuide">
+        <source></source>
+        <translation>Passo per passo: dal televisore e ritorno</translation>
+    </message>
+    <message id="kStartHow">
+        <source></source>
+        <translation>Per averne uno, inserisci una chiavetta USB nel televisore e cerca nelle sue impostazioni, tra quelle dei canali, una voce che copia o esporta la lista dei canali su USB. Inserisci poi la chiavetta in questo computer, fai una copia del file e aprila.</translation>
+    </message>
+    <message id="kStartWhat">
+        <source></source>
+        <translation>Che cos’è un file TLL?</translation>
+    </message>
+    <message id="kStartWhatText">
+        <source></source>
+        <translation>È la lista dei canali di un televisore: i suoi canali e i loro numeri. Il televisore la scrive su una chiavetta USB, qui la metti in ordine e poi il televisore la rilegge.</translation>
     </message>
     <message id="kStations" numerus="yes">
         <source></source>
@@ -2672,6 +2704,10 @@ Questi proseguono dal numero: %3</translation>
     <message id="kTooManyOpenReason">
         <source></source>
         <translation>ci sono troppi file aperti</translation>
+    </message>
+    <message id="kTrySample">
+        <source></source>
+        <translation>Prova un esempio</translation>
     </message>
     <message id="kTV">
         <source></source>

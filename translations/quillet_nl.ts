@@ -918,7 +918,7 @@
     </message>
     <message id="kHintNoFileDetail">
         <source></source>
-        <translation>Sleep een TLL-bestand van uw televisie hierheen of kies er een.</translation>
+        <translation>Sleep een TLL-bestand van uw televisie naar een willekeurige plek in dit venster of kies er een.</translation>
     </message>
     <message id="kHintNoRadioStations">
         <source></source>
@@ -1344,6 +1344,10 @@
     <message id="kMenuRevert">
         <source></source>
         <translation>&amp;Wijzigingen verwerpen</translation>
+    </message>
+    <message id="kMenuSample">
+        <source></source>
+        <translation>&amp;Voorbeeld proberen</translation>
     </message>
     <message id="kMenuSatellite">
         <source></source>
@@ -1897,6 +1901,10 @@
         <source></source>
         <translation>%1 bestaat niet meer.</translation>
     </message>
+    <message id="kRecentLists">
+        <source></source>
+        <translation>Recente lijsten</translation>
+    </message>
     <message id="kRecoveryChanges">
         <source></source>
         <translation>Wijzigingen</translation>
@@ -1960,6 +1968,10 @@
     <message id="kReloadText">
         <source></source>
         <translation>De wijzigingen die u niet hebt opgeslagen, gaan verloren.</translation>
+    </message>
+    <message id="kRemoveFromList">
+        <source></source>
+        <translation>Uit de lijst verwijderen</translation>
     </message>
     <message id="kReplaceDetail">
         <source></source>
@@ -2135,6 +2147,10 @@
         <source></source>
         <translation>onzeker</translation>
     </message>
+    <message id="kSampleName">
+        <source></source>
+        <translation>Voorbeeldlijst</translation>
+    </message>
     <message id="kSatellite">
         <source></source>
         <translation>Satelliet</translation>
@@ -2239,6 +2255,22 @@ Deze gaan verder vanaf nummer: %3</translation>
     <message id="kSource">
         <source></source>
         <translation>Ontvangstbron</translation>
+    </message>
+    <message id="kStartGuide">
+        <source></source>
+        <translation>Stap voor stap: van de televisie en terug</translation>
+    </message>
+    <message id="kStartHow">
+        <source></source>
+        <translation>Zo komt u eraan: steek een USB-stick in de televisie en zoek in de instellingen, bij die voor de zenders, naar een onderdeel dat de zenderlijst naar USB kopieert of exporteert. Steek de stick daarna in deze computer, maak een kopie van het bestand en open die.</translation>
+    </message>
+    <message id="kStartWhat">
+        <source></source>
+        <translation>Wat is een TLL-bestand?</translation>
+    </message>
+    <message id="kStartWhatText">
+        <source></source>
+        <translation>Dat is de zenderlijst van een televisie: de zenders en hun nummers. De televisie schrijft de lijst naar een USB-stick, hier zet u die op volgorde en daarna leest de televisie de lijst weer in.</translation>
     </message>
     <message id="kStations" numerus="yes">
         <source></source>
@@ -2672,6 +2704,10 @@ Deze gaan verder vanaf nummer: %3</translation>
     <message id="kTooManyOpenReason">
         <source></source>
         <translation>er zijn te veel bestanden geopend</translation>
+    </message>
+    <message id="kTrySample">
+        <source></source>
+        <translation>Voorbeeld proberen</translation>
     </message>
     <message id="kTV">
         <source></source>

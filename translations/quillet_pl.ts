@@ -941,7 +941,7 @@
     </message>
     <message id="kHintNoFileDetail">
         <source></source>
-        <translation>Upuść tutaj plik TLL z telewizora lub wybierz go.</translation>
+        <translation>Upuść plik TLL z telewizora w dowolnym miejscu tego okna lub wybierz go.</translation>
     </message>
     <message id="kHintNoRadioStations">
         <source></source>
@@ -1374,6 +1374,10 @@
     <message id="kMenuRevert">
         <source></source>
         <translation>Od&amp;rzuć zmiany</translation>
+    </message>
+    <message id="kMenuSample">
+        <source></source>
+        <translation>&amp;Wypróbuj przykład</translation>
     </message>
     <message id="kMenuSatellite">
         <source></source>
@@ -1943,6 +1947,10 @@
         <source></source>
         <translation>%1 już nie istnieje.</translation>
     </message>
+    <message id="kRecentLists">
+        <source></source>
+        <translation>Ostatnio używane listy</translation>
+    </message>
     <message id="kRecoveryChanges">
         <source></source>
         <translation>Zmiany</translation>
@@ -2006,6 +2014,10 @@
     <message id="kReloadText">
         <source></source>
         <translation>Niezapisane zmiany zostaną utracone.</translation>
+    </message>
+    <message id="kRemoveFromList">
+        <source></source>
+        <translation>Usuń z listy</translation>
     </message>
     <message id="kReplaceDetail">
         <source></source>
@@ -2187,6 +2199,10 @@
         <source></source>
         <translation>niepewne</translation>
     </message>
+    <message id="kSampleName">
+        <source></source>
+        <translation>Przykładowa lista</translation>
+    </message>
     <message id="kSatellite">
         <source></source>
         <translation>Satelita</translation>
@@ -2292,6 +2308,22 @@ Te ostatnie następują od numeru: %3</translation>
     <message id="kSource">
         <source></source>
         <translation>Źródło</translation>
+    </message>
+    <message id="kStartGuide">
+        <source></source>
+        <translation>Krok po kroku: z telewizora i z powrotem</translation>
+    </message>
+    <message id="kStartHow">
+        <source></source>
+        <translation>Aby go uzyskać, włóż pamięć USB do telewizora i poszukaj w jego ustawieniach, wśród ustawień kanałów, pozycji, która kopiuje lub eksportuje listę kanałów na USB. Potem podłącz pamięć do tego komputera, zrób kopię pliku i otwórz ją.</translation>
+    </message>
+    <message id="kStartWhat">
+        <source></source>
+        <translation>Co to jest plik TLL?</translation>
+    </message>
+    <message id="kStartWhatText">
+        <source></source>
+        <translation>To lista kanałów telewizora: jego kanały i ich numery. Telewizor zapisuje ją na pamięci USB, tutaj ją porządkujesz, a potem telewizor wczytuje ją z powrotem.</translation>
     </message>
     <message id="kStations" numerus="yes">
         <source></source>
@@ -2748,6 +2780,10 @@ Te ostatnie następują od numeru: %3</translation>
     <message id="kTooManyOpenReason">
         <source></source>
         <translation>otwartych jest za dużo plików</translation>
+    </message>
+    <message id="kTrySample">
+        <source></source>
+        <translation>Wypróbuj przykład</translation>
     </message>
     <message id="kTV">
         <source></source>

@@ -895,7 +895,7 @@
     </message>
     <message id="kHintNoFileDetail">
         <source></source>
-        <translation>Televizyonunuzun TLL dosyasını buraya bırakın veya bir dosya seçin.</translation>
+        <translation>Televizyonunuzun TLL dosyasını bu pencerede herhangi bir yere bırakın veya bir dosya seçin.</translation>
     </message>
     <message id="kHintNoRadioStations">
         <source></source>
@@ -915,7 +915,7 @@
     </message>
     <message id="kHintOpen">
         <source></source>
-        <translation>Dosya aç…</translation>
+        <translation>Dosya Aç…</translation>
     </message>
     <message id="kHintRadioNotShown">
         <source></source>
@@ -1314,6 +1314,10 @@
     <message id="kMenuRevert">
         <source></source>
         <translation>Değişik&amp;likleri At</translation>
+    </message>
+    <message id="kMenuSample">
+        <source></source>
+        <translation>&amp;Bir Örnek Dene</translation>
     </message>
     <message id="kMenuSatellite">
         <source></source>
@@ -1851,6 +1855,10 @@
         <source></source>
         <translation>%1 artık yerinde değil.</translation>
     </message>
+    <message id="kRecentLists">
+        <source></source>
+        <translation>Son kullanılan listeler</translation>
+    </message>
     <message id="kRecoveryChanges">
         <source></source>
         <translation>Değişiklikler</translation>
@@ -1914,6 +1922,10 @@
     <message id="kReloadText">
         <source></source>
         <translation>Kaydetmediğiniz değişiklikler kaybolur.</translation>
+    </message>
+    <message id="kRemoveFromList">
+        <source></source>
+        <translation>Listeden Kaldır</translation>
     </message>
     <message id="kReplaceDetail">
         <source></source>
@@ -2083,6 +2095,10 @@
         <source></source>
         <translation>kesin değil</translation>
     </message>
+    <message id="kSampleName">
+        <source></source>
+        <translation>Örnek liste</translation>
+    </message>
     <message id="kSatellite">
         <source></source>
         <translation>Uydu</translation>
@@ -2186,6 +2202,22 @@ Bunların devam ettiği numara: %3</translation>
     <message id="kSource">
         <source></source>
         <translation>Kaynak</translation>
+    </message>
+    <message id="kStartGuide">
+        <source></source>
+        <translation>Adım Adım: Televizyondan ve Geri</translation>
+    </message>
+    <message id="kStartHow">
+        <source></source>
+        <translation>Bir tane edinmek için televizyona bir USB bellek takın ve ayarlarında, kanal ayarları arasında, kanal listesini USB’ye kopyalayan veya dışa aktaran bir öğe arayın. Sonra belleği bu bilgisayara takın, dosyanın bir kopyasını alın ve kopyayı açın.</translation>
+    </message>
+    <message id="kStartWhat">
+        <source></source>
+        <translation>TLL dosyası nedir?</translation>
+    </message>
+    <message id="kStartWhatText">
+        <source></source>
+        <translation>Bir televizyonun kanal listesidir: kanalları ve numaraları. Televizyon listeyi bir USB belleğe yazar, siz burada düzenlersiniz, sonra televizyon onu yeniden okur.</translation>
     </message>
     <message id="kStations" numerus="yes">
         <source></source>
@@ -2596,6 +2628,10 @@ Bunların devam ettiği numara: %3</translation>
     <message id="kTooManyOpenReason">
         <source></source>
         <translation>çok fazla dosya açık</translation>
+    </message>
+    <message id="kTrySample">
+        <source></source>
+        <translation>Bir Örnek Dene</translation>
     </message>
     <message id="kTV">
         <source></source>

@@ -14,11 +14,13 @@
 #include "files/ShownPath.h"
 
 #include <QEventLoop>
+#include <QFile>
 #include <QFileInfo>
 #include <QFileOpenEvent>
 #include <QGuiApplication>
 #include <QMainWindow>
 #include <QSessionManager>
+#include <QStandardPaths>
 #include <QUrl>
 #include <QWindow>
 
@@ -68,6 +70,8 @@ std::unique_ptr<TLLDocument> AppDelegate::makeDocument()
         auto *menu = new MainMenu(*controller, m_documents, controller->window());
         connect(menu, &MainMenu::quitRequested, this, &AppDelegate::terminate);
         connect(menu, &MainMenu::helpRequested, this, &AppDelegate::showHelpWindow);
+        connect(menu, &MainMenu::wayOfListsRequested, this,
+                [this] { showGuidePage(QStringLiteral("television.html")); });
         menu->setUnsavedLists([this] { return m_unsavedLists && m_unsavedLists->areThere(); });
         connect(menu, &MainMenu::unsavedListsRequested, this, &AppDelegate::showUnsavedLists);
         const auto whileOpen = [window = controller.get()](const auto &open) {
@@ -90,6 +94,8 @@ std::unique_ptr<TLLDocument> AppDelegate::makeDocument()
                     whileOpen(
                         [&](TLLDocument &later) { openVersion(bytes, suggestedPath, later); });
                 });
+        connect(menu, &MainMenu::sampleRequested, this,
+                [this, whileOpen] { whileOpen([this](TLLDocument &) { openSample(); }); });
         connect(&controller->editor().controller(), &ViewController::repairedCopyRequested, this,
                 [this, whileOpen] {
                     whileOpen([this](TLLDocument &damaged) { openRepairedCopy(damaged); });
@@ -125,6 +131,21 @@ void AppDelegate::openVersion(const QByteArray &bytes, const QString &suggestedP
         m_documents.openUntitled(std::move(version), QUrl::fromLocalFile(suggestedPath), {});
     else
         later.presentError(qtTrId("kLoadingProblem"), error);
+}
+
+/// The name that is suggested says what it is, in the title as well.
+void AppDelegate::openSample()
+{
+    QFile file(QStringLiteral(":/samples/cable.tll"));
+    std::unique_ptr<TLLDocument> sample = makeDocument();
+    Error error;
+    if (!file.open(QIODevice::ReadOnly) ||
+        !sample->readFromData(file.readAll(), TLLDocument::typeName(), error))
+        return;
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    m_documents.openUntitled(
+        std::move(sample),
+        QUrl::fromLocalFile(folder + u'/' + qtTrId("kSampleName") + QLatin1String(".tll")), {});
 }
 
 void AppDelegate::applicationDidFinishLaunching(const QStringList &paths)
@@ -197,10 +218,15 @@ void AppDelegate::openRecoveryFolder(TLLDocument &asking)
 
 void AppDelegate::showHelpWindow()
 {
+    showGuidePage(QStringLiteral("index.html"));
+}
+
+void AppDelegate::showGuidePage(const QString &name)
+{
     const std::optional<QString> resources = resourceFolder();
     if (!resources)
         return;
-    const QUrl page = QUrl::fromLocalFile(*resources + QLatin1String("/User-Guide/index.html"));
+    const QUrl page = QUrl::fromLocalFile(*resources + QLatin1String("/User-Guide/") + name);
     std::printf("url = %s\n", qUtf8Printable(page.toString(QUrl::FullyEncoded)));
     std::fflush(stdout);
     if (!m_inAppBrowserWindow && helpModule())

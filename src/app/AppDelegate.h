@@ -57,11 +57,15 @@ public:
     /// Opens the bytes of a list as an untitled document, for which that place is suggested. A
     /// failure is shown at the document that they are an earlier version of.
     void openVersion(const QByteArray &bytes, const QString &suggestedPath, TLLDocument &later);
+    /// Opens a list that was made up, as an untitled document.
+    void openSample();
     /// What is used instead of the desktop's own services; must outlive the delegate.
     void setSystemServices(SystemServices &services) { m_services = &services; }
     /// Shows the start page of the user guide, in the help window or, when the program came without
     /// that, in the default browser. Does nothing without the guide.
     void showHelpWindow();
+    /// The same with another page of it, by the name of its file.
+    void showGuidePage(const QString &name);
     /// What the program is started with to be the process of the help window.
     void setHelpArguments(const QStringList &arguments) { m_helpArguments = arguments; }
     /// The help window, which lives in a process of its own; null until help was first shown.

@@ -6,6 +6,8 @@
 #include "editor/ToldRow.h"
 
 #include <QAction>
+#include <QCoreApplication>
+#include <QEvent>
 #include <QMainWindow>
 #include <QSettings>
 #include <QStatusBar>
@@ -37,6 +39,7 @@ LGWindowController::~LGWindowController()
 void LGWindowController::windowDidLoad()
 {
     window()->setCentralWidget(m_editor); // which the window owns from here on
+    window()->setAcceptDrops(true);
     m_editor->focusList();
     // Ahead of the question whether to save.
     connect(this, &WindowController::closeRequested, m_editor, &EditorView::commitEditing);
@@ -96,6 +99,15 @@ std::function<void()> LGWindowController::keepPlace() const
 {
     ViewController &controller = m_editor->controller();
     return [&controller, place = controller.place()] { controller.goTo(place); };
+}
+
+bool LGWindowController::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool isDrag = event->type() == QEvent::DragEnter || event->type() == QEvent::Drop;
+    if (watched != window() || !isDrag)
+        return TLLWindowController::eventFilter(watched, event);
+    QCoreApplication::sendEvent(m_editor, event);
+    return true;
 }
 
 bool LGWindowController::validateUserInterfaceItem(const QString &action) const

@@ -28,6 +28,10 @@ public:
     [[nodiscard]] EditorView &editor() const { return *m_editor; }
     [[nodiscard]] HistoryPanel &historyPanel() const { return *m_history; }
 
+protected:
+    /// Files may be dropped on the parts of the window around the editor, too.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     void windowDidLoad();
     EditorView *m_editor;

@@ -86,8 +86,9 @@ void MainMenu::makeFileMenu(QMenuBar &bar)
     QMenu *recent = menu.addMenu(qtTrId("kMenuOpenRecent"));
     recent->setObjectName(QStringLiteral("recentFiles"));
     auto *recentFiles = new RecentFilesMenu(*recent, m_documents.recentFiles(), this);
-    connect(recentFiles, &RecentFilesMenu::fileChosen, this,
-            [this](const QString &path) { m_documents.openDocument(QUrl::fromLocalFile(path)); });
+    const auto openRecent = [this](const QString &path) { m_documents.openRecent(path); };
+    connect(recentFiles, &RecentFilesMenu::fileChosen, this, openRecent);
+    connect(&m_editor, &EditorView::recentFileRequested, this, openRecent);
     QAction *unsaved = add(menu, {"kMenuUnsavedLists", "showUnsavedLists", {}},
                            [this] { emit unsavedListsRequested(); });
     connect(&menu, &QMenu::aboutToShow, unsaved,
@@ -192,11 +193,16 @@ void MainMenu::makeViewMenu(QMenuBar &bar)
 void MainMenu::makeHelpMenu(QMenuBar &bar)
 {
     QMenu &menu = *bar.addMenu(qtTrId("kMenuHelp"));
-    if (resourceFolder()) { // a package may leave the guide out
+    const bool hasGuide = resourceFolder().has_value(); // a package may leave it out
+    if (hasGuide)
         add(menu, {"kMenuGuide", "showHelpWindow", QKeySequence::HelpContents},
             [this] { emit helpRequested(); });
-        menu.addSeparator();
-    }
+    QAction *sample =
+        add(menu, {"kMenuSample", "openSample", {}}, [this] { emit sampleRequested(); });
+    menu.addSeparator();
+    m_editor.offerAtStart(m_documents.recentFiles(), hasGuide);
+    connect(&m_editor, &EditorView::sampleRequested, sample, &QAction::trigger);
+    connect(&m_editor, &EditorView::guideRequested, this, &MainMenu::wayOfListsRequested);
     QAction *about = add(menu, {"kMenuAbout", "showAbout", {}}, [this] { showAbout(); });
     about->setMenuRole(QAction::AboutRole);
 }

@@ -38,6 +38,9 @@ signals:
     void recoveryFolderRequested();
     void quitRequested();
     void helpRequested();
+    /// The person wants to read how a list gets from the set to here and back.
+    void wayOfListsRequested();
+    void sampleRequested();
     /// The person wants an earlier version opened as an untitled list, to be saved there.
     void versionRequested(const QByteArray &bytes, const QString &suggestedPath);
 

@@ -9,6 +9,7 @@
 #include "document/review/Rehearsal.h"
 #include "document/write/TLLWriter.h"
 #include "framework/Prompts.h"
+#include "framework/RecentFiles.h"
 #include "texts/FormatTexts.h"
 #include "texts/ReferenceOrderTexts.h"
 
@@ -95,6 +96,11 @@ std::optional<Document::Recoverable> TLLDocument::recoverable() const
                            const QByteArray bytes = edits.encoded();
                            return bytes.isNull() ? bytes : state.encodedWith(bytes);
                        }};
+}
+
+RecentFacts TLLDocument::recentFacts() const
+{
+    return {.origin = modelName().value_or(QString()), .entries = m_list.stationCount()};
 }
 
 bool TLLDocument::restoreContent(const QByteArray &original, const QByteArray &bytes, Error &)

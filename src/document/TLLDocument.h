@@ -75,6 +75,9 @@ public:
                                                         const QString &detail = {});
     [[nodiscard]] static Error createBadFileTypeError(const QString &detail);
 
+    /// The set and how many stations there are.
+    [[nodiscard]] RecentFacts recentFacts() const override;
+
     // The lists
 
     [[nodiscard]] const StationLists &lists() const { return m_list.lists; }

@@ -8,6 +8,7 @@
 #include "editor/EditorKeys.h"
 #include "editor/EditorLayout.h"
 #include "editor/EmptyDocText.h"
+#include "editor/EmptyPage.h"
 #include "editor/ExportDialog.h"
 #include "editor/InfoViewController.h"
 #include "editor/TableColumns.h"
@@ -17,6 +18,7 @@
 #include <QDropEvent>
 #include <QItemSelectionModel>
 #include <QMenu>
+#include <QMimeData>
 
 namespace quillet {
 
@@ -32,6 +34,7 @@ EditorView::EditorView(QWidget *parent)
     connectControls();
     m_controller.viewDidLoad();
     setAcceptDrops(true);
+    m_ui->searchText->installEventFilter(this);
 }
 
 EditorView::~EditorView() = default;
@@ -46,7 +49,7 @@ void EditorView::setUpTable()
     list.setDropHandler([this](const TableDrag &drag) { return m_controller.validateDrop(drag); },
                         [this](const TableDrag &drag) { return m_controller.acceptDrop(drag); });
 
-    m_emptyDocText = new EmptyDocText(list.viewport());
+    m_emptyPage = new EmptyPage(list);
     m_keys = std::make_unique<EditorKeys>(list, *m_ui->searchText, *m_ui->filterPop, m_controller);
     m_cells = std::make_unique<CellEditing>(list, m_controller);
     m_clipboard = std::make_unique<EditorClipboard>(list, *this, m_controller);
@@ -97,11 +100,14 @@ void EditorView::connectControls()
             [this] { m_ui->fillGapsButton->setChecked(m_controller.fillGaps()); });
     connect(m_ui->list, &DarkModeTableView::editingChanged, this, &EditorView::stateChanged);
     connect(m_clipboard.get(), &EditorClipboard::stateChanged, this, &EditorView::stateChanged);
-    connect(m_emptyDocText, &EmptyDocText::openRequested, this, &EditorView::openRequested);
-    connect(m_emptyDocText, &EmptyDocText::tvRequested, &m_controller,
+    connect(&m_emptyPage->hint(), &EmptyDocText::tvRequested, &m_controller,
             &ViewController::useTVClicked);
-    connect(m_emptyDocText, &EmptyDocText::radioRequested, &m_controller,
+    connect(&m_emptyPage->hint(), &EmptyDocText::radioRequested, &m_controller,
             &ViewController::useRadioClicked);
+    connect(m_emptyPage, &EmptyPage::openRequested, this, &EditorView::openRequested);
+    connect(m_emptyPage, &EmptyPage::recentFileRequested, this, &EditorView::recentFileRequested);
+    connect(m_emptyPage, &EmptyPage::sampleRequested, this, &EditorView::sampleRequested);
+    connect(m_emptyPage, &EmptyPage::guideRequested, this, &EditorView::guideRequested);
 }
 
 void EditorView::undo()
@@ -147,6 +153,21 @@ void EditorView::dropEvent(QDropEvent *event)
     const TableDrag drag = m_ui->list->filesOf(*event->mimeData());
     if (m_controller.validateDrop(drag) == DragOperation::Copy && m_controller.acceptDrop(drag))
         event->acceptProposedAction();
+}
+
+/// The search field would take the path of a file as text.
+bool EditorView::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched != m_ui->searchText || event->type() != QEvent::DragEnter ||
+        !static_cast<QDragEnterEvent *>(event)->mimeData()->hasUrls())
+        return QWidget::eventFilter(watched, event);
+    event->ignore(); // so that it goes on to what the field lies in
+    return true;
+}
+
+void EditorView::offerAtStart(RecentFiles &recentFiles, bool hasGuide)
+{
+    m_emptyPage->offer(recentFiles, hasGuide);
 }
 
 void EditorView::focusList()
@@ -322,7 +343,7 @@ void EditorView::setNameColumnEditable(bool editable)
 
 void EditorView::showEmptyHint(EmptyHint hint)
 {
-    m_emptyDocText->showHint(hint);
+    m_emptyPage->showHint(hint);
 }
 
 void EditorView::showForeignRows(const std::optional<ForeignRows> &rows)

@@ -23,8 +23,9 @@ namespace quillet {
 class ColumnsMenu;
 class EditorClipboard;
 class EditorKeys;
-class EmptyDocText;
+class EmptyPage;
 class InfoViewController;
+class RecentFiles;
 
 /// The content of an editor window: the controls, and nothing but the controls. Every decision is
 /// the ViewController's, which it owns and to which it is the outlets.
@@ -57,6 +58,9 @@ public:
     /// Asks how and where to export the list on show, with the columns on show.
     void exportList();
     void setFillGapsOn(bool on);
+    /// What the page of an empty window offers: those files, which must outlive the view, and a
+    /// page of the guide when there is one.
+    void offerAtStart(RecentFiles &recentFiles, bool hasGuide);
     /// Opens the info panel of the first selected station, in the place of an earlier one.
     void showInfo();
     /// The commands of the table's context menu.
@@ -101,11 +105,16 @@ signals:
     void editTold(const QString &text);
     /// The person wants to choose a file.
     void openRequested();
+    /// What else the page of an empty window was asked for.
+    void recentFileRequested(const QString &path);
+    void sampleRequested();
+    void guideRequested();
 
 protected:
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
     void changeEvent(QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void setUpTable();
@@ -115,7 +124,7 @@ private:
     std::unique_ptr<Ui::EditorView> m_ui;
     ViewController m_controller;
     StationTableModel m_model;
-    EmptyDocText *m_emptyDocText;
+    EmptyPage *m_emptyPage;
     ColumnsMenu *m_columnsMenu;
     std::unique_ptr<EditorKeys> m_keys;
     std::unique_ptr<CellEditing> m_cells;

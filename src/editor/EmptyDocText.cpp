@@ -3,7 +3,6 @@
 #include "editor/Contrast.h"
 
 #include <QEvent>
-#include <QVBoxLayout>
 
 #include <algorithm>
 #include <array>
@@ -22,7 +21,7 @@ struct HintText
 };
 
 constexpr std::array hintTexts{
-    HintText{EmptyHint::NoFile, "kHintNoFile", "kHintNoFileDetail", "kHintOpen"},
+    HintText{EmptyHint::NoFile, "kHintNoFile", "kHintNoFileDetail", nullptr},
     HintText{EmptyHint::NoStations, "kHintNoStations", "kHintNoStationsDetail", nullptr},
     HintText{EmptyHint::NoRadioStations, "kHintNoRadioStations", nullptr, "kHintShowTV"},
     HintText{EmptyHint::NoTVStations, "kHintNoTVStations", nullptr, "kHintShowRadio"},
@@ -43,19 +42,13 @@ QString richText(const HintText &row, const QColor &link)
 
 } // namespace
 
-EmptyDocText::EmptyDocText(QWidget *covered) : QLabel(covered)
+EmptyDocText::EmptyDocText(QWidget *parent) : QLabel(parent)
 {
     setObjectName(QStringLiteral("emptyDocText"));
     setAlignment(Qt::AlignCenter);
     setWordWrap(true);
     setMargin(8);
     setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
-    setFocusPolicy(Qt::StrongFocus);
-    setAutoFillBackground(true);
-    setBackgroundRole(QPalette::Base);
-    auto *whole = new QVBoxLayout(covered);
-    whole->setContentsMargins(0, 0, 0, 0);
-    whole->addWidget(this);
     connect(this, &QLabel::linkActivated, this, &EmptyDocText::follow);
 }
 
@@ -67,6 +60,7 @@ void EmptyDocText::showHint(EmptyHint hint)
                      [hint](const HintText &text) { return text.hint == hint; });
     if (row != hintTexts.end())
         setText(richText(*row, linkColor(palette(), QPalette::Base)));
+    setFocusPolicy(row != hintTexts.end() && row->link ? Qt::StrongFocus : Qt::NoFocus);
     setVisible(row != hintTexts.end());
 }
 
@@ -79,9 +73,7 @@ void EmptyDocText::changeEvent(QEvent *event)
 
 void EmptyDocText::follow(const QString &link)
 {
-    if (link == QLatin1String("kHintOpen"))
-        emit openRequested();
-    else if (link == QLatin1String("kHintShowTV"))
+    if (link == QLatin1String("kHintShowTV"))
         emit tvRequested();
     else
         emit radioRequested();

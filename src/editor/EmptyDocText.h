@@ -6,20 +6,18 @@
 
 namespace quillet {
 
-/// The hint that lies over the table while it has no stations to show: why, and a link that leads
-/// on.
+/// The hint in the place of a table that has no stations to show: why, and a link that leads on.
+/// Hidden while there are stations.
 class EmptyDocText : public QLabel
 {
     Q_OBJECT
 
 public:
-    /// Covers the widget, which keeps getting whatever is dropped there.
-    explicit EmptyDocText(QWidget *covered);
+    explicit EmptyDocText(QWidget *parent = nullptr);
 
     void showHint(EmptyHint hint);
 
 signals:
-    void openRequested();
     void tvRequested();
     void radioRequested();
 

@@ -6,6 +6,7 @@
 #include "files/FileWatch.h"
 #include "files/Places.h"
 #include "files/ShownPath.h"
+#include "framework/RecentFiles.h"
 #include "framework/WaitCursor.h"
 #include "framework/WindowController.h"
 
@@ -126,6 +127,11 @@ bool Document::restoreContent(const QByteArray & /*original*/, const QByteArray 
 Document *Document::otherDocumentAt(const QString &path) const
 {
     return m_lookup ? m_lookup(path, this) : nullptr;
+}
+
+RecentFacts Document::recentFacts() const
+{
+    return {};
 }
 
 void Document::makeWindowControllers() {}

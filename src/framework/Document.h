@@ -20,6 +20,7 @@ class FileOperations;
 class FileWatch;
 class VersionStore;
 class WindowController;
+struct RecentFacts;
 
 /// One open file: its URL, whether it has changes, reading, safe writing and reverting. A subclass
 /// supplies the content (readFromData, dataOfType) and its windows (makeWindowControllers). Owned
@@ -96,6 +97,9 @@ public:
     /// Of the document's file, as it was last read or written; none when it never was.
     [[nodiscard]] const std::optional<FileState> &lastKnownState() const { return m_known; }
     void setLastKnownState(const FileState &known) { setKnown(known); }
+
+    /// What the list of recent files tells of the content. The base tells nothing.
+    [[nodiscard]] virtual RecentFacts recentFacts() const;
 
     /// Called once after the document was opened or made new. The base makes none.
     virtual void makeWindowControllers();

@@ -3,12 +3,14 @@
 #include "files/Error.h"
 #include "files/FileNames.h"
 #include "files/Places.h"
+#include "files/ShownPath.h"
 #include "framework/Prompts.h"
 #include "framework/RecentFiles.h"
 #include "framework/WaitCursor.h"
 #include "framework/WindowController.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFileInfo>
 #include <QHash>
 #include <QMainWindow>
@@ -103,7 +105,11 @@ Document *DocumentController::openUntitled(std::unique_ptr<Document> document,
     document->setPrompts(&m_prompts);
     document->setFileType(m_typeName);
     document->suggestSaving(suggested, untouched);
-    return adopt(std::move(document), nullptr);
+    Document *replaced = untouchedDocument();
+    Document *opened = adopt(std::move(document), replaced);
+    if (replaced)
+        remove(replaced);
+    return opened;
 }
 
 Document *DocumentController::openRestored(std::unique_ptr<Document> document)
@@ -117,7 +123,7 @@ Document *DocumentController::openRestored(std::unique_ptr<Document> document)
     if (replaced)
         remove(replaced);
     if (!path.isEmpty())
-        m_recentFiles->add(path);
+        noteRecent(*opened);
     return opened;
 }
 
@@ -164,8 +170,32 @@ Document *DocumentController::open(const QUrl &url, Error &error)
         if (untouched)
             remove(untouched);
     }
-    m_recentFiles->add(document->fileUrl().toLocalFile());
+    noteRecent(*document);
     return document;
+}
+
+void DocumentController::noteRecent(const Document &document)
+{
+    m_recentFiles->add(document.fileUrl().toLocalFile(), document.recentFacts());
+}
+
+Document *DocumentController::openRecent(const QString &path)
+{
+    if (!isMissing(path))
+        return openDocument(QUrl::fromLocalFile(path));
+    const QPointer<DocumentController> guard(this);
+    const Alert alert{
+        .message = qtTrId("kOpenFailedMessage").arg(readable(QFileInfo(path).fileName())),
+        .informativeText =
+            qtTrId("kRecentFileMissingMessage").arg(shownPath(QDir::toNativeSeparators(path))),
+        .buttons = {qtTrId("kOK"), qtTrId("kRemoveFromList")},
+        .cancelButton = 0};
+    m_prompts.showAlert(windowOf(currentDocument()), alert,
+                        [guard, path](const AlertAnswer &answer) {
+                            if (guard && answer.button == 1)
+                                guard->m_recentFiles->remove(path);
+                        });
+    return nullptr;
 }
 
 void DocumentController::showOpenPanel(const QStringList &nameFilters)
@@ -209,9 +239,8 @@ Document *DocumentController::adopt(std::unique_ptr<Document> document, Document
     added->setLookup(
         [this](const QString &path, const Document *except) { return documentAt(path, except); });
     connect(added, &Document::fileUrlChanged, this, &DocumentController::tellNamesApart);
-    for (const auto isAtFile : {&Document::placeWasChosen, &Document::fileWasOpened})
-        connect(added, isAtFile, this,
-                [this, added] { m_recentFiles->add(added->fileUrl().toLocalFile()); });
+    for (const auto isAtFile : {&Document::fileWasWritten, &Document::fileWasOpened})
+        connect(added, isAtFile, this, [this, added] { noteRecent(*added); });
     added->makeWindowControllers();
     added->watchFile();
     for (const auto &controller : added->windowControllers()) {

@@ -46,8 +46,8 @@ public:
 
     /// Opens an empty document in a window of its own.
     Document *newDocument();
-    /// Opens a document that was filled already as an untitled one. Saving it suggests a place; the
-    /// other file is never written to.
+    /// Opens a document that was filled already as an untitled one, in the place of an untouched
+    /// one. Saving it suggests a place; the other file is never written to.
     Document *openUntitled(std::unique_ptr<Document> document, const QUrl &suggested,
                            const QUrl &untouched);
     /// The document, not the excepted one, whose file the path leads to; null when there is none.
@@ -58,6 +58,8 @@ public:
     /// Opens a file in a window and puts it first among the recent files. Returns none after
     /// showing what was wrong.
     Document *openDocument(const QUrl &url);
+    /// The same with one of the recent files; offers to remove one from these that has gone.
+    Document *openRecent(const QString &path);
     /// Opens each file, then shows what was wrong with those that could not be opened. Returns the
     /// last one that was opened, or had a window already.
     Document *openDocuments(const QList<QUrl> &urls);
@@ -89,6 +91,8 @@ private:
     /// Takes over the document and shows its windows, in the place of those of `replaced`.
     Document *adopt(std::unique_ptr<Document> document, Document *replaced);
     void remove(Document *document);
+    /// Puts the document's file first among the recent ones.
+    void noteRecent(const Document &document);
     /// Shown at the document that was opened last, or at the one the person was last at.
     void presentOpenError(const QUrl &url, const Error &error, Document *opened);
     void reviewNext(std::vector<Document *> givenUp, const std::function<void(bool)> &done);

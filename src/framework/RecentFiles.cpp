@@ -4,29 +4,83 @@
 
 #include <QSettings>
 
+#include <algorithm>
+
 namespace quillet {
 
 namespace {
 
-QString settingsKey()
+constexpr char filesKey[] = "recentFiles"; // the paths alone, as earlier versions know them
+/// Each with the path it belongs to, for an earlier version would change the paths and leave these.
+constexpr char factsKey[] = "recentFileFacts";
+constexpr char pathKey[] = "path";
+constexpr char originKey[] = "origin";
+constexpr char entriesKey[] = "entries";
+constexpr char usedKey[] = "used";
+constexpr qsizetype longestOrigin = 100; // it comes from a file, where it may be endless
+
+std::vector<RecentFile> factsIn(QSettings &settings)
 {
-    return QStringLiteral("recentFiles");
+    std::vector<RecentFile> files;
+    const int size = qMin(settings.beginReadArray(factsKey), RecentFiles::maximum);
+    for (int i = 0; i < size; ++i) {
+        settings.setArrayIndex(i);
+        RecentFile file{settings.value(pathKey).toString()};
+        file.facts.origin = settings.value(originKey).toString().left(longestOrigin);
+        bool isNumber = false;
+        const qint64 entries = settings.value(entriesKey).toLongLong(&isNumber);
+        if (isNumber && entries >= 0)
+            file.facts.entries = entries;
+        file.usedAt = QDateTime::fromString(settings.value(usedKey).toString(), Qt::ISODate);
+        files.push_back(file);
+    }
+    settings.endArray();
+    return files;
+}
+
+void removePath(std::vector<RecentFile> &files, const QString &path)
+{
+    std::erase_if(files, [&path](const RecentFile &file) { return file.path == path; });
 }
 
 } // namespace
 
 QStringList RecentFiles::paths() const
 {
-    return QSettings().value(settingsKey()).toStringList();
+    return QSettings().value(filesKey).toStringList();
 }
 
-void RecentFiles::add(const QString &path)
+std::vector<RecentFile> RecentFiles::files() const
+{
+    QSettings settings;
+    const std::vector<RecentFile> known = factsIn(settings);
+    std::vector<RecentFile> files;
+    const QStringList all = settings.value(filesKey).toStringList();
+    for (const QString &path : all) {
+        const auto found =
+            std::find_if(known.begin(), known.end(),
+                         [&path](const RecentFile &file) { return file.path == path; });
+        files.push_back(found == known.end() ? RecentFile{path} : *found);
+    }
+    return files;
+}
+
+void RecentFiles::add(const QString &path, const RecentFacts &facts)
 {
     const QString absolute = tidyPath(path);
-    QStringList list = paths();
-    list.removeAll(absolute);
-    list.prepend(absolute);
-    store(list.first(qMin(list.size(), qsizetype{maximum})));
+    std::vector<RecentFile> list = files();
+    removePath(list, absolute);
+    list.insert(list.begin(), {absolute, facts, QDateTime::currentDateTimeUtc()});
+    if (list.size() > maximum)
+        list.resize(maximum);
+    store(list);
+}
+
+void RecentFiles::remove(const QString &path)
+{
+    std::vector<RecentFile> list = files();
+    removePath(list, path);
+    store(list);
 }
 
 void RecentFiles::clear()
@@ -34,9 +88,26 @@ void RecentFiles::clear()
     store({});
 }
 
-void RecentFiles::store(const QStringList &paths)
+void RecentFiles::store(const std::vector<RecentFile> &files)
 {
-    QSettings().setValue(settingsKey(), paths);
+    QSettings settings;
+    QStringList paths;
+    for (const RecentFile &file : files)
+        paths.append(file.path);
+    settings.setValue(filesKey, paths);
+    settings.remove(factsKey);
+    settings.beginWriteArray(factsKey, static_cast<int>(files.size()));
+    for (int i = 0; const RecentFile &file : files) {
+        settings.setArrayIndex(i++);
+        settings.setValue(pathKey, file.path);
+        if (!file.facts.origin.isEmpty())
+            settings.setValue(originKey, file.facts.origin.left(longestOrigin));
+        if (file.facts.entries)
+            settings.setValue(entriesKey, *file.facts.entries);
+        if (file.usedAt.isValid())
+            settings.setValue(usedKey, file.usedAt.toString(Qt::ISODate));
+    }
+    settings.endArray();
     emit changed();
 }
 

@@ -1,12 +1,31 @@
 #pragma once
 
+#include <QDateTime>
 #include <QObject>
 #include <QStringList>
 
+#include <optional>
+#include <vector>
+
 namespace quillet {
 
+/// What a list of recent files tells of a file's content, as it was when the file was last open.
+struct RecentFacts
+{
+    QString origin = {};                ///< what the file comes from; empty: not known
+    std::optional<qint64> entries = {}; ///< how many it holds
+};
+
+/// A file that was open once, and all that is known of it without looking at the disk.
+struct RecentFile
+{
+    QString path; ///< absolute
+    RecentFacts facts = {};
+    QDateTime usedAt = {}; ///< when it was last opened or saved; invalid: not known
+};
+
 /// The files opened last, newest first, kept in the user's settings. Says nothing about whether
-/// they still exist.
+/// they still exist: reading them asks no disk, which may be one that does not answer.
 class RecentFiles : public QObject
 {
     Q_OBJECT
@@ -18,15 +37,18 @@ public:
 
     /// Absolute paths, each once, at most `maximum`.
     [[nodiscard]] QStringList paths() const;
-    /// Puts the file first.
-    void add(const QString &path);
+    /// The same with what is known of them.
+    [[nodiscard]] std::vector<RecentFile> files() const;
+    /// Puts the file first, as one that is used now.
+    void add(const QString &path, const RecentFacts &facts = {});
+    void remove(const QString &path);
     void clear();
 
 signals:
     void changed();
 
 private:
-    void store(const QStringList &paths);
+    void store(const std::vector<RecentFile> &files);
 };
 
 } // namespace quillet

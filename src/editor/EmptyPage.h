@@ -1,0 +1,53 @@
+#pragma once
+
+#include "editor/EditorOutlets.h"
+
+#include <QScrollArea>
+
+class QTableView;
+class QVBoxLayout;
+
+namespace quillet {
+
+class EmptyDocText;
+class RecentFiles;
+class StartPage;
+
+/// What covers the table while it has no stations to show: the hint and, before a file was opened,
+/// the start page. Scrolls where the window is too small for it, and leaves what is dropped there
+/// to the table.
+class EmptyPage : public QScrollArea
+{
+    Q_OBJECT
+
+public:
+    explicit EmptyPage(QTableView &covered);
+
+    [[nodiscard]] EmptyDocText &hint() const { return *m_hint; }
+    /// What the start page offers beside a file to open.
+    void offer(RecentFiles &recentFiles, bool hasGuide);
+    void showHint(EmptyHint hint);
+
+signals:
+    void openRequested();
+    void recentFileRequested(const QString &path);
+    void sampleRequested();
+    void guideRequested();
+
+protected:
+    void showEvent(QShowEvent *event) override;
+
+private:
+    void showStart(bool isStart);
+    void makeStartPage();
+
+    QTableView &m_covered;
+    QVBoxLayout *m_column;
+    EmptyDocText *m_hint;
+    StartPage *m_start = nullptr; ///< made when it is first seen, for most windows never do
+    RecentFiles *m_recentFiles = nullptr;
+    bool m_hasGuide = false;
+    bool m_isStart = false;
+};
+
+} // namespace quillet

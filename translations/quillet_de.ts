@@ -1347,7 +1347,7 @@
     </message>
     <message id="kMenuSample">
         <source></source>
-        <translation>&amp;Beispiel ausprobieren</translation>
+        <translation>B&amp;eispiel ausprobieren</translation>
     </message>
     <message id="kMenuSatellite">
         <source></source>

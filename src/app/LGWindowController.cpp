@@ -6,7 +6,6 @@
 #include "editor/ToldRow.h"
 
 #include <QAction>
-#include <QCoreApplication>
 #include <QEvent>
 #include <QMainWindow>
 #include <QSettings>
@@ -106,7 +105,8 @@ bool LGWindowController::eventFilter(QObject *watched, QEvent *event)
     const bool isDrag = event->type() == QEvent::DragEnter || event->type() == QEvent::Drop;
     if (watched != window() || !isDrag)
         return TLLWindowController::eventFilter(watched, event);
-    QCoreApplication::sendEvent(m_editor, event);
+    QObject &editor = *m_editor; // sending the event would lead back here
+    editor.event(event);
     return true;
 }
 

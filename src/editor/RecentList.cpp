@@ -19,7 +19,7 @@ namespace {
 
 constexpr int pathRole = Qt::UserRole + 10;
 constexpr int fewestRows = 2;
-constexpr int wantedRows = 4;
+constexpr int wantedRows = 3;
 
 /// The set and the number of stations, as far as they are known.
 QString factsText(const RecentFacts &facts)
@@ -70,7 +70,7 @@ void RecentList::fill()
         item->setData(Qt::AccessibleTextRole, spoken.join(QLatin1String(", ")));
         item->setToolTip(plainToolTip(shownPath(readable(file.path))));
     }
-    setCurrentRow(qBound(0, row, count() - 1),
+    setCurrentRow(qMin(qMax(row, 0), count() - 1),
                   hasFocus() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate);
     setMaximumHeight(heightOf(count()));
     updateGeometry();

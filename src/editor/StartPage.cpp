@@ -11,13 +11,15 @@ namespace quillet {
 
 namespace {
 
-constexpr int widest = 80; // in letters, so that lines can be read
+constexpr int widest = 96; // in letters, so that lines can be read
 
 QPushButton *makeButton(const char *title, const char *name)
 {
     auto *button = new QPushButton(qtTrId(title));
     button->setObjectName(QLatin1String(name));
     button->setAutoDefault(true); // so that Return presses it, too
+    const QFontMetrics metrics = button->fontMetrics();
+    button->setMinimumWidth(metrics.size(0, button->text()).width() + 2 * metrics.height());
     return button;
 }
 
@@ -52,6 +54,7 @@ StartPage::StartPage(RecentFiles *recentFiles, bool hasGuide, QWidget *parent)
     for (QPushButton *button : {m_open, m_sample})
         button->setMinimumHeight(2 * metrics.height());
     auto *buttons = new QHBoxLayout;
+    buttons->setSpacing(metrics.height());
     buttons->addStretch();
     buttons->addWidget(m_open);
     buttons->addWidget(m_sample);

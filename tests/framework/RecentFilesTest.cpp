@@ -45,6 +45,34 @@ private slots:
         QCOMPARE(changed.count(), 24);
     }
 
+    void factsAreKept()
+    {
+        RecentFiles().add(QStringLiteral("/a/1"), {.origin = QStringLiteral("set"), .entries = 12});
+        RecentFiles().add(QStringLiteral("/a/2"), {.origin = QString(5000, u'x')});
+        std::vector<RecentFile> files = RecentFiles().files();
+        QCOMPARE(files.size(), std::size_t{2});
+        QVERIFY(!files[0].facts.entries && files[0].facts.origin.size() < 200);
+        QCOMPARE(files[1].facts.origin, QStringLiteral("set"));
+        QCOMPARE(files[1].facts.entries, std::optional<qint64>(12));
+        const qint64 age = files[1].usedAt.secsTo(QDateTime::currentDateTimeUtc());
+        QVERIFY(age >= 0 && age < 60);
+
+        // A version that knew no facts has opened another file; somebody has edited the others.
+        QSettings settings;
+        settings.setValue("recentFiles", QStringList{QStringLiteral("/a/3"), QStringLiteral("/a/1"),
+                                                     QStringLiteral("/a/2")});
+        for (const char *key : {"recentFileFacts/1/entries", "recentFileFacts/1/used"})
+            settings.setValue(key, QStringLiteral("-7 or so"));
+        files = RecentFiles().files();
+        QCOMPARE(files.size(), std::size_t{3});
+        QVERIFY(files[0].facts.origin.isEmpty() && !files[0].facts.entries);
+        QCOMPARE(files[1].facts.entries, std::optional<qint64>(12));
+        QVERIFY(!files[2].facts.entries && !files[2].usedAt.isValid());
+        RecentFiles().remove(QStringLiteral("/a/1"));
+        files = RecentFiles().files();
+        QVERIFY(files.size() == 2 && files[1].path == QLatin1String("/a/2"));
+    }
+
     void menuShowsWhatIsThere()
     {
         RecentFiles recent;

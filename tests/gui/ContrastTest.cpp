@@ -8,6 +8,7 @@
 
 #include <QAbstractButton>
 #include <QAccessible>
+#include <QAction>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
@@ -119,9 +120,9 @@ private slots:
         QFETCH(bool, isDark);
         QFETCH(QColor, link);
         App app;
-        app.delegate.applicationDidFinishLaunching({});
-        const QMainWindow *window = app.window();
+        const QMainWindow *window = app.open("a.tll", listOf(2));
         QVERIFY(window);
+        menuItem(*window, "useRadioClicked").trigger();
         if (isDark)
             useDarkPalette(); // while the window is open
         QPalette palette = QApplication::palette();

@@ -3,13 +3,16 @@
 #include "document/TLLDocument.h"
 #include "editor/DarkModeTableView.h"
 #include "editor/StationTableModel.h"
+#include "framework/RecentFiles.h"
 #include "testing/TestMain.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QDrag>
 #include <QDragMoveEvent>
 #include <QHeaderView>
 #include <QLabel>
+#include <QMenuBar>
 #include <QMimeData>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -180,13 +183,15 @@ private slots:
     void fileOnAWindow_data()
     {
         QTest::addColumn<QString>("target");
-        QTest::newRow("table") << u"list"_s;
-        QTest::newRow("beside the table") << u"deviceTitle"_s;
+        for (const char *part : {"list", "deviceTitle", "searchText", "startOpen", "recentList",
+                                 "emptyDocText", "fileMenu", "toldText"})
+            QTest::newRow(part) << QString::fromLatin1(part);
     }
     void fileOnAWindow()
     {
         QFETCH(QString, target);
         App app;
+        app.delegate.documents().recentFiles().add(u"/nowhere/recent.tll"_s);
         app.delegate.applicationDidFinishLaunching({});
         QMainWindow *window = app.window();
         QVERIFY(window);
@@ -194,13 +199,15 @@ private slots:
         QVERIFY(hint.isVisible() && hint.text().contains(label("kHintNoFile")));
         QMimeData data;
         data.setUrls({QUrl::fromLocalFile(app.write("dropped.tll", listOf(2)))});
-        QWidget &table = *tableOf(*window).viewport();
-        QVERIFY(table.childAt(table.rect().center())); // the hint does not swallow the drop
-        const bool isTable = target == QLatin1String("list");
-        QWidget &taker = isTable ? table : *window->centralWidget();
-        const QPoint place =
-            isTable ? table.rect().center() : part<QWidget>(*window, qPrintable(target)).pos();
-        QVERIFY(drag(taker, place, data));
+        data.setText(u"file:///as/file/managers/add"_s);
+        QWidget *found = &part<QWidget>(*window, qPrintable(target));
+        if (const auto *area = qobject_cast<QAbstractScrollArea *>(found))
+            found = area->viewport();
+        else if (qobject_cast<QMenu *>(found))
+            found = window->menuBar();
+        QWidget &taker = *found;
+        const QPoint place = taker.rect().center();
+        QVERIFY(drag(taker, place, data)); // goes up from there to what takes it
         QVERIFY(drop(taker, place, data));
         QTRY_COMPARE(cell(*window, 1, 1), u"Station 2"_s);
         QCOMPARE(window->windowTitle(), u"dropped.tll[*] \u2014 quillet-test"_s);
@@ -217,7 +224,7 @@ private slots:
         QMainWindow *window = app.window();
         QVERIFY(window);
         app.preset.answerOpenPanel({app.write("chosen.tll", listOf(1))});
-        emit part<QLabel>(*window, "emptyDocText").linkActivated(u"kHintOpen"_s);
+        part<QAbstractButton>(*window, "startOpen").click();
         QTRY_VERIFY(app.preset.isSettled());
         window = app.window();
         QVERIFY(window);

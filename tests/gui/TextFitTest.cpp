@@ -23,6 +23,7 @@
 #include <QMap>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QStyleOptionComboBox>
 #include <QStyleOptionFrame>
 #include <QTest>
@@ -148,6 +149,24 @@ bool fits(const QWidget &widget)
     return !header || headerFits(*header);
 }
 
+/// Whether a widget lies in the window or, where that scrolls, in what it scrolls, which may be
+/// higher than there is room for.
+bool isInside(const QWidget &widget, const QWidget &window)
+{
+    const QWidget *ground = &window;
+    for (const QWidget *each = &widget; each != &window; each = each->parentWidget()) {
+        const auto *area = qobject_cast<const QScrollArea *>(each);
+        if (!area || !area->widget()->isVisibleTo(area))
+            continue;
+        if (area->widget() == &widget)
+            return widget.width() <= area->viewport()->width();
+        if (area->widget()->isAncestorOf(&widget))
+            ground = area->widget();
+        break;
+    }
+    return ground->rect().contains(QRect(widget.mapTo(ground, QPoint()), widget.size()));
+}
+
 /// What the window does not show whole, as the names of its parts; empty when all fits.
 QString clippedParts(const QWidget &window)
 {
@@ -157,8 +176,7 @@ QString clippedParts(const QWidget &window)
     for (const QWidget *widget : widgets) {
         if (!widget->isVisibleTo(&window) || widget->window() != &window)
             continue;
-        const QRect place(widget->mapTo(&window, QPoint()), widget->size());
-        if (!fits(*widget) || !window.rect().contains(place))
+        if (!fits(*widget) || !isInside(*widget, window))
             clipped.append(
                 u"%1 %2 (%3x%4)"_s
                     .arg(QLatin1String(widget->metaObject()->className()), widget->objectName())

@@ -1590,6 +1590,10 @@
         <source></source>
         <translation>OK</translation>
     </message>
+    <message id="kOpen">
+        <source></source>
+        <translation>Öffnen</translation>
+    </message>
     <message id="kOpenElsewhereReason">
         <source></source>
         <translation>Diese Datei ist in einem anderen Fenster geöffnet. Wählen Sie einen anderen Namen oder einen anderen Ordner.</translation>
@@ -2648,6 +2652,10 @@ Diese folgen ab Nummer: %3</translation>
     <message id="kToldReverted">
         <source></source>
         <translation>„%1“ ist wieder wie zuletzt gespeichert</translation>
+    </message>
+    <message id="kToldSample">
+        <source></source>
+        <translation>Diese Liste ist zum Ausprobieren erfunden. Keine Ihrer Dateien wird verändert.</translation>
     </message>
     <message id="kToldSaved">
         <source></source>

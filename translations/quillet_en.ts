@@ -1590,6 +1590,10 @@
         <source></source>
         <translation>OK</translation>
     </message>
+    <message id="kOpen">
+        <source></source>
+        <translation>Open</translation>
+    </message>
     <message id="kOpenElsewhereReason">
         <source></source>
         <translation>This file is open in another window. Choose another name or another folder.</translation>
@@ -2648,6 +2652,10 @@ These continue from number: %3</translation>
     <message id="kToldReverted">
         <source></source>
         <translation>“%1” is as it was last saved</translation>
+    </message>
+    <message id="kToldSample">
+        <source></source>
+        <translation>This list was made up for trying things out. None of your files is changed.</translation>
     </message>
     <message id="kToldSaved">
         <source></source>

@@ -1590,6 +1590,10 @@
         <source></source>
         <translation>Aceptar</translation>
     </message>
+    <message id="kOpen">
+        <source></source>
+        <translation>Abrir</translation>
+    </message>
     <message id="kOpenElsewhereReason">
         <source></source>
         <translation>Este archivo está abierto en otra ventana. Elija otro nombre u otra carpeta.</translation>
@@ -2648,6 +2652,10 @@ Estos continúan a partir del número: %3</translation>
     <message id="kToldReverted">
         <source></source>
         <translation>«%1» está como se guardó por última vez</translation>
+    </message>
+    <message id="kToldSample">
+        <source></source>
+        <translation>Esta lista es inventada, para probar. Ninguno de sus archivos se modifica.</translation>
     </message>
     <message id="kToldSaved">
         <source></source>

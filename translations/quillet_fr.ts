@@ -1590,6 +1590,10 @@
         <source></source>
         <translation>OK</translation>
     </message>
+    <message id="kOpen">
+        <source></source>
+        <translation>Ouvrir</translation>
+    </message>
     <message id="kOpenElsewhereReason">
         <source></source>
         <translation>Ce fichier est ouvert dans une autre fenêtre. Choisissez un autre nom ou un autre dossier.</translation>
@@ -2648,6 +2652,10 @@ Ces dernières suivent à partir du numéro : %3</translation>
     <message id="kToldReverted">
         <source></source>
         <translation>« %1 » est revenu au dernier enregistrement</translation>
+    </message>
+    <message id="kToldSample">
+        <source></source>
+        <translation>Cette liste a été inventée pour faire des essais. Aucun de vos fichiers n’est modifié.</translation>
     </message>
     <message id="kToldSaved">
         <source></source>

@@ -1590,6 +1590,10 @@
         <source></source>
         <translation>OK</translation>
     </message>
+    <message id="kOpen">
+        <source></source>
+        <translation>Apri</translation>
+    </message>
     <message id="kOpenElsewhereReason">
         <source></source>
         <translation>Questo file è aperto in un’altra finestra. Scegli un altro nome o un’altra cartella.</translation>
@@ -2648,6 +2652,10 @@ Questi proseguono dal numero: %3</translation>
     <message id="kToldReverted">
         <source></source>
         <translation>“%1” è tornato com’era all’ultimo salvataggio</translation>
+    </message>
+    <message id="kToldSample">
+        <source></source>
+        <translation>Questa lista è inventata, per fare prove. Nessuno dei tuoi file viene modificato.</translation>
     </message>
     <message id="kToldSaved">
         <source></source>

@@ -1590,6 +1590,10 @@
         <source></source>
         <translation>OK</translation>
     </message>
+    <message id="kOpen">
+        <source></source>
+        <translation>Openen</translation>
+    </message>
     <message id="kOpenElsewhereReason">
         <source></source>
         <translation>Dit bestand is in een ander venster geopend. Kies een andere naam of een andere map.</translation>
@@ -2648,6 +2652,10 @@ Deze gaan verder vanaf nummer: %3</translation>
     <message id="kToldReverted">
         <source></source>
         <translation>“%1” is weer zoals laatst opgeslagen</translation>
+    </message>
+    <message id="kToldSample">
+        <source></source>
+        <translation>Deze lijst is verzonnen om dingen uit te proberen. Geen van uw bestanden wordt gewijzigd.</translation>
     </message>
     <message id="kToldSaved">
         <source></source>

@@ -1623,6 +1623,10 @@
         <source></source>
         <translation>OK</translation>
     </message>
+    <message id="kOpen">
+        <source></source>
+        <translation>Otwórz</translation>
+    </message>
     <message id="kOpenElsewhereReason">
         <source></source>
         <translation>Ten plik jest otwarty w innym oknie. Wybierz inną nazwę lub inny folder.</translation>
@@ -2720,6 +2724,10 @@ Te ostatnie następują od numeru: %3</translation>
     <message id="kToldReverted">
         <source></source>
         <translation>„%1” jest taki, jak przy ostatnim zapisie</translation>
+    </message>
+    <message id="kToldSample">
+        <source></source>
+        <translation>Ta lista została zmyślona na potrzeby prób. Żaden z Twoich plików nie zostanie zmieniony.</translation>
     </message>
     <message id="kToldSaved">
         <source></source>

@@ -1557,6 +1557,10 @@
         <source></source>
         <translation>Tamam</translation>
     </message>
+    <message id="kOpen">
+        <source></source>
+        <translation>Aç</translation>
+    </message>
     <message id="kOpenElsewhereReason">
         <source></source>
         <translation>Bu dosya başka bir pencerede açık. Başka bir ad veya klasör seçin.</translation>
@@ -2576,6 +2580,10 @@ Bunların devam ettiği numara: %3</translation>
     <message id="kToldReverted">
         <source></source>
         <translation>“%1” son kaydedildiği gibi</translation>
+    </message>
+    <message id="kToldSample">
+        <source></source>
+        <translation>Bu liste denemeler için uydurulmuştur. Dosyalarınızın hiçbiri değiştirilmez.</translation>
     </message>
     <message id="kToldSaved">
         <source></source>

@@ -143,9 +143,9 @@ void AppDelegate::openSample()
         !sample->readFromData(file.readAll(), TLLDocument::typeName(), error))
         return;
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    m_documents.openUntitled(
-        std::move(sample),
-        QUrl::fromLocalFile(folder + u'/' + qtTrId("kSampleName") + QLatin1String(".tll")), {});
+    const QString path = folder + u'/' + qtTrId("kSampleName") + QLatin1String(".tll");
+    Document *opened = m_documents.openUntitled(std::move(sample), QUrl::fromLocalFile(path), {});
+    emit opened->told(qtTrId("kToldSample"));
 }
 
 void AppDelegate::applicationDidFinishLaunching(const QStringList &paths)

@@ -134,7 +134,7 @@ void RecentList::contextMenuEvent(QContextMenuEvent *event)
     const QString path = item->data(pathRole).toString();
     auto *menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    menu->addAction(qtTrId("kVersionOpen"), this, [this, path] { emit chosen(path); });
+    menu->addAction(qtTrId("kOpen"), this, [this, path] { emit chosen(path); });
     menu->addAction(qtTrId("kRemoveFromList"), &m_files, [this, path] { m_files.remove(path); });
     menu->popup(isByMouse ? event->globalPos()
                           : viewport()->mapToGlobal(visualItemRect(item).center()));

@@ -42,11 +42,10 @@ QString richText(const HintText &row, const QColor &link)
 
 } // namespace
 
-EmptyDocText::EmptyDocText(QWidget *parent) : QLabel(parent)
+EmptyDocText::EmptyDocText(QWidget *parent) : WrappedLabel(parent)
 {
     setObjectName(QStringLiteral("emptyDocText"));
     setAlignment(Qt::AlignCenter);
-    setWordWrap(true);
     setMargin(8);
     setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     connect(this, &QLabel::linkActivated, this, &EmptyDocText::follow);
@@ -66,7 +65,7 @@ void EmptyDocText::showHint(EmptyHint hint)
 
 void EmptyDocText::changeEvent(QEvent *event)
 {
-    QLabel::changeEvent(event);
+    WrappedLabel::changeEvent(event);
     if (event->type() == QEvent::PaletteChange)
         showHint(m_hint);
 }

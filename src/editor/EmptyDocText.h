@@ -1,14 +1,13 @@
 #pragma once
 
 #include "editor/EditorOutlets.h"
-
-#include <QLabel>
+#include "editor/WrappedLabel.h"
 
 namespace quillet {
 
 /// The hint in the place of a table that has no stations to show: why, and a link that leads on.
 /// Hidden while there are stations.
-class EmptyDocText : public QLabel
+class EmptyDocText : public WrappedLabel
 {
     Q_OBJECT
 

@@ -3,16 +3,22 @@
 #include "editor/EmptyDocText.h"
 #include "editor/StartPage.h"
 
-#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QPushButton>
 #include <QTableView>
+#include <QVBoxLayout>
 
 namespace quillet {
 
+namespace {
+
+constexpr int widest = 96; // in letters, so that lines can be read
+constexpr int margin = 10;
+
+} // namespace
+
 EmptyPage::EmptyPage(QTableView &covered)
-    : QScrollArea(covered.viewport()), m_covered(covered), m_column(new QVBoxLayout),
-      m_hint(new EmptyDocText)
+    : QScrollArea(covered.viewport()), m_covered(covered), m_hint(new EmptyDocText)
 {
     setObjectName(QStringLiteral("emptyPage"));
     setFrameShape(QFrame::NoFrame);
@@ -21,11 +27,11 @@ EmptyPage::EmptyPage(QTableView &covered)
     viewport()->setBackgroundRole(QPalette::Base);
     auto *content = new QWidget;
     content->setBackgroundRole(QPalette::Base);
-    m_column->addWidget(m_hint, 1);
-    auto *row = new QHBoxLayout(content);
-    row->addStretch(1);
-    row->addLayout(m_column, 1000); // all there is, up to the width of the start page
-    row->addStretch(1);
+    m_column = new QVBoxLayout(content);
+    m_column->setContentsMargins(margin, margin, margin, margin);
+    m_column->addStretch(1);
+    m_column->addWidget(m_hint, 0, Qt::AlignHCenter);
+    m_column->addStretch(1);
     setWidget(content);
     auto *whole = new QVBoxLayout(covered.viewport());
     whole->setContentsMargins(0, 0, 0, 0);
@@ -43,14 +49,31 @@ void EmptyPage::showHint(EmptyHint hint)
     m_isStart = hint == EmptyHint::NoFile;
     m_hint->showHint(hint);
     setVisible(hint != EmptyHint::None);
+    m_covered.horizontalHeader()->setVisible(!m_isStart);
     if (isVisible() || !m_isStart)
         showStart(m_isStart);
 }
 
+/// A window that is to show a file has it by now.
 void EmptyPage::showEvent(QShowEvent *event)
 {
     QScrollArea::showEvent(event);
     showStart(m_isStart);
+}
+
+void EmptyPage::resizeEvent(QResizeEvent *event)
+{
+    fitColumn();
+    QScrollArea::resizeEvent(event);
+}
+
+void EmptyPage::fitColumn()
+{
+    const int room = viewport()->width() - 2 * margin;
+    const int width = qMin(room, widest * fontMetrics().averageCharWidth());
+    m_hint->setTextWidth(width);
+    if (m_start)
+        m_start->setTextWidth(width);
 }
 
 void EmptyPage::showStart(bool isStart)
@@ -59,10 +82,10 @@ void EmptyPage::showStart(bool isStart)
         makeStartPage();
     if (!m_start || m_start->isHidden() != isStart)
         return;
-    const bool hasFocus = m_covered.hasFocus() || m_covered.isAncestorOf(window()->focusWidget());
+    const bool hasFocus = m_covered.isAncestorOf(window()->focusWidget());
     m_start->setVisible(isStart);
-    m_column->setStretchFactor(m_hint, isStart ? 0 : 1);
-    m_covered.horizontalHeader()->setVisible(!isStart);
+    for (const int end : {0, m_column->count() - 1}) // which have the hint alone in the middle
+        m_column->setStretch(end, isStart ? 0 : 1);
     m_covered.setFocusProxy(isStart ? &m_start->firstButton() : nullptr);
     if (hasFocus)
         m_covered.setFocus();
@@ -72,7 +95,8 @@ void EmptyPage::makeStartPage()
 {
     m_start = new StartPage(m_recentFiles, m_hasGuide);
     m_start->hide();
-    m_column->addWidget(m_start, 1);
+    m_column->insertWidget(m_column->count() - 1, m_start, 1, Qt::AlignHCenter);
+    fitColumn();
     m_start->putBehind(m_covered);
     connect(m_start, &StartPage::openRequested, this, &EmptyPage::openRequested);
     connect(m_start, &StartPage::recentFileRequested, this, &EmptyPage::recentFileRequested);

@@ -36,14 +36,17 @@ signals:
 
 protected:
     void showEvent(QShowEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     void showStart(bool isStart);
     void makeStartPage();
+    /// Gives the texts the width that there is for them.
+    void fitColumn();
 
     QTableView &m_covered;
-    QVBoxLayout *m_column;
     EmptyDocText *m_hint;
+    QVBoxLayout *m_column;
     StartPage *m_start = nullptr; ///< made when it is first seen, for most windows never do
     RecentFiles *m_recentFiles = nullptr;
     bool m_hasGuide = false;

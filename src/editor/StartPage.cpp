@@ -1,6 +1,7 @@
 #include "editor/StartPage.h"
 
 #include "editor/RecentList.h"
+#include "editor/WrappedLabel.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -10,8 +11,6 @@
 namespace quillet {
 
 namespace {
-
-constexpr int widest = 96; // in letters, so that lines can be read
 
 QPushButton *makeButton(const char *title, const char *name)
 {
@@ -23,17 +22,17 @@ QPushButton *makeButton(const char *title, const char *name)
     return button;
 }
 
-QLabel *makeLabel(const char *text)
+WrappedLabel *makeLabel(const char *text)
 {
-    auto *label = new QLabel(qtTrId(text));
+    auto *label = new WrappedLabel;
     label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
+    label->setText(qtTrId(text));
     return label;
 }
 
 QLabel *makeTitle(const char *text)
 {
-    QLabel *label = makeLabel(text);
+    auto *label = new QLabel(qtTrId(text));
     QFont bold;
     bold.setBold(true);
     label->setFont(bold);
@@ -46,11 +45,10 @@ StartPage::StartPage(RecentFiles *recentFiles, bool hasGuide, QWidget *parent)
     : QWidget(parent), m_open(makeButton("kHintOpen", "startOpen")),
       m_sample(makeButton("kTrySample", "startSample")),
       m_guide(makeButton("kStartGuide", "startGuide")), m_recentTitle(makeTitle("kRecentLists")),
-      m_how(makeLabel("kStartHow"))
+      m_what(makeLabel("kStartWhatText")), m_how(makeLabel("kStartHow"))
 {
     setObjectName(QStringLiteral("startPage"));
     const QFontMetrics metrics = fontMetrics();
-    setMaximumWidth(widest * metrics.averageCharWidth());
     for (QPushButton *button : {m_open, m_sample})
         button->setMinimumHeight(2 * metrics.height());
     auto *buttons = new QHBoxLayout;
@@ -60,6 +58,7 @@ StartPage::StartPage(RecentFiles *recentFiles, bool hasGuide, QWidget *parent)
     buttons->addWidget(m_sample);
     buttons->addStretch();
     auto *rows = new QVBoxLayout(this);
+    rows->setContentsMargins(0, 0, 0, 0);
     rows->addLayout(buttons);
     rows->addSpacing(metrics.height());
     rows->addWidget(m_recentTitle);
@@ -69,7 +68,7 @@ StartPage::StartPage(RecentFiles *recentFiles, bool hasGuide, QWidget *parent)
         rows->addSpacing(metrics.height());
     }
     rows->addWidget(makeTitle("kStartWhat"));
-    rows->addWidget(makeLabel("kStartWhatText"));
+    rows->addWidget(m_what);
     rows->addWidget(m_how);
     rows->addWidget(m_guide, 0, Qt::AlignLeading);
     rows->addStretch(1);
@@ -97,6 +96,13 @@ void StartPage::showRecent()
     if (m_recent)
         m_recent->setVisible(hasAny);
     m_how->setVisible(!hasAny);
+}
+
+void StartPage::setTextWidth(int width)
+{
+    setFixedWidth(width);
+    m_what->setTextWidth(width);
+    m_how->setTextWidth(width);
 }
 
 void StartPage::putBehind(QWidget &widget)

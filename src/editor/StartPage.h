@@ -9,6 +9,7 @@ namespace quillet {
 
 class RecentFiles;
 class RecentList;
+class WrappedLabel;
 
 /// What a window without a file offers: a file to choose, a sample, the recent files with what is
 /// known of them, and what this is all about. Only asks for what is chosen, and looks at no file.
@@ -21,6 +22,7 @@ public:
     StartPage(RecentFiles *recentFiles, bool hasGuide, QWidget *parent = nullptr);
 
     [[nodiscard]] QPushButton &firstButton() const { return *m_open; }
+    void setTextWidth(int width);
     /// Puts its controls behind a widget in the order of the Tab key.
     void putBehind(QWidget &widget);
 
@@ -40,7 +42,8 @@ private:
     QPushButton *m_sample;
     QPushButton *m_guide;
     QLabel *m_recentTitle;
-    QLabel *m_how;
+    WrappedLabel *m_what;
+    WrappedLabel *m_how;
     RecentList *m_recent = nullptr;
 };
 

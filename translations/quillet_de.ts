@@ -918,7 +918,7 @@
     </message>
     <message id="kHintNoFileDetail">
         <source></source>
-        <translation>Ziehen Sie eine TLL-Datei Ihres Fernsehers irgendwo in dieses Fenster oder wählen Sie eine aus.</translation>
+        <translation>Ziehen Sie eine TLL-Datei Ihres Fernsehers in dieses Fenster oder wählen Sie eine aus.</translation>
     </message>
     <message id="kHintNoRadioStations">
         <source></source>

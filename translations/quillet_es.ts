@@ -918,7 +918,7 @@
     </message>
     <message id="kHintNoFileDetail">
         <source></source>
-        <translation>Arrastre un archivo TLL de su televisor a cualquier lugar de esta ventana o elija uno.</translation>
+        <translation>Arrastre un archivo TLL de su televisor a esta ventana o elija uno.</translation>
     </message>
     <message id="kHintNoRadioStations">
         <source></source>

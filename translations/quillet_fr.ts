@@ -918,7 +918,7 @@
     </message>
     <message id="kHintNoFileDetail">
         <source></source>
-        <translation>Déposez un fichier TLL de votre téléviseur n’importe où dans cette fenêtre ou choisissez-en un.</translation>
+        <translation>Déposez un fichier TLL de votre téléviseur dans cette fenêtre ou choisissez-en un.</translation>
     </message>
     <message id="kHintNoRadioStations">
         <source></source>

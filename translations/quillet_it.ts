@@ -918,7 +918,7 @@
     </message>
     <message id="kHintNoFileDetail">
         <source></source>
-        <translation>Trascina un file TLL del tuo televisore in un punto qualsiasi di questa finestra o scegline uno.</translation>
+        <translation>Trascina un file TLL del tuo televisore in questa finestra o scegline uno.</translation>
     </message>
     <message id="kHintNoRadioStations">
         <source></source>

@@ -918,7 +918,7 @@
     </message>
     <message id="kHintNoFileDetail">
         <source></source>
-        <translation>Sleep een TLL-bestand van uw televisie naar een willekeurige plek in dit venster of kies er een.</translation>
+        <translation>Sleep een TLL-bestand van uw televisie naar dit venster of kies er een.</translation>
     </message>
     <message id="kHintNoRadioStations">
         <source></source>

@@ -941,7 +941,7 @@
     </message>
     <message id="kHintNoFileDetail">
         <source></source>
-        <translation>Upuść plik TLL z telewizora w dowolnym miejscu tego okna lub wybierz go.</translation>
+        <translation>Upuść plik TLL z telewizora w tym oknie lub wybierz go.</translation>
     </message>
     <message id="kHintNoRadioStations">
         <source></source>

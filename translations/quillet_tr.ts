@@ -895,7 +895,7 @@
     </message>
     <message id="kHintNoFileDetail">
         <source></source>
-        <translation>Televizyonunuzun TLL dosyasını bu pencerede herhangi bir yere bırakın veya bir dosya seçin.</translation>
+        <translation>Televizyonunuzun TLL dosyasını bu pencereye bırakın veya bir dosya seçin.</translation>
     </message>
     <message id="kHintNoRadioStations">
         <source></source>

@@ -12,6 +12,7 @@
 #include "files/FileOperations.h"
 #include "files/RecoveryStore.h"
 #include "framework/QtPrompts.h"
+#include "framework/Speech.h"
 #include "support/KXFileLog.h"
 #include "support/LogClaim.h"
 #include "support/StandardStreams.h"
@@ -144,6 +145,7 @@ int main(int argc, char *argv[])
     QApplication::setDesktopFileName(QStringLiteral("org.quillet.Quillet"));
     QApplication::setWindowIcon(applicationIcon());
     installTranslations(line.language);
+    speakCurrentItems();
     if (!line.snapshot.isEmpty())
         return makePicture(line);
     if (line.isDark)

@@ -1,5 +1,6 @@
 #include "editor/ComparisonFilter.h"
 
+#include "framework/Speech.h"
 #include "texts/RowTexts.h"
 
 #include <QCheckBox>
@@ -57,7 +58,7 @@ ComparisonFilter::ComparisonFilter(StationComparison &comparison, QWidget *paren
 QLayout *ComparisonFilter::makeTop()
 {
     m_lists->setObjectName(QStringLiteral("compareList"));
-    m_lists->setAccessibleName(qtTrId("kCompareList"));
+    nameChoice(*m_lists, qtTrId("kCompareList"));
     connect(m_lists, &QComboBox::activated, this, [this](int item) {
         const auto &lists = m_comparison.lists();
         m_comparison.showList(item == 0 ? std::nullopt
@@ -65,7 +66,6 @@ QLayout *ComparisonFilter::makeTop()
     });
     m_search->setObjectName(QStringLiteral("compareSearch"));
     m_search->setPlaceholderText(qtTrId("kSearchPlaceholder"));
-    m_search->setAccessibleName(qtTrId("kSearchPlaceholder"));
     m_search->setClearButtonEnabled(true);
     m_search->installEventFilter(this);
     connect(m_search, &QLineEdit::textChanged, &m_comparison, &StationComparison::search);

@@ -5,6 +5,7 @@
 #include "editor/StationHeader.h"
 #include "editor/StationTableModel.h"
 #include "files/FileNames.h"
+#include "framework/Speech.h"
 
 #include <QApplication>
 #include <QDrag>
@@ -47,8 +48,13 @@ DarkModeTableView::DarkModeTableView(QWidget *parent) : QTableView(parent)
 void DarkModeTableView::setModel(QAbstractItemModel *model)
 {
     QTableView::setModel(model);
-    if (model)
-        m_markPress.watch(*model);
+    if (!model)
+        return;
+    m_markPress.watch(*model);
+    // To assistive technology all cells are new ones after that.
+    const auto speakCell = [this] { speakCurrentItem(this); };
+    connect(model, &QAbstractItemModel::rowsMoved, this, speakCell, Qt::QueuedConnection);
+    connect(model, &QAbstractItemModel::layoutChanged, this, speakCell, Qt::QueuedConnection);
 }
 
 void DarkModeTableView::setDropHandler(Validate validate, Accept accept)

@@ -1,5 +1,6 @@
 #include "editor/EditorControls.h"
 
+#include "framework/Speech.h"
 #include "model/CleanName.h"
 #include "model/StationSource.h"
 #include "model/TypeFilter.h"
@@ -31,6 +32,8 @@ void setUpControls(Ui::EditorView &ui)
         clear->setAccessibleName(qtTrId("kClearSearch"));
         clear->setToolTip(qtTrId("kClearSearch"));
     }
+    makeSpeakable(*ui.matches);
+    nameChoice(*ui.filterPop, qtTrId("kTypeFilter"));
     ui.foreignRowsBar->setClosable(false);
     ui.foreignRowsBar->setTabOrderAfter(*ui.filterPop);
     ui.fileBar->setTabOrderAfter(*ui.filterPop);
@@ -53,6 +56,8 @@ void setText(Ui::EditorView &ui, EditorOutlets::Field field, const QString &text
         ui.stationCount->setText(text);
         break;
     case Field::Matches:
+        if (text != ui.matches->text())
+            speak(*ui.matches, text);
         ui.matches->setText(text);
         break;
     }

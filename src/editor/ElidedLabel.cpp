@@ -2,13 +2,17 @@
 
 #include "files/ShownPath.h"
 #include "framework/PlainToolTip.h"
+#include "framework/Speech.h"
 
 #include <QPainter>
 #include <QStyle>
 
 namespace quillet {
 
-ElidedLabel::ElidedLabel(QWidget *parent) : QWidget(parent) {}
+ElidedLabel::ElidedLabel(QWidget *parent) : QWidget(parent)
+{
+    setAccessibleRole(*this, QAccessible::StaticText);
+}
 
 void ElidedLabel::setText(const QString &text)
 {

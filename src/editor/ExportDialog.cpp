@@ -1,8 +1,8 @@
 #include "editor/ExportDialog.h"
 
+#include "editor/SpokenLabel.h"
 #include "editor/ViewController.h"
 
-#include <QAccessible>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -85,7 +85,7 @@ ExportDialog::ExportDialog(const ListExport &list, QWidget *parent)
     : QDialog(parent), m_list(list), m_format(makeBox("exportFormat", formatTitles)),
       m_separator(makeBox("exportSeparator", separatorTitles)),
       m_form(makeBox("exportEncoding", formTitles)), m_stations(new QComboBox),
-      m_hasKeys(new QCheckBox(qtTrId("kExportKeys"))), m_remarks(new QLabel)
+      m_hasKeys(new QCheckBox(qtTrId("kExportKeys"))), m_remarks(new SpokenLabel)
 {
     setObjectName(QStringLiteral("exportDialog"));
     setWindowTitle(qtTrId("kExportListTitle"));
@@ -94,7 +94,6 @@ ExportDialog::ExportDialog(const ListExport &list, QWidget *parent)
     m_hasKeys->setObjectName(QStringLiteral("exportKeys"));
     m_stations->setObjectName(QStringLiteral("exportStations"));
     m_remarks->setObjectName(QStringLiteral("exportRemarks"));
-    m_remarks->setWordWrap(true);
     m_remarks->setAlignment(Qt::AlignTop);
     m_remarks->setMinimumHeight(3 * fontMetrics().lineSpacing()); // so that nothing jumps
     m_stations->addItem(qtTrId("kExportAll", static_cast<int>(list.stationCount(false))), false);
@@ -175,11 +174,9 @@ void ExportDialog::tellRemarks(const QStringList &remarks)
     if (text == m_remarks->text())
         return;
     m_remarks->setText(text);
-    m_export->setAccessibleDescription(remarks.join(u' '));
-    for (const auto kind : {QAccessible::NameChanged, QAccessible::Alert}) {
-        QAccessibleEvent event(m_remarks, kind);
-        QAccessible::updateAccessibility(&event);
-    }
+    const QString spoken = remarks.join(u' ');
+    m_export->setAccessibleDescription(spoken);
+    m_remarks->speak(spoken);
 }
 
 void askToExport(ViewController &controller, std::vector<ColumnContent> columns, QWidget *window)

@@ -7,11 +7,11 @@
 class QCheckBox;
 class QComboBox;
 class QFormLayout;
-class QLabel;
 class QPushButton;
 
 namespace quillet {
 
+class SpokenLabel;
 class ViewController;
 
 /// Asks as what the list on show is to be exported, with a line that says what would be lost.
@@ -41,7 +41,7 @@ private:
     QComboBox *m_stations;
     QCheckBox *m_hasKeys;
     QFormLayout *m_rows = nullptr;
-    QLabel *m_remarks;
+    SpokenLabel *m_remarks;
     QPushButton *m_export = nullptr;
 };
 

@@ -42,6 +42,7 @@ public:
                                         const QModelIndex &index) const override
     {
         auto *text = new QPlainTextEdit(index.data().toString(), parent);
+        text->setAccessibleName(index.siblingAtColumn(0).data().toString());
         text->setReadOnly(true);
         text->setFrameShape(QFrame::NoFrame);
         text->setFont(index.data(Qt::FontRole).value<QFont>());

@@ -1,7 +1,7 @@
 #include "editor/NoticeBar.h"
 
-#include <QAccessible>
-#include <QAccessibleWidget>
+#include "framework/Speech.h"
+
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -12,23 +12,11 @@
 
 namespace quillet {
 
-namespace {
-
-/// Lets screen readers speak the bar as soon as it is there.
-QAccessibleInterface *alertInterface(const QString &, QObject *object)
-{
-    auto *bar = qobject_cast<NoticeBar *>(object);
-    return bar ? new QAccessibleWidget(bar, QAccessible::AlertMessage) : nullptr;
-}
-
-} // namespace
-
 NoticeBar::NoticeBar(QWidget *parent)
     : QWidget(parent), m_icon(new QLabel), m_text(new QLabel), m_action(new QPushButton),
       m_other(new QPushButton), m_close(new QToolButton)
 {
-    static const bool hasInterface = (QAccessible::installFactory(alertInterface), true);
-    Q_UNUSED(hasInterface)
+    makeSpeakable(*this);
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(10, 6, 6, 6);
     row->setSpacing(10);
@@ -88,15 +76,13 @@ void NoticeBar::showNotice(Kind kind, const QString &text, const QString &action
     m_action->setHidden(actionTitle.isEmpty());
     m_other->setText(otherTitle);
     m_other->setHidden(otherTitle.isEmpty());
-    setAccessibleName(text);
     updateIcon();
+    if (isNews)
+        speak(*this, text);
     show();
     update();
-    if (!isNews)
-        return;
-    QAccessibleEvent alert(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
-    emit announced(text);
+    if (isNews)
+        emit announced(text);
 }
 
 void NoticeBar::updateIcon()

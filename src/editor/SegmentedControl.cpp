@@ -1,5 +1,7 @@
 #include "editor/SegmentedControl.h"
 
+#include "framework/Speech.h"
+
 #include <QHBoxLayout>
 #include <QPainter>
 #include <QPainterPath>
@@ -22,6 +24,7 @@ public:
     {
         setText(title);
         setCheckable(true);
+        setAutoExclusive(true); // so that it passes for a radio button
         setFocusPolicy(Qt::StrongFocus);
         setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     }
@@ -98,6 +101,7 @@ private:
 
 SegmentedControl::SegmentedControl(QWidget *parent) : QWidget(parent)
 {
+    setAccessibleRole(*this, QAccessible::Grouping);
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(0);

@@ -2,6 +2,7 @@
 
 #include "editor/Contrast.h"
 #include "editor/ToldLine.h"
+#include "framework/Speech.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -19,6 +20,7 @@ ToldRow::ToldRow(QWidget *parent) : QWidget(parent), m_line(new ToldLine), m_und
     row->addStretch(1);
     m_undo->setObjectName(QStringLiteral("toldUndo"));
     m_undo->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    setAccessibleRole(*m_undo, QAccessible::Link);
     m_undo->setAccessibleName(qtTrId("kUndoLink"));
     m_undo->hide();
     writeLink();

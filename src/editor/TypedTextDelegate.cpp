@@ -9,6 +9,9 @@ namespace quillet {
 
 void TypedTextDelegate::setEditorData(QWidget *editor, const QModelIndex &index) const
 {
+    const QAbstractItemModel &model = *index.model();
+    editor->setAccessibleName(
+        model.headerData(index.column(), Qt::Horizontal, Qt::AccessibleTextRole).toString());
     auto *field = qobject_cast<QLineEdit *>(editor);
     if (field && index.data(Qt::EditRole).toString().size() > longestContentShown)
         field->setPlaceholderText(index.data().toString());

@@ -213,6 +213,8 @@ void QtPrompts::showAlert(QWidget *window, const Alert &alert,
     box->setWindowTitle(QGuiApplication::applicationDisplayName());
     box->setText(alert.message);
     box->setInformativeText(alert.informativeText);
+    box->setAccessibleName(alert.message);
+    box->setAccessibleDescription(alert.informativeText);
     showAsPlainText(*box);
     const QStringList titles = withMnemonics(alert.buttons + QStringList{alert.checkBox});
     addButtons(*box, alert, titles);

@@ -1,0 +1,95 @@
+#include "framework/Speech.h"
+
+#include <QAbstractItemView>
+#include <QAccessibleWidget>
+#include <QApplication>
+#include <QComboBox>
+#include <QPointer>
+
+namespace quillet {
+
+namespace {
+
+constexpr char roleProperty[] = "accessibleRole";
+
+// What makes readers speak: on some platforms an event, on the others what the widget is.
+#if defined(Q_OS_WIN) || defined(Q_OS_MACOS)
+constexpr QAccessible::Role speakingRole = QAccessible::AlertMessage;
+#else
+constexpr QAccessible::Role speakingRole = QAccessible::Notification;
+#endif
+
+QAccessibleInterface *interfaceOf(const QString &, QObject *object)
+{
+    auto *widget = qobject_cast<QWidget *>(object);
+    const QVariant role = widget ? widget->property(roleProperty) : QVariant();
+    return role.isValid()
+               ? new QAccessibleWidget(widget, static_cast<QAccessible::Role>(role.toInt()))
+               : nullptr;
+}
+
+} // namespace
+
+void setAccessibleRole(QWidget &widget, QAccessible::Role role)
+{
+    static const bool isInstalled = (QAccessible::installFactory(interfaceOf), true);
+    Q_UNUSED(isInstalled)
+    widget.setProperty(roleProperty, static_cast<int>(role));
+}
+
+void makeSpeakable(QWidget &widget)
+{
+    setAccessibleRole(widget, speakingRole);
+}
+
+void speak(QWidget &widget, const QString &text)
+{
+    widget.setAccessibleName(text);
+    if (text.isEmpty())
+        return;
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+    QAccessibleAnnouncementEvent announcement(&widget, text);
+    QAccessible::updateAccessibility(&announcement);
+#else
+    QAccessibleEvent alert(&widget, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+    if (widget.isVisible()) { // or its becoming so will be told
+        QAccessibleEvent shown(&widget, QAccessible::ObjectShow);
+        QAccessible::updateAccessibility(&shown);
+    }
+#endif
+}
+
+/// Where the name is what is chosen, readers are left with the description.
+void nameChoice(QComboBox &box, const QString &name)
+{
+    box.setAccessibleName(name);
+#ifdef Q_OS_UNIX
+    box.setAccessibleDescription(name);
+#endif
+    box.view()->setAccessibleName(name);
+}
+
+void speakCurrentItem(QWidget *view)
+{
+    if (!qobject_cast<QAbstractItemView *>(view) || !QAccessible::isActive() || !view->hasFocus())
+        return;
+    const QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(view);
+    QAccessibleInterface *item = interface ? interface->focusChild() : nullptr;
+    if (!item || item->object() == view)
+        return;
+    QAccessibleEvent focus(item, QAccessible::Focus);
+    QAccessible::updateAccessibility(&focus);
+}
+
+void speakCurrentItems()
+{
+    const auto speakLater = [](QWidget *, QWidget *now) {
+        // After what Qt tells by itself, or that would be the last thing heard.
+        QMetaObject::invokeMethod(
+            qApp, [view = QPointer(now)] { speakCurrentItem(view); }, Qt::QueuedConnection);
+    };
+    QObject::connect(qApp, &QApplication::focusChanged, qApp, speakLater);
+}
+
+} // namespace quillet

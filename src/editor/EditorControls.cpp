@@ -8,12 +8,28 @@
 #include "texts/SourceTitles.h"
 #include "ui_EditorView.h"
 
+#include <QTimer>
+
 namespace quillet {
 
 namespace {
 
 /// The label takes the room it needs, and the window with it.
 constexpr qsizetype longestDeviceName = 30;
+
+/// What a glance at the window tells: which list is on show, and how long it is.
+void speakList(Ui::EditorView &ui)
+{
+    const QAbstractButton *source =
+        ui.sourceSegmentControl->segment(ui.sourceSegmentControl->selectedSegment());
+    const QAbstractButton *mode = ui.tvButton->isChecked() ? ui.tvButton : ui.radioButton;
+    QStringList words{ui.stationCount->text()};
+    if (source && !words.front().isEmpty())
+        words = {source->text(), mode->text().remove(u'&'), words.front()};
+    const QString spoken = words.join(QLatin1String(", "));
+    if (spoken != ui.stationCount->accessibleName())
+        speak(*ui.stationCount, spoken);
+}
 
 } // namespace
 
@@ -32,7 +48,8 @@ void setUpControls(Ui::EditorView &ui)
         clear->setAccessibleName(qtTrId("kClearSearch"));
         clear->setToolTip(qtTrId("kClearSearch"));
     }
-    makeSpeakable(*ui.matches);
+    for (QLabel *label : {ui.matches, ui.stationCount})
+        makeSpeakable(*label);
     nameChoice(*ui.filterPop, qtTrId("kTypeFilter"));
     ui.foreignRowsBar->setClosable(false);
     ui.foreignRowsBar->setTabOrderAfter(*ui.filterPop);
@@ -54,6 +71,8 @@ void setText(Ui::EditorView &ui, EditorOutlets::Field field, const QString &text
         break;
     case Field::StationCount:
         ui.stationCount->setText(text);
+        // When all that there is to tell has changed.
+        QTimer::singleShot(0, ui.stationCount, [&ui] { speakList(ui); });
         break;
     case Field::Matches:
         if (text != ui.matches->text())

@@ -2,8 +2,10 @@
 
 #include "files/FileNames.h"
 #include "framework/Mnemonics.h"
+#include "framework/Speech.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -158,6 +160,17 @@ private:
     QWidget &m_follower;
 };
 
+/// Qt's own panel has labels beside its combo boxes, but none that belongs to them.
+void nameChoices(QFileDialog &dialog)
+{
+    for (const auto &[label, box] : {std::pair{"lookInLabel", "lookInCombo"},
+                                     std::pair{"fileTypeLabel", "fileTypeCombo"}}) {
+        const auto *title = dialog.findChild<QLabel *>(QLatin1String(label));
+        if (auto *choice = dialog.findChild<QComboBox *>(QLatin1String(box)); title && choice)
+            nameChoice(*choice, title->text());
+    }
+}
+
 /// Only a panel of Qt's own has a layout to put it in.
 void addExplanation(QFileDialog &dialog, const QString &text)
 {
@@ -241,6 +254,7 @@ void QtPrompts::showOpenPanel(QWidget *window, const OpenPanel &panel,
         filters.append(inAnyCase(filter));
     dialog->setOption(QFileDialog::HideNameFilterDetails);
     dialog->setNameFilters(filters);
+    nameChoices(*dialog);
     const auto isOther = std::make_shared<bool>(false);
     if (!panel.otherButton.isEmpty())
         addOtherButton(*dialog, panel.otherButton, isOther);
@@ -263,6 +277,7 @@ void QtPrompts::showSavePanel(QWidget *window, const SavePanel &panel,
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setFileMode(QFileDialog::AnyFile);
     dialog->setNameFilters(panel.nameFilters);
+    nameChoices(*dialog);
     dialog->setDefaultSuffix(suggested.suffix());
     dialog->selectFile(readable(suggested.fileName()));
     addExplanation(*dialog, panel.explanation);

@@ -4,7 +4,9 @@
 #include <QAccessibleWidget>
 #include <QApplication>
 #include <QComboBox>
+#include <QLabel>
 #include <QPointer>
+#include <QWindow>
 
 namespace quillet {
 
@@ -19,13 +21,47 @@ constexpr QAccessible::Role speakingRole = QAccessible::AlertMessage;
 constexpr QAccessible::Role speakingRole = QAccessible::Notification;
 #endif
 
+/// A reader would even say that there is an empty one.
+class Speaking : public QAccessibleWidget
+{
+public:
+    explicit Speaking(QWidget *widget) : QAccessibleWidget(widget, speakingRole) {}
+
+    [[nodiscard]] QAccessible::Role role() const override
+    {
+        return text(QAccessible::Name).isEmpty() ? QAccessible::StaticText : speakingRole;
+    }
+    [[nodiscard]] QString text(QAccessible::Text kind) const override
+    {
+        const QString told = QAccessibleWidget::text(kind);
+        const auto *label = qobject_cast<QLabel *>(widget());
+        return told.isEmpty() && label && kind == QAccessible::Name ? label->text() : told;
+    }
+};
+
+void announce(QWidget &widget)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+    QAccessibleAnnouncementEvent announcement(&widget, widget.accessibleName());
+    QAccessible::updateAccessibility(&announcement);
+#else
+    QAccessibleEvent alert(&widget, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+    if (widget.isVisible()) { // or its becoming so will be told
+        QAccessibleEvent shown(&widget, QAccessible::ObjectShow);
+        QAccessible::updateAccessibility(&shown);
+    }
+#endif
+}
+
 QAccessibleInterface *interfaceOf(const QString &, QObject *object)
 {
     auto *widget = qobject_cast<QWidget *>(object);
-    const QVariant role = widget ? widget->property(roleProperty) : QVariant();
-    return role.isValid()
-               ? new QAccessibleWidget(widget, static_cast<QAccessible::Role>(role.toInt()))
-               : nullptr;
+    const QVariant property = widget ? widget->property(roleProperty) : QVariant();
+    if (!property.isValid())
+        return nullptr;
+    const auto role = static_cast<QAccessible::Role>(property.toInt());
+    return role == speakingRole ? new Speaking(widget) : new QAccessibleWidget(widget, role);
 }
 
 } // namespace
@@ -47,17 +83,13 @@ void speak(QWidget &widget, const QString &text)
     widget.setAccessibleName(text);
     if (text.isEmpty())
         return;
-#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
-    QAccessibleAnnouncementEvent announcement(&widget, text);
-    QAccessible::updateAccessibility(&announcement);
-#else
-    QAccessibleEvent alert(&widget, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
-    if (widget.isVisible()) { // or its becoming so will be told
-        QAccessibleEvent shown(&widget, QAccessible::ObjectShow);
-        QAccessible::updateAccessibility(&shown);
-    }
-#endif
+    if (QGuiApplication::focusWindow())
+        return announce(widget);
+    // A program that has just been started is not listened to yet.
+    const auto again = [&widget] { announce(widget); };
+    QObject::connect(
+        qApp, &QGuiApplication::focusWindowChanged, &widget, again,
+        static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
 }
 
 /// Where the name is what is chosen, readers are left with the description.

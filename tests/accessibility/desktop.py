@@ -5,7 +5,6 @@ import pathlib
 import select
 import signal
 import subprocess
-import sys
 
 PATIENCE = float(os.environ.get("QUILLET_PATIENCE", 20))  # seconds; what is awaited mostly takes 0.1
 
@@ -51,13 +50,13 @@ class Desktop:
         self.env["DBUS_SESSION_BUS_ADDRESS"] = first_line(bus.stdout, "dbus-daemon")
         self.start("openbox", "--sm-disable", stderr=subprocess.DEVNULL)
 
+    @staticmethod
+    def stop(process):
+        """At once, as a crash or the end of the power would."""
+        if process.poll() is None:
+            os.killpg(process.pid, signal.SIGKILL)
+        process.wait()
+
     def end(self):
         for process in reversed(self.processes):
-            if process.poll() is None:
-                os.killpg(process.pid, signal.SIGTERM)
-        for process in reversed(self.processes):
-            try:
-                process.wait(PATIENCE)
-            except subprocess.TimeoutExpired:
-                os.killpg(process.pid, signal.SIGKILL)
-                process.wait()
+            self.stop(process)

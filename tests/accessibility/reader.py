@@ -13,7 +13,7 @@ EVENTS = ("object:state-changed", "object:property-change:accessible-name", "win
 MODIFIERS = {"ctrl": 37, "shift": 50, "alt": 64}  # codes of the keys
 NAMED = {"return": 0xFF0D, "escape": 0xFF1B, "tab": 0xFF09, "space": 0x20, "home": 0xFF50,
          "left": 0xFF51, "up": 0xFF52, "right": 0xFF53, "down": 0xFF54, "end": 0xFF57,
-         "f2": 0xFFBF, "menu": 0xFF67}
+         "f1": 0xFFBE, "f2": 0xFFBF, "menu": 0xFF67}
 
 
 def states(thing):
@@ -80,6 +80,9 @@ class Reader:
                 return answer
             assert time.monotonic() < end, f"waited for {what}; spoken: {self.spoken[-20:]}"
             GLib.usleep(10000)
+
+    def said(self, kind, since=0):
+        return [text for each, text in self.spoken[since:] if each == kind]
 
     def hears(self, kind, words, since=0):
         """Waits until something of a kind with these words in it is spoken; returns all of it."""

@@ -53,8 +53,7 @@ ArrangeDialog::ArrangeDialog(const Offer &offer, QWidget *parent)
     for (int place = 0; place < static_cast<int>(rowTitles.size()); ++place) {
         const Row row = makeRow(place, offer);
         auto *title = new QLabel(qtTrId(rowTitles[static_cast<std::size_t>(place)]));
-        nameChoice(*row.direction,
-                   title->text().remove(u'&') + u' ' + qtTrId("kArrangeDirection"));
+        nameChoice(*row.direction, title->text().remove(u'&') + u' ' + qtTrId("kArrangeDirection"));
         title->setBuddy(row.by);
         grid->addWidget(title, place, 0);
         grid->addWidget(row.by, place, 1);

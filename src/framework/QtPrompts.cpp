@@ -163,8 +163,8 @@ private:
 /// Qt's own panel has labels beside its combo boxes, but none that belongs to them.
 void nameChoices(QFileDialog &dialog)
 {
-    for (const auto &[label, box] : {std::pair{"lookInLabel", "lookInCombo"},
-                                     std::pair{"fileTypeLabel", "fileTypeCombo"}}) {
+    for (const auto &[label, box] :
+         {std::pair{"lookInLabel", "lookInCombo"}, std::pair{"fileTypeLabel", "fileTypeCombo"}}) {
         const auto *title = dialog.findChild<QLabel *>(QLatin1String(label));
         if (auto *choice = dialog.findChild<QComboBox *>(QLatin1String(box)); title && choice)
             nameChoice(*choice, title->text());

@@ -8,15 +8,15 @@ class QWidget;
 
 namespace quillet {
 
-/// What a widget is to assistive technology, where Qt takes it for something else. To be said before
-/// anything asks for it, best in the widget's constructor.
+/// What a widget is to assistive technology, where Qt takes it for something else. To be said
+/// before anything asks for it, best in the widget's constructor.
 void setAccessibleRole(QWidget &widget, QAccessible::Role role);
 
 /// Lets a widget speak, wherever the focus is.
 void makeSpeakable(QWidget &widget);
 
-/// Has screen readers say a text, which becomes the name of a widget that may speak. One that is not
-/// visible yet is heard as soon as it is.
+/// Has screen readers say a text, which becomes the name of a widget that may speak. One that is
+/// not visible yet is heard as soon as it is.
 void speak(QWidget &widget, const QString &text);
 
 /// Names a combo box that has no label of its own.

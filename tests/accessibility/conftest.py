@@ -43,12 +43,13 @@ def start(desktop, reader):
                 shutil.copy(SAMPLES / file, desktop.home)
         reader.spoken.clear()
         running.append(desktop.start(PROGRAM, *files, cwd=desktop.home))
-        reader.wait(lambda: reader.said("window"), "the window")
+        reader.wait(lambda: any("active" in reader.states(window) for window in reader.windows()),
+                    "the window")  # to which keys go from then on
         return running[-1]
 
     yield start
     for program in running:
-        assert program.poll() in (None, -signal.SIGKILL)  # no other end was asked for
+        assert program.poll() in (None, -signal.SIGKILL), program.poll()
         desktop.stop(program)
     reader.wait(lambda: not reader.windows(), "the end of the program")
     for name in ("STATE_HOME", "DATA_HOME", "CONFIG_HOME"):

@@ -90,6 +90,8 @@ class Reader:
             return next((text for each, text in self.spoken[since:] if each == kind and words in text), None)
         return self.wait(find, f"{kind}: {words}")
 
+    states = staticmethod(states)
+
     def windows(self):
         return [window for app in pyatspi.Registry.getDesktop(0) if app for window in app
                 if window and is_showing(window)]

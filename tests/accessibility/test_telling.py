@@ -77,7 +77,11 @@ def test_a_damaged_file_is_told_at_the_start(desktop, start, reader):
 
 
 def test_a_sheet_says_its_question_and_gives_the_focus_back(window, reader):
-    reader.press("down", "ctrl+k", "ctrl+w")
+    reader.press("down")
+    reader.hears("focus", "2")
+    reader.press("ctrl+k")
+    reader.hears("notification", "1 station will be skipped")
+    reader.press("ctrl+w")
     question = reader.hears("alert", "Do you want to save")
     assert reader.hears("focus", "Save") == "Save"
     sheet = reader.window(question, "alert")
@@ -90,7 +94,9 @@ def test_a_sheet_says_its_question_and_gives_the_focus_back(window, reader):
 def test_what_was_not_saved_is_offered_again(desktop, start, reader):
     program = start("cable.tll")
     reader.hears("focus", "1")
-    reader.press("down", "ctrl+k")
+    reader.press("down")
+    reader.hears("focus", "2")
+    reader.press("ctrl+k")
     reader.hears("notification", "1 station will be skipped")
     kept = desktop.home / "STATE_HOME"
     reader.wait(lambda: list(kept.glob("Quillet/recovery/*/state")), "what is kept")

@@ -6,11 +6,8 @@
 #include "editor/StationTableModel.h"
 #include "testing/TestMain.h"
 
-#include <QAbstractButton>
-#include <QAccessible>
 #include <QAction>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPainter>
 #include <QRegularExpression>
 #include <QStandardItemModel>
@@ -132,30 +129,6 @@ private slots:
         static const QRegularExpression style(u"<a [^>]*color:(#[0-9a-f]+)"_s);
         const auto colorNow = [&hint] { return QColor(style.match(hint.text()).captured(1)); };
         QTRY_VERIFY(contrast(colorNow(), hint.palette().color(QPalette::Base)) >= 4.5);
-    }
-
-    void marksAndClearButtonHaveNames()
-    {
-        App app;
-        const QMainWindow *window = app.open("a.tll", listOf(2));
-        QVERIFY(window);
-        auto &search = part<QLineEdit>(*window, "searchText");
-        const auto *clear = search.findChild<QAbstractButton *>();
-        QVERIFY(clear);
-        const auto nameOf = [](QAccessibleInterface *item) {
-            return item ? item->text(QAccessible::Name) : QString();
-        };
-        QCOMPARE(
-            nameOf(QAccessible::queryAccessibleInterface(const_cast<QAbstractButton *>(clear))),
-            label("kClearSearch"));
-        QAccessibleInterface *table = QAccessible::queryAccessibleInterface(&tableOf(*window));
-        QVERIFY(table && table->tableInterface());
-        QAccessibleInterface *mark = table->tableInterface()->cellAt(1, 3);
-        QVERIFY(nameOf(mark).contains(u"not checked"_s));
-        QVERIFY(mark->state().checkable && !mark->state().checked);
-        tableOf(*window).model()->setData(tableOf(*window).model()->index(1, 3), Qt::Checked,
-                                          Qt::CheckStateRole);
-        QVERIFY(mark->state().checked && !nameOf(mark).contains(u"not"_s));
     }
 
 private:

@@ -7,7 +7,6 @@
 #include "testing/TestMain.h"
 
 #include <QAbstractButton>
-#include <QAccessible>
 #include <QAction>
 #include <QFile>
 #include <QLabel>
@@ -70,9 +69,6 @@ private slots:
         QCOMPARE(bar.text(), qtTrId("kNoticeDamaged").arg(line).arg(u"B"_s) + u' ' +
                                  qtTrId("kNoticeUnread", 2));
         QCOMPARE(part<QLabel>(*window, "noticeText").textFormat(), Qt::PlainText);
-        const QAccessibleInterface *alert = QAccessible::queryAccessibleInterface(&barOf(*window));
-        QCOMPARE(alert->role(), QAccessible::AlertMessage);
-        QCOMPARE(alert->text(QAccessible::Name), bar.text());
         // Above the table, and next on the way there by keyboard.
         QVERIFY(bar.geometry().bottom() < tableOf(*window).geometry().top());
         part<QWidget>(*window, "filterPop").setFocus();
@@ -81,9 +77,6 @@ private slots:
             QCOMPARE(window->focusWidget()->objectName(), QLatin1String(next));
         }
         QCOMPARE(button(*window, "noticeAction").text(), label("kOpenRepairedCopy"));
-        const QAccessibleInterface *close =
-            QAccessible::queryAccessibleInterface(&button(*window, "noticeClose"));
-        QCOMPARE(close->text(QAccessible::Name), label("kNoticeClose"));
         QTest::keyClick(&button(*window, "noticeClose"), Qt::Key_Space);
         QVERIFY(!bar.isVisible());
     }

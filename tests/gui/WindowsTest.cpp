@@ -10,7 +10,6 @@
 #include "testing/TestMain.h"
 #include "texts/Translations.h"
 
-#include <QAccessible>
 #include <QAction>
 #include <QDialogButtonBox>
 #include <QDir>
@@ -238,24 +237,6 @@ private slots:
                 widget->isVisible())
                 QVERIFY2(visited.contains(widget->objectName()), qPrintable(widget->objectName()));
         }
-    }
-
-    void everyControlHasAName()
-    {
-        App app;
-        const QMainWindow *window = app.open("a.tll", listOf(3));
-        QVERIFY(window);
-        int controls = 0;
-        const QList<QWidget *> widgets = window->findChildren<QWidget *>();
-        for (QWidget *widget : widgets) {
-            if (widget->focusPolicy() == Qt::NoFocus || !widget->isVisible())
-                continue;
-            const QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(widget);
-            QVERIFY2(interface && !interface->text(QAccessible::Name).isEmpty(),
-                     qPrintable(widget->objectName()));
-            ++controls;
-        }
-        QVERIFY(controls >= 10);
     }
 
     /// Those of Qt come from a package of their own.

@@ -1,9 +1,26 @@
 #include "app/Palettes.h"
 
+#include "editor/Contrast.h"
+
 #include <QApplication>
 #include <QPalette>
 
 namespace quillet {
+
+namespace {
+
+constexpr double leastSeen = 1.5; // what is disabled is that pale on a light ground
+
+QColor between(const QColor &ink, const QColor &ground, int percentOfInk)
+{
+    const auto part = [percentOfInk](int inkPart, int groundPart) {
+        return (inkPart * percentOfInk + groundPart * (100 - percentOfInk)) / 100;
+    };
+    return {part(ink.red(), ground.red()), part(ink.green(), ground.green()),
+            part(ink.blue(), ground.blue())};
+}
+
+} // namespace
 
 void useLightPalette()
 {
@@ -30,6 +47,30 @@ void useDarkPalette()
     marks.setColor(QPalette::Base, QColor(0x5E, 0x5E, 0x62));
     for (const char *control : {"QCheckBox", "QRadioButton"})
         QApplication::setPalette(marks, control);
+}
+
+void mendPalette()
+{
+    QPalette palette = QApplication::palette();
+    const QColor ground = palette.color(QPalette::Window);
+    if (contrast(ground, Qt::black) >= leastSeen)
+        return;
+    const QColor ink = palette.color(QPalette::WindowText);
+    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText,
+                                QPalette::PlaceholderText, QPalette::Mid}) {
+            if (contrast(palette.color(group, role), ground) < leastSeen)
+                palette.setColor(group, role, between(ink, ground, 60));
+        }
+    }
+    QApplication::setPalette(palette);
+    QPalette framed = palette;
+    for (const auto role : {QPalette::Base, QPalette::Button})
+        framed.setColor(role, between(ink, ground, 25));
+    framed.setColor(QPalette::PlaceholderText, between(ink, ground, 75));
+    for (const char *control :
+         {"QCheckBox", "QRadioButton", "QLineEdit", "QPushButton", "QToolButton", "QComboBox"})
+        QApplication::setPalette(framed, control);
 }
 
 } // namespace quillet

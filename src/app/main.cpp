@@ -150,5 +150,7 @@ int main(int argc, char *argv[])
         return makePicture(line);
     if (line.isDark)
         useDarkPalette();
+    else
+        mendPalette();
     return line.isHelpWindow ? runHelpWindow() : edit(line, request);
 }

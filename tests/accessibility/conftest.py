@@ -43,8 +43,7 @@ def start(desktop, reader):
                 shutil.copy(SAMPLES / file, desktop.home)
         reader.spoken.clear()
         running.append(desktop.start(PROGRAM, *files, cwd=desktop.home))
-        reader.wait(lambda: any("active" in reader.states(window) for window in reader.windows()),
-                    "the window")  # to which keys go from then on
+        reader.wait(reader.active, "the window")
         return running[-1]
 
     yield start

@@ -5,6 +5,7 @@ import pathlib
 import select
 import signal
 import subprocess
+import tempfile
 
 PATIENCE = float(os.environ.get("QUILLET_PATIENCE", 20))  # seconds; what is awaited mostly takes 0.1
 
@@ -27,9 +28,11 @@ class Desktop:
                     or name == "QTWEBENGINE_DISABLE_SANDBOX"}
         self.env |= {"HOME": str(home), "LC_ALL": "C.UTF-8", "QT_QPA_PLATFORM": "xcb",
                      "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1", "GSETTINGS_BACKEND": "memory"}
-        for name in ("CONFIG_HOME", "DATA_HOME", "STATE_HOME", "CACHE_HOME", "RUNTIME_DIR"):
+        for name in ("CONFIG_HOME", "DATA_HOME", "STATE_HOME", "CACHE_HOME"):
             self.env[f"XDG_{name}"] = str(self.home / name)
-            (self.home / name).mkdir(mode=0o700)
+            (self.home / name).mkdir()
+        self.runtime = tempfile.TemporaryDirectory()  # whose path is short enough for sockets
+        self.env["XDG_RUNTIME_DIR"] = self.runtime.name
 
     def start(self, *command, **more):
         """The process, which ends with the desktop."""
@@ -38,17 +41,20 @@ class Desktop:
         self.processes.append(process)
         return process
 
-    def start_session(self):
+    def start_session(self, *options, screen="1600x1200x24"):
+        """More options are the X server's."""
         out, put = os.pipe()
-        self.start("Xvfb", "-displayfd", str(put), "-screen", "0", "1600x1200x24", "-nolisten", "tcp",
-                   pass_fds=[put], stderr=subprocess.DEVNULL)
+        self.start("Xvfb", "-displayfd", str(put), "-screen", "0", screen, "-nolisten", "tcp",
+                   *options, pass_fds=[put], stderr=subprocess.DEVNULL)
         os.close(put)
         with os.fdopen(out, "rb") as stream:
             self.env["DISPLAY"] = ":" + first_line(stream, "Xvfb")
         bus = self.start("dbus-daemon", "--session", "--nofork", "--print-address",
                          stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
         self.env["DBUS_SESSION_BUS_ADDRESS"] = first_line(bus.stdout, "dbus-daemon")
-        self.start("openbox", "--sm-disable", stderr=subprocess.DEVNULL)
+        manager = self.start("openbox", "--sm-disable", "--startup", "echo it manages",
+                             stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
+        first_line(manager.stdout, "openbox")
 
     @staticmethod
     def stop(process):
@@ -60,3 +66,4 @@ class Desktop:
     def end(self):
         for process in reversed(self.processes):
             self.stop(process)
+        self.runtime.cleanup()

@@ -91,10 +91,15 @@ class Reader:
         return self.wait(find, f"{kind}: {words}")
 
     states = staticmethod(states)
+    parts = staticmethod(parts)
 
     def windows(self):
         return [window for app in pyatspi.Registry.getDesktop(0) if app for window in app
                 if window and is_showing(window)]
+
+    def active(self):
+        """The window to which keys go, if there is one."""
+        return next((window for window in self.windows() if "active" in states(window)), None)
 
     def window(self, words, role=None):
         return self.wait(lambda: next((window for window in self.windows() if words in window.name
@@ -104,6 +109,7 @@ class Reader:
         pyatspi.Registry.generateKeyboardEvent(0, text, pyatspi.KEY_STRING)
 
     def press(self, *chords):
+        """Before a shortcut, hear what the keys before it did; it would be looked at first."""
         for chord in chords:
             *held, key = chord.lower().split("+")
             for name in held:

@@ -131,6 +131,21 @@ private slots:
         QTRY_VERIFY(contrast(colorNow(), hint.palette().color(QPalette::Base)) >= 4.5);
     }
 
+    void nothingIsBlackOnBlack()
+    {
+        QApplication::setPalette(QPalette(Qt::black, Qt::black)); // with what Qt reckons from that
+        mendPalette();
+        const QPalette palette = QApplication::palette();
+        for (const auto ink : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
+            QVERIFY(contrast(palette.color(QPalette::Disabled, ink), Qt::black) >= 3);
+        QVERIFY(contrast(palette.color(QPalette::Mid), Qt::black) >= 3); // the frames
+        const QPalette field = QApplication::palette("QLineEdit");
+        const QColor ground = field.color(QPalette::Base);
+        QVERIFY(contrast(ground, Qt::black) >= 1.5);
+        QVERIFY(contrast(field.color(QPalette::PlaceholderText), ground) >= 4.5);
+        QVERIFY(contrast(field.color(QPalette::Text), ground) >= 7);
+    }
+
 private:
     QPalette m_light = QApplication::palette();
 };

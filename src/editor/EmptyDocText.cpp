@@ -1,6 +1,7 @@
 #include "editor/EmptyDocText.h"
 
 #include "editor/Contrast.h"
+#include "framework/Speech.h"
 
 #include <QEvent>
 
@@ -40,6 +41,16 @@ QString richText(const HintText &row, const QColor &link)
     return text;
 }
 
+QString spokenText(const HintText &row)
+{
+    QStringList parts;
+    for (const char *id : {row.heading, row.text, row.link}) {
+        if (id)
+            parts.append(qtTrId(id));
+    }
+    return parts.join(QLatin1String(". "));
+}
+
 } // namespace
 
 EmptyDocText::EmptyDocText(QWidget *parent) : WrappedLabel(parent)
@@ -48,11 +59,13 @@ EmptyDocText::EmptyDocText(QWidget *parent) : WrappedLabel(parent)
     setAlignment(Qt::AlignCenter);
     setMargin(8);
     setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    makeSpeakable(*this);
     connect(this, &QLabel::linkActivated, this, &EmptyDocText::follow);
 }
 
 void EmptyDocText::showHint(EmptyHint hint)
 {
+    const bool isNews = hint != m_hint;
     m_hint = hint;
     const auto *const row =
         std::find_if(hintTexts.begin(), hintTexts.end(),
@@ -60,6 +73,8 @@ void EmptyDocText::showHint(EmptyHint hint)
     if (row != hintTexts.end())
         setText(richText(*row, linkColor(palette(), QPalette::Base)));
     setFocusPolicy(row != hintTexts.end() && row->link ? Qt::StrongFocus : Qt::NoFocus);
+    if (isNews)
+        speak(*this, row != hintTexts.end() ? spokenText(*row) : QString());
     setVisible(row != hintTexts.end());
 }
 

@@ -3,6 +3,7 @@
 #include "editor/EmptyDocText.h"
 #include "editor/StartPage.h"
 
+#include <QEvent>
 #include <QHeaderView>
 #include <QPushButton>
 #include <QTableView>
@@ -18,7 +19,7 @@ constexpr int margin = 10;
 } // namespace
 
 EmptyPage::EmptyPage(QTableView &covered)
-    : QScrollArea(covered.viewport()), m_covered(covered), m_hint(new EmptyDocText)
+    : QScrollArea(covered.parentWidget()), m_covered(covered), m_hint(new EmptyDocText)
 {
     setObjectName(QStringLiteral("emptyPage"));
     setFrameShape(QFrame::NoFrame);
@@ -33,9 +34,17 @@ EmptyPage::EmptyPage(QTableView &covered)
     m_column->addWidget(m_hint, 0, Qt::AlignHCenter);
     m_column->addStretch(1);
     setWidget(content);
-    auto *whole = new QVBoxLayout(covered.viewport());
-    whole->setContentsMargins(0, 0, 0, 0);
-    whole->addWidget(this);
+    covered.installEventFilter(this);
+    covered.viewport()->installEventFilter(this);
+}
+
+/// Not a part of the table, where assistive technology would find nothing but cells.
+bool EmptyPage::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool isCovered = watched == &m_covered || watched == m_covered.viewport();
+    if (isCovered && (event->type() == QEvent::Resize || event->type() == QEvent::Move))
+        setGeometry(m_covered.viewport()->geometry().translated(m_covered.pos()));
+    return QScrollArea::eventFilter(watched, event);
 }
 
 void EmptyPage::offer(RecentFiles &recentFiles, bool hasGuide)
@@ -82,7 +91,7 @@ void EmptyPage::showStart(bool isStart)
         makeStartPage();
     if (!m_start || m_start->isHidden() != isStart)
         return;
-    const bool hasFocus = m_covered.isAncestorOf(window()->focusWidget());
+    const bool hasFocus = m_covered.hasFocus() || isAncestorOf(window()->focusWidget());
     m_start->setVisible(isStart);
     for (const int end : {0, m_column->count() - 1}) // which have the hint alone in the middle
         m_column->setStretch(end, isStart ? 0 : 1);

@@ -15,7 +15,7 @@ class StartPage;
 
 /// What covers the table while it has no stations to show: the hint and, before a file was opened,
 /// the start page. Scrolls where the window is too small for it, and leaves what is dropped there
-/// to the table.
+/// to what it lies in.
 class EmptyPage : public QScrollArea
 {
     Q_OBJECT
@@ -35,6 +35,7 @@ signals:
     void guideRequested();
 
 protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 

@@ -109,4 +109,8 @@ def test_what_was_not_saved_is_offered_again(desktop, start, reader):
 
 def test_the_window_without_a_file(start, reader):
     start()
-    assert not list(faults(reader.window("Untitled")))
+    reader.hears("notification", "No channel list is open")
+    window = reader.window("Untitled")
+    assert not list(faults(window))
+    offered = [part.name for part in parts(window, "push button") if is_showing(part)]
+    assert any(name.startswith("Open") for name in offered), offered

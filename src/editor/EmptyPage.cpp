@@ -41,8 +41,8 @@ EmptyPage::EmptyPage(QTableView &covered)
 /// Not a part of the table, where assistive technology would find nothing but cells.
 bool EmptyPage::eventFilter(QObject *watched, QEvent *event)
 {
-    const bool isCovered = watched == &m_covered || watched == m_covered.viewport();
-    if (isCovered && (event->type() == QEvent::Resize || event->type() == QEvent::Move))
+    const bool isPlaced = event->type() == QEvent::Resize || event->type() == QEvent::Move;
+    if (isPlaced && (watched == &m_covered || watched->parent() == &m_covered))
         setGeometry(m_covered.viewport()->geometry().translated(m_covered.pos()));
     return QScrollArea::eventFilter(watched, event);
 }

@@ -61,8 +61,8 @@ struct VersionStore::Histories
     [[nodiscard]] bool isWhole() const { return isListed && unread.isEmpty(); }
 };
 
-VersionStore::VersionStore(QString folder, FileOperations &operations, qint64 limit)
-    : m_folder(std::move(folder)), m_operations(operations), m_limit(limit)
+VersionStore::VersionStore(QString folder, FileOperations &operations, const VersionLimits &limits)
+    : m_folder(std::move(folder)), m_operations(operations), m_limits(limits)
 {
 }
 
@@ -195,6 +195,8 @@ bool VersionStore::read(const KeptVersion &version, QByteArray &bytes, Error &er
 bool VersionStore::keep(const QString &path, const QByteArray &bytes, Error &error)
 {
     error = {};
+    if (!m_limits.areKept)
+        return true;
     QString reason;
     for (const char *folder : {"/contents", "/histories"}) {
         if (m_operations.makePrivateFolder(m_folder + QLatin1String(folder), reason))
@@ -268,7 +270,7 @@ bool VersionStore::keepNow(const QString &path, const QByteArray &bytes, bool is
     // Else a content may be another file's, or one that is just being kept.
     const bool mayDrop = isAlone && histories.isWhole();
     if (!mayDrop)
-        own->history->shorten(1 + mostLater);
+        own->history->shorten(1 + m_limits.later);
     if (!write(own->path, own->history->toJSON(), error))
         return false;
     if (mayDrop)
@@ -316,6 +318,14 @@ std::optional<VersionStore::Sizes> VersionStore::contentSizes() const
     return code ? std::nullopt : std::optional(sizes);
 }
 
+std::optional<qint64> VersionStore::used() const
+{
+    const std::optional<Sizes> sizes = contentSizes();
+    if (sizes)
+        return std::accumulate(sizes->cbegin(), sizes->cend(), qint64{0});
+    return isMissing(m_folder) ? std::optional(qint64{0}) : std::nullopt;
+}
+
 /// Takes away the contents that no history tells of; a crash before it was written leaves one. They
 /// stay as long as any history is not what was once written, for it may have told of them.
 void VersionStore::removeUnwanted(const HistoryFiles &files, const QByteArray &justKept,
@@ -346,9 +356,9 @@ void VersionStore::makeRoom(HistoryFiles &files, const QByteArray &justKept, std
     if (!sizes)
         return;
     const auto isTooMuch = [this, &sizes] {
-        return std::accumulate(sizes->cbegin(), sizes->cend(), qint64{0}) > m_limit;
+        return std::accumulate(sizes->cbegin(), sizes->cend(), qint64{0}) > m_limits.bytes;
     };
-    if (!isTooMuch() && ownCount <= 1 + mostLater)
+    if (!isTooMuch() && ownCount <= 1 + m_limits.later)
         return;
     if (isTooMuch())
         removeUnwanted(files, justKept, *sizes);
@@ -371,7 +381,7 @@ void VersionStore::makeRoom(HistoryFiles &files, const QByteArray &justKept, std
             mostVersions = versions.size();
             oldest = *droppable;
         }
-        isDone = !longest || (mostVersions <= 1 + mostLater && !isTooMuch()) ||
+        isDone = !longest || (mostVersions <= 1 + m_limits.later && !isTooMuch()) ||
                  !drop(files, *longest, oldest.digest);
         if (!isDone && !isThere(contentPath(oldest.digest)))
             sizes->remove(oldest.digest);

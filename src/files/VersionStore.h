@@ -16,8 +16,16 @@ namespace quillet {
 
 class FileOperations;
 
+/// How much of what is replaced is kept.
+struct VersionLimits
+{
+    bool areKept = true;              ///< else nothing is kept, and nothing dropped
+    std::size_t later = 10;           ///< versions of a path besides the first
+    qint64 bytes = qint64{200} << 20; ///< that all take together
+};
+
 /// Keeps what this program has replaced of owners' files, in a folder of the user's: of each path
-/// the first content ever for good, and the last ten; equal contents once. What all take together
+/// the first content ever for good, and the last ones; equal contents once. What all take together
 /// is bounded: the oldest of the longest histories go first, never a first one, nor the one that
 /// was just kept. Two programs may use one folder. What is found damaged there is passed over and
 /// left alone, and while something cannot be read nothing is dropped. Of other files than the one
@@ -28,17 +36,16 @@ class FileOperations;
 class VersionStore
 {
 public:
-    static constexpr std::size_t mostLater = 10; ///< versions of a path besides the first
-    static constexpr qint64 usualLimit = qint64{200} << 20;
-
-    /// The operations must outlive the store. The limit is in bytes.
-    VersionStore(QString folder, FileOperations &operations, qint64 limit = usualLimit);
+    /// The operations must outlive the store.
+    VersionStore(QString folder, FileOperations &operations, const VersionLimits &limits = {});
+    /// From the next version on that is kept.
+    void setLimits(const VersionLimits &limits) { m_limits = limits; }
     /// The folder in the user's data.
     [[nodiscard]] static QString standardFolder();
     [[nodiscard]] const QString &folder() const { return m_folder; }
 
     /// Keeps the bytes, which the file there has now and is about to lose. Returns whether they are
-    /// on the disk; if not, why.
+    /// on the disk, or nothing is to be kept; if not, why.
     [[nodiscard]] bool keep(const QString &path, const QByteArray &bytes, Error &error);
     /// What is kept of the file that the path leads to, the newest first.
     [[nodiscard]] std::vector<KeptVersion> versionsOf(const QString &path) const;
@@ -47,6 +54,8 @@ public:
     [[nodiscard]] bool isKnown(const QString &path) const;
     /// The bytes of a version. Fails when they are missing or are not what was kept.
     [[nodiscard]] bool read(const KeptVersion &version, QByteArray &bytes, Error &error) const;
+    /// What all versions of all files take, in bytes; none when the folder cannot be read.
+    [[nodiscard]] std::optional<qint64> used() const;
 
 private:
     struct HistoryFile;
@@ -75,7 +84,7 @@ private:
 
     QString m_folder;
     FileOperations &m_operations;
-    qint64 m_limit;
+    VersionLimits m_limits;
     mutable QHash<QString, std::shared_ptr<HistoryFile>> m_read; ///< by their paths
 };
 

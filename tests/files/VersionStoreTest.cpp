@@ -85,6 +85,25 @@ private slots:
         QCOMPARE(files(u"contents"_s).size(), 11); // and no more lie on the disk
     }
 
+    void limitsMayChange()
+    {
+        VersionStore store = makeStore({.later = 2});
+        const auto keepAll = [&](const QByteArray &letters) {
+            for (const char letter : letters)
+                keep(store, u"a.tll"_s, QByteArray(1, letter));
+        };
+        keepAll("abcd");
+        QCOMPARE(contents(store, u"a.tll"_s), u"d c a*"_s);
+        store.setLimits({.areKept = false, .later = 1});
+        keepAll("e");
+        QCOMPARE(contents(store, u"a.tll"_s), u"d c a*"_s);
+        QCOMPARE(store.used(), std::optional<qint64>(3));
+        store.setLimits({.later = 1});
+        keepAll("f");
+        QCOMPARE(contents(store, u"a.tll"_s), u"f a*"_s);
+        QCOMPARE(store.used(), std::optional<qint64>(2));
+    }
+
     void equalBytesAreKeptOnce()
     {
         VersionStore store = makeStore();
@@ -110,7 +129,7 @@ private slots:
 
     void limitTakesTheOldestOfTheLongestHistories()
     {
-        VersionStore store = makeStore(60);
+        VersionStore store = makeStore({.bytes = 60});
         const auto tens = [](char letter) { return QByteArray(10, letter); };
         for (const char letter : {'a', 'b', 'c'})
             keep(store, u"long.tll"_s, tens(letter));
@@ -235,7 +254,7 @@ private slots:
 
     void nothingIsDroppedThatAHistoryMayTellOf()
     {
-        VersionStore store = makeStore(25);
+        VersionStore store = makeStore({.bytes = 25});
         keep(store, u"a.tll"_s, "0123456789");
         const QString history = historyPath(), aside = m_folder->filePath(u"aside"_s);
         for (const char *bytes : {"first of b", "0123456789"})
@@ -281,9 +300,9 @@ private slots:
     }
 
 private:
-    VersionStore makeStore(qint64 limit = VersionStore::usualLimit)
+    VersionStore makeStore(const VersionLimits &limits = {})
     {
-        return VersionStore(m_folder->filePath(u"store"_s), m_operations, limit);
+        return VersionStore(m_folder->filePath(u"store"_s), m_operations, limits);
     }
     QString path(const QString &name) const
     {

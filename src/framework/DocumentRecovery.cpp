@@ -38,6 +38,15 @@ void DocumentRecovery::continueIn(std::shared_ptr<RecoverySlot> slot, const Reco
     m_changedAt = state.changedAt;
 }
 
+void DocumentRecovery::setOn(bool on)
+{
+    m_isOn = on;
+    if (!on)
+        stopTimers();
+    else if (m_document.hasUnautosavedChanges())
+        startTimers();
+}
+
 void DocumentRecovery::edited()
 {
     m_changedAt = QDateTime::currentDateTime();
@@ -49,6 +58,12 @@ void DocumentRecovery::documentChanged()
     ++m_moment;
     if (!m_document.hasUnautosavedChanges())
         return remove();
+    if (m_isOn)
+        startTimers();
+}
+
+void DocumentRecovery::startTimers()
+{
     m_idle.start();
     if (!m_most.isActive())
         m_most.start();
@@ -74,7 +89,7 @@ void DocumentRecovery::writeNow()
     stopTimers();
     const bool isHandedOver =
         m_handedOver == m_moment && m_writing && *m_writing != Outcome::Failed;
-    if (m_document.hasUnautosavedChanges() && !isHandedOver)
+    if (m_isOn && m_document.hasUnautosavedChanges() && !isHandedOver)
         write();
 }
 
@@ -141,7 +156,7 @@ void DocumentRecovery::wasWritten(quint64 moment, bool isWritten, const Error &e
         return;
     if (m_moment != moment) // timers that ran out meanwhile left the rest to this moment
         writeNow();
-    else if (!isWritten && m_document.hasUnautosavedChanges())
+    else if (m_isOn && !isWritten && m_document.hasUnautosavedChanges())
         m_retry.start();
 }
 

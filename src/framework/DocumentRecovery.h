@@ -36,6 +36,9 @@ public:
     [[nodiscard]] Document &document() const { return m_document; }
     /// Goes on in the place of a document that was brought back with that state.
     void continueIn(std::shared_ptr<RecoverySlot> slot, const RecoveryState &state);
+    /// While it is off nothing is written. What was written stays until there are no changes any
+    /// more; turned on again, it is written anew.
+    void setOn(bool on);
     /// Has it written at once unless it is already; RecoveryWriter::finish() waits for that.
     void writeNow();
     /// Whether all changes are on the disk.
@@ -46,6 +49,7 @@ public:
 private:
     void edited();
     void documentChanged();
+    void startTimers();
     /// Waits for the write under way, if there is one.
     void writeSoon();
     void stopTimers();
@@ -68,7 +72,8 @@ private:
     quint64 m_handedOver = 0;          ///< the moment of the last snapshot
     RecoveryWriter::Writing m_writing; ///< of that; null: it could not be taken
     int m_underway = 0;                ///< snapshots that are not written yet
-    bool m_hasTold = false;            ///< of a failure, since something was written
+    bool m_isOn = true;
+    bool m_hasTold = false; ///< of a failure, since something was written
 };
 
 } // namespace quillet

@@ -29,12 +29,20 @@ DocumentRecovery *RecoveryKeeper::recoveryOf(const Document &document) const
     return found == m_recoveries.end() ? nullptr : found->get();
 }
 
+void RecoveryKeeper::setOn(bool on)
+{
+    m_isOn = on;
+    for (const auto &recovery : m_recoveries)
+        recovery->setOn(on);
+}
+
 void RecoveryKeeper::watch(Document &document)
 {
     if (recoveryOf(document))
         return;
     m_recoveries.push_back(
         std::make_unique<DocumentRecovery>(document, m_store, m_writer, m_timing));
+    m_recoveries.back()->setOn(m_isOn);
     connect(&document, &QObject::destroyed, this, [this, gone = &document] { erase(*gone); });
 }
 

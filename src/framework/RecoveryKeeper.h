@@ -24,6 +24,8 @@ public:
                             QObject *parent = nullptr);
     ~RecoveryKeeper() override;
 
+    /// Whether anything is written from here on; what was written stays for as long as it would.
+    void setOn(bool on);
     void watch(Document &document);
     /// Called when a document is closed: its changes are saved, or nobody wants them.
     void forget(Document &document);
@@ -45,6 +47,7 @@ private:
 
     RecoveryStore &m_store;
     RecoveryTiming m_timing;
+    bool m_isOn = true;
     RecoveryWriter m_writer;
     std::vector<std::unique_ptr<DocumentRecovery>> m_recoveries;
 };

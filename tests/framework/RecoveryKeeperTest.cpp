@@ -191,6 +191,32 @@ private slots:
         QVERIFY(QDir(m_store->root()).isEmpty());
     }
 
+    void offWritesNothing()
+    {
+        const auto kept = [this] {
+            const auto found = m_store->leftovers();
+            return found.empty() ? QByteArray() : found[0].state->content;
+        };
+        watch({1ms, 1ms});
+        m_document->type("a");
+        QTRY_COMPARE(m_operations->writes, 2);
+        m_keeper->setOn(false);
+        m_document->type("b");
+        QVERIFY(!m_keeper->writeNow()); // which a log-out would have to know
+        QCOMPARE(m_operations->writes, 2);
+        const auto other = open(m_folder->filePath(u"other.tll"_s), "other");
+        m_keeper->watch(*other);
+        other->type("c");
+        m_keeper->setOn(true); // both are written now
+        QTRY_COMPARE(m_operations->writes, 5);
+        m_document->saveDocument();
+        m_keeper->setOn(false);
+        other->type("d");
+        m_keeper.reset();
+        QCOMPARE(m_store->leftovers().size(), std::size_t{1});
+        QCOMPARE(kept(), "c"); // what there was when it was turned off
+    }
+
     void failuresAreToldOnce()
     {
         watch({1ms, 1ms});

@@ -11,6 +11,7 @@
 #include "files/NotKeptTexts.h"
 #include "files/Places.h"
 #include "files/SaveJob.h"
+#include "files/Settings.h"
 #include "texts/RehearsalTexts.h"
 
 #include <QDir>
@@ -100,8 +101,11 @@ private:
 ListSaving::ListSaving(const Invocation &invocation, Console &console)
     : m_invocation(invocation), m_console(console)
 {
-    if (!invocation.isSet(Option::NoVersions) && hasHome())
-        m_versions.emplace(VersionStore::standardFolder(), m_operations);
+    if (invocation.isSet(Option::NoVersions) || !hasHome())
+        return;
+    const VersionLimits limits = Settings().versionLimits(); // those of the window
+    if (limits.areKept)
+        m_versions.emplace(VersionStore::standardFolder(), m_operations, limits);
 }
 
 QString ListSaving::wrongUse(const Invocation &invocation)

@@ -128,6 +128,17 @@ def test_versions_are_kept_and_come_back(tool, xml_file):
     assert tool.report("versions", "new.tll")["versions"] == []
 
 
+@pytest.mark.parametrize("settings, kept", [("areKept=false", 0), ("count=2", 3), ("count=x\nspace=-1", 6)])
+def test_versions_are_kept_as_in_the_window(tool, xml_file, settings, kept):
+    file = tool.home / "CONFIG_HOME" / "Quillet" / "Quillet.conf"
+    file.parent.mkdir(parents=True)
+    file.write_text(f"[versions]\n{settings}\n")
+    for target in range(1, 7):
+        tool("move", xml_file, "--named", "Café cable tv", "-t", target + 20, "-i")
+    assert len(tool.report("versions", xml_file)["versions"]) == kept
+    assert file.read_text() == f"[versions]\n{settings}\n"
+
+
 def test_what_changes_nothing_is_not_written(tool, xml_file):
     tool(*EDIT, "-i")
     before = xml_file.stat()

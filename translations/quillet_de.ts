@@ -1058,6 +1058,10 @@
         <source></source>
         <translation>Meine behalten</translation>
     </message>
+    <message id="kLanguageTitle">
+        <source></source>
+        <translation>Deutsch</translation>
+    </message>
     <message id="kLater">
         <source></source>
         <translation>Später</translation>
@@ -1263,7 +1267,7 @@
     </message>
     <message id="kMenuInfo">
         <source></source>
-        <translation>Sender&amp;info</translation>
+        <translation>Sen&amp;derinfo</translation>
     </message>
     <message id="kMenuLock">
         <source></source>
@@ -1304,6 +1308,10 @@
     <message id="kMenuPaste">
         <source></source>
         <translation>Einfü&amp;gen</translation>
+    </message>
+    <message id="kMenuPreferences">
+        <source></source>
+        <translation>E&amp;instellungen …</translation>
     </message>
     <message id="kMenuPrint">
         <source></source>
@@ -1392,6 +1400,22 @@
     <message id="kMenuSwap">
         <source></source>
         <translation>Nummern &amp;tauschen</translation>
+    </message>
+    <message id="kMenuTextLarger">
+        <source></source>
+        <translation>&amp;Größer</translation>
+    </message>
+    <message id="kMenuTextNormal">
+        <source></source>
+        <translation>&amp;Normal</translation>
+    </message>
+    <message id="kMenuTextSize">
+        <source></source>
+        <translation>Schrift&amp;größe</translation>
+    </message>
+    <message id="kMenuTextSmaller">
+        <source></source>
+        <translation>&amp;Kleiner</translation>
     </message>
     <message id="kMenuTV">
         <source></source>
@@ -1712,6 +1736,110 @@
     <message id="kPermissionsFailedReason">
         <source></source>
         <translation>Die Zugriffsrechte der Datei konnten nicht beibehalten werden: %1.</translation>
+    </message>
+    <message id="kPrefColumns">
+        <source></source>
+        <translation>Spalten für:</translation>
+    </message>
+    <message id="kPrefGeneral">
+        <source></source>
+        <translation>Allgemein</translation>
+    </message>
+    <message id="kPrefJSONLists">
+        <source></source>
+        <translation>JSON-Listen</translation>
+    </message>
+    <message id="kPrefKeepChanges">
+        <source></source>
+        <translation>Aufbewahren, um sie nach einem Absturz zurückzuholen</translation>
+    </message>
+    <message id="kPrefKeepChangesNote">
+        <source></source>
+        <translation>Ist das ausgeschaltet, gehen ungespeicherte Änderungen bei einem Absturz verloren. Was schon aufbewahrt ist, bleibt, bis die Liste gespeichert oder geschlossen wird.</translation>
+    </message>
+    <message id="kPrefKeepVersions">
+        <source></source>
+        <translation>Aufheben, was beim Speichern ersetzt wird</translation>
+    </message>
+    <message id="kPrefLanguage">
+        <source></source>
+        <translation>Sprache:</translation>
+    </message>
+    <message id="kPrefLanguageNote">
+        <source></source>
+        <translation>Gilt ab dem nächsten Start von Quillet.</translation>
+    </message>
+    <message id="kPrefLanguageSystem">
+        <source></source>
+        <translation>Wie im System</translation>
+    </message>
+    <message id="kPrefPercent">
+        <source></source>
+        <translation>%1 %</translation>
+    </message>
+    <message id="kPrefQuestions">
+        <source></source>
+        <translation>Rückfragen</translation>
+    </message>
+    <message id="kPrefQuestionsNote">
+        <source></source>
+        <translation>Das gilt nur, wo dabei nichts verloren geht. Bevor Änderungen, Sender oder eine von anderen geänderte Datei verloren gingen, fragt Quillet immer.</translation>
+    </message>
+    <message id="kPrefRepairJSON">
+        <source></source>
+        <translation>JSON-Listen ohne Rückfrage repariert speichern</translation>
+    </message>
+    <message id="kPrefSaving">
+        <source></source>
+        <translation>Speichern</translation>
+    </message>
+    <message id="kPrefShowFolder">
+        <source></source>
+        <translation>Ordner anzeigen</translation>
+    </message>
+    <message id="kPrefTable">
+        <source></source>
+        <translation>Tabelle</translation>
+    </message>
+    <message id="kPrefTextSize">
+        <source></source>
+        <translation>Schriftgröße:</translation>
+    </message>
+    <message id="kPrefTitle">
+        <source></source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message id="kPrefUnsaved">
+        <source></source>
+        <translation>Ungespeicherte Änderungen</translation>
+    </message>
+    <message id="kPrefUsual">
+        <source></source>
+        <translation>Voreinstellungen</translation>
+    </message>
+    <message id="kPrefVersionCount">
+        <source></source>
+        <translation>Je Datei, außer der ersten:</translation>
+    </message>
+    <message id="kPrefVersions">
+        <source></source>
+        <translation>Frühere Versionen</translation>
+    </message>
+    <message id="kPrefVersionsNote">
+        <source></source>
+        <translation>Die erste Version jeder Datei bleibt immer. Über den Grenzen gehen beim nächsten Speichern die ältesten. Wird das Aufheben ausgeschaltet, bleibt alles Vorhandene. quillet-cli hält sich ebenfalls daran.</translation>
+    </message>
+    <message id="kPrefVersionSpace">
+        <source></source>
+        <translation>Platz für alle zusammen:</translation>
+    </message>
+    <message id="kPrefVersionsUsed">
+        <source></source>
+        <translation>Belegt: %1.</translation>
+    </message>
+    <message id="kPrefXMLLists">
+        <source></source>
+        <translation>XML-Listen</translation>
     </message>
     <message id="kPreviewAnew">
         <source></source>
@@ -2484,6 +2612,10 @@ Diese folgen ab Nummer: %3</translation>
     <message id="kTipTooFew">
         <source></source>
         <translation>Es gibt nicht genug Sender zum Anordnen</translation>
+    </message>
+    <message id="kTipVersionsOff">
+        <source></source>
+        <translation>In den Einstellungen ist ausgeschaltet, dass frühere Versionen aufgehoben werden</translation>
     </message>
     <message id="kTipVersionStations">
         <source></source>

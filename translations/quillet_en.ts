@@ -1058,6 +1058,10 @@
         <source></source>
         <translation>Keep Mine</translation>
     </message>
+    <message id="kLanguageTitle">
+        <source></source>
+        <translation>English</translation>
+    </message>
     <message id="kLater">
         <source></source>
         <translation>Later</translation>
@@ -1183,7 +1187,7 @@
     </message>
     <message id="kMenuCopy">
         <source></source>
-        <translation>&amp;Copy</translation>
+        <translation>Cop&amp;y</translation>
     </message>
     <message id="kMenuEdit">
         <source></source>
@@ -1305,6 +1309,10 @@
         <source></source>
         <translation>&amp;Paste</translation>
     </message>
+    <message id="kMenuPreferences">
+        <source></source>
+        <translation>Preferen&amp;ces…</translation>
+    </message>
     <message id="kMenuPrint">
         <source></source>
         <translation>&amp;Print…</translation>
@@ -1392,6 +1400,22 @@
     <message id="kMenuSwap">
         <source></source>
         <translation>S&amp;wap Numbers</translation>
+    </message>
+    <message id="kMenuTextLarger">
+        <source></source>
+        <translation>&amp;Larger</translation>
+    </message>
+    <message id="kMenuTextNormal">
+        <source></source>
+        <translation>&amp;Normal</translation>
+    </message>
+    <message id="kMenuTextSize">
+        <source></source>
+        <translation>T&amp;ext Size</translation>
+    </message>
+    <message id="kMenuTextSmaller">
+        <source></source>
+        <translation>&amp;Smaller</translation>
     </message>
     <message id="kMenuTV">
         <source></source>
@@ -1712,6 +1736,110 @@
     <message id="kPermissionsFailedReason">
         <source></source>
         <translation>The file’s access permissions could not be kept: %1.</translation>
+    </message>
+    <message id="kPrefColumns">
+        <source></source>
+        <translation>Columns for:</translation>
+    </message>
+    <message id="kPrefGeneral">
+        <source></source>
+        <translation>General</translation>
+    </message>
+    <message id="kPrefJSONLists">
+        <source></source>
+        <translation>JSON lists</translation>
+    </message>
+    <message id="kPrefKeepChanges">
+        <source></source>
+        <translation>Keep them, to bring them back after a crash</translation>
+    </message>
+    <message id="kPrefKeepChangesNote">
+        <source></source>
+        <translation>When this is off, a crash loses unsaved changes. What was already kept stays until its list is saved or closed.</translation>
+    </message>
+    <message id="kPrefKeepVersions">
+        <source></source>
+        <translation>Keep what saving replaces</translation>
+    </message>
+    <message id="kPrefLanguage">
+        <source></source>
+        <translation>Language:</translation>
+    </message>
+    <message id="kPrefLanguageNote">
+        <source></source>
+        <translation>Takes effect the next time Quillet starts.</translation>
+    </message>
+    <message id="kPrefLanguageSystem">
+        <source></source>
+        <translation>Same as the system</translation>
+    </message>
+    <message id="kPrefPercent">
+        <source></source>
+        <translation>%1%</translation>
+    </message>
+    <message id="kPrefQuestions">
+        <source></source>
+        <translation>Questions</translation>
+    </message>
+    <message id="kPrefQuestionsNote">
+        <source></source>
+        <translation>Only where that loses nothing. Quillet always asks before changes, stations or what others wrote to a file would be lost.</translation>
+    </message>
+    <message id="kPrefRepairJSON">
+        <source></source>
+        <translation>Save JSON lists repaired without asking</translation>
+    </message>
+    <message id="kPrefSaving">
+        <source></source>
+        <translation>Saving</translation>
+    </message>
+    <message id="kPrefShowFolder">
+        <source></source>
+        <translation>Show Folder</translation>
+    </message>
+    <message id="kPrefTable">
+        <source></source>
+        <translation>Table</translation>
+    </message>
+    <message id="kPrefTextSize">
+        <source></source>
+        <translation>Text size:</translation>
+    </message>
+    <message id="kPrefTitle">
+        <source></source>
+        <translation>Preferences</translation>
+    </message>
+    <message id="kPrefUnsaved">
+        <source></source>
+        <translation>Unsaved changes</translation>
+    </message>
+    <message id="kPrefUsual">
+        <source></source>
+        <translation>Restore Defaults</translation>
+    </message>
+    <message id="kPrefVersionCount">
+        <source></source>
+        <translation>Of each file, besides the first:</translation>
+    </message>
+    <message id="kPrefVersions">
+        <source></source>
+        <translation>Earlier versions</translation>
+    </message>
+    <message id="kPrefVersionsNote">
+        <source></source>
+        <translation>The first version of each file always stays. Above the limits the oldest go at the next save. Turning this off removes nothing. quillet-cli goes by these settings, too.</translation>
+    </message>
+    <message id="kPrefVersionSpace">
+        <source></source>
+        <translation>Space for all of them:</translation>
+    </message>
+    <message id="kPrefVersionsUsed">
+        <source></source>
+        <translation>In use: %1.</translation>
+    </message>
+    <message id="kPrefXMLLists">
+        <source></source>
+        <translation>XML lists</translation>
     </message>
     <message id="kPreviewAnew">
         <source></source>
@@ -2484,6 +2612,10 @@ These continue from number: %3</translation>
     <message id="kTipTooFew">
         <source></source>
         <translation>There are not enough stations to arrange</translation>
+    </message>
+    <message id="kTipVersionsOff">
+        <source></source>
+        <translation>Keeping earlier versions is turned off in the preferences</translation>
     </message>
     <message id="kTipVersionStations">
         <source></source>

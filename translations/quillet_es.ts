@@ -1058,6 +1058,10 @@
         <source></source>
         <translation>Conservar la mía</translation>
     </message>
+    <message id="kLanguageTitle">
+        <source></source>
+        <translation>Español</translation>
+    </message>
     <message id="kLater">
         <source></source>
         <translation>Más tarde</translation>
@@ -1203,7 +1207,7 @@
     </message>
     <message id="kMenuFillGaps">
         <source></source>
-        <translation>Re&amp;llenar huecos</translation>
+        <translation>Rellenar &amp;huecos</translation>
     </message>
     <message id="kMenuFilterAll">
         <source></source>
@@ -1279,7 +1283,7 @@
     </message>
     <message id="kMenuMoveToBottom">
         <source></source>
-        <translation>Mover al &amp;final</translation>
+        <translation>Mover a&amp;l final</translation>
     </message>
     <message id="kMenuMoveToTop">
         <source></source>
@@ -1304,6 +1308,10 @@
     <message id="kMenuPaste">
         <source></source>
         <translation>Pe&amp;gar</translation>
+    </message>
+    <message id="kMenuPreferences">
+        <source></source>
+        <translation>Pre&amp;ferencias…</translation>
     </message>
     <message id="kMenuPrint">
         <source></source>
@@ -1392,6 +1400,22 @@
     <message id="kMenuSwap">
         <source></source>
         <translation>In&amp;tercambiar números</translation>
+    </message>
+    <message id="kMenuTextLarger">
+        <source></source>
+        <translation>Más &amp;grande</translation>
+    </message>
+    <message id="kMenuTextNormal">
+        <source></source>
+        <translation>&amp;Normal</translation>
+    </message>
+    <message id="kMenuTextSize">
+        <source></source>
+        <translation>Tamaño del t&amp;exto</translation>
+    </message>
+    <message id="kMenuTextSmaller">
+        <source></source>
+        <translation>Más &amp;pequeño</translation>
     </message>
     <message id="kMenuTV">
         <source></source>
@@ -1712,6 +1736,110 @@
     <message id="kPermissionsFailedReason">
         <source></source>
         <translation>No se han podido conservar los permisos de acceso del archivo: %1.</translation>
+    </message>
+    <message id="kPrefColumns">
+        <source></source>
+        <translation>Columnas para:</translation>
+    </message>
+    <message id="kPrefGeneral">
+        <source></source>
+        <translation>General</translation>
+    </message>
+    <message id="kPrefJSONLists">
+        <source></source>
+        <translation>Listas JSON</translation>
+    </message>
+    <message id="kPrefKeepChanges">
+        <source></source>
+        <translation>Conservarlos para recuperarlos tras un fallo</translation>
+    </message>
+    <message id="kPrefKeepChangesNote">
+        <source></source>
+        <translation>Si está desactivado, un fallo hace perder los cambios sin guardar. Lo ya conservado permanece hasta que la lista se guarde o se cierre.</translation>
+    </message>
+    <message id="kPrefKeepVersions">
+        <source></source>
+        <translation>Conservar lo que se sustituye al guardar</translation>
+    </message>
+    <message id="kPrefLanguage">
+        <source></source>
+        <translation>Idioma:</translation>
+    </message>
+    <message id="kPrefLanguageNote">
+        <source></source>
+        <translation>Se aplicará la próxima vez que se inicie Quillet.</translation>
+    </message>
+    <message id="kPrefLanguageSystem">
+        <source></source>
+        <translation>La del sistema</translation>
+    </message>
+    <message id="kPrefPercent">
+        <source></source>
+        <translation>%1 %</translation>
+    </message>
+    <message id="kPrefQuestions">
+        <source></source>
+        <translation>Preguntas</translation>
+    </message>
+    <message id="kPrefQuestionsNote">
+        <source></source>
+        <translation>Solo si así no se pierde nada. Quillet siempre pregunta antes de que se pierdan cambios, canales o lo que otros han escrito en un archivo.</translation>
+    </message>
+    <message id="kPrefRepairJSON">
+        <source></source>
+        <translation>Guardar reparadas las listas JSON sin preguntar</translation>
+    </message>
+    <message id="kPrefSaving">
+        <source></source>
+        <translation>Guardar</translation>
+    </message>
+    <message id="kPrefShowFolder">
+        <source></source>
+        <translation>Mostrar carpeta</translation>
+    </message>
+    <message id="kPrefTable">
+        <source></source>
+        <translation>Tabla</translation>
+    </message>
+    <message id="kPrefTextSize">
+        <source></source>
+        <translation>Tamaño del texto:</translation>
+    </message>
+    <message id="kPrefTitle">
+        <source></source>
+        <translation>Preferencias</translation>
+    </message>
+    <message id="kPrefUnsaved">
+        <source></source>
+        <translation>Cambios sin guardar</translation>
+    </message>
+    <message id="kPrefUsual">
+        <source></source>
+        <translation>Restaurar valores predeterminados</translation>
+    </message>
+    <message id="kPrefVersionCount">
+        <source></source>
+        <translation>De cada archivo, además de la primera:</translation>
+    </message>
+    <message id="kPrefVersions">
+        <source></source>
+        <translation>Versiones anteriores</translation>
+    </message>
+    <message id="kPrefVersionsNote">
+        <source></source>
+        <translation>La primera versión de cada archivo permanece siempre. Si se superan los límites, las más antiguas se eliminan al guardar la próxima vez. Desactivarlo no elimina nada. quillet-cli también sigue estos ajustes.</translation>
+    </message>
+    <message id="kPrefVersionSpace">
+        <source></source>
+        <translation>Espacio para todas:</translation>
+    </message>
+    <message id="kPrefVersionsUsed">
+        <source></source>
+        <translation>En uso: %1.</translation>
+    </message>
+    <message id="kPrefXMLLists">
+        <source></source>
+        <translation>Listas XML</translation>
     </message>
     <message id="kPreviewAnew">
         <source></source>
@@ -2484,6 +2612,10 @@ Estos continúan a partir del número: %3</translation>
     <message id="kTipTooFew">
         <source></source>
         <translation>No hay suficientes canales que ordenar</translation>
+    </message>
+    <message id="kTipVersionsOff">
+        <source></source>
+        <translation>En las preferencias está desactivado conservar versiones anteriores</translation>
     </message>
     <message id="kTipVersionStations">
         <source></source>

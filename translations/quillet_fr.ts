@@ -1058,6 +1058,10 @@
         <source></source>
         <translation>Garder la mienne</translation>
     </message>
+    <message id="kLanguageTitle">
+        <source></source>
+        <translation>Français</translation>
+    </message>
     <message id="kLater">
         <source></source>
         <translation>Plus tard</translation>
@@ -1305,6 +1309,10 @@
         <source></source>
         <translation>C&amp;oller</translation>
     </message>
+    <message id="kMenuPreferences">
+        <source></source>
+        <translation>Pré&amp;férences…</translation>
+    </message>
     <message id="kMenuPrint">
         <source></source>
         <translation>&amp;Imprimer…</translation>
@@ -1392,6 +1400,22 @@
     <message id="kMenuSwap">
         <source></source>
         <translation>Échan&amp;ger les numéros</translation>
+    </message>
+    <message id="kMenuTextLarger">
+        <source></source>
+        <translation>Plus &amp;grande</translation>
+    </message>
+    <message id="kMenuTextNormal">
+        <source></source>
+        <translation>&amp;Normale</translation>
+    </message>
+    <message id="kMenuTextSize">
+        <source></source>
+        <translation>Taille du te&amp;xte</translation>
+    </message>
+    <message id="kMenuTextSmaller">
+        <source></source>
+        <translation>Plus &amp;petite</translation>
     </message>
     <message id="kMenuTV">
         <source></source>
@@ -1712,6 +1736,110 @@
     <message id="kPermissionsFailedReason">
         <source></source>
         <translation>Impossible de conserver les droits d’accès du fichier : %1.</translation>
+    </message>
+    <message id="kPrefColumns">
+        <source></source>
+        <translation>Colonnes pour :</translation>
+    </message>
+    <message id="kPrefGeneral">
+        <source></source>
+        <translation>Général</translation>
+    </message>
+    <message id="kPrefJSONLists">
+        <source></source>
+        <translation>Listes JSON</translation>
+    </message>
+    <message id="kPrefKeepChanges">
+        <source></source>
+        <translation>Les conserver pour les récupérer après un plantage</translation>
+    </message>
+    <message id="kPrefKeepChangesNote">
+        <source></source>
+        <translation>Sans cela, un plantage fait perdre les modifications non enregistrées. Ce qui est déjà conservé le reste jusqu’à l’enregistrement ou la fermeture de la liste.</translation>
+    </message>
+    <message id="kPrefKeepVersions">
+        <source></source>
+        <translation>Conserver ce que l’enregistrement remplace</translation>
+    </message>
+    <message id="kPrefLanguage">
+        <source></source>
+        <translation>Langue :</translation>
+    </message>
+    <message id="kPrefLanguageNote">
+        <source></source>
+        <translation>Prend effet au prochain démarrage de Quillet.</translation>
+    </message>
+    <message id="kPrefLanguageSystem">
+        <source></source>
+        <translation>Celle du système</translation>
+    </message>
+    <message id="kPrefPercent">
+        <source></source>
+        <translation>%1 %</translation>
+    </message>
+    <message id="kPrefQuestions">
+        <source></source>
+        <translation>Questions</translation>
+    </message>
+    <message id="kPrefQuestionsNote">
+        <source></source>
+        <translation>Seulement si rien n’est perdu. Quillet demande toujours avant que des modifications, des chaînes ou ce que d’autres ont écrit dans un fichier ne soient perdus.</translation>
+    </message>
+    <message id="kPrefRepairJSON">
+        <source></source>
+        <translation>Enregistrer les listes JSON réparées sans demander</translation>
+    </message>
+    <message id="kPrefSaving">
+        <source></source>
+        <translation>Enregistrement</translation>
+    </message>
+    <message id="kPrefShowFolder">
+        <source></source>
+        <translation>Afficher le dossier</translation>
+    </message>
+    <message id="kPrefTable">
+        <source></source>
+        <translation>Tableau</translation>
+    </message>
+    <message id="kPrefTextSize">
+        <source></source>
+        <translation>Taille du texte :</translation>
+    </message>
+    <message id="kPrefTitle">
+        <source></source>
+        <translation>Préférences</translation>
+    </message>
+    <message id="kPrefUnsaved">
+        <source></source>
+        <translation>Modifications non enregistrées</translation>
+    </message>
+    <message id="kPrefUsual">
+        <source></source>
+        <translation>Valeurs par défaut</translation>
+    </message>
+    <message id="kPrefVersionCount">
+        <source></source>
+        <translation>Par fichier, en plus de la première :</translation>
+    </message>
+    <message id="kPrefVersions">
+        <source></source>
+        <translation>Versions antérieures</translation>
+    </message>
+    <message id="kPrefVersionsNote">
+        <source></source>
+        <translation>La première version de chaque fichier reste toujours. Au-delà des limites, les plus anciennes disparaissent au prochain enregistrement. Désactiver l’option ne supprime rien. quillet-cli suit aussi ces réglages.</translation>
+    </message>
+    <message id="kPrefVersionSpace">
+        <source></source>
+        <translation>Espace pour toutes :</translation>
+    </message>
+    <message id="kPrefVersionsUsed">
+        <source></source>
+        <translation>Espace utilisé : %1.</translation>
+    </message>
+    <message id="kPrefXMLLists">
+        <source></source>
+        <translation>Listes XML</translation>
     </message>
     <message id="kPreviewAnew">
         <source></source>
@@ -2484,6 +2612,10 @@ Ces dernières suivent à partir du numéro : %3</translation>
     <message id="kTipTooFew">
         <source></source>
         <translation>Il n’y a pas assez de chaînes à classer</translation>
+    </message>
+    <message id="kTipVersionsOff">
+        <source></source>
+        <translation>La conservation des versions antérieures est désactivée dans les préférences</translation>
     </message>
     <message id="kTipVersionStations">
         <source></source>

@@ -1058,6 +1058,10 @@
         <source></source>
         <translation>Mantieni la mia</translation>
     </message>
+    <message id="kLanguageTitle">
+        <source></source>
+        <translation>Italiano</translation>
+    </message>
     <message id="kLater">
         <source></source>
         <translation>Più tardi</translation>
@@ -1203,7 +1207,7 @@
     </message>
     <message id="kMenuFillGaps">
         <source></source>
-        <translation>Riempi i v&amp;uoti</translation>
+        <translation>Riempi i &amp;vuoti</translation>
     </message>
     <message id="kMenuFilterAll">
         <source></source>
@@ -1305,6 +1309,10 @@
         <source></source>
         <translation>Incolla &amp;qui</translation>
     </message>
+    <message id="kMenuPreferences">
+        <source></source>
+        <translation>Prefere&amp;nze…</translation>
+    </message>
     <message id="kMenuPrint">
         <source></source>
         <translation>S&amp;tampa…</translation>
@@ -1339,7 +1347,7 @@
     </message>
     <message id="kMenuRename">
         <source></source>
-        <translation>Ri&amp;nomina</translation>
+        <translation>Rino&amp;mina</translation>
     </message>
     <message id="kMenuRevert">
         <source></source>
@@ -1391,7 +1399,23 @@
     </message>
     <message id="kMenuSwap">
         <source></source>
-        <translation>Sca&amp;mbia i numeri</translation>
+        <translation>Scambia i n&amp;umeri</translation>
+    </message>
+    <message id="kMenuTextLarger">
+        <source></source>
+        <translation>Più &amp;grande</translation>
+    </message>
+    <message id="kMenuTextNormal">
+        <source></source>
+        <translation>&amp;Normale</translation>
+    </message>
+    <message id="kMenuTextSize">
+        <source></source>
+        <translation>Dimensione del t&amp;esto</translation>
+    </message>
+    <message id="kMenuTextSmaller">
+        <source></source>
+        <translation>Più &amp;piccola</translation>
     </message>
     <message id="kMenuTV">
         <source></source>
@@ -1712,6 +1736,110 @@
     <message id="kPermissionsFailedReason">
         <source></source>
         <translation>Impossibile mantenere i permessi di accesso del file: %1.</translation>
+    </message>
+    <message id="kPrefColumns">
+        <source></source>
+        <translation>Colonne per:</translation>
+    </message>
+    <message id="kPrefGeneral">
+        <source></source>
+        <translation>Generale</translation>
+    </message>
+    <message id="kPrefJSONLists">
+        <source></source>
+        <translation>Liste JSON</translation>
+    </message>
+    <message id="kPrefKeepChanges">
+        <source></source>
+        <translation>Conservale per recuperarle dopo un arresto anomalo</translation>
+    </message>
+    <message id="kPrefKeepChangesNote">
+        <source></source>
+        <translation>Se è disattivato, un arresto anomalo fa perdere le modifiche non salvate. Ciò che è già conservato resta finché la lista non viene salvata o chiusa.</translation>
+    </message>
+    <message id="kPrefKeepVersions">
+        <source></source>
+        <translation>Conserva ciò che il salvataggio sostituisce</translation>
+    </message>
+    <message id="kPrefLanguage">
+        <source></source>
+        <translation>Lingua:</translation>
+    </message>
+    <message id="kPrefLanguageNote">
+        <source></source>
+        <translation>Ha effetto dal prossimo avvio di Quillet.</translation>
+    </message>
+    <message id="kPrefLanguageSystem">
+        <source></source>
+        <translation>Quella del sistema</translation>
+    </message>
+    <message id="kPrefPercent">
+        <source></source>
+        <translation>%1%</translation>
+    </message>
+    <message id="kPrefQuestions">
+        <source></source>
+        <translation>Domande</translation>
+    </message>
+    <message id="kPrefQuestionsNote">
+        <source></source>
+        <translation>Solo se non si perde nulla. Quillet chiede sempre prima che vadano persi modifiche, canali o ciò che altri hanno scritto in un file.</translation>
+    </message>
+    <message id="kPrefRepairJSON">
+        <source></source>
+        <translation>Salva riparate le liste JSON senza chiedere</translation>
+    </message>
+    <message id="kPrefSaving">
+        <source></source>
+        <translation>Salvataggio</translation>
+    </message>
+    <message id="kPrefShowFolder">
+        <source></source>
+        <translation>Mostra cartella</translation>
+    </message>
+    <message id="kPrefTable">
+        <source></source>
+        <translation>Tabella</translation>
+    </message>
+    <message id="kPrefTextSize">
+        <source></source>
+        <translation>Dimensione del testo:</translation>
+    </message>
+    <message id="kPrefTitle">
+        <source></source>
+        <translation>Preferenze</translation>
+    </message>
+    <message id="kPrefUnsaved">
+        <source></source>
+        <translation>Modifiche non salvate</translation>
+    </message>
+    <message id="kPrefUsual">
+        <source></source>
+        <translation>Ripristina predefiniti</translation>
+    </message>
+    <message id="kPrefVersionCount">
+        <source></source>
+        <translation>Per ogni file, oltre alla prima:</translation>
+    </message>
+    <message id="kPrefVersions">
+        <source></source>
+        <translation>Versioni precedenti</translation>
+    </message>
+    <message id="kPrefVersionsNote">
+        <source></source>
+        <translation>La prima versione di ogni file resta sempre. Oltre i limiti, al salvataggio successivo vengono eliminate le più vecchie. Disattivare l’opzione non elimina nulla. Anche quillet-cli segue queste impostazioni.</translation>
+    </message>
+    <message id="kPrefVersionSpace">
+        <source></source>
+        <translation>Spazio per tutte:</translation>
+    </message>
+    <message id="kPrefVersionsUsed">
+        <source></source>
+        <translation>In uso: %1.</translation>
+    </message>
+    <message id="kPrefXMLLists">
+        <source></source>
+        <translation>Liste XML</translation>
     </message>
     <message id="kPreviewAnew">
         <source></source>
@@ -2484,6 +2612,10 @@ Questi proseguono dal numero: %3</translation>
     <message id="kTipTooFew">
         <source></source>
         <translation>Non ci sono abbastanza canali da ordinare</translation>
+    </message>
+    <message id="kTipVersionsOff">
+        <source></source>
+        <translation>La conservazione delle versioni precedenti è disattivata nelle preferenze</translation>
     </message>
     <message id="kTipVersionStations">
         <source></source>

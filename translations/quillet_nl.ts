@@ -1058,6 +1058,10 @@
         <source></source>
         <translation>Mijn versie behouden</translation>
     </message>
+    <message id="kLanguageTitle">
+        <source></source>
+        <translation>Nederlands</translation>
+    </message>
     <message id="kLater">
         <source></source>
         <translation>Later</translation>
@@ -1305,6 +1309,10 @@
         <source></source>
         <translation>&amp;Plakken</translation>
     </message>
+    <message id="kMenuPreferences">
+        <source></source>
+        <translation>Ins&amp;tellingen…</translation>
+    </message>
     <message id="kMenuPrint">
         <source></source>
         <translation>Af&amp;drukken…</translation>
@@ -1392,6 +1400,22 @@
     <message id="kMenuSwap">
         <source></source>
         <translation>Nummers &amp;wisselen</translation>
+    </message>
+    <message id="kMenuTextLarger">
+        <source></source>
+        <translation>&amp;Groter</translation>
+    </message>
+    <message id="kMenuTextNormal">
+        <source></source>
+        <translation>&amp;Normaal</translation>
+    </message>
+    <message id="kMenuTextSize">
+        <source></source>
+        <translation>T&amp;ekstgrootte</translation>
+    </message>
+    <message id="kMenuTextSmaller">
+        <source></source>
+        <translation>&amp;Kleiner</translation>
     </message>
     <message id="kMenuTV">
         <source></source>
@@ -1712,6 +1736,110 @@
     <message id="kPermissionsFailedReason">
         <source></source>
         <translation>De toegangsrechten van het bestand konden niet worden behouden: %1.</translation>
+    </message>
+    <message id="kPrefColumns">
+        <source></source>
+        <translation>Kolommen voor:</translation>
+    </message>
+    <message id="kPrefGeneral">
+        <source></source>
+        <translation>Algemeen</translation>
+    </message>
+    <message id="kPrefJSONLists">
+        <source></source>
+        <translation>JSON-lijsten</translation>
+    </message>
+    <message id="kPrefKeepChanges">
+        <source></source>
+        <translation>Bewaren, om ze na een crash terug te halen</translation>
+    </message>
+    <message id="kPrefKeepChangesNote">
+        <source></source>
+        <translation>Als dit uit staat, gaan niet-opgeslagen wijzigingen bij een crash verloren. Wat al bewaard is, blijft tot de lijst wordt opgeslagen of gesloten.</translation>
+    </message>
+    <message id="kPrefKeepVersions">
+        <source></source>
+        <translation>Bewaren wat bij het opslaan wordt vervangen</translation>
+    </message>
+    <message id="kPrefLanguage">
+        <source></source>
+        <translation>Programmataal:</translation>
+    </message>
+    <message id="kPrefLanguageNote">
+        <source></source>
+        <translation>Geldt vanaf de volgende keer dat Quillet start.</translation>
+    </message>
+    <message id="kPrefLanguageSystem">
+        <source></source>
+        <translation>Die van het systeem</translation>
+    </message>
+    <message id="kPrefPercent">
+        <source></source>
+        <translation>%1%</translation>
+    </message>
+    <message id="kPrefQuestions">
+        <source></source>
+        <translation>Vragen</translation>
+    </message>
+    <message id="kPrefQuestionsNote">
+        <source></source>
+        <translation>Alleen als er niets verloren gaat. Quillet vraagt het altijd voordat wijzigingen, zenders of wat anderen in een bestand schreven, verloren gaan.</translation>
+    </message>
+    <message id="kPrefRepairJSON">
+        <source></source>
+        <translation>JSON-lijsten zonder vragen hersteld opslaan</translation>
+    </message>
+    <message id="kPrefSaving">
+        <source></source>
+        <translation>Opslaan</translation>
+    </message>
+    <message id="kPrefShowFolder">
+        <source></source>
+        <translation>Map tonen</translation>
+    </message>
+    <message id="kPrefTable">
+        <source></source>
+        <translation>Tabel</translation>
+    </message>
+    <message id="kPrefTextSize">
+        <source></source>
+        <translation>Tekstgrootte:</translation>
+    </message>
+    <message id="kPrefTitle">
+        <source></source>
+        <translation>Instellingen</translation>
+    </message>
+    <message id="kPrefUnsaved">
+        <source></source>
+        <translation>Niet-opgeslagen wijzigingen</translation>
+    </message>
+    <message id="kPrefUsual">
+        <source></source>
+        <translation>Standaardwaarden herstellen</translation>
+    </message>
+    <message id="kPrefVersionCount">
+        <source></source>
+        <translation>Per bestand, naast de eerste:</translation>
+    </message>
+    <message id="kPrefVersions">
+        <source></source>
+        <translation>Eerdere versies</translation>
+    </message>
+    <message id="kPrefVersionsNote">
+        <source></source>
+        <translation>De eerste versie van elk bestand blijft altijd. Boven de grenzen verdwijnen de oudste bij de volgende keer opslaan. Uitschakelen verwijdert niets. Ook quillet-cli houdt zich hieraan.</translation>
+    </message>
+    <message id="kPrefVersionSpace">
+        <source></source>
+        <translation>Ruimte voor alle samen:</translation>
+    </message>
+    <message id="kPrefVersionsUsed">
+        <source></source>
+        <translation>In gebruik: %1.</translation>
+    </message>
+    <message id="kPrefXMLLists">
+        <source></source>
+        <translation>XML-lijsten</translation>
     </message>
     <message id="kPreviewAnew">
         <source></source>
@@ -2484,6 +2612,10 @@ Deze gaan verder vanaf nummer: %3</translation>
     <message id="kTipTooFew">
         <source></source>
         <translation>Er zijn niet genoeg zenders om te rangschikken</translation>
+    </message>
+    <message id="kTipVersionsOff">
+        <source></source>
+        <translation>Het bewaren van eerdere versies staat uit in de instellingen</translation>
     </message>
     <message id="kTipVersionStations">
         <source></source>

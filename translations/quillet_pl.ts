@@ -1083,6 +1083,10 @@
         <source></source>
         <translation>Zachowaj moją</translation>
     </message>
+    <message id="kLanguageTitle">
+        <source></source>
+        <translation>Polski</translation>
+    </message>
     <message id="kLater">
         <source></source>
         <translation>Później</translation>
@@ -1335,6 +1339,10 @@
         <source></source>
         <translation>W&amp;klej</translation>
     </message>
+    <message id="kMenuPreferences">
+        <source></source>
+        <translation>Pre&amp;ferencje…</translation>
+    </message>
     <message id="kMenuPrint">
         <source></source>
         <translation>&amp;Drukuj…</translation>
@@ -1422,6 +1430,22 @@
     <message id="kMenuSwap">
         <source></source>
         <translation>Z&amp;amień numery</translation>
+    </message>
+    <message id="kMenuTextLarger">
+        <source></source>
+        <translation>&amp;Większy</translation>
+    </message>
+    <message id="kMenuTextNormal">
+        <source></source>
+        <translation>&amp;Normalny</translation>
+    </message>
+    <message id="kMenuTextSize">
+        <source></source>
+        <translation>Rozmiar t&amp;ekstu</translation>
+    </message>
+    <message id="kMenuTextSmaller">
+        <source></source>
+        <translation>&amp;Mniejszy</translation>
     </message>
     <message id="kMenuTV">
         <source></source>
@@ -1746,6 +1770,110 @@
     <message id="kPermissionsFailedReason">
         <source></source>
         <translation>Nie można zachować uprawnień dostępu do pliku: %1.</translation>
+    </message>
+    <message id="kPrefColumns">
+        <source></source>
+        <translation>Kolumny dla:</translation>
+    </message>
+    <message id="kPrefGeneral">
+        <source></source>
+        <translation>Ogólne</translation>
+    </message>
+    <message id="kPrefJSONLists">
+        <source></source>
+        <translation>Listy JSON</translation>
+    </message>
+    <message id="kPrefKeepChanges">
+        <source></source>
+        <translation>Przechowuj, aby przywrócić je po awarii</translation>
+    </message>
+    <message id="kPrefKeepChangesNote">
+        <source></source>
+        <translation>Gdy jest wyłączone, awaria powoduje utratę niezapisanych zmian. To, co już przechowano, pozostaje do zapisania lub zamknięcia listy.</translation>
+    </message>
+    <message id="kPrefKeepVersions">
+        <source></source>
+        <translation>Przechowuj to, co zapis zastępuje</translation>
+    </message>
+    <message id="kPrefLanguage">
+        <source></source>
+        <translation>Język:</translation>
+    </message>
+    <message id="kPrefLanguageNote">
+        <source></source>
+        <translation>Zadziała przy następnym uruchomieniu Quillet.</translation>
+    </message>
+    <message id="kPrefLanguageSystem">
+        <source></source>
+        <translation>Jak w systemie</translation>
+    </message>
+    <message id="kPrefPercent">
+        <source></source>
+        <translation>%1%</translation>
+    </message>
+    <message id="kPrefQuestions">
+        <source></source>
+        <translation>Pytania</translation>
+    </message>
+    <message id="kPrefQuestionsNote">
+        <source></source>
+        <translation>Tylko jeśli nic się przy tym nie traci. Quillet zawsze pyta, zanim zostaną utracone zmiany, kanały lub to, co inni zapisali w pliku.</translation>
+    </message>
+    <message id="kPrefRepairJSON">
+        <source></source>
+        <translation>Zapisuj listy JSON naprawione bez pytania</translation>
+    </message>
+    <message id="kPrefSaving">
+        <source></source>
+        <translation>Zapisywanie</translation>
+    </message>
+    <message id="kPrefShowFolder">
+        <source></source>
+        <translation>Pokaż folder</translation>
+    </message>
+    <message id="kPrefTable">
+        <source></source>
+        <translation>Tabela</translation>
+    </message>
+    <message id="kPrefTextSize">
+        <source></source>
+        <translation>Rozmiar tekstu:</translation>
+    </message>
+    <message id="kPrefTitle">
+        <source></source>
+        <translation>Preferencje</translation>
+    </message>
+    <message id="kPrefUnsaved">
+        <source></source>
+        <translation>Niezapisane zmiany</translation>
+    </message>
+    <message id="kPrefUsual">
+        <source></source>
+        <translation>Przywróć domyślne</translation>
+    </message>
+    <message id="kPrefVersionCount">
+        <source></source>
+        <translation>Dla każdego pliku, oprócz pierwszej:</translation>
+    </message>
+    <message id="kPrefVersions">
+        <source></source>
+        <translation>Wcześniejsze wersje</translation>
+    </message>
+    <message id="kPrefVersionsNote">
+        <source></source>
+        <translation>Pierwsza wersja każdego pliku zawsze pozostaje. Po przekroczeniu limitów najstarsze znikają przy następnym zapisie. Wyłączenie niczego nie usuwa. Tych ustawień przestrzega też quillet-cli.</translation>
+    </message>
+    <message id="kPrefVersionSpace">
+        <source></source>
+        <translation>Miejsce na wszystkie:</translation>
+    </message>
+    <message id="kPrefVersionsUsed">
+        <source></source>
+        <translation>Zajęte: %1.</translation>
+    </message>
+    <message id="kPrefXMLLists">
+        <source></source>
+        <translation>Listy XML</translation>
     </message>
     <message id="kPreviewAnew">
         <source></source>
@@ -2544,6 +2672,10 @@ Te ostatnie następują od numeru: %3</translation>
     <message id="kTipTooFew">
         <source></source>
         <translation>Jest za mało kanałów do uporządkowania</translation>
+    </message>
+    <message id="kTipVersionsOff">
+        <source></source>
+        <translation>Przechowywanie wcześniejszych wersji jest wyłączone w preferencjach</translation>
     </message>
     <message id="kTipVersionStations">
         <source></source>

@@ -1033,6 +1033,10 @@
         <source></source>
         <translation>Benimkini Koru</translation>
     </message>
+    <message id="kLanguageTitle">
+        <source></source>
+        <translation>Türkçe</translation>
+    </message>
     <message id="kLater">
         <source></source>
         <translation>Daha Sonra</translation>
@@ -1275,6 +1279,10 @@
         <source></source>
         <translation>Yapı&amp;ştır</translation>
     </message>
+    <message id="kMenuPreferences">
+        <source></source>
+        <translation>Terci&amp;hler…</translation>
+    </message>
     <message id="kMenuPrint">
         <source></source>
         <translation>Ya&amp;zdır…</translation>
@@ -1362,6 +1370,22 @@
     <message id="kMenuSwap">
         <source></source>
         <translation>Nu&amp;maraları Takas Et</translation>
+    </message>
+    <message id="kMenuTextLarger">
+        <source></source>
+        <translation>&amp;Büyüt</translation>
+    </message>
+    <message id="kMenuTextNormal">
+        <source></source>
+        <translation>&amp;Normal</translation>
+    </message>
+    <message id="kMenuTextSize">
+        <source></source>
+        <translation>Yazı B&amp;oyutu</translation>
+    </message>
+    <message id="kMenuTextSmaller">
+        <source></source>
+        <translation>&amp;Küçült</translation>
     </message>
     <message id="kMenuTV">
         <source></source>
@@ -1678,6 +1702,110 @@
     <message id="kPermissionsFailedReason">
         <source></source>
         <translation>Dosyanın erişim izinleri korunamadı: %1.</translation>
+    </message>
+    <message id="kPrefColumns">
+        <source></source>
+        <translation>Sütunların türü:</translation>
+    </message>
+    <message id="kPrefGeneral">
+        <source></source>
+        <translation>Genel</translation>
+    </message>
+    <message id="kPrefJSONLists">
+        <source></source>
+        <translation>JSON listeleri</translation>
+    </message>
+    <message id="kPrefKeepChanges">
+        <source></source>
+        <translation>Çökmeden sonra geri getirmek için sakla</translation>
+    </message>
+    <message id="kPrefKeepChangesNote">
+        <source></source>
+        <translation>Kapalıyken çökme olursa kaydedilmemiş değişiklikler kaybolur. Önceden saklananlar, liste kaydedilene veya kapatılana kadar kalır.</translation>
+    </message>
+    <message id="kPrefKeepVersions">
+        <source></source>
+        <translation>Kaydederken yerine yazılanı sakla</translation>
+    </message>
+    <message id="kPrefLanguage">
+        <source></source>
+        <translation>Dil:</translation>
+    </message>
+    <message id="kPrefLanguageNote">
+        <source></source>
+        <translation>Quillet bir sonraki başlatılışında bu dili kullanır.</translation>
+    </message>
+    <message id="kPrefLanguageSystem">
+        <source></source>
+        <translation>Sistemle aynı</translation>
+    </message>
+    <message id="kPrefPercent">
+        <source></source>
+        <translation>%%1</translation>
+    </message>
+    <message id="kPrefQuestions">
+        <source></source>
+        <translation>Sorular</translation>
+    </message>
+    <message id="kPrefQuestionsNote">
+        <source></source>
+        <translation>Yalnızca hiçbir şey kaybolmuyorsa. Quillet; değişiklikler, kanallar veya başkalarının dosyaya yazdıkları kaybolmadan önce her zaman sorar.</translation>
+    </message>
+    <message id="kPrefRepairJSON">
+        <source></source>
+        <translation>JSON listelerini sormadan onarılmış olarak kaydet</translation>
+    </message>
+    <message id="kPrefSaving">
+        <source></source>
+        <translation>Kaydetme</translation>
+    </message>
+    <message id="kPrefShowFolder">
+        <source></source>
+        <translation>Klasörü Göster</translation>
+    </message>
+    <message id="kPrefTable">
+        <source></source>
+        <translation>Tablo</translation>
+    </message>
+    <message id="kPrefTextSize">
+        <source></source>
+        <translation>Yazı boyutu:</translation>
+    </message>
+    <message id="kPrefTitle">
+        <source></source>
+        <translation>Tercihler</translation>
+    </message>
+    <message id="kPrefUnsaved">
+        <source></source>
+        <translation>Kaydedilmemiş değişiklikler</translation>
+    </message>
+    <message id="kPrefUsual">
+        <source></source>
+        <translation>Varsayılanlara Döndür</translation>
+    </message>
+    <message id="kPrefVersionCount">
+        <source></source>
+        <translation>Her dosya için, ilkinin dışında:</translation>
+    </message>
+    <message id="kPrefVersions">
+        <source></source>
+        <translation>Önceki sürümler</translation>
+    </message>
+    <message id="kPrefVersionsNote">
+        <source></source>
+        <translation>Her dosyanın ilk sürümü her zaman kalır. Sınırlar aşılırsa bir sonraki kaydetmede en eskileri silinir. Kapatmak hiçbir şeyi silmez. quillet-cli de bu ayarlara uyar.</translation>
+    </message>
+    <message id="kPrefVersionSpace">
+        <source></source>
+        <translation>Tümü için alan:</translation>
+    </message>
+    <message id="kPrefVersionsUsed">
+        <source></source>
+        <translation>Kullanılan: %1.</translation>
+    </message>
+    <message id="kPrefXMLLists">
+        <source></source>
+        <translation>XML listeleri</translation>
     </message>
     <message id="kPreviewAnew">
         <source></source>
@@ -2424,6 +2552,10 @@ Bunların devam ettiği numara: %3</translation>
     <message id="kTipTooFew">
         <source></source>
         <translation>Sıralamak için yeterli kanal yok</translation>
+    </message>
+    <message id="kTipVersionsOff">
+        <source></source>
+        <translation>Önceki sürümlerin saklanması tercihlerde kapatılmış</translation>
     </message>
     <message id="kTipVersionStations">
         <source></source>

@@ -4,6 +4,7 @@
 #include "app/LGWindowController.h"
 #include "app/MainMenu.h"
 #include "app/OpenRequest.h"
+#include "app/PreferencesDialog.h"
 #include "app/UnsavedLists.h"
 #include "app/help/HelpProcess.h"
 #include "document/TLLDocument.h"
@@ -51,9 +52,26 @@ AppDelegate::AppDelegate(Prompts &prompts, QObject *parent)
     connect(qApp, &QGuiApplication::commitDataRequest, this, &AppDelegate::commitData,
             Qt::DirectConnection);
     qApp->installEventFilter(this);
+    connect(&m_settings, &Settings::changed, this, &AppDelegate::followSetting);
+    connect(qApp, &QGuiApplication::applicationStateChanged, this,
+            [this](Qt::ApplicationState state) {
+                if (state == Qt::ApplicationActive)
+                    m_settings.look(); // at what another program has set meanwhile
+            });
+    followSetting(Setting::KeepsVersions);
 }
 
-AppDelegate::~AppDelegate() = default;
+AppDelegate::~AppDelegate()
+{
+    delete m_preferences;
+}
+
+void AppDelegate::followSetting(Setting setting)
+{
+    m_versions.setLimits(m_settings.versionLimits());
+    if (setting == Setting::KeepsChanges && m_recovery)
+        m_recovery->setOn(m_settings.isOn(setting));
+}
 
 QStringList AppDelegate::nameFilters()
 {
@@ -65,13 +83,15 @@ std::unique_ptr<TLLDocument> AppDelegate::makeDocument()
 {
     auto document = std::make_unique<TLLDocument>();
     document->setVersionStore(&m_versions);
+    document->setSettings(&m_settings);
     document->setWindowFactory([this] {
-        auto controller = std::make_unique<LGWindowController>();
+        auto controller = std::make_unique<LGWindowController>(m_settings);
         auto *menu = new MainMenu(*controller, m_documents, controller->window());
         connect(menu, &MainMenu::quitRequested, this, &AppDelegate::terminate);
         connect(menu, &MainMenu::helpRequested, this, &AppDelegate::showHelpWindow);
         connect(menu, &MainMenu::wayOfListsRequested, this,
                 [this] { showGuidePage(QStringLiteral("television.html")); });
+        connect(menu, &MainMenu::preferencesRequested, this, &AppDelegate::showPreferences);
         menu->setUnsavedLists([this] { return m_unsavedLists && m_unsavedLists->areThere(); });
         connect(menu, &MainMenu::unsavedListsRequested, this, &AppDelegate::showUnsavedLists);
         const auto whileOpen = [window = controller.get()](const auto &open) {
@@ -191,6 +211,7 @@ bool AppDelegate::hasWindow() const
 void AppDelegate::keepChanges(RecoveryStore &store, const RecoveryTiming &timing)
 {
     m_recovery = std::make_unique<RecoveryKeeper>(store, timing);
+    followSetting(Setting::KeepsChanges);
     connect(&m_documents, &DocumentController::documentOpened, m_recovery.get(),
             [this](Document *document) { m_recovery->watch(*document); });
     connect(&m_documents, &DocumentController::documentClosed, m_recovery.get(),
@@ -214,6 +235,29 @@ void AppDelegate::openRecoveryFolder(TLLDocument &asking)
         asking.presentError(qtTrId("kCreateFailedReason").arg(shownPath(folder), reason), {});
     else if (!m_services->openUrl(QUrl::fromLocalFile(folder)))
         asking.presentError(qtTrId("kFolderNotShownMessage").arg(shownPath(folder)), {});
+}
+
+void AppDelegate::showPreferences()
+{
+    if (!m_preferences) {
+        m_preferences = new PreferencesDialog(m_settings, m_versions);
+        connect(m_preferences, &PreferencesDialog::versionFolderRequested, this,
+                [this] { openVersionFolder(*m_preferences); });
+    }
+    m_preferences->show();
+    m_preferences->raise();
+    m_preferences->activateWindow();
+}
+
+void AppDelegate::openVersionFolder(QWidget &asking)
+{
+    const QString &folder = m_versions.folder();
+    if (m_services->openUrl(QUrl::fromLocalFile(folder)))
+        return;
+    const Alert alert{.message = qtTrId("kFolderNotShownMessage").arg(shownPath(folder)),
+                      .informativeText = {},
+                      .buttons = {qtTrId("kOK")}};
+    m_documents.prompts().showAlert(&asking, alert, [](const AlertAnswer &) {});
 }
 
 void AppDelegate::showHelpWindow()

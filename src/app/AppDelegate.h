@@ -3,12 +3,14 @@
 #include "app/DesktopServices.h"
 #include "app/help/HelpBrowser.h"
 #include "files/FileOperations.h"
+#include "files/Settings.h"
 #include "files/VersionStore.h"
 #include "framework/DocumentController.h"
 #include "framework/Prompts.h"
 #include "framework/RecoveryKeeper.h"
 
 #include <QObject>
+#include <QPointer>
 #include <QStringList>
 
 #include <functional>
@@ -18,6 +20,7 @@ class QSessionManager;
 
 namespace quillet {
 
+class PreferencesDialog;
 class TLLDocument;
 class UnsavedLists;
 struct OpenRequest;
@@ -34,6 +37,7 @@ public:
     ~AppDelegate() override;
 
     [[nodiscard]] DocumentController &documents() { return m_documents; }
+    [[nodiscard]] Settings &settings() { return m_settings; }
     /// What the open panel offers, channel lists first.
     [[nodiscard]] static QStringList nameFilters();
 
@@ -50,6 +54,8 @@ public:
     [[nodiscard]] bool mayOpen() const;
     /// Shows what programs that ended too early have left, if there is anything. Returns whether.
     bool showUnsavedLists();
+    /// Shows the one window of the preferences, or brings it to the front.
+    void showPreferences();
     /// Shows what is kept of changes in the desktop's own way, and a failure at that document.
     void openRecoveryFolder(TLLDocument &asking);
     /// Opens what can be mended of a damaged file as an untitled document.
@@ -87,6 +93,9 @@ private:
     [[nodiscard]] std::unique_ptr<TLLDocument> makeDocument();
     /// Opens the files; the last of those that are open now, none when there is none.
     Document *open(const QStringList &paths);
+    void followSetting(Setting setting);
+    /// Shows what is kept of files that were replaced in the desktop's own way.
+    void openVersionFolder(QWidget &asking);
     /// Whether the person has one to go on in: of a document, or the sheet of unsaved lists.
     [[nodiscard]] bool hasWindow() const;
     /// Takes over what is being typed.
@@ -96,6 +105,7 @@ private:
     /// Asks, then quits; `done` gets whether.
     void askAndQuit(const std::function<void(bool)> &done);
 
+    Settings m_settings;
     FileOperations m_fileOperations;
     VersionStore m_versions{VersionStore::standardFolder(), m_fileOperations};
     DesktopServices m_desktop;
@@ -105,6 +115,7 @@ private:
     DocumentController m_documents;
     std::unique_ptr<RecoveryKeeper> m_recovery;   ///< null: nothing is kept
     std::unique_ptr<UnsavedLists> m_unsavedLists; ///< null like that
+    QPointer<PreferencesDialog> m_preferences;    ///< null while it is not shown
     bool m_isEnding = false;                      ///< nothing stands in the way any more
 };
 

@@ -133,4 +133,12 @@ CommandLine CommandLine::parse(const QStringList &arguments)
     return line;
 }
 
+void CommandLine::preferLanguage(const QString &preferred)
+{
+    if (!language.isEmpty() || !hasTexts(preferred))
+        return;
+    language = preferred;
+    helpWindow += {QStringLiteral("--language"), language};
+}
+
 } // namespace quillet

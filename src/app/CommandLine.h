@@ -22,6 +22,9 @@ struct CommandLine
 
     /// Needs no application object and no display.
     [[nodiscard]] static CommandLine parse(const QStringList &arguments);
+    /// Has that language used where none was given, if there are texts in it; by the help window
+    /// as well.
+    void preferLanguage(const QString &preferred);
 };
 
 } // namespace quillet

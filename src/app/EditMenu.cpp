@@ -80,6 +80,8 @@ EditMenu::EditMenu(LGWindowController &window, QMenuBar &bar, QObject *parent)
     addLists(menu);
     menu.addSeparator();
     addFinding(menu);
+    menu.addSeparator();
+    addPreferences(menu);
     m_editor.setContextActions(m_contextActions);
 }
 
@@ -230,6 +232,16 @@ void EditMenu::addFinding(QMenu &menu)
     add(
         finding, {"kMenuFindPrevious", "findPrevious", {Qt::SHIFT | Qt::Key_F3}},
         [this] { m_editor.findNext(false); }, reason);
+}
+
+void EditMenu::addPreferences(QMenu &menu)
+{
+    const QKeySequence usual(QKeySequence::Preferences); // which not every platform has
+    QAction *action = menu.addAction(qtTrId("kMenuPreferences"));
+    action->setObjectName(QStringLiteral("showPreferences"));
+    action->setMenuRole(QAction::PreferencesRole);
+    action->setShortcut(usual.isEmpty() ? QKeySequence(Qt::CTRL | Qt::Key_Comma) : usual);
+    connect(action, &QAction::triggered, this, &EditMenu::preferencesRequested);
 }
 
 void EditMenu::validateUndo()

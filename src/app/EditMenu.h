@@ -27,6 +27,9 @@ public:
     /// Enables what can be done now.
     void validate();
 
+signals:
+    void preferencesRequested();
+
 private:
     struct Item
     {
@@ -47,6 +50,7 @@ private:
     void addSelecting(QMenu &menu);
     void addLists(QMenu &menu);
     void addFinding(QMenu &menu);
+    void addPreferences(QMenu &menu);
     void validateUndo();
 
     struct Command

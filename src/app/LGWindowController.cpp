@@ -20,9 +20,10 @@ constexpr char panelsKey[] = "windows/TLL Editor Window panels";
 
 } // namespace
 
-LGWindowController::LGWindowController()
+LGWindowController::LGWindowController(Settings &settings)
     : TLLWindowController(std::make_unique<QMainWindow>(), QStringLiteral("TLL Editor Window")),
-      m_editor(new EditorView), m_told(new ToldRow), m_history(new HistoryPanel)
+      m_settings(settings), m_editor(new EditorView(settings)), m_told(new ToldRow),
+      m_history(new HistoryPanel)
 {
     windowDidLoad();
 }

@@ -6,6 +6,7 @@ namespace quillet {
 
 class EditorView;
 class HistoryPanel;
+class Settings;
 class TLLDocument;
 class ToldRow;
 
@@ -15,7 +16,8 @@ class LGWindowController : public TLLWindowController
     Q_OBJECT
 
 public:
-    LGWindowController();
+    /// The settings, which the window follows, must outlive it.
+    explicit LGWindowController(Settings &settings);
     ~LGWindowController() override;
 
     bool populateFromTLLDoc(TLLDocument &document, const Error &error) override;
@@ -25,6 +27,7 @@ public:
 
     /// The document shown; null before there is one and after it has gone.
     [[nodiscard]] TLLDocument *tlldoc() const;
+    [[nodiscard]] Settings &settings() const { return m_settings; }
     [[nodiscard]] EditorView &editor() const { return *m_editor; }
     [[nodiscard]] HistoryPanel &historyPanel() const { return *m_history; }
 
@@ -34,6 +37,7 @@ protected:
 
 private:
     void windowDidLoad();
+    Settings &m_settings;
     EditorView *m_editor;
     ToldRow *m_told;
     HistoryPanel *m_history;

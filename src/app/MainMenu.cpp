@@ -6,11 +6,12 @@
 #include "app/EditMenu.h"
 #include "app/HelpLoader.h"
 #include "app/LGWindowController.h"
-#include "document/SaveReview.h"
+#include "app/TextSizeMenu.h"
 #include "document/TLLDocument.h"
 #include "editor/EditorView.h"
 #include "editor/HistoryPanel.h"
 #include "editor/VersionsDialog.h"
+#include "files/Settings.h"
 #include "framework/DocumentController.h"
 #include "framework/RecentFilesMenu.h"
 
@@ -18,7 +19,6 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
-#include <QSettings>
 
 #include <array>
 
@@ -56,6 +56,7 @@ MainMenu::MainMenu(LGWindowController &window, DocumentController &documents, QO
     QMenuBar &bar = *window.window()->menuBar();
     makeFileMenu(bar);
     m_edit = new EditMenu(window, bar, this);
+    connect(m_edit, &EditMenu::preferencesRequested, this, &MainMenu::preferencesRequested);
     makeViewMenu(bar);
     makeHelpMenu(bar);
     connect(&m_editor, &EditorView::stateChanged, this, &MainMenu::validate);
@@ -130,7 +131,7 @@ void MainMenu::makeFileMenu(QMenuBar &bar)
         m_editor.controller().comparing().askForTable();
     });
     m_alwaysRepair = add(menu, {"kMenuAlwaysRepair", "alwaysRepair", {}}, [this] {
-        QSettings().remove(SaveReview::alwaysKey);
+        m_window.settings().set(Setting::RepairsJSONLists, false);
         validate();
     });
     m_alwaysRepair->setCheckable(true);
@@ -183,6 +184,7 @@ void MainMenu::makeViewMenu(QMenuBar &bar)
     }
     menu.addSeparator();
     menu.addMenu(&m_editor.columnsMenu());
+    menu.addMenu(new TextSizeMenu(m_window.settings(), &menu));
     QAction *history = m_window.historyPanel().toggleViewAction();
     history->setText(qtTrId("kMenuHistory"));
     history->setObjectName(QStringLiteral("showHistory"));
@@ -238,7 +240,10 @@ void MainMenu::validateVersions()
 {
     const TLLDocument *document = m_window.tlldoc();
     m_versions->setEnabled(document && EarlierVersions::hasAny(*document));
-    m_versions->setToolTip(m_versions->isEnabled() ? QString() : qtTrId("kTipNoVersions"));
+    const bool areKept = m_window.settings().isOn(Setting::KeepsVersions);
+    m_versions->setToolTip(m_versions->isEnabled()
+                               ? QString()
+                               : qtTrId(areKept ? "kTipNoVersions" : "kTipVersionsOff"));
 }
 
 /// What is being typed belongs to a row that will be gone.
@@ -270,8 +275,8 @@ void MainMenu::validate()
     m_saveAs->setEnabled(document && document->canSaveAs());
     m_reload->setEnabled(document && document->canReload());
     m_reload->setToolTip(m_reload->isEnabled() ? QString() : qtTrId("kTipNoFile"));
-    // Set in the sheet of a save, so there is nothing here to set it by.
-    m_alwaysRepair->setChecked(QSettings().value(SaveReview::alwaysKey).toBool());
+    // Set in the sheet of a save or by the preferences; here it is only taken back.
+    m_alwaysRepair->setChecked(m_window.settings().isOn(Setting::RepairsJSONLists));
     m_alwaysRepair->setVisible(m_alwaysRepair->isChecked());
     using Control = EditorOutlets::Control;
     const ViewController &editor = m_editor.controller();

@@ -36,6 +36,7 @@ public:
 signals:
     void unsavedListsRequested();
     void recoveryFolderRequested();
+    void preferencesRequested();
     void quitRequested();
     void helpRequested();
     /// The person wants to read how a list gets from the set to here and back.

@@ -11,6 +11,7 @@
 #include "files/FileNames.h"
 #include "files/FileOperations.h"
 #include "files/RecoveryStore.h"
+#include "files/Settings.h"
 #include "framework/QtPrompts.h"
 #include "framework/Speech.h"
 #include "support/KXFileLog.h"
@@ -120,7 +121,7 @@ int main(int argc, char *argv[])
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments.append(pathFromBytes(argv[i])); // names of files, mostly
-    const CommandLine line = CommandLine::parse(arguments);
+    CommandLine line = CommandLine::parse(arguments);
     if (!line.error.isEmpty())
         return fail(Misused, line.error);
     if (line.answer) {
@@ -136,6 +137,8 @@ int main(int argc, char *argv[])
         prepareForSnapshot();
     }
 
+    if (line.snapshot.isEmpty() && !line.isHelpWindow) // else whoever asks has said all
+        line.preferLanguage(Settings().text(Setting::Language));
     if (line.isHelpWindow)
         QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts); // the engine's wish
     const OpenRequest request = OpenRequest::ofThisStart(line.files);

@@ -3,8 +3,6 @@
 #include "document/review/Rehearsal.h"
 #include "framework/Prompts.h"
 
-#include <QLatin1String>
-
 #include <optional>
 #include <vector>
 
@@ -19,8 +17,6 @@ struct SaveReview
         JSONList, ///< also offers to have all of its kind repaired from then on
         Export,   ///< which has one form only
     };
-    /// The setting that has JSON lists repaired without asking.
-    static constexpr QLatin1String alwaysKey{"saving/repairsJSONLists"};
 
     Alert alert;
     std::vector<Answer> answers; ///< of the alert's buttons

@@ -8,6 +8,7 @@
 #include "document/repair/RepairedWriter.h"
 #include "document/review/Rehearsal.h"
 #include "document/write/TLLWriter.h"
+#include "files/Settings.h"
 #include "framework/Prompts.h"
 #include "framework/RecentFiles.h"
 #include "texts/FormatTexts.h"
@@ -15,7 +16,6 @@
 
 #include <QFileInfo>
 #include <QLoggingCategory>
-#include <QSettings>
 
 namespace quillet {
 
@@ -242,7 +242,7 @@ void TLLDocument::makeWindowControllers()
 bool TLLDocument::savesRepairedUnasked() const
 {
     return m_repair || m_savesRepaired ||
-           (m_list.isLegacyFormat && QSettings().value(SaveReview::alwaysKey).toBool());
+           (m_list.isLegacyFormat && m_settings && m_settings->isOn(Setting::RepairsJSONLists));
 }
 
 void TLLDocument::reviewSave(const QByteArray &bytes, SavePurpose purpose,
@@ -265,18 +265,19 @@ void TLLDocument::reviewSave(const QByteArray &bytes, SavePurpose purpose,
         if (ofRepaired->weight() >= plain.weight())
             ofRepaired.reset();
     }
-    const SaveReview review = reviewOfSave(displayName(), plain, ofRepaired,
-                                           purpose == SavePurpose::Export ? SaveReview::Kind::Export
-                                           : m_list.isLegacyFormat ? SaveReview::Kind::JSONList
-                                                                   : SaveReview::Kind::List);
+    const SaveReview review =
+        reviewOfSave(displayName(), plain, ofRepaired,
+                     purpose == SavePurpose::Export        ? SaveReview::Kind::Export
+                     : m_list.isLegacyFormat && m_settings ? SaveReview::Kind::JSONList
+                                                           : SaveReview::Kind::List);
     ask(review.alert, [=, this, answers = review.answers](const AlertAnswer &answer) {
         using Answer = SaveReview::Answer;
         const auto button = static_cast<std::size_t>(answer.button);
         switch (button < answers.size() ? answers[button] : Answer::Cancel) {
         case Answer::SaveRepaired:
             m_savesRepaired = true;
-            if (answer.isChecked)
-                QSettings().setValue(SaveReview::alwaysKey, true);
+            if (answer.isChecked && m_settings)
+                m_settings->set(Setting::RepairsJSONLists, true);
             return decided(repaired);
         case Answer::SaveAnyway:
             return decided(bytes);

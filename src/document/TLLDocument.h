@@ -15,6 +15,7 @@
 namespace quillet {
 
 class EditRecord;
+class Settings;
 class TLLWindowController;
 
 /// A channel list as a document: where it came from, which of its lists is the current one, whether
@@ -36,6 +37,9 @@ public:
 
     /// What makeWindowControllers() makes its window with; without one it makes none.
     void setWindowFactory(WindowFactory factory) { m_makeWindow = std::move(factory); }
+    /// What tells how the person wants JSON lists saved, and remembers it; must outlive the
+    /// document. Without it they are asked each time.
+    void setSettings(Settings *settings) { m_settings = settings; }
 
     // Reading and writing
 
@@ -134,6 +138,7 @@ private:
     [[nodiscard]] bool savesRepairedUnasked() const;
 
     WindowFactory m_makeWindow;
+    Settings *m_settings = nullptr;
     QPointer<TLLWindowController> m_lgWindowController;
     ChannelList m_list;
     std::optional<Repair> m_repair;

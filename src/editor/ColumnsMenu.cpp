@@ -12,9 +12,10 @@
 
 namespace quillet {
 
-ColumnsMenu::ColumnsMenu(QTableView &table, ViewController &controller, QWidget *parent)
+ColumnsMenu::ColumnsMenu(QTableView &table, ViewController &controller, Settings &settings,
+                         QWidget *parent)
     : QMenu(qtTrId("kMenuColumns"), parent), m_controller(controller),
-      m_columns(*new ShownColumns(table)) // which the table owns
+      m_columns(*new ShownColumns(table, settings)) // which the table owns
 {
     setObjectName(QStringLiteral("columnsMenu"));
     setToolTipsVisible(true);

@@ -6,6 +6,7 @@ class QTableView;
 
 namespace quillet {
 
+class Settings;
 class ShownColumns;
 class ViewController;
 
@@ -17,7 +18,7 @@ class ColumnsMenu : public QMenu
 
 public:
     /// The table has its model, the controller shows the list.
-    ColumnsMenu(QTableView &table, ViewController &controller, QWidget *parent);
+    ColumnsMenu(QTableView &table, ViewController &controller, Settings &settings, QWidget *parent);
 
 private:
     void addItems();

@@ -5,6 +5,7 @@
 #include "editor/ComparisonTexts.h"
 #include "editor/SpokenLabel.h"
 #include "editor/ViewController.h"
+#include "files/Settings.h"
 #include "framework/Mnemonics.h"
 #include "framework/ScreenPlace.h"
 #include "texts/TakeOverTexts.h"
@@ -51,8 +52,8 @@ SpokenLabel *makeText(const char *objectName)
 
 } // namespace
 
-CompareDialog::CompareDialog(ViewController &controller, const ComparedWith &other, QWidget *parent,
-                             MoveHere moveHere)
+CompareDialog::CompareDialog(ViewController &controller, const ComparedWith &other,
+                             const Settings &settings, QWidget *parent, MoveHere moveHere)
     : QDialog(parent, Qt::Window), m_controller(controller),
       m_kept(std::make_shared<StationComparison>(controller, other)), m_comparison(*m_kept),
       m_moveHere(std::move(moveHere)), m_filter(new ComparisonFilter(m_comparison)),
@@ -64,6 +65,7 @@ CompareDialog::CompareDialog(ViewController &controller, const ComparedWith &oth
     setWindowModality(isQuestion ? Qt::WindowModal : Qt::NonModal);
     setAttribute(Qt::WA_DeleteOnClose);
     addControls();
+    followTextSize(settings);
     addShortcuts();
     connect(m_filter, &ComparisonFilter::left, m_table, &ComparisonTable::focusRows);
     m_selectionShown.setSingleShot(true);
@@ -99,6 +101,18 @@ CompareDialog::~CompareDialog()
     m_table->disconnect(this);
     delete m_table;
     delete m_filter;
+}
+
+void CompareDialog::followTextSize(const Settings &settings)
+{
+    const auto follow = [this, &settings] {
+        m_table->setTextSize(settings.number(Setting::TextSize));
+    };
+    connect(&settings, &Settings::changed, m_table, [follow](Setting setting) {
+        if (setting == Setting::TextSize)
+            follow();
+    });
+    follow();
 }
 
 void CompareDialog::addControls()
@@ -281,12 +295,12 @@ void CompareDialog::accept()
     }
 }
 
-void showComparison(ViewController &controller, const ComparedWith &other, QWidget *window,
-                    const CompareDialog::MoveHere &moveHere)
+void showComparison(ViewController &controller, const ComparedWith &other, const Settings &settings,
+                    QWidget *window, const CompareDialog::MoveHere &moveHere)
 {
     if (!controller.stationDoc())
         return;
-    auto *dialog = new CompareDialog(controller, other, window, moveHere);
+    auto *dialog = new CompareDialog(controller, other, settings, window, moveHere);
     dialog->show();
     dialog->activateWindow();
 }

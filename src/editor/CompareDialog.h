@@ -16,6 +16,7 @@ namespace quillet {
 
 class ComparisonFilter;
 class ComparisonTable;
+class Settings;
 class SpokenLabel;
 
 /// The window that shows a document's lists beside another list, and has taken over from there what
@@ -30,15 +31,16 @@ public:
     /// Has stations moved, for rows that are to be pasted.
     using MoveHere = std::function<void(const StationList &)>;
 
-    /// The controller must have a document.
-    CompareDialog(ViewController &controller, const ComparedWith &other, QWidget *parent,
-                  MoveHere moveHere = {});
+    /// The controller must have a document. The settings must outlive the dialog.
+    CompareDialog(ViewController &controller, const ComparedWith &other, const Settings &settings,
+                  QWidget *parent, MoveHere moveHere = {});
     ~CompareDialog() override;
 
 private:
     using Purpose = ComparedWith::Purpose;
 
     void addControls();
+    void followTextSize(const Settings &settings);
     [[nodiscard]] QLayout *makeAspects();
     [[nodiscard]] QWidget *makeButtons();
     void addShortcuts();
@@ -64,7 +66,7 @@ private:
 };
 
 /// Shows the comparison in a window of its own.
-void showComparison(ViewController &controller, const ComparedWith &other, QWidget *window,
-                    const CompareDialog::MoveHere &moveHere = {});
+void showComparison(ViewController &controller, const ComparedWith &other, const Settings &settings,
+                    QWidget *window, const CompareDialog::MoveHere &moveHere = {});
 
 } // namespace quillet

@@ -46,6 +46,11 @@ ComparisonModel::ComparisonModel(StationComparison &comparison, QObject *parent)
     });
 }
 
+void ComparisonModel::setTextSize(int percent)
+{
+    m_font = cellFont(percent);
+}
+
 int ComparisonModel::rowCount(const QModelIndex &parent) const
 {
     return parent.isValid() ? 0 : static_cast<int>(m_comparison.rowCount());
@@ -63,7 +68,7 @@ QVariant ComparisonModel::data(const QModelIndex &index, int role) const
         return {};
     switch (role) {
     case Qt::FontRole:
-        return cellFont();
+        return m_font;
     case Qt::TextAlignmentRole:
         return QVariant::fromValue((isNumber(index.column()) ? Qt::AlignRight : Qt::AlignLeft) |
                                    Qt::AlignVCenter);

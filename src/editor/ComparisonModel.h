@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <QFont>
 
 #include <array>
 
@@ -20,6 +21,9 @@ public:
 
     explicit ComparisonModel(StationComparison &comparison, QObject *parent = nullptr);
 
+    /// In percent; whoever sets it has the cells drawn anew.
+    void setTextSize(int percent);
+
     [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex &parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
@@ -34,6 +38,7 @@ private:
 
     StationComparison &m_comparison;
     const std::array<const char *, columns> m_titles;
+    QFont m_font;
 };
 
 } // namespace quillet

@@ -37,10 +37,6 @@ ComparisonTable::ComparisonTable(StationComparison &comparison, QWidget *parent)
     // What is pasted gets numbers by its new place.
     setColumnHidden(ComparisonModel::NumberThere,
                     comparison.purpose() == ComparedWith::Purpose::Paste);
-    sizeRows(*this, fontMetrics());
-    setMinimumHeight(horizontalHeader()->sizeHint().height() +
-                     leastRows * verticalHeader()->defaultSectionSize() +
-                     horizontalScrollBar()->sizeHint().height() + 2 * frameWidth());
     horizontalHeader()->setResizeContentsPrecision(rowsMeasured);
     connect(horizontalHeader(), &QHeaderView::sectionResized, this,
             [this](int, int before, int now) {
@@ -65,6 +61,17 @@ ComparisonTable::ComparisonTable(StationComparison &comparison, QWidget *parent)
 ComparisonTable::~ComparisonTable()
 {
     selectionModel()->disconnect(this);
+}
+
+void ComparisonTable::setTextSize(int percent)
+{
+    m_model.setTextSize(percent);
+    sizeText(*this, percent);
+    setMinimumHeight(horizontalHeader()->sizeHint().height() +
+                     leastRows * verticalHeader()->defaultSectionSize() +
+                     horizontalScrollBar()->sizeHint().height() + 2 * frameWidth());
+    measureColumns();
+    fitColumns();
 }
 
 void ComparisonTable::measureColumns()

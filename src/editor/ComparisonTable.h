@@ -23,6 +23,8 @@ public:
     explicit ComparisonTable(StationComparison &comparison, QWidget *parent = nullptr);
     ~ComparisonTable() override;
 
+    /// In percent of the size of the text around the table.
+    void setTextSize(int percent);
     [[nodiscard]] std::vector<std::size_t> selected() const;
     /// Gives it the focus, and the current row, or else the first, the selection if there is none.
     void focusRows();

@@ -12,7 +12,7 @@ void foldRows(Ui::EditorView &ui)
     FoldingRow::fold(*ui.bottomRow);
 }
 
-void sizeControls(Ui::EditorView &ui, const QFont &font)
+void sizeControls(Ui::EditorView &ui, const QFont &font, int textSize)
 {
     QFont device = font;
     device.setBold(true);
@@ -20,7 +20,7 @@ void sizeControls(Ui::EditorView &ui, const QFont &font)
     ui.deviceName->setFont(device);
 
     const QFontMetrics metrics(font);
-    sizeRows(*ui.list, metrics);
+    sizeText(*ui.list, textSize);
     ui.list->setMinimumHeight(metrics.height() * 10); // with room for the hints in an empty list
     ui.searchText->setMinimumWidth(metrics.averageCharWidth() * 22);
     // Styles leave short texts much room, and long ones none.

@@ -1,6 +1,7 @@
 #include "editor/EditorView.h"
 
 #include "editor/ArrangeDialog.h"
+#include "editor/CellFont.h"
 #include "editor/ColumnsMenu.h"
 #include "editor/CompareDialog.h"
 #include "editor/EditorClipboard.h"
@@ -13,6 +14,7 @@
 #include "editor/InfoViewController.h"
 #include "editor/TableColumns.h"
 #include "editor/TableSelection.h"
+#include "files/Settings.h"
 #include "ui_EditorView.h"
 
 #include <QDropEvent>
@@ -22,15 +24,15 @@
 
 namespace quillet {
 
-EditorView::EditorView(QWidget *parent)
-    : QWidget(parent), m_ui(std::make_unique<Ui::EditorView>()), m_controller(*this),
-      m_model(m_controller)
+EditorView::EditorView(Settings &settings, QWidget *parent)
+    : QWidget(parent), m_settings(settings), m_ui(std::make_unique<Ui::EditorView>()),
+      m_controller(*this), m_model(m_controller)
 {
     m_ui->setupUi(this);
     foldRows(*m_ui);
     setUpControls(*m_ui);
     setUpTable();
-    sizeControls(*m_ui, font());
+    sizeTexts();
     connectControls();
     m_controller.viewDidLoad();
     setAcceptDrops(true);
@@ -45,7 +47,7 @@ void EditorView::setUpTable()
     list.setModel(&m_model);
     list.setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed);
     setUpColumns(list);
-    m_columnsMenu = new ColumnsMenu(list, m_controller, this);
+    m_columnsMenu = new ColumnsMenu(list, m_controller, m_settings, this);
     list.setDropHandler([this](const TableDrag &drag) { return m_controller.validateDrop(drag); },
                         [this](const TableDrag &drag) { return m_controller.acceptDrop(drag); });
 
@@ -91,7 +93,7 @@ void EditorView::connectControls()
     connect(&m_controller, &ViewController::stateChanged, this, &EditorView::stateChanged);
     connect(&m_controller, &ViewController::comparisonWanted, this,
             [this](const ComparedWith &other) {
-                showComparison(m_controller, other, sheetWindow(),
+                showComparison(m_controller, other, m_settings, sheetWindow(),
                                [this, place = other.place](const StationList &chosen) {
                                    m_controller.pasteStations(chosen, place);
                                });
@@ -100,6 +102,11 @@ void EditorView::connectControls()
             [this] { m_ui->fillGapsButton->setChecked(m_controller.fillGaps()); });
     connect(m_ui->list, &DarkModeTableView::editingChanged, this, &EditorView::stateChanged);
     connect(m_clipboard.get(), &EditorClipboard::stateChanged, this, &EditorView::stateChanged);
+    connect(&m_settings, &Settings::changed, this, [this](Setting setting) {
+        if (setting == Setting::TextSize)
+            sizeTexts();
+        emit stateChanged();
+    });
     connect(&m_emptyPage->hint(), &EmptyDocText::tvRequested, &m_controller,
             &ViewController::useTVClicked);
     connect(&m_emptyPage->hint(), &EmptyDocText::radioRequested, &m_controller,
@@ -370,7 +377,14 @@ void EditorView::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::FontChange)
-        sizeControls(*m_ui, font());
+        sizeTexts();
+}
+
+void EditorView::sizeTexts()
+{
+    const int percent = m_settings.number(Setting::TextSize);
+    m_model.setTextSize(percent);
+    sizeControls(*m_ui, font(), percent);
 }
 
 } // namespace quillet

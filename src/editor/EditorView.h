@@ -26,6 +26,7 @@ class EditorKeys;
 class EmptyPage;
 class InfoViewController;
 class RecentFiles;
+class Settings;
 
 /// The content of an editor window: the controls, and nothing but the controls. Every decision is
 /// the ViewController's, which it owns and to which it is the outlets.
@@ -34,7 +35,8 @@ class EditorView : public QWidget, public EditorOutlets
     Q_OBJECT
 
 public:
-    explicit EditorView(QWidget *parent = nullptr);
+    /// The settings, which the table follows, must outlive the view.
+    explicit EditorView(Settings &settings, QWidget *parent = nullptr);
     ~EditorView() override;
 
     [[nodiscard]] ViewController &controller() { return m_controller; }
@@ -118,9 +120,11 @@ protected:
 
 private:
     void setUpTable();
+    void sizeTexts();
     void connectControls();
     void showContextMenu(const QPoint &place);
 
+    Settings &m_settings;
     std::unique_ptr<Ui::EditorView> m_ui;
     ViewController m_controller;
     StationTableModel m_model;

@@ -147,7 +147,9 @@ void PagePrinter::drawPage(QPainter &painter, int number) const
 /// In pixels: a size in points would be scaled twice.
 QFont PagePrinter::font() const
 {
-    QFont font = m_table.font();
+    // The size that the table was given is for the screen.
+    const QWidget *around = m_table.parentWidget();
+    QFont font = around ? around->font() : m_table.font();
     font.setPixelSize(QFontInfo(font).pixelSize());
     return font;
 }

@@ -4,10 +4,7 @@
 
 #include <QEvent>
 #include <QScopedValueRollback>
-#include <QSettings>
 #include <QTableView>
-
-#include <algorithm>
 
 namespace quillet {
 
@@ -15,37 +12,17 @@ namespace {
 
 constexpr int nameColumn = columnOf(ColumnContent::Name);
 constexpr int narrowestName = 24; ///< in average characters
-constexpr double narrowestColumn = 2;
-constexpr double widestColumn = 60;
-constexpr QChar hiddenSign = u'-';
-constexpr QChar widthSign = u'=';
 
 const StationColumn &factsOf(int column)
 {
     return stationColumns.at(static_cast<std::size_t>(column));
 }
 
-int columnCalled(QStringView identifier)
-{
-    const StationColumn *found = stationColumn(identifier.toString());
-    return found ? columnOf(found->content) : -1;
-}
-
-QStringList usualState()
-{
-    QStringList state;
-    for (const StationColumn &column : stationColumns) {
-        const QString identifier(column.identifier);
-        state.append(column.use == ColumnUse::Extra ? hiddenSign + identifier : identifier);
-    }
-    return state;
-}
-
 } // namespace
 
-ShownColumns::ShownColumns(QTableView &table)
+ShownColumns::ShownColumns(QTableView &table, Settings &settings)
     : QObject(&table), m_table(table),
-      m_header(static_cast<StationHeader &>(*table.horizontalHeader()))
+      m_header(static_cast<StationHeader &>(*table.horizontalHeader())), m_settings(settings)
 {
     m_remembering.setSingleShot(true);
     m_remembering.setInterval(500);
@@ -64,7 +41,12 @@ ShownColumns::ShownColumns(QTableView &table)
     });
     table.installEventFilter(this);
     table.viewport()->installEventFilter(this);
-    useVariant(false);
+    connect(&settings, &Settings::changed, this, [this](Setting setting) {
+        if (setting == m_variant)
+            follow();
+    });
+    m_lastState = settings.texts(m_variant);
+    setState(ColumnState::of(m_lastState));
 }
 
 ShownColumns::~ShownColumns()
@@ -75,13 +57,24 @@ ShownColumns::~ShownColumns()
 
 void ShownColumns::useVariant(bool isJSON)
 {
-    const QString key = isJSON ? QStringLiteral("Columns JSON") : QStringLiteral("Columns XML");
-    if (key == m_settingsKey) // a file that is read anew leaves the table as it is
+    const Setting variant = isJSON ? Setting::JSONColumns : Setting::XMLColumns;
+    if (variant == m_variant) // a file that is read anew leaves the table as it is
         return;
     if (m_remembering.isActive())
         remember();
-    m_settingsKey = key;
-    setState(QSettings().value(m_settingsKey, usualState()).toStringList());
+    m_variant = variant;
+    m_lastState = m_settings.texts(m_variant);
+    setState(ColumnState::of(m_lastState));
+}
+
+void ShownColumns::follow()
+{
+    const QStringList now = m_settings.texts(m_variant);
+    if (now == m_lastState)
+        return;
+    m_remembering.stop();
+    m_lastState = now;
+    setState(ColumnState::of(now));
 }
 
 bool ShownColumns::isShown(int column) const
@@ -93,87 +86,81 @@ void ShownColumns::setShown(int column, bool shown)
 {
     if (factsOf(column).use == ColumnUse::Always || shown == isShown(column))
         return;
-    // The keyboard would be lost in a cell that nobody sees.
-    if (const QModelIndex current = m_table.currentIndex(); !shown && current.column() == column) {
-        m_table.selectionModel()->setCurrentIndex(current.siblingAtColumn(nameColumn),
-                                                  QItemSelectionModel::NoUpdate);
-    }
     m_header.setSectionHidden(column, !shown);
+    leaveHidden();
     fitName();
     note();
     remember();
 }
 
+/// The keyboard would be lost in a cell that nobody sees.
+void ShownColumns::leaveHidden()
+{
+    const QModelIndex current = m_table.currentIndex();
+    if (current.isValid() && !isShown(current.column()))
+        m_table.selectionModel()->setCurrentIndex(current.siblingAtColumn(nameColumn),
+                                                  QItemSelectionModel::NoUpdate);
+}
+
 bool ShownColumns::areUsual() const
 {
-    return state() == usualState();
+    return state().texts().isEmpty();
 }
 
 void ShownColumns::useUsual()
 {
-    setState(usualState());
+    setState(ColumnState::usual());
     note();
     remember();
 }
 
-QStringList ShownColumns::state() const
+ColumnState ShownColumns::state() const
 {
-    QStringList state;
+    ColumnState state;
     for (int place = 0; place < m_header.count(); ++place) {
         const int column = m_header.logicalIndex(place);
-        QString text = factsOf(column).identifier;
-        if (!isShown(column))
-            text.prepend(hiddenSign);
-        if (const double width = m_widths.at(static_cast<std::size_t>(column)); width > 0)
-            text += widthSign + QString::number(width, 'f', 2);
-        state.append(text);
+        state.append({.column = column,
+                      .isShown = isShown(column),
+                      .width = m_widths.at(static_cast<std::size_t>(column))});
     }
     return state;
 }
 
-/// Columns that it does not name come last, as they usually are.
-void ShownColumns::setState(const QStringList &state)
+void ShownColumns::setState(const ColumnState &state)
 {
     {
         const QScopedValueRollback settingUp(m_isSettingUp, true);
-        m_widths.fill(0);
         int place = 0;
-        for (const QString &each : state + usualState()) {
-            const bool isHidden = each.startsWith(hiddenSign);
-            const QStringView identifier = QStringView(each).sliced(isHidden ? 1 : 0);
-            const int column = columnCalled(identifier.left(identifier.indexOf(widthSign)));
-            if (column < 0 || m_header.visualIndex(column) < place)
-                continue;
+        for (const auto &[column, isShown, width] : state.columns()) {
             m_header.moveSection(m_header.visualIndex(column), place++);
-            m_header.setSectionHidden(column, isHidden && factsOf(column).use != ColumnUse::Always);
-            const double width = each.section(widthSign, 1).toDouble();
-            if (column != nameColumn && width > 0)
-                m_widths.at(static_cast<std::size_t>(column)) =
-                    std::clamp(width, narrowestColumn, widestColumn);
+            m_header.setSectionHidden(column, !isShown);
+            m_widths.at(static_cast<std::size_t>(column)) = width;
         }
     }
+    leaveHidden();
     sizeSections();
 }
 
 void ShownColumns::note()
 {
-    m_lastState = state();
+    m_lastState = state().texts();
     m_remembering.start();
 }
 
 void ShownColumns::remember()
 {
     m_remembering.stop();
-    QSettings().setValue(m_settingsKey, m_lastState);
+    m_settings.set(m_variant, m_lastState);
 }
 
+/// While the font grows, the header makes sections wider by itself.
 void ShownColumns::noteWidth(int column, int before, int now)
 {
-    if (m_isSettingUp || column == nameColumn)
+    const bool isFontNew = m_table.fontMetrics().averageCharWidth() != m_character;
+    if (m_isSettingUp || isFontNew || column == nameColumn)
         return;
     if (before > 0 && now > 0) { // not hidden or shown
-        m_widths.at(static_cast<std::size_t>(column)) =
-            static_cast<double>(now) / m_table.fontMetrics().averageCharWidth();
+        m_widths.at(static_cast<std::size_t>(column)) = static_cast<double>(now) / m_character;
         note();
     }
     fitName();
@@ -181,7 +168,7 @@ void ShownColumns::noteWidth(int column, int before, int now)
 
 void ShownColumns::sizeSections()
 {
-    const int character = m_table.fontMetrics().averageCharWidth();
+    m_character = m_table.fontMetrics().averageCharWidth();
     {
         const QScopedValueRollback settingUp(m_isSettingUp, true);
         for (int column = 0; column < m_header.count(); ++column) {
@@ -189,8 +176,8 @@ void ShownColumns::sizeSections()
                 continue;
             const double wanted = m_widths.at(static_cast<std::size_t>(column));
             const int usual =
-                qMax(factsOf(column).width * character, m_header.widthOfTitle(column));
-            m_header.resizeSection(column, wanted > 0 ? qRound(wanted * character) : usual);
+                qMax(factsOf(column).width * m_character, m_header.widthOfTitle(column));
+            m_header.resizeSection(column, wanted > 0 ? qRound(wanted * m_character) : usual);
         }
     }
     fitName();

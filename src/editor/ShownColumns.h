@@ -1,5 +1,7 @@
 #pragma once
 
+#include "editor/ColumnState.h"
+#include "files/Settings.h"
 #include "texts/StationColumns.h"
 
 #include <QObject>
@@ -14,7 +16,7 @@ class StationHeader;
 
 /// Which columns of the station table are shown, in which order and how wide, remembered for each
 /// variant of the file. The name takes what is left; where that is too little, the table can be
-/// scrolled. What another window changes meanwhile shows in new windows only. A child of the table.
+/// scrolled. What is changed elsewhere meanwhile is followed at once. A child of the table.
 ///
 /// A hidden column costs nothing: its section is hidden, and a table asks its model for the cells
 /// of shown sections only.
@@ -23,8 +25,8 @@ class ShownColumns : public QObject
     Q_OBJECT
 
 public:
-    /// The table has its model and a StationHeader.
-    explicit ShownColumns(QTableView &table);
+    /// The table has its model and a StationHeader. The settings must outlive it.
+    ShownColumns(QTableView &table, Settings &settings);
     ~ShownColumns() override;
 
     /// Shows what is remembered for that variant of the file, unless it is the one on show.
@@ -41,10 +43,11 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    /// As it is remembered: the identifiers in the order of the columns, "-" before those that are
-    /// hidden, and behind those that the person resized "=" with their width in characters.
-    [[nodiscard]] QStringList state() const;
-    void setState(const QStringList &state);
+    [[nodiscard]] ColumnState state() const;
+    void setState(const ColumnState &state);
+    /// Shows what is remembered now, unless that is what was noted last.
+    void follow();
+    void leaveHidden();
     void note();
     void remember();
     void noteWidth(int column, int before, int now);
@@ -53,10 +56,12 @@ private:
 
     QTableView &m_table;
     StationHeader &m_header;
-    QString m_settingsKey;
+    Settings &m_settings;
+    Setting m_variant = Setting::XMLColumns;
     QStringList m_lastState;                              ///< to remember
     std::array<double, stationColumns.size()> m_widths{}; ///< in average characters; 0: usual
     QTimer m_remembering;                                 ///< for a resizing by mouse is many steps
+    int m_character = 0; ///< average width in the font that the columns have the widths for
     bool m_isSettingUp = false;
 };
 

@@ -81,6 +81,11 @@ StationTableModel::StationTableModel(ViewController &controller, QObject *parent
     connect(&controller, &ViewController::documentChanged, this, [this] { m_satellites.reset(); });
 }
 
+void StationTableModel::setTextSize(int percent)
+{
+    m_font = cellFont(percent);
+}
+
 void StationTableModel::reload()
 {
     takeRows();

@@ -31,6 +31,8 @@ public:
     void reload();
     /// Follows a change of the list that the rows are of.
     void show(const ListChange &change);
+    /// In percent; whoever sets it has the cells drawn anew.
+    void setTextSize(int percent);
     void setNameColumnEditable(bool editable) { m_nameIsEditable = editable; }
 
     [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;

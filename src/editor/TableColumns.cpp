@@ -1,6 +1,7 @@
 #include "editor/TableColumns.h"
 
 #include "editor/BadgeDelegate.h"
+#include "editor/CellFont.h"
 #include "editor/CheckMarkDelegate.h"
 #include "editor/GlyphDelegate.h"
 #include "editor/NumberDelegate.h"
@@ -48,6 +49,14 @@ std::vector<ColumnContent> shownColumns(const QTableView &table)
     for (const int column : header.shownColumns())
         columns.push_back(stationColumns.at(static_cast<std::size_t>(column)).content);
     return columns;
+}
+
+void sizeText(QTableView &table, int percent)
+{
+    table.setFont({}); // as around it
+    if (percent != 100)
+        table.setFont(sizeOf(table.font(), percent));
+    sizeRows(table, table.fontMetrics());
 }
 
 void sizeRows(QTableView &table, const QFontMetrics &metrics)

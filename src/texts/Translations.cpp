@@ -66,6 +66,15 @@ bool hasTexts(const QString &language)
     return known != QLocale::C && textLanguages().contains(QLocale::languageToCode(known));
 }
 
+QString ownNameOf(const QString &language)
+{
+    QTranslator texts;
+    return texts.load(QLocale(language), QStringLiteral("quillet"), QStringLiteral("_"),
+                      textFolder())
+               ? texts.translate("", "kLanguageTitle")
+               : QString();
+}
+
 void installTranslations(const QString &language)
 {
     // A translator that is deleted takes itself out of the application object.

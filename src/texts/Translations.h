@@ -10,6 +10,9 @@ namespace quillet {
 /// Whether it has texts for readers of that language ("de", "de_AT").
 [[nodiscard]] bool hasTexts(const QString &language);
 
+/// What its readers call the language ("Deutsch"); empty when there are no texts in it.
+[[nodiscard]] QString ownNameOf(const QString &language);
+
 /// Loads the program's texts and Qt's own into the application object: in the given language, or in
 /// the system's when it is empty. What a language lacks is shown in English. Takes the place of the
 /// texts loaded before; what is on show keeps the ones it was made with.

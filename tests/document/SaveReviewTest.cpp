@@ -3,6 +3,7 @@
 
 #include "document/SaveReview.h"
 #include "document/repair/RepairedWriter.h"
+#include "files/Settings.h"
 #include "testing/PresetPrompts.h"
 #include "testing/TestFiles.h"
 #include "testing/TestMain.h"
@@ -24,6 +25,7 @@ struct Shown
     {
         writeFile(path(), before);
         document.setPrompts(&prompts);
+        document.setSettings(&settings);
         Error error;
         if (!document.readFromUrl(QUrl::fromLocalFile(path()), TLLDocument::typeName(), error))
             qFatal("the list of the test is not one");
@@ -42,6 +44,7 @@ struct Shown
     QByteArray before;
     QTemporaryDir folder;
     PresetPrompts prompts{PresetPrompts::Arrival::AtOnce};
+    Settings settings;
     TLLDocument document;
 };
 

@@ -97,7 +97,8 @@ private slots:
         CountingModel model(editor.controller);
         DarkModeTableView table;
         table.setModel(&model);
-        ShownColumns columns(table);
+        Settings settings;
+        ShownColumns columns(table, settings);
         editor.outlets.reloaded = [&model] { model.reload(); };
         editor.outlets.changed = [&model](const ListChange &change) { model.show(change); };
         table.resize(900, 600);

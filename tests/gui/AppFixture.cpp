@@ -17,6 +17,7 @@ App::App(Prompts *prompts, Settings settings) : delegate(prompts ? *prompts : pr
     Q_UNUSED(hasTexts)
     if (settings == Settings::Cleared)
         QSettings().clear();
+    delegate.settings().look();
 }
 
 QString App::write(const char *name, const QByteArray &bytes) const

@@ -81,7 +81,7 @@ private slots:
         for (const char *columns :
              {"progNum,progName", "progNum,progName,networkId", "progNum,networkId,progName"}) {
             QString state = QLatin1String(columns) + QStringLiteral(",-visible,-skipped,-blocked");
-            QSettings().setValue(QStringLiteral("Columns XML"), state.split(u','));
+            quillet::Settings().set(Setting::XMLColumns, state.split(u','));
             printed.append(print(list).value(0));
         }
         QCOMPARE(printed[1].count("Tj") - printed[0].count("Tj"),

@@ -26,6 +26,7 @@
 #include <QScrollArea>
 #include <QStyleOptionComboBox>
 #include <QStyleOptionFrame>
+#include <QTabWidget>
 #include <QTest>
 
 using namespace quillet;
@@ -317,6 +318,41 @@ private slots:
         QCOMPARE(clippedInDialog(*window, "alert"), QString());
         part<EditorView>(*window, "EditorView").controller().comparing().compareWithFile(order);
         QCOMPARE(clippedInDialog(*window, "compareDialog"), QString());
+    }
+
+    void preferencesAreNotClipped_data() { nothingIsClipped_data(); }
+    /// Nor has a page two keys for one letter.
+    void preferencesAreNotClipped()
+    {
+        QFETCH(QString, language);
+        QFETCH(Qt::LayoutDirection, direction);
+        App app;
+        const Locale locale(language, direction);
+        app.delegate.showPreferences();
+        QWidget *dialog = QApplication::activeWindow();
+        QVERIFY(QTest::qWaitFor([&dialog] {
+            dialog = QApplication::activeWindow();
+            return dialog && dialog->objectName() == "preferencesDialog"_L1;
+        }));
+        auto &pages = part<QTabWidget>(*dialog, "preferencesPages");
+        QCOMPARE(pages.count(), 3);
+        for (int i = 0; i < pages.count(); ++i) {
+            pages.setCurrentIndex(i);
+            QCoreApplication::processEvents();
+            QCOMPARE(clippedParts(*dialog), QString());
+            QStringList texts;
+            for (int tab = 0; tab < pages.count(); ++tab)
+                texts.append(pages.tabText(tab));
+            for (const QWidget *each : dialog->findChildren<QWidget *>()) {
+                const auto *label = qobject_cast<const QLabel *>(each);
+                const auto *button = qobject_cast<const QAbstractButton *>(each);
+                if (each->isVisible() && label && label->buddy())
+                    texts.append(label->text());
+                else if (each->isVisible() && button && !button->text().isEmpty())
+                    texts.append(button->text());
+            }
+            QCOMPARE(repeated(texts), QString());
+        }
     }
 
     void hintsAreNotClipped_data()

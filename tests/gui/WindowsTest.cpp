@@ -2,7 +2,6 @@
 
 #include "app/OpenRequest.h"
 #include "app/TerminationSignals.h"
-#include "document/SaveReview.h"
 #include "editor/EditorView.h"
 #include "files/FileNames.h"
 #include "files/FileOperations.h"
@@ -20,7 +19,6 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QPushButton>
-#include <QSettings>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
@@ -165,11 +163,11 @@ private slots:
         // What was chosen in a sheet to be done silently is undone in the menu.
         const QAction &always = menuItem(*window, "alwaysRepair");
         QVERIFY(!always.isVisible());
-        QSettings().setValue(SaveReview::alwaysKey, true);
+        app.delegate.settings().set(Setting::RepairsJSONLists, true);
         emit part<QMenu>(*window, "fileMenu").aboutToShow();
         QVERIFY(always.isVisible() && always.isChecked());
         menuItem(*window, "alwaysRepair").trigger();
-        QVERIFY(!always.isVisible() && !QSettings().value(SaveReview::alwaysKey).toBool());
+        QVERIFY(!always.isVisible() && !app.delegate.settings().isOn(Setting::RepairsJSONLists));
     }
 
     void quitAsksAboutChanges()

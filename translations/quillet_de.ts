@@ -1827,7 +1827,7 @@
     </message>
     <message id="kPrefVersionsNote">
         <source></source>
-        <translation>Die erste Version jeder Datei bleibt immer. Über den Grenzen gehen beim nächsten Speichern die ältesten. Wird das Aufheben ausgeschaltet, bleibt alles Vorhandene. quillet-cli hält sich ebenfalls daran.</translation>
+        <translation>Die erste Version jeder Datei bleibt immer. Über den Grenzen gehen beim nächsten Speichern die ältesten. Wird das Aufheben ausgeschaltet, bleibt alles Vorhandene. quillet‑cli hält sich ebenfalls daran.</translation>
     </message>
     <message id="kPrefVersionSpace">
         <source></source>

@@ -1827,7 +1827,7 @@
     </message>
     <message id="kPrefVersionsNote">
         <source></source>
-        <translation>The first version of each file always stays. Above the limits the oldest go at the next save. Turning this off removes nothing. quillet-cli goes by these settings, too.</translation>
+        <translation>The first version of each file always stays. Above the limits the oldest go at the next save. Turning this off removes nothing. quillet‑cli goes by these settings, too.</translation>
     </message>
     <message id="kPrefVersionSpace">
         <source></source>

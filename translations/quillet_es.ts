@@ -1827,7 +1827,7 @@
     </message>
     <message id="kPrefVersionsNote">
         <source></source>
-        <translation>La primera versión de cada archivo permanece siempre. Si se superan los límites, las más antiguas se eliminan al guardar la próxima vez. Desactivarlo no elimina nada. quillet-cli también sigue estos ajustes.</translation>
+        <translation>La primera versión de cada archivo permanece siempre. Si se superan los límites, las más antiguas se eliminan al guardar la próxima vez. Desactivarlo no elimina nada. quillet‑cli también sigue estos ajustes.</translation>
     </message>
     <message id="kPrefVersionSpace">
         <source></source>

@@ -1827,7 +1827,7 @@
     </message>
     <message id="kPrefVersionsNote">
         <source></source>
-        <translation>La première version de chaque fichier reste toujours. Au-delà des limites, les plus anciennes disparaissent au prochain enregistrement. Désactiver l’option ne supprime rien. quillet-cli suit aussi ces réglages.</translation>
+        <translation>La première version de chaque fichier reste toujours. Au-delà des limites, les plus anciennes disparaissent au prochain enregistrement. Désactiver l’option ne supprime rien. quillet‑cli suit aussi ces réglages.</translation>
     </message>
     <message id="kPrefVersionSpace">
         <source></source>

@@ -1827,7 +1827,7 @@
     </message>
     <message id="kPrefVersionsNote">
         <source></source>
-        <translation>La prima versione di ogni file resta sempre. Oltre i limiti, al salvataggio successivo vengono eliminate le più vecchie. Disattivare l’opzione non elimina nulla. Anche quillet-cli segue queste impostazioni.</translation>
+        <translation>La prima versione di ogni file resta sempre. Oltre i limiti, al salvataggio successivo vengono eliminate le più vecchie. Disattivare l’opzione non elimina nulla. Anche quillet‑cli segue queste impostazioni.</translation>
     </message>
     <message id="kPrefVersionSpace">
         <source></source>

@@ -1827,7 +1827,7 @@
     </message>
     <message id="kPrefVersionsNote">
         <source></source>
-        <translation>De eerste versie van elk bestand blijft altijd. Boven de grenzen verdwijnen de oudste bij de volgende keer opslaan. Uitschakelen verwijdert niets. Ook quillet-cli houdt zich hieraan.</translation>
+        <translation>De eerste versie van elk bestand blijft altijd. Boven de grenzen verdwijnen de oudste bij de volgende keer opslaan. Uitschakelen verwijdert niets. Ook quillet‑cli houdt zich hieraan.</translation>
     </message>
     <message id="kPrefVersionSpace">
         <source></source>

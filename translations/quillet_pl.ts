@@ -1861,7 +1861,7 @@
     </message>
     <message id="kPrefVersionsNote">
         <source></source>
-        <translation>Pierwsza wersja każdego pliku zawsze pozostaje. Po przekroczeniu limitów najstarsze znikają przy następnym zapisie. Wyłączenie niczego nie usuwa. Tych ustawień przestrzega też quillet-cli.</translation>
+        <translation>Pierwsza wersja każdego pliku zawsze pozostaje. Po przekroczeniu limitów najstarsze znikają przy następnym zapisie. Wyłączenie niczego nie usuwa. Tych ustawień przestrzega też quillet‑cli.</translation>
     </message>
     <message id="kPrefVersionSpace">
         <source></source>

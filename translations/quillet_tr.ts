@@ -1793,7 +1793,7 @@
     </message>
     <message id="kPrefVersionsNote">
         <source></source>
-        <translation>Her dosyanın ilk sürümü her zaman kalır. Sınırlar aşılırsa bir sonraki kaydetmede en eskileri silinir. Kapatmak hiçbir şeyi silmez. quillet-cli de bu ayarlara uyar.</translation>
+        <translation>Her dosyanın ilk sürümü her zaman kalır. Sınırlar aşılırsa bir sonraki kaydetmede en eskileri silinir. Kapatmak hiçbir şeyi silmez. quillet‑cli de bu ayarlara uyar.</translation>
     </message>
     <message id="kPrefVersionSpace">
         <source></source>

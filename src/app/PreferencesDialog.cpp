@@ -1,6 +1,8 @@
 #include "app/PreferencesDialog.h"
 
-#include "app/PreferencesPages.h"
+#include "app/GeneralPage.h"
+#include "app/SavingPage.h"
+#include "app/TablePage.h"
 #include "framework/Mnemonics.h"
 #include "framework/ScreenPlace.h"
 

@@ -1311,7 +1311,7 @@
     </message>
     <message id="kMenuPreferences">
         <source></source>
-        <translation>E&amp;instellungen …</translation>
+        <translation>E&amp;instellungen …</translation>
     </message>
     <message id="kMenuPrint">
         <source></source>
@@ -1759,7 +1759,7 @@
     </message>
     <message id="kPrefKeepVersions">
         <source></source>
-        <translation>Aufheben, was beim Speichern ersetzt wird</translation>
+        <translation>Aufbewahren, was beim Speichern ersetzt wird</translation>
     </message>
     <message id="kPrefLanguage">
         <source></source>
@@ -1827,7 +1827,7 @@
     </message>
     <message id="kPrefVersionsNote">
         <source></source>
-        <translation>Die erste Version jeder Datei bleibt immer. Über den Grenzen gehen beim nächsten Speichern die ältesten. Wird das Aufheben ausgeschaltet, bleibt alles Vorhandene. quillet‑cli hält sich ebenfalls daran.</translation>
+        <translation>Die erste Version jeder Datei bleibt immer. Über den Grenzen gehen beim nächsten Speichern die ältesten. Wird das Aufbewahren ausgeschaltet, bleibt alles Vorhandene. quillet‑cli hält sich ebenfalls daran.</translation>
     </message>
     <message id="kPrefVersionSpace">
         <source></source>
@@ -2615,7 +2615,7 @@ Diese folgen ab Nummer: %3</translation>
     </message>
     <message id="kTipVersionsOff">
         <source></source>
-        <translation>In den Einstellungen ist ausgeschaltet, dass frühere Versionen aufgehoben werden</translation>
+        <translation>In den Einstellungen ist ausgeschaltet, dass frühere Versionen aufbewahrt werden</translation>
     </message>
     <message id="kTipVersionStations">
         <source></source>

@@ -380,11 +380,13 @@ void EditorView::changeEvent(QEvent *event)
         sizeTexts();
 }
 
+/// What lies over the empty table is no part of it.
 void EditorView::sizeTexts()
 {
     const int percent = m_settings.number(Setting::TextSize);
     m_model.setTextSize(percent);
     sizeControls(*m_ui, font(), percent);
+    m_emptyPage->setFont(sizeOf(font()));
 }
 
 } // namespace quillet

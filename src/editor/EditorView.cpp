@@ -39,7 +39,11 @@ EditorView::EditorView(Settings &settings, QWidget *parent)
     m_ui->searchText->installEventFilter(this);
 }
 
-EditorView::~EditorView() = default;
+/// The table goes later, and remembers its columns then.
+EditorView::~EditorView()
+{
+    disconnect(&m_settings, nullptr, this, nullptr);
+}
 
 void EditorView::setUpTable()
 {

@@ -2585,6 +2585,10 @@ Diese folgen ab Nummer: %3</translation>
         <source></source>
         <translation>Beim Speichern wird die ersetzte Version der Datei aufbewahrt; von dieser Liste gibt es noch keine</translation>
     </message>
+    <message id="kTipPrefUsual">
+        <source></source>
+        <translation>Auf dieser Seite gelten schon die Voreinstellungen</translation>
+    </message>
     <message id="kTipRenameAnalogue">
         <source></source>
         <translation>Namen lassen sich nur in der analogen Liste ändern</translation>

@@ -2585,6 +2585,10 @@ These continue from number: %3</translation>
         <source></source>
         <translation>A version is kept each time you save over a file; there is none of this list yet</translation>
     </message>
+    <message id="kTipPrefUsual">
+        <source></source>
+        <translation>This page has its default settings already</translation>
+    </message>
     <message id="kTipRenameAnalogue">
         <source></source>
         <translation>Names can be changed in the analogue list only</translation>

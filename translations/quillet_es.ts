@@ -2585,6 +2585,10 @@ Estos continúan a partir del número: %3</translation>
         <source></source>
         <translation>Cada vez que guarda sobre un archivo se conserva su versión; de esta lista aún no hay ninguna</translation>
     </message>
+    <message id="kTipPrefUsual">
+        <source></source>
+        <translation>Esta página ya tiene los valores predeterminados</translation>
+    </message>
     <message id="kTipRenameAnalogue">
         <source></source>
         <translation>Los nombres solo se pueden cambiar en la lista analógica</translation>

@@ -2585,6 +2585,10 @@ Ces dernières suivent à partir du numéro : %3</translation>
         <source></source>
         <translation>Une version est conservée à chaque enregistrement par-dessus un fichier ; il n’y en a pas encore de cette liste</translation>
     </message>
+    <message id="kTipPrefUsual">
+        <source></source>
+        <translation>Cette page a déjà ses valeurs par défaut</translation>
+    </message>
     <message id="kTipRenameAnalogue">
         <source></source>
         <translation>Les noms ne peuvent être modifiés que dans la liste analogique</translation>

@@ -2585,6 +2585,10 @@ Questi proseguono dal numero: %3</translation>
         <source></source>
         <translation>A ogni salvataggio viene conservata la versione sostituita del file; di questa lista non ce n’è ancora nessuna</translation>
     </message>
+    <message id="kTipPrefUsual">
+        <source></source>
+        <translation>Questa pagina ha già i valori predefiniti</translation>
+    </message>
     <message id="kTipRenameAnalogue">
         <source></source>
         <translation>I nomi si possono cambiare solo nella lista analogica</translation>

@@ -2585,6 +2585,10 @@ Deze gaan verder vanaf nummer: %3</translation>
         <source></source>
         <translation>Bij elke keer opslaan wordt de vervangen versie van het bestand bewaard; van deze lijst is er nog geen</translation>
     </message>
+    <message id="kTipPrefUsual">
+        <source></source>
+        <translation>Deze pagina heeft al de standaardwaarden</translation>
+    </message>
     <message id="kTipRenameAnalogue">
         <source></source>
         <translation>Namen kunnen alleen in de analoge lijst worden gewijzigd</translation>

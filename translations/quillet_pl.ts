@@ -2645,6 +2645,10 @@ Te ostatnie następują od numeru: %3</translation>
         <source></source>
         <translation>Przy każdym zapisie zachowywana jest zastąpiona wersja pliku; tej listy jeszcze żadnej nie ma</translation>
     </message>
+    <message id="kTipPrefUsual">
+        <source></source>
+        <translation>Ta strona ma już ustawienia domyślne</translation>
+    </message>
     <message id="kTipRenameAnalogue">
         <source></source>
         <translation>Nazwy można zmieniać tylko na liście analogowej</translation>

@@ -2525,6 +2525,10 @@ Bunların devam ettiği numara: %3</translation>
         <source></source>
         <translation>Bir dosyanın üzerine her kaydettiğinizde önceki sürümü saklanır; bu listenin henüz sürümü yok</translation>
     </message>
+    <message id="kTipPrefUsual">
+        <source></source>
+        <translation>Bu sayfada zaten varsayılanlar geçerli</translation>
+    </message>
     <message id="kTipRenameAnalogue">
         <source></source>
         <translation>Adlar yalnızca analog listede değiştirilebilir</translation>

@@ -104,6 +104,7 @@ void PreferencesDialog::setMnemonics()
 void PreferencesDialog::showState()
 {
     m_useUsual->setEnabled(!page().isUsual());
+    m_useUsual->setToolTip(page().isUsual() ? qtTrId("kTipPrefUsual") : QString());
 }
 
 PreferencesPage &PreferencesDialog::page() const

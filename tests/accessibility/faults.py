@@ -5,7 +5,8 @@ import re
 from reader import is_showing, labels, parts, states
 
 CONTROLS = {"check box", "combo box", "link", "list", "push button", "radio button", "slider",
-            "spin button", "table", "text", "toggle button", "tree", "page tab"}
+            "spin button", "table", "text", "toggle button", "tree", "page tab",
+            "page tab list"}
 CONTENT = {"label", "list item", "notification", "paragraph", "table cell"}  # may have the focus, too
 OBJECT_NAME = re.compile(r"[a-z]+([A-Z]\w*)+")
 
@@ -19,6 +20,8 @@ def name_of(thing):
 
 def faults_of(thing):
     role, has = thing.getRoleName(), states(thing)
+    if role == "filler" and any(part.getRoleName() == "page tab list" for part in thing):
+        return  # which passes the focus on to its tabs
     if "focusable" in has and role not in CONTROLS | CONTENT:
         yield "has no fitting role"
     if role not in CONTROLS:

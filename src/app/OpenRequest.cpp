@@ -69,7 +69,7 @@ std::optional<OpenRequest> OpenRequest::fromMessage(QByteArrayView message)
         return {};
     OpenRequest request;
     if (!fields.isEmpty() && fields.front().startsWith(tokenMark)) {
-        request.activationToken = fields.takeFirst().sliced(qstrlen(tokenMark));
+        request.activationToken = fields.takeFirst().sliced(QByteArrayView(tokenMark).size());
         if (!isToken(request.activationToken))
             return {};
     }

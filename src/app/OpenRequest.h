@@ -23,7 +23,7 @@ struct OpenRequest
     /// those of the folder that the program runs in.
     [[nodiscard]] static OpenRequest ofThisStart(const QStringList &paths);
 
-    static constexpr qsizetype mostBytes = 256 * 1024;
+    static constexpr qsizetype mostBytes = qsizetype{256} * 1024;
     static constexpr qsizetype mostFiles = 256;
 
     /// None when there is more to ask than a message may hold.

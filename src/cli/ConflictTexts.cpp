@@ -72,9 +72,9 @@ QString filled(QLatin1String text, const QStringList &values)
 
 QString textOf(const MergeConflict &conflict)
 {
-    const QString text = filled(QLatin1String(factsOf(conflict.kind).text),
-                                {told(conflict, conflict.ours), told(conflict, conflict.theirs),
-                                 cleanName(conflict.rival.name)});
+    QString text = filled(QLatin1String(factsOf(conflict.kind).text),
+                          {told(conflict, conflict.ours), told(conflict, conflict.theirs),
+                           cleanName(conflict.rival.name)});
     const auto sides = {conflict.ours, conflict.theirs, conflict.base};
     const auto *const side = std::find_if(sides.begin(), sides.end(),
                                           [](const Side &each) { return each.station != nullptr; });

@@ -36,6 +36,7 @@ ExitStatus editFile(const QString &path, ListSaving &saving, const Invocation &i
     EditedList edited(*file, invocation, console);
     StationChoice choice(invocation);
     std::vector<StationList> chosen;
+    chosen.reserve(lists.size());
     for (const ChosenList &list : lists)
         chosen.push_back(choice.of(*list.stations));
     if (const QStringList unmet = choice.unmet(); !unmet.isEmpty())

@@ -7,6 +7,8 @@
 
 #include <QPointer>
 
+#include <utility>
+
 namespace quillet {
 
 EditorQuestions::EditorQuestions(TLLDocument &document, QWidget *window, QObject *context)
@@ -24,7 +26,8 @@ void EditorQuestions::askForNumber(qsizetype stations, std::function<void(qint64
                       .buttons = {qtTrId("kMovingOK"), qtTrId("kCancel")},
                       .cancelButton = 1,
                       .asksForText = true};
-    const auto check = [answered, refused, guard = QPointer(m_context)](const AlertAnswer &answer) {
+    const auto check = [answered = std::move(answered), refused = std::move(refused),
+                        guard = QPointer(m_context)](const AlertAnswer &answer) {
         const qint64 number = lenientInteger(answer.text);
         if (!guard || answer.button != 0)
             return;
@@ -46,7 +49,8 @@ void EditorQuestions::askToGoBeyond(std::size_t stations, std::function<void(boo
         .buttons = {qtTrId("kCancel"), qtTrId("kBeyondAnyway")},
         .cancelButton = 0,
         .destructiveButton = 1};
-    const auto check = [answered, guard = QPointer(m_context)](const AlertAnswer &answer) {
+    const auto check = [answered = std::move(answered),
+                        guard = QPointer(m_context)](const AlertAnswer &answer) {
         if (guard)
             answered(answer.button == 1);
     };
@@ -62,7 +66,8 @@ void EditorQuestions::askToReplace(std::function<void()> confirmed) const
                       .buttons = {qtTrId("kCancel"), qtTrId("kDiscardChanges")},
                       .cancelButton = 0,
                       .destructiveButton = 1};
-    const auto check = [confirmed, guard = QPointer(m_context)](const AlertAnswer &answer) {
+    const auto check = [confirmed = std::move(confirmed),
+                        guard = QPointer(m_context)](const AlertAnswer &answer) {
         if (guard && answer.button == 1)
             confirmed();
     };

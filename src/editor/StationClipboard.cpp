@@ -20,7 +20,7 @@ const QString keyTitle = QStringLiteral("stationKey");
 const QString textFormat = QStringLiteral("text/plain");
 
 /// More than the rows of any list, in bytes: what is longer is something else.
-constexpr qsizetype longestText = 32 * 1024 * 1024;
+constexpr qsizetype longestText = qsizetype{32} * 1024 * 1024;
 
 QString linesOf(const StationList &stations, const CellTexts &cells)
 {

@@ -83,7 +83,7 @@ bool copyExtendedAttributes(const QString &path, int handle)
 std::optional<QByteArray> accessListOf(const QString &path)
 {
     const QByteArray from = bytesOfPath(path);
-    const auto list = taken([&from](char *to, std::size_t size) {
+    auto list = taken([&from](char *to, std::size_t size) {
         return ::getxattr(from.constData(), accessListName, to, size);
     });
     if (list || (errno != ENODATA && !hasNone(errno)))

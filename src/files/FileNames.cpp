@@ -46,8 +46,8 @@ QString pathFromBytes(QByteArrayView name)
     // Nearly all names are such that can be decoded at once.
     if (name.isValidUtf8()) {
         QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
-        const QString text = decoder(name);
-        if (std::none_of(text.begin(), text.end(), isEscape))
+        QString text = decoder(name);
+        if (std::none_of(text.cbegin(), text.cend(), isEscape))
             return text;
     }
     QString path;

@@ -65,7 +65,7 @@ QString openForReading(QFile &file)
         return errno == ENOENT || errno == ENOTDIR
                    ? qtTrId("kFileMissingReason").arg(shownPath(absolutePath(path)))
                    : unreadable(errno);
-    const QString obstacle = obstacleOf(status, name);
+    QString obstacle = obstacleOf(status, name);
     if (!obstacle.isEmpty())
         return obstacle;
     // Another program that has leased the file gives it back when it sees that it is wanted.

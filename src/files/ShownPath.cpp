@@ -23,8 +23,8 @@ bool readsFromRightToLeft(QChar c)
 
 QString shownPath(const QString &path)
 {
-    const QString text = readable(path);
-    if (std::none_of(text.begin(), text.end(), readsFromRightToLeft))
+    QString text = readable(path);
+    if (std::none_of(text.cbegin(), text.cend(), readsFromRightToLeft))
         return text;
     QStringList names = text.split(u'/');
     const qsizetype dot = names.constLast().lastIndexOf(u'.');

@@ -74,7 +74,7 @@ QString VersionHistory::place() const
 std::vector<KeptVersion> VersionHistory::versions() const
 {
     std::vector<KeptVersion> versions;
-    for (const QJsonValue &value : m_object[versionsKey].toArray()) {
+    for (const QJsonValue value : m_object[versionsKey].toArray()) {
         const std::optional<KeptVersion> version = versionOf(value);
         const auto isSame = [&version](const auto &each) { return each.digest == version->digest; };
         if (version && std::none_of(versions.begin(), versions.end(), isSame))
@@ -124,7 +124,7 @@ void VersionHistory::shorten(std::size_t most)
 void VersionHistory::remove(const QByteArray &digest)
 {
     QJsonArray left;
-    for (const QJsonValue &value : m_object[versionsKey].toArray()) {
+    for (const QJsonValue value : m_object[versionsKey].toArray()) {
         const std::optional<KeptVersion> version = versionOf(value);
         if (!version || version->digest != digest)
             left.append(value);

@@ -469,7 +469,7 @@ void Document::askToClose(std::function<void(bool)> done)
                      qtTrId("kCancel")};
     alert.cancelButton = Cancel;
     alert.destructiveButton = Discard;
-    ask(alert, [this, done](const AlertAnswer &answer) {
+    ask(alert, [this, done = std::move(done)](const AlertAnswer &answer) {
         if (answer.button == Save)
             saveDocument([guard = QPointer<Document>(this), done](bool isWritten) {
                 // What was done while the save asked is not in the file.

@@ -281,7 +281,7 @@ void DocumentController::remove(Document *document)
 void DocumentController::closeDocument(Document *document, std::function<void(bool)> done)
 {
     const QPointer<DocumentController> guard(this);
-    document->askToClose([guard, document, done](bool mayClose) {
+    document->askToClose([guard, document, done = std::move(done)](bool mayClose) {
         if (mayClose && guard)
             guard->remove(document);
         if (done)
@@ -289,7 +289,7 @@ void DocumentController::closeDocument(Document *document, std::function<void(bo
     });
 }
 
-void DocumentController::closeAllDocuments(std::function<void(bool)> done)
+void DocumentController::closeAllDocuments(const std::function<void(bool)> &done)
 {
     if (m_isReviewing)
         return done(false);

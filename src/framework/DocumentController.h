@@ -74,7 +74,7 @@ public:
     void closeDocument(Document *document, std::function<void(bool)> done = {});
     /// Asks about unsaved changes, document after document, and then closes them all. As soon as
     /// one answer is to cancel, every document stays open and `done` gets false.
-    void closeAllDocuments(std::function<void(bool)> done);
+    void closeAllDocuments(const std::function<void(bool)> &done);
 
     /// Whether that is being asked now.
     [[nodiscard]] bool isClosingAll() const { return m_isReviewing; }

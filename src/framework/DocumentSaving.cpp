@@ -88,7 +88,7 @@ void DocumentSaving::writeToNewPlace(const QString &title)
 QString DocumentSaving::suggestedPath() const
 {
     const QUrl &own = m_document.fileUrl();
-    const QString path = (own.isEmpty() ? m_document.suggestedUrl() : own).toLocalFile();
+    QString path = (own.isEmpty() ? m_document.suggestedUrl() : own).toLocalFile();
     const bool isOnItsDisk =
         own.isEmpty() || FileState::none(path).isOnDeviceOf(m_document.knownState());
     if (!path.isEmpty() && isOnItsDisk && isThere(QFileInfo(placeOf(path)).path()))

@@ -12,7 +12,7 @@ namespace {
 
 QString indentation(int level)
 {
-    return QString((level + 1) * 4, QLatin1Char(' '));
+    return QString((qsizetype{level} + 1) * 4, QLatin1Char(' '));
 }
 
 /// Adds the text of a value, or enough of it.

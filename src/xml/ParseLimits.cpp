@@ -9,7 +9,7 @@ namespace quillet::limit {
 namespace {
 
 /// An attribute takes four bytes and the blank before it one.
-constexpr qsizetype shortestCrowd = 5 * attributes;
+constexpr qsizetype shortestCrowd = qsizetype{5} * attributes;
 
 /// Whether the start tag in whose name the text begins has too many attributes. What has another
 /// shape, as in a comment or a CDATA section, has none.

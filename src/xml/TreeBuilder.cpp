@@ -240,9 +240,9 @@ QString TreeBuilder::takeText()
         run = run.sliced(1);
     const QString text = m_texts.text(run);
     const auto isBlankBeyondAscii = [](QChar c) { return c.unicode() >= 0x80 && c.isSpace(); };
-    if (!text.isEmpty() && (isBlankBeyondAscii(text.front()) || isBlankBeyondAscii(text.back())))
-        return text.trimmed();
-    return text;
+    const bool hasBlanks =
+        !text.isEmpty() && (isBlankBeyondAscii(text.front()) || isBlankBeyondAscii(text.back()));
+    return hasBlanks ? text.trimmed() : text;
 }
 
 void TreeBuilder::endText()

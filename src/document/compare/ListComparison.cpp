@@ -143,6 +143,7 @@ void Comparing::compareAcross(bool isTV)
         return;
     const auto placesOf = [](const std::vector<LeftOver> &stations) {
         std::vector<std::size_t> places;
+        places.reserve(stations.size());
         for (const LeftOver &station : stations)
             places.push_back(station.place);
         return places;

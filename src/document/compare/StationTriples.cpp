@@ -8,11 +8,9 @@ namespace quillet {
 
 namespace {
 
-using AllTriples = std::array<StationTriples, 2 * stationSourceCount>;
-
 StationTriples &triplesOf(AllTriples &all, const ComparedLists &lists)
 {
-    return all[static_cast<std::size_t>(2 * lists.source + (lists.isTV ? 0 : 1))];
+    return all[2 * static_cast<std::size_t>(lists.source) + (lists.isTV ? 0U : 1U)];
 }
 
 /// Adds what one side has of the stations of the base. Returns what it has besides.

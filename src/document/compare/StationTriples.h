@@ -35,9 +35,11 @@ struct StationTriples
     std::vector<StationTriple> stations;
 };
 
+using AllTriples = std::array<StationTriples, std::size_t{2} * stationSourceCount>;
+
 /// Finds the stations of each of the eight lists again, as comparing does; what ours and theirs
 /// both have added only where that is sure. Reads the stations' names; otherwise changes nothing.
-[[nodiscard]] std::array<StationTriples, 2 * stationSourceCount>
-findTriples(const StationLists &base, const StationLists &ours, const StationLists &theirs);
+[[nodiscard]] AllTriples findTriples(const StationLists &base, const StationLists &ours,
+                                     const StationLists &theirs);
 
 } // namespace quillet

@@ -197,6 +197,7 @@ void planNumbersByRows(TakeOverPlan &plan, const StationList &list,
     own = rows;
     std::sort(own.begin(), own.end());
     std::vector<qint64> numbers;
+    numbers.reserve(own.size());
     for (const std::size_t place : own)
         numbers.push_back(list[place]->progNum());
     std::sort(numbers.begin(), numbers.end());

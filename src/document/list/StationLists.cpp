@@ -39,11 +39,11 @@ bool StationLists::fileStation(StationPtr station, FilePlace place)
 
 qsizetype StationLists::stationCount(int source) const
 {
-    const auto size = [source](const Lists &lists) {
+    const auto size = [source](const Lists &lists) -> qsizetype {
         const StationListPtr &list = lists.at(static_cast<std::size_t>(source));
-        return list ? list->size() : 0;
+        return list ? static_cast<qsizetype>(list->size()) : 0;
     };
-    return static_cast<qsizetype>(size(m_tvStations) + size(m_radioStations));
+    return size(m_tvStations) + size(m_radioStations);
 }
 
 StationListPtr StationLists::listWithMostEntries(bool isTV) const

@@ -127,6 +127,25 @@ std::optional<ListDifference::Footer> footerOf(const TakenList &list)
     return ListDifference::Footer{0, footer};
 }
 
+void change(Dictionary &entry, const ListDifference::Station &difference)
+{
+    if (difference.isWhole)
+        entry = Dictionary();
+    for (const auto &[key, value] : difference.fields)
+        entry.insert(key, value);
+}
+
+StationList stationsOf(const std::vector<ListDifference::Run> &runs,
+                       const std::vector<FiledStation> &roll)
+{
+    StationList stations;
+    for (const ListDifference::Run &run : runs) {
+        for (quint32 place = run.first; place < run.first + run.count; ++place)
+            stations.push_back(roll[place].station);
+    }
+    return stations;
+}
+
 } // namespace
 
 ListDifference ListDifference::of(const TakenList &list)
@@ -210,10 +229,7 @@ bool ListDifference::applyTo(ChannelList &fresh) const
         if (namesRead[static_cast<qsizetype>(place)] != 0)
             name.read = station->stationName();
         if (changed != stations.end() && changed->place == place) {
-            if (changed->isWhole)
-                entry = Dictionary();
-            for (const auto &[key, value] : changed->fields)
-                entry.insert(key, value);
+            change(entry, *changed);
             name.read = changed->nameRead.value_or(name.read);
             name.asMade = changed->nameAsMade;
             if (changed->changesRadio)
@@ -224,14 +240,8 @@ bool ListDifference::applyTo(ChannelList &fresh) const
         station->setRememberedName(name);
     }
     for (std::size_t i = 0; i < lists.size(); ++i) {
-        const StationListPtr &list = fresh.lists.list(i % 2 == 0, static_cast<int>(i / 2));
-        if (!list)
-            continue;
-        list->clear();
-        for (const Run &run : lists[i]) {
-            for (quint32 place = run.first; place < run.first + run.count; ++place)
-                list->push_back(roll[place].station);
-        }
+        if (const auto &list = fresh.lists.list(i % 2 == 0, static_cast<int>(i / 2)))
+            *list = stationsOf(lists[i], roll);
     }
     return true;
 }

@@ -53,6 +53,11 @@ QByteArray escaped(QString text)
     return XMLEncodedString(text).toUtf8();
 }
 
+QByteArray element(const QByteArray &name, const QByteArray &content)
+{
+    return '<' + name + '>' + content + "</" + name + '>';
+}
+
 /// Where fields may be added to an ITEM element, whose fields are given: at its end or, where the
 /// text breaks off in it, behind its last whole field; negative when it has none.
 qsizetype placeForFields(const QByteArray &item, const std::vector<ElementSpan> &fields,
@@ -76,6 +81,28 @@ qsizetype startOfBlanks(const QByteArray &text, qsizetype place)
     return place > 0 && text[place - 1] == '\r' ? place - 1 : place;
 }
 
+/// Gives the fields of that name another text, which takes the place of several. False when there
+/// is none.
+bool replaceText(const std::vector<ElementSpan> &fields, const QByteArray &name,
+                 const QByteArray &text, std::vector<Replacement> &replacements)
+{
+    bool isWritten = false;
+    for (const ElementSpan &field : fields) {
+        if (field.name != name)
+            continue;
+        const bool isFirst = !std::exchange(isWritten, true);
+        if (!field.isClosed)
+            continue; // where it ends is not known
+        if (!isFirst)
+            replacements.push_back({field.whole, {}});
+        else if (field.content.start == field.whole.end)
+            replacements.push_back({field.whole, element(name, text)});
+        else
+            replacements.push_back({field.content, text});
+    }
+    return isWritten;
+}
+
 /// An ITEM element, as it was read, with the fields of the entry that differ from the original's.
 /// One that is not whole ends with the text; a field that is not, stays.
 QByteArray editedItem(const QByteArray &item, const Dictionary &original, const Dictionary &entry,
@@ -90,23 +117,9 @@ QByteArray editedItem(const QByteArray &item, const Dictionary &original, const 
         if (!text || (before && *before == value))
             continue;
         const QByteArray name = key.toUtf8();
-        const QByteArray element = '<' + name + '>' + escaped(*text) + "</" + name + '>';
-        bool isWritten = false;
-        for (const ElementSpan &field : fields) {
-            if (field.name != name)
-                continue;
-            const bool isFirst = !std::exchange(isWritten, true);
-            if (!field.isClosed)
-                continue; // where it ends is not known
-            if (!isFirst) // one value takes the place of several
-                replacements.push_back({field.whole, {}});
-            else if (field.content.start == field.whole.end)
-                replacements.push_back({field.whole, element});
-            else
-                replacements.push_back({field.content, escaped(*text)});
-        }
-        if (!isWritten)
-            added += element + (item.contains("\r\n") ? "\r\n" : "\n");
+        const QByteArray content = escaped(*text);
+        if (!replaceText(fields, name, content, replacements))
+            added += element(name, content) + (item.contains("\r\n") ? "\r\n" : "\n");
     }
     for (const ElementSpan &field : fields) {
         const QString key = QString::fromUtf8(field.name);
@@ -142,6 +155,7 @@ public:
                  std::vector<Replacement> &replacements) const
     {
         std::vector<TextSpan> places;
+        places.reserve(stations.size());
         for (const FiledStation &filed : stations)
             places.push_back(span(filed));
         std::sort(places.begin(), places.end(),

@@ -149,6 +149,83 @@ private:
     QHash<QString, int> m_counts;
 };
 
+/// The expected entries, found before and not, by what another one may have in common with them.
+class EntryPools
+{
+public:
+    EntryPools(const std::vector<Dictionary> &expected, const std::vector<bool> &areFound,
+               const EntryKeys &keys)
+        : m_edited(keys.edited), m_editedButNumber(keys.edited)
+    {
+        m_editedButNumber.removeOne(keys.number);
+        if (!keys.number.isEmpty())
+            m_number.append(keys.number);
+        for (std::size_t i = expected.size(); i-- > 0;) { // the last one added is found first
+            const Dictionary alike = normalized(expected[i], m_edited);
+            if (areFound[i]) {
+                m_foundSame.add(i, normalized(expected[i]));
+                m_foundAlike.add(i, alike);
+            } else {
+                m_missingOfNumber.add(i, normalized(expected[i], m_editedButNumber));
+                m_missingButNumber.add(i, normalized(expected[i], m_number));
+                m_missingAlike.add(i, alike);
+            }
+        }
+    }
+
+    struct Taken
+    {
+        std::size_t index;
+        bool isSecond; ///< it was found already
+    };
+    /// Takes out the one that an entry is of. One that has all but its number is there; that it
+    /// then looks like another is no second one.
+    std::optional<Taken> take(const Dictionary &entry, const std::vector<bool> &areFound,
+                              const std::vector<bool> &areDoubled)
+    {
+        const Dictionary alike = normalized(entry, m_edited);
+        if (const auto i = m_missingOfNumber.take(normalized(entry, m_editedButNumber), areFound))
+            return Taken{*i, false};
+        if (const auto i = m_missingButNumber.take(normalized(entry, m_number), areFound))
+            return Taken{*i, false};
+        if (const auto i = m_foundSame.take(normalized(entry), areDoubled))
+            return Taken{*i, true};
+        if (const auto i = m_missingAlike.take(alike, areFound))
+            return Taken{*i, false};
+        if (const auto i = m_foundAlike.take(alike, areDoubled))
+            return Taken{*i, true};
+        return {};
+    }
+
+private:
+    QStringList m_edited;
+    QStringList m_editedButNumber;
+    QStringList m_number; ///< its key, if there is one
+    EntryPool m_foundSame, m_foundAlike, m_missingOfNumber, m_missingButNumber, m_missingAlike;
+};
+
+/// Notes what is there as expected, and where. Returns the others.
+std::vector<const Dictionary *> findSame(const std::vector<Dictionary> &expected,
+                                         const std::vector<Dictionary> &actual,
+                                         std::vector<bool> &areFound,
+                                         std::vector<std::size_t> &places)
+{
+    EntryPool wanted;
+    for (std::size_t i = expected.size(); i-- > 0;) // the last one added is found first
+        wanted.add(i, normalized(expected[i]));
+    std::vector<const Dictionary *> others;
+    places.resize(expected.size());
+    for (std::size_t i = 0; i < actual.size(); ++i) {
+        if (const auto index = wanted.take(normalized(actual[i]), areFound)) {
+            areFound[*index] = true;
+            places[*index] = i;
+        } else {
+            others.push_back(&actual[i]);
+        }
+    }
+    return others;
+}
+
 } // namespace
 
 EntryMatches matchEntries(const std::vector<Dictionary> &expected,
@@ -162,64 +239,23 @@ EntryMatches matchEntries(const std::vector<Dictionary> &expected,
         return {};
 
     // First what is as expected, then what is alike, then what only has the number.
-    EntryPool wanted;
-    for (std::size_t i = expected.size(); i-- > 0;) // the last one added is found first
-        wanted.add(i, normalized(expected[i]));
     std::vector<bool> isFound(expected.size(), false);
-    std::vector<const Dictionary *> others;
     EntryMatches matches;
-    matches.places.resize(expected.size());
-    for (std::size_t i = 0; i < actual.size(); ++i) {
-        if (const auto index = wanted.take(normalized(actual[i]), isFound)) {
-            isFound[*index] = true;
-            matches.places[*index] = i;
-        } else {
-            others.push_back(&actual[i]);
-        }
-    }
-
-    QStringList editedButNumber = keys.edited;
-    editedButNumber.removeOne(keys.number);
-    // One that has all but its number is there; that it then looks like another is no second one.
-    const QStringList number = keys.number.isEmpty() ? QStringList() : QStringList(keys.number);
-    EntryPool foundSame, foundAlike, missingOfNumber, missingButNumber, missingAlike;
-    for (std::size_t i = expected.size(); i-- > 0;) {
-        const Dictionary alike = normalized(expected[i], keys.edited);
-        if (isFound[i]) {
-            foundSame.add(i, normalized(expected[i]));
-            foundAlike.add(i, alike);
-        } else {
-            missingOfNumber.add(i, normalized(expected[i], editedButNumber));
-            missingButNumber.add(i, normalized(expected[i], number));
-            missingAlike.add(i, alike);
-        }
-    }
+    const std::vector<const Dictionary *> others =
+        findSame(expected, actual, isFound, matches.places);
+    EntryPools pools(expected, isFound, keys);
     NumberPool mutilated(keys.number);
     std::vector<const Dictionary *> unlike;
     std::vector<bool> isDoubled(expected.size(), false);
     for (const Dictionary *entry : others) {
-        const Dictionary alike = normalized(*entry, keys.edited);
-        std::optional<std::size_t> changed =
-            missingOfNumber.take(normalized(*entry, editedButNumber), isFound);
-        if (!changed)
-            changed = missingButNumber.take(normalized(*entry, number), isFound);
-        std::optional<std::size_t> doubled;
-        if (!changed)
-            doubled = foundSame.take(normalized(*entry), isDoubled);
-        if (!changed && !doubled)
-            changed = missingAlike.take(alike, isFound);
-        if (!changed && !doubled)
-            doubled = foundAlike.take(alike, isDoubled);
-        if (changed) {
-            isFound[*changed] = true;
-            matches.changed.push_back(*changed);
-        } else if (doubled) {
-            isDoubled[*doubled] = true;
-            matches.doubled.push_back(*doubled);
-        } else {
+        const auto taken = pools.take(*entry, isFound, isDoubled);
+        if (!taken) {
             mutilated.add(*entry);
             unlike.push_back(entry);
+            continue;
         }
+        (taken->isSecond ? isDoubled : isFound)[taken->index] = true;
+        (taken->isSecond ? matches.doubled : matches.changed).push_back(taken->index);
     }
     for (std::size_t i = 0; i < expected.size(); ++i) {
         if (!isFound[i])

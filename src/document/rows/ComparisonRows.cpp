@@ -239,6 +239,7 @@ void numberByRows(ComparisonRows &rows, const StationLists &here,
             std::sort(paired.begin(), paired.end(),
                       [](const auto *a, const auto *b) { return a->placeThere < b->placeThere; });
             std::vector<TakenStation> taken;
+            taken.reserve(paired.size());
             for (const ComparisonRow *row : paired)
                 taken.push_back({row->here, row->there, StationDifference::Number});
             const TakeOverPlan plan = planTakeOver(*list, taken, NumberRule::ByRows, false);

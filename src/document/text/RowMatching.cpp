@@ -219,6 +219,18 @@ void RowMatching::claim(std::size_t row, std::size_t place, Likeness likeness)
     }
 }
 
+void RowMatching::claimAll(Verdict verdict)
+{
+    for (std::size_t i = 0; i < m_rows.size(); ++i) {
+        const Row &row = m_rows[i];
+        if (row.verdict != verdict)
+            continue;
+        const bool isByName = row.isNamedAlike && (!m_mayRename || verdict == Verdict::Unclear);
+        const bool isSure = isByName ? !m_mayRename : verdict == Verdict::Renamed && row.isOwnSure;
+        claim(i, isByName ? *row.named : *row.own, isSure ? Likeness::Sure : Likeness::Loose);
+    }
+}
+
 RowMatches RowMatching::match()
 {
     findOwn();
@@ -232,17 +244,8 @@ RowMatches RowMatching::match()
         if (m_rows[i].isNameOther && m_rows[i].verdict == Verdict::None)
             judge(i);
     }
-    for (const Verdict verdict : {Verdict::Renamed, Verdict::Unclear}) {
-        for (std::size_t i = 0; i < m_rows.size(); ++i) {
-            const Row &row = m_rows[i];
-            if (row.verdict != verdict)
-                continue;
-            const bool isByName = row.isNamedAlike && (!m_mayRename || verdict == Verdict::Unclear);
-            const bool isSure =
-                isByName ? !m_mayRename : verdict == Verdict::Renamed && row.isOwnSure;
-            claim(i, isByName ? *row.named : *row.own, isSure ? Likeness::Sure : Likeness::Loose);
-        }
-    }
+    for (const Verdict verdict : {Verdict::Renamed, Verdict::Unclear})
+        claimAll(verdict);
     for (const KnownPair &pair : std::as_const(m_matches.pairs))
         ++(pair.likeness == Likeness::Sure ? m_matches.certain : m_matches.unclear);
     return std::move(m_matches);

@@ -49,6 +49,7 @@ private:
     void findNamed();
     void judge(std::size_t first);
     void claim(std::size_t row, std::size_t place, Likeness likeness);
+    void claimAll(Verdict verdict);
 
     const StationRows &m_told;
     const StationList &m_list;

@@ -79,7 +79,7 @@ std::optional<StationKey> StationKey::fromText(QStringView text)
     std::vector<QStringView> parts;
     for (const QStringView part : text.tokenize(u'-'))
         parts.push_back(part.trimmed());
-    if (const std::optional<StationKey> identifiers = identifiersFrom(parts))
+    if (std::optional<StationKey> identifiers = identifiersFrom(parts))
         return identifiers;
     StationKey key;
     std::size_t next = 0;

@@ -136,7 +136,7 @@ QString withoutBreaks(QString name)
 /// Only what is told and differs is changed, so that everything else stays as it is in the file.
 StationPtr completed(const LGStation &row, StationDifferences told, const LGStation &station)
 {
-    const StationPtr made = copyOf(station);
+    StationPtr made = copyOf(station);
     made->setRememberedName(station.rememberedName());
     made->setIsRadio(station.isRadio());
     if (told.testFlag(StationDifference::Number) && row.progNum() != made->progNum())
@@ -172,7 +172,7 @@ StationPtr withWholeName(const StationPtr &row, const QHash<QString, QString> &n
     const auto whole = names.constFind(plainName(row->shownName()));
     if (whole == names.cend() || *whole == row->shownName())
         return row;
-    const StationPtr made = copyOf(*row);
+    StationPtr made = copyOf(*row);
     made->setName(*whole);
     return made;
 }

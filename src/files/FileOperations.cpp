@@ -151,7 +151,8 @@ bool FileOperations::readRights(const QString &path, FileRights &rights, QString
     if (!succeeded(list ? 0 : -1, reason))
         return false;
     constexpr mode_t all = S_ISUID | S_ISGID | S_ISVTX | S_IRWXU | S_IRWXG | S_IRWXO;
-    rights = {found.st_uid, found.st_gid, found.st_mode & all, found.st_nlink, *list};
+    rights = {found.st_uid, found.st_gid, static_cast<quint32>(found.st_mode & all), found.st_nlink,
+              *list};
     return true;
 }
 

@@ -167,7 +167,7 @@ std::optional<quint64> deviceOf(const QString &path)
     Q_UNUSED(path)
 #else
     if (const auto status = statusOf(QFileInfo(placeOf(path)).path()))
-        return quint64{status->st_dev};
+        return static_cast<quint64>(status->st_dev); // signed on some systems
 #endif
     return {};
 }

@@ -13,8 +13,6 @@
 #include <array>
 #include <memory>
 
-#include <unistd.h>
-
 using namespace quillet;
 using namespace quillet::testing;
 using namespace Qt::Literals::StringLiterals;

@@ -103,7 +103,7 @@ QAction *EditMenu::add(QMenu &menu, const Item &item, const std::function<void()
 /// Their texts and states are those of the document's history.
 void EditMenu::addUndo(QMenu &menu)
 {
-    const auto make = [this, &menu](const char *name, const QList<QKeySequence> &shortcuts) {
+    const auto make = [&menu](const char *name, const QList<QKeySequence> &shortcuts) {
         QAction *action = menu.addAction(QString());
         action->setObjectName(QLatin1String(name));
         action->setShortcuts(shortcuts);

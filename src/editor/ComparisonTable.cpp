@@ -11,6 +11,7 @@
 #include <QScrollBar>
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 namespace quillet {
@@ -79,13 +80,13 @@ void ComparisonTable::measureColumns()
     QHeaderView &header = *horizontalHeader();
     const int letter = fontMetrics().averageCharWidth();
     for (int column = 0; column < ComparisonModel::columns; ++column)
-        m_wanted.at(column) = qMax(header.sectionSizeHint(column), sizeHintForColumn(column));
+        m_wanted[column] = qMax(header.sectionSizeHint(column), sizeHintForColumn(column));
     // The same whichever rows are on show.
     int &list = m_wanted[ComparisonModel::List];
     for (const StationComparison::List &each : m_comparison.lists())
         list = qMax(list, fontMetrics().horizontalAdvance(shortTitleOf(each)) + 2 * letter);
     for (const int column : {ComparisonModel::NumberHere, ComparisonModel::NumberThere})
-        m_wanted.at(column) = qMax(m_wanted.at(column), 7 * letter);
+        m_wanted[column] = qMax(m_wanted.at(column), 7 * letter);
 }
 
 /// What the narrow columns leave goes to the difference first, but for what tells names apart; the
@@ -95,15 +96,14 @@ void ComparisonTable::fitColumns()
     if (m_isSizedByHand)
         return;
     QHeaderView &header = *horizontalHeader();
-    std::array<int, ComparisonModel::columns> widths = m_wanted;
+    QList<int> widths = m_wanted;
     int left = viewport()->width();
     for (int column = 0; column < ComparisonModel::NameHere; ++column)
         left -= header.isSectionHidden(column) ? 0 : m_wanted.at(column);
     std::array names{ComparisonModel::NameHere, ComparisonModel::NameThere};
     const int telling = lettersOfName * fontMetrics().averageCharWidth();
     for (const int column : names) {
-        widths.at(column) =
-            qMax(header.sectionSizeHint(column), qMin(m_wanted.at(column), telling));
+        widths[column] = qMax(header.sectionSizeHint(column), qMin(m_wanted.at(column), telling));
         left -= widths.at(column);
     }
     int &difference = widths[ComparisonModel::Difference];
@@ -115,7 +115,7 @@ void ComparisonTable::fitColumns()
     int others = names.size();
     for (const int column : names) {
         const int more = qMin(missing(column), qMax(0, left) / others--);
-        widths.at(column) += more;
+        widths[column] += more;
         left -= more;
     }
     if (left > 0) {

@@ -4,7 +4,8 @@
 #include "editor/DarkModeTableView.h"
 #include "editor/StationComparison.h"
 
-#include <array>
+#include <QList>
+
 #include <optional>
 #include <tuple>
 #include <vector>
@@ -59,7 +60,8 @@ private:
     int m_currentRow = -1;           ///< when there are others
     int m_currentColumn = ComparisonModel::NameHere;
     int m_scrolled = 0;
-    std::array<int, ComparisonModel::columns> m_wanted{}; ///< the widths that would cut nothing
+    /// The widths that would cut nothing.
+    QList<int> m_wanted = QList<int>(ComparisonModel::columns);
     bool m_isFitting = false;
     bool m_isSizedByHand = false; ///< then the columns stay
 };

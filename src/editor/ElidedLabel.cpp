@@ -39,8 +39,8 @@ void ElidedLabel::paintEvent(QPaintEvent *)
     painter.setPen(palette().color(QPalette::PlaceholderText));
     const QString drawn = fontMetrics().elidedText(m_text, Qt::ElideMiddle, width());
     const Qt::Alignment end = QStyle::visualAlignment(layoutDirection(), Qt::AlignRight);
-    painter.drawText(rect(), end.toInt() | Qt::AlignVCenter | Qt::TextForceLeftToRight,
-                     shownPath(drawn));
+    const auto flags = (end | Qt::AlignVCenter).toInt() | Qt::TextForceLeftToRight;
+    painter.drawText(rect(), static_cast<int>(flags), shownPath(drawn));
 }
 
 } // namespace quillet

@@ -106,7 +106,7 @@ private slots:
     void toggles()
     {
         std::vector<Item> items = lettered({1, 2, 3, 4});
-        for (const std::size_t set : {2, 3})
+        for (const std::size_t set : {2U, 3U})
             items[set].push_back({u"isSkipped"_s, u"1"_s});
         Editor editor(items);
         editor.controller.skipSelectedItems(); // nothing is selected

@@ -11,7 +11,7 @@
 
 #include <memory>
 
-#ifdef QUILLET_EXECUTABLE
+#ifdef QUILLET_GUIDE
 #include <csignal>
 #endif
 
@@ -117,7 +117,18 @@ private slots:
         QCOMPARE(request.title, u"Zwei Ü"_s);
     }
 
-#ifdef QUILLET_EXECUTABLE
+#ifndef QUILLET_GUIDE
+    /// The program itself, as it is packaged without the engine.
+    void opensThePageElsewhereWithoutTheEngine()
+    {
+        FakeServices services;
+        HelpProcess help(QStringLiteral(QUILLET_EXECUTABLE), {u"--help-window"_s}, services);
+        help.setPatience(60'000);
+        help.showPage(page, u"Help"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(help.processId(), 0, 60'000);
+        QCOMPARE(services.opened, QList<QUrl>{page});
+    }
+#else
     /// The program itself, with the engine.
     void showsTheGuideInAProcessOfItsOwn()
     {

@@ -19,6 +19,9 @@ if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
         endif()
         target_link_options(quillet_options INTERFACE -fsanitize=${QUILLET_SANITIZE})
     endif()
+    if(QUILLET_COVERAGE)
+        target_link_options(quillet_options INTERFACE --coverage)
+    endif()
 endif()
 
 # What most sources of any target include, and those named as well.

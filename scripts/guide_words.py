@@ -23,7 +23,7 @@ def one_line(text):
 
 def plain(text):
     """A text of the program as a page names it."""
-    return text.replace("&", "").rstrip(":")
+    return text.replace("&", "").rstrip(": \u00a0")
 
 
 class Words:
@@ -124,9 +124,10 @@ class Entry:
         self.translation = "" if self.is_fuzzy else self.draft
         self.previous = unquoted([line for line in lines if line.startswith("#|")])
 
-    def with_new_ids(self):
-        """The translation of a text that has changed in nothing but data-id; empty when that is not so."""
-        if not self.is_fuzzy or without_ids(self.source) != without_ids(self.previous):
+    def with_its_ids(self):
+        """The translation with the data-id that the English text has, also when that has changed in nothing
+        else; empty when there is none."""
+        if self.is_fuzzy and without_ids(self.source) != without_ids(self.previous):
             return ""
         text = without_ids(self.draft)
         for element in (found.group(0) for kind in (BOLD, KEY) for found in kind.finditer(self.source)):

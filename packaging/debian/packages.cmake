@@ -25,8 +25,8 @@ set(CPACK_COMPONENT_QUILLET_DESCRIPTION "editor for the channel lists of LG tele
 Quillet sorts the channel list of an LG television on a computer. The
 set exports its stations to a USB stick as a TLL file; Quillet moves,
 sorts, skips, compares and prints them, carries the order of one set over
-to another, and the set takes the file back. It keeps what it does not
-understand, and says before a save what that would lose.
+to another, and the set takes the file back. It says before a save what
+that would lose, and keeps earlier versions of the file.
 .
 The tool quillet-cli does the same in scripts and in Git.")
 

@@ -25,6 +25,7 @@
 #include <QUrl>
 #include <QWindow>
 
+#include <algorithm>
 #include <cstdio>
 #include <new>
 
@@ -153,7 +154,23 @@ void AppDelegate::openVersion(const QByteArray &bytes, const QString &suggestedP
         later.presentError(qtTrId("kLoadingProblem"), error);
 }
 
-/// The name that is suggested says what it is, in the title as well.
+/// The name that is suggested says what it is, in the title as well, and which one of several.
+QString AppDelegate::sampleName() const
+{
+    const auto isTaken = [this](const QString &name) {
+        const auto &open = m_documents.documents();
+        return std::any_of(open.begin(), open.end(), [&name](const auto &document) {
+            return document->displayName() == name;
+        });
+    };
+    const QString name = qtTrId("kSampleName");
+    const QString ending = QStringLiteral(".tll");
+    QString one = name + ending;
+    for (int count = 2; isTaken(one); ++count)
+        one = name + u' ' + QString::number(count) + ending;
+    return one;
+}
+
 void AppDelegate::openSample()
 {
     QFile file(QStringLiteral(":/samples/cable.tll"));
@@ -163,7 +180,7 @@ void AppDelegate::openSample()
         !sample->readFromData(file.readAll(), TLLDocument::typeName(), error))
         return;
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    const QString path = folder + u'/' + qtTrId("kSampleName") + QLatin1String(".tll");
+    const QString path = folder + u'/' + sampleName();
     Document *opened = m_documents.openUntitled(std::move(sample), QUrl::fromLocalFile(path), {});
     emit opened->told(qtTrId("kToldSample"));
 }

@@ -64,6 +64,7 @@ public:
     /// failure is shown at the document that they are an earlier version of.
     void openVersion(const QByteArray &bytes, const QString &suggestedPath, TLLDocument &later);
     /// Opens a list that was made up, as an untitled document.
+    [[nodiscard]] QString sampleName() const;
     void openSample();
     /// What is used instead of the desktop's own services; must outlive the delegate.
     void setSystemServices(SystemServices &services) { m_services = &services; }

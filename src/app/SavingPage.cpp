@@ -78,6 +78,7 @@ void SavingPage::addVersions()
     m_used->setWordWrap(true);
     m_used->setObjectName(QStringLiteral("versionsUsed"));
     m_showFolder->setObjectName(QStringLiteral("showVersionFolder"));
+    m_showFolder->setAutoDefault(false); // Return in a field is not meant for it
     addTitle(*m_showFolder, qtTrId("kPrefShowFolder"));
     connect(m_showFolder, &QPushButton::clicked, this, &SavingPage::versionFolderRequested);
     auto *used = new QHBoxLayout;

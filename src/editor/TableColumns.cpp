@@ -9,6 +9,7 @@
 #include "editor/TypedTextDelegate.h"
 
 #include <QHeaderView>
+#include <QScrollBar>
 #include <QTableView>
 
 namespace quillet {
@@ -53,10 +54,20 @@ std::vector<ColumnContent> shownColumns(const QTableView &table)
 
 void sizeText(QTableView &table, int percent)
 {
+    const int top = table.rowAt(0);
+    const QModelIndex current = table.currentIndex();
+    const bool showsCurrent =
+        table.viewport()->rect().intersects(table.visualRect(current)) && current.isValid();
     table.setFont({}); // as around it
     if (percent != 100)
         table.setFont(sizeOf(table.font(), percent));
     sizeRows(table, table.fontMetrics());
+    if (top < 0)
+        return;
+    table.doItemsLayout(); // for the scroll bar to reach there
+    table.verticalScrollBar()->setValue(table.verticalHeader()->sectionPosition(top));
+    if (showsCurrent)
+        table.scrollTo(current);
 }
 
 void sizeRows(QTableView &table, const QFontMetrics &metrics)

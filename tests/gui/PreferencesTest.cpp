@@ -68,8 +68,13 @@ private slots:
     void textSizeIsFollowed()
     {
         App app;
-        QMainWindow *windows[]{app.open("a.tll", listOf(3)), app.open("b.tll", listOf(3))};
+        QMainWindow *windows[]{app.open("a.tll", listOf(200)), app.open("b.tll", listOf(3))};
         QVERIFY(windows[0] && windows[1]);
+        QTableView &longer = tableOf(*windows[0]);
+        longer.setCurrentIndex(longer.model()->index(150, 1));
+        const auto showsCurrent = [&longer] {
+            return longer.viewport()->rect().contains(longer.visualRect(longer.currentIndex()));
+        };
         const auto sizes = [&windows] {
             QList<double> found;
             for (const QMainWindow *window : windows) {
@@ -86,6 +91,7 @@ private slots:
         size.setValue(200);
         for (qsizetype i = 0; i < usual.size(); ++i)
             QTRY_VERIFY(qAbs(sizes()[i] / usual[i] - 2) < 0.25);
+        QVERIFY(showsCurrent());
         for (const QMainWindow *window : windows) // the hint over an empty table is none of it
             QCOMPARE(part<QWidget>(*window, "emptyDocText").font().pointSizeF(), usual[0]);
         menuItem(*windows[1], "largerText").trigger();

@@ -110,7 +110,10 @@ private slots:
         menuItem(*window, "saveDocument").trigger();
         QTRY_VERIFY(app.preset.isSettled() && QFile::exists(path));
         menuItem(*window, "openSample").trigger();
-        QVERIFY(app.window(2)); // beside a list of the owner's
+        menuItem(*window, "openSample").trigger();
+        QVERIFY(app.window(3)); // beside a list of the owner's
+        const auto &open = app.delegate.documents().documents();
+        QVERIFY(open[1]->displayName() != open[2]->displayName());
     }
 };
 

@@ -57,10 +57,10 @@ void EmptyPage::showHint(EmptyHint hint)
 {
     m_isStart = hint == EmptyHint::NoFile;
     m_hint->showHint(hint);
-    setVisible(hint != EmptyHint::None);
-    m_covered.horizontalHeader()->setVisible(!m_isStart);
     if (isVisible() || !m_isStart)
         showStart(m_isStart);
+    setVisible(hint != EmptyHint::None);
+    m_covered.horizontalHeader()->setVisible(!m_isStart);
 }
 
 /// A window that is to show a file has it by now.
@@ -92,12 +92,14 @@ void EmptyPage::showStart(bool isStart)
     if (!m_start || m_start->isHidden() != isStart)
         return;
     const bool hasFocus = m_covered.hasFocus() || isAncestorOf(window()->focusWidget());
-    m_start->setVisible(isStart);
+    if (isStart)
+        m_start->show();
     for (const int end : {0, m_column->count() - 1}) // which have the hint alone in the middle
         m_column->setStretch(end, isStart ? 0 : 1);
     m_covered.setFocusProxy(isStart ? &m_start->firstButton() : nullptr);
     if (hasFocus)
         m_covered.setFocus();
+    m_start->setVisible(isStart); // by now without the focus, which would go on to the next button
 }
 
 void EmptyPage::makeStartPage()

@@ -212,6 +212,7 @@ private slots:
         QTRY_COMPARE(cell(*window, 1, 1), u"Station 2"_s);
         QCOMPARE(window->windowTitle(), u"dropped.tll[*] \u2014 quillet-test"_s);
         QVERIFY(!hint.isVisible() && !window->isWindowModified());
+        QVERIFY(tableOf(*window).hasFocus());
         // Now that it has stations, no file is taken any more.
         QVERIFY(!drag(taker, place, data));
         QVERIFY(!drop(taker, place, data));

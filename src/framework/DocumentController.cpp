@@ -181,7 +181,7 @@ void DocumentController::noteRecent(const Document &document)
 
 Document *DocumentController::openRecent(const QString &path)
 {
-    if (!isMissing(path))
+    if (documentAt(path) || !isMissing(path))
         return openDocument(QUrl::fromLocalFile(path));
     const QPointer<DocumentController> guard(this);
     const Alert alert{

@@ -68,6 +68,10 @@ private slots:
         QVERIFY(app.preset.isSettled() && app.preset.lastText().contains(u"two.tll"_s));
         QTest::keyClick(&list, Qt::Key_Delete);
         QVERIFY(recent.paths().isEmpty() && !list.isVisible());
+        const QString path = app.write("open.tll", listOf(1));
+        const Document *open = app.delegate.documents().openDocument(QUrl::fromLocalFile(path));
+        QVERIFY(open && QFile::remove(path));
+        QCOMPARE(app.delegate.documents().openRecent(path), open);
     }
 
     void keysGoThroughThePage()

@@ -6,6 +6,7 @@
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QLabel>
+#include <QSignalBlocker>
 #include <QSpinBox>
 
 #include <algorithm>
@@ -46,7 +47,8 @@ void PreferencesPage::setMnemonics(const QStringList &taken)
 
 void PreferencesPage::follow(Setting setting, const std::function<void()> &show)
 {
-    m_shown.append(setting);
+    if (!m_shown.contains(setting))
+        m_shown.append(setting);
     connect(&m_settings, &Settings::changed, this, [setting, show](Setting changed) {
         if (changed == setting)
             show();
@@ -70,7 +72,10 @@ QCheckBox *PreferencesPage::addFlag(QBoxLayout &layout, Setting setting, const Q
     box->setObjectName(Settings::factsOf(setting).key);
     box->setAccessibleDescription(note);
     addTitle(*box, text);
-    follow(setting, [this, box, setting] { box->setChecked(m_settings.isOn(setting)); });
+    follow(setting, [this, box, setting] {
+        const QSignalBlocker showsOnly(box); // nothing is set by it
+        box->setChecked(m_settings.isOn(setting));
+    });
     connect(box, &QCheckBox::toggled, this,
             [this, setting](bool on) { m_settings.set(setting, on); });
     layout.addWidget(box);
@@ -87,7 +92,10 @@ QSpinBox *PreferencesPage::makeNumber(Setting setting, const QString &unit, int 
     box->setPrefix(unit.section(QLatin1String("%1"), 0, 0));
     box->setSuffix(unit.section(QLatin1String("%1"), 1));
     box->setKeyboardTracking(false); // half a number is none
-    follow(setting, [this, box, setting] { box->setValue(m_settings.number(setting)); });
+    follow(setting, [this, box, setting] {
+        const QSignalBlocker showsOnly(box);
+        box->setValue(m_settings.number(setting));
+    });
     connect(box, &QSpinBox::valueChanged, this,
             [this, setting](int number) { m_settings.set(setting, number); });
     return box;

@@ -58,8 +58,7 @@ void SavingPage::addVersions()
 {
     QVBoxLayout *column = addGroup("kPrefVersions");
     const QString note = qtTrId("kPrefVersionsNote");
-    const QCheckBox *keeps =
-        addFlag(*column, Setting::KeepsVersions, qtTrId("kPrefKeepVersions"), note);
+    addFlag(*column, Setting::KeepsVersions, qtTrId("kPrefKeepVersions"), note);
     auto *rows = new QFormLayout;
     rows->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
     const auto add = [&](Setting setting, const char *title, const QString &unit, int step) {
@@ -67,13 +66,13 @@ void SavingPage::addVersions()
         QSpinBox *number = makeNumber(setting, unit, step);
         addTitle(*label, qtTrId(title), number);
         rows->addRow(label, number);
-        for (QWidget *each : {static_cast<QWidget *>(label), static_cast<QWidget *>(number)}) {
-            each->setEnabled(keeps->isChecked());
-            connect(keeps, &QCheckBox::toggled, each, &QWidget::setEnabled);
-        }
     };
     add(Setting::VersionCount, "kPrefVersionCount", QStringLiteral("%1"), 1);
     add(Setting::VersionSpace, "kPrefVersionSpace", mebibytes(), stepOfSpace);
+    follow(Setting::KeepsVersions, [this, rows] {
+        for (int i = 0; i < rows->count(); ++i)
+            rows->itemAt(i)->widget()->setEnabled(settings().isOn(Setting::KeepsVersions));
+    });
     column->addLayout(rows);
     m_used->setWordWrap(true);
     m_used->setObjectName(QStringLiteral("versionsUsed"));

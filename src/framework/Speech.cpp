@@ -13,6 +13,7 @@ namespace quillet {
 namespace {
 
 constexpr char roleProperty[] = "accessibleRole";
+constexpr char waitingProperty[] = "waitsToSpeak"; // for a window of the program to be in front
 
 // What makes readers speak: on some platforms an event, on the others what the widget is.
 #if defined(Q_OS_WIN) || defined(Q_OS_MACOS)
@@ -86,7 +87,14 @@ void speak(QWidget &widget, const QString &text)
     if (QGuiApplication::focusWindow())
         return announce(widget);
     // A program that has just been started is not listened to yet.
-    const auto again = [&widget] { announce(widget); };
+    if (widget.property(waitingProperty).toBool())
+        return;
+    widget.setProperty(waitingProperty, true);
+    const auto again = [&widget] {
+        widget.setProperty(waitingProperty, false);
+        if (!widget.accessibleName().isEmpty())
+            announce(widget);
+    };
     QObject::connect(
         qApp, &QGuiApplication::focusWindowChanged, &widget, again,
         static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
@@ -106,8 +114,8 @@ void speakCurrentItem(QWidget *view)
 {
     if (!qobject_cast<QAbstractItemView *>(view) || !QAccessible::isActive() || !view->hasFocus())
         return;
-    const QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(view);
-    QAccessibleInterface *item = interface ? interface->focusChild() : nullptr;
+    const QAccessibleInterface *told = QAccessible::queryAccessibleInterface(view);
+    QAccessibleInterface *item = told ? told->focusChild() : nullptr;
     if (!item || item->object() == view)
         return;
     QAccessibleEvent focus(item, QAccessible::Focus);

@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace quillet {
 
@@ -18,12 +19,14 @@ GeneralPage::GeneralPage(Settings &settings)
 {
     m_language->setObjectName(Settings::factsOf(Setting::Language).key);
     m_language->addItem(qtTrId("kPrefLanguageSystem"), QString());
-    QStringList languages = textLanguages();
-    std::sort(languages.begin(), languages.end(), [](const QString &a, const QString &b) {
-        return QString::localeAwareCompare(ownNameOf(a), ownNameOf(b)) < 0;
+    QList<std::pair<QString, QString>> languages; // their own names first, which take reading
+    for (const QString &language : textLanguages())
+        languages.append({ownNameOf(language), language});
+    std::sort(languages.begin(), languages.end(), [](const auto &a, const auto &b) {
+        return QString::localeAwareCompare(a.first, b.first) < 0;
     });
-    for (const QString &language : languages)
-        m_language->addItem(ownNameOf(language), language);
+    for (const auto &[name, language] : languages)
+        m_language->addItem(name, language);
     auto *title = new QLabel;
     addTitle(*title, qtTrId("kPrefLanguage"), m_language);
     auto *rows = new QFormLayout;

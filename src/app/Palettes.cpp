@@ -11,15 +11,6 @@ namespace {
 
 constexpr double leastSeen = 1.5; // what is disabled is that pale on a light ground
 
-QColor between(const QColor &ink, const QColor &ground, int percentOfInk)
-{
-    const auto part = [percentOfInk](int inkPart, int groundPart) {
-        return (inkPart * percentOfInk + groundPart * (100 - percentOfInk)) / 100;
-    };
-    return {part(ink.red(), ground.red()), part(ink.green(), ground.green()),
-            part(ink.blue(), ground.blue())};
-}
-
 } // namespace
 
 void useLightPalette()
@@ -60,14 +51,14 @@ void mendPalette()
         for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText,
                                 QPalette::PlaceholderText, QPalette::Mid}) {
             if (contrast(palette.color(group, role), ground) < leastSeen)
-                palette.setColor(group, role, between(ink, ground, 60));
+                palette.setColor(group, role, blended(ink, ground, 0.6));
         }
     }
     QApplication::setPalette(palette);
     QPalette framed = palette;
     for (const auto role : {QPalette::Base, QPalette::Button})
-        framed.setColor(role, between(ink, ground, 25));
-    framed.setColor(QPalette::PlaceholderText, between(ink, ground, 75));
+        framed.setColor(role, blended(ink, ground, 0.25));
+    framed.setColor(QPalette::PlaceholderText, blended(ink, ground, 0.75));
     for (const char *control :
          {"QCheckBox", "QRadioButton", "QLineEdit", "QPushButton", "QToolButton", "QComboBox"})
         QApplication::setPalette(framed, control);

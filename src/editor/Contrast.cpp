@@ -28,6 +28,13 @@ double contrast(const QColor &a, const QColor &b)
     return (lighter + 0.05) / (darker + 0.05);
 }
 
+QColor blended(const QColor &ink, const QColor &ground, double shareOfInk)
+{
+    const auto part = [shareOfInk](int a, int b) { return qRound(b + (a - b) * shareOfInk); };
+    return {part(ink.red(), ground.red()), part(ink.green(), ground.green()),
+            part(ink.blue(), ground.blue())};
+}
+
 /// Many dark palettes leave the colour of links as it is on a light ground.
 QColor linkColor(const QPalette &palette, QPalette::ColorRole ground)
 {
@@ -40,11 +47,8 @@ QColor faded(const QColor &ink, const QColor &ground, const QColor &otherGround)
 {
     constexpr double wanted = 4.7; // with something to spare for rounding
     constexpr int steps = 50;
-    const auto mixed = [](int a, int b, int step) { return b + (a - b) * step / steps; };
     for (int step = steps * 2 / 5; step < steps; ++step) {
-        const QColor color(mixed(ink.red(), ground.red(), step),
-                           mixed(ink.green(), ground.green(), step),
-                           mixed(ink.blue(), ground.blue(), step));
+        const QColor color = blended(ink, ground, double(step) / steps);
         if (qMin(contrast(color, ground), contrast(color, otherGround)) >= wanted)
             return color;
     }

@@ -1,5 +1,6 @@
 #include "editor/NoticeBar.h"
 
+#include "editor/Contrast.h"
 #include "framework/Speech.h"
 
 #include <QEvent>
@@ -99,9 +100,7 @@ QColor NoticeBar::tinted(qreal share) const
     const QColor ground = palette().color(QPalette::Base);
     const QColor tint =
         m_kind == Kind::Warning ? QColor(0xF0, 0xA8, 0x18) : palette().color(QPalette::Highlight);
-    const auto mixed = [share](int from, int to) { return qRound(from + (to - from) * share); };
-    return {mixed(ground.red(), tint.red()), mixed(ground.green(), tint.green()),
-            mixed(ground.blue(), tint.blue())};
+    return blended(tint, ground, share);
 }
 
 void NoticeBar::paintEvent(QPaintEvent *)

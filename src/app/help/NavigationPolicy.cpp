@@ -21,6 +21,12 @@ bool liesIn(const QString &path, const QString &folder)
     return !canonical.isEmpty() && QFileInfo(path).canonicalFilePath().startsWith(canonical + u'/');
 }
 
+/// Where "<language>/User-Guide/pictures" may lead.
+QString sharedPictures(const QString &guideFolder)
+{
+    return QFileInfo(guideFolder).canonicalFilePath() + QLatin1String("/../../User-Guide/pictures");
+}
+
 } // namespace
 
 Navigation navigationFor(const QUrl &url, bool handleLocalURLsInApp)
@@ -37,10 +43,10 @@ bool mayFetch(const QUrl &url, const QString &guideFolder, bool handleLocalURLsI
 {
     if (url.isLocalFile()) {
         const QString path = QDir::cleanPath(url.toLocalFile());
-        const QString pictures = QDir::cleanPath(guideFolder) + QLatin1String("/pictures");
-        // A link in the folder must not lead out of it either, except to the pictures.
+        const QString pictures = QDir::cleanPath(guideFolder) + QLatin1String("/pictures/");
+        // A link in the folder must not lead out of it either, except to those of all languages.
         return liesIn(path, guideFolder) ||
-               (path.startsWith(pictures + u'/') && liesIn(path, pictures));
+               (path.startsWith(pictures) && liesIn(path, sharedPictures(guideFolder)));
     }
     if (url.scheme() == QLatin1String("data") || url.scheme() == QLatin1String("about"))
         return true;

@@ -16,8 +16,8 @@ enum class Navigation {
 [[nodiscard]] Navigation navigationFor(const QUrl &url, bool handleLocalURLsInApp);
 
 /// Whether the help window may fetch the address for what it shows: the files of the guide's
-/// folder, whose "pictures" may be a link to those of the guide in another language, and pages of
-/// the local network where those stay inside. Nothing else is ever fetched.
+/// folder, whose "pictures" may be a link to those of the English guide two folders above, and
+/// pages of the local network where those stay inside. Nothing else is ever fetched.
 [[nodiscard]] bool mayFetch(const QUrl &url, const QString &guideFolder, bool handleLocalURLsInApp);
 
 } // namespace quillet

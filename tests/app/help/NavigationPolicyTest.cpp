@@ -52,18 +52,21 @@ private slots:
     {
         QTest::addColumn<QString>("address");
         QTest::addColumn<bool>("allowed");
-        const auto row = [](const char *address, bool allowed) {
-            QTest::newRow(address) << QString::fromLatin1(address) << allowed;
+        QTest::addColumn<QString>("language");
+        const auto row = [](const char *address, bool allowed, const char *language = "de") {
+            QTest::newRow(address)
+                << QString::fromLatin1(address) << allowed << QString::fromLatin1(language);
         };
-        row("file://%1/guide/index.html", true);
-        row("file://%1/guide/pictures/window.png", true);
-        row("file://%1/guide/../secret.txt", false);
-        row("file://%1/guide/%2e%2e/secret.txt", false);
-        row("file://%1/guide/link.txt", false); // leads out of the folder
-        row("file://%1/guide2/index.html", false);
-        row("file://%1/guide2/pictures/window.png", false); // though a link leads there
-        row("file://%1/guide/pictures/link.txt", false);
-        row("file://%1/guide/missing.html", false);
+        row("file://%1/de/User-Guide/index.html", true);
+        row("file://%1/de/User-Guide/pictures/window.png", true);
+        row("file://%1/de/User-Guide/../../secret.txt", false);
+        row("file://%1/de/User-Guide/%2e%2e/%2e%2e/secret.txt", false);
+        row("file://%1/de/User-Guide/link.txt", false); // leads out of the folder
+        row("file://%1/User-Guide/index.html", false);
+        row("file://%1/User-Guide/pictures/window.png", false); // though a link leads there
+        row("file://%1/de/User-Guide/pictures/link.txt", false);
+        row("file://%1/nl/User-Guide/pictures/secret.txt", false, "nl"); // which lead to everything
+        row("file://%1/de/User-Guide/missing.html", false);
         row("https://example.org/x.png", false);
         row("https://example.org/?http://192.168.0.1", false);
         row("http://192.168.1.1/", true);
@@ -74,21 +77,25 @@ private slots:
     void fetchesTheGuideAlone()
     {
         QFETCH(QString, address);
+        QFETCH(QString, language);
         QTemporaryDir home;
         const QDir folder(home.path());
-        QVERIFY(folder.mkpath(QStringLiteral("guide")));
-        QVERIFY(folder.mkpath(QStringLiteral("guide2/pictures")));
-        for (const char *name :
-             {"guide/index.html", "guide2/pictures/window.png", "guide2/index.html", "secret.txt"})
+        for (const char *name : {"de/User-Guide", "nl/User-Guide", "User-Guide/pictures"})
+            QVERIFY(folder.mkpath(QLatin1String(name)));
+        for (const char *name : {"de/User-Guide/index.html", "User-Guide/pictures/window.png",
+                                 "User-Guide/index.html", "secret.txt"})
             writeFile(folder.filePath(QLatin1String(name)), "x");
-        for (const auto &[target, link] : {std::pair{"guide2/pictures", "guide/pictures"},
-                                           {"secret.txt", "guide2/pictures/link.txt"},
-                                           {"secret.txt", "guide/link.txt"}})
+        for (const auto &[target, link] :
+             {std::pair{"User-Guide/pictures", "de/User-Guide/pictures"},
+              {".", "nl/User-Guide/pictures"},
+              {"secret.txt", "User-Guide/pictures/link.txt"},
+              {"secret.txt", "de/User-Guide/link.txt"}})
             QVERIFY(QFile::link(folder.filePath(QLatin1String(target)),
                                 folder.filePath(QLatin1String(link))));
 
         const QUrl url(address.replace(QLatin1String("%1"), folder.canonicalPath()));
-        QTEST(mayFetch(url, folder.filePath(QStringLiteral("guide")), true), "allowed");
+        QTEST(mayFetch(url, folder.filePath(language + QLatin1String("/User-Guide")), true),
+              "allowed");
     }
 };
 

@@ -1,6 +1,7 @@
 #include "app/help/FindBar.h"
 
-#include <QAccessible>
+#include "framework/Speech.h"
+
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -21,6 +22,7 @@ FindBar::FindBar(QWebEngineView &view, QWidget *parent)
     m_field->setPlaceholderText(qtTrId("kHelpFindField"));
     m_field->setClearButtonEnabled(true);
     m_matches->setObjectName(QStringLiteral("findMatches"));
+    makeSpeakable(*m_matches);
     makeRow();
     hide();
 
@@ -115,10 +117,7 @@ void FindBar::showMatches(int active, int count)
 void FindBar::tell(const QString &text)
 {
     m_matches->setText(text);
-    for (const auto kind : {QAccessible::NameChanged, QAccessible::Alert}) {
-        QAccessibleEvent event(m_matches, kind);
-        QAccessible::updateAccessibility(&event);
-    }
+    speak(*m_matches, text);
 }
 
 void FindBar::dismiss()

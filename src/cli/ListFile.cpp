@@ -33,12 +33,15 @@ Error unreadable(const QString &reason)
 bool readPipe(std::FILE *pipe, QByteArray &bytes, Error &error)
 {
     QFile input;
+    if (pipe)
+        forgetSystemReason(); // without a pipe it tells why there is none
     if (!pipe || !input.open(pipe, QIODevice::ReadOnly)) {
         error = unreadable(lastSystemReason());
         return false;
     }
     constexpr qint64 step = 0x10000;
     while (bytes.size() <= longestInput) {
+        forgetSystemReason();
         const QByteArray part = input.read(step);
         if (part.isEmpty()) {
             if (input.error() == QFileDevice::NoError)

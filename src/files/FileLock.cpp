@@ -28,6 +28,7 @@ std::unique_ptr<FileLock> FileLock::take(const QString &path, Obstacle &obstacle
 {
     auto file = std::make_unique<QLockFile>(path);
     file->setStaleLockTime(0); // only a program that has ended leaves one
+    forgetSystemReason();
     if (!file->tryLock(0)) {
         obstacle = {file->error() == QLockFile::LockFailedError, lastSystemReason()};
         return nullptr;

@@ -76,6 +76,7 @@ bool FileOperations::create(QFile &file, bool isPrivate, QString &reason)
     const auto mode = QIODevice::WriteOnly | QIODevice::Unbuffered;
 #ifdef Q_OS_WIN
     Q_UNUSED(isPrivate); // access rights come from the folder
+    forgetSystemReason();
     const bool isOpen = file.open(mode | QIODevice::NewOnly);
     if (!isOpen)
         reason = lastSystemReason();
@@ -88,6 +89,7 @@ bool FileOperations::create(QFile &file, bool isPrivate, QString &reason)
                isPrivate ? mode_t{S_IRUSR | S_IWUSR} : everybody);
     if (!succeeded(handle < 0 ? -1 : 0, reason))
         return false;
+    forgetSystemReason();
     if (file.open(handle, mode, QFileDevice::AutoCloseHandle))
         return true;
     reason = lastSystemReason();
@@ -102,7 +104,7 @@ qint64 FileOperations::write(QFile &file, const QByteArray &bytes, QString &reas
     // A disk that is nearly full takes a part first and says why only when asked to take the rest.
     qint64 count = 0;
     while (count < bytes.size()) {
-        errno = 0; // not every failure is the system's
+        forgetSystemReason();
         const qint64 taken = file.write(bytes.constData() + count, bytes.size() - count);
         if (taken <= 0) {
             reason = lastSystemReason();
@@ -189,6 +191,7 @@ bool FileOperations::setMode(QFile &file, quint32 mode, QString &reason)
 
 bool FileOperations::sync(QFile &file, QString &reason)
 {
+    forgetSystemReason();
     if (!file.flush()) {
         reason = lastSystemReason();
         return false;

@@ -35,6 +35,7 @@ QString openForReading(QFile &file)
         return qtTrId("kIsAFolderReason").arg(info.fileName());
     if (!info.isFile())
         return qtTrId("kNotAFileReason").arg(info.fileName());
+    forgetSystemReason();
     if (!file.open(QIODevice::ReadOnly))
         return qtTrId("kFileUnreadableReason").arg(lastSystemReason());
     return {};
@@ -79,10 +80,12 @@ QString openForReading(QFile &file)
     }
     if (handle < 0)
         return unreadable(errno);
+    forgetSystemReason();
     if (!file.open(handle, QIODevice::ReadOnly | QIODevice::Unbuffered,
                    QFileDevice::AutoCloseHandle)) {
+        const QString reason = lastSystemReason();
         ::close(handle);
-        return qtTrId("kFileUnreadableReason").arg(lastSystemReason());
+        return qtTrId("kFileUnreadableReason").arg(reason);
     }
     if (::fstat(handle, &status) != 0)
         return unreadable(errno);
@@ -101,7 +104,7 @@ QString readAll(QFile &file, QByteArray &bytes)
     qint64 count = 0;
     while (count <= largestFile) {
         bytes.resize(qMax(expected, count + step));
-        errno = 0; // not every failure is the system's
+        forgetSystemReason();
         const qint64 taken = file.read(bytes.data() + count, bytes.size() - count);
         if (taken < 0)
             return qtTrId("kFileUnreadableReason").arg(lastSystemReason());

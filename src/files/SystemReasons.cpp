@@ -35,6 +35,7 @@ constexpr std::array reasons{
     Reason{std::errc::device_or_resource_busy, "kInUseReason"},
     Reason{std::errc::text_file_busy, "kInUseReason"},
     Reason{std::errc::resource_unavailable_try_again, "kInUseReason"},
+    Reason{std::errc::operation_would_block, "kInUseReason"}, // the same, on some systems
     Reason{std::errc::no_lock_available, "kInUseReason"},
     Reason{std::errc::too_many_files_open, "kTooManyOpenReason"},
     Reason{std::errc::too_many_files_open_in_system, "kTooManyOpenReason"},
@@ -48,6 +49,7 @@ constexpr std::array reasons{
     Reason{std::errc::network_unreachable, "kNoAnswerReason"},
     Reason{std::errc::connection_reset, "kNoAnswerReason"},
     Reason{std::errc::not_supported, "kNotSupportedReason"},
+    Reason{std::errc::operation_not_supported, "kNotSupportedReason"}, // the same, on some systems
     Reason{std::errc::function_not_supported, "kNotSupportedReason"},
     Reason{std::errc::invalid_argument, "kNotSupportedReason"},
 };
@@ -87,6 +89,14 @@ QString lastSystemReason()
 #else
     return systemReason(errno);
 #endif
+}
+
+void forgetSystemReason()
+{
+#ifdef Q_OS_WIN
+    ::SetLastError(0);
+#endif
+    errno = 0;
 }
 
 } // namespace quillet

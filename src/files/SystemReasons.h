@@ -15,5 +15,7 @@ namespace quillet {
 [[nodiscard]] QString systemReason(const std::error_code &code);
 /// Of the call, to the system or to Qt, that has just failed.
 [[nodiscard]] QString lastSystemReason();
+/// Before a call to Qt: not every failure is the system's, and then an older one would be told.
+void forgetSystemReason();
 
 } // namespace quillet

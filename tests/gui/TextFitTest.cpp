@@ -13,16 +13,13 @@
 #include <QAction>
 #include <QComboBox>
 #include <QDialog>
-#include <QDialogButtonBox>
 #include <QDir>
 #include <QHeaderView>
 #include <QKeySequence>
 #include <QLabel>
-#include <QLibraryInfo>
 #include <QLineEdit>
 #include <QMap>
 #include <QMenuBar>
-#include <QPushButton>
 #include <QScrollArea>
 #include <QStyleOptionComboBox>
 #include <QStyleOptionFrame>
@@ -415,18 +412,6 @@ private slots:
         QCOMPARE(part<QLineEdit>(*window, "searchText").placeholderText(),
                  label("kSearchPlaceholder"));
         QVERIFY(label("kMoveTo").contains(u"erschieben"));
-    }
-
-    /// Which Qt words itself, in panels for files and for printing.
-    void standardButtonsAreTranslated()
-    {
-        const QString folder = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
-        if (!QFile::exists(folder + u"/qtbase_de.qm"_s))
-            QSKIP("Qt's translations are not installed");
-        const Locale locale(u"de"_s, Qt::LeftToRight);
-        const QDialogButtonBox box(QDialogButtonBox::Close | QDialogButtonBox::Cancel);
-        QCOMPARE(box.button(QDialogButtonBox::Close)->text().remove(u'&'), u"Schließen"_s);
-        QCOMPARE(box.button(QDialogButtonBox::Cancel)->text().remove(u'&'), u"Abbrechen"_s);
     }
 
     void mnemonicsAreUnique_data() { hintsAreNotClipped_data(); }

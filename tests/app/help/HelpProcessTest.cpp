@@ -11,7 +11,7 @@
 
 #include <memory>
 
-#ifdef QUILLET_GUIDE
+#ifdef QUILLET_HAS_ENGINE
 #include <csignal>
 #endif
 
@@ -117,7 +117,7 @@ private slots:
         QCOMPARE(request.title, u"Zwei Ü"_s);
     }
 
-#ifndef QUILLET_GUIDE
+#ifndef QUILLET_HAS_ENGINE
     /// The program itself, as it is packaged without the engine.
     void opensThePageElsewhereWithoutTheEngine()
     {

@@ -65,8 +65,8 @@ void PreferencesPage::addTitle(QWidget &titled, const QString &text, QWidget *co
     }
 }
 
-QCheckBox *PreferencesPage::addFlag(QBoxLayout &layout, Setting setting, const QString &text,
-                                    const QString &note)
+void PreferencesPage::addFlag(QBoxLayout &layout, Setting setting, const QString &text,
+                              const QString &note)
 {
     auto *box = new QCheckBox(text);
     box->setObjectName(Settings::factsOf(setting).key);
@@ -79,7 +79,6 @@ QCheckBox *PreferencesPage::addFlag(QBoxLayout &layout, Setting setting, const Q
     connect(box, &QCheckBox::toggled, this,
             [this, setting](bool on) { m_settings.set(setting, on); });
     layout.addWidget(box);
-    return box;
 }
 
 QSpinBox *PreferencesPage::makeNumber(Setting setting, const QString &unit, int step)

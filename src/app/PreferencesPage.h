@@ -9,7 +9,6 @@
 #include <vector>
 
 class QBoxLayout;
-class QCheckBox;
 class QLabel;
 class QSpinBox;
 
@@ -38,8 +37,7 @@ protected:
     /// Has the text of a label or a button marked, a label for that control.
     void addTitle(QWidget &titled, const QString &text, QWidget *control = nullptr);
 
-    QCheckBox *addFlag(QBoxLayout &layout, Setting setting, const QString &text,
-                       const QString &note);
+    void addFlag(QBoxLayout &layout, Setting setting, const QString &text, const QString &note);
     /// In a unit around "%1".
     QSpinBox *makeNumber(Setting setting, const QString &unit, int step);
     static QLabel *addNote(QBoxLayout &layout, const QString &text);

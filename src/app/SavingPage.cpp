@@ -4,7 +4,6 @@
 #include "files/ShownPath.h"
 #include "files/VersionStore.h"
 
-#include <QCheckBox>
 #include <QEvent>
 #include <QFormLayout>
 #include <QGroupBox>

@@ -48,7 +48,7 @@ QColor faded(const QColor &ink, const QColor &ground, const QColor &otherGround)
     constexpr double wanted = 4.7; // with something to spare for rounding
     constexpr int steps = 50;
     for (int step = steps * 2 / 5; step < steps; ++step) {
-        const QColor color = blended(ink, ground, double(step) / steps);
+        const QColor color = blended(ink, ground, static_cast<double>(step) / steps);
         if (qMin(contrast(color, ground), contrast(color, otherGround)) >= wanted)
             return color;
     }

@@ -18,8 +18,7 @@ Q_DECLARE_METATYPE(Edit)
 
 namespace {
 
-const auto Analogue = FileSource::Analogue, Cable = FileSource::Cable;
-const auto Satellite = FileSource::Satellite;
+const auto Analogue = FileSource::Analogue;
 
 /// What is lost, as "missing 2: A B, tail".
 QString described(const Rehearsal &rehearsal)

@@ -13,6 +13,10 @@ if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
     if(QUILLET_SANITIZE)
         target_compile_options(quillet_options INTERFACE
             -fsanitize=${QUILLET_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+        if(NOT QUILLET_SANITIZE_POINTERS)
+            target_compile_options(quillet_options INTERFACE
+                -fno-sanitize=null,alignment,object-size,vptr)
+        endif()
         if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
             # Sanitizers make GCC see values as unset that are set.
             target_compile_options(quillet_options INTERFACE -Wno-maybe-uninitialized)
@@ -44,20 +48,20 @@ function(quillet_library name)
     quillet_headers(${target} ${arg_HEADERS})
 endfunction()
 
+# The same for what tests are made of, read once for all of them.
+function(quillet_test_headers target)
+    if(QUILLET_PCH)
+        target_precompile_headers(${target} REUSE_FROM quillet_testing)
+    endif()
+endfunction()
+
 # quillet_test(FOLDER SOURCES ... LINK ...): one test executable of Qt Test classes.
 function(quillet_test folder)
     cmake_parse_arguments(arg "" "" "SOURCES;LINK" ${ARGN})
     set(target test_${folder})
-    add_executable(${target}
-        ${PROJECT_SOURCE_DIR}/tests/testing/TestFiles.cpp
-        ${PROJECT_SOURCE_DIR}/tests/testing/TestMain.cpp
-        ${arg_SOURCES})
-    target_include_directories(${target} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
-    target_compile_definitions(${target} PRIVATE
-        QUILLET_SAMPLES="${PROJECT_SOURCE_DIR}/samples"
-        QUILLET_TEST_DATA="${PROJECT_SOURCE_DIR}/tests/data")
-    target_link_libraries(${target} PRIVATE ${arg_LINK} Qt6::Test Qt6::Widgets quillet_options)
-    quillet_headers(${target} <QApplication> <QSignalSpy> <QTest>)
+    add_executable(${target} ${arg_SOURCES})
+    target_link_libraries(${target} PRIVATE ${arg_LINK} quillet_testing quillet_options)
+    quillet_test_headers(${target})
     add_test(NAME ${folder} COMMAND ${target})
     set_tests_properties(${folder} PROPERTIES
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;QTEST_DISABLE_STACK_DUMP=1" TIMEOUT 300)

@@ -245,8 +245,8 @@ private slots:
                 half = history.byteCount();
         }
         QCOMPARE(history.stack().count(), moves);
-        const std::size_t ofTen = history.byteCount() - half;
-        const std::size_t expected = ofTen * 100;
+        const std::size_t ofHalf = history.byteCount() - half;
+        const std::size_t expected = ofHalf * 1000 / (moves / 2);
         QVERIFY2(expected < std::size_t{8} << 20, qPrintable(QString::number(expected)));
     }
 

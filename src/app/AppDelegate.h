@@ -64,7 +64,6 @@ public:
     /// failure is shown at the document that they are an earlier version of.
     void openVersion(const QByteArray &bytes, const QString &suggestedPath, TLLDocument &later);
     /// Opens a list that was made up, as an untitled document.
-    [[nodiscard]] QString sampleName() const;
     void openSample();
     /// What is used instead of the desktop's own services; must outlive the delegate.
     void setSystemServices(SystemServices &services) { m_services = &services; }
@@ -95,6 +94,7 @@ private:
     /// Opens the files; the last of those that are open now, none when there is none.
     Document *open(const QStringList &paths);
     void followSetting(Setting setting);
+    [[nodiscard]] QString sampleName() const;
     /// Shows what is kept of files that were replaced in the desktop's own way.
     void openVersionFolder(QWidget &asking);
     /// Whether the person has one to go on in: of a document, or the sheet of unsaved lists.

@@ -81,13 +81,13 @@ void PreferencesPage::addFlag(QBoxLayout &layout, Setting setting, const QString
     layout.addWidget(box);
 }
 
-QSpinBox *PreferencesPage::makeNumber(Setting setting, const QString &unit, int step)
+QSpinBox *PreferencesPage::makeNumber(Setting setting, const QString &unit)
 {
     const SettingFacts &facts = Settings::factsOf(setting);
     auto *box = new QSpinBox;
     box->setObjectName(facts.key);
     box->setRange(facts.least, facts.most);
-    box->setSingleStep(step);
+    box->setSingleStep(facts.step);
     box->setPrefix(unit.section(QLatin1String("%1"), 0, 0));
     box->setSuffix(unit.section(QLatin1String("%1"), 1));
     box->setKeyboardTracking(false); // half a number is none

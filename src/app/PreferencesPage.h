@@ -39,7 +39,7 @@ protected:
 
     void addFlag(QBoxLayout &layout, Setting setting, const QString &text, const QString &note);
     /// In a unit around "%1".
-    QSpinBox *makeNumber(Setting setting, const QString &unit, int step);
+    QSpinBox *makeNumber(Setting setting, const QString &unit);
     static QLabel *addNote(QBoxLayout &layout, const QString &text);
 
 private:

@@ -17,8 +17,6 @@ namespace quillet {
 
 namespace {
 
-constexpr int stepOfSpace = 50; // MiB
-
 /// Around "%1", as sizes are told elsewhere.
 QString mebibytes()
 {
@@ -60,14 +58,14 @@ void SavingPage::addVersions()
     addFlag(*column, Setting::KeepsVersions, qtTrId("kPrefKeepVersions"), note);
     auto *rows = new QFormLayout;
     rows->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
-    const auto add = [&](Setting setting, const char *title, const QString &unit, int step) {
+    const auto add = [&](Setting setting, const char *title, const QString &unit) {
         auto *label = new QLabel;
-        QSpinBox *number = makeNumber(setting, unit, step);
+        QSpinBox *number = makeNumber(setting, unit);
         addTitle(*label, qtTrId(title), number);
         rows->addRow(label, number);
     };
-    add(Setting::VersionCount, "kPrefVersionCount", QStringLiteral("%1"), 1);
-    add(Setting::VersionSpace, "kPrefVersionSpace", mebibytes(), stepOfSpace);
+    add(Setting::VersionCount, "kPrefVersionCount", QStringLiteral("%1"));
+    add(Setting::VersionSpace, "kPrefVersionSpace", mebibytes());
     follow(Setting::KeepsVersions, [this, rows] {
         for (int i = 0; i < rows->count(); ++i)
             rows->itemAt(i)->widget()->setEnabled(settings().isOn(Setting::KeepsVersions));

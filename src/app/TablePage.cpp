@@ -15,12 +15,6 @@
 
 namespace quillet {
 
-namespace {
-
-constexpr int stepOfText = 10; // percent
-
-} // namespace
-
 TablePage::TablePage(Settings &settings)
     : PreferencesPage(settings, QStringLiteral("tablePage"), qtTrId("kPrefTable")),
       m_kind(new QComboBox), m_group(new QGroupBox)
@@ -29,7 +23,7 @@ TablePage::TablePage(Settings &settings)
     m_kind->addItem(qtTrId("kPrefXMLLists"), static_cast<int>(Setting::XMLColumns));
     m_kind->addItem(qtTrId("kPrefJSONLists"), static_cast<int>(Setting::JSONColumns));
     auto *sizeTitle = new QLabel, *kindTitle = new QLabel;
-    QSpinBox *size = makeNumber(Setting::TextSize, qtTrId("kPrefPercent"), stepOfText);
+    QSpinBox *size = makeNumber(Setting::TextSize, qtTrId("kPrefPercent"));
     addTitle(*sizeTitle, qtTrId("kPrefTextSize"), size);
     addTitle(*kindTitle, qtTrId("kPrefColumns"), m_kind);
     auto *rows = new QFormLayout;

@@ -6,8 +6,6 @@ namespace quillet {
 
 namespace {
 
-constexpr int step = 10; ///< in percent
-
 const SettingFacts &facts()
 {
     return Settings::factsOf(Setting::TextSize);
@@ -23,10 +21,10 @@ TextSizeMenu::TextSizeMenu(Settings &settings, QWidget *parent)
     m_larger = add("kMenuTextLarger", "largerText",
                    QKeySequence::keyBindings(QKeySequence::ZoomIn)
                        << QKeySequence(Qt::CTRL | Qt::Key_Equal),
-                   [](int percent) { return percent + step; });
+                   [](int percent) { return percent + facts().step; });
     m_smaller =
         add("kMenuTextSmaller", "smallerText", QKeySequence::keyBindings(QKeySequence::ZoomOut),
-            [](int percent) { return percent - step; });
+            [](int percent) { return percent - facts().step; });
     m_normal = add("kMenuTextNormal", "normalText", {Qt::CTRL | Qt::Key_0},
                    [](int) { return facts().usual; });
     connect(&settings, &Settings::changed, this, &TextSizeMenu::validate);

@@ -35,12 +35,13 @@ struct SettingFacts
     int usual = 0; ///< of a flag or a number; texts are usually empty
     int least = 0; ///< of a number
     int most = 0;
+    int step = 1; ///< by which a number is usually made larger or smaller
 };
 
 constexpr std::array settingFacts{
     SettingFacts{Setting::Language, QLatin1String("language"), SettingKind::Text},
     SettingFacts{Setting::TextSize, QLatin1String("table/textSize"), SettingKind::Number, 100, 50,
-                 300},
+                 300, 10},
     SettingFacts{Setting::XMLColumns, QLatin1String("Columns XML"), SettingKind::Texts},
     SettingFacts{Setting::JSONColumns, QLatin1String("Columns JSON"), SettingKind::Texts},
     SettingFacts{Setting::KeepsChanges, QLatin1String("recovery/isOn"), SettingKind::Flag, 1},
@@ -48,7 +49,7 @@ constexpr std::array settingFacts{
     SettingFacts{Setting::VersionCount, QLatin1String("versions/count"), SettingKind::Number, 10, 1,
                  100},
     SettingFacts{Setting::VersionSpace, QLatin1String("versions/space"), SettingKind::Number, 200,
-                 10, 10000},
+                 10, 10000, 50},
     SettingFacts{Setting::RepairsJSONLists, QLatin1String("saving/repairsJSONLists"),
                  SettingKind::Flag},
 };

@@ -3,12 +3,53 @@
 #include "xml/Value.h"
 
 #include <algorithm>
+#include <atomic>
 #include <memory>
+#include <utility>
 
 namespace quillet {
 
-/// The content. One that was changed while others shared it holds the changed values alone, over
-/// the content that they still share: of a station's thirty fields an edit changes one.
+/// Texts that were noted, and the values of them once somebody has asked.
+struct Dictionary::Noted
+{
+    Noted(NotedTexts texts, qsizetype number) : noted(std::move(texts)), count(number) {}
+    ~Noted() { delete made.load(std::memory_order_relaxed); }
+    Q_DISABLE_COPY_MOVE(Noted)
+
+    [[nodiscard]] ReadText at(qsizetype position) const
+    {
+        return noted.texts->at(noted.first + static_cast<std::size_t>(position));
+    }
+    [[nodiscard]] QString text(qsizetype position) const
+    {
+        return noted.texts->textOf(at(position));
+    }
+    [[nodiscard]] QByteArrayView bytes(qsizetype position) const
+    {
+        return noted.texts->bytesOf(at(position));
+    }
+
+    [[nodiscard]] const std::vector<Value> &values() const
+    {
+        if (const auto *known = made.load(std::memory_order_acquire))
+            return *known;
+        auto mine = std::make_unique<std::vector<Value>>();
+        mine->reserve(static_cast<std::size_t>(count));
+        for (qsizetype position = 0; position < count; ++position)
+            mine->emplace_back(text(position));
+        const std::vector<Value> *others = nullptr; // of a thread that was quicker
+        return made.compare_exchange_strong(others, mine.get(), std::memory_order_acq_rel)
+                   ? *mine.release()
+                   : *others;
+    }
+
+    NotedTexts noted;
+    qsizetype count;
+    mutable std::atomic<const std::vector<Value> *> made = nullptr;
+};
+
+/// The content. One that was changed while others shared it, or after it was noted, holds the
+/// changed values alone, over the content before: of a station's thirty fields an edit changes one.
 struct Dictionary::Data : QSharedData
 {
     struct Changes
@@ -19,29 +60,52 @@ struct Dictionary::Data : QSharedData
     static constexpr std::size_t mostChanges = 4;
 
     Keys keys{new KeyTable};
-    std::vector<Value> values; ///< all, or those that are changed
+    std::vector<Value> values; ///< all that were not noted, or those that are changed
     std::unique_ptr<Changes> changes;
+    std::optional<Noted> noted;
 
     Data() = default;
     Data(Keys sharedKeys, std::vector<Value> ownValues)
         : keys(std::move(sharedKeys)), values(std::move(ownValues))
     {
     }
+    Data(Keys sharedKeys, NotedTexts texts) : keys(std::move(sharedKeys))
+    {
+        noted.emplace(std::move(texts), keys->count());
+    }
     Data(const Data &other) : QSharedData(other), keys(other.keys), values(other.values)
     {
+        if (other.noted)
+            values = other.noted->values();
         if (other.changes)
             changes = std::make_unique<Changes>(*other.changes);
     }
 
     [[nodiscard]] const Value &value(qsizetype position) const
     {
+        const auto place = static_cast<std::size_t>(position);
+        if (noted)
+            return noted->values()[place];
         if (!changes)
-            return values[static_cast<std::size_t>(position)];
-        const auto changed =
+            return values[place];
+        const Value *changed = changedValue(position);
+        return changed ? *changed : changes->base->value(position);
+    }
+
+    /// Null when it is that of the base.
+    [[nodiscard]] const Value *changedValue(qsizetype position) const
+    {
+        const auto found =
             std::find(changes->positions.begin(), changes->positions.end(), position);
-        return changed == changes->positions.end()
-                   ? changes->base->values[static_cast<std::size_t>(position)]
-                   : values[static_cast<std::size_t>(changed - changes->positions.begin())];
+        return found == changes->positions.end()
+                   ? nullptr
+                   : &values[static_cast<std::size_t>(found - changes->positions.begin())];
+    }
+
+    [[nodiscard]] const Noted *lastNoted() const
+    {
+        const Data &last = changes ? *changes->base : *this;
+        return last.noted ? &*last.noted : nullptr;
     }
 };
 
@@ -64,6 +128,10 @@ Dictionary::Dictionary(Keys keys, std::vector<Value> values)
     Q_ASSERT(d->keys->count() == static_cast<qsizetype>(d->values.size()));
 }
 
+Dictionary::Dictionary(Keys keys, NotedTexts noted) : d(new Data(std::move(keys), std::move(noted)))
+{
+}
+
 /// The content with all its values, for no other dictionary.
 Dictionary::Data &Dictionary::detached()
 {
@@ -75,6 +143,8 @@ Dictionary::Data &Dictionary::detached()
         for (qsizetype position = 0; position < count(); ++position)
             values.push_back(d->value(position));
         d.reset(new Data(d->keys, std::move(values)));
+    } else if (d->noted) {
+        d.reset(new Data(*d));
     } else {
         d.detach();
     }
@@ -84,13 +154,13 @@ Dictionary::Data &Dictionary::detached()
 /// The value at a position, for no other dictionary.
 Value &Dictionary::detachedValue(qsizetype position)
 {
-    const bool isShared = d->ref.loadRelaxed() != 1;
+    const bool isShared = d->ref.loadRelaxed() != 1 || d->noted;
     if (!d->changes && !isShared)
         return d->values[static_cast<std::size_t>(position)];
     if (!d->changes) {
         auto changes = std::make_unique<Data::Changes>();
         changes->base = d;
-        d.reset(new Data(d->keys, {}));
+        d.reset(new Data(d->keys, std::vector<Value>()));
         d->changes = std::move(changes);
     } else if (isShared) {
         d.detach();
@@ -102,7 +172,9 @@ Value &Dictionary::detachedValue(qsizetype position)
     if (positions.size() == Data::mostChanges)
         return detached().values[static_cast<std::size_t>(position)];
     positions.push_back(position);
-    return d->values.emplace_back(d->changes->base->values[static_cast<std::size_t>(position)]);
+    const Data &base = *d->changes->base;
+    return d->values.emplace_back(base.noted ? Value(base.noted->text(position))
+                                             : base.value(position));
 }
 
 qsizetype Dictionary::count() const
@@ -110,15 +182,20 @@ qsizetype Dictionary::count() const
     return d ? d->keys->count() : 0;
 }
 
+qsizetype Dictionary::indexOf(QStringView key) const
+{
+    return d ? d->keys->indexOf(key) : KeyTable::none;
+}
+
 const Value *Dictionary::find(QStringView key) const
 {
-    const qsizetype position = d ? d->keys->indexOf(key) : KeyTable::none;
+    const qsizetype position = indexOf(key);
     return position == KeyTable::none ? nullptr : &d->value(position);
 }
 
 Value *Dictionary::find(QStringView key)
 {
-    const qsizetype position = d ? d->keys->indexOf(key) : KeyTable::none;
+    const qsizetype position = indexOf(key);
     return position == KeyTable::none ? nullptr : &detachedValue(position);
 }
 
@@ -148,13 +225,18 @@ void Dictionary::insert(const QString &key, Value value)
 
 void Dictionary::remove(QStringView key)
 {
-    const qsizetype position = d ? d->keys->indexOf(key) : KeyTable::none;
+    const qsizetype position = indexOf(key);
     if (position == KeyTable::none)
         return;
     Data &data = detached();
     data.keys.detach();
     data.keys->removeAt(position);
     data.values.erase(data.values.begin() + position);
+}
+
+const QString &Dictionary::keyAt(qsizetype position) const
+{
+    return d->keys->at(position);
 }
 
 DictionaryEntry Dictionary::at(qsizetype position) const
@@ -167,16 +249,82 @@ Dictionary::Keys Dictionary::keys() const
     return d ? d->keys : Keys();
 }
 
+/// What was noted at a position and nobody has changed; null when there is no such thing.
+const Dictionary::Noted *Dictionary::notedAt(qsizetype position) const
+{
+    const Noted *noted = d->lastNoted();
+    return noted && !(d->changes && d->changedValue(position)) ? noted : nullptr;
+}
+
+std::optional<QString> Dictionary::text(QStringView key) const
+{
+    const qsizetype position = indexOf(key);
+    return position == KeyTable::none ? std::nullopt : text(position);
+}
+
+std::optional<QString> Dictionary::text(qsizetype position) const
+{
+    if (const Noted *noted = notedAt(position)) {
+        const auto *made = noted->made.load(std::memory_order_acquire);
+        return made ? *(*made)[static_cast<std::size_t>(position)].string() : noted->text(position);
+    }
+    const QString *text = d->value(position).string();
+    return text ? std::optional(*text) : std::nullopt;
+}
+
+std::optional<QByteArray> Dictionary::utf8(qsizetype position) const
+{
+    if (const Noted *noted = notedAt(position))
+        return noted->noted.texts->utf8Of(noted->at(position));
+    const QString *text = d->value(position).string();
+    return text ? std::optional(text->toUtf8()) : std::nullopt;
+}
+
+std::optional<QByteArrayView> Dictionary::bytesRead(qsizetype position) const
+{
+    const Noted *noted = notedAt(position);
+    if (!noted || noted->at(position).isEncoded)
+        return {};
+    return noted->bytes(position);
+}
+
+std::optional<Dictionary::Origin> Dictionary::origin() const
+{
+    const Noted *noted = d ? d->lastNoted() : nullptr;
+    if (!noted)
+        return {};
+    return Origin{noted->noted.texts->utf8(), noted->noted.element};
+}
+
+bool Dictionary::isAsNoted() const
+{
+    return d && d->noted;
+}
+
+bool Dictionary::hasEqualValue(qsizetype position, const Dictionary &other,
+                               qsizetype otherPosition) const
+{
+    const std::optional<QByteArrayView> mine = bytesRead(position);
+    const std::optional<QByteArrayView> theirs = other.bytesRead(otherPosition);
+    if (mine && theirs)
+        return *mine == *theirs;
+    if (mine || theirs) { // a text, so that of the other one need not be made to stay
+        const std::optional<QString> ofOther = other.text(otherPosition);
+        return ofOther && text(position) == ofOther;
+    }
+    return d->value(position) == other.d->value(otherPosition);
+}
+
 bool Dictionary::hasEqualValues(const Dictionary &other) const
 {
     if (d == other.d)
         return true;
     if (count() != other.count())
         return false;
-    if (!d->changes && !other.d->changes)
-        return d->values == other.d->values;
+    if (isAsNoted() && other.isAsNoted() && origin()->bytes() == other.origin()->bytes())
+        return true;
     for (qsizetype position = 0; position < count(); ++position) {
-        if (!(d->value(position) == other.d->value(position)))
+        if (!hasEqualValue(position, other, position))
             return false;
     }
     return true;
@@ -191,9 +339,8 @@ bool Dictionary::operator==(const Dictionary &other) const
     for (qsizetype position = 0; position < count(); ++position) {
         const QString &key = d->keys->at(position);
         // Keys mostly stand in the same order.
-        const Value *theirs =
-            other.d->keys->at(position) == key ? &other.d->value(position) : other.find(key);
-        if (!theirs || !(*theirs == d->value(position)))
+        const qsizetype theirs = other.d->keys->at(position) == key ? position : other.indexOf(key);
+        if (theirs == KeyTable::none || !hasEqualValue(position, other, theirs))
             return false;
     }
     return true;

@@ -1,11 +1,14 @@
 #pragma once
 
 #include "xml/KeyTable.h"
+#include "xml/ReadTexts.h"
 
+#include <QByteArray>
 #include <QExplicitlySharedDataPointer>
 #include <QString>
 
 #include <initializer_list>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -20,9 +23,19 @@ struct DictionaryEntry
     const Value &value;
 };
 
+/// The texts of an element, noted where they stand in a file: as many as there are keys.
+struct NotedTexts
+{
+    QExplicitlySharedDataPointer<const ReadTexts> texts;
+    quint32 first; ///< of them among all
+    ReadElement element;
+};
+
 /// An implicitly shared, string-keyed dictionary that keeps the order in which keys were first
 /// inserted. A copy is free; changing one of two copies leaves the other as it was. Equality does
 /// not look at the order.
+/// Of an element that was noted the values are made, all of them, when the first is asked for;
+/// text(), bytesRead() and comparing do without. Several threads may read one at the same time.
 class Dictionary
 {
 public:
@@ -55,6 +68,7 @@ public:
     Dictionary(std::initializer_list<std::pair<QString, Value>> entries);
     /// Takes as many values as there are keys; the keys may be shared with other dictionaries.
     Dictionary(Keys keys, std::vector<Value> values);
+    Dictionary(Keys keys, NotedTexts noted);
     Dictionary(const Dictionary &other);
     Dictionary(Dictionary &&other) noexcept;
     Dictionary &operator=(const Dictionary &other);
@@ -63,7 +77,9 @@ public:
 
     [[nodiscard]] bool isEmpty() const { return count() == 0; }
     [[nodiscard]] qsizetype count() const;
-    [[nodiscard]] bool contains(QStringView key) const { return find(key) != nullptr; }
+    [[nodiscard]] bool contains(QStringView key) const { return indexOf(key) != KeyTable::none; }
+    /// The position of a key; KeyTable::none when there is none.
+    [[nodiscard]] qsizetype indexOf(QStringView key) const;
 
     /// The value under the key; null when there is none. Valid until the dictionary is changed.
     [[nodiscard]] const Value *find(QStringView key) const;
@@ -73,10 +89,36 @@ public:
     [[nodiscard]] const QString *string(QStringView key) const;
     [[nodiscard]] const Dictionary *dictionary(QStringView key) const;
 
+    /// The text under the key, or at a position; none when there is something else.
+    [[nodiscard]] std::optional<QString> text(QStringView key) const;
+    [[nodiscard]] std::optional<QString> text(qsizetype position) const;
+    /// The same in UTF-8.
+    [[nodiscard]] std::optional<QByteArray> utf8(qsizetype position) const;
+
+    /// The text at a position as it stands in the file, if it was noted there, nobody has changed
+    /// it, and reading it replaces nothing. Valid as long as the dictionary.
+    [[nodiscard]] std::optional<QByteArrayView> bytesRead(qsizetype position) const;
+    /// The element that was noted, which all values are of that bytesRead() gives; none when none
+    /// was. `utf8` are the bytes of the whole file.
+    struct Origin
+    {
+        const QByteArray &utf8;
+        ReadElement element;
+        [[nodiscard]] QByteArrayView bytes() const
+        {
+            return QByteArrayView(utf8).sliced(element.start, element.size);
+        }
+    };
+    [[nodiscard]] std::optional<Origin> origin() const;
+    /// Whether its values are still those that were noted.
+    [[nodiscard]] bool isAsNoted() const;
+
     /// Replaces the value of a present key, which keeps its place, or adds the key at the end.
     void insert(const QString &key, Value value);
     void remove(QStringView key);
 
+    /// The key at a position from 0 to count() - 1, in order.
+    [[nodiscard]] const QString &keyAt(qsizetype position) const;
     /// The entry at a position from 0 to count() - 1, in order.
     [[nodiscard]] DictionaryEntry at(qsizetype position) const;
     [[nodiscard]] Iterator begin() const { return {this, 0}; }
@@ -91,9 +133,14 @@ public:
     [[nodiscard]] Keys keys() const;
     /// Whether the values are equal one by one, in order, whatever their keys.
     [[nodiscard]] bool hasEqualValues(const Dictionary &other) const;
+    /// The same of one value of each.
+    [[nodiscard]] bool hasEqualValue(qsizetype position, const Dictionary &other,
+                                     qsizetype otherPosition) const;
 
 private:
     struct Data;
+    struct Noted;
+    [[nodiscard]] const Noted *notedAt(qsizetype position) const;
     Data &detached();
     Value &detachedValue(qsizetype position);
 

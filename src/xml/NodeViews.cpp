@@ -19,8 +19,8 @@ bool isChildKey(QStringView key)
 
 bool hasKey(const Dictionary &node, bool (*isWanted)(QStringView))
 {
-    for (const auto &[key, value] : node) {
-        if (isWanted(key))
+    for (qsizetype i = 0; i < node.count(); ++i) {
+        if (isWanted(node.keyAt(i)))
             return true;
     }
     return false;

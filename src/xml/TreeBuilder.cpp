@@ -181,6 +181,12 @@ void TreeBuilder::endElement()
         m_root = std::move(node);
 }
 
+void TreeBuilder::addElement(const char *name, Dictionary node)
+{
+    endText();
+    attach(top(), nameAt(name), std::move(node));
+}
+
 /// Whether a run may not begin with this piece of text, because trimming takes it away again.
 bool TreeBuilder::isBlankToDrop(QByteArrayView text) const
 {

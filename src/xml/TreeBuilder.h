@@ -30,6 +30,10 @@ public:
     void cdataBlock(QByteArrayView bytes) override;
     void comment(QByteArrayView text) override;
 
+    /// Adds a whole element, which holds child elements and nothing else, to the innermost open
+    /// one.
+    void addElement(const char *name, Dictionary node);
+
     /// The names of the elements that are open, the root first.
     [[nodiscard]] QStringList openElements() const;
 

@@ -1,5 +1,6 @@
 #include "xml/XMLDictionaryParser.h"
 
+#include "xml/PlainScanner.h"
 #include "xml/TreeBuilder.h"
 
 #include <QFile>
@@ -24,6 +25,13 @@ std::optional<Dictionary> XMLDictionaryParser::dictionaryWithParser(EventParser 
 
 std::optional<Dictionary> XMLDictionaryParser::dictionaryWithData(const QByteArray &data)
 {
+    if (PlainScanner::suits(settings)) {
+        if (std::optional<Dictionary> tree = PlainScanner(data).tree(settings)) {
+            m_firstError.reset();
+            m_openElements.clear();
+            return tree;
+        }
+    }
     EventParser parser(data);
     return dictionaryWithParser(parser);
 }

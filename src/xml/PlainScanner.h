@@ -1,0 +1,83 @@
+#pragma once
+
+#include "xml/ReadTexts.h"
+#include "xml/TreeBuilder.h"
+#include "xml/XMLDictionaryParser.h"
+
+#include <QExplicitlySharedDataPointer>
+#include <QHash>
+
+#include <deque>
+#include <optional>
+#include <vector>
+
+namespace quillet {
+
+/// Reads the XML that sets write, and nothing else: elements with ASCII names, plain attributes,
+/// text with the five predefined references. Whatever is otherwise (a comment, a CDATA section, a
+/// character reference, a fault) makes it give up, and EventParser is asked about the whole text;
+/// so it knows no errors. What it takes becomes the very tree that EventParser's events would make.
+/// Elements that hold nothing but texts are only noted where these stand. Lives for one text.
+class PlainScanner
+{
+public:
+    /// Whether it makes trees of that kind.
+    [[nodiscard]] static bool suits(const XMLDictionaryParser::Settings &settings);
+
+    explicit PlainScanner(const QByteArray &utf8);
+
+    /// The tree; none when the text is another one than it takes.
+    [[nodiscard]] std::optional<Dictionary> tree(const XMLDictionaryParser::Settings &settings);
+
+private:
+    struct Name
+    {
+        QByteArray text;
+        QByteArray startTag; ///< without attributes
+        QByteArray endTag;
+        Name *next = nullptr; ///< the field that last stood behind a field of this name
+        quint64 element = 0;  ///< the last one that had a field of this name
+        // Of the last element of this name that was noted:
+        Name *firstField = nullptr;
+        std::vector<Name *> fields;
+        Dictionary::Keys keys;
+    };
+    struct Content
+    {
+        ReadText text;
+        bool isTrimmed; ///< there were blanks around it
+    };
+
+    bool skipDeclaration();
+    [[nodiscard]] Name *readName(const char *&at);
+    bool readAttributes(const char *&at);
+    bool readElement(TreeBuilder &builder);
+    bool readText(TreeBuilder &builder);
+    bool readEndTag(TreeBuilder &builder);
+
+    [[nodiscard]] const char *endOfText(const char *at, bool &isEncoded) const;
+    [[nodiscard]] std::optional<Content> content(const char *from, const char *to,
+                                                 bool isEncoded) const;
+    [[nodiscard]] Name *fieldAt(const char *&at, Name *expected);
+    bool noteFields(Name &element, const char *&at, bool &isInLines);
+    bool noteElement(Name &element, const char *start, TreeBuilder &builder);
+    [[nodiscard]] quint32 offset(const char *at) const
+    {
+        return static_cast<quint32>(at - m_start);
+    }
+
+    QExplicitlySharedDataPointer<ReadTexts> m_texts;
+    const char *m_start;
+    const char *m_at;
+    const char *m_end;
+    std::deque<Name> m_names;
+    QHash<QByteArrayView, Name *> m_namesByText;
+    std::vector<Name *> m_open;
+    std::vector<Name *> m_attributeNames;
+    std::vector<QByteArray> m_attributeValues;
+    std::vector<const char *> m_attributes; ///< the same, as a builder takes them
+    quint64 m_elements = 0;                 ///< that were looked at for fields
+    std::vector<Name *> m_fields;           ///< of the one that is looked at
+};
+
+} // namespace quillet

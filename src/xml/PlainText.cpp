@@ -1,0 +1,134 @@
+#include "xml/PlainText.h"
+
+#include <algorithm>
+#include <array>
+
+namespace quillet {
+
+namespace {
+
+struct Reference
+{
+    QByteArrayView text;
+    char character;
+};
+
+constexpr std::array references{
+    Reference{"&amp;", '&'},  Reference{"&lt;", '<'},    Reference{"&gt;", '>'},
+    Reference{"&quot;", '"'}, Reference{"&apos;", '\''},
+};
+
+const Reference *referenceAt(QByteArrayView text)
+{
+    const auto *const found =
+        std::find_if(references.begin(), references.end(),
+                     [text](const Reference &row) { return text.startsWith(row.text); });
+    return found == references.end() ? nullptr : found;
+}
+
+/// A byte below the blank that XML does not allow, or a CR without its LF.
+bool isOdd(const char *at, const char *end)
+{
+    const auto c = static_cast<unsigned char>(*at);
+    if (c == '\r')
+        return at + 1 == end || at[1] != '\n';
+    return c < 0x20 && c != '\t' && c != '\n';
+}
+
+/// Valid, and without the two that end the basic plane and are no characters.
+bool isValidBeyondAscii(QByteArrayView utf8)
+{
+    if (!utf8.isValidUtf8())
+        return false;
+    for (qsizetype at = 0; (at = utf8.indexOf('\xEF', at)) >= 0; at += 3) {
+        const auto last = static_cast<unsigned char>(utf8[at + 2]);
+        if (utf8[at + 1] == '\xBF' && (last == 0xBE || last == 0xBF))
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
+bool isPlainTextBytewise(QByteArrayView utf8)
+{
+    const char *const end = utf8.data() + utf8.size();
+    unsigned char all = 0;
+    for (const char *at = utf8.data(); at != end; ++at) {
+        if (isOdd(at, end))
+            return false;
+        all |= static_cast<unsigned char>(*at);
+    }
+    return all < 0x80 || isValidBeyondAscii(utf8);
+}
+
+#ifdef __SSE2__
+bool isPlainText(QByteArrayView utf8)
+{
+    constexpr qsizetype step = 16;
+    const char *at = utf8.data();
+    const char *const end = at + utf8.size();
+    quint32 beyondAscii = 0, endsInReturn = 0;
+    for (; end - at >= step; at += step) {
+        const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i *>(at));
+        const auto mask = [](__m128i found) {
+            return static_cast<quint32>(_mm_movemask_epi8(found));
+        };
+        const auto are = [bytes](char c) { return _mm_cmpeq_epi8(bytes, _mm_set1_epi8(c)); };
+        const __m128i feeds = are('\n'), returns = are('\r');
+        const __m128i low = _mm_cmpeq_epi8(_mm_min_epu8(bytes, _mm_set1_epi8(0x1F)), bytes);
+        const __m128i allowed = _mm_or_si128(_mm_or_si128(feeds, returns), are('\t'));
+        const quint32 afterReturn = (mask(returns) << 1) | endsInReturn;
+        if (mask(_mm_andnot_si128(allowed, low)) || (afterReturn & 0xFFFF & ~mask(feeds)))
+            return false;
+        endsInReturn = afterReturn >> step;
+        beyondAscii |= mask(bytes);
+    }
+    if (endsInReturn != 0 && (at == end || *at != '\n'))
+        return false;
+    const QByteArrayView rest(at, end - at);
+    if (beyondAscii != 0) {
+        return std::none_of(at, end, [end](const char &c) { return isOdd(&c, end); }) &&
+               isValidBeyondAscii(utf8);
+    }
+    return isPlainTextBytewise(rest);
+}
+#else
+bool isPlainText(QByteArrayView utf8)
+{
+    return isPlainTextBytewise(utf8);
+}
+#endif
+
+qsizetype predefinedReference(const char *at, const char *end)
+{
+    const Reference *reference = referenceAt({at, end - at});
+    return reference ? reference->text.size() : 0;
+}
+
+QByteArray decodedPlainText(QByteArrayView utf8)
+{
+    QByteArray text(utf8.size(), Qt::Uninitialized);
+    char *out = text.data();
+    const char *const end = utf8.data() + utf8.size();
+    for (const char *at = utf8.data(); at != end;) {
+        const char *const run = endOfPlainRun(at, end);
+        out = std::copy(at, run, out);
+        at = run;
+        if (at == end)
+            break;
+        const Reference *reference = *at == '&' ? referenceAt({at, end - at}) : nullptr;
+        if (reference) {
+            *out++ = reference->character;
+            at += reference->text.size();
+        } else if (*at == '\r' && at + 1 != end && at[1] == '\n') {
+            ++at;
+        } else {
+            *out++ = *at++;
+        }
+    }
+    text.truncate(out - text.constData());
+    return text;
+}
+
+} // namespace quillet

@@ -1,0 +1,88 @@
+#include "testing/PlainReading.h"
+
+#include "model/LGStation.h"
+#include "support/Utf8Builder.h"
+#include "xml/PlainScanner.h"
+#include "xml/PlainText.h"
+
+#include <algorithm>
+
+namespace quillet::testing {
+
+namespace {
+
+bool isSameInOrder(const Value &a, const Value &b);
+
+/// Asks the first one for its texts without their values, then for these.
+bool isSameInOrder(const Dictionary &a, const Dictionary &b)
+{
+    if (a.count() != b.count() || !(a == b) || !a.hasEqualValues(b))
+        return false;
+    for (qsizetype i = 0; i < a.count(); ++i) {
+        const auto &[key, value] = b.at(i);
+        const bool isSameText = !value.string() || (a.text(i) == *value.string() &&
+                                                    a.utf8(i) == value.string()->toUtf8());
+        if (!isSameText || a.at(i).key != key || !isSameInOrder(a.at(i).value, value))
+            return false;
+    }
+    return true;
+}
+
+bool isSameInOrder(const Value &a, const Value &b)
+{
+    if (const Dictionary *dictionary = a.dictionary())
+        return b.dictionary() && isSameInOrder(*dictionary, *b.dictionary());
+    const Array *array = a.array();
+    if (!array)
+        return a == b;
+    return b.array() &&
+           std::equal(array->begin(), array->end(), b.array()->begin(), b.array()->end(),
+                      [](const Value &x, const Value &y) { return isSameInOrder(x, y); });
+}
+
+QByteArray written(const Dictionary &entry)
+{
+    Utf8Builder output;
+    LGStation(entry, 0).appendXMLItem(output);
+    return output.take();
+}
+
+/// Whether all elements with children are written alike as stations.
+bool areWrittenAlike(const Value &a, const Value &b)
+{
+    if (const Dictionary *dictionary = a.dictionary()) {
+        for (qsizetype i = 0; !dictionary->isAsNoted() && i < dictionary->count(); ++i) {
+            if (!areWrittenAlike(dictionary->at(i).value, b.dictionary()->at(i).value))
+                return false;
+        }
+        return written(*dictionary) == written(*b.dictionary());
+    }
+    const Array *array = a.array();
+    return !array || std::equal(array->begin(), array->end(), b.array()->begin(), areWrittenAlike);
+}
+
+} // namespace
+
+std::optional<Dictionary> scannedTree(const QByteArray &utf8)
+{
+    return PlainScanner(utf8).tree(XMLDictionaryParser::sharedInstance().settings);
+}
+
+const char *faultOfScanning(const QByteArray &utf8)
+{
+    if (isPlainText(utf8) != isPlainTextBytewise(utf8))
+        return "both forms of looking a text over say the same";
+    const std::optional<Dictionary> scanned = scannedTree(utf8);
+    if (!scanned)
+        return nullptr;
+    EventParser parser(utf8);
+    XMLDictionaryParser reading(XMLDictionaryParser::sharedInstance());
+    const std::optional<Dictionary> parsed = reading.dictionaryWithParser(parser);
+    if (reading.firstError() || !reading.openElements().isEmpty())
+        return "what is plain has no fault";
+    if (!parsed || !areWrittenAlike(*scanned, *parsed))
+        return "elements are written alike";
+    return isSameInOrder(*scanned, *parsed) ? nullptr : "the trees are the same";
+}
+
+} // namespace quillet::testing

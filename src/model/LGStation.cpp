@@ -4,6 +4,8 @@
 #include "model/NameDecoding.h"
 #include "model/ServiceKind.h"
 #include "model/StationSource.h"
+#include "support/TextConversion.h"
+#include "support/TextUnits.h"
 #include "support/Utf8Builder.h"
 
 #include <QStringBuilder>
@@ -53,25 +55,36 @@ constexpr std::array sourceMappings{
 };
 
 /// A sign and digits, nothing else; none for anything else and on overflow.
-std::optional<qint64> decimalNumber(QStringView text)
+template<typename View>
+std::optional<qint64> decimalNumber(View text)
 {
-    const bool negative = text.startsWith(u'-');
-    if (negative || text.startsWith(u'+'))
+    const bool negative = !text.isEmpty() && unitOf(text.front()) == u'-';
+    if (negative || (!text.isEmpty() && unitOf(text.front()) == u'+'))
         text = text.sliced(1);
     if (text.isEmpty())
         return {};
     const quint64 limit = static_cast<quint64>(std::numeric_limits<qint64>::max()) + negative;
     quint64 number = 0;
-    for (const QChar c : text) {
-        if (c < u'0' || c > u'9')
+    for (const auto c : text) {
+        if (unitOf(c) < u'0' || unitOf(c) > u'9')
             return {};
-        const auto digit = static_cast<quint64>(c.unicode() - u'0');
+        const auto digit = static_cast<quint64>(unitOf(c) - u'0');
         if (number > (limit - digit) / 10)
             return {};
         number = number * 10 + digit;
     }
     return static_cast<qint64>(negative ? 0 - number : number);
 }
+
+/// Collects an item as text.
+struct TextOutput
+{
+    void append(QStringView part) { text.append(part); }
+    void append(QLatin1String part) { text.append(part); }
+    void append(QByteArrayView utf8) { text.append(textFromUtf8(utf8)); }
+
+    QString text;
+};
 
 } // namespace
 
@@ -86,23 +99,29 @@ LGStation::LGStation(Dictionary entry, qint64 origIndex)
 
 std::optional<qint64> LGStation::getIntValue(const QString &key) const
 {
-    const Value *value = m_entry.find(key);
-    if (!value)
+    const qsizetype position = m_entry.indexOf(key);
+    if (position == KeyTable::none)
         return {};
-    if (const QString *text = value->string())
-        return decimalNumber(*text);
-    return value->wholeNumber();
+    if (const std::optional<QByteArrayView> bytes = m_entry.bytesRead(position))
+        return decimalNumber(*bytes);
+    const Value &value = m_entry.at(position).value;
+    if (const QString *text = value.string())
+        return decimalNumber(QStringView(*text));
+    return value.wholeNumber();
 }
 
 std::optional<bool> LGStation::getBoolValue(const QString &key) const
 {
-    const Value *value = m_entry.find(key);
-    if (!value)
+    const qsizetype position = m_entry.indexOf(key);
+    if (position == KeyTable::none)
         return {};
-    if (const bool *boolean = value->boolean())
+    if (const std::optional<QByteArrayView> bytes = m_entry.bytesRead(position))
+        return decimalNumber(*bytes).value_or(0) > 0;
+    const Value &value = m_entry.at(position).value;
+    if (const bool *boolean = value.boolean())
         return *boolean;
-    if (const QString *text = value->string())
-        return decimalNumber(*text).value_or(0) > 0;
+    if (const QString *text = value.string())
+        return decimalNumber(QStringView(*text)).value_or(0) > 0;
     return {};
 }
 
@@ -113,8 +132,7 @@ void LGStation::setBoolValue(bool value, const QString &key)
 
 std::optional<QString> LGStation::textValue(const QString &key) const
 {
-    const QString *text = m_entry.string(key);
-    return text ? std::optional(*text) : std::nullopt;
+    return m_entry.text(key);
 }
 
 QString LGStation::stationName() const
@@ -130,9 +148,9 @@ QString LGStation::stationName() const
 QString LGStation::readName() const
 {
     QString candidate;
-    if (const QString *name = m_entry.string(m_keys->keyStationName))
-        candidate = *name;
-    else if (const QString *hex = m_entry.string(m_keys->keyStationHexName))
+    if (std::optional<QString> name = textValue(m_keys->keyStationName))
+        candidate = *std::move(name);
+    else if (const std::optional<QString> hex = textValue(m_keys->keyStationHexName))
         candidate = decodeHexName(*hex);
     return decodeUtf8Envelope(candidate);
 }
@@ -250,7 +268,7 @@ bool LGStation::hasPlainNumber() const
 
 bool LGStation::readsPlainNumber() const
 {
-    const QString *text = m_entry.string(m_keys->keyProgNum);
+    const std::optional<QString> text = textValue(m_keys->keyProgNum);
     return text && *text == QString::number(m_isRadio ? progNum() | radioMark : progNum());
 }
 
@@ -261,8 +279,12 @@ QStringList LGStation::numberKeys() const
 
 std::optional<Value> LGStation::field(const QString &key) const
 {
-    const Value *value = m_entry.find(key);
-    return value ? std::optional(*value) : std::nullopt;
+    const qsizetype position = m_entry.indexOf(key);
+    if (position == KeyTable::none)
+        return {};
+    if (std::optional<QString> text = m_entry.text(position))
+        return Value(*std::move(text));
+    return m_entry.at(position).value;
 }
 
 void LGStation::setField(const QString &key, const std::optional<Value> &content)
@@ -320,12 +342,12 @@ std::optional<QString> LGStation::originalNetwork_id() const
 
 std::optional<QString> LGStation::shownText(const QString &key) const
 {
-    const Value *value = m_entry.find(key);
-    if (!value)
+    const qsizetype position = m_entry.indexOf(key);
+    if (position == KeyTable::none)
         return {};
-    if (const QString *text = value->string())
-        return text->isEmpty() ? std::nullopt : std::optional(*text);
-    const std::optional<qint64> number = value->wholeNumber();
+    if (std::optional<QString> text = m_entry.text(position))
+        return text->isEmpty() ? std::nullopt : std::move(text);
+    const std::optional<qint64> number = m_entry.at(position).value.wholeNumber();
     return number ? std::optional(QString::number(*number)) : std::nullopt;
 }
 
@@ -359,10 +381,10 @@ std::optional<qint64> LGStation::frequency() const
 
 std::optional<bool> LGStation::isEncrypted() const
 {
-    const Value *value = m_entry.find(m_keys->keyScrambled);
+    const std::optional<qint64> number = getIntValue(m_keys->keyScrambled);
+    const Value *value = number ? nullptr : m_entry.find(m_keys->keyScrambled);
     if (const bool *given = value ? value->boolean() : nullptr)
         return *given;
-    const std::optional<qint64> number = getIntValue(m_keys->keyScrambled);
     return number ? std::optional(*number > 0) : std::nullopt;
 }
 
@@ -419,9 +441,9 @@ bool LGStation::matchesType(int filter, int sourceIndex) const
 
 QString LGStation::getXMLItem() const
 {
-    QString item;
-    writeItem(m_entry, m_keys->keyStationName, item);
-    return item;
+    TextOutput output;
+    writeItem(m_entry, m_keys->keyStationName, output);
+    return output.text;
 }
 
 void LGStation::appendXMLItem(Utf8Builder &output) const

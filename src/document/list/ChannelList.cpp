@@ -34,7 +34,12 @@ bool ChannelList::isFormatWithLegacybroadcast() const
 QByteArray ChannelList::legacyText() const
 {
     const Dictionary *channel = tree.dictionary(fileword::channel);
-    return getAsData(elementText(channel ? channel->find(fileword::legacyBroadcast) : nullptr));
+    const qsizetype place = channel ? channel->indexOf(fileword::legacyBroadcast) : KeyTable::none;
+    if (place == KeyTable::none)
+        return {};
+    if (std::optional<QByteArray> json = channel->utf8(place))
+        return *std::move(json);
+    return getAsData(elementText(&channel->at(place).value));
 }
 
 qsizetype ChannelList::stationCount() const

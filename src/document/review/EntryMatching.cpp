@@ -1,6 +1,6 @@
 #include "document/review/EntryMatching.h"
 
-#include "xml/NodeViews.h"
+#include "document/review/WrittenEntry.h"
 
 #include <QHash>
 
@@ -10,58 +10,6 @@
 namespace quillet {
 
 namespace {
-
-/// Of a plain element; one that the text broke off in is a dictionary. None for anything else, and
-/// for one that broke off before any text.
-std::optional<QString> textOf(const Value &value)
-{
-    const Dictionary *node = value.dictionary();
-    const bool isPlain = !node || (!hasAttributes(*node) && !hasChildNodes(*node));
-    return isPlain ? textOfElement(value) : std::nullopt;
-}
-
-/// The entry as it is after being written and read, without the fields of those names.
-Dictionary normalized(const Dictionary &entry, const QStringList &without = {})
-{
-    Dictionary result;
-    for (const auto &[key, value] : entry) {
-        if (without.contains(key))
-            continue;
-        const std::optional<QString> text = textOf(value);
-        if (!text)
-            result.insert(key, value);
-        else if (const QString trimmed = text->trimmed(); !trimmed.isEmpty())
-            result.insert(key, trimmed);
-    }
-    return result;
-}
-
-std::size_t hashOf(const Value &value);
-
-/// Equal for equal entries, in whatever order their fields stand.
-std::size_t hashOf(const Dictionary &entry)
-{
-    std::size_t sum = 0;
-    for (const auto &[key, value] : entry)
-        sum += qHashMulti(0, key, hashOf(value));
-    return sum;
-}
-
-/// Without making a text of what is nested, which may be many times as long.
-std::size_t hashOf(const Value &value)
-{
-    if (const QString *text = value.string())
-        return qHash(*text);
-    if (const Dictionary *dictionary = value.dictionary())
-        return hashOf(*dictionary);
-    const Array *array = value.array();
-    if (!array)
-        return qHash(value.description());
-    std::size_t hash = 0;
-    for (const Value &element : *array)
-        hash = qHashMulti(hash, hashOf(element));
-    return hash;
-}
 
 /// Compares entries of which most have their keys from one table.
 class Comparison
@@ -79,7 +27,7 @@ public:
             m_keysOfB = areInOrder ? keysOfB : Dictionary::Keys();
             return true;
         }
-        return normalized(a) == normalized(b);
+        return areWrittenSame(a, b);
     }
 
 private:
@@ -87,36 +35,55 @@ private:
     Dictionary::Keys m_keysOfB;
 };
 
-/// Entries to be taken one by one, found by what they hold.
+/// Entries to be taken one by one, found by what they hold besides some fields.
 class EntryPool
 {
 public:
-    void add(std::size_t index, Dictionary entry)
+    EntryPool(const std::vector<Dictionary> &entries, QStringList without)
+        : m_entries(entries), m_without(std::move(without))
     {
-        const std::size_t hash = hashOf(entry);
-        m_entries.insert(hash, {index, std::move(entry)});
     }
 
-    /// Takes out one that is equal, passing over for good those that are gone; none when there is
-    /// none.
-    std::optional<std::size_t> take(const Dictionary &entry, const std::vector<bool> &areGone)
+    void reserve(std::size_t count) { m_places.reserve(count); }
+    void add(std::size_t hash, std::size_t index) { m_places.push_back({hash, index}); }
+    /// Must follow the last add().
+    void sort() { std::sort(m_places.begin(), m_places.end()); }
+
+    /// Takes out the first one that is equal and not gone; none when there is none.
+    std::optional<std::size_t> take(std::size_t hash, const Dictionary &entry,
+                                    const std::vector<bool> &areGone)
     {
-        const std::size_t hash = hashOf(entry);
-        for (auto i = m_entries.find(hash); i != m_entries.end() && i.key() == hash;) {
-            if (!(i->second == entry)) {
-                ++i;
-                continue;
-            }
-            const std::size_t index = i->first;
-            i = m_entries.erase(i);
-            if (!areGone[index])
-                return index;
+        const auto first = std::lower_bound(m_places.begin(), m_places.end(), Place{hash, 0});
+        if (first == m_places.end() || first->hash != hash)
+            return {};
+        // Those that are gone for good are passed over once, however many are equal.
+        for (auto i = first + static_cast<qsizetype>(first->passed);
+             i != m_places.end() && i->hash == hash; ++i) {
+            const bool isGone = areGone[i->index];
+            if (isGone && i == first + static_cast<qsizetype>(first->passed))
+                ++first->passed;
+            if (!isGone && areWrittenSame(m_entries[i->index], entry, m_without))
+                return i->index;
         }
         return {};
     }
 
 private:
-    QMultiHash<std::size_t, std::pair<std::size_t, Dictionary>> m_entries;
+    struct Place
+    {
+        std::size_t hash;
+        std::size_t index;
+        std::size_t passed = 0; ///< of the first one with a hash: how many with it are gone
+
+        bool operator<(const Place &other) const
+        {
+            return hash != other.hash ? hash < other.hash : index < other.index;
+        }
+    };
+
+    const std::vector<Dictionary> &m_entries;
+    QStringList m_without;
+    std::vector<Place> m_places;
 };
 
 /// The same for entries whose texts broke off, by their numbers.
@@ -141,8 +108,11 @@ public:
 private:
     [[nodiscard]] QString number(const Dictionary &entry) const
     {
-        const Value *value = m_key.isEmpty() ? nullptr : entry.find(m_key);
-        return value ? value->description() : QString();
+        const qsizetype position = m_key.isEmpty() ? KeyTable::none : entry.indexOf(m_key);
+        if (position == KeyTable::none)
+            return {};
+        const std::optional<QString> text = entry.text(position);
+        return text ? *text : entry.at(position).value.description();
     }
 
     QString m_key;
@@ -155,22 +125,25 @@ class EntryPools
 public:
     EntryPools(const std::vector<Dictionary> &expected, const std::vector<bool> &areFound,
                const EntryKeys &keys)
-        : m_edited(keys.edited), m_editedButNumber(keys.edited)
+        : m_hasher(keys.edited, keys.number), m_foundSame(expected, {}),
+          m_foundAlike(expected, keys.edited),
+          m_missingOfNumber(expected, m_hasher.editedButNumber()),
+          m_missingButNumber(expected, m_hasher.number()), m_missingAlike(expected, keys.edited)
     {
-        m_editedButNumber.removeOne(keys.number);
-        if (!keys.number.isEmpty())
-            m_number.append(keys.number);
-        for (std::size_t i = expected.size(); i-- > 0;) { // the last one added is found first
-            const Dictionary alike = normalized(expected[i], m_edited);
+        for (std::size_t i = 0; i < expected.size(); ++i) {
+            const WrittenHashes hashes = m_hasher.hashesOf(expected[i]);
             if (areFound[i]) {
-                m_foundSame.add(i, normalized(expected[i]));
-                m_foundAlike.add(i, alike);
+                m_foundSame.add(hashes.all, i);
+                m_foundAlike.add(hashes.unedited, i);
             } else {
-                m_missingOfNumber.add(i, normalized(expected[i], m_editedButNumber));
-                m_missingButNumber.add(i, normalized(expected[i], m_number));
-                m_missingAlike.add(i, alike);
+                m_missingOfNumber.add(hashes.uneditedAndNumber, i);
+                m_missingButNumber.add(hashes.butNumber, i);
+                m_missingAlike.add(hashes.unedited, i);
             }
         }
+        for (EntryPool *pool : {&m_foundSame, &m_foundAlike, &m_missingOfNumber,
+                                &m_missingButNumber, &m_missingAlike})
+            pool->sort();
     }
 
     struct Taken
@@ -183,24 +156,22 @@ public:
     std::optional<Taken> take(const Dictionary &entry, const std::vector<bool> &areFound,
                               const std::vector<bool> &areDoubled)
     {
-        const Dictionary alike = normalized(entry, m_edited);
-        if (const auto i = m_missingOfNumber.take(normalized(entry, m_editedButNumber), areFound))
+        const WrittenHashes hashes = m_hasher.hashesOf(entry);
+        if (const auto i = m_missingOfNumber.take(hashes.uneditedAndNumber, entry, areFound))
             return Taken{*i, false};
-        if (const auto i = m_missingButNumber.take(normalized(entry, m_number), areFound))
+        if (const auto i = m_missingButNumber.take(hashes.butNumber, entry, areFound))
             return Taken{*i, false};
-        if (const auto i = m_foundSame.take(normalized(entry), areDoubled))
+        if (const auto i = m_foundSame.take(hashes.all, entry, areDoubled))
             return Taken{*i, true};
-        if (const auto i = m_missingAlike.take(alike, areFound))
+        if (const auto i = m_missingAlike.take(hashes.unedited, entry, areFound))
             return Taken{*i, false};
-        if (const auto i = m_foundAlike.take(alike, areDoubled))
+        if (const auto i = m_foundAlike.take(hashes.unedited, entry, areDoubled))
             return Taken{*i, true};
         return {};
     }
 
 private:
-    QStringList m_edited;
-    QStringList m_editedButNumber;
-    QStringList m_number; ///< its key, if there is one
+    WrittenHasher m_hasher;
     EntryPool m_foundSame, m_foundAlike, m_missingOfNumber, m_missingButNumber, m_missingAlike;
 };
 
@@ -210,13 +181,17 @@ std::vector<const Dictionary *> findSame(const std::vector<Dictionary> &expected
                                          std::vector<bool> &areFound,
                                          std::vector<std::size_t> &places)
 {
-    EntryPool wanted;
-    for (std::size_t i = expected.size(); i-- > 0;) // the last one added is found first
-        wanted.add(i, normalized(expected[i]));
+    WrittenHasher hasher;
+    EntryPool wanted(expected, {});
+    wanted.reserve(expected.size());
+    for (std::size_t i = 0; i < expected.size(); ++i)
+        wanted.add(hasher.hashesOf(expected[i]).all, i);
+    wanted.sort();
     std::vector<const Dictionary *> others;
     places.resize(expected.size());
     for (std::size_t i = 0; i < actual.size(); ++i) {
-        if (const auto index = wanted.take(normalized(actual[i]), areFound)) {
+        const std::size_t hash = hasher.hashesOf(actual[i]).all;
+        if (const auto index = wanted.take(hash, actual[i], areFound)) {
             areFound[*index] = true;
             places[*index] = i;
         } else {
@@ -243,6 +218,8 @@ EntryMatches matchEntries(const std::vector<Dictionary> &expected,
     EntryMatches matches;
     const std::vector<const Dictionary *> others =
         findSame(expected, actual, isFound, matches.places);
+    if (others.empty() && actual.size() == expected.size())
+        return matches;
     EntryPools pools(expected, isFound, keys);
     NumberPool mutilated(keys.number);
     std::vector<const Dictionary *> unlike;

@@ -46,8 +46,8 @@ std::unordered_map<const LGStation *, Dictionary> entriesWithAttributes(const Ch
         const Array &originals = place.section == FilePlace::Section::ATV ? analogue : digital;
         const Dictionary *original =
             place.index < originals.count() ? originals.at(place.index).dictionary() : nullptr;
-        if (!original || station->entry() == *original)
-            continue;
+        if (!original || original->isAsNoted() || station->entry() == *original)
+            continue; // what was noted has no attributes
         Dictionary entry = withAttributes(station->entry(), *original);
         if (!(entry == station->entry()))
             entries.emplace(station.get(), std::move(entry));

@@ -1,29 +1,41 @@
 #include "document/compare/StationContent.h"
 
 #include "model/LGLegacyStation.h"
+#include "support/TextUnits.h"
 
 #include <QStringList>
 
-#include <cstring>
+#include <array>
 #include <optional>
 
 namespace quillet {
 
 namespace {
 
-std::size_t hashOf(const Value &value, std::size_t seed)
+/// A short text of ASCII as the characters that it would be read as; none of anything else.
+std::optional<std::size_t> hashOf(QByteArrayView ascii, std::size_t seed)
 {
-    if (const QString *text = value.string())
-        return ::qHash(*text, seed);
-    const std::optional<qint64> number = value.wholeNumber();
-    return number ? ::qHash(*number, seed) : ::qHash(value.description(), seed);
+    std::array<char16_t, 32> text; // NOLINT(cppcoreguidelines-pro-type-member-init)
+    if (ascii.size() > static_cast<qsizetype>(text.size()))
+        return {};
+    char16_t all = 0;
+    for (qsizetype i = 0; i < ascii.size(); ++i)
+        all |= text[static_cast<std::size_t>(i)] = unitOf(ascii[i]);
+    if (all >= 0x80)
+        return {};
+    return ::qHash(QStringView(text.data(), ascii.size()), seed);
 }
 
-bool areEqual(const QString &a, const QString &b)
+std::size_t hashAt(const Dictionary &entry, qsizetype position, std::size_t seed)
 {
-    return a.size() == b.size() &&
-           std::memcmp(a.constData(), b.constData(),
-                       static_cast<std::size_t>(a.size()) * sizeof(QChar)) == 0;
+    const std::optional<QByteArrayView> bytes = entry.bytesRead(position);
+    if (const auto hash = bytes ? hashOf(*bytes, seed) : std::nullopt)
+        return *hash;
+    if (const std::optional<QString> text = entry.text(position))
+        return ::qHash(*text, seed);
+    const Value &value = entry.at(position).value;
+    const std::optional<qint64> number = value.wholeNumber();
+    return number ? ::qHash(*number, seed) : ::qHash(value.description(), seed);
 }
 
 /// The fields that editing changes: the same for all stations of a variant.
@@ -44,9 +56,11 @@ const QStringList &editedKeys(const LGStation &station)
 
 bool holdsAllOf(const Dictionary &held, const Dictionary &others, const QStringList &but)
 {
-    for (const auto &[key, value] : others) {
-        const Value *own = held.find(key);
-        if (!(own && *own == value) && !but.contains(key))
+    for (qsizetype i = 0; i < others.count(); ++i) {
+        const QString &key = others.keyAt(i);
+        const qsizetype own = held.indexOf(key);
+        const bool isHeld = own != KeyTable::none && held.hasEqualValue(own, others, i);
+        if (!isHeld && !but.contains(key))
             return false;
     }
     return true;
@@ -61,11 +75,10 @@ std::optional<bool> holdSame(const Dictionary &a, const Dictionary &b, const QSt
         return {};
     const bool haveOneTable = a.keys() == b.keys();
     for (qsizetype i = 0; i < count; ++i) {
-        const auto &[key, value] = a.at(i);
-        const auto &[otherKey, otherValue] = b.at(i);
-        if (!haveOneTable && !areEqual(key, otherKey))
+        const QString &key = a.keyAt(i);
+        if (!haveOneTable && key != b.keyAt(i))
             return {};
-        if (!(value == otherValue) && !but.contains(key))
+        if (!a.hasEqualValue(i, b, i) && !but.contains(key))
             return false;
     }
     return true;
@@ -101,8 +114,10 @@ void ContentHasher::readKeys(const LGStation &station)
     m_keys = station.entry().keys();
     m_isLegacy = isOfLegacyFormat(station);
     m_fields.clear();
-    for (const auto &[key, value] : station.entry())
+    for (qsizetype i = 0; i < station.entry().count(); ++i) {
+        const QString &key = station.entry().keyAt(i);
         m_fields.push_back({::qHash(key), editedKeys(station).contains(key)});
+    }
 }
 
 ContentHashes ContentHasher::hashesOf(const LGStation &station)
@@ -114,7 +129,7 @@ ContentHashes ContentHasher::hashesOf(const LGStation &station)
     ContentHashes hashes;
     for (std::size_t i = 0; i < m_fields.size(); ++i) {
         const auto [keyHash, isEdited] = m_fields[i];
-        const std::size_t hash = hashOf(entry.at(static_cast<qsizetype>(i)).value, keyHash);
+        const std::size_t hash = hashAt(entry, static_cast<qsizetype>(i), keyHash);
         hashes.all += hash;
         hashes.unedited += isEdited ? 0 : hash;
     }

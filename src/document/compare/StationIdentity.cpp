@@ -1,6 +1,7 @@
 #include "document/compare/StationIdentity.h"
 
 #include "model/CleanName.h"
+#include "support/TextUnits.h"
 
 #include <algorithm>
 
@@ -12,16 +13,17 @@ namespace {
 constexpr qsizetype longestNormalized = 1000;
 
 /// Of digits that surely fit; none for anything else.
-std::optional<qint64> plainNumber(QStringView text)
+template<typename View>
+std::optional<qint64> plainNumber(View text)
 {
     constexpr qsizetype mostDigits = 18;
     if (text.isEmpty() || text.size() > mostDigits)
         return {};
     qint64 number = 0;
-    for (const QChar c : text) {
-        if (c < u'0' || c > u'9')
+    for (const auto c : text) {
+        if (unitOf(c) < u'0' || unitOf(c) > u'9')
             return {};
-        number = number * 10 + (c.unicode() - u'0');
+        number = number * 10 + (unitOf(c) - u'0');
     }
     return number;
 }
@@ -82,11 +84,14 @@ std::optional<qint64> IdentityReader::part(const LGStation &station, Part part)
     const qsizetype place = m_places.at(part);
     if (place == KeyTable::none)
         return {};
+    const std::optional<QByteArrayView> bytes = station.entry().bytesRead(place);
+    if (const auto number = bytes ? plainNumber(*bytes) : std::nullopt)
+        return number;
     const Value &value = station.entry().at(place).value;
     if (value.isNull())
         return {};
     if (const QString *text = value.string()) {
-        if (const std::optional<qint64> number = plainNumber(*text))
+        if (const std::optional<qint64> number = plainNumber(QStringView(*text)))
             return number;
         const QStringView told = QStringView(*text).trimmed();
         if (told.isEmpty())
@@ -110,7 +115,7 @@ QString toldName(const LGStation &station)
     const QString name = station.shownName();
     // Shown of a record of that variant which has none.
     const bool mayBeNone = name == QLatin1String("??");
-    return mayBeNone && !station.entry().string(station.keys().keyStationName) ? QString() : name;
+    return mayBeNone && !station.entry().text(station.keys().keyStationName) ? QString() : name;
 }
 
 QString looseName(QStringView name)

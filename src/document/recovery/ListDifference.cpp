@@ -64,7 +64,7 @@ bool beginsWithFieldsOf(const Dictionary &entry, const Dictionary &original)
     if (entry.count() < original.count())
         return false;
     for (qsizetype i = 0; i < original.count(); ++i) {
-        if (entry.at(i).key != original.at(i).key)
+        if (entry.keyAt(i) != original.keyAt(i))
             return false;
     }
     return true;
@@ -78,6 +78,9 @@ void noteFields(const Dictionary &entry, const Dictionary &original,
         return;
     station.isWhole = !beginsWithFieldsOf(entry, original);
     for (qsizetype i = 0; i < entry.count(); ++i) {
+        const std::optional<QByteArrayView> bytes = entry.bytesRead(i);
+        if (bytes && !station.isWhole && i < original.count() && bytes == original.bytesRead(i))
+            continue;
         const auto &[key, value] = entry.at(i);
         if (station.isWhole || i >= original.count() ||
             !areWrittenAlike(value, original.at(i).value))

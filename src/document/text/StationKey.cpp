@@ -22,12 +22,12 @@ constexpr QChar nothing = u'x';
 
 QString digitsIn(const LGStation &station, const QString &field)
 {
-    const Value *value = station.entry().find(field);
-    if (!value)
+    const qsizetype place = station.entry().indexOf(field);
+    if (place == KeyTable::none)
         return {};
-    if (const QString *text = value->string())
+    if (const std::optional<QString> text = station.entry().text(place))
         return digitsOf(*text);
-    const std::optional<qint64> number = value->wholeNumber();
+    const std::optional<qint64> number = station.entry().at(place).value.wholeNumber();
     return number ? digitsOf(QString::number(*number)) : QString();
 }
 

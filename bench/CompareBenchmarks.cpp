@@ -1,7 +1,8 @@
 #include "bench/CompareBenchmarks.h"
 
-#include "bench/Failure.h"
-#include "bench/Figures.h"
+#include "bench/Lists.h"
+#include "bench/Measuring.h"
+#include "bench/Rows.h"
 #include "document/compare/TakeOver.h"
 #include "document/read/ListReading.h"
 
@@ -57,30 +58,45 @@ void comparing(benchmark::State &state, const QByteArray &file, const QByteArray
     if (others != Others::Channels)
         move(then);
     const bool areFound = others != Others::Strangers && others != Others::Channels;
-    for ([[maybe_unused]] auto _ : state) {
-        const ListComparison comparison = compare(now, then);
-        if (comparison.isOneToOne() != (areFound && others != Others::Namesakes) ||
-            (comparison.onlyFirst == 0) != areFound)
-            return fail(state, "The stations were not found");
-    }
+    std::optional<ListComparison> comparison;
+    measure(state, {.prepare = [&] { comparison.reset(); },
+                    .run = [&] { comparison = compare(now, then); },
+                    .hasWorked =
+                        [&] {
+                            return comparison->isOneToOne() ==
+                                       (areFound && others != Others::Namesakes) &&
+                                   (comparison->onlyFirst == 0) == areFound;
+                        },
+                    .otherwise = "The stations were not found"});
 }
 
 } // namespace
 
-void registerCompareBenchmarks(const QByteArray &stations, const QByteArray &channels)
+void addCompareRows(Rows &rows, const Lists &lists)
 {
-    const auto add = [&stations](const char *name, const QByteArray &other, Others others) {
-        benchmark::RegisterBenchmark(name, comparing, stations, other, others);
+    using Change = QByteArray (*)(const QByteArray &);
+    const Change same = [](const QByteArray &file) { return file; };
+    const Change namesakes = [](const QByteArray &file) {
+        return withPrefix(file, "original_network_id", "9");
     };
-    const QByteArray namesakes = withPrefix(stations, "original_network_id", "9");
-    add(figure::compareMoved, stations, Others::Moved);
-    add(figure::compareStrangers, withPrefix(namesakes, "vchName", "Another "), Others::Strangers);
-    add(figure::compareByName, namesakes, Others::Namesakes);
-    QByteArray unknown = stations;
-    unknown.replace("service_id>", "other_id>");
-    benchmark::RegisterBenchmark(figure::compareUnknown, comparing, unknown, unknown,
-                                 Others::Moved);
-    add(figure::compareChannels, channels, Others::Channels);
+    const Change strangers = [](const QByteArray &file) {
+        return withPrefix(withPrefix(file, "original_network_id", "9"), "vchName", "Another ");
+    };
+    const Change unknown = [](const QByteArray &file) {
+        QByteArray changed = file;
+        return changed.replace("service_id>", "other_id>");
+    };
+    const auto add = [&](const char *name, Change now, const char *other, Change then,
+                         Others others) {
+        rows.add(name, [&lists, now, other, then, others](benchmark::State &state) {
+            comparing(state, now(lists.bytes("plain-10000")), then(lists.bytes(other)), others);
+        });
+    };
+    add("compare-moved/plain-10000", same, "plain-10000", same, Others::Moved);
+    add("compare-names/plain-10000", same, "plain-10000", namesakes, Others::Namesakes);
+    add("compare-unknown/plain-10000", unknown, "plain-10000", unknown, Others::Moved);
+    add("compare-strangers/plain-10000", same, "plain-10000", strangers, Others::Strangers);
+    add("compare-channels/plain-10000", same, "json-10000", same, Others::Channels);
 }
 
 } // namespace quillet::bench

@@ -1,10 +1,11 @@
 #pragma once
 
-class QByteArray;
-
 namespace quillet::bench {
 
-/// Finding the stations of a file in another list as long, and taking over all that differs.
-void registerCompareBenchmarks(const QByteArray &stations, const QByteArray &channels);
+class Lists;
+class Rows;
+
+/// Finding the stations of a list in another one as long, and taking over all that differs.
+void addCompareRows(Rows &rows, const Lists &lists);
 
 } // namespace quillet::bench

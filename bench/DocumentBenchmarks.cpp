@@ -1,34 +1,19 @@
 #include "bench/DocumentBenchmarks.h"
 
-#include "bench/Failure.h"
-#include "bench/Figures.h"
-#include "document/TLLDocument.h"
-#include "document/repair/RepairedWriter.h"
-#include "document/review/Rehearsal.h"
+#include "bench/Document.h"
+#include "bench/Lists.h"
+#include "bench/Measuring.h"
+#include "bench/Rows.h"
 
 #include <libxml/parser.h>
 #include <nlohmann/json.hpp>
 
 #include <memory>
-#ifdef __GLIBC__
-#include <malloc.h>
-#endif
+#include <string>
 
 namespace quillet::bench {
 
 namespace {
-
-/// Gives all free memory back to the system, outside the measured time. Every measurement here
-/// starts so, the bare pass too, and pays for the pages it takes, as a program that was just
-/// started does: else it would depend on what the one before it has left.
-void emptyHeap(benchmark::State &state)
-{
-    state.PauseTiming();
-#ifdef __GLIBC__
-    malloc_trim(0);
-#endif
-    state.ResumeTiming();
-}
 
 /// What all others are compared with: one pass over the bytes that does nothing with them.
 void bare(benchmark::State &state, const QByteArray &bytes)
@@ -37,12 +22,15 @@ void bare(benchmark::State &state, const QByteArray &bytes)
     sax.startElement = [](void *, const xmlChar *, const xmlChar **) {};
     sax.endElement = [](void *, const xmlChar *) {};
     sax.characters = [](void *, const xmlChar *, int) {};
-    for ([[maybe_unused]] auto _ : state) {
-        emptyHeap(state);
-        if (xmlSAXUserParseMemory(&sax, nullptr, bytes.constData(),
-                                  static_cast<int>(bytes.size())) != 0)
-            return fail(state, "The file is not well-formed");
-    }
+    int status = 0;
+    measure(state, {.prepare = emptyHeap,
+                    .run =
+                        [&] {
+                            status = xmlSAXUserParseMemory(&sax, nullptr, bytes.constData(),
+                                                           static_cast<int>(bytes.size()));
+                        },
+                    .hasWorked = [&] { return status == 0 && !bytes.isEmpty(); },
+                    .otherwise = "The file is not well-formed"});
 }
 
 /// What loading and saving JSON are compared with: the library's parse of the text inside the file,
@@ -52,89 +40,93 @@ void bareJSON(benchmark::State &state, const QByteArray &file)
     const QByteArray openTag("<legacybroadcast>");
     const qsizetype start = file.indexOf(openTag) + openTag.size();
     const qsizetype end = file.indexOf("</legacybroadcast>", start);
+    if (end < 0)
+        return fail(state, "There is no JSON list");
     const QByteArray text = file.sliced(start, end - start).replace("&amp;", "&");
-    for ([[maybe_unused]] auto _ : state) {
-        emptyHeap(state);
-        auto tree = nlohmann::json::parse(text.cbegin(), text.cend(), nullptr, false);
-        state.PauseTiming();
-        if (!tree.is_object())
-            return fail(state, "The JSON was not parsed");
-        tree = nullptr;
-        state.ResumeTiming();
-    }
-}
-
-bool load(TLLDocument &document, const QByteArray &bytes)
-{
-    Error error;
-    return document.readFromData(bytes, TLLDocument::typeName(), error) &&
-           !document.list().parseError;
+    nlohmann::json tree;
+    measure(
+        state,
+        {.prepare =
+             [&] {
+                 tree = nullptr;
+                 emptyHeap();
+             },
+         .run = [&] { tree = nlohmann::json::parse(text.cbegin(), text.cend(), nullptr, false); },
+         .hasWorked = [&] { return tree.is_object(); },
+         .otherwise = "The JSON was not parsed"});
 }
 
 /// From bytes in memory to sorted lists in a new document. Reading the file is not in it, nor is
 /// destroying the document.
 void loading(benchmark::State &state, const QByteArray &bytes)
 {
-    for ([[maybe_unused]] auto _ : state) {
-        emptyHeap(state);
-        auto document = std::make_unique<TLLDocument>();
-        if (!load(*document, bytes))
-            return fail(state, "The file was not read");
-        state.PauseTiming();
-        document.reset();
-        state.ResumeTiming();
-    }
+    std::unique_ptr<TLLDocument> document;
+    bool isLoaded = false;
+    measure(state, {.prepare =
+                        [&] {
+                            document = std::make_unique<TLLDocument>();
+                            emptyHeap();
+                        },
+                    .run = [&] { isLoaded = load(*document, bytes); },
+                    .hasWorked = [&] { return isLoaded; },
+                    .otherwise = "The file was not read"});
 }
 
-/// From the lists of a loaded document to bytes in memory, which are compared and freed outside the
-/// measured time. Writing the file is not in it.
-void saving(benchmark::State &state, const QByteArray &bytes, bool isSorted)
+/// From the lists of a loaded document to bytes in memory. Writing the file is not in it.
+void writing(benchmark::State &state, const QByteArray &bytes)
 {
     TLLDocument document;
     if (!load(document, bytes))
         return fail(state, "The file was not read");
-    for ([[maybe_unused]] auto _ : state) {
-        emptyHeap(state);
-        Error error;
-        QByteArray saved = document.dataOfType(TLLDocument::typeName(), error);
-        state.PauseTiming();
-        if (isSorted ? saved != bytes : saved.size() < bytes.size() / 2)
-            return fail(state, "The file saved is not the file read");
-        saved.clear();
-        state.ResumeTiming();
-    }
-}
-
-/// What a save does before it replaces the file: the bytes are read and compared.
-void rehearsing(benchmark::State &state, const QByteArray &bytes)
-{
-    TLLDocument document;
-    if (!load(document, bytes))
-        return fail(state, "The file was not read");
-    const QByteArray repaired = repairedTLL(document.list());
-    for ([[maybe_unused]] auto _ : state) {
-        emptyHeap(state);
-        if (!rehearse(document.list(), repaired).isClean())
-            return fail(state, "The file would lose something");
-    }
+    showLongestList(document);
+    // Channels are written in the order of their numbers, the stations here stand in it.
+    const bool isSame = !document.isLegacyFormat() && document.list().beyondLastNumber == 0;
+    QByteArray written;
+    measure(
+        state,
+        {.prepare =
+             [&] {
+                 written.clear();
+                 emptyHeap();
+             },
+         .run =
+             [&] {
+                 Error error;
+                 written = document.dataOfType(TLLDocument::typeName(), error);
+             },
+         .hasWorked = [&] { return isSame ? written == bytes : written.size() > bytes.size() / 2; },
+         .otherwise = "The file written is not the file read"});
 }
 
 } // namespace
 
-void registerDocumentBenchmarks(const Files &files)
+void addDocumentRows(Rows &rows, const Lists &lists)
 {
-    benchmark::RegisterBenchmark(figure::bare10k, bare, files.stations10k);
-    benchmark::RegisterBenchmark(figure::bare100k, bare, files.stations100k);
-    benchmark::RegisterBenchmark(figure::load10k, loading, files.stations10k);
-    benchmark::RegisterBenchmark(figure::load100k, loading, files.stations100k);
-    benchmark::RegisterBenchmark(figure::save10k, saving, files.stations10k, true);
-    benchmark::RegisterBenchmark(figure::save100k, saving, files.stations100k, true);
-    benchmark::RegisterBenchmark(figure::rehearse10k, rehearsing, files.stations10k);
-    benchmark::RegisterBenchmark(figure::rehearse100k, rehearsing, files.stations100k);
-    benchmark::RegisterBenchmark(figure::rehearseJSON, rehearsing, files.channels10k);
-    benchmark::RegisterBenchmark(figure::bareJSON, bareJSON, files.channels10k);
-    benchmark::RegisterBenchmark(figure::loadJSON, loading, files.channels10k);
-    benchmark::RegisterBenchmark(figure::saveJSON, saving, files.channels10k, false);
+    using Counted = Rows::Counted;
+    const auto add = [&](const char *what, const char *list, auto measurement,
+                         Counted counted = Counted::Yes) {
+        rows.add(
+            std::string(what) + '/' + list,
+            [&lists, measurement, list](benchmark::State &state) {
+                measurement(state, lists.bytes(list));
+            },
+            counted);
+    };
+    for (const char *list : {"plain-1000", "plain-10000", "real-1000", "real-10000"}) {
+        add("bare", list, bare);
+        add("load", list, loading);
+        add("write", list, writing);
+    }
+    for (const char *list : {"plain-100000", "real-300000"}) {
+        add("bare", list, bare, Counted::No);
+        add("load", list, loading, Counted::No);
+        add("write", list, writing, Counted::No);
+    }
+    for (const char *list : {"json-10000", "real-json-1254"}) {
+        add("bare", list, bareJSON);
+        add("load", list, loading);
+        add("write", list, writing);
+    }
 }
 
 } // namespace quillet::bench

@@ -1,18 +1,11 @@
 #pragma once
 
-#include <QByteArray>
-
 namespace quillet::bench {
 
-/// The bytes of the files, which must outlive the run.
-struct Files
-{
-    QByteArray stations10k;
-    QByteArray stations100k;
-    QByteArray channels10k; ///< the variant that keeps its list as JSON
-};
+class Lists;
+class Rows;
 
-/// The bare pass, loading and saving, for all files.
-void registerDocumentBenchmarks(const Files &files);
+/// Loading lists and writing them, and the bare passes that others are compared with.
+void addDocumentRows(Rows &rows, const Lists &lists);
 
 } // namespace quillet::bench

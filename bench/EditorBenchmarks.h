@@ -1,10 +1,11 @@
 #pragma once
 
-class QByteArray;
-
 namespace quillet::bench {
 
-/// Searching and moving in one list of all the file's stations.
-void registerEditorBenchmarks(const QByteArray &file);
+class Lists;
+class Rows;
+
+/// Searching and moving in one list of all the stations, and undoing that.
+void addEditorRows(Rows &rows, const Lists &lists);
 
 } // namespace quillet::bench

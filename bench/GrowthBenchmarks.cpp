@@ -1,6 +1,7 @@
 #include "bench/GrowthBenchmarks.h"
 
-#include "bench/Failure.h"
+#include "bench/Measuring.h"
+#include "bench/Rows.h"
 #include "document/read/ListReading.h"
 #include "document/repair/FileDiagnosis.h"
 #include "document/repair/RepairedWriter.h"
@@ -47,27 +48,41 @@ QByteArray fileWith(const Text &text, int times)
 }
 
 /// All that is done with a file between opening it and having saved it.
-void opensAndSaves(benchmark::State &state, const QByteArray &file)
+bool opensAndSaves(const QByteArray &file)
 {
-    for ([[maybe_unused]] auto _ : state) {
-        std::optional<ChannelList> list = channelListFromBytes(file);
-        if (!list || list->stationCount() != 1)
-            return fail(state, "The file was not read");
-        benchmark::DoNotOptimize(diagnose(*list));
-        benchmark::DoNotOptimize(repairedText(*list));
-        for (const QByteArray &saved :
-             {writeTLL(*list, list->lists.listWithMostEntries(true)), repairedTLL(*list)})
-            benchmark::DoNotOptimize(rehearse(*list, saved));
-    }
+    std::optional<ChannelList> list = channelListFromBytes(file);
+    if (!list || list->stationCount() != 1)
+        return false;
+    benchmark::DoNotOptimize(diagnose(*list));
+    benchmark::DoNotOptimize(repairedText(*list));
+    for (const QByteArray &saved :
+         {writeTLL(*list, list->lists.listWithMostEntries(true)), repairedTLL(*list)})
+        benchmark::DoNotOptimize(rehearse(*list, saved));
+    return true;
+}
+
+void growing(benchmark::State &state, const Text &text, int times)
+{
+    const QByteArray file = fileWith(text, times);
+    bool isRead = false;
+    measure(state, {.prepare = {},
+                    .run = [&] { isRead = opensAndSaves(file); },
+                    .hasWorked = [&] { return isRead; },
+                    .otherwise = "The file was not read"});
 }
 
 } // namespace
 
-void registerGrowthBenchmarks()
+void addGrowthRows(Rows &rows)
 {
     for (std::size_t i = 0; i < growths.size(); ++i) {
-        benchmark::RegisterBenchmark(growths[i].half, opensAndSaves, fileWith(texts[i], 1));
-        benchmark::RegisterBenchmark(growths[i].whole, opensAndSaves, fileWith(texts[i], 2));
+        const Text &text = texts[i];
+        rows.add(
+            growths[i].half, [&text](benchmark::State &state) { growing(state, text, 1); },
+            Rows::Counted::No);
+        rows.add(
+            growths[i].whole, [&text](benchmark::State &state) { growing(state, text, 2); },
+            Rows::Counted::No);
     }
 }
 

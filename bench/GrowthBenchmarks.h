@@ -4,6 +4,8 @@
 
 namespace quillet::bench {
 
+class Rows;
+
 /// A kind of text that a program may get slow with, each measured at two lengths.
 struct Growth
 {
@@ -22,6 +24,6 @@ inline constexpr std::array growths{
     Growth{"escapes in a JSON text", "growth/escapes/1", "growth/escapes/2"},
 };
 
-void registerGrowthBenchmarks();
+void addGrowthRows(Rows &rows);
 
 } // namespace quillet::bench

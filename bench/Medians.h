@@ -9,16 +9,18 @@
 
 namespace quillet::bench {
 
-/// Collects the repetitions of every benchmark and prints nothing itself.
+/// Collects the repetitions of everything that is measured and prints nothing itself.
 class Medians : public benchmark::BenchmarkReporter
 {
 public:
     bool ReportContext(const Context &) override { return true; }
     void ReportRuns(const std::vector<Run> &runs) override;
+    /// One repetition of something that is no benchmark.
+    void add(const std::string &name, double seconds) { m_seconds[name].push_back(seconds); }
 
-    /// The median over the repetitions of the CPU time of one iteration, in seconds: less than the
-    /// clock does it count what else runs on the machine. None for a benchmark that was not run, or
-    /// that failed.
+    /// The median over the repetitions of the time that the process took of the processors, all
+    /// threads together, in seconds: less than the clock does it count what else runs on the
+    /// machine. None for what was not run, or has failed.
     [[nodiscard]] std::optional<double> seconds(const std::string &name) const;
 
 private:

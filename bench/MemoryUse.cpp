@@ -1,6 +1,6 @@
 #include "bench/MemoryUse.h"
 
-#include "document/TLLDocument.h"
+#include "bench/SavedDocument.h"
 
 #include <QFile>
 #include <QUrl>
@@ -38,6 +38,22 @@ std::optional<double> memoryOfLoading(const QString &file)
         document.readFromUrl(QUrl::fromLocalFile(file), TLLDocument::typeName(), error);
     const std::optional<double> peak = processStatus("VmHWM");
     if (!isRead || !before || !peak)
+        return {};
+    return *peak - *before;
+}
+
+std::optional<double> memoryOfSaving(const QString &file)
+{
+    SavedDocument saved;
+    const std::optional<double> before = processStatus("VmRSS");
+    if (!saved.open(file))
+        return {};
+    saved.edit();
+    SavedDocument::Ending ending = saved.save();
+    if (ending == SavedDocument::Ending::Asked)
+        ending = saved.answer(0);
+    const std::optional<double> peak = processStatus("VmHWM");
+    if (ending != SavedDocument::Ending::Written || !before || !peak)
         return {};
     return *peak - *before;
 }

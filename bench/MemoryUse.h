@@ -11,5 +11,7 @@ namespace quillet::bench {
 /// file's bytes count while they are held. None when the file cannot be read, and on systems that
 /// do not tell.
 [[nodiscard]] std::optional<double> memoryOfLoading(const QString &file);
+/// The same of loading it, editing a station and saving it, repaired if that is offered.
+[[nodiscard]] std::optional<double> memoryOfSaving(const QString &file);
 
 } // namespace quillet::bench

@@ -1,14 +1,14 @@
 #include "bench/OrderBenchmarks.h"
 
-#include "bench/Failure.h"
-#include "bench/Figures.h"
-#include "document/TLLDocument.h"
+#include "bench/Document.h"
+#include "bench/Editor.h"
+#include "bench/Lists.h"
+#include "bench/Measuring.h"
+#include "bench/Rows.h"
 #include "document/order/ReferenceOrder.h"
-#include "support/KXFileLog.h"
-
-#include <QTemporaryDir>
 
 #include <algorithm>
+#include <string>
 
 namespace quillet::bench {
 
@@ -18,9 +18,8 @@ namespace {
 StationList stationsOf(const QByteArray &file)
 {
     TLLDocument document;
-    Error error;
     StationList stations;
-    if (!document.readFromData(file, TLLDocument::typeName(), error))
+    if (!load(document, file))
         return stations;
     for (const StationSource source : stationSources) {
         for (const bool isTV : {true, false}) {
@@ -44,22 +43,6 @@ StationList newlyRead(const StationList &stations, bool areShown)
     return copies;
 }
 
-/// The log is open, as it is in the program, in a folder that goes with it.
-class LogInTemporaryFolder
-{
-public:
-    LogInTemporaryFolder()
-    {
-        qputenv("XDG_DATA_HOME", m_folder.path().toUtf8());
-        m_isOpen = OpenFileLog(QStringLiteral("XT"));
-    }
-    [[nodiscard]] bool isOpen() const { return m_isOpen; }
-
-private:
-    QTemporaryDir m_folder;
-    bool m_isOpen = false;
-};
-
 enum class Entries { WithIdentifiers, WithNames, OfStrangers };
 
 /// The stations backwards.
@@ -78,33 +61,63 @@ ReferenceList referenceList(const StationList &stations, Entries entries)
 
 void ordering(benchmark::State &state, const QByteArray &file, Entries entries)
 {
-    static const LogInTemporaryFolder log;
     const StationList stations = stationsOf(file);
     const ReferenceList list = referenceList(stations, entries);
-    if (!log.isOpen() || stations.size() != 10'000 || list.size() != stations.size())
+    if (stations.empty() || list.size() != stations.size())
         return fail(state, "The lists to compare were not made");
     const std::size_t expected = entries == Entries::OfStrangers ? 0 : list.size();
-    for ([[maybe_unused]] auto _ : state) {
-        state.PauseTiming();
-        StationList ordered = newlyRead(stations, entries != Entries::WithIdentifiers);
-        state.ResumeTiming();
-        const ReferenceOrderResult result = applyReferenceOrder(ordered, list);
-        state.PauseTiming();
-        if (result.matched != expected || ordered.size() != stations.size())
-            return fail(state, "The order was not applied well");
-        ordered.clear();
-        state.ResumeTiming();
-    }
+    StationList ordered;
+    ReferenceOrderResult result;
+    measure(state,
+            {.prepare = [&] { ordered = newlyRead(stations, entries != Entries::WithIdentifiers); },
+             .run = [&] { result = applyReferenceOrder(ordered, list); },
+             .hasWorked =
+                 [&] { return result.matched == expected && ordered.size() == stations.size(); },
+             .otherwise = "The order was not applied well"});
+}
+
+/// The command, from the path of another list to the list in its order, as a step to be undone.
+/// Reading that list is in it; showing the rows is not.
+void orderingByFile(benchmark::State &state, const QByteArray &file, const QString &other)
+{
+    Editor editor(file);
+    if (!editor.isReady())
+        return fail(state, "The list to put in order was not made");
+    const StationPtr first = editor.stations().front();
+    std::reverse(editor.stations().begin(), editor.stations().end());
+    UndoCommands &commands = editor.controller().undoing();
+    measure(state, {.prepare =
+                        [&] {
+                            if (editor.stations().front() == first)
+                                commands.undo();
+                        },
+                    .run = [&] { editor.controller().ordering().applyFile(other); },
+                    .hasWorked = [&] { return editor.stations().front() == first; },
+                    .otherwise = "The order was not applied well"});
 }
 
 } // namespace
 
-void registerOrderBenchmarks(const QByteArray &file)
+void addOrderRows(Rows &rows, const Lists &lists)
 {
-    benchmark::RegisterBenchmark(figure::orderByIdentifiers, ordering, file,
-                                 Entries::WithIdentifiers);
-    benchmark::RegisterBenchmark(figure::orderByName, ordering, file, Entries::WithNames);
-    benchmark::RegisterBenchmark(figure::orderOfStrangers, ordering, file, Entries::OfStrangers);
+    using Counted = Rows::Counted;
+    const auto add = [&](const std::string &what, const char *list, Entries entries,
+                         Counted counted = Counted::Yes) {
+        rows.add(
+            what + '/' + list,
+            [&lists, list, entries](benchmark::State &state) {
+                ordering(state, lists.bytes(list), entries);
+            },
+            counted);
+    };
+    add("order-identifiers", "plain-1000", Entries::WithIdentifiers);
+    add("order-identifiers", "plain-10000", Entries::WithIdentifiers);
+    add("order-identifiers", "real-300000", Entries::WithIdentifiers, Counted::No);
+    add("order-names", "plain-10000", Entries::WithNames);
+    add("order-strangers", "plain-10000", Entries::OfStrangers);
+    rows.add("order-by-file/plain-10000", [&lists](benchmark::State &state) {
+        orderingByFile(state, lists.bytes("plain-10000"), lists.path("plain-10000"));
+    });
 }
 
 } // namespace quillet::bench

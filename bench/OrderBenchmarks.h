@@ -1,10 +1,12 @@
 #pragma once
 
-class QByteArray;
-
 namespace quillet::bench {
 
-/// Giving all the file's stations the order of a reference list as long as theirs.
-void registerOrderBenchmarks(const QByteArray &file);
+class Lists;
+class Rows;
+
+/// Giving all the stations of a list the order of a reference list as long, as entries and as a
+/// file.
+void addOrderRows(Rows &rows, const Lists &lists);
 
 } // namespace quillet::bench

@@ -5,10 +5,22 @@
 
 namespace quillet::bench {
 
-void RatioTable::add(std::string title, std::optional<double> measured,
-                     std::optional<double> wanted)
+namespace {
+
+void print(std::optional<double> figure)
 {
-    m_rows.push_back({std::move(title), measured, wanted});
+    if (figure)
+        std::printf("  %12.3f", *figure);
+    else
+        std::printf("  %12s", "-");
+}
+
+} // namespace
+
+bool RatioTable::Row::isGood() const
+{
+    const std::optional<double> &measured = isOfInstructions ? byInstructions : byTime;
+    return measured && (!wanted || *measured <= *wanted);
 }
 
 void RatioTable::print() const
@@ -17,19 +29,15 @@ void RatioTable::print() const
     for (const Row &row : m_rows)
         longest = std::max(longest, row.title.size());
     const int width = static_cast<int>(longest);
-    std::printf("%-*s  measured  wanted\n", width, "ratio");
+    std::printf("%-*s  %12s  %12s  %6s\n", width, "", "by time", "instructions", "wanted");
     for (const Row &row : m_rows) {
         std::printf("%-*s", width, row.title.c_str());
-        if (row.measured)
-            std::printf("  %8.3f", *row.measured);
-        else
-            std::printf("  %8s", "-");
+        bench::print(row.byTime);
+        bench::print(row.byInstructions);
         if (row.wanted)
-            std::printf("  %6.2f", *row.wanted);
+            std::printf("  %6.2f  %s\n", *row.wanted, row.isGood() ? "ok" : "OVER");
         else
-            std::printf("  %6s", "-");
-        const char *verdict = row.isGood() ? "ok" : "OVER";
-        std::printf("  %s\n", !row.measured ? "not measured" : row.wanted ? verdict : "");
+            std::printf("  %6s  %s\n", "-", row.isGood() ? "" : "not measured");
     }
 }
 

@@ -1,25 +1,14 @@
-// The program's start without arguments, up to its empty window.
+// The program itself, which is compiled with this, up to its window.
 
-#include "app/AppDelegate.h"
-#include "app/CommandLine.h"
 #include "bench/FirstPaint.h"
-#include "framework/QtPrompts.h"
-#include "texts/Translations.h"
 
-int main(int argc, char *argv[])
+namespace {
+
+void endAtFirstPaint()
 {
-    QCoreApplication::setApplicationName(QStringLiteral("Quillet"));
-    QCoreApplication::setOrganizationName(QStringLiteral("Quillet"));
-    QCoreApplication::setApplicationVersion(QStringLiteral(QUILLET_VERSION));
-    const quillet::CommandLine line =
-        quillet::CommandLine::parse({QString::fromLocal8Bit(argv[0])});
-
-    const QApplication app(argc, argv);
-    QApplication::setDesktopFileName(QStringLiteral("org.quillet.Quillet"));
-    const quillet::bench::FirstPaint firstPaint;
-    quillet::installTranslations();
-    quillet::QtPrompts prompts;
-    quillet::AppDelegate delegate(prompts);
-    delegate.applicationDidFinishLaunching(line.files);
-    return QApplication::exec();
+    new quillet::bench::FirstPaint; // as long as the process
 }
+
+} // namespace
+
+Q_COREAPP_STARTUP_FUNCTION(endAtFirstPaint)

@@ -1,26 +1,35 @@
-// Measures the program on generated lists and prints how it compares with what is wanted; see
-// scripts/bench.
+// Measures the program and prints how it compares with what is wanted; see scripts/bench. Started
+// by scripts/instructions, it does one row for its instructions to be counted.
 
-#include "bench/ChildProcesses.h"
+#include "bench/ChildProcess.h"
 #include "bench/CompareBenchmarks.h"
 #include "bench/DocumentBenchmarks.h"
 #include "bench/EditorBenchmarks.h"
-#include "bench/Figures.h"
 #include "bench/GrowthBenchmarks.h"
+#include "bench/Home.h"
+#include "bench/Instructions.h"
+#include "bench/Lists.h"
+#include "bench/MadeWith.h"
 #include "bench/Medians.h"
 #include "bench/MemoryUse.h"
 #include "bench/OrderBenchmarks.h"
 #include "bench/RatioTable.h"
+#include "bench/Ratios.h"
+#include "bench/ReviewBenchmarks.h"
+#include "bench/Rows.h"
+#include "bench/SaveBenchmarks.h"
+#include "bench/SelectionBenchmarks.h"
+#include "bench/Starts.h"
+#include "support/KXFileLog.h"
 
-#include <QCoreApplication>
-#include <QDir>
+#include <QApplication>
 #include <QFile>
+#include <QFileInfo>
 #include <QLoggingCategory>
 
 #include <array>
 #include <cmath>
 #include <cstdio>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -28,76 +37,55 @@ using namespace quillet::bench;
 
 namespace {
 
-struct Ratio
+constexpr char usage[] =
+    "usage: quillet_bench FOLDER [INSTRUCTIONS] [--benchmark_OPTION...]   measures\n"
+    "       quillet_bench FOLDER --count ROW   does one row\n"
+    "       quillet_bench FOLDER --commands    says what does each row\n"
+    "       quillet_bench FOLDER --made-with   says what the number of instructions depends on\n";
+
+struct MemoryRow
 {
     const char *title;
-    const char *figure;
-    const char *comparedWith;
-    double scale; ///< of the quotient
-    std::optional<double> wanted;
+    const char *option; ///< that a new process of this program is started with
+    std::optional<double> (*measure)(const QString &file);
+    const char *list;
+    double wanted;
 };
 
-constexpr std::array ratios{
-    Ratio{"load 10,000 stations / B", figure::load10k, figure::bare10k, 1, 2.0},
-    Ratio{"load 100,000 stations / B", figure::load100k, figure::bare100k, 1, 2.0},
-    Ratio{"save 10,000 stations / B", figure::save10k, figure::bare10k, 1, 0.6},
-    Ratio{"save 100,000 stations / B", figure::save100k, figure::bare100k, 1, 0.6},
-    Ratio{"search in 10,000 stations / B", figure::search, figure::bare10k, 1, 0.1},
-    Ratio{"the first search after loading / B", figure::firstSearch, figure::bare10k, 1, {}},
-    Ratio{"move one of 10,000 stations / B", figure::move, figure::bare10k, 1, 0.05},
-    Ratio{"undo that move / the move", figure::undo, figure::move, 1, 1.0},
-    Ratio{"the same, filling gaps / B", figure::moveFillingGaps, figure::bare10k, 1, 0.05},
-    Ratio{"the first move after loading / B", figure::firstMove, figure::bare10k, 1, {}},
-    Ratio{"order by 10,000 entries, service ids / B", figure::orderByIdentifiers, figure::bare10k,
-          1, 0.5},
-    Ratio{"the same, by names only / B", figure::orderByName, figure::bare10k, 1, 0.5},
-    Ratio{"the same, of other stations / B", figure::orderOfStrangers, figure::bare10k, 1, 0.5},
-    Ratio{"compare 10,000 with 10,000 / B", figure::compareMoved, figure::bare10k, 1, 0.6},
-    Ratio{"the same, by names only / B", figure::compareByName, figure::bare10k, 1, 0.6},
-    Ratio{"the same, without identifiers / B", figure::compareUnknown, figure::bare10k, 1, 0.6},
-    Ratio{"the same, with other stations / B", figure::compareStrangers, figure::bare10k, 1, 0.6},
-    Ratio{"the same, with JSON channels / B", figure::compareChannels, figure::bare10k, 1, 0.6},
-    Ratio{"load 10,000 JSON channels / J", figure::loadJSON, figure::bareJSON, 1, 2.5},
-    Ratio{"save 10,000 JSON channels / J", figure::saveJSON, figure::bareJSON, 1, 1.5},
-    Ratio{"rehearse saving 10,000 stations / load", figure::rehearse10k, figure::load10k, 1, 1.2},
-    Ratio{"rehearse saving 100,000 stations / load", figure::rehearse100k, figure::load100k, 1,
-          1.2},
-    Ratio{"rehearse saving 10,000 channels / load", figure::rehearseJSON, figure::loadJSON, 1, 1.2},
-    Ratio{"load a station of 100,000 / of 10,000", figure::load100k, figure::load10k, 0.1, 1.2},
-    Ratio{"save a station of 100,000 / of 10,000", figure::save100k, figure::save10k, 0.1, 1.2},
+constexpr std::array memoryRows{
+    MemoryRow{"peak memory of loading 100,000 / file", "--memory-of-loading", memoryOfLoading,
+              "plain-100000", 8},
+    MemoryRow{"peak memory of loading and saving 10,000 / file", "--memory-of-saving",
+              memoryOfSaving, "plain-10000", 4},
+    MemoryRow{"the same of 1,254 JSON channels / file", "--memory-of-saving", memoryOfSaving,
+              "real-json-1254", 12},
 };
-constexpr double wantedMemory = 8;
-constexpr double wantedStartUp = 1.5;
-constexpr double wantedGrowth = 3; // 4 would be the square; memory caches take their part
 
-std::optional<double> quotient(const std::optional<StartUp> &startUp)
+int printMemory(const QStringList &arguments)
 {
-    return startUp ? std::optional(startUp->program / startUp->bare) : std::nullopt;
+    for (const MemoryRow &row : memoryRows) {
+        if (arguments.at(1) != QLatin1String(row.option))
+            continue;
+        const std::optional<double> bytes = row.measure(arguments.at(2));
+        std::printf("%.0f\n", bytes.value_or(std::nan("")));
+        return bytes ? 0 : 1;
+    }
+    return 2;
 }
 
-std::optional<double> quotient(std::optional<double> dividend, std::optional<double> divisor)
+void addRows(Rows &rows, const Lists &lists)
 {
-    return dividend && divisor ? std::optional(*dividend / *divisor) : std::nullopt;
+    addDocumentRows(rows, lists);
+    addReviewRows(rows, lists);
+    addSaveRows(rows, lists);
+    addOrderRows(rows, lists);
+    addEditorRows(rows, lists);
+    addSelectionRows(rows, lists);
+    addCompareRows(rows, lists);
+    addGrowthRows(rows);
 }
 
-int printMemoryOfLoading(const char *file)
-{
-    const std::optional<double> bytes = memoryOfLoading(QFile::decodeName(file));
-    if (!bytes)
-        return 1;
-    std::printf("%.0f\n", *bytes);
-    return 0;
-}
-
-QByteArray contents(const QString &path)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        std::fprintf(stderr, "%s: %s\n", qPrintable(path), qPrintable(file.errorString()));
-    return file.isOpen() ? file.readAll() : QByteArray();
-}
-
-/// Runs everything with defaults of ours, which the arguments override. Returns whether they are
+/// Runs everything with defaults of ours, which the options override. Returns whether they are
 /// understood.
 bool runBenchmarks(const std::vector<std::string> &options, Medians &medians)
 {
@@ -119,87 +107,107 @@ bool runBenchmarks(const std::vector<std::string> &options, Medians &medians)
     return true;
 }
 
-void addRatios(const Medians &medians, RatioTable &table)
+/// Does one row once, or twice when its instructions are counted.
+int countOne(const std::string &row)
 {
-    for (const Ratio &ratio : ratios) {
-        const std::optional<double> measured =
-            quotient(medians.seconds(ratio.figure), medians.seconds(ratio.comparedWith));
-        table.add(ratio.title, measured ? std::optional(*measured * ratio.scale) : std::nullopt,
-                  ratio.wanted);
-    }
-    for (const Growth &growth : growths)
-        table.add(std::string("twice as many ") + growth.title,
-                  quotient(medians.seconds(growth.whole), medians.seconds(growth.half)),
-                  wantedGrowth);
+    Medians medians;
+    const bool isUnderstood =
+        runBenchmarks({"--benchmark_filter=^" + row + "/process_time$", "--benchmark_repetitions=1",
+                       "--benchmark_enable_random_interleaving=false", "--benchmark_min_time=0"},
+                      medians);
+    return isUnderstood && medians.seconds(row) ? 0 : 1;
 }
 
-void printExplanation(const Medians &medians, const std::optional<StartUp> &window,
-                      const std::optional<StartUp> &tool)
+/// Prints for each row its name, whether all of the process counts or what it has counted itself,
+/// and the process, separated by tabs.
+void printCommands(const std::string &folder, const Rows &rows, const Lists &lists)
 {
-    const auto milliseconds = [](std::optional<double> seconds) {
-        return seconds.value_or(std::nan("")) * 1000;
+    for (const Start &start : starts(lists))
+        std::printf("%s\tall\t%s\n", start.name.c_str(),
+                    qPrintable((QStringList(start.program) + start.arguments).join(u'\t')));
+    for (const std::string &row : rows.counted())
+        std::printf("%s\titself\t%s\t%s\t--count\t%s\n", row.c_str(),
+                    qPrintable(QCoreApplication::applicationFilePath()), folder.c_str(),
+                    row.c_str());
+}
+
+void printExplanation(const Medians &medians)
+{
+    const auto milliseconds = [&medians](const char *row) {
+        return medians.seconds(row).value_or(std::nan("")) * 1000;
     };
     std::printf(
         "\nB: a pass of libxml2 over the same bytes that does nothing with them (%.1f ms for "
-        "10,000 stations, %.1f ms for 100,000).\n"
-        "J: the parse of the same JSON by nlohmann_json (%.1f ms).\n"
-        "Medians of the CPU time of randomly mixed repetitions. The starts: medians by the "
-        "clock, %.1f ms and %.1f ms for the bare window, %.1f ms and %.1f ms for a program that "
-        "does nothing.\n",
-        milliseconds(medians.seconds(figure::bare10k)),
-        milliseconds(medians.seconds(figure::bare100k)),
-        milliseconds(medians.seconds(figure::bareJSON)),
-        milliseconds(window ? std::optional(window->program) : std::nullopt),
-        milliseconds(window ? std::optional(window->bare) : std::nullopt),
-        milliseconds(tool ? std::optional(tool->program) : std::nullopt),
-        milliseconds(tool ? std::optional(tool->bare) : std::nullopt));
+        "10,000 stations, %.1f ms real-shaped).\n"
+        "J: the parse of the same JSON by nlohmann_json (%.1f ms for 1,254 channels).\n"
+        "The bare window takes %.1f ms to be painted, the program without a list %.1f ms.\n"
+        "Medians of what whole processes take of the processors, in randomly mixed repetitions.\n",
+        milliseconds("bare/plain-10000"), milliseconds("bare/real-10000"),
+        milliseconds("bare/real-json-1254"), milliseconds("start/bare-window"),
+        milliseconds("start/empty"));
+}
+
+int measureAll(const Lists &lists, const QString &counts, const std::vector<std::string> &options)
+{
+    Instructions instructions;
+    if (!counts.isEmpty() && !instructions.read(counts)) {
+        std::fprintf(stderr, "%s holds no counts\n", qPrintable(counts));
+        return 2;
+    }
+    // Other processes are started first, while this one is small.
+    Medians medians;
+    measure(starts(lists), medians);
+    std::vector<RatioTable::Row> ofMemory;
+    for (const MemoryRow &row : memoryRows) {
+        const QString file = lists.path(row.list);
+        const std::optional<double> bytes = numberFromNewProcess({QLatin1String(row.option), file});
+        const auto size = static_cast<double>(QFileInfo(file).size());
+        ofMemory.push_back({.title = row.title,
+                            .byTime = bytes ? std::optional(*bytes / size) : std::nullopt,
+                            .wanted = row.wanted});
+    }
+    if (!runBenchmarks(options, medians))
+        return 2;
+    RatioTable table;
+    addRatios(medians, instructions, table);
+    for (const RatioTable::Row &row : ofMemory)
+        table.add(row);
+    table.print();
+    printExplanation(medians);
+    return table.isGood() ? 0 : 1;
 }
 
 } // namespace
 
 int main(int argc, char *argv[])
 {
-    const QCoreApplication app(argc, argv);
+    const Home home;
+    home.enter();
+    const QApplication app(argc, argv);
     QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false")); // no texts, no %1
-    if (argc == 3 && QByteArrayView(argv[1]) == memoryOption)
-        return printMemoryOfLoading(argv[2]);
-    if (argc < 2) {
-        std::fputs("usage: quillet_bench FOLDER [OPTION...]\n", stderr);
+    quillet::OpenFileLog(QStringLiteral("XT"));
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.size() == 3 && arguments.at(1).startsWith(QLatin1String("--memory-of-")))
+        return printMemory(arguments);
+    if (arguments.size() < 2 || arguments.at(1).startsWith(u'-')) {
+        std::fputs(usage, stderr);
         return 2;
     }
-    const QDir folder(QFile::decodeName(argv[1]));
-    const QString smallFile = folder.filePath(QStringLiteral("stations-10000.tll"));
-    const QString largeFile = folder.filePath(QStringLiteral("stations-100000.tll"));
-
-    // Other processes are started first, while this one is small.
-    const std::optional<StartUp> windowStartUp = measureWindowStartUp();
-    const std::optional<StartUp> toolStartUp = measureToolStartUp();
-    const std::optional<double> memory = memoryOfLoadingInNewProcess(largeFile);
-
-    const Files files{
-        .stations10k = contents(smallFile),
-        .stations100k = contents(largeFile),
-        .channels10k = contents(folder.filePath(QStringLiteral("channels-10000.tll"))),
-    };
-    if (files.stations10k.isEmpty() || files.stations100k.isEmpty() || files.channels10k.isEmpty())
-        return 1;
-    registerDocumentBenchmarks(files);
-    registerEditorBenchmarks(files.stations10k);
-    registerOrderBenchmarks(files.stations10k);
-    registerCompareBenchmarks(files.stations10k, files.channels10k);
-    registerGrowthBenchmarks();
-    Medians medians;
-    if (!runBenchmarks({argv + 2, argv + argc}, medians))
-        return 2;
-
-    RatioTable table;
-    addRatios(medians, table);
-    table.add("peak memory of loading 100,000 / file",
-              quotient(memory, static_cast<double>(files.stations100k.size())), wantedMemory);
-    table.add("start to an empty window / bare window", quotient(windowStartUp), wantedStartUp);
-    table.add("start of quillet-cli / a program that does nothing", quotient(toolStartUp),
-              wantedStartUp);
-    table.print();
-    printExplanation(medians, windowStartUp, toolStartUp);
-    return table.isGood() ? 0 : 1;
+    const Lists lists(arguments.at(1));
+    Rows rows;
+    addRows(rows, lists);
+    const QString second = arguments.value(2);
+    if (second == QLatin1String("--count"))
+        return countOne(arguments.value(3).toStdString());
+    if (second == QLatin1String("--made-with")) {
+        std::puts(madeWith().c_str());
+        return 0;
+    }
+    if (second == QLatin1String("--commands")) {
+        printCommands(arguments.at(1).toStdString(), rows, lists);
+        return 0;
+    }
+    const bool isCounted = !second.isEmpty() && !second.startsWith(u'-');
+    return measureAll(lists, isCounted ? second : QString(),
+                      {argv + (isCounted ? 3 : 2), argv + argc});
 }

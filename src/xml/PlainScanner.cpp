@@ -3,10 +3,9 @@
 #include "support/TextConversion.h"
 #include "xml/PlainText.h"
 
-#include <QRegularExpression>
-
 #include <algorithm>
 #include <cstring>
+#include <initializer_list>
 #include <limits>
 
 namespace quillet {
@@ -18,7 +17,6 @@ constexpr std::size_t deepest = 64;
 constexpr qsizetype longestName = 200;
 constexpr std::size_t mostNames = 2000;
 constexpr std::size_t mostAttributes = 50;
-constexpr qsizetype longestDeclaration = 100;
 constexpr qsizetype bytesPerText = 24; ///< about as many as a field of a station takes
 
 bool isBlank(char c)
@@ -103,14 +101,26 @@ std::optional<Dictionary> PlainScanner::tree(const XMLDictionaryParser::Settings
 /// A byte-order mark and a declaration of this encoding, up to the root.
 bool PlainScanner::skipDeclaration()
 {
-    static const QRegularExpression declaration(QStringLiteral(
-        "^(\\x{EF}\\x{BB}\\x{BF})?"
-        "(<\\?xml version=(?:\"1\\.0\"|'1\\.0')(?: encoding=(?:\"UTF-8\"|'UTF-8'|\"utf-8\"))?"
-        "(?: standalone=(?:\"yes\"|\"no\"))? ?\\?>[ \\t\\r\\n]{0,9})?(?=<)"));
-    const qsizetype length = std::min<qsizetype>(m_end - m_start, longestDeclaration);
-    const auto match = declaration.match(QString::fromLatin1(m_start, length));
-    m_at += match.hasMatch() ? match.capturedLength() : 0;
-    return match.hasMatch();
+    const auto take = [this](QByteArrayView text) {
+        const bool isThere = QByteArrayView(m_at, m_end - m_at).startsWith(text);
+        m_at += isThere ? text.size() : 0;
+        return isThere;
+    };
+    const auto takeOneOf = [&take](std::initializer_list<QByteArrayView> texts) {
+        return std::any_of(texts.begin(), texts.end(), take);
+    };
+    take("\xEF\xBB\xBF");
+    if (take("<?xml")) {
+        if (!takeOneOf({" version=\"1.0\"", " version='1.0'"}))
+            return false;
+        takeOneOf({" encoding=\"UTF-8\"", " encoding='UTF-8'", " encoding=\"utf-8\""});
+        takeOneOf({" standalone=\"yes\"", " standalone=\"no\""});
+        take(" ");
+        if (!take("?>"))
+            return false;
+        m_at = skipBlanks(m_at);
+    }
+    return *m_at == '<';
 }
 
 /// Goes behind a name; null when there is none that is taken.

@@ -2159,6 +2159,10 @@
         <source></source>
         <translation>Anmerkungen oder zusätzliche Angaben zwischen den Sendern gingen verloren.</translation>
     </message>
+    <message id="kReviewing">
+        <source></source>
+        <translation>Es wird geprüft, ob beim Speichern von „%1“ nichts verloren geht …</translation>
+    </message>
     <message id="kReviewMessage">
         <source></source>
         <translation>Beim Speichern von „%1“ ginge etwas verloren.</translation>

@@ -2159,6 +2159,10 @@
         <source></source>
         <translation>Remarks or additional details among the stations would be lost.</translation>
     </message>
+    <message id="kReviewing">
+        <source></source>
+        <translation>Checking that nothing is lost when “%1” is saved…</translation>
+    </message>
     <message id="kReviewMessage">
         <source></source>
         <translation>Saving “%1” would lose something.</translation>

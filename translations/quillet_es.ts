@@ -2159,6 +2159,10 @@
         <source></source>
         <translation>Se perderían comentarios o datos adicionales entre los canales.</translation>
     </message>
+    <message id="kReviewing">
+        <source></source>
+        <translation>Comprobando que al guardar «%1» no se pierde nada…</translation>
+    </message>
     <message id="kReviewMessage">
         <source></source>
         <translation>Al guardar «%1» se perdería algo.</translation>

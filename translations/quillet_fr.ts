@@ -2159,6 +2159,10 @@
         <source></source>
         <translation>Des remarques ou des détails supplémentaires entre les chaînes seraient perdus.</translation>
     </message>
+    <message id="kReviewing">
+        <source></source>
+        <translation>Vérification que l’enregistrement de « %1 » ne fait rien perdre…</translation>
+    </message>
     <message id="kReviewMessage">
         <source></source>
         <translation>L’enregistrement de « %1 » ferait perdre des données.</translation>

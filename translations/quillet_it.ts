@@ -2159,6 +2159,10 @@
         <source></source>
         <translation>Andrebbero persi commenti o dettagli aggiuntivi tra i canali.</translation>
     </message>
+    <message id="kReviewing">
+        <source></source>
+        <translation>Controllo che salvando “%1” non vada perso nulla…</translation>
+    </message>
     <message id="kReviewMessage">
         <source></source>
         <translation>Salvando “%1” qualcosa andrebbe perso.</translation>

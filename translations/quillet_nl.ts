@@ -2159,6 +2159,10 @@
         <source></source>
         <translation>Opmerkingen of extra gegevens tussen de zenders zouden verloren gaan.</translation>
     </message>
+    <message id="kReviewing">
+        <source></source>
+        <translation>Er wordt gecontroleerd of bij het opslaan van “%1” niets verloren gaat…</translation>
+    </message>
     <message id="kReviewMessage">
         <source></source>
         <translation>Bij het opslaan van “%1” zou iets verloren gaan.</translation>

@@ -2207,6 +2207,10 @@
         <source></source>
         <translation>Utracone zostałyby uwagi lub dodatkowe dane między kanałami.</translation>
     </message>
+    <message id="kReviewing">
+        <source></source>
+        <translation>Sprawdzanie, czy zapisanie „%1” nie spowoduje utraty danych…</translation>
+    </message>
     <message id="kReviewMessage">
         <source></source>
         <translation>Zapisanie „%1” spowodowałoby utratę danych.</translation>

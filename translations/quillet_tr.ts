@@ -2111,6 +2111,10 @@
         <source></source>
         <translation>Kanallar arasındaki notlar veya ek bilgiler kaybolur.</translation>
     </message>
+    <message id="kReviewing">
+        <source></source>
+        <translation>“%1” kaydedilirken hiçbir şeyin kaybolmadığı denetleniyor…</translation>
+    </message>
     <message id="kReviewMessage">
         <source></source>
         <translation>“%1” kaydedilirse bir şeyler kaybolur.</translation>

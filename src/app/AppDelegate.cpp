@@ -338,7 +338,7 @@ void AppDelegate::commitData(QSessionManager &session)
     commitEditing();
     const auto &documents = m_documents.documents();
     const bool isClean = std::none_of(documents.begin(), documents.end(), [](const auto &each) {
-        return each->hasUnautosavedChanges();
+        return each->hasUnautosavedChanges() || each->isBeingMade();
     });
     if (isClean)
         return;

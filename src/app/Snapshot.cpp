@@ -53,6 +53,10 @@ public:
     {
     }
     void showPrintPanel(QWidget *, const PrintPanel &, std::function<void(QPrinter &)>) override {}
+    std::function<void()> showProgress(QWidget *, const QString &, std::function<void()>) override
+    {
+        return [] {};
+    }
 
     QString shown;
 };

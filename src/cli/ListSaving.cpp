@@ -54,8 +54,7 @@ public:
     [[nodiscard]] ExitStatus status() const { return m_status; }
 
     [[nodiscard]] QString refusal(const QString &) const override { return {}; }
-    [[nodiscard]] QByteArray makeBytes(Error &) override { return m_bytes; }
-    void review(const QByteArray &bytes, const Decided &decided) override { decided(bytes); }
+    void makeBytes(const Made &made) override { made(m_bytes, {}); }
     void confirm(FileState::Change change, const std::function<void(bool)> &answered) override
     {
         const auto *const found =

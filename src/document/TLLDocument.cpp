@@ -3,10 +3,10 @@
 #include "document/LoadingLog.h"
 #include "document/SaveReview.h"
 #include "document/TLLWindowController.h"
+#include "document/list/ListSnapshot.h"
 #include "document/order/ReferenceOrder.h"
 #include "document/recovery/ListEdits.h"
-#include "document/repair/RepairedWriter.h"
-#include "document/review/Rehearsal.h"
+#include "document/review/SaveForms.h"
 #include "document/write/TLLWriter.h"
 #include "files/Settings.h"
 #include "framework/Prompts.h"
@@ -16,6 +16,8 @@
 
 #include <QFileInfo>
 #include <QLoggingCategory>
+
+#include <utility>
 
 namespace quillet {
 
@@ -245,28 +247,46 @@ bool TLLDocument::savesRepairedUnasked() const
            (m_list.isLegacyFormat && m_settings && m_settings->isOn(Setting::RepairsJSONLists));
 }
 
-void TLLDocument::reviewSave(const QByteArray &bytes, SavePurpose purpose,
-                             const SaveJob::Client::Decided &decided)
+/// On a copy, because the list may be edited meanwhile.
+void TLLDocument::makeBytes(const QString &, SavePurpose purpose, const SaveJob::Client::Made &made)
 {
-    m_wasUnasked = false;
-    const Rehearsal plain = rehearse(m_list, bytes);
-    if (plain.isClean())
-        return decided(bytes);
-    QByteArray repaired;
-    std::optional<Rehearsal> ofRepaired; // of a better writing than the plain one
-    if (purpose == SavePurpose::Save) {
-        repaired = repairedTLL(m_list);
-        ofRepaired = rehearse(m_list, repaired);
-        if (savesRepairedUnasked() && ofRepaired->isClean()) {
-            m_wasUnasked = !m_repair; // what a copy was repaired for needs no word
-            m_savesRepaired = true;
-            return decided(repaired);
+    const auto snapshot = std::make_shared<ListSnapshot>(m_list, m_stations);
+    const auto forms = std::make_shared<SaveForms>();
+    const bool mayRepair = purpose == SavePurpose::Save;
+    const auto write = [snapshot, forms, mayRepair](const BackgroundWork::IsStopped &isStopped) {
+        const ListSnapshot::Copy copy = snapshot->takeCopy();
+        *forms = saveForms(copy.list, copy.shown, mayRepair, isStopped);
+    };
+    const auto choose = [=, this](BackgroundWork::Outcome outcome) {
+        switch (outcome) {
+        case BackgroundWork::Outcome::Done:
+            return chooseForm(forms, purpose, made);
+        case BackgroundWork::Outcome::Cancelled:
+            return made({}, {});
+        case BackgroundWork::Outcome::NoMemory:
+            return made({}, noMemory(fileUrl().toLocalFile()));
         }
-        if (ofRepaired->weight() >= plain.weight())
-            ofRepaired.reset();
+    };
+    workBeside(qtTrId("kReviewing").arg(displayName()), m_list.text.size(), write, choose);
+}
+
+void TLLDocument::chooseForm(const std::shared_ptr<SaveForms> &forms, SavePurpose purpose,
+                             const SaveJob::Client::Made &made)
+{
+    // What is not written takes no room while that is.
+    const auto write = [forms, made](QByteArray SaveForms::*form) {
+        made(std::exchange(*forms, {}).*form, {});
+    };
+    m_wasUnasked = false;
+    if (forms->ofPlain.isClean())
+        return write(&SaveForms::plain);
+    if (savesRepairedUnasked() && forms->ofRepaired && forms->ofRepaired->isClean()) {
+        m_wasUnasked = !m_repair; // what a copy was repaired for needs no word
+        m_savesRepaired = true;
+        return write(&SaveForms::repaired);
     }
     const SaveReview review =
-        reviewOfSave(displayName(), plain, ofRepaired,
+        reviewOfSave(displayName(), forms->ofPlain, forms->ofRepaired,
                      purpose == SavePurpose::Export        ? SaveReview::Kind::Export
                      : m_list.isLegacyFormat && m_settings ? SaveReview::Kind::JSONList
                                                            : SaveReview::Kind::List);
@@ -278,11 +298,11 @@ void TLLDocument::reviewSave(const QByteArray &bytes, SavePurpose purpose,
             m_savesRepaired = true;
             if (answer.isChecked && m_settings)
                 m_settings->set(Setting::RepairsJSONLists, true);
-            return decided(repaired);
+            return write(&SaveForms::repaired);
         case Answer::SaveAnyway:
-            return decided(bytes);
+            return write(&SaveForms::plain);
         case Answer::Cancel:
-            return decided({});
+            return made({}, {});
         }
     });
 }

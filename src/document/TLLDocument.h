@@ -15,6 +15,7 @@
 namespace quillet {
 
 class EditRecord;
+struct SaveForms;
 class Settings;
 class TLLWindowController;
 
@@ -128,12 +129,14 @@ public:
 protected:
     /// Asks when the bytes would lose something of what was read or edited, unless the person
     /// chose before to have such a save repaired.
-    void reviewSave(const QByteArray &bytes, SavePurpose purpose,
-                    const SaveJob::Client::Decided &decided) override;
+    void makeBytes(const QString &typeName, SavePurpose purpose,
+                   const SaveJob::Client::Made &made) override;
     void documentWasSaved() override;
     [[nodiscard]] QString savedText() const override;
 
 private:
+    void chooseForm(const std::shared_ptr<SaveForms> &forms, SavePurpose purpose,
+                    const SaveJob::Client::Made &made);
     void updateStationPointer();
     [[nodiscard]] bool savesRepairedUnasked() const;
 

@@ -12,6 +12,8 @@ namespace quillet {
 void DroppedFiles::load(TLLDocument &document, const EditorQuestions &questions,
                         const QString &path)
 {
+    if (document.putsOff([this, &document, &questions, path] { load(document, questions, path); }))
+        return;
     if (!document.hasUnautosavedChanges())
         return readDroppedFile(document, path);
     questions.askToReplace([this, path, guard = QPointer(&document)] {

@@ -39,22 +39,17 @@ void SaveJob::make()
     if (isRefused())
         return;
     // Writing and rehearsing a large list may need more memory than there is.
-    Error error;
     try {
-        const QByteArray bytes = m_client->makeBytes(error);
-        if (error.isEmpty())
-            m_client->review(bytes,
-                             [job = shared_from_this()](const std::optional<QByteArray> &reviewed) {
-                                 if (reviewed)
-                                     job->goOn(*reviewed);
-                                 else
-                                     job->finish(Outcome::GivenUp);
-                             });
+        m_client->makeBytes(
+            [job = shared_from_this()](const std::optional<QByteArray> &bytes, const Error &error) {
+                if (bytes)
+                    job->goOn(*bytes);
+                else
+                    job->finish(error.isEmpty() ? Outcome::GivenUp : Outcome::Failed, error);
+            });
     } catch (const std::bad_alloc &) {
-        error = noMemory(m_path);
+        finish(Outcome::Failed, noMemory(m_path));
     }
-    if (!error.isEmpty())
-        finish(Outcome::Failed, error);
 }
 
 /// Once the file is written, nothing that goes wrong says that it is not.

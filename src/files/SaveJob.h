@@ -20,8 +20,8 @@ class FileOperations;
 /// wants it written answers, now or later, and may drop an answer to end the job. The steps:
 ///   1. what is there at the start is noted, where the links of the path lead;
 ///   2. it is refused when it must not be written to;
-///   3. the bytes are made;
-///   4. they are rehearsed: what would be lost if they were opened again?
+///   3. the bytes are made, perhaps on another thread;
+///   4. they are rehearsed there: what would be lost if they were opened again?
 ///   5. if anything is, that is asked about, and other bytes may be given instead;
 ///   6. the disk is looked at. Any answer so far may have taken an hour, so only now: whether what
 ///      is there is still what was there, on the same device. If not, that is asked about, and then
@@ -55,10 +55,10 @@ public:
         virtual ~Client() = default;
         /// Why the file at that place (without links) must not be written to; empty when it may.
         [[nodiscard]] virtual QString refusal(const QString &place) const = 0;
-        [[nodiscard]] virtual QByteArray makeBytes(Error &error) = 0;
-        using Decided = std::function<void(const std::optional<QByteArray> &)>;
-        /// Rehearses the bytes and asks if need be. Answers what to write; none gives the job up.
-        virtual void review(const QByteArray &bytes, const Decided &decided) = 0;
+        /// What to write. None gives the job up, or says with the error why it has failed.
+        using Made = std::function<void(const std::optional<QByteArray> &, const Error &)>;
+        /// Makes the bytes, rehearses them and asks if need be.
+        virtual void makeBytes(const Made &made) = 0;
         /// Whether to write all the same, after such a change on the disk.
         virtual void confirm(FileState::Change change,
                              const std::function<void(bool)> &answered) = 0;

@@ -22,6 +22,10 @@ namespace quillet {
 
 namespace {
 
+/// What a save of takes less than 100 ms, even of the slower kind of list (JSON) where something
+/// would be lost: that goes at about 7 MB a second.
+constexpr qsizetype mostAtOnce = 700'000;
+
 FileOperations &plainFileOperations()
 {
     static FileOperations operations; // has no state
@@ -96,13 +100,14 @@ bool Document::readFromUrl(const QUrl &url, const QString &typeName, Error &erro
     try {
         isReplaced = replaceContent(bytes, typeName, error);
     } catch (const std::bad_alloc &) {
-        error = {QStringLiteral("Document"), 2, qtTrId("kNoMemoryReason"), path};
+        error = noMemory(path);
     }
     if (!isReplaced) {
         if (error.isEmpty())
             error = {QStringLiteral("Document"), 1, qtTrId("kContentUnknownReason"), path};
         return false;
     }
+    m_work.drop(); // which would write what is no longer there
     setFileType(typeName);
     m_suggestedUrl.clear();
     if (url != m_fileUrl)
@@ -111,6 +116,11 @@ bool Document::readFromUrl(const QUrl &url, const QString &typeName, Error &erro
     setKnown(FileState::of(path, bytes));
     m_history.clear();
     return true;
+}
+
+Error Document::noMemory(const QString &path)
+{
+    return {QStringLiteral("Document"), 2, qtTrId("kNoMemoryReason"), path};
 }
 
 std::optional<Document::Recoverable> Document::recoverable() const
@@ -152,6 +162,7 @@ void Document::removeWindowControllers()
 {
     for (const auto &controller : m_windowControllers)
         controller->setDocument(nullptr);
+    m_work.drop();
     m_windowControllers.clear();
     m_isAsking = false;
 }
@@ -226,6 +237,8 @@ void Document::saveDocument(std::function<void(bool)> done)
 {
     if (!done)
         done = [](bool) {};
+    if (isBeingMade())
+        return saveTheRest(std::move(done));
     if (m_isAsking || (m_fileUrl.isEmpty() && m_suggestedUrl.isEmpty()))
         return done(false);
     const auto saving = std::make_shared<DocumentSaving>(
@@ -237,8 +250,21 @@ void Document::saveDocument(std::function<void(bool)> done)
         saving->writeToFile();
 }
 
+/// Whoever cancels the save under way wants no other one.
+void Document::saveTheRest(std::function<void(bool)> done)
+{
+    m_work.putOff([this, done = std::move(done)](BackgroundWork::Outcome outcome) {
+        if (outcome == BackgroundWork::Outcome::Done && hasUnautosavedChanges())
+            saveDocument(done);
+        else
+            done(!hasUnautosavedChanges());
+    });
+}
+
 void Document::saveDocumentAs(std::function<void(bool)> done)
 {
+    if (putsOff([this, done] { saveDocumentAs(done); }))
+        return;
     if (!done)
         done = [](bool) {};
     if (m_isAsking || !canSaveAs())
@@ -256,6 +282,8 @@ bool Document::canSaveAs() const
 void Document::exportDocument(const SavePanel &panel, const QString &typeName,
                               const DocumentSaving::Done &done)
 {
+    if (putsOff([=, this] { exportDocument(panel, typeName, done); }))
+        return;
     if (mustNotExport())
         return done(false, {});
     std::make_shared<DocumentSaving>(*this, SavePurpose::Export, typeName, done)
@@ -265,6 +293,8 @@ void Document::exportDocument(const SavePanel &panel, const QString &typeName,
 void Document::exportBytes(const SavePanel &panel, const MadeBytes &made,
                            const DocumentSaving::Done &done)
 {
+    if (putsOff([=, this] { exportBytes(panel, made, done); }))
+        return;
     if (mustNotExport())
         return done(false, {});
     std::make_shared<DocumentSaving>(*this, made, done)->writeToChosenPlace(panel);
@@ -273,6 +303,8 @@ void Document::exportBytes(const SavePanel &panel, const MadeBytes &made,
 void Document::exportBytesThere(const SavePanel &panel, const MadeBytes &made,
                                 const DocumentSaving::Done &done)
 {
+    if (putsOff([=, this] { exportBytesThere(panel, made, done); }))
+        return;
     if (mustNotExport())
         return done(false, {});
     std::make_shared<DocumentSaving>(*this, made, done)->writeToSuggestedPlace(panel);
@@ -300,10 +332,25 @@ void Document::askForPlace(const SavePanel &panel,
     });
 }
 
-void Document::reviewSave(const QByteArray &bytes, SavePurpose /*purpose*/,
-                          const SaveJob::Client::Decided &decided)
+void Document::makeBytes(const QString &typeName, SavePurpose /*purpose*/,
+                         const SaveJob::Client::Made &made)
 {
-    decided(bytes);
+    Error error;
+    const QByteArray bytes = dataOfType(typeName, error);
+    made(error.isEmpty() ? std::optional(bytes) : std::nullopt, error);
+}
+
+void Document::workBeside(const QString &message, qsizetype bytes, const BackgroundWork::Work &work,
+                          const BackgroundWork::Ended &ended)
+{
+    if (bytes <= mostAtOnce) {
+        work([] { return false; });
+        return ended(BackgroundWork::Outcome::Done);
+    }
+    const auto showSheet = [this, message](const auto &cancel) -> std::function<void()> {
+        return m_prompts ? m_prompts->showProgress(sheetWindow(), message, cancel) : [] {};
+    };
+    m_work.start(work, showSheet, ended);
 }
 
 void Document::wasWritten(const FileState &written, quint64 changeCount)
@@ -322,6 +369,8 @@ void Document::wasWritten(const FileState &written, quint64 changeCount)
 
 void Document::revertDocumentToSaved()
 {
+    if (putsOff([this] { revertDocumentToSaved(); }))
+        return;
     if (m_fileUrl.isEmpty() || m_isAsking)
         return;
     if (!isDocumentEdited())
@@ -361,6 +410,8 @@ bool Document::readAgain()
 
 void Document::reloadDocument()
 {
+    if (putsOff([this] { reloadDocument(); }))
+        return;
     if (m_fileUrl.isEmpty() || m_isAsking)
         return;
     if (!isDocumentEdited())
@@ -453,8 +504,17 @@ bool Document::hasUnautosavedChanges() const
            (fileNews() == FileState::Change::Gone && m_known && m_known->isItsDiskThere());
 }
 
+bool Document::putsOff(const std::function<void()> &call)
+{
+    if (isBeingMade())
+        m_work.putOff([call](BackgroundWork::Outcome) { call(); });
+    return isBeingMade();
+}
+
 void Document::askToClose(std::function<void(bool)> done)
 {
+    if (putsOff([this, done] { askToClose(done); }))
+        return;
     if (m_isAsking)
         return done(false);
     if (!hasUnautosavedChanges())

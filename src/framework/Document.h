@@ -2,6 +2,7 @@
 
 #include "files/Error.h"
 #include "files/FileState.h"
+#include "framework/BackgroundWork.h"
 #include "framework/DocumentSaving.h"
 #include "framework/UndoHistory.h"
 
@@ -168,6 +169,13 @@ public:
     /// the document counts as changed.
     void keepMine();
 
+    /// Whether a save or an export is being made while the person can go on, so that it is not
+    /// written yet.
+    [[nodiscard]] bool isBeingMade() const { return m_work.isUnderway(); }
+    /// Whether that is so, and the call is made when it is no longer. What replaces the content,
+    /// writes a file or closes the document asks this first.
+    [[nodiscard]] bool putsOff(const std::function<void()> &call);
+
     /// Asks about unsaved changes if there are any. `done` gets true when the document may be
     /// closed (saved, or changes given up), false at once while another question is open.
     void askToClose(std::function<void(bool)> done);
@@ -191,10 +199,17 @@ signals:
     void told(const QString &text);
 
 protected:
-    /// Called with the bytes of a save or an export before they replace a file. `decided` must be
-    /// called once: with what to write, or with none to give it up. The base has them written.
-    virtual void reviewSave(const QByteArray &bytes, SavePurpose purpose,
-                            const SaveJob::Client::Decided &decided);
+    /// Makes the bytes of a save or an export, and asks about them if need be, before they replace
+    /// a file. `made` must be called once, now or later; a save is of the content at the time of
+    /// the call. The base makes them as dataOfType() does.
+    virtual void makeBytes(const QString &typeName, SavePurpose purpose,
+                           const SaveJob::Client::Made &made);
+    /// Does work of a save that may take long, meanwhile showing the message; `bytes` is about the
+    /// size of what it is done with. Little is done at once. `ended` is called when it has ended.
+    void workBeside(const QString &message, qsizetype bytes, const BackgroundWork::Work &work,
+                    const BackgroundWork::Ended &ended);
+    /// Of whatever needs more memory than there is.
+    [[nodiscard]] static Error noMemory(const QString &path);
     /// Shows the alert; `answered` gets the answer, with button -1 when nobody can be asked.
     void ask(const Alert &alert, const std::function<void(const AlertAnswer &)> &answered);
     /// Called after the file was written.
@@ -218,6 +233,8 @@ private:
     /// `changeCount` is that of the history when the bytes were made: what was done since then is
     /// not in the file.
     void wasWritten(const FileState &written, quint64 changeCount);
+    /// Saves once more what was done while a save was being made.
+    void saveTheRest(std::function<void(bool)> done);
     /// Tells the person so, who may have come from a panel of their own to this.
     [[nodiscard]] bool mustNotExport();
     void revert();
@@ -242,6 +259,7 @@ private:
     std::optional<FileState> m_known; ///< of the file last read or written
     std::unique_ptr<FileWatch> m_watch;
     std::vector<std::unique_ptr<WindowController>> m_windowControllers;
+    BackgroundWork m_work; ///< of a save or an export
 };
 
 } // namespace quillet

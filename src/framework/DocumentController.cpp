@@ -302,7 +302,7 @@ void DocumentController::reviewNext(std::vector<Document *> givenUp,
 {
     // A document saved during the review is asked about again if it was changed after that.
     const auto needsReview = [&givenUp](const auto &document) {
-        return document->hasUnautosavedChanges() &&
+        return (document->hasUnautosavedChanges() || document->isBeingMade()) &&
                std::find(givenUp.begin(), givenUp.end(), document.get()) == givenUp.end();
     };
     const auto next = std::find_if(m_documents.begin(), m_documents.end(), needsReview);

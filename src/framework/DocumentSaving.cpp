@@ -6,7 +6,6 @@
 #include "files/ShownPath.h"
 #include "files/VersionStore.h"
 #include "framework/Document.h"
-#include "framework/WaitCursor.h"
 
 #include <QFileInfo>
 #include <QStandardPaths>
@@ -142,18 +141,12 @@ QString DocumentSaving::refusal(const QString &place) const
     return m_document.otherDocumentAt(place) ? qtTrId("kOpenElsewhereReason") : QString();
 }
 
-QByteArray DocumentSaving::makeBytes(Error &error)
+void DocumentSaving::makeBytes(const Made &made)
 {
     m_changeCount = m_document.history().changeCount();
-    return m_made ? m_made->bytes : m_document.dataOfType(m_typeName, error);
-}
-
-void DocumentSaving::review(const QByteArray &bytes, const Decided &decided)
-{
     if (m_made)
-        return decided(bytes);
-    const WaitCursor wait(WaitCursor::Work::Reviewing, bytes.size());
-    m_document.reviewSave(bytes, m_purpose, decided);
+        return made(m_made->bytes, {});
+    m_document.makeBytes(m_typeName, m_purpose, made);
 }
 
 void DocumentSaving::confirm(FileState::Change change, const std::function<void(bool)> &answered)

@@ -52,8 +52,7 @@ public:
     void writeToSuggestedPlace(const SavePanel &panel);
 
     [[nodiscard]] QString refusal(const QString &place) const override;
-    [[nodiscard]] QByteArray makeBytes(Error &error) override;
-    void review(const QByteArray &bytes, const Decided &decided) override;
+    void makeBytes(const Made &made) override;
     void confirm(FileState::Change change, const std::function<void(bool)> &answered) override;
     [[nodiscard]] bool keep(const QString &path, const QByteArray &replaced, Error &error) override;
     void confirmUnkept(const Error &error, const std::function<void(bool)> &answered) override;

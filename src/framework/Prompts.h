@@ -80,6 +80,10 @@ public:
     /// Lets the person choose where and how to print; `print` is called only on confirmation.
     virtual void showPrintPanel(QWidget *window, const PrintPanel &panel,
                                 std::function<void(QPrinter &)> print) = 0;
+    /// Says in a sheet what the person is waiting for. `cancelled` is called when they do not want
+    /// to; the function returned, which may be called at any time, takes the sheet away.
+    virtual std::function<void()> showProgress(QWidget *window, const QString &message,
+                                               std::function<void()> cancelled) = 0;
 };
 
 } // namespace quillet

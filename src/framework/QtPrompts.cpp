@@ -14,12 +14,15 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QUrl>
+#include <QVBoxLayout>
 
 #include <filesystem>
 #include <memory>
@@ -307,6 +310,35 @@ void QtPrompts::showPrintPanel(QWidget *window, const PrintPanel &panel,
             print(*printer);
     });
     present(*dialog, QStringLiteral("printPanel"));
+}
+
+std::function<void()> QtPrompts::showProgress(QWidget *window, const QString &message,
+                                              std::function<void()> cancelled)
+{
+    auto *dialog = new QDialog(window);
+    dialog->setWindowTitle(QGuiApplication::applicationDisplayName());
+    dialog->setAccessibleName(message);
+    auto *label = new QLabel(message);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    auto *bar = new QProgressBar;
+    bar->setRange(0, 0); // how long it takes is not known
+    bar->setAccessibleName(message);
+    auto *buttons = new QDialogButtonBox;
+    auto *cancel = buttons->addButton(withMnemonics({qtTrId("kCancel")}).constFirst(),
+                                      QDialogButtonBox::RejectRole);
+    cancel->setObjectName(QStringLiteral("progressCancel"));
+    auto *layout = new QVBoxLayout(dialog);
+    for (QWidget *widget : {static_cast<QWidget *>(label), static_cast<QWidget *>(bar),
+                            static_cast<QWidget *>(buttons)})
+        layout->addWidget(widget);
+    QObject::connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
+    QObject::connect(dialog, &QDialog::rejected, dialog, std::move(cancelled));
+    present(*dialog, QStringLiteral("progressSheet"));
+    return [dialog = QPointer(dialog)] {
+        if (dialog)
+            dialog->accept();
+    };
 }
 
 } // namespace quillet

@@ -20,6 +20,8 @@ public:
                        std::function<void(const QString &)> done) override;
     void showPrintPanel(QWidget *window, const PrintPanel &panel,
                         std::function<void(QPrinter &)> print) override;
+    std::function<void()> showProgress(QWidget *window, const QString &message,
+                                       std::function<void()> cancelled) override;
 };
 
 } // namespace quillet

@@ -36,9 +36,9 @@ struct Shown
     }
     [[nodiscard]] bool save()
     {
-        bool isSaved = false;
-        document.saveDocument([&isSaved](bool saved) { isSaved = saved; });
-        return isSaved;
+        const auto isSaved = std::make_shared<bool>(false); // may be told later
+        document.saveDocument([isSaved](bool saved) { *isSaved = saved; });
+        return *isSaved;
     }
 
     QByteArray before;
@@ -122,6 +122,37 @@ private slots:
                                     : writing == u"plain"_s  ? written(document)
                                                              : shown.before;
         QVERIFY(contentOf(shown.path()) == expected);
+    }
+
+    /// A long list is looked through beside the thread that goes on editing it.
+    void savesALongListAsItWas_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("plain") << u"Bravo"_s;
+        QTest::newRow("repaired") << u"R&B"_s;
+    }
+    void savesALongListAsItWas()
+    {
+        QFETCH(const QString, name);
+        QStringList names;
+        for (int i = 0; i < 8000; ++i)
+            names.append(u"Station "_s + QString::number(i));
+        Shown shown(digital(items(names)));
+        TLLDocument &document = shown.document;
+        rename(name)(document);
+        const bool isRepaired = name.contains(u'&');
+        const QByteArray asked = isRepaired ? repairedTLL(document.list()) : written(document);
+        if (isRepaired)
+            shown.prompts.answerAlert(u"kSaveRepaired"_s);
+        document.setDirtyFlag(true);
+        QVERIFY(!shown.save() && document.isBeingMade());
+        for (const FiledStation &filed : document.lists().roll())
+            filed.station->setStationName(u"Later"_s);
+        document.setDirtyFlag(true);
+        QTRY_VERIFY(!document.isBeingMade());
+        QVERIFY(shown.prompts.isSettled());
+        QVERIFY(contentOf(shown.path()) == asked);
+        QVERIFY(document.isDirty());
     }
 
     void keepsToTheRepairedForm()

@@ -38,12 +38,23 @@ void BytesDocument::makeWindowControllers()
     addWindowController(std::make_unique<CountingWindow>());
 }
 
-void BytesDocument::reviewSave(const QByteArray &bytes, SavePurpose,
-                               const SaveJob::Client::Decided &decided)
+void BytesDocument::makeBytes(const QString &typeName, SavePurpose purpose,
+                              const SaveJob::Client::Made &made)
 {
-    if (const auto happening = std::exchange(duringReview, {}))
-        happening();
-    decided(bytes);
+    const auto hand = [this, made](const std::optional<QByteArray> &bytes, const Error &error) {
+        if (const auto happening = std::exchange(duringReview, {}))
+            happening();
+        made(bytes, error);
+    };
+    if (!slowWork)
+        return Document::makeBytes(typeName, purpose, hand);
+    constexpr qsizetype manyBytes = 100'000'000;
+    workBeside(QStringLiteral("working"), manyBytes, slowWork,
+               [hand, bytes = content](BackgroundWork::Outcome outcome) {
+                   using Outcome = BackgroundWork::Outcome;
+                   hand(outcome == Outcome::Done ? std::optional(bytes) : std::nullopt,
+                        outcome == Outcome::NoMemory ? noMemory({}) : Error());
+               });
 }
 
 void BytesDocument::edit(const QByteArray &bytes)

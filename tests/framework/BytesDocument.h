@@ -27,8 +27,8 @@ public:
     [[nodiscard]] QByteArray dataOfType(const QString &typeName, Error &error) override;
     void makeWindowControllers() override;
 
-    void reviewSave(const QByteArray &bytes, SavePurpose purpose,
-                    const SaveJob::Client::Decided &decided) override;
+    void makeBytes(const QString &typeName, SavePurpose purpose,
+                   const SaveJob::Client::Made &made) override;
 
     /// A change by the user.
     void edit(const QByteArray &bytes);
@@ -36,8 +36,10 @@ public:
 
     QByteArray content;
     std::function<void()> duringReview; ///< what happens while a save is reviewed
-    bool hadWaitCursor = false;         ///< when it was read last
-    bool isUnwritable = false;          ///< dataOfType fails
+    /// What takes so long of the saves that it is done on another thread; none: nothing does.
+    BackgroundWork::Work slowWork;
+    bool hadWaitCursor = false; ///< when it was read last
+    bool isUnwritable = false;  ///< dataOfType fails
 };
 
 } // namespace quillet::testing

@@ -118,6 +118,39 @@ private slots:
         QVERIFY(m_answer && m_answer->isChecked);
     }
 
+    void progressIsCancelledByAPersonAlone_data()
+    {
+        QTest::addColumn<QString>("way");
+        QTest::addColumn<int>("cancelled"); // times
+        QTest::newRow("button") << QStringLiteral("button") << 1;
+        QTest::newRow("Escape") << QStringLiteral("Escape") << 1;
+        QTest::newRow("close button of the sheet") << QStringLiteral("close") << 1;
+        QTest::newRow("it is over") << QStringLiteral("over") << 0;
+    }
+    void progressIsCancelledByAPersonAlone()
+    {
+        QFETCH(const QString, way);
+        const QString message = QStringLiteral("<b>name</b>");
+        int cancelled = 0;
+        const auto takeAway =
+            m_prompts.showProgress(m_window.get(), message, [&cancelled] { ++cancelled; });
+        const QPointer sheet(m_window->findChild<QDialog *>(QStringLiteral("progressSheet")));
+        QVERIFY(sheet && sheet->isVisible());
+        QCOMPARE(sheet->windowModality(), Qt::WindowModal);
+        QCOMPARE(sheet->accessibleName(), message);
+        QCOMPARE(sheet->findChild<QLabel *>()->textFormat(), Qt::PlainText);
+        if (way == QLatin1String("button"))
+            sheet->findChild<QPushButton *>()->click();
+        else if (way == QLatin1String("Escape"))
+            QTest::keyClick(sheet.data(), Qt::Key_Escape);
+        else if (way == QLatin1String("close"))
+            sheet->close();
+        takeAway();
+        QTEST(cancelled, "cancelled");
+        QTRY_VERIFY(!sheet);
+        takeAway(); // nothing is left to do
+    }
+
     void savePanelStartsWhereItIsTold_data()
     {
         QTest::addColumn<QString>("typed");

@@ -89,7 +89,7 @@ bool PresetPrompts::isSettled() const
         return line.answers.empty() && line.questions.empty();
     };
     return isEmpty(m_alertLine) && isEmpty(m_openLine) && isEmpty(m_saveLine) &&
-           isEmpty(m_printLine) && m_underway == 0 && !m_hasMistake;
+           isEmpty(m_printLine) && !showsProgress() && m_underway == 0 && !m_hasMistake;
 }
 
 void PresetPrompts::showAlert(QWidget *window, const Alert &alert,
@@ -145,6 +145,13 @@ void PresetPrompts::showPrintPanel(QWidget *window, const PrintPanel &panel,
             setUpPrinter(printer);
         print(printer);
     });
+}
+
+std::function<void()> PresetPrompts::showProgress(QWidget *, const QString &,
+                                                  std::function<void()> cancelled)
+{
+    m_progress = std::move(cancelled);
+    return [this] { m_progress = {}; };
 }
 
 } // namespace quillet::testing

@@ -9,6 +9,7 @@
 #include <deque>
 #include <functional>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace quillet::testing {
@@ -61,6 +62,12 @@ public:
                        std::function<void(const QString &)> done) override;
     void showPrintPanel(QWidget *window, const PrintPanel &panel,
                         std::function<void(QPrinter &)> print) override;
+    std::function<void()> showProgress(QWidget *window, const QString &message,
+                                       std::function<void()> cancelled) override;
+    /// Whether somebody is being told to wait.
+    [[nodiscard]] bool showsProgress() const { return m_progress != nullptr; }
+    /// Presses the button of that sheet.
+    void cancelProgress() { std::exchange(m_progress, {})(); }
 
 private:
     /// What a test presets: a button or a path first, then the alert's text and, if its box is
@@ -84,7 +91,8 @@ private:
     std::vector<PrintPanel> m_printPanels;
     int m_underway = 0;
     bool m_hasMistake = false;
-    QObject m_context; ///< answers under way end with it
+    std::function<void()> m_progress; ///< cancels; empty while there is no such sheet
+    QObject m_context;                ///< answers under way end with it
 };
 
 } // namespace quillet::testing

@@ -4,6 +4,7 @@
 #include "model/StationSource.h"
 
 #include <array>
+#include <utility>
 #include <vector>
 
 namespace quillet {
@@ -28,6 +29,14 @@ class StationLists
 {
 public:
     using Lists = std::array<StationListPtr, stationSourceCount>;
+
+    StationLists() = default;
+    /// As others were that had these.
+    StationLists(Lists tvStations, Lists radioStations, std::vector<FiledStation> roll)
+        : m_tvStations(std::move(tvStations)), m_radioStations(std::move(radioStations)),
+          m_roll(std::move(roll))
+    {
+    }
 
     /// Replaces all lists with new, empty ones; whoever holds an old list keeps it.
     void setupLists();

@@ -62,7 +62,7 @@ QString UnsavedLists::bringBack(RecoveryStore::Leftover &leftover)
     if (open && open->hasUnautosavedChanges())
         return qtTrId("kRecoveryOpenReason");
     const QString original = leftover.folder->pathOf(RecoveryFolder::Part::Original);
-    const WaitCursor wait(WaitCursor::Work::Opening, sizeOf(original));
+    const WaitCursor wait(sizeOf(original));
     std::unique_ptr<TLLDocument> document = m_makeDocument();
     Error error;
     if (!RecoveryKeeper::restore(*document, leftover, error))

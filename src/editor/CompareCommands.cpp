@@ -33,7 +33,7 @@ void CompareCommands::compareWithFile(const QString &path)
     QByteArray bytes;
     Error error;
     try {
-        const WaitCursor wait(WaitCursor::Work::Opening, QFileInfo(path).size());
+        const WaitCursor wait(QFileInfo(path).size());
         if (readFile(QUrl::fromLocalFile(path), bytes, error))
             return compareWithBytes(bytes, name);
     } catch (const std::bad_alloc &) {
@@ -46,7 +46,7 @@ void CompareCommands::compareWithBytes(const QByteArray &bytes, const QString &n
 {
     QString reason = qtTrId("kContentUnknownReason");
     try {
-        const WaitCursor wait(WaitCursor::Work::Opening, bytes.size());
+        const WaitCursor wait(bytes.size());
         if (std::optional<ChannelList> list = channelListFromBytes(bytes);
             list && list->stationCount() > 0) {
             emit m_controller.comparisonWanted(
@@ -87,7 +87,7 @@ void CompareCommands::compareWithDocument(const TLLDocument &other)
                 (*copies.list(isTV, source))[i]->setRememberedName((*list)[i]->rememberedName());
         }
     }
-    const WaitCursor wait(WaitCursor::Work::Opening, other.list().text.bytes().size());
+    const WaitCursor wait(other.list().text.bytes().size());
     const QString time = QLocale().toString(QTime::currentTime(), QLocale::ShortFormat);
     emit m_controller.comparisonWanted(
         {.name = qtTrId("kCompareNameWindow").arg(other.titleName(), time),
@@ -114,7 +114,7 @@ void CompareCommands::compareWithTable(const QString &path)
     std::optional<ComparedWith> rows;
     {
         constexpr qint64 timesSlower = 10; // than opening a list
-        const WaitCursor wait(WaitCursor::Work::Opening, timesSlower * QFileInfo(path).size());
+        const WaitCursor wait(timesSlower * QFileInfo(path).size());
         rows = importedFile(path, *m_controller.stationDoc(), reason);
     }
     if (rows)

@@ -58,7 +58,7 @@ ReferenceList OrderCommands::read(const QString &path, bool tellsType)
     QString reason;
     ReferenceList entries;
     {
-        const WaitCursor wait(WaitCursor::Work::Opening, QFileInfo(path).size());
+        const WaitCursor wait(QFileInfo(path).size());
         entries = referenceListFromFile(path, m_controller.isModeTV(), reason);
     }
     if (reason.isEmpty() && tellsType)

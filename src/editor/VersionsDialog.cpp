@@ -190,7 +190,7 @@ void VersionsDialog::putBackChosen()
         return;
     QString reason;
     {
-        const WaitCursor wait(WaitCursor::Work::Opening, m_versions.rows()[*row].version.size);
+        const WaitCursor wait(m_versions.rows()[*row].version.size);
         reason = m_versions.putBack(*row, m_controller);
     }
     accept();

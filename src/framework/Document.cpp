@@ -95,7 +95,7 @@ bool Document::readFromUrl(const QUrl &url, const QString &typeName, Error &erro
     QByteArray bytes;
     if (!readFile(url, bytes, error))
         return false;
-    const WaitCursor wait(WaitCursor::Work::Opening, bytes.size());
+    const WaitCursor wait(bytes.size());
     bool isReplaced = false;
     try {
         isReplaced = replaceContent(bytes, typeName, error);

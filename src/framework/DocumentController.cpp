@@ -159,7 +159,7 @@ Document *DocumentController::open(const QUrl &url, Error &error)
     if (document) {
         document->raiseWindows();
     } else {
-        const WaitCursor wait(WaitCursor::Work::Opening, sizeOf(url.toLocalFile()));
+        const WaitCursor wait(sizeOf(url.toLocalFile()));
         auto made = m_makeDocument();
         made->setPrompts(&m_prompts);
         made->setFileUrl(url);

@@ -6,6 +6,7 @@
 #include "files/ShownPath.h"
 #include "files/VersionStore.h"
 #include "framework/Document.h"
+#include "framework/WaitCursor.h"
 
 #include <QFileInfo>
 #include <QStandardPaths>
@@ -144,9 +145,13 @@ QString DocumentSaving::refusal(const QString &place) const
 void DocumentSaving::makeBytes(const Made &made)
 {
     m_changeCount = m_document.history().changeCount();
+    const auto write = [made](const std::optional<QByteArray> &bytes, const Error &error) {
+        const WaitCursor wait(bytes ? bytes->size() : 0);
+        made(bytes, error);
+    };
     if (m_made)
-        return made(m_made->bytes, {});
-    m_document.makeBytes(m_typeName, m_purpose, made);
+        return write(m_made->bytes, {});
+    m_document.makeBytes(m_typeName, m_purpose, write);
 }
 
 void DocumentSaving::confirm(FileState::Change change, const std::function<void(bool)> &answered)

@@ -7,15 +7,12 @@ namespace quillet {
 
 namespace {
 
-// What the slower kind of list (JSON) takes 100 ms for: opening goes at about 30 MB a second, the
-// review of a save that loses something at about 7.
+// What the slower kind of list (JSON) takes 100 ms for: opening goes at about 30 MB a second.
 constexpr qint64 shortOpening = 3'000'000;
-constexpr qint64 shortReview = 700'000;
 
 } // namespace
 
-WaitCursor::WaitCursor(Work work, qint64 bytes)
-    : m_isShown(bytes > (work == Work::Opening ? shortOpening : shortReview))
+WaitCursor::WaitCursor(qint64 bytes) : m_isShown(bytes > shortOpening)
 {
     if (m_isShown)
         QGuiApplication::setOverrideCursor(Qt::WaitCursor);

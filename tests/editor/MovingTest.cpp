@@ -338,10 +338,35 @@ private slots:
         QCOMPARE(editor.document.isDocumentEdited(), isKept);
     }
 
-private:
-    QString write(const QByteArray &bytes)
+    /// It replaces a long list only when that is in its file.
+    void fileDroppedDuringASave()
     {
-        const QString path = m_folder.filePath(u"dropped.tll"_s);
+        std::vector<Item> stations;
+        for (int i = 1; i <= 8000; ++i)
+            stations.push_back(makeStation(i, u"Station "_s + QString::number(i)));
+        const QByteArray before = fileOf(stations);
+        const QString own = write(before, u"own.tll"_s);
+        Editor editor({});
+        Error error;
+        QVERIFY(editor.document.readFromUrl(QUrl::fromLocalFile(own), {}, error));
+        editor.controller.populateFromTLLDoc(editor.document, {});
+        editor.controller.moveElements(0, 1, 9000);
+        const QByteArray asked = editor.document.dataOfType(TLLDocument::typeName(), error);
+        editor.document.saveDocument();
+        QVERIFY(editor.document.isBeingMade());
+        const QString dropped = write(fileOf(lettered({1})));
+        editor.controller.loadTLLFile(dropped);
+        QTRY_COMPARE(editor.document.fileUrl().toLocalFile(), dropped);
+        QCOMPARE(editor.list(0), u"1 A"_s);
+        QVERIFY(editor.prompts.alerts().empty() && !editor.document.isDirty());
+        QVERIFY(asked != before && contentOf(own) == asked);
+        QCOMPARE(contentOf(dropped), fileOf(lettered({1})));
+    }
+
+private:
+    QString write(const QByteArray &bytes, const QString &name = u"dropped.tll"_s)
+    {
+        const QString path = m_folder.filePath(name);
         writeFile(path, bytes);
         return path;
     }

@@ -108,10 +108,14 @@ private slots:
     void longWorkShowsAWaitCursor()
     {
         QVERIFY(!m_document->hadWaitCursor);
+        const auto isShown = [] { return QGuiApplication::overrideCursor() != nullptr; };
+        bool wasShown = false;
+        connect(m_document.get(), &Document::fileWasWritten, this, [&] { wasShown = isShown(); });
         m_document->edit(QByteArray(4'000'000, 'x'));
         QCOMPARE(save(), std::optional<bool>(true));
+        QVERIFY(wasShown && !isShown());
         m_document->revertDocumentToSaved();
-        QVERIFY(m_document->hadWaitCursor && !QGuiApplication::overrideCursor());
+        QVERIFY(m_document->hadWaitCursor && !isShown());
     }
 
     /// What is done while a save asks something is not in the file.

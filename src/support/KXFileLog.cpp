@@ -108,13 +108,17 @@ QString KXFileLog::formattedTime() const
     if (m_dateTimeFormat.isEmpty())
         return {};
     const qint64 now = QDateTime::currentMSecsSinceEpoch();
-    if (now != m_lastTime) {
-        // QDateTime writes milliseconds as "zzz".
+    if (now == m_lastTime)
+        return m_lastTimeFormatted;
+    const auto milliseconds = QLatin1String("SSS");
+    if (m_lastTime < 0 || now / 1000 != m_lastTime / 1000) {
         QString pattern = m_dateTimeFormat;
-        m_lastTimeFormatted = QDateTime::fromMSecsSinceEpoch(now).toString(
-            pattern.replace(QStringLiteral("SSS"), QStringLiteral("zzz")));
-        m_lastTime = now;
+        m_lastSecondFormatted = QDateTime::fromMSecsSinceEpoch(now).toString(
+            pattern.replace(milliseconds, QLatin1String("'SSS'")));
     }
+    m_lastTimeFormatted = m_lastSecondFormatted;
+    m_lastTimeFormatted.replace(milliseconds, QString::number(1000 + now % 1000).last(3));
+    m_lastTime = now;
     return m_lastTimeFormatted;
 }
 

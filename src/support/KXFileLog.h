@@ -53,7 +53,8 @@ private:
 
     QString m_filename;
     QString m_dateTimeFormat;
-    mutable qint64 m_lastTime = -1; ///< many lines are written in one millisecond
+    mutable qint64 m_lastTime = -1;        ///< many lines are written in one millisecond, or second
+    mutable QString m_lastSecondFormatted; ///< without its milliseconds
     mutable QString m_lastTimeFormatted;
     bool m_isPrivate = false;
 };

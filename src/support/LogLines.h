@@ -4,6 +4,8 @@
 
 #include <QString>
 
+#include <type_traits>
+
 namespace quillet {
 
 class KXFileLog;
@@ -38,10 +40,13 @@ public:
     /// The same for a line with too many pieces for one call: this, any number of append, and the
     /// line's end as the last piece. To be called only when lines are wanted.
     void beginLine();
-    template<typename Text>
+    template<typename Text> ///< or what appends it to a Utf8Builder
     void append(const Text &text)
     {
-        m_lines.append(text);
+        if constexpr (std::is_invocable_v<Text, Utf8Builder &>)
+            text(m_lines);
+        else
+            m_lines.append(text);
         if (m_lines.size() > manyBytes)
             write();
     }

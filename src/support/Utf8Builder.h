@@ -22,6 +22,8 @@ public:
         m_size += utf8.size();
     }
     void append(QLatin1String ascii) { append(QByteArrayView(ascii.data(), ascii.size())); }
+    /// In decimal.
+    void appendNumber(qint64 number);
 
     [[nodiscard]] qsizetype size() const { return m_size; }
     /// What was collected. Valid until something is added.

@@ -1,6 +1,7 @@
 #include "support/KXFileLog.h"
 #include "testing/TestMain.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
@@ -93,6 +94,20 @@ private slots:
         QVERIFY(!startRun());
         qputenv("HOME", home);
         qputenv("XDG_DATA_HOME", before);
+    }
+
+    /// Of which only the milliseconds are written anew for each line.
+    void stampsEachLineWithItsTime()
+    {
+        const auto log = startRun();
+        for (qint64 last = QDateTime::currentMSecsSinceEpoch() + 1010, now = 0; now < last;) {
+            const qint64 before = QDateTime::currentMSecsSinceEpoch();
+            const QString stamp = log->formattedTime();
+            now = QDateTime::currentMSecsSinceEpoch();
+            const qint64 told =
+                QDateTime::fromString(stamp, u"yyyy-MM-dd HH:mm:ss.zzz"_s).toMSecsSinceEpoch();
+            QVERIFY2(before <= told && told <= now, qPrintable(stamp));
+        }
     }
 
     void writesLinesToOpenLogsOnly()

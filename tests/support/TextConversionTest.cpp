@@ -87,8 +87,13 @@ private slots:
             expected += piece + u"\r\n"_s;
         }
         QCOMPARE(builder.take(), expected.toUtf8());
-        builder.append(u"ab");
-        QCOMPARE(builder.take(), "ab"_ba);
+        QString letters;
+        for (char16_t letter = 1; letter < 0xFFFF; ++letter) {
+            if (!QChar::isSurrogate(letter))
+                letters += letter;
+        }
+        builder.append(QStringView(letters));
+        QCOMPARE(builder.take(), letters.toUtf8());
     }
 
     void shortensBetweenCharacters()

@@ -1,6 +1,6 @@
 #include "files/VersionHistory.h"
 
-#include "files/FileNames.h"
+#include "files/ContentDigest.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -13,18 +13,20 @@ namespace {
 
 constexpr QLatin1String placeKey("path");
 constexpr QLatin1String versionsKey("versions");
-constexpr QLatin1String digestKey("sha256");
+constexpr QLatin1String digestKey("digest");
+constexpr QLatin1String sha256Key("sha256"); ///< told before there were others
 constexpr QLatin1String sizeKey("size");
 constexpr QLatin1String timeKey("time");
 constexpr QLatin1String firstKey("first");
-constexpr qsizetype digestDigits = 64;
 constexpr qint64 largestSize = qint64{1} << 40; ///< of what a damaged file tells
 
 std::optional<KeptVersion> versionOf(const QJsonValue &value)
 {
     const QJsonObject object = value.toObject();
-    const QByteArray digest = object[digestKey].toString().toLatin1();
-    if (!VersionHistory::isDigest(digest))
+    const QString told = object[digestKey].toString(object[sha256Key].toString());
+    const QByteArray digest = told.toLatin1();
+    if (!contentdigest::isDigest(
+            digest)) // it is the name of a file, so nothing else may stand there
         return {};
     return KeptVersion{digest, std::clamp<qint64>(object[sizeKey].toInteger(), 0, largestSize),
                        QDateTime::fromString(object[timeKey].toString(), Qt::ISODateWithMs),
@@ -44,12 +46,6 @@ QJsonObject objectOf(const KeptVersion &version)
 } // namespace
 
 VersionHistory::VersionHistory(const QString &place) : m_object{{placeKey, place}} {}
-
-/// It is a part of a file's name, so nothing else may stand there.
-bool VersionHistory::isDigest(const QByteArray &text)
-{
-    return isHexNumber(QString::fromLatin1(text), digestDigits);
-}
 
 std::optional<VersionHistory> VersionHistory::fromJSON(const QByteArray &json)
 {

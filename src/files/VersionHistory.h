@@ -13,7 +13,7 @@ namespace quillet {
 /// A content that a file had before this program replaced it.
 struct KeptVersion
 {
-    QByteArray digest;    ///< SHA-256, in hexadecimal digits
+    QByteArray digest;    ///< of the content, whose name in the store it is
     qint64 size = 0;      ///< in bytes
     QDateTime time;       ///< when the file was last written, in UTC; invalid when that is not told
     bool isFirst = false; ///< the one from before the first replacement, which is kept for good
@@ -25,8 +25,6 @@ class VersionHistory
 {
 public:
     explicit VersionHistory(const QString &place);
-    /// Whether that could be the digest of a content.
-    [[nodiscard]] static bool isDigest(const QByteArray &text);
     /// None when that is no history at all.
     [[nodiscard]] static std::optional<VersionHistory> fromJSON(const QByteArray &json);
     [[nodiscard]] QByteArray toJSON() const;

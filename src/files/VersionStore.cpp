@@ -1,5 +1,6 @@
 #include "files/VersionStore.h"
 
+#include "files/ContentDigest.h"
 #include "files/FileNames.h"
 #include "files/FileOperations.h"
 #include "files/FileReading.h"
@@ -27,11 +28,6 @@ namespace {
 
 constexpr std::chrono::milliseconds longestWait(2000); ///< for another program to be done
 constexpr qint64 largestHistory = 1 << 20;             ///< in bytes; a usual one has a few thousand
-
-QByteArray digestOf(const QByteArray &bytes)
-{
-    return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex();
-}
 
 } // namespace
 
@@ -81,7 +77,10 @@ QString VersionStore::contentPath(const QByteArray &digest) const
 QString VersionStore::historyName(const QString &place) const
 {
     return m_folder + QStringLiteral("/histories/") +
-           QString::fromLatin1(digestOf(bytesOfPath(place)).first(16));
+           QString::fromLatin1(
+               QCryptographicHash::hash(bytesOfPath(place), QCryptographicHash::Sha256)
+                   .toHex()
+                   .first(16));
 }
 
 VersionStore::Histories VersionStore::readHistories(const QString &ownName) const
@@ -186,7 +185,7 @@ bool VersionStore::read(const KeptVersion &version, QByteArray &bytes, Error &er
     const QString path = contentPath(version.digest);
     if (!readFile(QUrl::fromLocalFile(path), bytes, error))
         return false;
-    if (digestOf(bytes) == version.digest)
+    if (contentdigest::isOf(bytes, version.digest))
         return true;
     error = {QStringLiteral("VersionStore"), 1, qtTrId("kVersionDamagedReason"), path};
     return false;
@@ -258,12 +257,11 @@ bool VersionStore::keepNow(const QString &path, const QByteArray &bytes, bool is
         own = histories.files.end() - 1;
     }
 
-    const KeptVersion version{.digest = digestOf(bytes),
+    bool isThere = false;
+    const KeptVersion version{.digest = digestFor(bytes, isThere),
                               .size = bytes.size(),
                               .time = timeOf(path).value_or(QDateTime())};
-    Error unused;
-    QByteArray there;
-    if (!read(version, there, unused) && !write(contentPath(version.digest), bytes, error))
+    if (!isThere && !write(contentPath(version.digest), bytes, error))
         return false;
     if (!own->history->add(version))
         return true;
@@ -276,6 +274,20 @@ bool VersionStore::keepNow(const QString &path, const QByteArray &bytes, bool is
     if (mayDrop)
         makeRoom(histories.files, version.digest, own->history->versions().size());
     return true;
+}
+
+/// That of a content with those bytes, if there is one. Hardly ever has another one the same sum.
+QByteArray VersionStore::digestFor(const QByteArray &bytes, bool &isThere) const
+{
+    KeptVersion version;
+    for (quint32 others = 0;; ++others) {
+        QByteArray there;
+        Error unused;
+        version.digest = contentdigest::digestOf(bytes, others);
+        isThere = read(version, there, unused);
+        if (!isThere || there == bytes)
+            return version.digest;
+    }
 }
 
 bool VersionStore::write(const QString &path, const QByteArray &bytes, Error &error)
@@ -312,7 +324,7 @@ std::optional<VersionStore::Sizes> VersionStore::contentSizes() const
         const QByteArray name = pathFromNative(each->path().filename()).toLatin1();
         std::error_code unused;
         const auto size = each->file_size(unused);
-        if (VersionHistory::isDigest(name))
+        if (contentdigest::isDigest(name))
             sizes.insert(name, unused ? 0 : static_cast<qint64>(size));
     }
     return code ? std::nullopt : std::optional(sizes);

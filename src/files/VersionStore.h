@@ -71,6 +71,7 @@ private:
     [[nodiscard]] static HistoryFiles::iterator historyOf(const QString &place,
                                                           HistoryFiles &files);
     [[nodiscard]] QString contentPath(const QByteArray &digest) const;
+    [[nodiscard]] QByteArray digestFor(const QByteArray &bytes, bool &isThere) const;
     [[nodiscard]] bool write(const QString &path, const QByteArray &bytes, Error &error);
     [[nodiscard]] std::unique_ptr<FileLock> takeLock(FileLock::Obstacle &obstacle) const;
     /// Nothing is dropped unless no other program keeps something meanwhile.

@@ -1,15 +1,19 @@
 #include "files/VersionStore.h"
+#include "files/ContentDigest.h"
 #include "files/FileNames.h"
 #include "files/FileOperations.h"
 #include "files/Places.h"
 #include "testing/TestFiles.h"
 #include "testing/TestMain.h"
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QtEndian>
 
+#include <bit>
 #include <filesystem>
 
 using namespace quillet;
@@ -112,6 +116,80 @@ private slots:
         keep(store, u"b.tll"_s, "two");
         QCOMPARE(contents(store, u"a.tll"_s), u"two three one*"_s);
         QCOMPARE(contents(store, u"b.tll"_s), u"two*"_s);
+        QCOMPARE(files(u"contents"_s).size(), 3);
+    }
+
+    /// Anybody could make such contents.
+    void bytesOfOneSumAreKeptBoth()
+    {
+        const auto ofWords = [](quint64 first, quint64 second) {
+            QByteArray bytes(16, '\0');
+            qToLittleEndian(first, bytes.data());
+            qToLittleEndian(second, bytes.data() + 8);
+            return bytes;
+        };
+        const auto sumOf = [](quint64 word) {
+            return std::rotl(16 ^ word, 29) * 0x9E3779B97F4A7C15;
+        };
+        const QByteArray one = ofWords(1, sumOf(1)), other = ofWords(2, sumOf(2));
+        QCOMPARE(contentdigest::digestOf(one), contentdigest::digestOf(other));
+        VersionStore store = makeStore();
+        for (const QByteArray &bytes : {one, other, one})
+            keep(store, u"a.tll"_s, bytes);
+        const std::vector<KeptVersion> versions = store.versionsOf(path(u"a.tll"_s));
+        QCOMPARE(versions.size(), std::size_t{2});
+        QByteArray newest, oldest;
+        Error error;
+        QVERIFY(store.read(versions[0], newest, error) && store.read(versions[1], oldest, error));
+        QCOMPARE(newest, other);
+        QCOMPARE(oldest, one);
+    }
+
+    /// Whatever is changed, cut off or added.
+    void digestTellsDamage()
+    {
+        QByteArray bytes;
+        for (int size = 0; size < 40; ++size, bytes += char(size * 7)) {
+            const QByteArray digest = contentdigest::digestOf(bytes);
+            QVERIFY(contentdigest::isDigest(digest) && contentdigest::isOf(bytes, digest));
+            QVERIFY(!contentdigest::isOf(bytes + '\0', digest));
+            QVERIFY(bytes.isEmpty() || !contentdigest::isOf(bytes.chopped(1), digest));
+            for (qsizetype bit = 0; bit < 8 * bytes.size(); ++bit) {
+                QByteArray damaged = bytes;
+                damaged[bit / 8] = char(damaged[bit / 8] ^ (1 << bit % 8));
+                QVERIFY(!contentdigest::isOf(damaged, digest));
+            }
+        }
+    }
+
+    /// Whose contents were named by their SHA-256.
+    void olderStoreIsRead()
+    {
+        const QString root = m_folder->filePath(u"store"_s), place = placeOf(path(u"a.tll"_s));
+        QVERIFY(QDir().mkpath(root + u"/contents"_s) && QDir().mkpath(root + u"/histories"_s));
+        const auto sha256 = [](const QByteArray &bytes) {
+            return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex();
+        };
+        QStringList versions;
+        for (const QByteArray bytes : {"one", "two"}) {
+            writeFile(root + u"/contents/"_s + QString::fromLatin1(sha256(bytes)), bytes);
+            const QString version(u"{\"first\": %1, \"sha256\": \"%2\", \"size\": 3}"_s);
+            versions.append(version.arg(bytes == "one" ? u"true"_s : u"false"_s,
+                                        QString::fromLatin1(sha256(bytes))));
+        }
+        const QString name = QString::fromLatin1(sha256(bytesOfPath(place)).first(16));
+        const QString history(u"{\"path\": \"%1\", \"versions\": [%2]}"_s);
+        writeFile(root + u"/histories/"_s + name + u".json"_s,
+                  history.arg(place, versions.join(u',')).toUtf8());
+        VersionStore store = makeStore({.later = 2});
+        QCOMPARE(contents(store, u"a.tll"_s), u"two one*"_s);
+        keep(store, u"a.tll"_s, "three");
+        QCOMPARE(contents(store, u"a.tll"_s), u"three two one*"_s);
+        QCOMPARE(files(u"histories"_s).size(), 1);
+        const QString first = root + u"/contents/"_s + QString::fromLatin1(sha256("one"));
+        writeFile(first, "eno");
+        keep(store, u"a.tll"_s, "four");
+        QCOMPARE(contents(store, u"a.tll"_s), u"four three <missing>*"_s);
         QCOMPARE(files(u"contents"_s).size(), 3);
     }
 

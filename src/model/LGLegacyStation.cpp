@@ -114,9 +114,9 @@ void LGLegacyStation::setBoolValue(bool value, const QString &key)
     setValue(key, Value(value));
 }
 
-QString LGLegacyStation::description() const
+QLatin1String LGLegacyStation::className() const
 {
-    return describedAs(QLatin1String("LGLegacyStation"));
+    return QLatin1String("LGLegacyStation");
 }
 
 std::optional<QString> LGLegacyStation::getJSONItem() const

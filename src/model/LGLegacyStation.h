@@ -23,7 +23,6 @@ public:
     /// Stores the number as a number, without a radio mark, and marks it as given by the user.
     void setProgramNum(qint64 number) override;
     [[nodiscard]] QStringList numberKeys() const override;
-    [[nodiscard]] QString description() const override;
 
     /// The station as compact JSON; none when its entry cannot be expressed in it.
     [[nodiscard]] std::optional<QString> getJSONItem() const;
@@ -34,6 +33,7 @@ protected:
     void setBoolValue(bool value, const QString &key) override;
     [[nodiscard]] bool readsPlainNumber() const override;
     [[nodiscard]] QString readName() const override;
+    [[nodiscard]] QLatin1String className() const override;
 };
 
 } // namespace quillet

@@ -8,8 +8,6 @@
 #include "support/TextUnits.h"
 #include "support/Utf8Builder.h"
 
-#include <QStringBuilder>
-
 #include <algorithm>
 #include <array>
 #include <limits>
@@ -451,16 +449,27 @@ void LGStation::appendXMLItem(Utf8Builder &output) const
     writeItem(m_entry, m_keys->keyStationName, output);
 }
 
-QString LGStation::describedAs(QLatin1String className) const
-{
-    return className % QLatin1String(" [Index = ") % QString::number(m_origPos) %
-           QLatin1String(m_isDirty ? ", dirty = true] #" : ", dirty = false] #") % progNumString() %
-           u' ' % stationName();
-}
-
 QString LGStation::description() const
 {
-    return describedAs(QLatin1String("LGStation"));
+    Utf8Builder text;
+    appendDescription(text);
+    return QString::fromUtf8(text.text());
+}
+
+void LGStation::appendDescription(Utf8Builder &output) const
+{
+    output.append(className());
+    output.append(QLatin1String(" [Index = "));
+    output.appendNumber(m_origPos);
+    output.append(QLatin1String(m_isDirty ? ", dirty = true] #" : ", dirty = false] #"));
+    output.appendNumber(progNum());
+    output.append(QLatin1String(" "));
+    output.append(QStringView(stationName()));
+}
+
+QLatin1String LGStation::className() const
+{
+    return QLatin1String("LGStation");
 }
 
 } // namespace quillet

@@ -149,7 +149,9 @@ public:
     void appendXMLItem(Utf8Builder &output) const;
 
     /// One line for logs.
-    [[nodiscard]] virtual QString description() const;
+    [[nodiscard]] QString description() const;
+    /// Appends the same text to a Utf8Builder.
+    void appendDescription(Utf8Builder &output) const;
 
 protected:
     void setKeys(const StationKeys &keys);
@@ -167,7 +169,8 @@ protected:
     [[nodiscard]] virtual QString readName() const;
     /// Keeps the name that was read.
     void keepName(const QString &name) const { m_name = name; }
-    [[nodiscard]] QString describedAs(QLatin1String className) const;
+    /// What the description calls it.
+    [[nodiscard]] virtual QLatin1String className() const;
 
 private:
     [[nodiscard]] std::optional<QString> textValue(const QString &key) const;

@@ -58,7 +58,8 @@ QString decodeUtf8Envelope(const QString &text)
         return text;
     const QByteArray stored = getAsData(text);
     const auto at = [&stored](qsizetype i) { return static_cast<unsigned char>(stored[i]); };
-    QByteArray bytes;
+    QByteArray bytes(stored.size(), Qt::Uninitialized); // which they never exceed
+    char *out = bytes.data();
     for (qsizetype i = 0; i < stored.size();) {
         const unsigned b = at(i);
         if (b >= 0xE0) {
@@ -66,20 +67,21 @@ QString decodeUtf8Envelope(const QString &text)
                 break;
             const unsigned c1 = at(i + 1);
             const unsigned c2 = at(i + 2);
-            bytes += byte(c1 << 6 | (c2 & 0x3F));
-            bytes += byte(b << 4 | ((c1 >> 2) & 0x0F));
+            *out++ = byte(c1 << 6 | (c2 & 0x3F));
+            *out++ = byte(b << 4 | ((c1 >> 2) & 0x0F));
             i += 3;
         } else if (b >= 0xC0) {
             if (i + 1 >= stored.size())
                 break;
-            bytes += byte(b << 6 | (at(i + 1) & 0x3F));
+            *out++ = byte(b << 6 | (at(i + 1) & 0x3F));
             i += 2;
         } else {
             if (b < 0x80)
-                bytes += byte(b);
+                *out++ = byte(b);
             ++i;
         }
     }
+    bytes.truncate(out - bytes.constData());
     return getAsString(bytes).value_or(QString());
 }
 

@@ -82,6 +82,18 @@ class ReferenceOrderTest : public QObject
     Q_OBJECT
 
 private slots:
+    /// Each letter, beside others of both cases.
+    void foldsNames()
+    {
+        const auto station = makeStation(1, {}, u"1-1-1"_s);
+        for (char16_t letter = 1; letter < 0x2000; ++letter) {
+            const QString name = u'a' + QString(letter) + u'Z';
+            station->setName(name);
+            QVERIFY2(extractElemsWithName(name.toCaseFolded(), {station}).size() == 1,
+                     qPrintable(QString::number(letter, 16)));
+        }
+    }
+
     void matches_data()
     {
         QTest::addColumn<QStringList>("ids"); // of stations 1, 2, ... named A, B, ...

@@ -112,7 +112,7 @@ void addListing(QLatin1String title, const StationList &stations, LogLines &log)
     log.append(title);
     for (const StationPtr &station : stations) {
         log.append(QLatin1String("    "));
-        log.append(QStringView(station->description()));
+        log.append([&station](Utf8Builder &lines) { station->appendDescription(lines); });
         log.append(QLatin1String("\n"));
     }
     log.append(QLatin1String("\n"));

@@ -20,14 +20,26 @@ StationList extract(const StationList &list, Matches matches)
     return found;
 }
 
+/// Letters of Latin, Greek and Cyrillic that fold to one letter, whatever stands beside them.
+bool foldsAlone(char16_t u)
+{
+    return (u < 0x149 && u != 0xDF && u != 0x130) || (u > 0x149 && u < 0x1F0) ||
+           (u >= 0x391 && u < 0x3B0) || (u > 0x3B0 && u < 0x530);
+}
+
+/// As QString::toCaseFolded, which takes its time over the few letters that are not ASCII.
 QString withoutCase(const QString &name)
 {
     QString folded(name.size(), Qt::Uninitialized);
-    QChar *out = folded.data();
+    auto *out = reinterpret_cast<char16_t *>(folded.data());
     for (const QChar c : name) {
-        if (c.unicode() >= 0x80)
+        const char16_t u = c.unicode();
+        if (u < 0x80)
+            *out++ = static_cast<char16_t>(u | (static_cast<unsigned>(u - u'A') < 26 ? 0x20 : 0));
+        else if (foldsAlone(u))
+            *out++ = c.toCaseFolded().unicode();
+        else
             return name.toCaseFolded();
-        *out++ = c >= u'A' && c <= u'Z' ? QChar(c.unicode() | 0x20) : c;
     }
     return folded;
 }

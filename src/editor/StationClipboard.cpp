@@ -1,11 +1,8 @@
 #include "editor/StationClipboard.h"
 
-#include "document/text/HtmlTable.h"
 #include "document/text/NamedRows.h"
-#include "document/text/StationKey.h"
+#include "editor/CopiedStations.h"
 #include "editor/TableController.h"
-#include "model/CleanName.h"
-#include "texts/CellTexts.h"
 #include "texts/ColumnTitles.h"
 
 #include <algorithm>
@@ -14,47 +11,8 @@ namespace quillet {
 
 namespace {
 
-const QString rowsFormat = QStringLiteral("application/x-quillet-stations");
-const QString keyTitle = QStringLiteral("stationKey");
-
-const QString textFormat = QStringLiteral("text/plain");
-
 /// More than the rows of any list, in bytes: what is longer is something else.
 constexpr qsizetype longestText = qsizetype{32} * 1024 * 1024;
-
-QString linesOf(const StationList &stations, const CellTexts &cells)
-{
-    QString lines;
-    for (const StationPtr &station : stations) {
-        lines += cells.text(*station, ColumnContent::Number) + u'\t' +
-                 plainName(cells.text(*station, ColumnContent::Name)) + u'\t' +
-                 cells.text(*station, ColumnContent::Type) + u'\n';
-    }
-    return lines;
-}
-
-QByteArray separated(const HtmlTable &table, QChar separator)
-{
-    SeparatedText text(separator);
-    QStringList titles;
-    for (const HtmlTable::Column &column : table.columns)
-        titles.append(column.title);
-    text.addRow(titles);
-    for (const HtmlTable::Row &row : table.rows)
-        text.addRow(row.cells);
-    return text.text().toUtf8();
-}
-
-/// Keys tell the stations of a whole list apart.
-QByteArray keyedRows(const StationList &stations, const StationList &list)
-{
-    const auto keyOf = keysByStation(list);
-    SeparatedText text(u',');
-    text.addRow({columnWith(ColumnContent::Name).identifier, keyTitle});
-    for (const StationPtr &station : stations)
-        text.addRow({station->shownName().remove(QChar::Null), keyOf.value(station.get())});
-    return text.text().toUtf8();
-}
 
 /// Whether the row that nothing was read of, above all others, is one of titles: of a known one,
 /// or over each of several columns.
@@ -119,36 +77,22 @@ std::optional<PastedStations> readNames(const QString &text, const SeparatedTabl
 std::unique_ptr<QMimeData> copiedStations(const TableController &table, const StationList &stations,
                                           const std::vector<ColumnContent> &columns)
 {
-    const CellTexts cells(table.source(), table.satelliteNames());
-    HtmlTable copied;
-    for (const ColumnContent content : columns)
-        copied.columns.push_back(CellTexts::column(content));
-    for (const StationPtr &station : stations) {
-        QStringList &row = copied.rows.emplace_back().cells;
-        for (const ColumnContent content : columns) {
-            const std::optional<bool> mark = CellTexts::mark(*station, content);
-            row.append(mark ? QString::number(*mark) : plainName(cells.text(*station, content)));
-        }
-    }
-    auto data = std::make_unique<QMimeData>();
-    data->setText(linesOf(stations, cells));
-    data->setHtml(htmlTable(copied));
-    data->setData(QStringLiteral("text/tab-separated-values"), separated(copied, u'\t'));
-    data->setData(QStringLiteral("text/csv"), separated(copied, u','));
     const StationListPtr &list = table.shown().base();
-    data->setData(rowsFormat, keyedRows(stations, list ? *list : stations));
-    return data;
+    return std::make_unique<CopiedStations>(stations, list ? *list : stations,
+                                            CellTexts(table.source(), table.satelliteNames()),
+                                            columns);
 }
 
 bool mayHoldStations(const QMimeData &data)
 {
-    return data.hasFormat(rowsFormat) || data.hasFormat(textFormat);
+    return data.hasFormat(CopiedStations::rowsFormat) || data.hasFormat(CopiedStations::textFormat);
 }
 
 std::optional<PastedStations> pastedStations(const QMimeData &data, const StationList &list)
 {
-    const bool isOwn = data.hasFormat(rowsFormat);
-    const QByteArray bytes = data.data(isOwn ? rowsFormat : textFormat); // text comes as UTF-8
+    const bool isOwn = data.hasFormat(CopiedStations::rowsFormat);
+    const QByteArray bytes = data.data(isOwn ? CopiedStations::rowsFormat
+                                             : CopiedStations::textFormat); // text comes as UTF-8
     if (bytes.size() > longestText)
         return {};
     const QString text = QString::fromUtf8(bytes);

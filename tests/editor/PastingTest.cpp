@@ -234,6 +234,7 @@ private slots:
         const auto data =
             copiedStations(editor.controller, *editor.document.stations(),
                            {ColumnContent::Skipped, ColumnContent::Name, ColumnContent::Number});
+        editor.controller.setObjectValue(true, u"skipped"_s, 1); // after they were copied
         QCOMPARE(data->text(), u"1\tA <b>, \"c\"\t\n2\tB\t\n"_s);
         QVERIFY(data->data(u"text/csv"_s).endsWith("\r\n1,\"A <b>, \"\"c\"\"\",1\r\n0,B,2\r\n"));
         QVERIFY(data->data(u"text/tab-separated-values"_s).endsWith("\r\n0\tB\t2\r\n"));

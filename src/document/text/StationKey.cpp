@@ -106,16 +106,22 @@ bool StationKey::isEmpty() const
 
 QString StationKey::text() const
 {
-    QStringList parts;
+    QString text;
+    text.reserve(network.size() + transport.size() + service.size() + frequency.size() +
+                 qsizetype(2 * keyParts.size()));
     for (const auto &[letter, member] : keyParts) {
-        if (!(this->*member).isEmpty())
-            parts.append(letter + this->*member);
+        if ((this->*member).isEmpty())
+            continue;
+        if (!text.isEmpty())
+            text += u'-';
+        text += letter;
+        text += this->*member;
     }
-    if (parts.isEmpty())
-        parts.append(nothing);
+    if (text.isEmpty())
+        text += nothing;
     if (occurrence > 1)
-        parts.append(QString::number(occurrence));
-    return parts.join(u'-');
+        text += u'-' + QString::number(occurrence);
+    return text;
 }
 
 QString digitsOf(QStringView text)
@@ -140,8 +146,9 @@ QStringList stationKeys(const StationList &stations)
     texts.reserve(static_cast<qsizetype>(stations.size()));
     for (const StationPtr &station : stations) {
         StationKey key = StationKey::of(*station);
-        key.occurrence = ++counts[key.text()];
-        texts.append(key.text());
+        const QString first = key.text();
+        key.occurrence = ++counts[first];
+        texts.append(key.occurrence == 1 ? first : key.text());
     }
     return texts;
 }

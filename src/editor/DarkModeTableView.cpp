@@ -1,9 +1,12 @@
 #include "editor/DarkModeTableView.h"
 
+#include "editor/DragPicture.h"
 #include "editor/DropPlace.h"
 #include "editor/RoomyCells.h"
+#include "editor/RowSelection.h"
 #include "editor/StationHeader.h"
 #include "editor/StationTableModel.h"
+#include "editor/TableSelection.h"
 #include "files/FileNames.h"
 #include "framework/Speech.h"
 
@@ -48,8 +51,12 @@ DarkModeTableView::DarkModeTableView(QWidget *parent) : QTableView(parent)
 void DarkModeTableView::setModel(QAbstractItemModel *model)
 {
     QTableView::setModel(model);
+    m_selection = nullptr;
     if (!model)
         return;
+    const std::unique_ptr<QItemSelectionModel> qtsOwn(selectionModel());
+    m_selection = new RowSelection(*model, StationTableModel::StationRole, this);
+    setSelectionModel(m_selection);
     m_markPress.watch(*model);
     // To assistive technology all cells are new ones after that.
     const auto speakCell = [this] { speakCurrentItem(this); };
@@ -147,7 +154,7 @@ void DarkModeTableView::mouseMoveEvent(QMouseEvent *event)
 
 void DarkModeTableView::paintEvent(QPaintEvent *event)
 {
-    QTableView::paintEvent(event);
+    paintCells(event);
     QPainter painter(viewport());
     if (model() && model()->rowCount() == 0 && !m_placeholder.isEmpty()) {
         painter.setPen(palette().color(QPalette::PlaceholderText));
@@ -164,32 +171,33 @@ void DarkModeTableView::paintEvent(QPaintEvent *event)
     }
 }
 
-/// The platform's own picture of a drag, all rows in full, would cover the place they are dropped
-/// at; this is one small label beside the pointer.
-QPixmap DarkModeTableView::dragPicture(const QModelIndexList &rows) const
+/// Qt looks through all that is selected for each cell.
+void DarkModeTableView::paintCells(QPaintEvent *event)
 {
-    const auto count = static_cast<int>(rows.size());
-    const QFontMetrics metrics = fontMetrics();
-    const QString text =
-        count == 1
-            ? metrics.elidedText(rows.front().siblingAtColumn(1).data().toString(), Qt::ElideRight,
-                                 40 * metrics.averageCharWidth())
-            : QStringLiteral("%1 %2").arg(QString::number(count), qtTrId("kStations", count));
-    const QSize size(metrics.horizontalAdvance(text) + 2 * metrics.height(),
-                     metrics.height() * 3 / 2);
-    QPixmap picture(size * devicePixelRatioF());
-    picture.setDevicePixelRatio(devicePixelRatioF());
-    picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setFont(font());
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(palette().color(QPalette::Highlight));
-    const QRect shape(QPoint(), size);
-    painter.drawRoundedRect(shape, size.height() / 2.0, size.height() / 2.0);
-    painter.setPen(palette().color(QPalette::HighlightedText));
-    painter.drawText(shape, Qt::AlignCenter, text);
-    return picture;
+    if (!m_selection)
+        return QTableView::paintEvent(event);
+    const int last = rowAt(viewport()->height() - 1);
+    const RowSelection::Excerpt shown(*m_selection, rowAt(0),
+                                      last < 0 ? model()->rowCount() - 1 : last);
+    QTableView::paintEvent(event);
+}
+
+/// Of many ranges hardly all lie out of sight, so Qt need not look where each lies; and to
+/// assistive technology it tells of the first one only.
+void DarkModeTableView::selectionChanged(const QItemSelection &selected,
+                                         const QItemSelection &deselected)
+{
+    constexpr qsizetype many = 50;
+    if (selected.size() + deselected.size() <= many)
+        return QTableView::selectionChanged(selected, deselected);
+    const auto firstOf = [](const QItemSelection &selection) {
+        QItemSelection first;
+        if (!selection.isEmpty())
+            first.append(selection.front());
+        return first;
+    };
+    QTableView::selectionChanged(firstOf(selected), firstOf(deselected));
+    viewport()->update();
 }
 
 void DarkModeTableView::startDrag(Qt::DropActions)
@@ -198,10 +206,12 @@ void DarkModeTableView::startDrag(Qt::DropActions)
         m_pressed.isValid() && selectionModel()->isRowSelected(m_pressed.row(), {});
     if (!isOfSelection || !m_pressed.flags().testFlag(Qt::ItemIsDragEnabled))
         return; // nothing is dragged by what the pointer is not on
-    const QModelIndexList indexes = selectionModel()->selectedRows();
+    QModelIndexList indexes;
+    for (const qsizetype row : selectedRows(*m_selection))
+        indexes.append(model()->index(static_cast<int>(row), 0));
     auto *drag = new QDrag(this); // which Qt deletes
     drag->setMimeData(model()->mimeData(indexes));
-    drag->setPixmap(dragPicture(indexes));
+    drag->setPixmap(dragPicture(*this, indexes));
     drag->setHotSpot({-12, -6});
     drag->exec(Qt::MoveAction);
 }

@@ -14,6 +14,8 @@ class QPrinter;
 
 namespace quillet {
 
+class RowSelection;
+
 /// The station table: whole rows, a drop line between rows only, light whenever it is printed. A
 /// picture of the window shows it as it is on the screen.
 class DarkModeTableView : public QTableView
@@ -38,6 +40,8 @@ public:
     [[nodiscard]] bool isEditing() const { return state() == EditingState; }
     /// Makes a row that there is the current and only selected one, as the arrow keys do.
     void goToRow(int row);
+    /// There is one with the first model.
+    [[nodiscard]] RowSelection &rowSelection() { return *m_selection; }
     /// Scrolls up or down alone.
     void scrollToRow(int row, ScrollHint hint = EnsureVisible);
     void keyboardSearch(const QString &search) override;
@@ -58,6 +62,8 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void scrollContentsBy(int dx, int dy) override;
+    void selectionChanged(const QItemSelection &selected,
+                          const QItemSelection &deselected) override;
     void startDrag(Qt::DropActions actions) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dragMoveEvent(QDragMoveEvent *event) override;
@@ -65,7 +71,7 @@ protected:
     void dropEvent(QDropEvent *event) override;
 
 private:
-    [[nodiscard]] QPixmap dragPicture(const QModelIndexList &rows) const;
+    void paintCells(QPaintEvent *event);
     [[nodiscard]] TableDrag tableDrag(const QDropEvent &event) const;
     void placeDrag(TableDrag &drag, int y) const;
     [[nodiscard]] DragOperation followDrag();
@@ -74,6 +80,7 @@ private:
     void showDropLine(std::optional<qsizetype> row);
     [[nodiscard]] int dropLinePosition() const;
 
+    RowSelection *m_selection = nullptr; ///< none without a model
     Validate m_validate;
     Accept m_accept;
     QString m_placeholder;

@@ -213,6 +213,8 @@ QVariant StationTableModel::data(const QModelIndex &index, int role) const
         return m_font;
     if (role == SkippedRole)
         return station.isSkipped();
+    if (role == StationRole)
+        return QVariant::fromValue(reinterpret_cast<quintptr>(&station));
     switch (column.content) {
     case ColumnContent::Skipped:
         return markData(station.isSkipped(), column, role);

@@ -23,6 +23,8 @@ public:
     enum Role {
         SkippedRole = Qt::UserRole, ///< of any cell: whether its station is skipped
         GlyphRole,                  ///< the Glyph that a cell shows, or that stands for a title
+        StationRole, ///< of any cell: a number that its station has and no other, wherever it
+                     ///< stands
     };
 
     explicit StationTableModel(ViewController &controller, QObject *parent = nullptr);

@@ -1,7 +1,7 @@
 #include "editor/TableSelection.h"
 
-#include <QItemSelectionModel>
-#include <QTableView>
+#include "editor/DarkModeTableView.h"
+#include "editor/RowSelection.h"
 
 #include <algorithm>
 
@@ -19,27 +19,13 @@ QList<qsizetype> selectedRows(const QItemSelectionModel &selection)
     return rows;
 }
 
-void selectRows(QTableView &table, const QList<qsizetype> &rows)
+void selectRows(DarkModeTableView &table, const QList<qsizetype> &rows)
 {
-    // One range a run of neighbours: a range a row would make large selections slow.
-    const QAbstractItemModel &model = *table.model();
-    const int count = model.rowCount();
-    QItemSelection selection;
-    for (qsizetype i = 0; i < rows.size() && rows[i] < count;) {
-        qsizetype end = i;
-        while (end + 1 < rows.size() && rows[end + 1] == rows[end] + 1 && rows[end + 1] < count)
-            ++end;
-        selection.select(model.index(static_cast<int>(rows[i]), 0),
-                         model.index(static_cast<int>(rows[end]), model.columnCount() - 1));
-        i = end + 1;
-    }
-    QItemSelectionModel &selected = *table.selectionModel();
-    constexpr qsizetype many = 50;
-    if (selection.size() > many && selected.selection().size() > many)
-        selected.clearSelection(); // what changes is found by comparing each range with each
-    selected.select(selection, QItemSelectionModel::ClearAndSelect);
-    if (!selection.isEmpty() && !selected.isSelected(selected.currentIndex()))
-        selected.setCurrentIndex(selection.first().topLeft(), QItemSelectionModel::NoUpdate);
+    RowSelection &selection = table.rowSelection();
+    selection.selectRows(rows);
+    if (selection.hasSelection() && !selection.isSelected(selection.currentIndex()))
+        selection.setCurrentIndex(table.model()->index(static_cast<int>(rows.front()), 0),
+                                  QItemSelectionModel::NoUpdate);
 }
 
 } // namespace quillet

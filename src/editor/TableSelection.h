@@ -3,15 +3,16 @@
 #include <QList>
 
 class QItemSelectionModel;
-class QTableView;
 
 /// The selection of a table whose whole rows are selected.
 namespace quillet {
+
+class DarkModeTableView;
 
 /// Ascending, each once.
 [[nodiscard]] QList<qsizetype> selectedRows(const QItemSelectionModel &selection);
 /// Selects exactly those of the ascending rows that there are, and makes one of them the current
 /// one.
-void selectRows(QTableView &table, const QList<qsizetype> &rows);
+void selectRows(DarkModeTableView &table, const QList<qsizetype> &rows);
 
 } // namespace quillet

@@ -103,8 +103,7 @@ void writing(benchmark::State &state, const QByteArray &bytes)
 void addDocumentRows(Rows &rows, const Lists &lists)
 {
     using Counted = Rows::Counted;
-    const auto add = [&](const char *what, const char *list, auto measurement,
-                         Counted counted = Counted::Yes) {
+    const auto add = [&](const char *what, const char *list, auto measurement, Counted counted) {
         rows.add(
             std::string(what) + '/' + list,
             [&lists, measurement, list](benchmark::State &state) {
@@ -112,21 +111,17 @@ void addDocumentRows(Rows &rows, const Lists &lists)
             },
             counted);
     };
-    for (const char *list : {"plain-1000", "plain-10000", "real-1000", "real-10000"}) {
-        add("bare", list, bare);
-        add("load", list, loading);
-        add("write", list, writing);
-    }
-    for (const char *list : {"plain-100000", "real-300000"}) {
-        add("bare", list, bare, Counted::No);
-        add("load", list, loading, Counted::No);
-        add("write", list, writing, Counted::No);
-    }
-    for (const char *list : {"json-10000", "real-json-1254"}) {
-        add("bare", list, bareJSON);
-        add("load", list, loading);
-        add("write", list, writing);
-    }
+    const auto addAll = [&](const char *list, auto bareOne, Counted counted) {
+        add("bare", list, bareOne, counted);
+        add("load", list, loading, counted);
+        add("write", list, writing, counted);
+    };
+    for (const char *list : {"plain-1000", "plain-10000", "real-1000", "real-10000"})
+        addAll(list, bare, Counted::Always);
+    for (const char *list : {"plain-100000", "real-300000"})
+        addAll(list, bare, Counted::Never);
+    addAll("real-json-1254", bareJSON, Counted::Always);
+    addAll("json-10000", bareJSON, Counted::OnRequest);
 }
 
 } // namespace quillet::bench

@@ -79,10 +79,10 @@ void addGrowthRows(Rows &rows)
         const Text &text = texts[i];
         rows.add(
             growths[i].half, [&text](benchmark::State &state) { growing(state, text, 1); },
-            Rows::Counted::No);
+            Rows::Counted::Never);
         rows.add(
             growths[i].whole, [&text](benchmark::State &state) { growing(state, text, 2); },
-            Rows::Counted::No);
+            Rows::Counted::Never);
     }
 }
 

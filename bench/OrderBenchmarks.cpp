@@ -102,7 +102,7 @@ void addOrderRows(Rows &rows, const Lists &lists)
 {
     using Counted = Rows::Counted;
     const auto add = [&](const std::string &what, const char *list, Entries entries,
-                         Counted counted = Counted::Yes) {
+                         Counted counted) {
         rows.add(
             what + '/' + list,
             [&lists, list, entries](benchmark::State &state) {
@@ -110,14 +110,21 @@ void addOrderRows(Rows &rows, const Lists &lists)
             },
             counted);
     };
-    add("order-identifiers", "plain-1000", Entries::WithIdentifiers);
-    add("order-identifiers", "plain-10000", Entries::WithIdentifiers);
-    add("order-identifiers", "real-300000", Entries::WithIdentifiers, Counted::No);
-    add("order-names", "plain-10000", Entries::WithNames);
-    add("order-strangers", "plain-10000", Entries::OfStrangers);
-    rows.add("order-by-file/plain-10000", [&lists](benchmark::State &state) {
-        orderingByFile(state, lists.bytes("plain-10000"), lists.path("plain-10000"));
-    });
+    const auto addFile = [&](const char *list, Counted counted) {
+        rows.add(
+            std::string("order-by-file/") + list,
+            [&lists, list](benchmark::State &state) {
+                orderingByFile(state, lists.bytes(list), lists.path(list));
+            },
+            counted);
+    };
+    add("order-identifiers", "plain-1000", Entries::WithIdentifiers, Counted::Always);
+    add("order-identifiers", "plain-10000", Entries::WithIdentifiers, Counted::Always);
+    add("order-identifiers", "real-300000", Entries::WithIdentifiers, Counted::Never);
+    add("order-names", "plain-10000", Entries::WithNames, Counted::Always);
+    add("order-strangers", "plain-10000", Entries::OfStrangers, Counted::Always);
+    addFile("plain-1000", Counted::Always);
+    addFile("plain-10000", Counted::OnRequest);
 }
 
 } // namespace quillet::bench

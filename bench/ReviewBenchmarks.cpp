@@ -81,42 +81,44 @@ void addReviewRows(Rows &rows, const Lists &lists)
             },
             counted);
     };
-    const auto addAll = [&](const char *list, bool isPlainClean, Counted counted = Counted::Yes) {
+    const auto addAll = [&](const char *list, bool isPlainClean, Counted counted) {
         add(
             "rehearse-plain", list,
-            [isPlainClean](benchmark::State &state, const QByteArray &file) {
+            [isPlainClean](auto &state, auto &file) {
                 rehearsing(state, file, Writing::Plain, isPlainClean);
             },
             counted);
         add(
             "rehearse-repaired", list,
-            [](benchmark::State &state, const QByteArray &file) {
-                rehearsing(state, file, Writing::Repaired, true);
-            },
+            [](auto &state, auto &file) { rehearsing(state, file, Writing::Repaired, true); },
             counted);
         add("repair", list, repairing, counted);
     };
-    for (const char *list : {"plain-10000", "real-1000", "real-10000"})
-        addAll(list, true);
-    addAll("real-100000", true, Counted::No);
-    addAll("json-10000", false);
-    addAll("real-json-1254", false);
-    add(
-        "rehearse-losses", "real-10000",
-        [](benchmark::State &state, const QByteArray &file) {
-            rehearsing(state, withLosses(file), Writing::Plain, false);
-        },
-        Counted::Yes);
-    add(
-        "rehearse-losses-repaired", "real-10000",
-        [](benchmark::State &state, const QByteArray &file) {
-            rehearsing(state, withLosses(file), Writing::Repaired, true);
-        },
-        Counted::Yes);
-    add(
-        "repair-losses", "real-10000",
-        [](benchmark::State &state, const QByteArray &file) { repairing(state, withLosses(file)); },
-        Counted::Yes);
+    const auto addLosing = [&](const char *list, Counted counted) {
+        add(
+            "rehearse-losses", list,
+            [](auto &state, auto &file) {
+                rehearsing(state, withLosses(file), Writing::Plain, false);
+            },
+            counted);
+        add(
+            "rehearse-losses-repaired", list,
+            [](auto &state, auto &file) {
+                rehearsing(state, withLosses(file), Writing::Repaired, true);
+            },
+            counted);
+        add(
+            "repair-losses", list,
+            [](auto &state, auto &file) { repairing(state, withLosses(file)); }, counted);
+    };
+    addAll("real-1000", true, Counted::Always);
+    addAll("real-10000", true, Counted::OnRequest);
+    addAll("real-100000", true, Counted::Never);
+    addAll("plain-10000", true, Counted::OnRequest);
+    addAll("real-json-1254", false, Counted::Always);
+    addAll("json-10000", false, Counted::OnRequest);
+    addLosing("real-1000", Counted::Always);
+    addLosing("real-10000", Counted::OnRequest);
 }
 
 } // namespace quillet::bench

@@ -6,8 +6,7 @@ void Rows::add(const std::string &name, const Measurement &measurement, Counted 
 {
     // Of the whole process: other threads may do part of the work.
     benchmark::RegisterBenchmark(name.c_str(), measurement)->MeasureProcessCPUTime();
-    if (counted == Counted::Yes)
-        m_counted.push_back(name);
+    m_rows.push_back({name, counted});
 }
 
 } // namespace quillet::bench

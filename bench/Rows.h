@@ -14,18 +14,24 @@ class Rows
 {
 public:
     using Measurement = std::function<void(benchmark::State &)>;
+    /// When its instructions are counted, which takes about fifty times as long as measuring it.
     enum class Counted {
-        Yes,
-        No, ///< its instructions would take too long to count
+        Always,
+        OnRequest, ///< a smaller list tells nearly as much
+        Never,
+    };
+    struct Row
+    {
+        std::string name;
+        Counted counted;
     };
 
-    void add(const std::string &name, const Measurement &measurement,
-             Counted counted = Counted::Yes);
-    /// The names of those whose instructions are counted, in the order in which they were added.
-    [[nodiscard]] const std::vector<std::string> &counted() const { return m_counted; }
+    void add(const std::string &name, const Measurement &measurement, Counted counted);
+    /// In the order in which they were added.
+    [[nodiscard]] const std::vector<Row> &all() const { return m_rows; }
 
 private:
-    std::vector<std::string> m_counted;
+    std::vector<Row> m_rows;
 };
 
 } // namespace quillet::bench

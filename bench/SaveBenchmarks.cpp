@@ -53,7 +53,7 @@ void addSaveRows(Rows &rows, const Lists &lists)
 {
     using Counted = Rows::Counted;
     const auto add = [&](const std::string &what, const char *list, bool isEdited,
-                         Counted counted = Counted::Yes) {
+                         Counted counted) {
         rows.add(
             what + '/' + list,
             [&lists, list, isEdited](benchmark::State &state) {
@@ -61,13 +61,17 @@ void addSaveRows(Rows &rows, const Lists &lists)
             },
             counted);
     };
-    for (const char *list : {"plain-10000", "real-1000", "real-10000"})
-        add("save", list, false);
-    add("save", "real-100000", false, Counted::No);
-    add("save-edited", "plain-10000", true);
-    add("save-edited", "real-json-1254", true);
-    rows.add("ask-to-save/real-json-1254",
-             [&lists](benchmark::State &state) { asking(state, lists.path("real-json-1254")); });
+    add("save", "real-1000", false, Counted::Always);
+    add("save", "real-10000", false, Counted::OnRequest);
+    add("save", "real-100000", false, Counted::Never);
+    add("save", "plain-10000", false, Counted::OnRequest);
+    add("save-edited", "real-1000", true, Counted::Always);
+    add("save-edited", "plain-10000", true, Counted::OnRequest);
+    add("save-edited", "real-json-1254", true, Counted::Always);
+    rows.add(
+        "ask-to-save/real-json-1254",
+        [&lists](benchmark::State &state) { asking(state, lists.path("real-json-1254")); },
+        Counted::Always);
 }
 
 } // namespace quillet::bench

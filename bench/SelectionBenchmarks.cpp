@@ -97,15 +97,22 @@ void commanding(benchmark::State &state, const QString &file, const Command &com
 
 void addSelectionRows(Rows &rows, const Lists &lists)
 {
-    for (const char *list : {"tv-1000", "tv-10000"}) {
-        rows.add(std::string("scattered-select/") + list,
-                 [&lists, list](benchmark::State &state) { selecting(state, lists.path(list)); });
+    using Counted = Rows::Counted;
+    const auto addAll = [&](const char *list, Counted counted) {
+        rows.add(
+            std::string("scattered-select/") + list,
+            [&lists, list](benchmark::State &state) { selecting(state, lists.path(list)); },
+            counted);
         for (const Command &command : commands)
-            rows.add(std::string(command.row) + '/' + list,
-                     [&lists, list, &command](benchmark::State &state) {
-                         commanding(state, lists.path(list), command);
-                     });
-    }
+            rows.add(
+                std::string(command.row) + '/' + list,
+                [&lists, list, &command](benchmark::State &state) {
+                    commanding(state, lists.path(list), command);
+                },
+                counted);
+    };
+    addAll("tv-1000", Counted::Always);
+    addAll("tv-10000", Counted::OnRequest);
 }
 
 } // namespace quillet::bench

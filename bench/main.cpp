@@ -118,17 +118,22 @@ int countOne(const std::string &row)
     return isUnderstood && medians.seconds(row) ? 0 : 1;
 }
 
-/// Prints for each row its name, whether all of the process counts or what it has counted itself,
-/// and the process, separated by tabs.
-void printCommands(const std::string &folder, const Rows &rows, const Lists &lists)
+/// Prints for each row that can be counted its name, when it is, whether all of the process counts
+/// or what it has counted itself, and the process, separated by tabs.
+void printCommands(const QString &folder, const Rows &rows, const Lists &lists)
 {
+    const auto print = [](const std::string &name, const char *when, const char *what,
+                          const QStringList &process) {
+        std::printf("%s\t%s\t%s\t%s\n", name.c_str(), when, what, qPrintable(process.join(u'\t')));
+    };
     for (const Start &start : starts(lists))
-        std::printf("%s\tall\t%s\n", start.name.c_str(),
-                    qPrintable((QStringList(start.program) + start.arguments).join(u'\t')));
-    for (const std::string &row : rows.counted())
-        std::printf("%s\titself\t%s\t%s\t--count\t%s\n", row.c_str(),
-                    qPrintable(QCoreApplication::applicationFilePath()), folder.c_str(),
-                    row.c_str());
+        print(start.name, "always", "all", QStringList(start.program) + start.arguments);
+    for (const Rows::Row &row : rows.all()) {
+        if (row.counted != Rows::Counted::Never)
+            print(row.name, row.counted == Rows::Counted::Always ? "always" : "request", "itself",
+                  {QCoreApplication::applicationFilePath(), folder, QStringLiteral("--count"),
+                   QString::fromStdString(row.name)});
+    }
 }
 
 void printExplanation(const Medians &medians)
@@ -204,7 +209,7 @@ int main(int argc, char *argv[])
         return 0;
     }
     if (second == QLatin1String("--commands")) {
-        printCommands(arguments.at(1).toStdString(), rows, lists);
+        printCommands(arguments.at(1), rows, lists);
         return 0;
     }
     const bool isCounted = !second.isEmpty() && !second.startsWith(u'-');

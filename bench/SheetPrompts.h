@@ -2,6 +2,7 @@
 
 #include "framework/Prompts.h"
 
+#include <functional>
 #include <utility>
 
 namespace quillet::bench {
@@ -22,6 +23,10 @@ public:
     {
     }
     void showPrintPanel(QWidget *, const PrintPanel &, std::function<void(QPrinter &)>) override {}
+    std::function<void()> showProgress(QWidget *, const QString &, std::function<void()>) override
+    {
+        return [] {};
+    }
 
     [[nodiscard]] bool isAsking() const { return static_cast<bool>(m_answer); }
     /// Presses a button of the alert; -1 cancels it.

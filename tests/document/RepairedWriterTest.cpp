@@ -2,6 +2,7 @@
 #include "MadeUpLists.h"
 
 #include "document/repair/RepairedWriter.h"
+#include "document/review/Rehearsal.h"
 #include "testing/TestMain.h"
 
 #include <QTest>
@@ -63,6 +64,64 @@ private slots:
         QVERIFY(repairedTLL(document.list()) == QByteArray(latin1).replace("B</", "\xD6</"));
         rename(u"Ж"_s)(document);
         QVERIFY(repairedTLL(document.list()) == digital(items({u"Ä"_s, u"Ж"_s})).toUtf8());
+    }
+
+    /// Of a JSON list only what was edited is written anew, wherever it is named.
+    void repairsKeepTheBytesOfJSON_data()
+    {
+        QTest::addColumn<QByteArray>("json"); // of which the last station is renamed and skipped
+        QTest::addColumn<QByteArray>("edited");
+        const auto row = [](const char *name, const char *json, const char *edited) {
+            const auto quoted = [](const char *text) {
+                return QByteArray(text).replace('\'', '"');
+            };
+            QTest::newRow(name) << quoted(json) << quoted(edited);
+        };
+        row("forms",
+            " {'x':[1.50,-0,1E40], 'x':1844674407370955161,'channelList' :[ {'majorNumber':1.0e0,"
+            "'serviceType':1,'y':'\\u0041\\/\\ud83d\\udcfa'},null\t,"
+            "{'channelName':'C','majorNumber':3,'serviceType':1,'z':1e5,'z':1.0E+2}]} ",
+            " {'x':[1.50,-0,1E40], 'x':1844674407370955161,'channelList' :[ {'majorNumber':1.0e0,"
+            "'serviceType':1,'y':'\\u0041\\/\\ud83d\\udcfa'},null\t,"
+            "{'channelName':'\\u003c&amp;','majorNumber':3,'serviceType':1,'z':1e5,'z':1.0E+2,"
+            "'skipped':true}]} ");
+        row("lines", "{\r\n'channelList' : [{},\r\n {\r\n  'serviceType' : 1\r\n}]}\r\n",
+            "{\r\n'channelList' : [{},\r\n {\r\n  'serviceType' : 1,\r\n  'majorNumber' : 2,"
+            "\r\n  'channelName' : '\\u003c&amp;',\r\n  'skipped' : true\r\n}]}\r\n");
+        row("named again",
+            "{'channelList':[1],'channelList':[{'serviceType':1,'skipped':0,'channel\\u004eame':'C'"
+            ","
+            "'skipped':false}],'end':{'channelList':[]}}",
+            "{'channelList':[1],'channelList':[{'serviceType':1,'skipped':true,"
+            "'channel\\u004eame':'\\u003c&amp;','skipped':true,'majorNumber':1}],"
+            "'end':{'channelList':[]}}");
+        row("references",
+            "{'a':'&lt;&#228;&#x1F4FA;&amp;','channelList':[{'x':'&#38;&apos;\xC3\xA4',"
+            "'serviceType':&#49;,'channelName':&quot;C&quot;,'majorNumber':3}]}",
+            "{'a':'&lt;&#228;&#x1F4FA;&amp;','channelList':[{'x':'&#38;&apos;\xC3\xA4',"
+            "'serviceType':&#49;,'channelName':'\\u003c&amp;','majorNumber':3,'skipped':true}]}");
+        row("blocks",
+            "{'a':1.50,<![CDATA['b':'<&>]','channelList':[{'serviceType':1]]>,"
+            "'channelName':'C','majorNumber':3}]}",
+            "{'a':1.50,'b':'&lt;&amp;&gt;]','channelList':[{'serviceType':1,"
+            "'channelName':'\\u003c&amp;','majorNumber':3,'skipped':true}]}");
+    }
+    void repairsKeepTheBytesOfJSON()
+    {
+        QFETCH(const QByteArray, json);
+        const auto around = [](const QByteArray &text) {
+            return "<TLLDATA><CHANNEL><legacybroadcast>" + text +
+                   "</legacybroadcast></CHANNEL></TLLDATA>";
+        };
+        TLLDocument document;
+        QVERIFY(read(document, around(json)));
+        QVERIFY(!document.lists().roll().empty());
+        const StationPtr last = document.lists().roll().back().station;
+        last->setStationName(u"<&"_s);
+        last->setSkipped(true);
+        QFETCH(const QByteArray, edited);
+        QCOMPARE(repairedTLL(document.list()), around(edited));
+        QVERIFY(rehearse(document.list(), around(edited)).isClean());
     }
 
     /// The repaired writing keeps places, whichever list is on show, so that it comes back the

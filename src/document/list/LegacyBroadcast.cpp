@@ -26,4 +26,14 @@ QHash<QString, QString> LegacyBroadcast::satelliteNames() const
     return names;
 }
 
+std::vector<JSONSpan> channelsInJSON(QByteArrayView json)
+{
+    std::vector<JSONSpan> channels;
+    for (const JSONMember &member : membersInJSON(json, json.indexOf('{'))) {
+        if (spells(member.name.in(json), fileword::channelList.bytes()))
+            channels = elementsInJSON(json, member.value.start);
+    }
+    return channels;
+}
+
 } // namespace quillet

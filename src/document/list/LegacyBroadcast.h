@@ -1,11 +1,13 @@
 #pragma once
 
 #include "xml/JSON.h"
+#include "xml/JSONSpans.h"
 #include "xml/Value.h"
 
 #include <QHash>
 
 #include <optional>
+#include <vector>
 
 namespace quillet {
 
@@ -24,5 +26,9 @@ struct LegacyBroadcast
     /// The names of the satellites that it lists, by the identifier that channels have of them.
     [[nodiscard]] QHash<QString, QString> satelliteNames() const;
 };
+
+/// Where the channels stand in the JSON of a list that was decoded. Of several lists the last one
+/// counts, as it does in decoding.
+[[nodiscard]] std::vector<JSONSpan> channelsInJSON(QByteArrayView json);
 
 } // namespace quillet

@@ -1,13 +1,17 @@
 #include "document/repair/RepairedBroadcast.h"
 
 #include "document/list/ChannelList.h"
+#include "document/repair/BroadcastText.h"
 #include "document/repair/StationSpans.h"
 #include "document/write/BroadcastWriting.h"
 #include "model/FileWords.h"
 
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <unordered_map>
+#include <utility>
+#include <vector>
 
 namespace quillet {
 
@@ -17,26 +21,46 @@ using Places = std::unordered_map<const LGStation *, std::size_t>;
 
 /// Puts the stations of a list that is in another order than it was read in into its own places,
 /// one after another.
-void placeInOrder(const StationList &stations, Places &places, std::vector<Value> &channels)
+void placeInOrder(const StationList &stations, Places &places, std::vector<PlacedChannel> &channels)
 {
     const auto wasBefore = [](const StationPtr &a, const StationPtr &b) {
         return a->origPos() < b->origPos();
     };
     if (std::is_sorted(stations.begin(), stations.end(), wasBefore))
         return;
-    std::vector<const LGStation *> listed;
+    std::vector<PlacedChannel> listed;
     std::vector<std::size_t> own;
     for (const StationPtr &station : stations) {
         const auto place = places.find(station.get());
         if (place == places.end())
             continue; // twice in the list
-        listed.push_back(place->first);
+        listed.push_back(channels[place->second]);
         own.push_back(place->second);
         places.erase(place);
     }
     std::sort(own.begin(), own.end());
     for (std::size_t i = 0; i < listed.size(); ++i)
-        channels[own[i]] = listed[i]->entry();
+        channels[own[i]] = listed[i];
+}
+
+/// What is to stand in the places of the channels that were read.
+std::vector<PlacedChannel> placedChannels(const ChannelList &list, const Array &read)
+{
+    std::vector<PlacedChannel> channels;
+    for (const Value &channel : read)
+        channels.push_back({.source = channels.size(), .read = channel.dictionary()});
+    Places places;
+    for (const auto &[station, place] : list.lists.roll()) {
+        const auto index = static_cast<std::size_t>(place.index);
+        places.emplace(station.get(), index);
+        if (!(station->entry() == *channels[index].read))
+            channels[index].edited = &station->entry();
+    }
+    for (const StationListPtr &stations : list.lists.tvStations()) {
+        if (stations)
+            placeInOrder(*stations, places, channels);
+    }
+    return channels;
 }
 
 /// The elements in the content of the one at the end of the path. Hardly any has one.
@@ -85,26 +109,13 @@ QByteArray markupIn(const QByteArray &text, const TextSpan &span,
     return markup;
 }
 
-} // namespace
-
-QByteArray repairedJSON(const ChannelList &list)
+/// As the content of an element.
+QByteArray escaped(QByteArray json)
 {
-    const Array read = list.broadcast.channelList();
-    if (read.isEmpty())
-        return list.broadcast.legacyDict ? jsonForXML(*list.broadcast.legacyDict) : QByteArray();
-    std::vector<Value> channels(read.begin(), read.end());
-    Places places;
-    for (const auto &[station, place] : list.lists.roll()) {
-        const auto index = static_cast<std::size_t>(place.index);
-        channels[index] = station->entry();
-        places.emplace(station.get(), index);
-    }
-    for (const StationListPtr &stations : list.lists.tvStations()) {
-        if (stations)
-            placeInOrder(*stations, places, channels);
-    }
-    return jsonWithChannels(list.broadcast, std::move(channels));
+    return replaceBadChars(std::move(json)).replace('<', "&lt;").replace('>', "&gt;");
 }
+
+} // namespace
 
 QByteArray repairedChannels(const ChannelList &list, const QByteArray &text)
 {
@@ -124,8 +135,17 @@ QByteArray repairedChannels(const ChannelList &list, const QByteArray &text)
         if (json.in(text).trimmed().isEmpty())
             return text; // a CDATA block without an end
     }
-    const QByteArray markup = markupIn(text, json, inside);
-    return text.first(json.start) + replaceBadChars(repairedJSON(list)) + markup +
+    QByteArray content = json.in(text).toByteArray();
+    QByteArray markup;
+    std::optional<CharacterData> data = CharacterData::decode(content);
+    if (!data) {
+        content = escaped(list.legacyText());
+        markup = markupIn(text, json, inside);
+        data = CharacterData::decode(content);
+    }
+    const Array read = list.broadcast.channelList();
+    const BroadcastText broadcast(content, *data);
+    return text.first(json.start) + broadcast.withChannels(placedChannels(list, read)) + markup +
            text.sliced(json.end);
 }
 

@@ -2,27 +2,19 @@
 
 #include "document/list/LegacyBroadcast.h"
 #include "model/LGStation.h"
+#include "support/Utf8Builder.h"
 
 #include <QByteArray>
-
-#include <vector>
 
 namespace quillet {
 
 /// The text with "&" escaped for XML.
 [[nodiscard]] QByteArray replaceBadChars(QByteArray text);
 
-/// The JSON with the stations of the given list in the places of the channels they were made from,
-/// in the list's order; every other channel is as it was read. Compact, with no "<" in it. Empty
-/// when nothing could be decoded.
-[[nodiscard]] QByteArray broadcastJSON(const LegacyBroadcast &broadcast,
-                                       const StationList &current);
-
-/// An object as JSON in that form.
-[[nodiscard]] QByteArray jsonForXML(const Dictionary &object);
-
-/// The JSON with these elements in its channel list, in the same form.
-[[nodiscard]] QByteArray jsonWithChannels(const LegacyBroadcast &broadcast,
-                                          std::vector<Value> channels);
+/// Appends the JSON, as the content of its element, with the stations of the given list in the
+/// places of the channels they were made from, in the list's order; every other channel holds what
+/// was read. Compact, with no "<" in it. Nothing when nothing could be decoded.
+void appendBroadcastJSON(const LegacyBroadcast &broadcast, const StationList &current,
+                         Utf8Builder &output);
 
 } // namespace quillet

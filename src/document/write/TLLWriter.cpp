@@ -37,14 +37,16 @@ void appendItem(const LGStation &station, QString &output)
     output.append(station.getXMLItem());
 }
 
-void appendUtf8(const QByteArray &utf8, Utf8Builder &output)
+void appendJSON(const LegacyBroadcast &broadcast, const StationList &current, Utf8Builder &output)
 {
-    output.append(QByteArrayView(utf8));
+    appendBroadcastJSON(broadcast, current, output);
 }
 
-void appendUtf8(const QByteArray &utf8, QString &output)
+void appendJSON(const LegacyBroadcast &broadcast, const StationList &current, QString &output)
 {
-    output.append(textFromUtf8(utf8));
+    Utf8Builder json;
+    appendBroadcastJSON(broadcast, current, json);
+    output.append(textFromUtf8(json.text()));
 }
 
 template<typename Sources>
@@ -82,8 +84,9 @@ void writeLegacy(const ChannelList &list, const StationListPtr &shown, Output &o
 {
     const StationList none;
     const StationList &current = shown ? *shown : none;
+    output.reserve(list.text.size() + list.text.size() / 8);
     list.text.appendFirst(list.layout.headerLenLegacy(), output);
-    appendUtf8(replaceBadChars(broadcastJSON(list.broadcast, current)), output);
+    appendJSON(list.broadcast, current, output);
     if (list.layout.footer())
         output.append(QStringView(*list.layout.footer()));
 }

@@ -2181,8 +2181,8 @@
     <message id="kReviewNumbers" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n lange Zahl würde gerundet.</numerusform>
-            <numerusform>%n lange Zahlen würden gerundet.</numerusform>
+            <numerusform>%n Zahl oder wiederholter Wert der JSON-Liste würde anders geschrieben oder ginge verloren.</numerusform>
+            <numerusform>%n Zahlen oder wiederholte Werte der JSON-Liste würden anders geschrieben oder gingen verloren.</numerusform>
         </translation>
     </message>
     <message id="kReviewRefused">

@@ -2181,8 +2181,8 @@
     <message id="kReviewNumbers" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n long number would be rounded.</numerusform>
-            <numerusform>%n long numbers would be rounded.</numerusform>
+            <numerusform>%n number or repeated value of the JSON list would be written differently or lost.</numerusform>
+            <numerusform>%n numbers or repeated values of the JSON list would be written differently or lost.</numerusform>
         </translation>
     </message>
     <message id="kReviewRefused">

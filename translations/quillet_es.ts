@@ -2181,8 +2181,8 @@
     <message id="kReviewNumbers" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>Se redondearía %n número largo.</numerusform>
-            <numerusform>Se redondearían %n números largos.</numerusform>
+            <numerusform>%n número o valor repetido de la lista JSON se escribiría de otra forma o se perdería.</numerusform>
+            <numerusform>%n números o valores repetidos de la lista JSON se escribirían de otra forma o se perderían.</numerusform>
         </translation>
     </message>
     <message id="kReviewRefused">

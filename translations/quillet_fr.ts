@@ -2181,8 +2181,8 @@
     <message id="kReviewNumbers" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n nombre long serait arrondi.</numerusform>
-            <numerusform>%n nombres longs seraient arrondis.</numerusform>
+            <numerusform>%n nombre ou valeur répétée de la liste JSON serait écrit autrement ou perdu.</numerusform>
+            <numerusform>%n nombres ou valeurs répétées de la liste JSON seraient écrits autrement ou perdus.</numerusform>
         </translation>
     </message>
     <message id="kReviewRefused">

@@ -2181,8 +2181,8 @@
     <message id="kReviewNumbers" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n numero lungo verrebbe arrotondato.</numerusform>
-            <numerusform>%n numeri lunghi verrebbero arrotondati.</numerusform>
+            <numerusform>%n numero o valore ripetuto della lista JSON verrebbe scritto in altra forma o perso.</numerusform>
+            <numerusform>%n numeri o valori ripetuti della lista JSON verrebbero scritti in altra forma o persi.</numerusform>
         </translation>
     </message>
     <message id="kReviewRefused">

@@ -2181,8 +2181,8 @@
     <message id="kReviewNumbers" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n lang getal zou worden afgerond.</numerusform>
-            <numerusform>%n lange getallen zouden worden afgerond.</numerusform>
+            <numerusform>%n getal of herhaalde waarde van de JSON-lijst zou anders worden geschreven of verloren gaan.</numerusform>
+            <numerusform>%n getallen of herhaalde waarden van de JSON-lijst zouden anders worden geschreven of verloren gaan.</numerusform>
         </translation>
     </message>
     <message id="kReviewRefused">

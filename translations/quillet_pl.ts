@@ -2230,9 +2230,9 @@
     <message id="kReviewNumbers" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n długa liczba zostałaby zaokrąglona.</numerusform>
-            <numerusform>%n długie liczby zostałyby zaokrąglone.</numerusform>
-            <numerusform>%n długich liczb zostałoby zaokrąglonych.</numerusform>
+            <numerusform>%n liczba lub powtórzona wartość listy JSON zostałaby zapisana inaczej lub utracona.</numerusform>
+            <numerusform>%n liczby lub powtórzone wartości listy JSON zostałyby zapisane inaczej lub utracone.</numerusform>
+            <numerusform>%n liczb lub powtórzonych wartości listy JSON zostałoby zapisanych inaczej lub utraconych.</numerusform>
         </translation>
     </message>
     <message id="kReviewRefused">

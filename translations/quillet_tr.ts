@@ -2132,7 +2132,7 @@
     <message id="kReviewNumbers" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n uzun sayı yuvarlanır.</numerusform>
+            <numerusform>JSON listesinin %n sayısı veya yinelenen değeri farklı yazılır ya da kaybolur.</numerusform>
         </translation>
     </message>
     <message id="kReviewRefused">

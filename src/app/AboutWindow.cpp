@@ -10,6 +10,7 @@
 
 #include <libxml/xmlversion.h>
 #include <nlohmann/json.hpp>
+#include <simdjson.h>
 
 namespace quillet {
 
@@ -31,6 +32,7 @@ QString libraries()
             .arg(NLOHMANN_JSON_VERSION_MAJOR)
             .arg(NLOHMANN_JSON_VERSION_MINOR)
             .arg(NLOHMANN_JSON_VERSION_PATCH),
+        QStringLiteral("simdjson " QT_STRINGIFY(SIMDJSON_VERSION)),
     };
     return used.join(QLatin1String(", "));
 }

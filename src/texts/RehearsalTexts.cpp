@@ -46,8 +46,8 @@ QStringList textsOf(const Rehearsal &rehearsal)
         sentences.append(qtTrId("kReviewExtras"));
     if (rehearsal.mixesEncodings)
         sentences.append(qtTrId("kReviewEncoding"));
-    if (rehearsal.inexactNumbers > 0)
-        sentences.append(qtTrId("kReviewNumbers", static_cast<int>(rehearsal.inexactNumbers)));
+    if (rehearsal.rewrittenValues > 0)
+        sentences.append(qtTrId("kReviewNumbers", static_cast<int>(rehearsal.rewrittenValues)));
     return sentences;
 }
 

@@ -24,11 +24,14 @@ inline constexpr int deepestJSON = 512;
 
 /// None, with the error set, when the text is not JSON or is nested too deep. Of two members of one
 /// name the later counts, in the place of the earlier. An integer of more than 64 bits gives the
-/// nearest double; `inexact`, if given, gets how many there were.
+/// nearest double, a number beyond all doubles an infinite one. `rewritten`, if given, gets how
+/// many numbers stand there in another form than toJSON gives them, and how many members were named
+/// again.
 [[nodiscard]] std::optional<Value> valueFromJSON(QByteArrayView text, JSONError &error,
-                                                 qsizetype *inexact = nullptr);
+                                                 qsizetype *rewritten = nullptr);
 
-/// Compact JSON in UTF-8; none when the value cannot be expressed in it.
+/// Compact JSON in UTF-8; an infinite number becomes a null. None when the value cannot be
+/// expressed in it.
 [[nodiscard]] std::optional<QByteArray> toJSON(const Value &value);
 
 } // namespace quillet

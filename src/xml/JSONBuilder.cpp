@@ -1,113 +1,111 @@
 #include "xml/JSONBuilder.h"
 
-#include "support/TextConversion.h"
+#include "xml/JSON.h"
 
 #include <limits>
 #include <utility>
 
 namespace quillet {
 
-namespace {
-
-bool hasKeys(const KeyTable &table, const std::vector<QString> &keys)
-{
-    if (table.count() != static_cast<qsizetype>(keys.size()))
-        return false;
-    for (std::size_t i = 0; i < keys.size(); ++i) {
-        if (table.at(static_cast<qsizetype>(i)) != keys[i])
-            return false;
-    }
-    return true;
-}
-
-} // namespace
-
-bool JSONBuilder::number_unsigned(std::uint64_t value)
-{
-    return add(value <= std::uint64_t(std::numeric_limits<qint64>::max()) ? Value(qint64(value))
-                                                                          : Value(quint64(value)));
-}
-
-bool JSONBuilder::number_float(double value, const std::string &digits)
-{
-    if (digits.find_first_of(".eE") == std::string::npos)
-        ++m_inexactIntegers;
-    return add(Value(value));
-}
-
-bool JSONBuilder::key(std::string &value)
-{
-    m_stack[m_depth - 1].keys.push_back(m_texts.text(value));
-    return true;
-}
-
 bool JSONBuilder::open()
 {
-    if (m_depth == m_deepest) {
-        m_errorMessage = QStringLiteral("Nested more than %1 deep").arg(m_deepest);
+    if (m_depth == deepestJSON)
         return false;
-    }
     if (m_depth == m_stack.size())
         m_stack.emplace_back();
     ++m_depth;
     return true;
 }
 
-bool JSONBuilder::add(Value value)
+void JSONBuilder::key(QByteArrayView utf8)
+{
+    Container &object = innermost();
+    const bool areSame = object.names.empty() && object.sameNames < object.lastNames.size();
+    if (areSame && object.lastNames[object.sameNames] == utf8)
+        ++object.sameNames;
+    else
+        object.names.push_back(utf8.toByteArray());
+    if (object.values.capacity() == 0)
+        object.values.reserve(object.lastNames.size());
+}
+
+void JSONBuilder::add(Value value)
 {
     if (m_depth == 0)
         m_root = std::move(value);
     else
-        m_stack[m_depth - 1].values.push_back(std::move(value));
-    return true;
+        innermost().values.push_back(std::move(value));
 }
 
-Dictionary JSONBuilder::makeDictionary(Container &object)
+void JSONBuilder::addUnsigned(quint64 number)
 {
-    std::vector<Value> values = std::exchange(object.values, {});
-    values.shrink_to_fit();
-    std::vector<QString> &keys = object.keys;
-    if (!object.lastKeys || !hasKeys(*object.lastKeys, keys)) {
-        Dictionary::Keys table(new KeyTable);
-        for (std::size_t i = 0; i < keys.size(); ++i) {
-            const qsizetype earlier = table->indexOf(keys[i]);
-            if (earlier == KeyTable::none) {
-                // The values move up by as many places as members were named again so far.
-                values[static_cast<std::size_t>(table->count())] = values[i];
-                table->append(keys[i]);
-            } else {
-                values[static_cast<std::size_t>(earlier)] = values[i];
-            }
+    add(number <= quint64(std::numeric_limits<qint64>::max()) ? Value(qint64(number))
+                                                              : Value(number));
+}
+
+void JSONBuilder::addDouble(double number, QByteArrayView text)
+{
+    const Value value(number);
+    if (toJSON(value) != text)
+        ++m_rewritten;
+    add(value);
+}
+
+void JSONBuilder::addNegativeZero()
+{
+    ++m_rewritten;
+    add(Value(qint64(0)));
+}
+
+/// The table of the keys of the innermost object. Of two values of one key the later takes the
+/// place of the earlier.
+Dictionary::Keys JSONBuilder::keysOf(Container &object)
+{
+    const bool areSame = object.names.empty() && object.sameNames == object.lastNames.size();
+    if (areSame && object.lastKeys)
+        return object.lastKeys;
+    const auto firstOther = object.lastNames.begin() + qsizetype(object.sameNames);
+    std::vector<QByteArray> names(object.lastNames.begin(), firstOther);
+    names.insert(names.end(), object.names.begin(), object.names.end());
+    Dictionary::Keys keys(new KeyTable);
+    std::vector<Value> &values = object.values;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        const QString name = m_texts.text(names[i]);
+        const qsizetype earlier = keys->indexOf(name);
+        if (earlier == KeyTable::none) {
+            // The values move up by as many places as members were named again so far.
+            values[static_cast<std::size_t>(keys->count())] = values[i];
+            keys->append(name);
+        } else {
+            values[static_cast<std::size_t>(earlier)] = values[i];
         }
-        values.resize(static_cast<std::size_t>(table->count()));
-        object.lastKeys = table;
     }
-    keys.clear();
-    return {object.lastKeys, std::move(values)};
+    const auto count = static_cast<std::size_t>(keys->count());
+    m_rewritten += qsizetype(names.size() - count);
+    const bool isEachOnce = count == names.size();
+    object.lastNames = isEachOnce ? std::move(names) : std::vector<QByteArray>();
+    object.lastKeys = isEachOnce ? keys : Dictionary::Keys();
+    values.resize(count);
+    return keys;
 }
 
-bool JSONBuilder::end_object()
+void JSONBuilder::closeObject()
 {
-    Dictionary dictionary = makeDictionary(m_stack[m_depth - 1]);
+    Container &object = innermost();
+    Dictionary::Keys keys = keysOf(object);
+    object.names.clear();
+    object.sameNames = 0;
+    object.values.shrink_to_fit();
+    Dictionary dictionary(std::move(keys), std::exchange(object.values, {}));
     --m_depth;
-    return add(std::move(dictionary));
+    add(std::move(dictionary));
 }
 
-bool JSONBuilder::end_array()
+void JSONBuilder::closeArray()
 {
-    Array array(std::exchange(m_stack[m_depth - 1].values, {}));
+    Array array(std::exchange(innermost().values, {}));
     --m_depth;
-    return add(std::move(array));
-}
-
-bool JSONBuilder::parse_error(std::size_t position, const std::string &,
-                              const nlohmann::detail::exception &exception)
-{
-    m_errorPosition = position;
-    // The text behind the library's own code and position.
-    const QString message = textFromUtf8(exception.what());
-    m_errorMessage = message.sliced(message.lastIndexOf(QLatin1String(": ")) + 2);
-    return false;
+    add(std::move(array));
 }
 
 } // namespace quillet

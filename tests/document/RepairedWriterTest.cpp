@@ -78,10 +78,10 @@ private slots:
             QTest::newRow(name) << quoted(json) << quoted(edited);
         };
         row("forms",
-            " {'x':[1.50,-0,1E40], 'x':1844674407370955161,'channelList' :[ {'majorNumber':1.0e0,"
+            " {'x':[1.50,-0,1E400], 'x':18446744073709551616,'channelList' :[ {'majorNumber':1.0e0,"
             "'serviceType':1,'y':'\\u0041\\/\\ud83d\\udcfa'},null\t,"
             "{'channelName':'C','majorNumber':3,'serviceType':1,'z':1e5,'z':1.0E+2}]} ",
-            " {'x':[1.50,-0,1E40], 'x':1844674407370955161,'channelList' :[ {'majorNumber':1.0e0,"
+            " {'x':[1.50,-0,1E400], 'x':18446744073709551616,'channelList' :[ {'majorNumber':1.0e0,"
             "'serviceType':1,'y':'\\u0041\\/\\ud83d\\udcfa'},null\t,"
             "{'channelName':'\\u003c&amp;','majorNumber':3,'serviceType':1,'z':1e5,'z':1.0E+2,"
             "'skipped':true}]} ");

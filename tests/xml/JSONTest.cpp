@@ -2,6 +2,8 @@
 
 #include "testing/TestMain.h"
 #include "xml/JSON.h"
+#include "xml/QuickJSON.h"
+#include "xml/StrictJSON.h"
 
 #include <cmath>
 #include <limits>
@@ -79,6 +81,8 @@ private slots:
         const std::optional<QByteArray> written = toJSON(value);
         QVERIFY(written);
         QCOMPARE(parsed(*written), std::optional(value));
+        qsizetype unused = 0;
+        QCOMPARE(quickValueFromJSON('[' + text + ']', unused), std::optional<Value>(Array{value}));
     }
 
     void compactAndInOrder()
@@ -151,6 +155,70 @@ private slots:
         JSONError error;
         QVERIFY(!valueFromJSON(text, error));
         QVERIFY(!error.message.isEmpty() && error.line >= 1);
+    }
+
+    void brokenInside_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        // clang-format off
+        const char *const rows[] = {
+            "[1 2]", "[1,]", "[,1]", "[1,,2]", "[\"a\":1]", "[\"a\" \"b\"]", "[\"a\"b]", "[1]]", "[1],", "[[1,2]",
+            "{\"a\" 1}", "{1:2}", "{\"a\":1 \"b\":2}", "{\"a\":1,,\"b\":2}", "{\"a\":1]", "{\"a\":{\"b\":1}",
+            "{:1}", "{\"a\":}", "{\"a\":\"b\":1}", "{\"\\ud800\":1}", "[01]", "[-]", "[1.]", "[.5]", "[1e]", "[1e+]",
+            "[1x]", "[0x1]", "[- 1]", "[-01]", "[Infinity]", "[truex]", "[nul]", "[null1]", "[\"\\ud800\\ue000\"]",
+            "[\"\\udc00\"]", "[\"\\u12g4\"]", "[\"\\a\"]", "[\"\x01\"]", "[\"\xC0\x80\"]", "[1]\x0B"};
+        // clang-format on
+        for (const char *text : rows)
+            QTest::newRow(text) << QByteArray(text);
+        QTest::newRow("null inside") << "[1\0]"_ba;
+    }
+    /// What both ways of decoding could get to see.
+    void brokenInside()
+    {
+        QFETCH(const QByteArray, text);
+        JSONError error;
+        qsizetype unused = 0;
+        QVERIFY(!quickValueFromJSON(text, unused));
+        QVERIFY(!strictValueFromJSON(text, error, unused));
+    }
+
+    void forms_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<qsizetype>("rewritten");
+        const auto row = [](const char *text, qsizetype rewritten) {
+            QTest::newRow(text) << QByteArray(text) << rewritten;
+        };
+        row("[0,-1,18446744073709551615,1.5,-0.0,1e+16,100000.0,5e-324]", 0);
+        row("[\"\\u0041\", { } , \"\\/\"]", 0); // text is not meant
+        row("[18446744073709551616,-9223372036854775809]", 2);
+        row("[-0,1.50,1e5,1E+16,1e16,0.1000000000000000055]", 6);
+        row("[1.5,[{\"x\":[-0]}],{\"a\":1,\"b\":2,\"a\":1.0,\"a\":3e0}]", 4);
+    }
+    void forms()
+    {
+        QFETCH(const QByteArray, text);
+        JSONError error;
+        qsizetype quick = 0, strict = 0;
+        QVERIFY(quickValueFromJSON(text, quick));
+        QVERIFY(strictValueFromJSON(text, error, strict));
+        QTEST(quick, "rewritten");
+        QTEST(strict, "rewritten");
+    }
+
+    /// It does not make the others unreadable, and comes back as nothing.
+    void numbersBeyondAllDoubles()
+    {
+        constexpr double infinity = std::numeric_limits<double>::infinity();
+        JSONError error;
+        qsizetype rewritten = 0;
+        const std::optional<Value> read =
+            valueFromJSON("{\"a\":[1E400,-1e400],\"b\":1}", error, &rewritten);
+        QCOMPARE(read,
+                 std::optional<Value>(Dictionary{{u"a"_s, Array{Value(infinity), Value(-infinity)}},
+                                                 {u"b"_s, Value(qint64(1))}}));
+        QCOMPARE(rewritten, 2);
+        QCOMPARE(toJSON(*read), std::optional("{\"a\":[null,null],\"b\":1}"_ba));
     }
 
     void tellsWhereItBreaks()

@@ -18,8 +18,9 @@ struct LegacyBroadcast
     std::optional<Dictionary> legacyDict;
     /// Where and why decoding failed; none when it did not.
     std::optional<JSONError> error;
-    /// Integers of more than 64 bits among it, which were decoded as the nearest double.
-    qsizetype inexactNumbers = 0;
+    /// Numbers among it that the plain writing gives another form, and members named again, which
+    /// it leaves out.
+    qsizetype rewrittenValues = 0;
 
     /// The channels as they were read, in the file's order; empty when there are none.
     [[nodiscard]] Array channelList() const;

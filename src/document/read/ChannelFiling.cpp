@@ -73,7 +73,7 @@ qsizetype extractLegacyStations(LegacyBroadcast &broadcast, QByteArrayView json,
 {
     lists.setupLists();
     JSONError error;
-    const std::optional<Value> object = valueFromJSON(json, error, &broadcast.inexactNumbers);
+    const std::optional<Value> object = valueFromJSON(json, error, &broadcast.rewrittenValues);
     broadcast.error = object ? std::nullopt : std::optional(error);
     broadcast.legacyDict.reset();
     if (object && object->dictionary())

@@ -110,9 +110,39 @@ bool BroadcastContent::losesMembers(const ChannelList &again) const
     return otherMembers(list()) != otherMembers(again);
 }
 
-qsizetype BroadcastContent::inexactNumbers() const
+qsizetype BroadcastContent::rewrittenValues(const ChannelList &again) const
 {
-    return list().broadcast.inexactNumbers;
+    const qsizetype read = list().broadcast.rewrittenValues;
+    if (read == 0)
+        return 0;
+    return qMax(qsizetype(0), read - formsEditedAway() - again.broadcast.rewrittenValues);
+}
+
+/// How many numbers in a form of their own gave way to what somebody entered.
+qsizetype BroadcastContent::formsEditedAway() const
+{
+    const QByteArray json = list().legacyText();
+    const std::vector<JSONSpan> channels = channelsInJSON(json);
+    const Array read = list().broadcast.channelList();
+    qsizetype count = 0;
+    for (const auto &[station, place] : list().lists.roll()) {
+        const Dictionary &before = *read.at(place.index).dictionary();
+        if (station->entry() == before)
+            continue;
+        const JSONSpan &channel = channels.at(static_cast<std::size_t>(place.index));
+        for (const JSONMember &member : membersInJSON(json, channel.start)) {
+            JSONError unused;
+            qsizetype forms = 0;
+            const std::optional<Value> name = valueFromJSON(member.name.in(json), unused);
+            const QString key = name && name->string() ? *name->string() : QString();
+            const Value *now = station->entry().find(key);
+            const Value *then = before.find(key);
+            const bool isEdited = !now || !then || !(*now == *then);
+            if (isEdited && valueFromJSON(member.value.in(json), unused, &forms))
+                count += forms;
+        }
+    }
+    return count;
 }
 
 } // namespace quillet

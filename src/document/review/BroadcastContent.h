@@ -23,7 +23,10 @@ public:
     {
         return false;
     }
-    [[nodiscard]] qsizetype inexactNumbers() const override;
+    [[nodiscard]] qsizetype rewrittenValues(const ChannelList &again) const override;
+
+private:
+    [[nodiscard]] qsizetype formsEditedAway() const;
 };
 
 } // namespace quillet

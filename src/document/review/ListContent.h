@@ -52,8 +52,9 @@ public:
     /// Whether the writing turned text or attributes of stations into something else.
     [[nodiscard]] virtual bool losesMarkup(const QByteArray &before,
                                            const QByteArray &after) const = 0;
-    /// Numbers that no writing keeps to the last digit.
-    [[nodiscard]] virtual qsizetype inexactNumbers() const = 0;
+    /// How many numbers have another form, and members that were named again are gone, in a file
+    /// that was read again.
+    [[nodiscard]] virtual qsizetype rewrittenValues(const ChannelList &again) const = 0;
 
     /// The lists hold every station once.
     [[nodiscard]] bool areListed() const { return m_areListed; }

@@ -165,7 +165,7 @@ void compareDamagedTexts(const ChannelList &list, const ChannelList &again,
 qsizetype Rehearsal::weight() const
 {
     return missing.count + doubled.count + changed.count + renumbered.count + unread +
-           inexactNumbers + isRefused + losesTail + losesSurroundings + losesExtras +
+           rewrittenValues + isRefused + losesTail + losesSurroundings + losesExtras +
            mixesEncodings;
 }
 
@@ -188,7 +188,7 @@ Rehearsal rehearse(const ChannelList &list, const QByteArray &bytes)
         return result;
     }
     std::vector<Dictionary> surplus = compareStations(again, *content, result);
-    result.inexactNumbers = content->inexactNumbers();
+    result.rewrittenValues = content->rewrittenValues(again);
     result.mixesEncodings =
         contradictsDeclaration(again.text) && !contradictsDeclaration(list.text);
 

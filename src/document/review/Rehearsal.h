@@ -18,14 +18,16 @@ struct Rehearsal
         QStringList names; ///< of the first few
     };
 
-    bool isRefused = false;       ///< the bytes could not be opened again
-    Stations missing;             ///< no longer there
-    Stations doubled;             ///< there twice
-    Stations changed;             ///< with other content than they have
-    Stations renumbered;          ///< with another number than they have
-    qsizetype unread = 0;         ///< ITEM elements behind a fault of the file that was opened
-    qsizetype inexactNumbers = 0; ///< integers of a JSON list too long to be kept to the last digit
-    bool losesTail = false;       ///< what stands behind that fault
+    bool isRefused = false; ///< the bytes could not be opened again
+    Stations missing;       ///< no longer there
+    Stations doubled;       ///< there twice
+    Stations changed;       ///< with other content than they have
+    Stations renumbered;    ///< with another number than they have
+    qsizetype unread = 0;   ///< ITEM elements behind a fault of the file that was opened
+    /// Numbers of a JSON list that would have another form, and values of members named again that
+    /// would be gone.
+    qsizetype rewrittenValues = 0;
+    bool losesTail = false;         ///< what stands behind that fault
     bool losesSurroundings = false; ///< text before the first or after the last station
     bool losesExtras = false;       ///< comments, attributes or elements among the stations
     bool mixesEncodings = false;    ///< accented letters in another encoding than the file declares

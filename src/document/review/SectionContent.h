@@ -20,7 +20,7 @@ public:
     [[nodiscard]] bool losesMembers(const ChannelList &) const override { return false; }
     [[nodiscard]] bool losesMarkup(const QByteArray &before,
                                    const QByteArray &after) const override;
-    [[nodiscard]] qsizetype inexactNumbers() const override { return 0; }
+    [[nodiscard]] qsizetype rewrittenValues(const ChannelList &) const override { return 0; }
 };
 
 } // namespace quillet

@@ -1,0 +1,244 @@
+#include "xml/QuickJSON.h"
+
+#include "xml/JSONBuilder.h"
+
+#include <nlohmann/json.hpp>
+#include <simdjson.h>
+
+#include <algorithm>
+#include <charconv>
+#include <limits>
+#include <string_view>
+#include <utility>
+
+namespace quillet {
+
+namespace {
+
+namespace ondemand = simdjson::ondemand;
+
+/// Takes digits off the front; returns how many there were.
+qsizetype skipDigits(QByteArrayView &text)
+{
+    const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
+    const qsizetype count = std::find_if_not(text.begin(), text.end(), isDigit) - text.begin();
+    text = text.sliced(count);
+    return count;
+}
+
+bool skip(QByteArrayView &text, QByteArrayView anyOf)
+{
+    if (text.isEmpty() || !anyOf.contains(text.front()))
+        return false;
+    text = text.sliced(1);
+    return true;
+}
+
+enum class NumberKind { None, Integer, Real };
+
+NumberKind kindOfNumber(QByteArrayView text)
+{
+    skip(text, "-");
+    const bool startsWithZero = text.startsWith('0');
+    const qsizetype digits = skipDigits(text);
+    if (digits == 0 || (startsWithZero && digits > 1))
+        return NumberKind::None;
+    const bool isInteger = text.isEmpty();
+    if (skip(text, ".") && skipDigits(text) == 0)
+        return NumberKind::None;
+    if (skip(text, "eE")) {
+        skip(text, "+-");
+        if (skipDigits(text) == 0)
+            return NumberKind::None;
+    }
+    if (!text.isEmpty())
+        return NumberKind::None;
+    return isInteger ? NumberKind::Integer : NumberKind::Real;
+}
+
+template<typename Integer>
+std::optional<Integer> integerOf(QByteArrayView digits)
+{
+    Integer number = 0;
+    const auto [end, error] = std::from_chars(digits.begin(), digits.end(), number);
+    return error == std::errc() ? std::optional(number) : std::nullopt;
+}
+
+/// The library finds and checks the texts of a JSON text; what they mean is decided here, so that
+/// numbers are known by their text and strings with escapes are read by the one who writes them.
+class Reader
+{
+public:
+    explicit Reader(JSONBuilder &builder) : m_builder(builder) {}
+
+    /// False when the value is not as it should be, or out of the ordinary.
+    bool read(ondemand::value value)
+    {
+        ondemand::json_type type; // NOLINT(*-member-init): set below
+        if (value.type().get(type) != simdjson::SUCCESS)
+            return false;
+        switch (type) {
+        case ondemand::json_type::object:
+            return readObject(value.get_object());
+        case ondemand::json_type::array:
+            return readArray(value.get_array());
+        case ondemand::json_type::string: {
+            // Asked for its text, the library checks that it is no key; other values need no
+            // asking.
+            const QByteArrayView token = trimmed(value.raw_json_token());
+            return value.get_raw_json_string().error() == simdjson::SUCCESS && readText(token);
+        }
+        default:
+            return readScalar(trimmed(value.raw_json_token()));
+        }
+    }
+
+    bool readObject(simdjson::simdjson_result<ondemand::object> &&result)
+    {
+        ondemand::object object;
+        if (std::move(result).get(object) != simdjson::SUCCESS || !m_builder.open())
+            return false;
+        for (auto member : object) {
+            ondemand::field field;
+            if (std::move(member).get(field) != simdjson::SUCCESS || !readKey(field.key().raw()) ||
+                !read(field.value()))
+                return false;
+        }
+        m_builder.closeObject();
+        return true;
+    }
+
+    bool readArray(simdjson::simdjson_result<ondemand::array> &&result)
+    {
+        ondemand::array array;
+        if (std::move(result).get(array) != simdjson::SUCCESS || !m_builder.open())
+            return false;
+        for (auto element : array) {
+            ondemand::value value;
+            if (std::move(element).get(value) != simdjson::SUCCESS || !read(value))
+                return false;
+        }
+        m_builder.closeArray();
+        return true;
+    }
+
+private:
+    /// Without the blanks behind it.
+    static QByteArrayView trimmed(std::string_view token)
+    {
+        const std::size_t last = token.find_last_not_of(" \t\r\n");
+        return QByteArrayView(token.data(), static_cast<qsizetype>(last + 1)); // npos + 1 is 0
+    }
+
+    /// The key whose text begins here and ends with a quotation mark, which it surely has.
+    bool readKey(const char *text)
+    {
+        const char *end = text;
+        for (; *end != '"'; ++end) {
+            if (*end == '\\')
+                ++end;
+        }
+        const QByteArrayView key(text, end);
+        if (!key.contains('\\')) {
+            m_builder.key(key);
+            return true;
+        }
+        const std::optional<std::string> unescaped = unescapedText({text - 1, end + 1});
+        if (unescaped)
+            m_builder.key({unescaped->data(), static_cast<qsizetype>(unescaped->size())});
+        return unescaped.has_value();
+    }
+
+    bool readScalar(QByteArrayView token)
+    {
+        if (token == "true" || token == "false")
+            m_builder.add(Value(token == "true"));
+        else if (token == "null")
+            m_builder.add(Value());
+        else
+            return readNumber(token);
+        return true;
+    }
+
+    bool readText(QByteArrayView token)
+    {
+        if (token.size() < 2 || !token.endsWith('"'))
+            return false;
+        if (!token.contains('\\')) {
+            m_builder.addText(token.sliced(1, token.size() - 2));
+            return true;
+        }
+        const std::optional<std::string> text = unescapedText(token);
+        if (text)
+            m_builder.addText({text->data(), static_cast<qsizetype>(text->size())});
+        return text.has_value();
+    }
+
+    /// Of a string in its quotation marks; none for half a surrogate pair and other faults.
+    static std::optional<std::string> unescapedText(QByteArrayView token)
+    {
+        const auto text = nlohmann::ordered_json::parse(token.begin(), token.end(), nullptr, false);
+        return text.is_string() ? std::optional(text.get<std::string>()) : std::nullopt;
+    }
+
+    /// The nearest double, which is infinite beyond all others.
+    static double realOf(QByteArrayView token)
+    {
+        constexpr double infinity = std::numeric_limits<double>::infinity();
+        const auto number =
+            nlohmann::ordered_json::parse(token.begin(), token.end(), nullptr, false);
+        if (number.is_number())
+            return number.get<double>();
+        return token.startsWith('-') ? -infinity : infinity;
+    }
+
+    bool readNumber(QByteArrayView token)
+    {
+        const NumberKind kind = kindOfNumber(token);
+        if (kind == NumberKind::None)
+            return false;
+        const bool hasSign = token.startsWith('-');
+        if (kind == NumberKind::Integer && hasSign) {
+            if (const auto number = integerOf<qint64>(token)) {
+                *number == 0 ? m_builder.addNegativeZero() : m_builder.add(Value(*number));
+                return true;
+            }
+        } else if (kind == NumberKind::Integer) {
+            if (const auto number = integerOf<quint64>(token)) {
+                m_builder.addUnsigned(*number);
+                return true;
+            }
+        }
+        m_builder.addDouble(realOf(token), token);
+        return true;
+    }
+
+    JSONBuilder &m_builder;
+};
+
+} // namespace
+
+std::optional<Value> quickValueFromJSON(QByteArrayView text, qsizetype &rewritten)
+{
+    const simdjson::padded_string padded(std::string_view(text.data(), std::size_t(text.size())));
+    ondemand::parser parser;
+    ondemand::document document;
+    ondemand::json_type type; // NOLINT(*-member-init): set below
+    if (parser.iterate(padded).get(document) != simdjson::SUCCESS ||
+        document.type().get(type) != simdjson::SUCCESS)
+        return {};
+    JSONBuilder builder;
+    Reader reader(builder);
+    bool isRead = false;
+    if (type == ondemand::json_type::object)
+        isRead = reader.readObject(document.get_object());
+    else if (type == ondemand::json_type::array)
+        isRead = reader.readArray(document.get_array());
+    const bool isAtEnd = document.current_location().error() == simdjson::OUT_OF_BOUNDS;
+    if (!isRead || !isAtEnd)
+        return {};
+    rewritten = builder.rewritten();
+    return builder.takeValue();
+}
+
+} // namespace quillet

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "xml/Value.h"
+
+#include <QByteArrayView>
+
+#include <optional>
+
+namespace quillet {
+
+/// Decodes an object or array in JSON with all members and numbers as valueFromJSON gives them.
+/// None, which need not be a fault of the text, for anything out of the ordinary: StrictJSON tells.
+[[nodiscard]] std::optional<Value> quickValueFromJSON(QByteArrayView text, qsizetype &rewritten);
+
+} // namespace quillet

@@ -207,10 +207,11 @@ bool FileOperations::sync(QFile &file, QString &reason)
 #endif
 }
 
-bool FileOperations::readBack(const QString &path, QByteArray &bytes, QString &reason)
+bool FileOperations::readBack(const QString &path, const QByteArray &likely, QByteArray &bytes,
+                              QString &reason)
 {
     Error error;
-    if (readFile(QUrl::fromLocalFile(path), bytes, error))
+    if (readFile(QUrl::fromLocalFile(path), bytes, error, likely))
         return true;
     reason = error.localizedDescription;
     return false;

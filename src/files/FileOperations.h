@@ -36,7 +36,9 @@ public:
     /// Returns when the open file's bytes have reached the disk; on a file system that cannot tell,
     /// at once.
     virtual bool sync(QFile &file, QString &reason);
-    virtual bool readBack(const QString &path, QByteArray &bytes, QString &reason);
+    /// What the file holds; the likely bytes are shared when it is these.
+    virtual bool readBack(const QString &path, const QByteArray &likely, QByteArray &bytes,
+                          QString &reason);
     /// Puts one file in the place of another in a single step.
     virtual bool rename(const QString &from, const QString &to, QString &reason);
     /// Brings a rename in that folder onto the disk, on file systems that can. False only when the

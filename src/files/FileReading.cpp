@@ -93,15 +93,40 @@ QString openForReading(QFile &file)
 }
 #endif
 
-/// Reads the open file to its end; some that pass for ordinary ones have none, or no size.
-QString readAll(QFile &file, QByteArray &bytes)
+constexpr qint64 step = 0x10000;
+
+/// Reads the open file as far as it holds those bytes, and at the most one step beyond. Returns how
+/// many bytes it read, negative when that failed.
+qint64 readLikely(QFile &file, const QByteArray &likely, QByteArray &bytes)
 {
-    constexpr qint64 step = 0x10000;
+    QByteArray block(step, Qt::Uninitialized);
+    for (qint64 alike = 0;;) {
+        const qint64 taken = file.read(block.data(), step);
+        const auto read = QByteArrayView(block).first(qMax(taken, qint64{0}));
+        const bool isAlike = taken > 0 && alike + taken <= likely.size() &&
+                             QByteArrayView(likely).sliced(alike, taken) == read;
+        if (!isAlike) {
+            bytes = likely.left(alike);
+            bytes.append(read);
+            return taken < 0 ? taken : bytes.size();
+        }
+        alike += taken;
+    }
+}
+
+/// Reads the open file to its end; some that pass for ordinary ones have none, or no size.
+QString readAll(QFile &file, const QByteArray &likely, QByteArray &bytes)
+{
     const qint64 expected = file.size();
     if (expected > largestFile)
         return qtTrId("kFileTooLargeReason");
+    forgetSystemReason();
+    qint64 count = likely.isEmpty() ? 0 : readLikely(file, likely, bytes);
+    if (count < 0)
+        return qtTrId("kFileUnreadableReason").arg(lastSystemReason());
+    if (count > 0 && bytes.isSharedWith(likely))
+        return {};
     bytes.reserve(expected + step);
-    qint64 count = 0;
     while (count <= largestFile) {
         bytes.resize(qMax(expected, count + step));
         forgetSystemReason();
@@ -118,13 +143,13 @@ QString readAll(QFile &file, QByteArray &bytes)
     return qtTrId("kFileTooLargeReason");
 }
 
-QString read(const QString &path, QByteArray &bytes)
+QString read(const QString &path, const QByteArray &likely, QByteArray &bytes)
 {
     try {
         QFile file(path);
         QString obstacle = openForReading(file);
         if (obstacle.isEmpty())
-            obstacle = readAll(file, bytes);
+            obstacle = readAll(file, likely, bytes);
         return obstacle;
     } catch (const std::bad_alloc &) {
         return qtTrId("kNoMemoryReason");
@@ -133,10 +158,10 @@ QString read(const QString &path, QByteArray &bytes)
 
 } // namespace
 
-bool readFile(const QUrl &url, QByteArray &bytes, Error &error)
+bool readFile(const QUrl &url, QByteArray &bytes, Error &error, const QByteArray &likely)
 {
     const QString reason =
-        url.isLocalFile() ? read(url.toLocalFile(), bytes) : qtTrId("kNotALocalFileReason");
+        url.isLocalFile() ? read(url.toLocalFile(), likely, bytes) : qtTrId("kNotALocalFileReason");
     if (!reason.isEmpty())
         error = {QStringLiteral("FileReading"), 1, reason, url.toLocalFile()};
     return reason.isEmpty();

@@ -121,9 +121,9 @@ Error FileReplacement::replaceTarget(const QString &target, const QByteArray &by
     file.close();
 
     QByteArray found;
-    if (!m_operations.readBack(file.fileName(), found, reason))
+    if (!m_operations.readBack(file.fileName(), bytes, found, reason))
         return failure(Failure::Compare, qtTrId("kReadBackFailedReason").arg(reason));
-    if (found != bytes)
+    if (!found.isSharedWith(bytes) && found != bytes)
         return failure(Failure::Compare, qtTrId("kCompareFailedReason"));
     if (mayReplace && !mayReplace())
         return failure(Failure::Changed, {});

@@ -30,11 +30,11 @@ FileState FileState::remembered(const QString &path, const QByteArray &bytes)
     return state;
 }
 
-FileState FileState::at(const QString &path)
+FileState FileState::at(const QString &path, const QByteArray &likely)
 {
     FileState state = none(path);
     Error error;
-    state.m_exists = readFile(QUrl::fromLocalFile(path), state.m_bytes, error);
+    state.m_exists = readFile(QUrl::fromLocalFile(path), state.m_bytes, error, likely);
     if (state.m_exists)
         return state;
     state.m_bytes.clear();
@@ -69,7 +69,8 @@ FileState FileState::movedTo(const FileState &other) const
 
 bool FileState::hasSameContent(const FileState &other) const
 {
-    return m_exists == other.m_exists && m_obstacle == other.m_obstacle && m_bytes == other.m_bytes;
+    return m_exists == other.m_exists && m_obstacle == other.m_obstacle &&
+           (m_bytes.isSharedWith(other.m_bytes) || m_bytes == other.m_bytes);
 }
 
 bool FileState::isOnDeviceOf(const FileState &other) const

@@ -13,8 +13,9 @@ namespace quillet {
 class FileState
 {
 public:
-    /// What is there now.
-    [[nodiscard]] static FileState at(const QString &path);
+    /// What is there now. The bytes are shared with the likely ones where they are the same, which
+    /// takes less time and room than reading others.
+    [[nodiscard]] static FileState at(const QString &path, const QByteArray &likely = {});
     /// A file that was just read or written.
     [[nodiscard]] static FileState of(const QString &path, const QByteArray &bytes);
     /// A file that another run of the program had read or written, on whatever device, for those

@@ -77,7 +77,7 @@ void SaveJob::lookAtTheDisk(const QByteArray &bytes)
     // Meanwhile a window may have opened the file, or a link have been put in its place.
     if (isRefused())
         return;
-    const FileState now = FileState::at(m_path);
+    const FileState now = FileState::at(m_path, m_expected.bytes());
     FileState::Change change = now.changeSince(m_expected);
     if (change == FileState::Change::None && m_attempts < mostAttempts)
         return keepOld(now, bytes);
@@ -117,7 +117,8 @@ void SaveJob::replace(const QByteArray &bytes)
     FileReplacement replacement(m_operations);
     const auto isAsExpected = [this] {
         return placeOf(m_path) == m_place &&
-               FileState::at(m_path).changeSince(m_expected) == FileState::Change::None;
+               FileState::at(m_path, m_expected.bytes()).changeSince(m_expected) ==
+                   FileState::Change::None;
     };
     const bool isWritten = replacement.replace(m_path, bytes, error, isAsExpected);
     if (isWritten || error.code == static_cast<int>(FileReplacement::Failure::Folder))

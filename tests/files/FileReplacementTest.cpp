@@ -112,9 +112,11 @@ public:
     {
         return !fails(Fault::Sync, reason) && FileOperations::sync(file, reason);
     }
-    bool readBack(const QString &path, QByteArray &bytes, QString &reason) override
+    bool readBack(const QString &path, const QByteArray &likely, QByteArray &bytes,
+                  QString &reason) override
     {
-        return !fails(Fault::ReadBack, reason) && FileOperations::readBack(path, bytes, reason);
+        return !fails(Fault::ReadBack, reason) &&
+               FileOperations::readBack(path, likely, bytes, reason);
     }
     bool rename(const QString &from, const QString &to, QString &reason) override
     {

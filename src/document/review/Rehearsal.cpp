@@ -7,9 +7,7 @@
 #include "model/FileWords.h"
 
 #include <algorithm>
-#include <exception>
 #include <memory>
-#include <thread>
 #include <utility>
 
 namespace quillet {
@@ -17,46 +15,6 @@ namespace quillet {
 namespace {
 
 constexpr qsizetype mostNames = 3;
-
-/// Frees lists, one at a time, beside the thread that has read them and has better things to do: it
-/// takes a tenth of the time of reading. Where no thread can be had, frees them itself; a thread
-/// pool would wait for that one for ever when the program ends.
-class Freeing
-{
-public:
-    Freeing() = default;
-    Freeing(const Freeing &) = delete;
-    Freeing &operator=(const Freeing &) = delete;
-    ~Freeing() { wait(); }
-
-    void free(ChannelList *list) noexcept
-    {
-        wait();
-        try {
-            m_thread = std::thread([list] { delete list; });
-        } catch (const std::exception &) {
-            delete list;
-        }
-    }
-
-private:
-    void wait()
-    {
-        if (m_thread.joinable())
-            m_thread.join();
-    }
-
-    std::thread m_thread;
-};
-
-struct FreedBeside
-{
-    void operator()(ChannelList *list) const
-    {
-        thread_local Freeing freeing;
-        freeing.free(list);
-    }
-};
 
 void count(Rehearsal::Stations &stations, const Dictionary &entry, const ListContent &content)
 {
@@ -174,8 +132,7 @@ Rehearsal rehearse(const ChannelList &list, const QByteArray &bytes)
     const std::unique_ptr<ListContent> content = ListContent::of(list);
     const QByteArray before = list.text.utf8();
     Rehearsal result;
-    const std::unique_ptr<ChannelList, FreedBeside> second(new ChannelList);
-    ChannelList &again = *second;
+    ChannelList again;
     if (readInto(again, bytes) != Reading::Done) {
         result.isRefused = !before.isEmpty();
         for (const FiledStation &filed : list.lists.roll())

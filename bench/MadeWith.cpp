@@ -15,7 +15,8 @@ namespace quillet::bench {
 std::string madeWith()
 {
 #if defined(__clang__)
-    const std::string compiler = "clang " __clang_version__;
+    const std::string compiler =
+        "clang " + QString::fromLatin1(__clang_version__).trimmed().toStdString();
 #elif defined(__GNUC__)
     const std::string compiler = "gcc " __VERSION__;
 #else

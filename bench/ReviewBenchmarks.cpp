@@ -113,7 +113,7 @@ void addReviewRows(Rows &rows, const Lists &lists)
     };
     addAll("real-1000", true, Counted::Always);
     addAll("real-10000", true, Counted::OnRequest);
-    addAll("real-100000", true, Counted::Never);
+    addAll("real-50000", true, Counted::Never);
     addAll("plain-10000", true, Counted::OnRequest);
     addAll("real-json-1254", false, Counted::Always);
     addAll("json-10000", false, Counted::OnRequest);

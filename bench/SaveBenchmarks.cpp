@@ -63,7 +63,7 @@ void addSaveRows(Rows &rows, const Lists &lists)
     };
     add("save", "real-1000", false, Counted::Always);
     add("save", "real-10000", false, Counted::OnRequest);
-    add("save", "real-100000", false, Counted::Never);
+    add("save", "real-50000", false, Counted::Never);
     add("save", "plain-10000", false, Counted::OnRequest);
     add("save-edited", "real-1000", true, Counted::Always);
     add("save-edited", "plain-10000", true, Counted::OnRequest);

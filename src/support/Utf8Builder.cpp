@@ -49,28 +49,6 @@ void Utf8Builder::appendNumber(qint64 number)
 
 void Utf8Builder::appendEncoded(QStringView text)
 {
-    const auto *in = text.utf16();
-    const auto *const end = in + text.size();
-    const auto byte = [](int bits) { return static_cast<char>(bits); };
-    char *out = room(3 * text.size());
-    char *const letters = out;
-    for (; in != end && !QChar::isSurrogate(*in); ++in) {
-        const int u = *in;
-        if (u < 0x80) {
-            *out++ = byte(u);
-        } else if (u < 0x800) {
-            *out++ = byte(0xC0 | u >> 6);
-            *out++ = byte(0x80 | (u & 0x3F));
-        } else {
-            *out++ = byte(0xE0 | u >> 12);
-            *out++ = byte(0x80 | (u >> 6 & 0x3F));
-            *out++ = byte(0x80 | (u & 0x3F));
-        }
-    }
-    m_size += out - letters;
-    if (in == end)
-        return;
-    text = {in, end};
     QStringEncoder encoder(QStringConverter::Utf8, QStringConverter::Flag::Stateless);
     char *const start = room(encoder.requiredSpace(text.size()));
     m_size += encoder.appendToBuffer(start, text) - start;

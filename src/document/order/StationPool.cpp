@@ -27,20 +27,36 @@ bool foldsAlone(char16_t u)
            (u >= 0x391 && u < 0x3B0) || (u > 0x3B0 && u < 0x530);
 }
 
-/// As QString::toCaseFolded, which takes its time over the few letters that are not ASCII.
+constexpr char16_t foldedASCII(char16_t u)
+{
+    const auto place = static_cast<char16_t>(u - u'A');
+    return static_cast<char16_t>(u + (place < 26 ? u'a' - u'A' : 0));
+}
+
+/// As QString::toCaseFolded, which takes its time over the few letters that are not ASCII. Makes
+/// use of the room that there is.
+void fold(const QString &name, QString &folded)
+{
+    folded.resize(name.size());
+    const auto *in = QStringView(name).utf16();
+    const auto *const end = in + name.size();
+    auto *out = reinterpret_cast<char16_t *>(folded.data());
+    for (; in != end; ++in) {
+        if (*in < 0x80) {
+            *out++ = foldedASCII(*in);
+        } else if (foldsAlone(*in)) {
+            *out++ = QChar(*in).toCaseFolded().unicode();
+        } else {
+            folded = name.toCaseFolded();
+            return;
+        }
+    }
+}
+
 QString withoutCase(const QString &name)
 {
-    QString folded(name.size(), Qt::Uninitialized);
-    auto *out = reinterpret_cast<char16_t *>(folded.data());
-    for (const QChar c : name) {
-        const char16_t u = c.unicode();
-        if (u < 0x80)
-            *out++ = static_cast<char16_t>(u | (static_cast<unsigned>(u - u'A') < 26 ? 0x20 : 0));
-        else if (foldsAlone(u))
-            *out++ = c.toCaseFolded().unicode();
-        else
-            return name.toCaseFolded();
-    }
+    QString folded;
+    fold(name, folded);
     return folded;
 }
 
@@ -148,7 +164,8 @@ StationPool::Match StationPool::findName(const QString &name)
     const auto key = [](const LGStation &station) {
         return std::optional(withoutCase(station.name()));
     };
-    return index(m_byName, key).find(withoutCase(name), m_stations);
+    fold(name, m_wanted);
+    return index(m_byName, key).find(m_wanted, m_stations);
 }
 
 StationPtr StationPool::take(std::size_t index)

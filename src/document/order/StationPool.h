@@ -45,6 +45,7 @@ private:
 
     StationList m_stations; ///< null where one was taken
     std::size_t m_left = 0;
+    QString m_wanted; ///< a name without its case
     // Made when first needed.
     std::optional<StationIndex> m_byService;
     std::optional<StationIndex> m_byTransport; ///< service and transport stream

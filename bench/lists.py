@@ -6,6 +6,7 @@ their transponders, all with attributes, take a third of the bytes; channels hav
 station is invented, and the same bytes come out on every run.
 """
 
+import argparse
 import itertools
 import json
 import pathlib
@@ -192,15 +193,17 @@ LISTS = [
 
 
 def main():
-    if len(sys.argv) != 2 or sys.argv[1].startswith("-"):
-        sys.exit("usage: bench/lists.py FOLDER   writes there the lists that are measured")
-    folder = pathlib.Path(sys.argv[1])
-    folder.mkdir(parents=True, exist_ok=True)
+    parser = argparse.ArgumentParser(description="Writes the lists that are measured.")
+    parser.add_argument("folder", type=pathlib.Path)
+    parser.add_argument("--most", type=int, metavar="N", help="only lists of so many stations at most")
+    options = parser.parse_args()
+    options.folder.mkdir(parents=True, exist_ok=True)
     newest = max(source.stat().st_mtime for source in (pathlib.Path(__file__), samples / "generate.py"))
     for name, make, sizes in LISTS:
         for size in sizes:
-            path = folder / ("%s-%d.tll" % (name, size))
-            if not path.exists() or path.stat().st_mtime < newest:
+            path = options.folder / ("%s-%d.tll" % (name, size))
+            is_there = path.exists() and path.stat().st_mtime >= newest
+            if not is_there and (options.most is None or size <= options.most):
                 unfinished = path.with_suffix(".new")
                 make(unfinished, size)
                 unfinished.replace(path)

@@ -17,10 +17,14 @@ void print(std::optional<double> figure)
 
 } // namespace
 
+bool RatioTable::Row::isMeasured() const
+{
+    return (isOfInstructions ? byInstructions : byTime).has_value();
+}
+
 bool RatioTable::Row::isGood() const
 {
-    const std::optional<double> &measured = isOfInstructions ? byInstructions : byTime;
-    return measured && (!wanted || *measured <= *wanted);
+    return isMeasured() && (!wanted || (isOfInstructions ? byInstructions : byTime) <= wanted);
 }
 
 void RatioTable::print() const
@@ -35,9 +39,11 @@ void RatioTable::print() const
         bench::print(row.byTime);
         bench::print(row.byInstructions);
         if (row.wanted)
-            std::printf("  %6.2f  %s\n", *row.wanted, row.isGood() ? "ok" : "OVER");
+            std::printf("  %6.2f", *row.wanted);
         else
-            std::printf("  %6s  %s\n", "-", row.isGood() ? "" : "not measured");
+            std::printf("  %6s", "-");
+        const char *verdict = row.isGood() ? "ok" : "OVER";
+        std::printf("  %s\n", !row.isMeasured() ? "not measured" : row.wanted ? verdict : "");
     }
 }
 

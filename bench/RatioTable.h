@@ -18,6 +18,7 @@ public:
         std::optional<double> wanted = {}; ///< none: the row is for information
         bool isOfInstructions = false;     ///< and so compared with what is wanted; else the time
 
+        [[nodiscard]] bool isMeasured() const;
         /// What could not be measured does not pass.
         [[nodiscard]] bool isGood() const;
     };

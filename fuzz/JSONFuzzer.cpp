@@ -17,7 +17,7 @@ using namespace quillet::testing;
 namespace {
 
 /// The quick way takes nothing that the strict one would read otherwise.
-void checkWays(const QByteArray &text)
+void checkWays(QByteArray text)
 {
     JSONError error;
     qsizetype rewritten = 0, strictRewritten = 0;

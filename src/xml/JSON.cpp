@@ -6,7 +6,7 @@
 
 namespace quillet {
 
-std::optional<Value> valueFromJSON(QByteArrayView text, JSONError &error, qsizetype *rewritten)
+std::optional<Value> valueFromJSON(QByteArray text, JSONError &error, qsizetype *rewritten)
 {
     qsizetype count = 0;
     std::optional<Value> value = quickValueFromJSON(text, count);

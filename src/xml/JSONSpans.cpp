@@ -102,7 +102,7 @@ bool spells(QByteArrayView string, QByteArrayView utf8)
     if (!string.contains('\\'))
         return string.size() == utf8.size() + 2 && string.sliced(1).startsWith(utf8);
     JSONError unused;
-    const std::optional<Value> text = valueFromJSON(string, unused);
+    const std::optional<Value> text = valueFromJSON(string.toByteArray(), unused);
     return text && text->string() && text->string()->toUtf8() == utf8;
 }
 

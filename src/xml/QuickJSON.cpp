@@ -218,9 +218,11 @@ private:
 
 } // namespace
 
-std::optional<Value> quickValueFromJSON(QByteArrayView text, qsizetype &rewritten)
+std::optional<Value> quickValueFromJSON(QByteArray &text, qsizetype &rewritten)
 {
-    const simdjson::padded_string padded(std::string_view(text.data(), std::size_t(text.size())));
+    text.reserve(text.size() + qsizetype(simdjson::SIMDJSON_PADDING));
+    const simdjson::padded_string_view padded(text.constData(), std::size_t(text.size()),
+                                              std::size_t(text.capacity()));
     ondemand::parser parser;
     ondemand::document document;
     ondemand::json_type type; // NOLINT(*-member-init): set below

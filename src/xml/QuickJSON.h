@@ -2,7 +2,7 @@
 
 #include "xml/Value.h"
 
-#include <QByteArrayView>
+#include <QByteArray>
 
 #include <optional>
 
@@ -10,6 +10,7 @@ namespace quillet {
 
 /// Decodes an object or array in JSON with all members and numbers as valueFromJSON gives them.
 /// None, which need not be a fault of the text, for anything out of the ordinary: StrictJSON tells.
-[[nodiscard]] std::optional<Value> quickValueFromJSON(QByteArrayView text, qsizetype &rewritten);
+/// The text keeps its content and gets some room behind it, which saves copying a long one.
+[[nodiscard]] std::optional<Value> quickValueFromJSON(QByteArray &text, qsizetype &rewritten);
 
 } // namespace quillet

@@ -82,7 +82,8 @@ private slots:
         QVERIFY(written);
         QCOMPARE(parsed(*written), std::optional(value));
         qsizetype unused = 0;
-        QCOMPARE(quickValueFromJSON('[' + text + ']', unused), std::optional<Value>(Array{value}));
+        QByteArray element = '[' + text + ']';
+        QCOMPARE(quickValueFromJSON(element, unused), std::optional<Value>(Array{value}));
     }
 
     void compactAndInOrder()
@@ -175,7 +176,7 @@ private slots:
     /// What both ways of decoding could get to see.
     void brokenInside()
     {
-        QFETCH(const QByteArray, text);
+        QFETCH(QByteArray, text);
         JSONError error;
         qsizetype unused = 0;
         QVERIFY(!quickValueFromJSON(text, unused));
@@ -197,7 +198,7 @@ private slots:
     }
     void forms()
     {
-        QFETCH(const QByteArray, text);
+        QFETCH(QByteArray, text);
         JSONError error;
         qsizetype quick = 0, strict = 0;
         QVERIFY(quickValueFromJSON(text, quick));

@@ -3,7 +3,7 @@
 #include "document/list/LegacyBroadcast.h"
 #include "document/list/StationLists.h"
 
-#include <QByteArrayView>
+#include <QByteArray>
 
 #include <vector>
 
@@ -23,7 +23,6 @@ struct NumberedChannel
 
 /// Decodes the JSON and files its television stations in the order of their numbers; the lists are
 /// made anew. Returns how many stand in the first source's list.
-qsizetype extractLegacyStations(LegacyBroadcast &broadcast, QByteArrayView json,
-                                StationLists &lists);
+qsizetype extractLegacyStations(LegacyBroadcast &broadcast, QByteArray json, StationLists &lists);
 
 } // namespace quillet

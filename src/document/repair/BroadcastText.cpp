@@ -64,14 +64,11 @@ BroadcastText::BroadcastText(QByteArray content, CharacterData data)
 {
 }
 
-QByteArray BroadcastText::withChannels(const std::vector<PlacedChannel> &channels) const
+void BroadcastText::appendWith(const std::vector<PlacedChannel> &channels, QByteArray &output) const
 {
-    if (channels.size() != m_channels.size())
-        return m_content;
-    QByteArray output;
-    output.reserve(m_content.size() + m_content.size() / 8);
     qsizetype next = 0;
-    for (std::size_t place = 0; place < channels.size(); ++place) {
+    const bool areAsMany = channels.size() == m_channels.size();
+    for (std::size_t place = 0; areAsMany && place < channels.size(); ++place) {
         if (channels[place].source == place && !channels[place].edited)
             continue;
         append({next, m_channels[place].start}, output);
@@ -79,7 +76,6 @@ QByteArray BroadcastText::withChannels(const std::vector<PlacedChannel> &channel
         next = m_channels[place].end;
     }
     append({next, m_data.text().size()}, output);
-    return output;
 }
 
 void BroadcastText::append(const JSONSpan &span, QByteArray &output) const

@@ -26,10 +26,10 @@ public:
     /// Of the content of the JSON's element, and what that says, which was decoded.
     BroadcastText(QByteArray content, CharacterData data);
 
-    /// The content with other channels in the places, of which there must be as many. A member that
-    /// changes does so wherever it is named; one that is new stands behind all others, after blanks
-    /// like theirs.
-    [[nodiscard]] QByteArray withChannels(const std::vector<PlacedChannel> &channels) const;
+    /// Appends the content with other channels in the places, of which there must be as many. A
+    /// member that changes does so wherever it is named; one that is new stands behind all others,
+    /// after blanks like theirs.
+    void appendWith(const std::vector<PlacedChannel> &channels, QByteArray &output) const;
 
 private:
     void append(const JSONSpan &span, QByteArray &output) const;

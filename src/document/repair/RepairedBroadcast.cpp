@@ -135,7 +135,7 @@ QByteArray repairedChannels(const ChannelList &list, const QByteArray &text)
         if (json.in(text).trimmed().isEmpty())
             return text; // a CDATA block without an end
     }
-    QByteArray content = json.in(text).toByteArray();
+    QByteArray content = QByteArray::fromRawData(json.in(text).data(), json.end - json.start);
     QByteArray markup;
     std::optional<CharacterData> data = CharacterData::decode(content);
     if (!data) {
@@ -144,9 +144,12 @@ QByteArray repairedChannels(const ChannelList &list, const QByteArray &text)
         data = CharacterData::decode(content);
     }
     const Array read = list.broadcast.channelList();
-    const BroadcastText broadcast(content, *data);
-    return text.first(json.start) + broadcast.withChannels(placedChannels(list, read)) + markup +
-           text.sliced(json.end);
+    QByteArray repaired;
+    repaired.reserve(text.size() + text.size() / 8);
+    repaired.append(QByteArrayView(text).first(json.start));
+    BroadcastText(content, *std::move(data)).appendWith(placedChannels(list, read), repaired);
+    repaired.append(markup);
+    return repaired.append(QByteArrayView(text).sliced(json.end));
 }
 
 } // namespace quillet

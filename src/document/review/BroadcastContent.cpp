@@ -92,14 +92,23 @@ Dictionary BroadcastContent::surroundings(const Dictionary &tree) const
     const Dictionary *found = channel ? channel->dictionary() : nullptr;
     if (!found)
         return result;
-    Dictionary rest = *found;
-    const Dictionary *broadcast = rest.dictionary(fileword::legacyBroadcast);
-    if (broadcast && (hasAttributes(*broadcast) || hasChildNodes(*broadcast))) {
-        Dictionary node = *broadcast;
-        node.remove(nodekey::text);
-        rest.insert(fileword::legacyBroadcast.toString(), node);
-    } else {
-        rest.remove(fileword::legacyBroadcast);
+    Dictionary rest;
+    const qsizetype place = found->indexOf(fileword::legacyBroadcast);
+    for (qsizetype i = 0; i < found->count(); ++i) {
+        if (found->isAsNoted()) { // texts, of which the long one would take much room
+            if (i != place)
+                rest.insert(found->keys()->at(i), found->text(i).value_or(QString()));
+            continue;
+        }
+        const auto &[key, value] = found->at(i);
+        const Dictionary *broadcast = i == place ? value.dictionary() : nullptr;
+        if (i != place) {
+            rest.insert(key, value);
+        } else if (broadcast && (hasAttributes(*broadcast) || hasChildNodes(*broadcast))) {
+            Dictionary node = *broadcast;
+            node.remove(nodekey::text);
+            rest.insert(key, node);
+        }
     }
     *channel = rest;
     return result;
@@ -133,12 +142,13 @@ qsizetype BroadcastContent::formsEditedAway() const
         for (const JSONMember &member : membersInJSON(json, channel.start)) {
             JSONError unused;
             qsizetype forms = 0;
-            const std::optional<Value> name = valueFromJSON(member.name.in(json), unused);
+            const std::optional<Value> name =
+                valueFromJSON(member.name.in(json).toByteArray(), unused);
             const QString key = name && name->string() ? *name->string() : QString();
             const Value *now = station->entry().find(key);
             const Value *then = before.find(key);
             const bool isEdited = !now || !then || !(*now == *then);
-            if (isEdited && valueFromJSON(member.value.in(json), unused, &forms))
+            if (isEdited && valueFromJSON(member.value.in(json).toByteArray(), unused, &forms))
                 count += forms;
         }
     }

@@ -1,6 +1,7 @@
 #include "xml/PlainScanner.h"
 
 #include "support/TextConversion.h"
+#include "xml/NodeViews.h"
 #include "xml/PlainText.h"
 
 #include <algorithm>
@@ -53,6 +54,12 @@ bool isBeyondAscii(char c)
     return static_cast<unsigned char>(c) >= 0x80;
 }
 
+/// Whether no blank that trimming takes away stands there.
+bool isTrimmed(char edge)
+{
+    return !isAsciiBlank(edge) && !isBeyondAscii(edge);
+}
+
 /// The bytes of one that nobody else may change or free.
 QByteArray owned(QByteArray bytes)
 {
@@ -84,6 +91,8 @@ std::optional<Dictionary> PlainScanner::tree(const XMLDictionaryParser::Settings
         !isPlainText(utf8))
         return {};
     m_texts->reserve(static_cast<std::size_t>(utf8.size() / bytesPerText));
+    m_notesAttributes =
+        settings.attributesMode == XMLDictionaryParser::AttributesMode::AttributesPrefixed;
     TreeBuilder builder(settings, utf8);
     if (!readElement(builder))
         return {};
@@ -148,17 +157,16 @@ PlainScanner::Name *PlainScanner::readName(const char *&at)
 /// Goes to the end of a start tag. What reading would replace in a value is not taken.
 bool PlainScanner::readAttributes(const char *&at)
 {
-    m_attributeNames.clear();
-    m_attributeValues.clear();
+    m_attributes.clear();
     for (;;) {
         const char *const start = std::exchange(at, skipBlanks(at));
         if (*at == '>' || *at == '/')
-            break;
+            return true;
         Name *name = at == start ? nullptr : readName(at);
-        const bool isKnown = std::find(m_attributeNames.begin(), m_attributeNames.end(), name) !=
-                             m_attributeNames.end();
+        const bool isKnown = std::any_of(m_attributes.begin(), m_attributes.end(),
+                                         [name](const auto &each) { return each.name == name; });
         if (!name || isKnown || name->text.startsWith("xml") ||
-            m_attributeNames.size() == mostAttributes || at[0] != '=' ||
+            m_attributes.size() == mostAttributes || at[0] != '=' ||
             (at[1] != '"' && at[1] != '\''))
             return false;
         const char quote = at[1];
@@ -168,17 +176,9 @@ bool PlainScanner::readAttributes(const char *&at)
                 return false;
             ++at;
         }
-        m_attributeNames.push_back(name);
-        m_attributeValues.emplace_back(value, at - value);
+        m_attributes.push_back({name, {value, at - value}});
         ++at;
     }
-    m_attributes.clear();
-    for (std::size_t i = 0; i < m_attributeNames.size(); ++i) {
-        m_attributes.push_back(m_attributeNames[i]->text.constData());
-        m_attributes.push_back(m_attributeValues[i].constData());
-    }
-    m_attributes.push_back(nullptr);
-    return true;
 }
 
 /// Reads an element that can be noted, or else the start of one.
@@ -186,31 +186,39 @@ bool PlainScanner::readElement(TreeBuilder &builder)
 {
     const char *at = m_at + 1;
     Name *name = readName(at);
-    if (!name)
+    if (!name || !readAttributes(at))
         return false;
-    if (*at == '>') {
-        ++at;
-        if (!m_open.empty() && noteElement(*name, at, builder))
+    const bool isEmpty = *at == '/';
+    if (isEmpty && *++at != '>')
+        return false;
+    const char *const start = at + 1;
+    if (!m_open.empty() && !isEmpty) {
+        const bool isPlain = start - m_at == name->startTag.size();
+        if (isPlain ? noteElement(*name, start, builder)
+                    : noteAttributed(*name, m_at, start, builder))
             return true;
-        m_attributes = {nullptr};
-    } else if (!readAttributes(at)) {
-        return false;
-    } else if (*at == '/') {
-        if (at[1] != '>')
-            return false;
-        m_at = at + 2;
-        builder.startElement(name->text.constData(), m_attributes.data());
+    }
+    m_at = start;
+    startElement(*name, builder);
+    if (isEmpty) {
         builder.endElement();
         return true;
-    } else {
-        ++at;
     }
-    if (m_open.size() == deepest)
-        return false;
-    m_at = at;
     m_open.push_back(name);
-    builder.startElement(name->text.constData(), m_attributes.data());
-    return true;
+    return m_open.size() <= deepest;
+}
+
+void PlainScanner::startElement(const Name &name, TreeBuilder &builder)
+{
+    std::vector<QByteArray> values; // each followed by a null
+    std::vector<const char *> attributes;
+    values.reserve(m_attributes.size());
+    for (const auto &[attribute, value] : m_attributes) {
+        attributes.push_back(attribute->text.constData());
+        attributes.push_back(values.emplace_back(value.toByteArray()).constData());
+    }
+    attributes.push_back(nullptr);
+    builder.startElement(name.text.constData(), attributes.data());
 }
 
 /// Goes to the tag behind a text.
@@ -363,12 +371,77 @@ bool PlainScanner::noteElement(Name &element, const char *start, TreeBuilder &bu
     }
     m_at = at + element.endTag.size();
     const char *const whole = start - element.startTag.size();
-    const ReadElement place{.start = offset(whole),
-                            .size = static_cast<quint32>(m_at - whole) & 0x7FFFFFFF,
-                            .isInLines = isInLines};
-    builder.addElement(element.text.constData(),
-                       {element.keys, NotedTexts{m_texts, static_cast<quint32>(first), place}});
+    addNoted(element, element.keys, first, elementFrom(whole, isInLines), builder);
     return true;
+}
+
+/// The same for one that has attributes and, perhaps, a text.
+bool PlainScanner::noteAttributed(Name &element, const char *tag, const char *start,
+                                  TreeBuilder &builder)
+{
+    const auto isNoted = [](const Attribute &attribute) {
+        const QByteArrayView value = attribute.value;
+        return !attribute.name->text.startsWith('_') && !value.isEmpty() &&
+               isTrimmed(value.front()) && isTrimmed(value.back());
+    };
+    if (!m_notesAttributes || m_attributes.empty() ||
+        !std::all_of(m_attributes.begin(), m_attributes.end(), isNoted))
+        return false;
+    bool isEncoded = false;
+    const char *const end = endOfText(start, isEncoded);
+    if (!end || !standsAt(end, m_end, element.endTag))
+        return false;
+    const std::optional<Content> text = content(start, end, isEncoded);
+    if (!text)
+        return false;
+    const std::size_t first = m_texts->count();
+    const bool hasText = text->text.size > 0;
+    bool haveSameKeys = element.attributedKeys && element.hasText == hasText &&
+                        element.attributes.size() == m_attributes.size();
+    for (std::size_t i = 0; i < m_attributes.size(); ++i) {
+        const auto &[name, value] = m_attributes[i];
+        haveSameKeys = haveSameKeys && element.attributes[i] == name;
+        m_texts->add({.start = offset(value.data()),
+                      .size = static_cast<quint32>(value.size()) & 0x7FFFFFFF,
+                      .isEncoded = false});
+    }
+    if (hasText)
+        m_texts->add(text->text);
+    if (!haveSameKeys)
+        noteKeys(element, hasText);
+    m_at = end + element.endTag.size();
+    addNoted(element, element.attributedKeys, first, elementFrom(tag, false), builder);
+    return true;
+}
+
+/// Those of an element with the attributes that were read last.
+void PlainScanner::noteKeys(Name &element, bool hasText) const
+{
+    element.attributes.clear();
+    element.hasText = hasText;
+    element.attributedKeys.reset(new KeyTable);
+    for (const Attribute &attribute : m_attributes) {
+        element.attributes.push_back(attribute.name);
+        element.attributedKeys->append(nodekey::attributePrefix +
+                                       QString::fromLatin1(attribute.name->text));
+    }
+    if (hasText)
+        element.attributedKeys->append(nodekey::text.toString());
+}
+
+/// One that ends here.
+ReadElement PlainScanner::elementFrom(const char *tag, bool isInLines) const
+{
+    return {.start = offset(tag),
+            .size = static_cast<quint32>(m_at - tag) & 0x7FFFFFFF,
+            .isInLines = isInLines};
+}
+
+void PlainScanner::addNoted(const Name &element, const Dictionary::Keys &keys, std::size_t first,
+                            const ReadElement &place, TreeBuilder &builder) const
+{
+    builder.addElement(element.text.constData(),
+                       {keys, NotedTexts{m_texts, static_cast<quint32>(first), place}});
 }
 
 } // namespace quillet

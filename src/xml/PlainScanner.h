@@ -17,7 +17,8 @@ namespace quillet {
 /// text with the five predefined references. Whatever is otherwise (a comment, a CDATA section, a
 /// character reference, a fault) makes it give up, and EventParser is asked about the whole text;
 /// so it knows no errors. What it takes becomes the very tree that EventParser's events would make.
-/// Elements that hold nothing but texts are only noted where these stand. Lives for one text.
+/// Elements that hold nothing but texts, or attributes and a text, are only noted where these
+/// stand. Lives for one text.
 class PlainScanner
 {
 public:
@@ -41,6 +42,15 @@ private:
         Name *firstField = nullptr;
         std::vector<Name *> fields;
         Dictionary::Keys keys;
+        // Of the last one that was noted with its attributes:
+        std::vector<Name *> attributes;
+        bool hasText = false;
+        Dictionary::Keys attributedKeys;
+    };
+    struct Attribute
+    {
+        Name *name;
+        QByteArrayView value;
     };
     struct Content
     {
@@ -52,6 +62,7 @@ private:
     [[nodiscard]] Name *readName(const char *&at);
     bool readAttributes(const char *&at);
     bool readElement(TreeBuilder &builder);
+    void startElement(const Name &name, TreeBuilder &builder);
     bool readText(TreeBuilder &builder);
     bool readEndTag(TreeBuilder &builder);
 
@@ -61,6 +72,11 @@ private:
     [[nodiscard]] Name *fieldAt(const char *&at, Name *expected);
     bool noteFields(Name &element, const char *&at, bool &isInLines);
     bool noteElement(Name &element, const char *start, TreeBuilder &builder);
+    bool noteAttributed(Name &element, const char *tag, const char *start, TreeBuilder &builder);
+    void noteKeys(Name &element, bool hasText) const;
+    [[nodiscard]] ReadElement elementFrom(const char *tag, bool isInLines) const;
+    void addNoted(const Name &element, const Dictionary::Keys &keys, std::size_t first,
+                  const ReadElement &place, TreeBuilder &builder) const;
     [[nodiscard]] quint32 offset(const char *at) const
     {
         return static_cast<quint32>(at - m_start);
@@ -73,11 +89,10 @@ private:
     std::deque<Name> m_names;
     QHash<QByteArrayView, Name *> m_namesByText;
     std::vector<Name *> m_open;
-    std::vector<Name *> m_attributeNames;
-    std::vector<QByteArray> m_attributeValues;
-    std::vector<const char *> m_attributes; ///< the same, as a builder takes them
-    quint64 m_elements = 0;                 ///< that were looked at for fields
-    std::vector<Name *> m_fields;           ///< of the one that is looked at
+    std::vector<Attribute> m_attributes; ///< of the start tag that was read last
+    bool m_notesAttributes = false;
+    quint64 m_elements = 0;       ///< that were looked at for fields
+    std::vector<Name *> m_fields; ///< of the one that is looked at
 };
 
 } // namespace quillet

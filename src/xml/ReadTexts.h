@@ -16,13 +16,13 @@ struct ReadText
     quint32 isEncoded : 1; ///< it holds what reading replaces: references, line ends
 };
 
-/// Where an element stands that has nothing but children with nothing but text.
+/// Where an element stands whose texts were noted.
 struct ReadElement
 {
     quint32 start;
     quint32 size : 31;
-    /// Each tag of a child follows a CR LF at once, its end tag too, and no text is encoded or has
-    /// blanks around it.
+    /// It has no attributes, each tag of a child follows a CR LF at once, its end tag too, and no
+    /// text is encoded or has blanks around it.
     quint32 isInLines : 1;
 };
 

@@ -28,8 +28,15 @@ TreeBuilder::TreeBuilder(const XMLDictionaryParser::Settings &settings, QByteArr
 
 inline TreeBuilder::AddressSlot &TreeBuilder::slotOf(const char *name, Addresses &addresses)
 {
+    constexpr std::size_t probes = 4; // so that hardly any two names need the same one
     const auto address = reinterpret_cast<quintptr>(name);
-    return addresses[(address ^ (address >> 8)) % addresses.size()];
+    const std::size_t first = (address * 0x9E3779B97F4A7C15) >> 48;
+    for (std::size_t i = 0; i < probes; ++i) {
+        AddressSlot &slot = addresses[(first + i) % addresses.size()];
+        if (slot.address == name || !slot.address)
+            return slot;
+    }
+    return addresses[first % addresses.size()];
 }
 
 inline TreeBuilder::Name &TreeBuilder::nameAt(const char *name)

@@ -72,7 +72,7 @@ private:
         bool hasGaps = false; ///< some were removed
     };
 
-    using Addresses = std::array<AddressSlot, 256>;
+    using Addresses = std::array<AddressSlot, 1024>;
 
     static AddressSlot &slotOf(const char *name, Addresses &addresses);
     Name &nameAt(const char *name);

@@ -45,6 +45,12 @@ void PlainScannerTest::takesOnlyPlainTexts_data()
     inItem("blanks beyond ASCII", "<n>\xC2\xA0 2\xC2\xA0</n>", true);
     inItem("brackets", "<n>[[1]] ]&gt;</n>", true);
     inItem("a nested element", "<n><o>1</o></n>", true);
+    inItem("attributes and a text", "<n t=\"0\" u='a b'>1</n><n t=\"0\">2</n><o t=\"0\">3</o>",
+           true);
+    inItem("attributes alone", "<n t=\"0\"></n><n t=\"1\"/><n t=\"2\"> </n>", true);
+    inItem("attributes that trimming would change", "<n t=\" 0\">1</n><n t=\"\">2</n>", true);
+    inItem("attributes with reserved names", "<n _text=\"0\">1</n><n _name=\"0\">2</n>", true);
+    inItem("attributes beside elements", "<n t=\"0\"><o>1</o></n>", true);
     inItem("a slash for text", "<n>/></n>", true);
     inItem("a comment", "<!-- -->", false);
     inItem("a CDATA section", "<n><![CDATA[1]]></n>", false);

@@ -47,7 +47,7 @@ std::unordered_map<const LGStation *, Dictionary> entriesWithAttributes(const Ch
         const Dictionary *original =
             place.index < originals.count() ? originals.at(place.index).dictionary() : nullptr;
         if (!original || original->isAsNoted() || station->entry() == *original)
-            continue; // what was noted has no attributes
+            continue; // no field of what was noted has attributes
         Dictionary entry = withAttributes(station->entry(), *original);
         if (!(entry == station->entry()))
             entries.emplace(station.get(), std::move(entry));

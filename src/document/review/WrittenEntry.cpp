@@ -4,7 +4,9 @@
 
 #include <QHash>
 
+#include <array>
 #include <optional>
+#include <variant>
 
 namespace quillet {
 
@@ -41,9 +43,21 @@ struct LooseField
     const Value *value = nullptr; ///< of what is no text
 };
 
-/// What was noted has no blanks around it and is not empty.
+/// The value at a position of an entry of which nothing was noted, if it has no fields of its own;
+/// null for any other.
+const Value *plainValue(const Dictionary &entry, qsizetype position)
+{
+    if (entry.origin())
+        return nullptr;
+    const Value &value = entry.at(position).value;
+    return value.dictionary() || value.array() ? nullptr : &value;
+}
+
 bool isNone(const Dictionary &entry, qsizetype position)
 {
+    if (const Value *value = plainValue(entry, position))
+        return value->string() && QStringView(*value->string()).trimmed().isEmpty();
+    // What was noted has no blanks around it and is not empty.
     return !entry.bytesRead(position) && LooseField(entry, position).isNone();
 }
 
@@ -53,44 +67,66 @@ bool isSame(const Dictionary &a, qsizetype position, const Dictionary &b, qsizet
     const std::optional<QByteArrayView> others = b.bytesRead(other);
     if (bytes && others)
         return *bytes == *others;
+    const Value *value = plainValue(a, position);
+    const Value *otherValue = plainValue(b, other);
+    if (value && otherValue && *value == *otherValue)
+        return true;
     return LooseField(a, position) == LooseField(b, other);
 }
 
-std::size_t hashOf(const Value &value);
-
-std::size_t hashOf(const Dictionary &entry)
+/// Equal for the bytes of UTF-8 and the characters that these are.
+std::size_t hashOf(QStringView text)
 {
-    std::size_t sum = 0;
-    for (const auto &[key, value] : entry)
-        sum += qHashMulti(0, key, hashOf(value));
-    return sum;
+    std::array<char, 64> bytes; // NOLINT(cppcoreguidelines-pro-type-member-init)
+    char16_t all = 0;
+    if (text.size() <= static_cast<qsizetype>(bytes.size())) {
+        for (qsizetype i = 0; i < text.size(); ++i) {
+            all |= text[i].unicode();
+            bytes[static_cast<std::size_t>(i)] = static_cast<char>(text[i].unicode());
+        }
+        if (all < 0x80)
+            return qHash(QByteArrayView(bytes.data(), text.size()));
+    }
+    return qHash(QByteArrayView(text.toUtf8()));
 }
 
 /// Without making a text of what is nested, which may be many times as long.
-std::size_t hashOf(const Value &value)
+struct ValueHash
 {
-    if (const QString *text = value.string())
-        return qHash(*text);
-    if (const Dictionary *dictionary = value.dictionary())
-        return hashOf(*dictionary);
-    const Array *array = value.array();
-    if (!array)
-        return qHash(value.description());
-    std::size_t hash = 0;
-    for (const Value &element : *array)
-        hash = qHashMulti(hash, hashOf(element));
-    return hash;
-}
+    std::size_t operator()(std::monostate) const { return 0; }
+    std::size_t operator()(const QString &text) const { return hashOf(text); }
+    std::size_t operator()(bool boolean) const { return boolean ? 1 : 2; }
+    std::size_t operator()(qint64 number) const { return qHash(number); }
+    std::size_t operator()(quint64 number) const { return qHash(number); }
+    std::size_t operator()(double number) const { return qHash(number); }
+    std::size_t operator()(const Dictionary &entry) const
+    {
+        std::size_t sum = 0;
+        for (const auto &[key, value] : entry)
+            sum += qHashMulti(0, key, value.visit(*this));
+        return sum;
+    }
+    std::size_t operator()(const Array &array) const
+    {
+        std::size_t hash = 0;
+        for (const Value &element : array)
+            hash = qHashMulti(hash, element.visit(*this));
+        return hash;
+    }
+};
 
 /// None of what is as good as none.
 std::optional<std::size_t> hashAt(const Dictionary &entry, qsizetype position)
 {
     if (const std::optional<QByteArrayView> bytes = entry.bytesRead(position))
         return qHash(*bytes);
-    const LooseField field(entry, position);
-    if (field.isNone())
+    if (isNone(entry, position))
         return {};
-    return field.text ? qHash(QByteArrayView(field.text->toUtf8())) : hashOf(*field.value);
+    if (const Value *value = plainValue(entry, position))
+        return value->string() ? hashOf(QStringView(*value->string()).trimmed())
+                               : value->visit(ValueHash());
+    const LooseField field(entry, position);
+    return field.text ? hashOf(*field.text) : field.value->visit(ValueHash());
 }
 
 } // namespace

@@ -6,7 +6,6 @@
 #include "document/repair/RepairedBroadcast.h"
 #include "document/repair/StationSpans.h"
 #include "model/FileWords.h"
-#include "xml/XMLDictionaryParser.h"
 
 #include <algorithm>
 #include <iterator>
@@ -93,13 +92,12 @@ private:
     /// hold. One that was broken off is not moved.
     void findItems(const QByteArray &text, const QByteArray &name)
     {
-        XMLDictionaryParser parser(XMLDictionaryParser::sharedInstance());
-        parser.settings.nodeNameMode = XMLDictionaryParser::NodeNameMode::NameNever;
+        const std::vector<QByteArray> path{{},
+                                           fileword::channel.bytes().toByteArray(),
+                                           name,
+                                           fileword::item.bytes().toByteArray()};
         qsizetype next = 0;
-        for (const ElementSpan &span : elementSpans(text, {{},
-                                                           fileword::channel.bytes().toByteArray(),
-                                                           name,
-                                                           fileword::item.bytes().toByteArray()})) {
+        for (const ElementSpan &span : elementSpans(text, path, WithNodes::Yes)) {
             if (next == m_originals.count())
                 break;
             if (!span.isClosed) { // the last one, if it was read at all
@@ -107,10 +105,8 @@ private:
                     m_broken = span.whole;
                 break;
             }
-            const std::optional<Dictionary> entry =
-                parser.dictionaryWithData(span.whole.in(text).toByteArray());
             const Dictionary *original = m_originals.at(next).dictionary();
-            if (!entry || entry->isEmpty() || (original && !(*entry == *original)))
+            if (!span.node || span.node->isEmpty() || (original && !(*span.node == *original)))
                 continue;
             m_items[static_cast<std::size_t>(next++)] = span.whole;
         }

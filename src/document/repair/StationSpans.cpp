@@ -1,6 +1,7 @@
 #include "document/repair/StationSpans.h"
 
 #include "xml/EventParser.h"
+#include "xml/TreeBuilder.h"
 
 namespace quillet {
 
@@ -9,20 +10,25 @@ namespace {
 class SpanFinder final : public EventHandler
 {
 public:
-    SpanFinder(EventParser &parser, const std::vector<QByteArray> &path)
+    SpanFinder(EventParser &parser, const std::vector<QByteArray> &path, WithNodes withNodes)
         : m_parser(parser), m_path(path)
     {
+        XMLDictionaryParser::Settings settings = XMLDictionaryParser::sharedInstance().settings;
+        settings.nodeNameMode = XMLDictionaryParser::NodeNameMode::NameNever;
+        if (withNodes == WithNodes::Yes)
+            m_builder.emplace(settings, parser.bytes());
     }
 
-    void startElement(const char *name, const char *const *) override
+    void startElement(const char *name, const char *const *attributes) override
     {
         const bool isOnPath = m_depth == m_onPath && m_depth < m_path.size() &&
                               (m_path[m_depth].isEmpty() || m_path[m_depth] == name);
         ++m_depth;
-        if (!isOnPath)
-            return;
-        m_onPath = m_depth;
-        if (m_depth < m_path.size())
+        if (isOnPath)
+            m_onPath = m_depth;
+        if (builds())
+            m_builder->startElement(name, attributes);
+        if (!isOnPath || m_depth < m_path.size())
             return;
         // The parser is inside the start tag, behind all attributes, whose values hold no "<".
         const QByteArray &text = m_parser.bytes();
@@ -36,6 +42,8 @@ public:
 
     void endElement() override
     {
+        if (builds())
+            m_builder->endElement();
         if (m_onPath == m_depth) {
             if (m_depth == m_path.size())
                 close(spans.back());
@@ -44,15 +52,32 @@ public:
         --m_depth;
     }
 
-    void characters(QByteArrayView) override {}
-    void cdataBlock(QByteArrayView) override {}
-    void comment(QByteArrayView) override {}
+    void characters(QByteArrayView text) override
+    {
+        if (builds())
+            m_builder->characters(text);
+    }
+    void cdataBlock(QByteArrayView bytes) override
+    {
+        if (builds())
+            m_builder->cdataBlock(bytes);
+    }
+    void comment(QByteArrayView text) override
+    {
+        if (builds())
+            m_builder->comment(text);
+    }
 
     std::vector<ElementSpan> spans;
 
 private:
-    void close(ElementSpan &span) const
+    /// Inside an element at the end of the path.
+    [[nodiscard]] bool builds() const { return m_builder && m_onPath == m_path.size(); }
+
+    void close(ElementSpan &span)
     {
+        if (m_builder)
+            span.node = m_builder->takeRoot();
         const QByteArray &text = m_parser.bytes();
         span.whole.end = m_parser.position();
         span.isClosed = true;
@@ -65,14 +90,16 @@ private:
     const std::vector<QByteArray> &m_path;
     std::size_t m_depth = 0;
     std::size_t m_onPath = 0; ///< how many of the open elements follow the path
+    std::optional<TreeBuilder> m_builder;
 };
 
 } // namespace
 
-std::vector<ElementSpan> elementSpans(const QByteArray &utf8, const std::vector<QByteArray> &path)
+std::vector<ElementSpan> elementSpans(const QByteArray &utf8, const std::vector<QByteArray> &path,
+                                      WithNodes withNodes)
 {
     EventParser parser(utf8);
-    SpanFinder finder(parser, path);
+    SpanFinder finder(parser, path, withNodes);
     parser.parse(finder);
     if (!finder.spans.empty() && !finder.spans.back().isClosed) {
         ElementSpan &open = finder.spans.back();

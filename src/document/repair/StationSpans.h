@@ -1,7 +1,10 @@
 #pragma once
 
+#include "xml/Dictionary.h"
+
 #include <QByteArray>
 
+#include <optional>
 #include <vector>
 
 namespace quillet {
@@ -25,11 +28,17 @@ struct ElementSpan
     TextSpan whole;
     TextSpan content;
     bool isClosed = false; ///< false when the text ended or broke off before its end tag
+    /// What reading makes of it, if that is asked for and it is closed; empty when it holds
+    /// nothing.
+    std::optional<Dictionary> node;
 };
+
+enum class WithNodes { No, Yes };
 
 /// Where the elements lie that have the given path from the root, e.g. {"TLLDATA", "CHANNEL"}; an
 /// empty name stands for any. In their order, up to the first fault of the text, which is UTF-8.
 [[nodiscard]] std::vector<ElementSpan> elementSpans(const QByteArray &utf8,
-                                                    const std::vector<QByteArray> &path);
+                                                    const std::vector<QByteArray> &path,
+                                                    WithNodes withNodes = WithNodes::No);
 
 } // namespace quillet

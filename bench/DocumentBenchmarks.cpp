@@ -56,22 +56,6 @@ void bareJSON(benchmark::State &state, const QByteArray &file)
          .otherwise = "The JSON was not parsed"});
 }
 
-/// From bytes in memory to sorted lists in a new document. Reading the file is not in it, nor is
-/// destroying the document.
-void loading(benchmark::State &state, const QByteArray &bytes)
-{
-    std::unique_ptr<TLLDocument> document;
-    bool isLoaded = false;
-    measure(state, {.prepare =
-                        [&] {
-                            document = std::make_unique<TLLDocument>();
-                            emptyHeap();
-                        },
-                    .run = [&] { isLoaded = load(*document, bytes); },
-                    .hasWorked = [&] { return isLoaded; },
-                    .otherwise = "The file was not read"});
-}
-
 /// From the lists of a loaded document to bytes in memory. Writing the file is not in it.
 void writing(benchmark::State &state, const QByteArray &bytes)
 {
@@ -99,6 +83,20 @@ void writing(benchmark::State &state, const QByteArray &bytes)
 }
 
 } // namespace
+
+void loading(benchmark::State &state, const QByteArray &bytes)
+{
+    std::unique_ptr<TLLDocument> document;
+    bool isLoaded = false;
+    measure(state, {.prepare =
+                        [&] {
+                            document = std::make_unique<TLLDocument>();
+                            emptyHeap();
+                        },
+                    .run = [&] { isLoaded = load(*document, bytes); },
+                    .hasWorked = [&] { return isLoaded; },
+                    .otherwise = "The file was not read"});
+}
 
 void addDocumentRows(Rows &rows, const Lists &lists)
 {

@@ -27,6 +27,7 @@ constexpr char realB[] = "bare/real-10000";
 constexpr char J[] = "bare/real-json-1254";
 constexpr char load[] = "load/plain-10000";
 constexpr char loadReal[] = "load/real-10000";
+constexpr char loadLosses[] = "load-losses/real-10000";
 constexpr char loadJSON[] = "load/json-10000";
 constexpr char loadRealJSON[] = "load/real-json-1254";
 constexpr char bareWindow[] = "start/bare-window";
@@ -55,8 +56,9 @@ constexpr std::array ratios{
     Ratio{"the same, repaired / load", "rehearse-repaired/plain-10000", load, 1.5},
     Ratio{"rehearse 10,000 real-shaped / load", "rehearse-plain/real-10000", loadReal, 1.5},
     Ratio{"the same, repaired / load", "rehearse-repaired/real-10000", loadReal, 1.5},
-    Ratio{"the same, losing something of each / load", "rehearse-losses/real-10000", loadReal, 1.5},
-    Ratio{"the same, repaired / load", "rehearse-losses-repaired/real-10000", loadReal, 1.5},
+    Ratio{"the same, losing something of each / load", "rehearse-losses/real-10000", loadLosses,
+          1.5},
+    Ratio{"the same, repaired / load", "rehearse-losses-repaired/real-10000", loadLosses, 1.5},
     Ratio{"rehearse 10,000 JSON channels / load", "rehearse-plain/json-10000", loadJSON, 1.5},
     Ratio{"the same, repaired / load", "rehearse-repaired/json-10000", loadJSON, 1.5},
     Ratio{"rehearse 1,254 JSON channels / load", "rehearse-plain/real-json-1254", loadRealJSON,
@@ -64,7 +66,7 @@ constexpr std::array ratios{
     Ratio{"the same, repaired / load", "rehearse-repaired/real-json-1254", loadRealJSON, 1.5},
     Ratio{"repairedTLL of 10,000 stations / load", "repair/plain-10000", load, 1.0},
     Ratio{"the same, real-shaped / load", "repair/real-10000", loadReal, 1.0},
-    Ratio{"the same, with losses / load", "repair-losses/real-10000", loadReal, 1.0},
+    Ratio{"the same, with losses / load", "repair-losses/real-10000", loadLosses, 1.0},
     Ratio{"repairedTLL of 10,000 JSON channels / load", "repair/json-10000", loadJSON, 1.0},
     Ratio{"repairedTLL of 1,254 JSON channels / load", "repair/real-json-1254", loadRealJSON, 1.0},
     Ratio{"order by 10,000 entries, service ids / B", "order-identifiers/plain-10000", B, 0.15,

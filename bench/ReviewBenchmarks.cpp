@@ -1,6 +1,7 @@
 #include "bench/ReviewBenchmarks.h"
 
 #include "bench/Document.h"
+#include "bench/DocumentBenchmarks.h"
 #include "bench/Lists.h"
 #include "bench/Measuring.h"
 #include "bench/Rows.h"
@@ -95,6 +96,9 @@ void addReviewRows(Rows &rows, const Lists &lists)
         add("repair", list, repairing, counted);
     };
     const auto addLosing = [&](const char *list, Counted counted) {
+        add(
+            "load-losses", list, [](auto &state, auto &file) { loading(state, withLosses(file)); },
+            counted);
         add(
             "rehearse-losses", list,
             [](auto &state, auto &file) {

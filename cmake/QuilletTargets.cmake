@@ -13,10 +13,11 @@ if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
     if(QUILLET_SANITIZE)
         target_compile_options(quillet_options INTERFACE
             -fsanitize=${QUILLET_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
-        if(NOT QUILLET_SANITIZE_POINTERS)
-            target_compile_options(quillet_options INTERFACE
-                -fno-sanitize=null,alignment,object-size,vptr)
-        endif()
+        set(quillet_pointer_checks null,alignment,object-size,vptr)
+        target_compile_options(quillet_options INTERFACE -fno-sanitize=${quillet_pointer_checks})
+        add_library(quillet_pointer_options INTERFACE)
+        target_compile_options(quillet_pointer_options INTERFACE
+            -fsanitize=${quillet_pointer_checks} -fno-sanitize-recover=${quillet_pointer_checks})
         if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
             # Sanitizers make GCC see values as unset that are set.
             target_compile_options(quillet_options INTERFACE -Wno-maybe-uninitialized)
@@ -27,6 +28,9 @@ if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
         target_link_options(quillet_options INTERFACE --coverage)
     endif()
 endif()
+
+# The libraries that handle what is in files; the others would only take more time to compile.
+set(quillet_pointer_checked Support Xml Model Files List)
 
 # What most sources of any target include, and those named as well.
 function(quillet_headers target)
@@ -45,6 +49,9 @@ function(quillet_library name)
     add_library(Quillet::${name} ALIAS ${target})
     target_include_directories(${target} PUBLIC ${PROJECT_SOURCE_DIR}/src)
     target_link_libraries(${target} PUBLIC ${arg_LINK} PRIVATE quillet_options)
+    if(QUILLET_SANITIZE AND QUILLET_SANITIZE_POINTERS AND name IN_LIST quillet_pointer_checked)
+        target_link_libraries(${target} PRIVATE quillet_pointer_options) # behind the others
+    endif()
     quillet_headers(${target} ${arg_HEADERS})
 endfunction()
 

@@ -16,6 +16,9 @@ namespace quillet {
 namespace {
 
 namespace ondemand = simdjson::ondemand;
+/// The library gives up what one holds only if it is a temporary.
+template<typename T>
+using Result = simdjson::simdjson_result<T>;
 
 /// Takes digits off the front; returns how many there were.
 qsizetype skipDigits(QByteArrayView &text)
@@ -93,10 +96,10 @@ public:
         }
     }
 
-    bool readObject(simdjson::simdjson_result<ondemand::object> &&result)
+    bool readObject(const Result<ondemand::object> &result)
     {
         ondemand::object object;
-        if (std::move(result).get(object) != simdjson::SUCCESS || !m_builder.open())
+        if (Result<ondemand::object>(result).get(object) != simdjson::SUCCESS || !m_builder.open())
             return false;
         for (auto member : object) {
             ondemand::field field;
@@ -108,14 +111,14 @@ public:
         return true;
     }
 
-    bool readArray(simdjson::simdjson_result<ondemand::array> &&result)
+    bool readArray(const Result<ondemand::array> &result)
     {
         ondemand::array array;
-        if (std::move(result).get(array) != simdjson::SUCCESS || !m_builder.open())
+        if (Result<ondemand::array>(result).get(array) != simdjson::SUCCESS || !m_builder.open())
             return false;
         for (auto element : array) {
             ondemand::value value;
-            if (std::move(element).get(value) != simdjson::SUCCESS || !read(value))
+            if (Result<ondemand::value>(element).get(value) != simdjson::SUCCESS || !read(value))
                 return false;
         }
         m_builder.closeArray();

@@ -17,6 +17,7 @@ namespace {
 constexpr std::size_t deepest = 64;
 constexpr qsizetype longestName = 200;
 constexpr std::size_t mostNames = 2000;
+static_assert(2 * mostNames < std::size_t{1} << PlainScanner::bitsOfPlaces);
 constexpr std::size_t mostAttributes = 50;
 constexpr qsizetype bytesPerText = 24; ///< about as many as a field of a station takes
 
@@ -138,20 +139,22 @@ PlainScanner::Name *PlainScanner::readName(const char *&at)
     const char *const start = at;
     if (!startsName(*at))
         return nullptr;
-    while (isOfName(*at))
-        ++at;
+    quint32 hash = 0;
+    for (; isOfName(*at); ++at)
+        hash = hash * 31 + static_cast<unsigned char>(*at);
     const QByteArrayView text(start, at - start);
-    const auto known = m_namesByText.constFind(text);
-    if (known != m_namesByText.cend())
-        return *known;
+    std::size_t place = (hash * 0x9E3779B9U) >> (32 - bitsOfPlaces);
+    while (m_places[place] && m_places[place]->text != text)
+        place = (place + 1) % m_places.size();
+    if (m_places[place])
+        return m_places[place];
     if (text.size() > longestName || m_names.size() == mostNames)
         return nullptr;
     Name &name = m_names.emplace_back();
     name.text = text.toByteArray();
     name.startTag = '<' + name.text + '>';
     name.endTag = "</" + name.text + '>';
-    m_namesByText.insert(name.text, &name);
-    return &name;
+    return m_places[place] = &name;
 }
 
 /// Goes to the end of a start tag. What reading would replace in a value is not taken.

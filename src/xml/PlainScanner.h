@@ -5,8 +5,8 @@
 #include "xml/XMLDictionaryParser.h"
 
 #include <QExplicitlySharedDataPointer>
-#include <QHash>
 
+#include <array>
 #include <deque>
 #include <optional>
 #include <vector>
@@ -22,6 +22,8 @@ namespace quillet {
 class PlainScanner
 {
 public:
+    static constexpr int bitsOfPlaces = 12; ///< of names, of which it takes less than half as many
+
     /// Whether it makes trees of that kind.
     [[nodiscard]] static bool suits(const XMLDictionaryParser::Settings &settings);
 
@@ -87,7 +89,7 @@ private:
     const char *m_at;
     const char *m_end;
     std::deque<Name> m_names;
-    QHash<QByteArrayView, Name *> m_namesByText;
+    std::array<Name *, std::size_t{1} << bitsOfPlaces> m_places{}; ///< by a hash of their texts
     std::vector<Name *> m_open;
     std::vector<Attribute> m_attributes; ///< of the start tag that was read last
     bool m_notesAttributes = false;

@@ -43,7 +43,6 @@ const char *skipBlanks(const char *at) // the null behind the text is none
     return at;
 }
 
-/// A view of a text, which must stand before a null.
 bool standsAt(const char *at, const char *end, const QByteArray &text)
 {
     return end - at >= text.size() &&

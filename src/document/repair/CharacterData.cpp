@@ -1,36 +1,25 @@
 #include "document/repair/CharacterData.h"
 
+#include "xml/PlainText.h"
 #include "xml/XMLCharacters.h"
 
 #include <QString>
 
 #include <algorithm>
-#include <array>
 #include <iterator>
 
 namespace quillet {
 
 namespace {
 
-struct Entity
+/// What a reference to a character stands for, given without its "&" and ";"; empty when it means
+/// nothing.
+QByteArray characterOf(QByteArrayView reference)
 {
-    QByteArrayView name;
-    char character;
-};
-constexpr std::array entities{Entity{"amp", '&'}, Entity{"lt", '<'}, Entity{"gt", '>'},
-                              Entity{"quot", '"'}, Entity{"apos", '\''}};
-
-/// What a reference stands for, given without its "&" and ";"; empty when it means nothing.
-QByteArray meaningOf(QByteArrayView reference)
-{
-    for (const Entity &entity : entities) {
-        if (entity.name == reference)
-            return {1, entity.character};
-    }
-    const bool isHexadecimal = reference.startsWith("#x");
     bool isNumber = reference.startsWith('#');
     if (!isNumber)
         return {};
+    const bool isHexadecimal = reference.startsWith("#x");
     const QByteArrayView digits = reference.sliced(isHexadecimal ? 2 : 1);
     const char32_t code = digits.toUInt(&isNumber, isHexadecimal ? 16 : 10);
     return isNumber && isXMLCharacter(code) ? QString::fromUcs4(&code, 1).toUtf8() : QByteArray();
@@ -60,7 +49,9 @@ std::optional<CharacterData> CharacterData::decode(const QByteArray &content)
             at = next + 1 + (next + 1 != content.end() && next[1] == '\n' ? 1 : 0);
         } else {
             const char *const end = std::find(next, content.end(), ';');
-            const QByteArray meaning = meaningOf({next + 1, end});
+            const qsizetype predefined = predefinedReference(next, content.end());
+            const QByteArray meaning = predefined > 0 ? decodedPlainText({next, predefined})
+                                                      : characterOf({next + 1, end});
             if (end == content.end() || meaning.isEmpty())
                 return {};
             data.m_text.append(meaning);

@@ -25,6 +25,7 @@ def test_open_search_move_undo_and_save(desktop, start, reader):
     reader.hears("focus", "5")
     reader.press("ctrl+m")
     reader.hears("alert", "Move the selected station to number")
+    reader.hears("focus", "Move the selected station to number")  # keys go to the list until then
     reader.type("2")
     reader.press("return")
     reader.hears("notification", "1 station moved")

@@ -52,7 +52,8 @@ QString languageNames()
 QCommandLineOption made(const Option &option)
 {
     QString description = QString::fromLatin1(option.description);
-    description.replace(QLatin1String("%LANGUAGES"), languageNames());
+    if (const QLatin1String languages("%LANGUAGES"); description.contains(languages))
+        description.replace(languages, languageNames());
     return {QString::fromLatin1(option.names).split(u','), description,
             QString::fromLatin1(option.value)};
 }

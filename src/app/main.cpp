@@ -1,4 +1,5 @@
 #include "app/AppDelegate.h"
+#include "app/ApplicationIcon.h"
 #include "app/CommandLine.h"
 #include "app/ExitHook.h"
 #include "app/HelpProgram.h"
@@ -20,7 +21,6 @@
 #include "texts/Translations.h"
 
 #include <QApplication>
-#include <QIcon>
 
 #include <csignal>
 #include <cstdio>
@@ -29,14 +29,6 @@
 using namespace quillet;
 
 namespace {
-
-QIcon applicationIcon()
-{
-    QIcon icon;
-    for (const int size : {16, 24, 32, 48, 64, 128, 256})
-        icon.addFile(QStringLiteral(":/icons/quillet-%1.png").arg(size));
-    return icon;
-}
 
 enum ExitCode { Succeeded, Failed, Misused };
 
@@ -146,7 +138,7 @@ int main(int argc, char *argv[])
     QApplication app(argc, argv); // takes Qt's own options
     qInstallMessageHandler(printMessage);
     QApplication::setDesktopFileName(QStringLiteral("org.quillet.Quillet"));
-    QApplication::setWindowIcon(applicationIcon());
+    QApplication::setWindowIcon(QIcon(new ApplicationIcon));
     installTranslations(line.language);
     speakCurrentItems();
     if (!line.snapshot.isEmpty())

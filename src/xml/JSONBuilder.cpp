@@ -2,10 +2,22 @@
 
 #include "xml/JSON.h"
 
+#include <cstring>
 #include <limits>
 #include <utility>
 
 namespace quillet {
+
+namespace {
+
+/// As == of Qt's views, which is a call of two functions, is.
+bool isEqual(QByteArrayView one, QByteArrayView other)
+{
+    return one.size() == other.size() &&
+           std::memcmp(one.data(), other.data(), std::size_t(one.size())) == 0;
+}
+
+} // namespace
 
 bool JSONBuilder::open()
 {
@@ -21,7 +33,7 @@ void JSONBuilder::key(QByteArrayView utf8)
 {
     Container &object = innermost();
     const bool areSame = object.names.empty() && object.sameNames < object.lastNames.size();
-    if (areSame && object.lastNames[object.sameNames] == utf8)
+    if (areSame && isEqual(object.lastNames[object.sameNames], utf8))
         ++object.sameNames;
     else
         object.names.push_back(utf8.toByteArray());

@@ -31,7 +31,7 @@ qsizetype skipDigits(QByteArrayView &text)
 
 bool skip(QByteArrayView &text, QByteArrayView anyOf)
 {
-    if (text.isEmpty() || !anyOf.contains(text.front()))
+    if (text.isEmpty() || std::find(anyOf.begin(), anyOf.end(), text.front()) == anyOf.end())
         return false;
     text = text.sliced(1);
     return true;
@@ -129,21 +129,25 @@ private:
     /// Without the blanks behind it.
     static QByteArrayView trimmed(std::string_view token)
     {
-        const std::size_t last = token.find_last_not_of(" \t\r\n");
-        return QByteArrayView(token.data(), static_cast<qsizetype>(last + 1)); // npos + 1 is 0
+        const auto isBlank = [](char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; };
+        while (!token.empty() && isBlank(token.back()))
+            token.remove_suffix(1);
+        return QByteArrayView(token.data(), static_cast<qsizetype>(token.size()));
     }
 
     /// The key whose text begins here and ends with a quotation mark, which it surely has.
     bool readKey(const char *text)
     {
         const char *end = text;
+        bool isAsItStands = true;
         for (; *end != '"'; ++end) {
-            if (*end == '\\')
+            if (*end == '\\') {
+                isAsItStands = false;
                 ++end;
+            }
         }
-        const QByteArrayView key(text, end);
-        if (!key.contains('\\')) {
-            m_builder.key(key);
+        if (isAsItStands) {
+            m_builder.key({text, end});
             return true;
         }
         const std::optional<std::string> unescaped = unescapedText({text - 1, end + 1});
@@ -154,9 +158,12 @@ private:
 
     bool readScalar(QByteArrayView token)
     {
-        if (token == "true" || token == "false")
-            m_builder.add(Value(token == "true"));
-        else if (token == "null")
+        const char first = token.isEmpty() ? '\0' : token.front();
+        if (first == 't' && token == "true")
+            m_builder.add(Value(true));
+        else if (first == 'f' && token == "false")
+            m_builder.add(Value(false));
+        else if (first == 'n' && token == "null")
             m_builder.add(Value());
         else
             return readNumber(token);
@@ -195,8 +202,27 @@ private:
         return token.startsWith('-') ? -infinity : infinity;
     }
 
+    /// Whether it is a number of few digits, which most are; it is added then.
+    bool addShort(QByteArrayView digits)
+    {
+        constexpr qsizetype longest = 18; // which 64 bits have room for
+        if (digits.isEmpty() || digits.size() > longest ||
+            (digits.front() == '0' && digits.size() > 1))
+            return false;
+        quint64 number = 0;
+        for (const char digit : digits) {
+            if (digit < '0' || digit > '9')
+                return false;
+            number = 10 * number + quint64(digit - '0');
+        }
+        m_builder.addUnsigned(number);
+        return true;
+    }
+
     bool readNumber(QByteArrayView token)
     {
+        if (addShort(token))
+            return true;
         const NumberKind kind = kindOfNumber(token);
         if (kind == NumberKind::None)
             return false;

@@ -3,16 +3,18 @@
 #include "xml/Value.h"
 
 #include <algorithm>
+#include <array>
 #include <atomic>
 #include <memory>
 #include <utility>
+#include <variant>
 
 namespace quillet {
 
 /// Texts that were noted, and the values of them once somebody has asked.
 struct Dictionary::Noted
 {
-    Noted(NotedTexts texts, qsizetype number) : noted(std::move(texts)), count(number) {}
+    explicit Noted(NotedTexts texts) : noted(std::move(texts)) {}
     ~Noted() { delete made.load(std::memory_order_relaxed); }
     Q_DISABLE_COPY_MOVE(Noted)
 
@@ -29,7 +31,8 @@ struct Dictionary::Noted
         return noted.texts->bytesOf(at(position));
     }
 
-    [[nodiscard]] const std::vector<Value> &values() const
+    /// As many as there are keys.
+    [[nodiscard]] const std::vector<Value> &values(qsizetype count) const
     {
         if (const auto *known = made.load(std::memory_order_acquire))
             return *known;
@@ -44,7 +47,6 @@ struct Dictionary::Noted
     }
 
     NotedTexts noted;
-    qsizetype count;
     mutable std::atomic<const std::vector<Value> *> made = nullptr;
 };
 
@@ -55,57 +57,64 @@ struct Dictionary::Data : QSharedData
     struct Changes
     {
         QExplicitlySharedDataPointer<Data> base; ///< has no changes itself
-        std::vector<qsizetype> positions;        ///< which values are changed, in no order
+        std::array<quint32, 4> positions{};      ///< where those values belong
     };
-    static constexpr std::size_t mostChanges = 4;
 
     Keys keys{new KeyTable};
     std::vector<Value> values; ///< all that were not noted, or those that are changed
-    std::unique_ptr<Changes> changes;
-    std::optional<Noted> noted;
+    std::variant<std::monostate, Noted, Changes> origin;
 
     Data() = default;
     Data(Keys sharedKeys, std::vector<Value> ownValues)
         : keys(std::move(sharedKeys)), values(std::move(ownValues))
     {
     }
-    Data(Keys sharedKeys, NotedTexts texts) : keys(std::move(sharedKeys))
+    Data(Keys sharedKeys, NotedTexts texts)
+        : keys(std::move(sharedKeys)), origin(std::in_place_type<Noted>, std::move(texts))
     {
-        noted.emplace(std::move(texts), keys->count());
+    }
+    explicit Data(QExplicitlySharedDataPointer<Data> base)
+        : keys(base->keys), origin(Changes{std::move(base)})
+    {
     }
     Data(const Data &other) : QSharedData(other), keys(other.keys), values(other.values)
     {
-        if (other.noted)
-            values = other.noted->values();
-        if (other.changes)
-            changes = std::make_unique<Changes>(*other.changes);
+        if (const Noted *noted = other.noted())
+            values = noted->values(keys->count());
+        if (const Changes *changes = other.changes())
+            origin = *changes;
     }
+
+    /// Whether its values are all that there is.
+    [[nodiscard]] bool isMade() const { return std::holds_alternative<std::monostate>(origin); }
+    /// The texts that are its values, or the changes that its values are; null when neither.
+    [[nodiscard]] const Noted *noted() const { return std::get_if<Noted>(&origin); }
+    [[nodiscard]] const Changes *changes() const { return std::get_if<Changes>(&origin); }
+    [[nodiscard]] Changes *changes() { return std::get_if<Changes>(&origin); }
 
     [[nodiscard]] const Value &value(qsizetype position) const
     {
         const auto place = static_cast<std::size_t>(position);
-        if (noted)
-            return noted->values()[place];
-        if (!changes)
+        if (const Noted *texts = noted())
+            return texts->values(keys->count())[place];
+        if (!changes())
             return values[place];
-        const Value *changed = changedValue(position);
-        return changed ? *changed : changes->base->value(position);
+        const std::size_t change = changeAt(position);
+        return change < values.size() ? values[change] : changes()->base->value(position);
     }
 
-    /// Null when it is that of the base.
-    [[nodiscard]] const Value *changedValue(qsizetype position) const
+    /// Which of the changed values belongs there; as many as there are when it is that of the base.
+    [[nodiscard]] std::size_t changeAt(qsizetype position) const
     {
-        const auto found =
-            std::find(changes->positions.begin(), changes->positions.end(), position);
-        return found == changes->positions.end()
-                   ? nullptr
-                   : &values[static_cast<std::size_t>(found - changes->positions.begin())];
+        const auto &positions = changes()->positions;
+        const auto end = positions.begin() + static_cast<std::ptrdiff_t>(values.size());
+        return static_cast<std::size_t>(
+            std::find(positions.begin(), end, static_cast<quint32>(position)) - positions.begin());
     }
 
     [[nodiscard]] const Noted *lastNoted() const
     {
-        const Data &last = changes ? *changes->base : *this;
-        return last.noted ? &*last.noted : nullptr;
+        return changes() ? changes()->base->noted() : noted();
     }
 };
 
@@ -137,13 +146,13 @@ Dictionary::Data &Dictionary::detached()
 {
     if (!d) {
         d.reset(new Data);
-    } else if (d->changes) {
+    } else if (d->changes()) {
         std::vector<Value> values;
         values.reserve(static_cast<std::size_t>(count()));
         for (qsizetype position = 0; position < count(); ++position)
             values.push_back(d->value(position));
         d.reset(new Data(d->keys, std::move(values)));
-    } else if (d->noted) {
+    } else if (d->noted()) {
         d.reset(new Data(*d));
     } else {
         d.detach();
@@ -151,30 +160,29 @@ Dictionary::Data &Dictionary::detached()
     return *d;
 }
 
-/// The value at a position, for no other dictionary.
-Value &Dictionary::detachedValue(qsizetype position)
+/// The value at a position, for no other dictionary. One that is going to be replaced need not be
+/// what it was.
+Value &Dictionary::detachedValue(qsizetype position, Content content)
 {
-    const bool isShared = d->ref.loadRelaxed() != 1 || d->noted;
-    if (!d->changes && !isShared)
+    const bool isShared = d->ref.loadRelaxed() != 1 || d->noted();
+    if (!d->changes() && !isShared)
         return d->values[static_cast<std::size_t>(position)];
-    if (!d->changes) {
-        auto changes = std::make_unique<Data::Changes>();
-        changes->base = d;
-        d.reset(new Data(d->keys, std::vector<Value>()));
-        d->changes = std::move(changes);
-    } else if (isShared) {
+    if (!d->changes())
+        d.reset(new Data(d));
+    else if (isShared)
         d.detach();
-    }
-    std::vector<qsizetype> &positions = d->changes->positions;
-    const auto changed = std::find(positions.begin(), positions.end(), position);
-    if (changed != positions.end())
-        return d->values[static_cast<std::size_t>(changed - positions.begin())];
-    if (positions.size() == Data::mostChanges)
+    const std::size_t change = d->changeAt(position);
+    if (change < d->values.size())
+        return d->values[change];
+    Data::Changes &changes = *d->changes();
+    if (change == changes.positions.size())
         return detached().values[static_cast<std::size_t>(position)];
-    positions.push_back(position);
-    const Data &base = *d->changes->base;
-    return d->values.emplace_back(base.noted ? Value(base.noted->text(position))
-                                             : base.value(position));
+    changes.positions[change] = static_cast<quint32>(position);
+    if (content == Content::Replaced)
+        return d->values.emplace_back();
+    const Data &base = *changes.base;
+    return d->values.emplace_back(base.noted() ? Value(base.noted()->text(position))
+                                               : base.value(position));
 }
 
 qsizetype Dictionary::count() const
@@ -196,7 +204,7 @@ const Value *Dictionary::find(QStringView key) const
 Value *Dictionary::find(QStringView key)
 {
     const qsizetype position = indexOf(key);
-    return position == KeyTable::none ? nullptr : &detachedValue(position);
+    return position == KeyTable::none ? nullptr : &detachedValue(position, Content::Kept);
 }
 
 const QString *Dictionary::string(QStringView key) const
@@ -213,8 +221,9 @@ const Dictionary *Dictionary::dictionary(QStringView key) const
 
 void Dictionary::insert(const QString &key, Value value)
 {
-    if (Value *present = find(key)) {
-        *present = std::move(value);
+    const qsizetype position = indexOf(key);
+    if (position != KeyTable::none) {
+        detachedValue(position, Content::Replaced) = std::move(value);
         return;
     }
     Data &data = detached();
@@ -253,7 +262,8 @@ Dictionary::Keys Dictionary::keys() const
 const Dictionary::Noted *Dictionary::notedAt(qsizetype position) const
 {
     const Noted *noted = d->lastNoted();
-    return noted && !(d->changes && d->changedValue(position)) ? noted : nullptr;
+    const bool isChanged = d->changes() && d->changeAt(position) < d->values.size();
+    return isChanged ? nullptr : noted;
 }
 
 std::optional<QString> Dictionary::text(QStringView key) const
@@ -298,7 +308,7 @@ std::optional<Dictionary::Origin> Dictionary::origin() const
 
 bool Dictionary::isAsNoted() const
 {
-    return d && d->noted;
+    return d && d->noted();
 }
 
 bool Dictionary::hasEqualValue(qsizetype position, const Dictionary &other,
@@ -317,10 +327,12 @@ bool Dictionary::hasEqualValue(qsizetype position, const Dictionary &other,
 
 bool Dictionary::hasEqualValues(const Dictionary &other) const
 {
-    if (d == other.d)
-        return true;
     if (count() != other.count())
         return false;
+    if (d == other.d || isEmpty())
+        return true;
+    if (d->isMade() && other.d->isMade())
+        return d->values == other.d->values;
     if (isAsNoted() && other.isAsNoted() && origin()->bytes() == other.origin()->bytes())
         return true;
     for (qsizetype position = 0; position < count(); ++position) {

@@ -142,7 +142,8 @@ private:
     struct Noted;
     [[nodiscard]] const Noted *notedAt(qsizetype position) const;
     Data &detached();
-    Value &detachedValue(qsizetype position);
+    enum class Content { Kept, Replaced };
+    Value &detachedValue(qsizetype position, Content content);
 
     QExplicitlySharedDataPointer<Data> d;
 };

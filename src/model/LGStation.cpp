@@ -145,6 +145,11 @@ QString LGStation::stationName() const
 
 QString LGStation::readName() const
 {
+    const qsizetype position = m_entry.indexOf(m_keys->keyStationName);
+    if (position != KeyTable::none) {
+        if (const std::optional<QByteArrayView> bytes = m_entry.bytesRead(position))
+            return decodeUtf8Envelope(*bytes);
+    }
     QString candidate;
     if (std::optional<QString> name = textValue(m_keys->keyStationName))
         candidate = *std::move(name);

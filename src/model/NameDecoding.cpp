@@ -54,10 +54,16 @@ QString decodeHexName(QStringView hex)
 
 QString decodeUtf8Envelope(const QString &text)
 {
-    if (text.isEmpty() || text.front().unicode() <= 0xBF)
-        return text;
-    const QByteArray stored = getAsData(text);
+    const bool isEnvelope = !text.isEmpty() && text.front().unicode() > 0xBF;
+    return isEnvelope ? decodeUtf8Envelope(QByteArrayView(getAsData(text))) : text;
+}
+
+QString decodeUtf8Envelope(QByteArrayView stored)
+{
+    constexpr unsigned char first = 0xC3; // of the bytes of U+00C0
     const auto at = [&stored](qsizetype i) { return static_cast<unsigned char>(stored[i]); };
+    if (stored.isEmpty() || at(0) < first)
+        return textFromUtf8(stored);
     QByteArray bytes(stored.size(), Qt::Uninitialized); // which they never exceed
     char *out = bytes.data();
     for (qsizetype i = 0; i < stored.size();) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArrayView>
 #include <QString>
 
 /// How sets store station names.
@@ -12,5 +13,7 @@ namespace quillet {
 /// Recovers UTF-8 text whose bytes were stored as one character each. Text whose first character is
 /// U+00BF or below is returned as it is; only the first character is looked at.
 [[nodiscard]] QString decodeUtf8Envelope(const QString &text);
+/// The same of a text that is given in UTF-8.
+[[nodiscard]] QString decodeUtf8Envelope(QByteArrayView utf8);
 
 } // namespace quillet

@@ -8,11 +8,12 @@ namespace quillet {
 
 namespace {
 
-/// Decodes all bytes, byte-order marks included; none when they are not valid in that encoding.
-std::optional<QString> decoded(QByteArrayView bytes, QStringConverter::Encoding encoding)
+/// Decodes all bytes, byte-order marks included; none when they are not valid.
+std::optional<QString> decodedUtf16(QByteArrayView bytes)
 {
-    QStringDecoder decoder(encoding, QStringConverter::Flag::Stateless |
-                                         QStringConverter::Flag::ConvertInitialBom);
+    QStringDecoder decoder(QStringConverter::Utf16LE,
+                           QStringConverter::Flag::Stateless |
+                               QStringConverter::Flag::ConvertInitialBom);
     QString text = decoder.decode(bytes);
     if (decoder.hasError())
         return {};
@@ -28,14 +29,14 @@ std::optional<DecodedText> decodeText(QByteArrayView bytes)
     const auto first = static_cast<unsigned char>(bytes.front());
     if (first == 0xFF || first == 0x00) {
         if (bytes.size() % 2 == 0) { // an odd byte at the end would be lost
-            std::optional<QString> text = decoded(bytes, QStringConverter::Utf16LE);
+            std::optional<QString> text = decodedUtf16(bytes);
             if (text && text->startsWith(QChar::ByteOrderMark))
                 text->remove(0, 1);
             if (text)
                 return DecodedText{*std::move(text), TextEncoding::Utf16};
         }
-    } else if (std::optional<QString> text = decoded(bytes, QStringConverter::Utf8)) {
-        return DecodedText{*std::move(text), TextEncoding::Utf8};
+    } else if (bytes.isValidUtf8()) {
+        return DecodedText{textFromUtf8(bytes), TextEncoding::Utf8};
     }
     return DecodedText{QString::fromLatin1(bytes), TextEncoding::Latin1};
 }

@@ -5,6 +5,7 @@
 #include "support/LogLines.h"
 
 #include <algorithm>
+#include <array>
 #include <limits>
 #include <optional>
 #include <utility>
@@ -39,14 +40,22 @@ struct Identifiers
 /// None when the identifier does not have three parts.
 std::optional<Identifiers> identifiersOf(const QString &serviceID)
 {
-    const qsizetype first = serviceID.indexOf(u'-');
-    const qsizetype second = first < 0 ? -1 : serviceID.indexOf(u'-', first + 1);
-    if (second < 0 || serviceID.indexOf(u'-', second + 1) >= 0)
+    std::array<qsizetype, 2> dashes{};
+    std::size_t count = 0;
+    for (qsizetype i = 0; i < serviceID.size(); ++i) {
+        if (serviceID[i] != u'-')
+            continue;
+        if (count == dashes.size())
+            return {};
+        dashes[count++] = i;
+    }
+    if (count < dashes.size())
         return {};
     const auto part = [&serviceID](qsizetype from, qsizetype end) {
         return QString::fromRawData(serviceID.constData() + from, end - from);
     };
-    return Identifiers{part(0, first), part(first + 1, second), part(second + 1, serviceID.size())};
+    return Identifiers{part(0, dashes[0]), part(dashes[0] + 1, dashes[1]),
+                       part(dashes[1] + 1, serviceID.size())};
 }
 
 /// By identifiers alone; several stations may agree in some of them.

@@ -1,22 +1,35 @@
 #include "document/order/StationIndex.h"
 
+#include <algorithm>
+
 namespace quillet {
 
 StationIndex::StationIndex(const StationList &stations, const Key &key)
     : m_next(stations.size(), none)
 {
     m_chains.reserve(static_cast<qsizetype>(stations.size()));
+    QString text;
     for (std::size_t i = 0; i < stations.size(); ++i) {
-        const std::optional<QString> text = stations[i] ? key(*stations[i]) : std::nullopt;
-        if (!text)
+        if (!stations[i] || !key(*stations[i], text))
             continue;
-        Chain &chain = m_chains[*text];
+        Chain &chain = m_chains[kept(text)]; // few texts are there already
         if (chain.first == none)
             chain.first = i;
         else
             m_next[chain.last] = i;
         chain.last = i;
     }
+}
+
+/// The same text, as long as the index.
+QStringView StationIndex::kept(QStringView key)
+{
+    if (key.isEmpty())
+        return key;
+    auto *text = std::pmr::polymorphic_allocator<char16_t>(&m_texts).allocate(
+        static_cast<std::size_t>(key.size()));
+    std::copy(key.utf16(), key.utf16() + key.size(), text);
+    return {text, key.size()};
 }
 
 std::size_t StationIndex::firstHeld(std::size_t index, const StationList &stations) const
@@ -26,7 +39,7 @@ std::size_t StationIndex::firstHeld(std::size_t index, const StationList &statio
     return index;
 }
 
-StationIndex::Match StationIndex::find(const QString &key, const StationList &stations)
+StationIndex::Match StationIndex::find(QStringView key, const StationList &stations)
 {
     const auto chain = m_chains.find(key);
     if (chain == m_chains.end())

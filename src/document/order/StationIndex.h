@@ -8,7 +8,7 @@
 #include <cstddef>
 #include <functional>
 #include <limits>
-#include <optional>
+#include <memory_resource>
 #include <vector>
 
 namespace quillet {
@@ -18,7 +18,8 @@ namespace quillet {
 class StationIndex
 {
 public:
-    using Key = std::function<std::optional<QString>(const LGStation &)>;
+    /// Gives the text, for which there may be room already; false when the station has none.
+    using Key = std::function<bool(const LGStation &, QString &)>;
     enum class Found { None, One, Several };
     struct Match
     {
@@ -29,7 +30,7 @@ public:
     /// Stations without a key are never found.
     StationIndex(const StationList &stations, const Key &key);
 
-    [[nodiscard]] Match find(const QString &key, const StationList &stations);
+    [[nodiscard]] Match find(QStringView key, const StationList &stations);
 
 private:
     static constexpr std::size_t none = std::numeric_limits<std::size_t>::max();
@@ -41,7 +42,10 @@ private:
 
     [[nodiscard]] std::size_t firstHeld(std::size_t index, const StationList &stations) const;
 
-    QHash<QString, Chain> m_chains;
+    [[nodiscard]] QStringView kept(QStringView key);
+
+    std::pmr::monotonic_buffer_resource m_texts; ///< of the keys
+    QHash<QStringView, Chain> m_chains;
     std::vector<std::size_t> m_next; ///< the next station with the same key
 };
 

@@ -60,6 +60,26 @@ QString withoutCase(const QString &name)
     return folded;
 }
 
+bool takeText(std::optional<QString> &&given, QString &text)
+{
+    if (given)
+        text = *std::move(given);
+    return given.has_value();
+}
+
+/// The service id of a station, whose digits mostly need not be made a text of their own.
+bool takeServiceID(const LGStation &station, QString &text)
+{
+    const Dictionary &entry = station.entry();
+    const qsizetype position = entry.indexOf(station.keys().keyService_id);
+    const auto bytes = position == KeyTable::none ? std::nullopt : entry.bytesRead(position);
+    const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
+    if (!bytes || !std::all_of(bytes->begin(), bytes->end(), isDigit))
+        return takeText(station.service_id(), text);
+    text = QLatin1String(*bytes);
+    return true;
+}
+
 /// One text for several that no other texts give.
 std::optional<QString> joined(std::initializer_list<std::optional<QString>> texts)
 {
@@ -138,14 +158,13 @@ StationIndex &StationPool::index(std::optional<StationIndex> &made,
 
 StationPool::Match StationPool::find(const QString &service)
 {
-    const auto key = [](const LGStation &station) { return station.service_id(); };
-    return index(m_byService, key).find(service, m_stations);
+    return index(m_byService, takeServiceID).find(service, m_stations);
 }
 
 StationPool::Match StationPool::find(const QString &service, const QString &transport)
 {
-    const auto key = [](const LGStation &station) {
-        return joined({station.service_id(), station.transport_id()});
+    const auto key = [](const LGStation &station, QString &text) {
+        return takeText(joined({station.service_id(), station.transport_id()}), text);
     };
     return index(m_byTransport, key).find(*joined({service, transport}), m_stations);
 }
@@ -153,16 +172,19 @@ StationPool::Match StationPool::find(const QString &service, const QString &tran
 StationPool::Match StationPool::find(const QString &service, const QString &transport,
                                      const QString &network)
 {
-    const auto key = [](const LGStation &station) {
-        return joined({station.service_id(), station.transport_id(), station.originalNetwork_id()});
+    const auto key = [](const LGStation &station, QString &text) {
+        return takeText(
+            joined({station.service_id(), station.transport_id(), station.originalNetwork_id()}),
+            text);
     };
     return index(m_byNetwork, key).find(*joined({service, transport, network}), m_stations);
 }
 
 StationPool::Match StationPool::findName(const QString &name)
 {
-    const auto key = [](const LGStation &station) {
-        return std::optional(withoutCase(station.name()));
+    const auto key = [](const LGStation &station, QString &text) {
+        fold(station.name(), text);
+        return true;
     };
     fold(name, m_wanted);
     return index(m_byName, key).find(m_wanted, m_stations);

@@ -31,10 +31,11 @@ std::optional<CharacterData> CharacterData::decode(const QByteArray &content)
 {
     CharacterData data;
     data.m_stretches.push_back({0, 0});
-    const auto isOrdinary = [](char c) { return c != '&' && c != '<' && c != '\r'; };
     const char *at = content.begin();
     while (true) {
-        const char *const next = std::find_if_not(at, content.end(), isOrdinary);
+        const char *next = endOfPlainRun(at, content.end());
+        while (next != content.end() && *next == ']')
+            next = endOfPlainRun(next + 1, content.end());
         if (at == content.begin() && next == content.end()) {
             data.m_text = content; // shared
             return data;

@@ -2,6 +2,7 @@
 
 #include "document/list/ChannelList.h"
 #include "document/repair/BroadcastText.h"
+#include "document/repair/PlainSpans.h"
 #include "document/repair/StationSpans.h"
 #include "document/write/BroadcastWriting.h"
 #include "model/FileWords.h"
@@ -63,6 +64,12 @@ std::vector<PlacedChannel> placedChannels(const ChannelList &list, const Array &
     return channels;
 }
 
+std::vector<ElementSpan> spansOfFile(const QByteArray &text, const std::vector<QByteArray> &path)
+{
+    std::optional<std::vector<ElementSpan>> spans = plainElementSpans(text, path);
+    return spans ? *std::move(spans) : elementSpans(text, path);
+}
+
 /// The elements in the content of the one at the end of the path. Hardly any has one.
 std::vector<ElementSpan> elementsInside(const QByteArray &text, std::vector<QByteArray> path,
                                         const TextSpan &content)
@@ -122,7 +129,7 @@ QByteArray repairedChannels(const ChannelList &list, const QByteArray &text)
     const std::vector<QByteArray> path{{},
                                        fileword::channel.bytes().toByteArray(),
                                        fileword::legacyBroadcast.bytes().toByteArray()};
-    const std::vector<ElementSpan> spans = elementSpans(text, path);
+    const std::vector<ElementSpan> spans = spansOfFile(text, path);
     if (!list.broadcast.legacyDict || spans.empty())
         return text;
     TextSpan json = spans.front().content;

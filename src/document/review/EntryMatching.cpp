@@ -62,13 +62,18 @@ public:
             const bool isGone = areGone[i->index];
             if (isGone && i == first + static_cast<qsizetype>(first->passed))
                 ++first->passed;
-            if (!isGone && areWrittenSame(m_entries[i->index], entry, m_without))
+            if (!isGone && areSame(m_entries[i->index], entry))
                 return i->index;
         }
         return {};
     }
 
 private:
+    [[nodiscard]] bool areSame(const Dictionary &a, const Dictionary &b)
+    {
+        return m_without.isEmpty() ? m_comparison.areSame(a, b) : areWrittenSame(a, b, m_without);
+    }
+
     struct Place
     {
         std::size_t hash;
@@ -83,6 +88,7 @@ private:
 
     const std::vector<Dictionary> &m_entries;
     QStringList m_without;
+    Comparison m_comparison;
     std::vector<Place> m_places;
 };
 
@@ -123,15 +129,14 @@ private:
 class EntryPools
 {
 public:
-    EntryPools(const std::vector<Dictionary> &expected, const std::vector<bool> &areFound,
-               const EntryKeys &keys)
-        : m_hasher(keys.edited, keys.number), m_foundSame(expected, {}),
-          m_foundAlike(expected, keys.edited),
-          m_missingOfNumber(expected, m_hasher.editedButNumber()),
-          m_missingButNumber(expected, m_hasher.number()), m_missingAlike(expected, keys.edited)
+    EntryPools(const std::vector<Dictionary> &expected, const std::vector<WrittenHashes> &allHashes,
+               const std::vector<bool> &areFound, const WrittenHasher &hasher)
+        : m_foundSame(expected, {}), m_foundAlike(expected, hasher.edited()),
+          m_missingOfNumber(expected, hasher.editedButNumber()),
+          m_missingButNumber(expected, hasher.number()), m_missingAlike(expected, hasher.edited())
     {
         for (std::size_t i = 0; i < expected.size(); ++i) {
-            const WrittenHashes hashes = m_hasher.hashesOf(expected[i]);
+            const WrittenHashes &hashes = allHashes[i];
             if (areFound[i]) {
                 m_foundSame.add(hashes.all, i);
                 m_foundAlike.add(hashes.unedited, i);
@@ -153,10 +158,10 @@ public:
     };
     /// Takes out the one that an entry is of. One that has all but its number is there; that it
     /// then looks like another is no second one.
-    std::optional<Taken> take(const Dictionary &entry, const std::vector<bool> &areFound,
+    std::optional<Taken> take(const Dictionary &entry, const WrittenHashes &hashes,
+                              const std::vector<bool> &areFound,
                               const std::vector<bool> &areDoubled)
     {
-        const WrittenHashes hashes = m_hasher.hashesOf(entry);
         if (const auto i = m_missingOfNumber.take(hashes.uneditedAndNumber, entry, areFound))
             return Taken{*i, false};
         if (const auto i = m_missingButNumber.take(hashes.butNumber, entry, areFound))
@@ -171,31 +176,29 @@ public:
     }
 
 private:
-    WrittenHasher m_hasher;
     EntryPool m_foundSame, m_foundAlike, m_missingOfNumber, m_missingButNumber, m_missingAlike;
 };
 
-/// Notes what is there as expected, and where. Returns the others.
-std::vector<const Dictionary *> findSame(const std::vector<Dictionary> &expected,
-                                         const std::vector<Dictionary> &actual,
-                                         std::vector<bool> &areFound,
-                                         std::vector<std::size_t> &places)
+/// Notes what is there as expected, and where. Returns the indexes of the others.
+std::vector<std::size_t> findSame(const std::vector<Dictionary> &expected,
+                                  const std::vector<WrittenHashes> &expectedHashes,
+                                  const std::vector<Dictionary> &actual,
+                                  const std::vector<WrittenHashes> &actualHashes,
+                                  std::vector<bool> &areFound, std::vector<std::size_t> &places)
 {
-    WrittenHasher hasher;
     EntryPool wanted(expected, {});
     wanted.reserve(expected.size());
     for (std::size_t i = 0; i < expected.size(); ++i)
-        wanted.add(hasher.hashesOf(expected[i]).all, i);
+        wanted.add(expectedHashes[i].all, i);
     wanted.sort();
-    std::vector<const Dictionary *> others;
+    std::vector<std::size_t> others;
     places.resize(expected.size());
     for (std::size_t i = 0; i < actual.size(); ++i) {
-        const std::size_t hash = hasher.hashesOf(actual[i]).all;
-        if (const auto index = wanted.take(hash, actual[i], areFound)) {
+        if (const auto index = wanted.take(actualHashes[i].all, actual[i], areFound)) {
             areFound[*index] = true;
             places[*index] = i;
         } else {
-            others.push_back(&actual[i]);
+            others.push_back(i);
         }
     }
     return others;
@@ -214,21 +217,25 @@ EntryMatches matchEntries(const std::vector<Dictionary> &expected,
         return {};
 
     // First what is as expected, then what is alike, then what only has the number.
+    WrittenHasher hasher(keys.edited, keys.number);
+    const std::vector<WrittenHashes> expectedHashes = hasher.hashesOf(expected);
+    const std::vector<WrittenHashes> actualHashes = hasher.hashesOf(actual);
     std::vector<bool> isFound(expected.size(), false);
     EntryMatches matches;
-    const std::vector<const Dictionary *> others =
-        findSame(expected, actual, isFound, matches.places);
+    const std::vector<std::size_t> others =
+        findSame(expected, expectedHashes, actual, actualHashes, isFound, matches.places);
     if (others.empty() && actual.size() == expected.size())
         return matches;
-    EntryPools pools(expected, isFound, keys);
+    EntryPools pools(expected, expectedHashes, isFound, hasher);
     NumberPool mutilated(keys.number);
     std::vector<const Dictionary *> unlike;
     std::vector<bool> isDoubled(expected.size(), false);
-    for (const Dictionary *entry : others) {
-        const auto taken = pools.take(*entry, isFound, isDoubled);
+    for (const std::size_t index : others) {
+        const Dictionary &entry = actual[index];
+        const auto taken = pools.take(entry, actualHashes[index], isFound, isDoubled);
         if (!taken) {
-            mutilated.add(*entry);
-            unlike.push_back(entry);
+            mutilated.add(entry);
+            unlike.push_back(&entry);
             continue;
         }
         (taken->isSecond ? isDoubled : isFound)[taken->index] = true;

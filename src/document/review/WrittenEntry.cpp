@@ -24,14 +24,17 @@ std::optional<QString> textOf(const Value &value)
 /// A field whose bytes do not tell it.
 struct LooseField
 {
-    LooseField(const Dictionary &entry, qsizetype position) : text(entry.text(position))
+    explicit LooseField(const Value &held) : text(textOf(held)), value(&held)
     {
-        if (!text) {
-            value = &entry.at(position).value;
-            text = textOf(*value);
-        }
         if (text)
             text = text->trimmed();
+    }
+    LooseField(const Dictionary &entry, qsizetype position) : text(entry.text(position))
+    {
+        if (text)
+            text = text->trimmed();
+        else
+            *this = LooseField(entry.at(position).value);
     }
     [[nodiscard]] bool isNone() const { return text && text->isEmpty(); }
     [[nodiscard]] bool operator==(const LooseField &other) const
@@ -116,17 +119,51 @@ struct ValueHash
 };
 
 /// None of what is as good as none.
-std::optional<std::size_t> hashAt(const Dictionary &entry, qsizetype position)
+std::optional<std::size_t> hashOf(const LooseField &field)
+{
+    if (field.isNone())
+        return {};
+    return field.text ? hashOf(*field.text) : field.value->visit(ValueHash());
+}
+
+/// The same of a field of an entry that was noted.
+std::optional<std::size_t> notedHashAt(const Dictionary &entry, qsizetype position)
 {
     if (const std::optional<QByteArrayView> bytes = entry.bytesRead(position))
         return qHash(*bytes);
-    if (isNone(entry, position))
-        return {};
-    if (const Value *value = plainValue(entry, position))
-        return value->string() ? hashOf(QStringView(*value->string()).trimmed())
-                               : value->visit(ValueHash());
-    const LooseField field(entry, position);
-    return field.text ? hashOf(*field.text) : field.value->visit(ValueHash());
+    return hashOf(LooseField(entry, position));
+}
+
+/// The same of a value in any other.
+struct FieldHash
+{
+    using Hash = std::optional<std::size_t>;
+    const Value &value;
+
+    Hash operator()(const QString &string) const
+    {
+        const QStringView text = QStringView(string).trimmed();
+        return text.isEmpty() ? Hash() : hashOf(text);
+    }
+    Hash operator()(const Dictionary & /*node*/) const { return hashOf(LooseField(value)); }
+    Hash operator()(const Array & /*array*/) const { return hashOf(LooseField(value)); }
+    template<typename Plain>
+    Hash operator()(Plain plain) const
+    {
+        return ValueHash()(plain);
+    }
+};
+
+std::optional<std::size_t> hashOf(const Value &value)
+{
+    return value.visit(FieldHash{value});
+}
+
+/// Of a field, from the hash of its key, which is well mixed, and that of what it holds.
+std::size_t hashOfField(std::size_t key, std::size_t content)
+{
+    const quint64 mixed = (quint64{key} ^ content) * 0x9E3779B97F4A7C15;
+    return static_cast<std::size_t>(mixed ^ (mixed >> 32));
 }
 
 } // namespace
@@ -171,17 +208,29 @@ void WrittenHasher::readKeys(const Dictionary &entry)
     }
 }
 
+std::vector<WrittenHashes> WrittenHasher::hashesOf(const std::vector<Dictionary> &entries)
+{
+    std::vector<WrittenHashes> all;
+    all.reserve(entries.size());
+    for (const Dictionary &entry : entries)
+        all.push_back(hashesOf(entry));
+    return all;
+}
+
 WrittenHashes WrittenHasher::hashesOf(const Dictionary &entry)
 {
     if (entry.keys() != m_keys)
         readKeys(entry);
     WrittenHashes hashes;
+    const bool isNoted = entry.origin().has_value();
     for (std::size_t i = 0; i < m_fields.size(); ++i) {
         const auto [key, isEdited, isNumber] = m_fields[i];
-        const std::optional<std::size_t> content = hashAt(entry, static_cast<qsizetype>(i));
+        const auto position = static_cast<qsizetype>(i);
+        const std::optional<std::size_t> content =
+            isNoted ? notedHashAt(entry, position) : hashOf(entry.at(position).value);
         if (!content)
             continue;
-        const std::size_t hash = qHashMulti(0, key, *content);
+        const std::size_t hash = hashOfField(key, *content);
         hashes.all += hash;
         hashes.unedited += isEdited ? 0 : hash;
         hashes.uneditedAndNumber += isEdited && !isNumber ? 0 : hash;

@@ -29,12 +29,13 @@ struct WrittenHashes
 class WrittenHasher
 {
 public:
-    WrittenHasher() = default;
     /// By the fields that editing changes and that of the number, which may be empty.
     WrittenHasher(const QStringList &edited, const QString &number);
 
-    [[nodiscard]] WrittenHashes hashesOf(const Dictionary &entry);
+    /// One for each entry.
+    [[nodiscard]] std::vector<WrittenHashes> hashesOf(const std::vector<Dictionary> &entries);
 
+    [[nodiscard]] const QStringList &edited() const { return m_edited; }
     [[nodiscard]] const QStringList &editedButNumber() const { return m_editedButNumber; }
     /// The one field of the number, if there is one.
     [[nodiscard]] const QStringList &number() const { return m_number; }
@@ -46,6 +47,7 @@ private:
         bool isEdited;
         bool isNumber;
     };
+    [[nodiscard]] WrittenHashes hashesOf(const Dictionary &entry);
     void readKeys(const Dictionary &entry);
 
     QStringList m_edited;

@@ -1,9 +1,10 @@
 #include "document/list/FileText.h"
 
+#include "support/TextSearch.h"
+
 #include <QRegularExpression>
 
 #include <algorithm>
-#include <cstring>
 
 namespace quillet {
 
@@ -44,23 +45,12 @@ qsizetype bytesOf(const QByteArray &utf8, qsizetype units)
     return i;
 }
 
-/// The first place of a tag at or after a position; -1 when there is none. The tags looked for
-/// stand at the far end of a long text, so it is skimmed for the character before the tag's last:
-/// most have a capital there, which is rare in a file, and "<" and ">" are all over it.
+/// The first place of a tag at or after a position; -1 when there is none. Capitals are rare where
+/// tags have them, and so is "<" in JSON.
 qsizetype indexOf(QByteArrayView utf8, QByteArrayView tag, qsizetype from)
 {
-    const qsizetype toMark = tag.size() - 2;
-    const char *const end = utf8.data() + utf8.size();
-    for (const char *start = utf8.data() + from; end - start >= tag.size(); ++start) {
-        const auto room = static_cast<std::size_t>(end - start - toMark);
-        const void *mark = std::memchr(start + toMark, tag[toMark], room);
-        if (!mark)
-            break;
-        start = static_cast<const char *>(mark) - toMark;
-        if (end - start >= tag.size() && QByteArrayView(start, tag.size()) == tag)
-            return start - utf8.data();
-    }
-    return -1;
+    const qsizetype last = tag.size() - 2;
+    return placeOf(tag, tag[last] >= 'A' && tag[last] <= 'Z' ? last : 0, utf8, from);
 }
 
 } // namespace

@@ -71,8 +71,4 @@ private:
     const ChannelList &m_list;
 };
 
-/// How often a text occurs. Its character at `mark` must be rare in a file: only that one is looked
-/// for.
-[[nodiscard]] qsizetype occurrences(QByteArrayView text, QByteArrayView wanted, qsizetype mark);
-
 } // namespace quillet

@@ -5,6 +5,7 @@
 #include "document/review/ListContent.h"
 #include "document/review/TextCounts.h"
 #include "model/FileWords.h"
+#include "support/TextSearch.h"
 
 #include <algorithm>
 #include <memory>
@@ -33,8 +34,8 @@ void count(Rehearsal::Stations &stations, const std::vector<std::size_t> &indexe
 bool losesComments(const QByteArray &before, const QByteArray &after)
 {
     const auto isFewer = [&](QByteArrayView start) {
-        const qsizetype wanted = occurrences(before, start, 1);
-        return wanted > 0 && occurrences(after, start, 1) < wanted;
+        const qsizetype wanted = occurrences(start, 1, before);
+        return wanted > 0 && occurrences(start, 1, after) < wanted;
     };
     return isFewer("<!--") || isFewer("<?");
 }
@@ -43,7 +44,7 @@ bool losesComments(const QByteArray &before, const QByteArray &after)
 bool losesSurroundingText(const QByteArray &before, const QByteArray &after,
                           const ListContent::Enclosure &enclosure, bool hasEnd)
 {
-    const qsizetype start = before.indexOf(enclosure.start);
+    const qsizetype start = placeOf(enclosure.start, enclosure.start.size() - 2, before);
     if (!after.startsWith(QByteArrayView(before).first(qMax(start, qsizetype(0)))))
         return true;
     const qsizetype end = before.lastIndexOf(enclosure.end);

@@ -4,6 +4,7 @@
 #include "document/list/SectionItems.h"
 #include "document/write/TLLWriter.h"
 #include "model/FileWords.h"
+#include "support/TextSearch.h"
 #include "xml/NodeViews.h"
 
 #include <algorithm>
@@ -188,7 +189,7 @@ bool SectionContent::losesMarkup(const QByteArray &before, const QByteArray &aft
 {
     const ReservedKeys reserved = reservedKeys(m_expected);
     const auto change = [&](QByteArrayView text, qsizetype mark) {
-        return occurrences(after, text, mark) - occurrences(before, text, mark);
+        return occurrences(text, mark, after) - occurrences(text, mark, before);
     };
     static constexpr QByteArrayView textElement = "<__text>";
     return (reserved.attributes && change(attributedItem.bytes(), 4) < 0) ||

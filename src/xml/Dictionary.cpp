@@ -311,6 +311,12 @@ bool Dictionary::isAsNoted() const
     return d && d->noted();
 }
 
+/// Whether both were noted, and their elements are the same byte by byte.
+bool Dictionary::areOneText(const Dictionary &other) const
+{
+    return isAsNoted() && other.isAsNoted() && origin()->bytes() == other.origin()->bytes();
+}
+
 bool Dictionary::hasEqualValue(qsizetype position, const Dictionary &other,
                                qsizetype otherPosition) const
 {
@@ -333,7 +339,7 @@ bool Dictionary::hasEqualValues(const Dictionary &other) const
         return true;
     if (d->isMade() && other.d->isMade())
         return d->values == other.d->values;
-    if (isAsNoted() && other.isAsNoted() && origin()->bytes() == other.origin()->bytes())
+    if (areOneText(other))
         return true;
     for (qsizetype position = 0; position < count(); ++position) {
         if (!hasEqualValue(position, other, position))
@@ -344,7 +350,7 @@ bool Dictionary::hasEqualValues(const Dictionary &other) const
 
 bool Dictionary::operator==(const Dictionary &other) const
 {
-    if (d == other.d)
+    if (d == other.d || areOneText(other))
         return true;
     if (count() != other.count())
         return false;

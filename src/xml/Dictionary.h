@@ -142,6 +142,7 @@ private:
     struct Noted;
     [[nodiscard]] const Noted *notedAt(qsizetype position) const;
     Data &detached();
+    [[nodiscard]] bool areOneText(const Dictionary &other) const;
     enum class Content { Kept, Replaced };
     Value &detachedValue(qsizetype position, Content content);
 

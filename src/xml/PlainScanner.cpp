@@ -132,9 +132,13 @@ bool PlainScanner::skipDeclaration()
     return *m_at == '<';
 }
 
-/// Goes behind a name; null when there is none that is taken.
-PlainScanner::Name *PlainScanner::readName(const char *&at)
+/// Goes behind a name, which mostly is the one expected; null when there is none that is taken.
+PlainScanner::Name *PlainScanner::readName(const char *&at, Name *expected)
 {
+    if (expected && standsAt(at, m_end, expected->text) && !isOfName(at[expected->text.size()])) {
+        at += expected->text.size();
+        return expected;
+    }
     const char *const start = at;
     if (!startsName(*at))
         return nullptr;
@@ -153,22 +157,24 @@ PlainScanner::Name *PlainScanner::readName(const char *&at)
     name.text = text.toByteArray();
     name.startTag = '<' + name.text + '>';
     name.endTag = "</" + name.text + '>';
+    name.isOfXML = name.text.startsWith("xml");
     return m_places[place] = &name;
 }
 
 /// Goes to the end of a start tag. What reading would replace in a value is not taken.
-bool PlainScanner::readAttributes(const char *&at)
+bool PlainScanner::readAttributes(const Name &element, const char *&at)
 {
     m_attributes.clear();
     for (;;) {
         const char *const start = std::exchange(at, skipBlanks(at));
         if (*at == '>' || *at == '/')
             return true;
-        Name *name = at == start ? nullptr : readName(at);
+        const std::size_t index = m_attributes.size();
+        Name *expected = index < element.attributes.size() ? element.attributes[index] : nullptr;
+        Name *name = at == start ? nullptr : readName(at, expected);
         const bool isKnown = std::any_of(m_attributes.begin(), m_attributes.end(),
                                          [name](const auto &each) { return each.name == name; });
-        if (!name || isKnown || name->text.startsWith("xml") ||
-            m_attributes.size() == mostAttributes || at[0] != '=' ||
+        if (!name || isKnown || name->isOfXML || index == mostAttributes || at[0] != '=' ||
             (at[1] != '"' && at[1] != '\''))
             return false;
         const char quote = at[1];
@@ -187,9 +193,12 @@ bool PlainScanner::readAttributes(const char *&at)
 bool PlainScanner::readElement(TreeBuilder &builder)
 {
     const char *at = m_at + 1;
-    Name *name = readName(at);
-    if (!name || !readAttributes(at))
+    Name *name = readName(at, m_last ? m_last->following : nullptr);
+    if (!name || !readAttributes(*name, at))
         return false;
+    if (m_last)
+        m_last->following = name;
+    m_last = name;
     const bool isEmpty = *at == '/';
     if (isEmpty && *++at != '>')
         return false;
@@ -279,11 +288,12 @@ std::optional<PlainScanner::Content> PlainScanner::content(const char *from, con
 {
     const char *start = from;
     const char *end = to;
-    while (start != end && isAsciiBlank(*start))
+    const bool isSurelyTrimmed = from != to && isTrimmed(*from) && isTrimmed(to[-1]);
+    while (!isSurelyTrimmed && start != end && isAsciiBlank(*start))
         ++start;
-    while (start != end && isAsciiBlank(end[-1]))
+    while (!isSurelyTrimmed && start != end && isAsciiBlank(end[-1]))
         --end;
-    if (start != end && (isBeyondAscii(*start) || isBeyondAscii(end[-1]))) {
+    if (!isSurelyTrimmed && start != end && (isBeyondAscii(*start) || isBeyondAscii(end[-1]))) {
         const QString text = textFromUtf8({start, end - start});
         if (text.front().isSpace() || text.back().isSpace())
             return {};
@@ -302,7 +312,7 @@ PlainScanner::Name *PlainScanner::fieldAt(const char *&at, Name *expected)
         at += expected->startTag.size();
         return expected;
     }
-    Name *name = readName(++at);
+    Name *name = readName(++at, nullptr);
     if (!name || name->text.startsWith('_')) // a key that attributes or reserved ones have
         return nullptr;
     if (*at == '>')

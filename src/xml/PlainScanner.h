@@ -38,8 +38,10 @@ private:
         QByteArray text;
         QByteArray startTag; ///< without attributes
         QByteArray endTag;
-        Name *next = nullptr; ///< the field that last stood behind a field of this name
-        quint64 element = 0;  ///< the last one that had a field of this name
+        bool isOfXML = false;      ///< which reserves names that begin so
+        Name *following = nullptr; ///< the element that last began after one of this name
+        Name *next = nullptr;      ///< the field that last stood behind a field of this name
+        quint64 element = 0;       ///< the last one that had a field of this name
         // Of the last element of this name that was noted:
         Name *firstField = nullptr;
         std::vector<Name *> fields;
@@ -61,8 +63,8 @@ private:
     };
 
     bool skipDeclaration();
-    [[nodiscard]] Name *readName(const char *&at);
-    bool readAttributes(const char *&at);
+    [[nodiscard]] Name *readName(const char *&at, Name *expected);
+    bool readAttributes(const Name &element, const char *&at);
     bool readElement(TreeBuilder &builder);
     void startElement(const Name &name, TreeBuilder &builder);
     bool readText(TreeBuilder &builder);
@@ -90,6 +92,7 @@ private:
     const char *m_end;
     std::deque<Name> m_names;
     std::array<Name *, std::size_t{1} << bitsOfPlaces> m_places{}; ///< by a hash of their texts
+    Name *m_last = nullptr;                                        ///< the element that began last
     std::vector<Name *> m_open;
     std::vector<Attribute> m_attributes; ///< of the start tag that was read last
     bool m_notesAttributes = false;

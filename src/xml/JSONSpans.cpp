@@ -2,9 +2,25 @@
 
 #include "xml/JSON.h"
 
+#include <array>
+#include <string_view>
+
 namespace quillet {
 
 namespace {
+
+using CharacterSet = std::array<bool, 256>;
+
+constexpr CharacterSet setOf(std::string_view characters)
+{
+    CharacterSet set{};
+    for (const char c : characters)
+        set[static_cast<unsigned char>(c)] = true;
+    return set;
+}
+
+constexpr CharacterSet bracketsAndQuotes = setOf("[]{}\"");
+constexpr CharacterSet quotesAndEscapes = setOf("\"\\");
 
 /// Walks a text from one value to the next, never behind its end.
 class Walker
@@ -44,13 +60,14 @@ private:
             const char c = m_text[m_at];
             if (c == '"')
                 skipString();
-            else if (depth > 0 || c == '[' || c == '{')
+            else if (c == '[' || c == '{' || depth > 0)
                 ++m_at;
             else
                 return skipScalar();
             depth += c == '[' || c == '{' ? 1 : c == ']' || c == '}' ? -1 : 0;
             if (depth == 0)
                 return;
+            m_at = placeOfAny(bracketsAndQuotes);
         }
     }
     void skipScalar()
@@ -60,9 +77,19 @@ private:
     }
     void skipString()
     {
-        for (++m_at; m_at < m_text.size() && m_text[m_at] != '"'; ++m_at)
-            m_at += m_text[m_at] == '\\' ? 1 : 0;
+        ++m_at;
+        while ((m_at = placeOfAny(quotesAndEscapes)) < m_text.size() && m_text[m_at] == '\\')
+            m_at = qMin(m_at + 2, m_text.size());
         m_at = qMin(m_at + 1, m_text.size());
+    }
+    /// The next of these characters, or the end.
+    [[nodiscard]] qsizetype placeOfAny(const CharacterSet &characters) const
+    {
+        const char *at = m_text.data() + m_at;
+        const char *const end = m_text.data() + m_text.size();
+        while (at != end && !characters[static_cast<unsigned char>(*at)])
+            ++at;
+        return at - m_text.data();
     }
 
     QByteArrayView m_text;

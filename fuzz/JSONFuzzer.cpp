@@ -17,11 +17,16 @@ using namespace quillet::testing;
 namespace {
 
 /// The quick way takes nothing that the strict one would read otherwise.
-void checkWays(QByteArray text)
+void checkWays(const QByteArray &text)
 {
     JSONError error;
     qsizetype rewritten = 0, strictRewritten = 0;
     const std::optional<Value> value = quickValueFromJSON(text, rewritten);
+    const QByteArray other(1000, '"'); // behind it
+    const QByteArray both = text + other;
+    const JSONText amidst(QByteArrayView(both).first(text.size()), other.size());
+    require(quickValueFromJSON(amidst, strictRewritten) == value && strictRewritten == rewritten,
+            "what stands behind a text is not read");
     if (!value)
         return;
     const std::optional<Value> strict = strictValueFromJSON(text, error, strictRewritten);

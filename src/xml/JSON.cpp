@@ -6,12 +6,12 @@
 
 namespace quillet {
 
-std::optional<Value> valueFromJSON(QByteArray text, JSONError &error, qsizetype *rewritten)
+std::optional<Value> valueFromJSON(const JSONText &text, JSONError &error, qsizetype *rewritten)
 {
     qsizetype count = 0;
     std::optional<Value> value = quickValueFromJSON(text, count);
     if (!value)
-        value = strictValueFromJSON(text, error, count);
+        value = strictValueFromJSON(text.utf8, error, count);
     if (rewritten)
         *rewritten = count;
     return value;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "xml/JSONText.h"
 #include "xml/Value.h"
 
 #include <QByteArray>
@@ -27,7 +28,7 @@ inline constexpr int deepestJSON = 512;
 /// nearest double, a number beyond all doubles an infinite one. `rewritten`, if given, gets how
 /// many numbers stand there in another form than toJSON gives them, and how many members were named
 /// again.
-[[nodiscard]] std::optional<Value> valueFromJSON(QByteArray text, JSONError &error,
+[[nodiscard]] std::optional<Value> valueFromJSON(const JSONText &text, JSONError &error,
                                                  qsizetype *rewritten = nullptr);
 
 /// Compact JSON in UTF-8; an infinite number becomes a null. None when the value cannot be

@@ -247,11 +247,17 @@ private:
 
 } // namespace
 
-std::optional<Value> quickValueFromJSON(QByteArray &text, qsizetype &rewritten)
+std::optional<Value> quickValueFromJSON(const JSONText &text, qsizetype &rewritten)
 {
-    text.reserve(text.size() + qsizetype(simdjson::SIMDJSON_PADDING));
-    const simdjson::padded_string_view padded(text.constData(), std::size_t(text.size()),
-                                              std::size_t(text.capacity()));
+    constexpr auto padding = static_cast<qsizetype>(simdjson::SIMDJSON_PADDING);
+    QByteArrayView utf8 = text.utf8;
+    QByteArray copy;
+    if (text.readableBehind < padding) {
+        copy.reserve(utf8.size() + padding);
+        utf8 = copy.append(utf8);
+    }
+    const auto size = static_cast<std::size_t>(utf8.size());
+    const simdjson::padded_string_view padded(utf8.data(), size, size + std::size_t(padding));
     ondemand::parser parser;
     ondemand::document document;
     ondemand::json_type type; // NOLINT(*-member-init): set below

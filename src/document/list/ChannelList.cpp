@@ -42,6 +42,16 @@ QByteArray ChannelList::legacyText() const
     return getAsData(elementText(&channel->at(place).value));
 }
 
+std::optional<JSONText> ChannelList::legacyTextInFile() const
+{
+    const Dictionary *channel = tree.dictionary(fileword::channel);
+    const qsizetype place = channel ? channel->indexOf(fileword::legacyBroadcast) : KeyTable::none;
+    const auto bytes = place == KeyTable::none ? std::nullopt : channel->bytesRead(place);
+    if (!bytes)
+        return {};
+    return JSONText(*bytes, channel->origin()->utf8.end() - bytes->end());
+}
+
 qsizetype ChannelList::stationCount() const
 {
     qsizetype count = 0;

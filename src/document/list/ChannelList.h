@@ -5,6 +5,7 @@
 #include "document/list/LegacyBroadcast.h"
 #include "document/list/StationLists.h"
 #include "xml/EventParser.h"
+#include "xml/JSONText.h"
 #include "xml/Value.h"
 
 #include <QString>
@@ -56,6 +57,9 @@ struct ChannelList
     [[nodiscard]] bool isFormatWithLegacybroadcast() const;
     /// The text of the JSON station list as it stands in the tree, in UTF-8; empty without one.
     [[nodiscard]] QByteArray legacyText() const;
+    /// The same as it stands in the file; none when reading replaces something in it. Valid as long
+    /// as the tree.
+    [[nodiscard]] std::optional<JSONText> legacyTextInFile() const;
     /// In all eight lists.
     [[nodiscard]] qsizetype stationCount() const;
 };

@@ -68,12 +68,12 @@ std::vector<NumberedChannel> sortedChannels(const Array &channelList)
     return channels;
 }
 
-qsizetype extractLegacyStations(LegacyBroadcast &broadcast, QByteArray json, StationLists &lists)
+qsizetype extractLegacyStations(LegacyBroadcast &broadcast, const JSONText &json,
+                                StationLists &lists)
 {
     lists.setupLists();
     JSONError error;
-    const std::optional<Value> object =
-        valueFromJSON(std::move(json), error, &broadcast.rewrittenValues);
+    const std::optional<Value> object = valueFromJSON(json, error, &broadcast.rewrittenValues);
     broadcast.error = object ? std::nullopt : std::optional(error);
     broadcast.legacyDict.reset();
     if (object && object->dictionary())

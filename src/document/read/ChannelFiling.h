@@ -2,8 +2,7 @@
 
 #include "document/list/LegacyBroadcast.h"
 #include "document/list/StationLists.h"
-
-#include <QByteArray>
+#include "xml/JSONText.h"
 
 #include <vector>
 
@@ -23,6 +22,7 @@ struct NumberedChannel
 
 /// Decodes the JSON and files its television stations in the order of their numbers; the lists are
 /// made anew. Returns how many stand in the first source's list.
-qsizetype extractLegacyStations(LegacyBroadcast &broadcast, QByteArray json, StationLists &lists);
+qsizetype extractLegacyStations(LegacyBroadcast &broadcast, const JSONText &json,
+                                StationLists &lists);
 
 } // namespace quillet

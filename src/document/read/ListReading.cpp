@@ -128,7 +128,11 @@ Reading readInto(ChannelList &list, const QByteArray &bytes)
     list.formatFault.reset();
     list.isLegacyFormat = list.isFormatWithLegacybroadcast();
     if (list.isLegacyFormat) {
-        extractLegacyStations(list.broadcast, list.legacyText(), list.lists);
+        const std::optional<JSONText> inFile = list.legacyTextInFile();
+        if (inFile)
+            extractLegacyStations(list.broadcast, *inFile, list.lists);
+        else
+            extractLegacyStations(list.broadcast, list.legacyText(), list.lists);
         list.layout.locateLegacy(list.text);
         return Reading::Done;
     }

@@ -1,10 +1,12 @@
 #include "document/review/WrittenEntry.h"
 
+#include "support/TextConversion.h"
+#include "support/TextUnits.h"
 #include "xml/NodeViews.h"
 
 #include <QHash>
 
-#include <array>
+#include <algorithm>
 #include <optional>
 #include <variant>
 
@@ -77,20 +79,26 @@ bool isSame(const Dictionary &a, qsizetype position, const Dictionary &b, qsizet
     return LooseField(a, position) == LooseField(b, other);
 }
 
-/// Equal for the bytes of UTF-8 and the characters that these are.
+/// As FNV-1a makes it, of characters or of bytes that are some; most texts are a few letters long.
+template<typename View>
+std::size_t hashOfUnits(View text)
+{
+    quint64 hash = 0xCBF29CE484222325;
+    for (const auto unit : text)
+        hash = (hash ^ unitOf(unit)) * 0x100000001B3;
+    return static_cast<std::size_t>(hash ^ (hash >> 32));
+}
+
+/// Equal for characters and the bytes of UTF-8 that they are in a file.
 std::size_t hashOf(QStringView text)
 {
-    std::array<char, 64> bytes; // NOLINT(cppcoreguidelines-pro-type-member-init)
-    char16_t all = 0;
-    if (text.size() <= static_cast<qsizetype>(bytes.size())) {
-        for (qsizetype i = 0; i < text.size(); ++i) {
-            all |= text[i].unicode();
-            bytes[static_cast<std::size_t>(i)] = static_cast<char>(text[i].unicode());
-        }
-        if (all < 0x80)
-            return qHash(QByteArrayView(bytes.data(), text.size()));
-    }
-    return qHash(QByteArrayView(text.toUtf8()));
+    return hashOfUnits(text);
+}
+std::size_t hashOf(QByteArrayView utf8)
+{
+    const bool isAscii =
+        std::all_of(utf8.begin(), utf8.end(), [](char c) { return unitOf(c) < 0x80; });
+    return isAscii ? hashOfUnits(utf8) : hashOfUnits(QStringView(textFromUtf8(utf8)));
 }
 
 /// Without making a text of what is nested, which may be many times as long.
@@ -99,8 +107,8 @@ struct ValueHash
     std::size_t operator()(std::monostate) const { return 0; }
     std::size_t operator()(const QString &text) const { return hashOf(text); }
     std::size_t operator()(bool boolean) const { return boolean ? 1 : 2; }
-    std::size_t operator()(qint64 number) const { return qHash(number); }
-    std::size_t operator()(quint64 number) const { return qHash(number); }
+    std::size_t operator()(qint64 number) const { return static_cast<std::size_t>(number); }
+    std::size_t operator()(quint64 number) const { return static_cast<std::size_t>(number); }
     std::size_t operator()(double number) const { return qHash(number); }
     std::size_t operator()(const Dictionary &entry) const
     {
@@ -130,7 +138,7 @@ std::optional<std::size_t> hashOf(const LooseField &field)
 std::optional<std::size_t> notedHashAt(const Dictionary &entry, qsizetype position)
 {
     if (const std::optional<QByteArrayView> bytes = entry.bytesRead(position))
-        return qHash(*bytes);
+        return hashOf(*bytes);
     return hashOf(LooseField(entry, position));
 }
 

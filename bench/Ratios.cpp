@@ -104,6 +104,8 @@ constexpr std::array moments{
     Moment{"move them up, ms", "scattered-up/tv-10000"},
     Moment{"move them to the top, ms", "scattered-top/tv-10000"},
     Moment{"undo that, ms", "scattered-undo-top/tv-10000"},
+    Moment{"sort them by their names, ms", "scattered-sort/tv-10000"},
+    Moment{"paste them, ms", "scattered-paste/tv-10000"},
     Moment{"select the others instead, ms", "scattered-invert/tv-10000"},
     Moment{"select none instead, ms", "scattered-none/tv-10000"},
 };

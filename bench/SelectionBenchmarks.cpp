@@ -4,6 +4,7 @@
 #include "bench/Measuring.h"
 #include "bench/OpenWindow.h"
 #include "bench/Rows.h"
+#include "document/edit/ArrangeKey.h"
 #include "editor/EditorView.h"
 
 #include <array>
@@ -17,9 +18,10 @@ namespace {
 struct Command
 {
     const char *row;
-    const char *name;
-    bool isUndone = false;      ///< it is given beforehand, and undoing it is measured
-    bool isOfSelection = false; ///< and leaves nothing to undo
+    const char *name;      ///< null: the stations are sorted by their names, which a sheet asks for
+    bool isUndone = false; ///< it is given beforehand, and undoing it is measured
+    bool isOfSelection = false;   ///< and leaves nothing to undo
+    const char *before = nullptr; ///< another one that it needs
 };
 
 constexpr std::array commands{
@@ -27,6 +29,8 @@ constexpr std::array commands{
     Command{"scattered-lock", "changeChildLockForSelectedItems"},
     Command{"scattered-up", "moveUp"},
     Command{"scattered-top", "moveToTop"},
+    Command{"scattered-sort", nullptr},
+    Command{"scattered-paste", "paste", false, false, "copy"},
     Command{"scattered-undo-skip", "skipSelectedItems", true},
     Command{"scattered-undo-top", "moveToTop", true},
     Command{"scattered-invert", "invertSelection", false, true},
@@ -77,11 +81,16 @@ void commanding(benchmark::State &state, const QString &file, const Command &com
                             window.editor()->selectRows(scattered);
                             if (command.isUndone)
                                 window.trigger(command.name);
+                            if (command.before)
+                                window.trigger(command.before);
                             OpenWindow::settle();
                         },
                     .run =
                         [&] {
-                            window.trigger(command.isUndone ? "undo" : command.name);
+                            if (command.name)
+                                window.trigger(command.isUndone ? "undo" : command.name);
+                            else
+                                window.editor()->controller().arrangeByKeys({{ArrangeBy::Name}});
                             OpenWindow::settle();
                         },
                     .hasWorked =

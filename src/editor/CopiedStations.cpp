@@ -38,7 +38,7 @@ const QString CopiedStations::textFormat = QStringLiteral("text/plain");
 
 CopiedStations::CopiedStations(const StationList &stations, const StationList &list,
                                CellTexts cells, const std::vector<ColumnContent> &columns)
-    : m_cells(std::move(cells)), m_columns(columns)
+    : m_originals(stations.begin(), stations.end()), m_cells(std::move(cells)), m_columns(columns)
 {
     QHash<const LGStation *, StationPtr> copies;
     copies.reserve(static_cast<qsizetype>(list.size()));
@@ -58,6 +58,15 @@ CopiedStations::CopiedStations(const StationList &stations, const StationList &l
 QStringList CopiedStations::formats() const
 {
     return {textFormat, htmlFormat, tabsFormat, commasFormat, rowsFormat};
+}
+
+StationList CopiedStations::originals() const
+{
+    StationList originals;
+    originals.reserve(m_originals.size());
+    for (const auto &each : m_originals)
+        originals.push_back(each.lock());
+    return originals;
 }
 
 QVariant CopiedStations::retrieveData(const QString &format, QMetaType type) const

@@ -5,6 +5,7 @@
 
 #include <QMimeData>
 
+#include <memory>
 #include <vector>
 
 namespace quillet {
@@ -26,6 +27,8 @@ public:
                    const std::vector<ColumnContent> &columns);
 
     [[nodiscard]] QStringList formats() const override;
+    /// Those that were copied themselves, in their order; null for one that is gone.
+    [[nodiscard]] StationList originals() const;
 
 protected:
     [[nodiscard]] QVariant retrieveData(const QString &format, QMetaType type) const override;
@@ -35,6 +38,7 @@ private:
     [[nodiscard]] HtmlTable table() const;
     [[nodiscard]] QByteArray keyedRows() const;
 
+    std::vector<std::weak_ptr<LGStation>> m_originals;
     StationList m_stations; ///< of the list
     StationList m_list;     ///< a copy
     CellTexts m_cells;

@@ -1,6 +1,7 @@
 #include "editor/PasteCommand.h"
 
 #include "document/compare/UnkeptNames.h"
+#include "editor/CopiedStations.h"
 
 #include <QSet>
 
@@ -21,6 +22,21 @@ StationPtr PasteCommand::place() const
 {
     const StationList selected = m_table.shown().ownStationsAt(m_outlets.selectedRows().first(1));
     return selected.empty() ? nullptr : selected.front();
+}
+
+std::optional<PasteCommand::Move> PasteCommand::planOwn(const QMimeData &data) const
+{
+    const auto *copied = qobject_cast<const CopiedStations *>(&data);
+    const StationPtr target = place();
+    if (!copied || !target)
+        return {};
+    const StationList &list = *m_table.stationDoc()->stations();
+    const QSet<StationPtr> known(list.begin(), list.end());
+    Move move{copied->originals(), target->progNum()};
+    const bool areAllThere =
+        std::all_of(move.stations.begin(), move.stations.end(),
+                    [&known](const StationPtr &station) { return known.contains(station); });
+    return areAllThere ? std::optional(std::move(move)) : std::nullopt;
 }
 
 std::optional<PastedStations> PasteCommand::read(const QMimeData &data) const

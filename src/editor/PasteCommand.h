@@ -30,6 +30,9 @@ public:
         StationList stations; ///< of the list on show, in the order of the rows
         qint64 target = 0;
     };
+    /// What pasting would do with what this program has on the clipboard and still has in the list,
+    /// which need not be read. None when there is anything else.
+    [[nodiscard]] std::optional<Move> planOwn(const QMimeData &data) const;
     /// What pasting would do. None when a row fits no station, or not surely: then the comparison
     /// is to be shown first.
     [[nodiscard]] std::optional<Move> plan(PastedStations &pasted) const;

@@ -274,6 +274,8 @@ void ViewController::paste(const QMimeData &data)
         return;
     if (const QString reason = m_pasting.reasonAgainst(); !reason.isEmpty())
         return outlets().tell(reason);
+    if (const auto move = m_pasting.planOwn(data))
+        return carryOutPaste(*move);
     std::optional<PastedStations> pasted = m_pasting.read(data);
     if (!pasted)
         return outlets().tell(qtTrId("kTipNothingToPaste"));

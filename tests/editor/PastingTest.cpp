@@ -42,12 +42,19 @@ std::unique_ptr<QMimeData> textData(const QString &text)
     return data;
 }
 
-enum class Form { Own, Keyed, Identifiers };
+enum class Form { Own, OfAnotherProgram, Keyed, Identifiers };
 
 std::unique_ptr<QMimeData> dataOf(const Editor &editor, const StationList &stations, Form form)
 {
-    if (form == Form::Own)
-        return copiedStations(editor.controller, stations, {ColumnContent::Name});
+    if (form == Form::Own || form == Form::OfAnotherProgram) {
+        auto own = copiedStations(editor.controller, stations, {ColumnContent::Name});
+        if (form == Form::Own)
+            return own;
+        auto told = std::make_unique<QMimeData>();
+        const QString format = u"application/x-quillet-stations"_s;
+        told->setData(format, own->data(format));
+        return told;
+    }
     QString text = form == Form::Keyed ? u"Title;key\r\n"_s : QString();
     for (const StationPtr &station : stations) {
         const QString service = StationKey::of(*station).service;
@@ -75,6 +82,8 @@ private slots:
         QTest::addColumn<bool>("isJSON");
         for (const bool isJSON : {false, true}) {
             QTest::addRow("own%s", isJSON ? ", JSON" : "") << Form::Own << isJSON;
+            QTest::addRow("of another program%s", isJSON ? ", JSON" : "")
+                << Form::OfAnotherProgram << isJSON;
             QTest::addRow("keys%s", isJSON ? ", JSON" : "") << Form::Keyed << isJSON;
             QTest::addRow("identifiers%s", isJSON ? ", JSON" : "") << Form::Identifiers << isJSON;
         }
@@ -86,7 +95,8 @@ private slots:
         for (quint32 seed = 1; seed <= 8; ++seed) {
             QRandomGenerator random(seed);
             // What only the program's own form tells apart: one of four shares its identifiers.
-            const int distinct = form == Form::Own ? 30 : 40;
+            const bool isOwn = form == Form::Own || form == Form::OfAnotherProgram;
+            const int distinct = isOwn ? 30 : 40;
             Editor editor(isJSON ? std::vector<Item>() : randomStations(random, distinct));
             if (isJSON)
                 editor.show(randomChannels(distinct));

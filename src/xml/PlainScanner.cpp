@@ -49,6 +49,15 @@ bool standsAt(const char *at, const char *end, const QByteArray &text)
            std::memcmp(at, text.constData(), static_cast<std::size_t>(text.size())) == 0;
 }
 
+/// Behind the characters, mostly few, that need no second look: of ASCII, and neither blanks nor of
+/// any meaning in XML.
+const char *endOfWord(const char *at)
+{
+    while (*at > ' ' && *at < 0x7F && *at != '<' && *at != '&' && *at != ']')
+        ++at;
+    return at;
+}
+
 bool isBeyondAscii(char c)
 {
     return static_cast<unsigned char>(c) >= 0x80;
@@ -298,10 +307,19 @@ std::optional<PlainScanner::Content> PlainScanner::content(const char *from, con
         if (text.front().isSpace() || text.back().isSpace())
             return {};
     }
-    const ReadText text{.start = offset(start),
-                        .size = static_cast<quint32>(end - start) & 0x7FFFFFFF,
-                        .isEncoded = isEncoded};
-    return Content{text, start != from || end != to};
+    return Content{textBetween(start, end, isEncoded), start != from || end != to};
+}
+
+/// The text that ends at the next tag, to which it goes; none when there is no such tag, or the
+/// text is not taken.
+std::optional<PlainScanner::Content> PlainScanner::contentAt(const char *&at) const
+{
+    const char *const start = std::exchange(at, endOfWord(at));
+    if (at != start && *at == '<')
+        return Content{textBetween(start, at, false), false};
+    bool isEncoded = false;
+    at = endOfText(start, isEncoded);
+    return at ? content(start, at, isEncoded) : std::nullopt;
 }
 
 /// The name of a field whose start tag has no attributes. Goes behind that tag, or to the slash of
@@ -346,17 +364,14 @@ bool PlainScanner::noteFields(Name &element, const char *&at, bool &isInLines)
             isInLines = false;
             continue;
         }
-        bool isEncoded = false;
-        const char *const end = endOfText(at, isEncoded);
-        if (!end || !standsAt(end, m_end, field->endTag))
+        const std::optional<Content> found = contentAt(at);
+        if (!found || !standsAt(at, m_end, field->endTag))
             return false;
-        const std::optional<Content> found = content(at, end, isEncoded);
-        if (!found)
-            return false;
-        isInLines = isInLines && !isEncoded && !found->isTrimmed && found->text.size > 0;
-        at = end + field->endTag.size();
-        if (found->text.size > 0) {
-            m_texts->add(found->text);
+        const ReadText &text = found->text;
+        isInLines = isInLines && !text.isEncoded && !found->isTrimmed && text.size > 0;
+        at += field->endTag.size();
+        if (text.size > 0) {
+            m_texts->add(text);
             m_fields.push_back(field);
         }
     }

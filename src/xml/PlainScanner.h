@@ -73,6 +73,13 @@ private:
     [[nodiscard]] const char *endOfText(const char *at, bool &isEncoded) const;
     [[nodiscard]] std::optional<Content> content(const char *from, const char *to,
                                                  bool isEncoded) const;
+    [[nodiscard]] std::optional<Content> contentAt(const char *&at) const;
+    [[nodiscard]] ReadText textBetween(const char *start, const char *end, bool isEncoded) const
+    {
+        return {.start = offset(start),
+                .size = static_cast<quint32>(end - start) & 0x7FFFFFFF,
+                .isEncoded = isEncoded};
+    }
     [[nodiscard]] Name *fieldAt(const char *&at, Name *expected);
     bool noteFields(Name &element, const char *&at, bool &isInLines);
     bool noteElement(Name &element, const char *start, TreeBuilder &builder);

@@ -62,9 +62,10 @@ QString withoutCase(const QString &name)
 
 bool takeText(std::optional<QString> &&given, QString &text)
 {
-    if (given)
-        text = *std::move(given);
-    return given.has_value();
+    if (!given)
+        return false;
+    text = *std::move(given);
+    return true;
 }
 
 /// The service id of a station, whose digits mostly need not be made a text of their own.

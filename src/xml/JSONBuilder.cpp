@@ -10,7 +10,7 @@ namespace quillet {
 
 namespace {
 
-/// As == of Qt's views, which is a call of two functions, is.
+/// Without the two calls that comparing takes in Qt.
 bool isEqual(QByteArrayView one, QByteArrayView other)
 {
     return one.size() == other.size() &&

@@ -1,6 +1,5 @@
 #include "xml/PlainScanner.h"
 
-#include "support/TextConversion.h"
 #include "xml/NodeViews.h"
 #include "xml/PlainText.h"
 
@@ -49,26 +48,6 @@ bool standsAt(const char *at, const char *end, const QByteArray &text)
            std::memcmp(at, text.constData(), static_cast<std::size_t>(text.size())) == 0;
 }
 
-/// Behind the characters, mostly few, that need no second look: of ASCII, and neither blanks nor of
-/// any meaning in XML.
-const char *endOfWord(const char *at)
-{
-    while (*at > ' ' && *at < 0x7F && *at != '<' && *at != '&' && *at != ']')
-        ++at;
-    return at;
-}
-
-bool isBeyondAscii(char c)
-{
-    return static_cast<unsigned char>(c) >= 0x80;
-}
-
-/// Whether no blank that trimming takes away stands there.
-bool isTrimmed(char edge)
-{
-    return !isAsciiBlank(edge) && !isBeyondAscii(edge);
-}
-
 /// The bytes of one that nobody else may change or free.
 QByteArray owned(QByteArray bytes)
 {
@@ -89,7 +68,7 @@ bool PlainScanner::suits(const XMLDictionaryParser::Settings &settings)
 
 PlainScanner::PlainScanner(const QByteArray &utf8)
     : m_texts(new ReadTexts(owned(utf8))), m_start(m_texts->utf8().constData()), m_at(m_start),
-      m_end(m_start + m_texts->utf8().size())
+      m_end(m_start + m_texts->utf8().size()), m_finder(m_start, m_end)
 {
 }
 
@@ -245,7 +224,7 @@ void PlainScanner::startElement(const Name &name, TreeBuilder &builder)
 bool PlainScanner::readText(TreeBuilder &builder)
 {
     bool isEncoded = false;
-    const char *const end = endOfText(m_at, isEncoded);
+    const char *const end = m_finder.endOf(m_at, isEncoded);
     if (!end)
         return false;
     const QByteArrayView text(m_at, end - m_at);
@@ -268,58 +247,6 @@ bool PlainScanner::readEndTag(TreeBuilder &builder)
     m_open.pop_back();
     builder.endElement();
     return true;
-}
-
-/// Where the tag behind a text begins; null when there is none, or the text is not taken.
-const char *PlainScanner::endOfText(const char *at, bool &isEncoded) const
-{
-    for (;;) {
-        at = endOfPlainRun(at, m_end);
-        if (at == m_end)
-            return nullptr;
-        if (*at == '<')
-            return at;
-        qsizetype length = 1;
-        if (*at == '&')
-            length = predefinedReference(at, m_end);
-        else if (*at == ']' && at[1] == ']' && at[2] == '>')
-            return nullptr;
-        if (length == 0)
-            return nullptr;
-        isEncoded = isEncoded || *at != ']';
-        at += length;
-    }
-}
-
-/// A text without the blanks around it, if those are of ASCII.
-std::optional<PlainScanner::Content> PlainScanner::content(const char *from, const char *to,
-                                                           bool isEncoded) const
-{
-    const char *start = from;
-    const char *end = to;
-    const bool isSurelyTrimmed = from != to && isTrimmed(*from) && isTrimmed(to[-1]);
-    while (!isSurelyTrimmed && start != end && isAsciiBlank(*start))
-        ++start;
-    while (!isSurelyTrimmed && start != end && isAsciiBlank(end[-1]))
-        --end;
-    if (!isSurelyTrimmed && start != end && (isBeyondAscii(*start) || isBeyondAscii(end[-1]))) {
-        const QString text = textFromUtf8({start, end - start});
-        if (text.front().isSpace() || text.back().isSpace())
-            return {};
-    }
-    return Content{textBetween(start, end, isEncoded), start != from || end != to};
-}
-
-/// The text that ends at the next tag, to which it goes; none when there is no such tag, or the
-/// text is not taken.
-std::optional<PlainScanner::Content> PlainScanner::contentAt(const char *&at) const
-{
-    const char *const start = std::exchange(at, endOfWord(at));
-    if (at != start && *at == '<')
-        return Content{textBetween(start, at, false), false};
-    bool isEncoded = false;
-    at = endOfText(start, isEncoded);
-    return at ? content(start, at, isEncoded) : std::nullopt;
 }
 
 /// The name of a field whose start tag has no attributes. Goes behind that tag, or to the slash of
@@ -364,7 +291,7 @@ bool PlainScanner::noteFields(Name &element, const char *&at, bool &isInLines)
             isInLines = false;
             continue;
         }
-        const std::optional<Content> found = contentAt(at);
+        const std::optional<TextFinder::Content> found = m_finder.contentAt(at);
         if (!found || !standsAt(at, m_end, field->endTag))
             return false;
         const ReadText &text = found->text;
@@ -407,19 +334,14 @@ bool PlainScanner::noteAttributed(Name &element, const char *tag, const char *st
                                   TreeBuilder &builder)
 {
     const auto isNoted = [](const Attribute &attribute) {
-        const QByteArrayView value = attribute.value;
-        return !attribute.name->text.startsWith('_') && !value.isEmpty() &&
-               isTrimmed(value.front()) && isTrimmed(value.back());
+        return !attribute.name->text.startsWith('_') && TextFinder::hasPlainEnds(attribute.value);
     };
     if (!m_notesAttributes || m_attributes.empty() ||
         !std::all_of(m_attributes.begin(), m_attributes.end(), isNoted))
         return false;
-    bool isEncoded = false;
-    const char *const end = endOfText(start, isEncoded);
-    if (!end || !standsAt(end, m_end, element.endTag))
-        return false;
-    const std::optional<Content> text = content(start, end, isEncoded);
-    if (!text)
+    const char *end = start;
+    const std::optional<TextFinder::Content> text = m_finder.contentAt(end);
+    if (!text || !standsAt(end, m_end, element.endTag))
         return false;
     const std::size_t first = m_texts->count();
     const bool hasText = text->text.size > 0;
@@ -428,9 +350,7 @@ bool PlainScanner::noteAttributed(Name &element, const char *tag, const char *st
     for (std::size_t i = 0; i < m_attributes.size(); ++i) {
         const auto &[name, value] = m_attributes[i];
         haveSameKeys = haveSameKeys && element.attributes[i] == name;
-        m_texts->add({.start = offset(value.data()),
-                      .size = static_cast<quint32>(value.size()) & 0x7FFFFFFF,
-                      .isEncoded = false});
+        m_texts->add(m_finder.between(value.begin(), value.end(), false));
     }
     if (hasText)
         m_texts->add(text->text);
@@ -459,7 +379,7 @@ void PlainScanner::noteKeys(Name &element, bool hasText) const
 /// One that ends here.
 ReadElement PlainScanner::elementFrom(const char *tag, bool isInLines) const
 {
-    return {.start = offset(tag),
+    return {.start = m_finder.offset(tag),
             .size = static_cast<quint32>(m_at - tag) & 0x7FFFFFFF,
             .isInLines = isInLines};
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "xml/ReadTexts.h"
+#include "xml/TextFinder.h"
 #include "xml/TreeBuilder.h"
 #include "xml/XMLDictionaryParser.h"
 
@@ -56,12 +57,6 @@ private:
         Name *name;
         QByteArrayView value;
     };
-    struct Content
-    {
-        ReadText text;
-        bool isTrimmed; ///< there were blanks around it
-    };
-
     bool skipDeclaration();
     [[nodiscard]] Name *readName(const char *&at, Name *expected);
     bool readAttributes(const Name &element, const char *&at);
@@ -70,16 +65,6 @@ private:
     bool readText(TreeBuilder &builder);
     bool readEndTag(TreeBuilder &builder);
 
-    [[nodiscard]] const char *endOfText(const char *at, bool &isEncoded) const;
-    [[nodiscard]] std::optional<Content> content(const char *from, const char *to,
-                                                 bool isEncoded) const;
-    [[nodiscard]] std::optional<Content> contentAt(const char *&at) const;
-    [[nodiscard]] ReadText textBetween(const char *start, const char *end, bool isEncoded) const
-    {
-        return {.start = offset(start),
-                .size = static_cast<quint32>(end - start) & 0x7FFFFFFF,
-                .isEncoded = isEncoded};
-    }
     [[nodiscard]] Name *fieldAt(const char *&at, Name *expected);
     bool noteFields(Name &element, const char *&at, bool &isInLines);
     bool noteElement(Name &element, const char *start, TreeBuilder &builder);
@@ -88,15 +73,12 @@ private:
     [[nodiscard]] ReadElement elementFrom(const char *tag, bool isInLines) const;
     void addNoted(const Name &element, const Dictionary::Keys &keys, std::size_t first,
                   const ReadElement &place, TreeBuilder &builder) const;
-    [[nodiscard]] quint32 offset(const char *at) const
-    {
-        return static_cast<quint32>(at - m_start);
-    }
 
     QExplicitlySharedDataPointer<ReadTexts> m_texts;
     const char *m_start;
     const char *m_at;
     const char *m_end;
+    TextFinder m_finder;
     std::deque<Name> m_names;
     std::array<Name *, std::size_t{1} << bitsOfPlaces> m_places{}; ///< by a hash of their texts
     Name *m_last = nullptr;                                        ///< the element that began last

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "xml/ReadTexts.h"
+
+#include <QByteArrayView>
+
+#include <optional>
+
+namespace quillet {
+
+/// Finds texts between the tags of a plain text: what isPlainText() says is one, and a null behind
+/// it. Notes them by where they stand.
+class TextFinder
+{
+public:
+    TextFinder(const char *start, const char *end) : m_start(start), m_end(end) {}
+
+    struct Content
+    {
+        ReadText text;  ///< without blanks around it
+        bool isTrimmed; ///< there were some
+    };
+    /// The text up to the next tag, to which it goes; none when there is no such tag, or the text
+    /// or the blanks around it are others than sets write.
+    [[nodiscard]] std::optional<Content> contentAt(const char *&at) const;
+    /// Where the tag behind a text begins; null when there is none, or the text is not taken. Says
+    /// whether the text holds something that reading replaces.
+    [[nodiscard]] const char *endOf(const char *at, bool &isEncoded) const;
+
+    [[nodiscard]] ReadText between(const char *start, const char *end, bool isEncoded) const
+    {
+        return {.start = offset(start),
+                .size = static_cast<quint32>(end - start) & 0x7FFFFFFF,
+                .isEncoded = isEncoded};
+    }
+    [[nodiscard]] quint32 offset(const char *at) const
+    {
+        return static_cast<quint32>(at - m_start);
+    }
+
+    /// Whether there is a text and trimming surely takes nothing away from it.
+    [[nodiscard]] static bool hasPlainEnds(QByteArrayView text);
+
+private:
+    [[nodiscard]] std::optional<Content> trimmed(const char *from, const char *to,
+                                                 bool isEncoded) const;
+
+    const char *m_start;
+    const char *m_end;
+};
+
+} // namespace quillet

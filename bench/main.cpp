@@ -3,6 +3,7 @@
 
 #include "bench/ChildProcess.h"
 #include "bench/CompareBenchmarks.h"
+#include "bench/Counting.h"
 #include "bench/DocumentBenchmarks.h"
 #include "bench/EditorBenchmarks.h"
 #include "bench/GrowthBenchmarks.h"
@@ -20,6 +21,7 @@
 #include "bench/SaveBenchmarks.h"
 #include "bench/SelectionBenchmarks.h"
 #include "bench/Starts.h"
+#include "files/FileLooks.h"
 #include "support/KXFileLog.h"
 
 #include <QApplication>
@@ -42,6 +44,20 @@ constexpr char usage[] =
     "       quillet_bench FOLDER --count ROW   does one row\n"
     "       quillet_bench FOLDER --commands    says what does each row\n"
     "       quillet_bench FOLDER --made-with   says what the number of instructions depends on\n";
+
+/// Looks at files by the clock, in threads of their own, are not what a row counts.
+class Application : public QApplication
+{
+public:
+    using QApplication::QApplication;
+
+    bool notify(QObject *receiver, QEvent *event) override
+    {
+        const bool isLook = event->type() == QEvent::MetaCall && isCounted() &&
+                            qobject_cast<quillet::FileLooks *>(receiver);
+        return isLook || QApplication::notify(receiver, event);
+    }
+};
 
 struct MemoryRow
 {
@@ -188,7 +204,7 @@ int main(int argc, char *argv[])
 {
     const Home home;
     home.enter();
-    const QApplication app(argc, argv);
+    const Application app(argc, argv);
     QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false")); // no texts, no %1
     quillet::OpenFileLog(QStringLiteral("XT"));
     const QStringList arguments = QCoreApplication::arguments();

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace quillet {
 
@@ -68,30 +69,28 @@ bool isPlainText(QByteArrayView utf8)
     constexpr qsizetype step = 16;
     const char *at = utf8.data();
     const char *const end = at + utf8.size();
-    quint32 beyondAscii = 0, endsInReturn = 0;
-    for (; end - at >= step; at += step) {
-        const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i *>(at));
-        const auto mask = [](__m128i found) {
-            return static_cast<quint32>(_mm_movemask_epi8(found));
-        };
-        const auto are = [bytes](char c) { return _mm_cmpeq_epi8(bytes, _mm_set1_epi8(c)); };
-        const __m128i feeds = are('\n'), returns = are('\r');
-        const __m128i low = _mm_cmpeq_epi8(_mm_min_epu8(bytes, _mm_set1_epi8(0x1F)), bytes);
-        const __m128i allowed = _mm_or_si128(_mm_or_si128(feeds, returns), are('\t'));
-        const quint32 afterReturn = (mask(returns) << 1) | endsInReturn;
-        if (mask(_mm_andnot_si128(allowed, low)) || (afterReturn & 0xFFFF & ~mask(feeds)))
+    const auto loaded = [](const char *from) {
+        return _mm_loadu_si128(reinterpret_cast<const __m128i *>(from));
+    };
+    const auto are = [](__m128i bytes, char c) { return _mm_cmpeq_epi8(bytes, _mm_set1_epi8(c)); };
+    while (end - at > step) {
+        const __m128i bytes = loaded(at);
+        const __m128i returns = _mm_and_si128(are(bytes, '\r'), are(loaded(at + 1), '\n'));
+        const __m128i blanks =
+            _mm_or_si128(returns, _mm_or_si128(are(bytes, '\n'), are(bytes, '\t')));
+        // Bytes beyond ASCII are negative.
+        const __m128i low = _mm_cmplt_epi8(bytes, _mm_set1_epi8(' '));
+        const auto others = static_cast<quint32>(_mm_movemask_epi8(_mm_andnot_si128(blanks, low)));
+        if (others == 0) {
+            at += step;
+            continue;
+        }
+        at += qCountTrailingZeroBits(others);
+        const char *const start = std::exchange(at, std::find_if_not(at, end, isBeyondAscii));
+        if (at == start || !isValidBeyondAscii({start, at}))
             return false;
-        endsInReturn = afterReturn >> step;
-        beyondAscii |= mask(bytes);
     }
-    if (endsInReturn != 0 && (at == end || *at != '\n'))
-        return false;
-    const QByteArrayView rest(at, end - at);
-    if (beyondAscii != 0) {
-        return std::none_of(at, end, [end](const char &c) { return isOdd(&c, end); }) &&
-               isValidBeyondAscii(utf8);
-    }
-    return isPlainTextBytewise(rest);
+    return isPlainTextBytewise({at, end});
 }
 #else
 bool isPlainText(QByteArrayView utf8)

@@ -3,25 +3,9 @@
 #include "support/TextConversion.h"
 #include "xml/PlainText.h"
 
-#include <utility>
-
 namespace quillet {
 
 namespace {
-
-/// Behind the characters, mostly few, that need no second look: of ASCII, and neither blanks nor of
-/// any meaning in XML.
-const char *endOfWord(const char *at)
-{
-    while (*at > ' ' && *at < 0x7F && *at != '<' && *at != '&' && *at != ']')
-        ++at;
-    return at;
-}
-
-bool isBeyondAscii(char c)
-{
-    return static_cast<unsigned char>(c) >= 0x80;
-}
 
 } // namespace
 
@@ -33,9 +17,7 @@ bool TextFinder::hasPlainEnds(QByteArrayView text)
 
 std::optional<TextFinder::Content> TextFinder::contentAt(const char *&at) const
 {
-    const char *const start = std::exchange(at, endOfWord(at));
-    if (at != start && *at == '<')
-        return Content{between(start, at, false), false};
+    const char *const start = at;
     bool isEncoded = false;
     at = endOf(start, isEncoded);
     return at ? trimmed(start, at, isEncoded) : std::nullopt;

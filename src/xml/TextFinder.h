@@ -1,5 +1,6 @@
 #pragma once
 
+#include "xml/PlainText.h"
 #include "xml/ReadTexts.h"
 
 #include <QByteArrayView>
@@ -23,6 +24,15 @@ public:
     /// The text up to the next tag, to which it goes; none when there is no such tag, or the text
     /// or the blanks around it are others than sets write.
     [[nodiscard]] std::optional<Content> contentAt(const char *&at) const;
+    /// Goes behind a text of one plain word up to the next tag, as most are; false, and nowhere,
+    /// when it is another.
+    [[nodiscard]] bool skipWord(const char *&at) const
+    {
+        const char *const end = endOfPlainWord(at, m_end);
+        const bool isWord = end != at && *end == '<';
+        at = isWord ? end : at;
+        return isWord;
+    }
     /// Where the tag behind a text begins; null when there is none, or the text is not taken. Says
     /// whether the text holds something that reading replaces.
     [[nodiscard]] const char *endOf(const char *at, bool &isEncoded) const;

@@ -42,10 +42,10 @@ const char *skipBlanks(const char *at) // the null behind the text is none
     return at;
 }
 
-bool standsAt(const char *at, const char *end, const QByteArray &text)
+bool standsAt(const char *at, const char *end, QByteArrayView text)
 {
     return end - at >= text.size() &&
-           std::memcmp(at, text.constData(), static_cast<std::size_t>(text.size())) == 0;
+           std::memcmp(at, text.data(), static_cast<std::size_t>(text.size())) == 0;
 }
 
 /// The bytes of one that nobody else may change or free.
@@ -251,12 +251,8 @@ bool PlainScanner::readEndTag(TreeBuilder &builder)
 
 /// The name of a field whose start tag has no attributes. Goes behind that tag, or to the slash of
 /// one that has no end tag. Null when it is otherwise.
-PlainScanner::Name *PlainScanner::fieldAt(const char *&at, Name *expected)
+PlainScanner::Name *PlainScanner::fieldAt(const char *&at)
 {
-    if (expected && standsAt(at, m_end, expected->startTag)) {
-        at += expected->startTag.size();
-        return expected;
-    }
     Name *name = readName(++at, nullptr);
     if (!name || name->text.startsWith('_')) // a key that attributes or reserved ones have
         return nullptr;
@@ -267,41 +263,77 @@ PlainScanner::Name *PlainScanner::fieldAt(const char *&at, Name *expected)
     return name;
 }
 
+/// Goes to the next text of a field, over those that have no end tag, or else to the end tag of the
+/// element. None when anything else stands there, or two fields of one name.
+std::optional<PlainScanner::Joint> PlainScanner::jointAt(const Name *before, const char *&at)
+{
+    const char *const start = at;
+    if (before && !standsAt(at, m_end, before->endTag))
+        return {};
+    at += before ? before->endTag.size() : 0;
+    for (bool isDirect = true;; isDirect = false) {
+        const char *const tag = skipBlanks(at);
+        const bool isInLines = isDirect && tag - at == 2 && *at == '\r';
+        at = tag;
+        if (*at != '<')
+            return {};
+        if (at[1] == '/')
+            return Joint{{}, nullptr, isInLines};
+        Name *field = fieldAt(at);
+        if (!field || field->element == m_elements)
+            return {};
+        if (at[-1] == '>')
+            return Joint{{start, isDirect ? at : start}, field, isInLines};
+        field->element = m_elements;
+        at += 2;
+    }
+}
+
 /// Notes the fields of an element up to its end tag; false when it holds anything else, or two
 /// fields of one name.
 bool PlainScanner::noteFields(Name &element, const char *&at, bool &isInLines)
 {
-    const quint64 number = ++m_elements;
-    Name **expected = &element.firstField;
-    for (;;) {
-        const char *const tag = skipBlanks(at);
-        isInLines = isInLines && tag - at == 2 && *at == '\r';
-        at = tag;
-        if (*at != '<')
-            return false;
-        if (at[1] == '/')
+    ++m_elements;
+    Joint *joint = &element.first;
+    for (Name *field = nullptr;; joint = &field->next) {
+        if (!joint->bytes.isEmpty() && standsAt(at, m_end, joint->bytes)) {
+            at += joint->bytes.size();
+        } else {
+            const std::optional<Joint> found = jointAt(field, at);
+            if (!found)
+                return false;
+            *joint = *found;
+        }
+        isInLines = isInLines && joint->isInLines;
+        field = joint->field;
+        if (!field)
             return true;
-        Name *field = fieldAt(at, *expected);
-        if (!field || std::exchange(field->element, number) == number)
+        if (std::exchange(field->element, m_elements) == m_elements)
             return false;
-        *expected = field;
-        expected = &field->next;
-        if (*at == '/' && at[-1] != '>') {
-            at += 2;
-            isInLines = false;
-            continue;
-        }
-        const std::optional<TextFinder::Content> found = m_finder.contentAt(at);
-        if (!found || !standsAt(at, m_end, field->endTag))
+        if (!noteText(*field, at, isInLines))
             return false;
-        const ReadText &text = found->text;
-        isInLines = isInLines && !text.isEncoded && !found->isTrimmed && text.size > 0;
-        at += field->endTag.size();
-        if (text.size > 0) {
-            m_texts->add(text);
-            m_fields.push_back(field);
-        }
     }
+}
+
+/// Notes the text of a field, if there is one, up to the next tag; false when it is not taken.
+bool PlainScanner::noteText(Name &field, const char *&at, bool &isInLines)
+{
+    const char *const start = at;
+    if (m_finder.skipWord(at)) {
+        m_texts->add(m_finder.between(start, at, false));
+        m_fields.push_back(&field);
+        return true;
+    }
+    const std::optional<TextFinder::Content> found = m_finder.contentAt(at);
+    if (!found)
+        return false;
+    const ReadText &text = found->text;
+    isInLines = isInLines && !text.isEncoded && !found->isTrimmed && text.size > 0;
+    if (text.size > 0) {
+        m_texts->add(text);
+        m_fields.push_back(&field);
+    }
+    return true;
 }
 
 /// Notes an element whose start tag, without attributes, ends here; false when it cannot be.
@@ -340,11 +372,17 @@ bool PlainScanner::noteAttributed(Name &element, const char *tag, const char *st
         !std::all_of(m_attributes.begin(), m_attributes.end(), isNoted))
         return false;
     const char *end = start;
-    const std::optional<TextFinder::Content> text = m_finder.contentAt(end);
-    if (!text || !standsAt(end, m_end, element.endTag))
+    ReadText text{};
+    if (m_finder.skipWord(end))
+        text = m_finder.between(start, end, false);
+    else if (const auto content = m_finder.contentAt(end))
+        text = content->text;
+    else
+        return false;
+    if (!standsAt(end, m_end, element.endTag))
         return false;
     const std::size_t first = m_texts->count();
-    const bool hasText = text->text.size > 0;
+    const bool hasText = text.size > 0;
     bool haveSameKeys = element.attributedKeys && element.hasText == hasText &&
                         element.attributes.size() == m_attributes.size();
     for (std::size_t i = 0; i < m_attributes.size(); ++i) {
@@ -353,7 +391,7 @@ bool PlainScanner::noteAttributed(Name &element, const char *tag, const char *st
         m_texts->add(m_finder.between(value.begin(), value.end(), false));
     }
     if (hasText)
-        m_texts->add(text->text);
+        m_texts->add(text);
     if (!haveSameKeys)
         noteKeys(element, hasText);
     m_at = end + element.endTag.size();

@@ -34,6 +34,15 @@ public:
     [[nodiscard]] std::optional<Dictionary> tree(const XMLDictionaryParser::Settings &settings);
 
 private:
+    struct Name;
+    /// What stands before the text of a field: the end tag of the field before, if there is one,
+    /// blanks, and its own start tag. Mostly it is what stood there in the last element.
+    struct Joint
+    {
+        QByteArrayView bytes;  ///< none when it cannot be expected again
+        Name *field = nullptr; ///< none at the end tag of the element
+        bool isInLines = false;
+    };
     struct Name
     {
         QByteArray text;
@@ -41,10 +50,10 @@ private:
         QByteArray endTag;
         bool isOfXML = false;      ///< which reserves names that begin so
         Name *following = nullptr; ///< the element that last began after one of this name
-        Name *next = nullptr;      ///< the field that last stood behind a field of this name
+        Joint first;               ///< behind the start tag of an element of this name
+        Joint next;                ///< behind the text of a field of this name
         quint64 element = 0;       ///< the last one that had a field of this name
         // Of the last element of this name that was noted:
-        Name *firstField = nullptr;
         std::vector<Name *> fields;
         Dictionary::Keys keys;
         // Of the last one that was noted with its attributes:
@@ -65,7 +74,9 @@ private:
     bool readText(TreeBuilder &builder);
     bool readEndTag(TreeBuilder &builder);
 
-    [[nodiscard]] Name *fieldAt(const char *&at, Name *expected);
+    [[nodiscard]] Name *fieldAt(const char *&at);
+    [[nodiscard]] std::optional<Joint> jointAt(const Name *before, const char *&at);
+    bool noteText(Name &field, const char *&at, bool &isInLines);
     bool noteFields(Name &element, const char *&at, bool &isInLines);
     bool noteElement(Name &element, const char *start, TreeBuilder &builder);
     bool noteAttributed(Name &element, const char *tag, const char *start, TreeBuilder &builder);

@@ -13,7 +13,8 @@ qsizetype placeOf(QByteArrayView wanted, qsizetype mark, QByteArrayView text, qs
         if (!found)
             break;
         at = static_cast<const char *>(found) - mark;
-        if (end - at >= wanted.size() && QByteArrayView(at, wanted.size()) == wanted)
+        if (end - at >= wanted.size() && *at == wanted.front() &&
+            QByteArrayView(at, wanted.size()) == wanted)
             return at - text.data();
     }
     return -1;

@@ -16,6 +16,26 @@ StationListPtr makeList(std::size_t capacity)
     return list;
 }
 
+/// Equal numbers keep their order; as they come, most lists are in order.
+void sortByNumber(StationList &stations)
+{
+    struct Numbered
+    {
+        qint64 number;
+        StationPtr station;
+    };
+    const auto number = [](const StationPtr &station) { return station->progNum(); };
+    if (std::ranges::is_sorted(stations, {}, number))
+        return;
+    std::vector<Numbered> numbered;
+    numbered.reserve(stations.size());
+    for (StationPtr &station : stations)
+        numbered.push_back({number(station), std::move(station)});
+    std::ranges::stable_sort(numbered, {}, &Numbered::number);
+    std::ranges::transform(numbered, stations.begin(),
+                           [](Numbered &each) { return std::move(each.station); });
+}
+
 } // namespace
 
 void StationLists::setupLists()
@@ -58,29 +78,17 @@ StationListPtr StationLists::listWithMostEntries(bool isTV) const
 
 std::size_t StationLists::sortAndValidateStations(StationList &stations)
 {
-    struct Numbered
-    {
-        qint64 number;
-        StationPtr station;
-    };
-    std::vector<Numbered> numbered;
-    numbered.reserve(stations.size());
-    for (StationPtr &station : stations)
-        numbered.push_back({station->progNum(), std::move(station)});
-    std::stable_sort(numbered.begin(), numbered.end(),
-                     [](const auto &a, const auto &b) { return a.number < b.number; });
-
+    sortByNumber(stations);
     qint64 last = 0;
     std::size_t beyond = 0;
-    for (std::size_t i = 0; i < numbered.size(); ++i) {
-        auto &[number, station] = numbered[i];
+    for (const StationPtr &station : stations) {
+        qint64 number = station->progNum();
         if (number <= last) {
             number = last + 1;
             station->setProgramNum(number);
             beyond += LGStation::canCarry(number) ? 0 : 1;
         }
         last = number;
-        stations[i] = std::move(station);
     }
     return beyond;
 }

@@ -49,6 +49,8 @@ public:
     [[nodiscard]] const Lists &tvStations() const { return m_tvStations; }
     [[nodiscard]] const Lists &radioStations() const { return m_radioStations; }
 
+    /// So many more are about to be filed.
+    void expect(std::size_t count) { m_roll.reserve(m_roll.size() + count); }
     /// Appends the station to the list of its source and mode; false when it names no source.
     bool fileStation(StationPtr station, FilePlace place = {});
     /// Every station ever filed, in that order: what the lists should hold, each once.

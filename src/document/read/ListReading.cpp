@@ -26,8 +26,10 @@ bool fileSection(ChannelList &list, QStringView name)
     }
     const FilePlace::Section place =
         name == fileword::atv ? FilePlace::Section::ATV : FilePlace::Section::DTV;
+    const Array items = sectionItems(list.tree, name);
+    list.lists.expect(static_cast<std::size_t>(items.count()));
     qint64 index = 0;
-    for (const Value &item : sectionItems(list.tree, name)) {
+    for (const Value &item : items) {
         const qint64 position = index++;
         if (!item.dictionary())
             continue;

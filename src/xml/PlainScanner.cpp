@@ -4,7 +4,6 @@
 #include "xml/PlainText.h"
 
 #include <algorithm>
-#include <cstring>
 #include <initializer_list>
 #include <limits>
 
@@ -14,9 +13,6 @@ namespace {
 
 // What goes beyond these may be right, but no set writes it.
 constexpr std::size_t deepest = 64;
-constexpr qsizetype longestName = 200;
-constexpr std::size_t mostNames = 2000;
-static_assert(2 * mostNames < std::size_t{1} << PlainScanner::bitsOfPlaces);
 constexpr std::size_t mostAttributes = 50;
 constexpr qsizetype bytesPerText = 24; ///< about as many as a field of a station takes
 
@@ -25,27 +21,11 @@ bool isBlank(char c)
     return c == ' ' || c == '\t' || c == '\r' || c == '\n';
 }
 
-bool startsName(char c)
-{
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_';
-}
-
-bool isOfName(char c)
-{
-    return startsName(c) || (c >= '0' && c <= '9') || c == '-' || c == '.';
-}
-
 const char *skipBlanks(const char *at) // the null behind the text is none
 {
     while (isBlank(*at))
         ++at;
     return at;
-}
-
-bool standsAt(const char *at, const char *end, QByteArrayView text)
-{
-    return end - at >= text.size() &&
-           std::memcmp(at, text.data(), static_cast<std::size_t>(text.size())) == 0;
 }
 
 /// The bytes of one that nobody else may change or free.
@@ -68,7 +48,7 @@ bool PlainScanner::suits(const XMLDictionaryParser::Settings &settings)
 
 PlainScanner::PlainScanner(const QByteArray &utf8)
     : m_texts(new ReadTexts(owned(utf8))), m_start(m_texts->utf8().constData()), m_at(m_start),
-      m_end(m_start + m_texts->utf8().size()), m_finder(m_start, m_end)
+      m_end(m_start + m_texts->utf8().size()), m_finder(m_start, m_end), m_names(m_end)
 {
 }
 
@@ -120,35 +100,6 @@ bool PlainScanner::skipDeclaration()
     return *m_at == '<';
 }
 
-/// Goes behind a name, which mostly is the one expected; null when there is none that is taken.
-PlainScanner::Name *PlainScanner::readName(const char *&at, Name *expected)
-{
-    if (expected && standsAt(at, m_end, expected->text) && !isOfName(at[expected->text.size()])) {
-        at += expected->text.size();
-        return expected;
-    }
-    const char *const start = at;
-    if (!startsName(*at))
-        return nullptr;
-    quint32 hash = 0;
-    for (; isOfName(*at); ++at)
-        hash = hash * 31 + static_cast<unsigned char>(*at);
-    const QByteArrayView text(start, at - start);
-    std::size_t place = (hash * 0x9E3779B9U) >> (32 - bitsOfPlaces);
-    while (m_places[place] && m_places[place]->text != text)
-        place = (place + 1) % m_places.size();
-    if (m_places[place])
-        return m_places[place];
-    if (text.size() > longestName || m_names.size() == mostNames)
-        return nullptr;
-    Name &name = m_names.emplace_back();
-    name.text = text.toByteArray();
-    name.startTag = '<' + name.text + '>';
-    name.endTag = "</" + name.text + '>';
-    name.isOfXML = name.text.startsWith("xml");
-    return m_places[place] = &name;
-}
-
 /// Goes to the end of a start tag. What reading would replace in a value is not taken.
 bool PlainScanner::readAttributes(const Name &element, const char *&at)
 {
@@ -159,7 +110,7 @@ bool PlainScanner::readAttributes(const Name &element, const char *&at)
             return true;
         const std::size_t index = m_attributes.size();
         Name *expected = index < element.attributes.size() ? element.attributes[index] : nullptr;
-        Name *name = at == start ? nullptr : readName(at, expected);
+        Name *name = at == start ? nullptr : m_names.read(at, expected);
         const bool isKnown = std::any_of(m_attributes.begin(), m_attributes.end(),
                                          [name](const auto &each) { return each.name == name; });
         if (!name || isKnown || name->isOfXML || index == mostAttributes || at[0] != '=' ||
@@ -181,7 +132,7 @@ bool PlainScanner::readAttributes(const Name &element, const char *&at)
 bool PlainScanner::readElement(TreeBuilder &builder)
 {
     const char *at = m_at + 1;
-    Name *name = readName(at, m_last ? m_last->following : nullptr);
+    Name *name = m_names.read(at, m_last ? m_last->following : nullptr);
     if (!name || !readAttributes(*name, at))
         return false;
     if (m_last)
@@ -253,7 +204,7 @@ bool PlainScanner::readEndTag(TreeBuilder &builder)
 /// one that has no end tag. Null when it is otherwise.
 PlainScanner::Name *PlainScanner::fieldAt(const char *&at)
 {
-    Name *name = readName(++at, nullptr);
+    Name *name = m_names.read(++at, nullptr);
     if (!name || name->text.startsWith('_')) // a key that attributes or reserved ones have
         return nullptr;
     if (*at == '>')

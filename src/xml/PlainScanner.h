@@ -1,5 +1,6 @@
 #pragma once
 
+#include "xml/PlainNames.h"
 #include "xml/ReadTexts.h"
 #include "xml/TextFinder.h"
 #include "xml/TreeBuilder.h"
@@ -7,8 +8,6 @@
 
 #include <QExplicitlySharedDataPointer>
 
-#include <array>
-#include <deque>
 #include <optional>
 #include <vector>
 
@@ -23,8 +22,6 @@ namespace quillet {
 class PlainScanner
 {
 public:
-    static constexpr int bitsOfPlaces = 12; ///< of names, of which it takes less than half as many
-
     /// Whether it makes trees of that kind.
     [[nodiscard]] static bool suits(const XMLDictionaryParser::Settings &settings);
 
@@ -34,40 +31,14 @@ public:
     [[nodiscard]] std::optional<Dictionary> tree(const XMLDictionaryParser::Settings &settings);
 
 private:
-    struct Name;
-    /// What stands before the text of a field: the end tag of the field before, if there is one,
-    /// blanks, and its own start tag. Mostly it is what stood there in the last element.
-    struct Joint
-    {
-        QByteArrayView bytes;  ///< none when it cannot be expected again
-        Name *field = nullptr; ///< none at the end tag of the element
-        bool isInLines = false;
-    };
-    struct Name
-    {
-        QByteArray text;
-        QByteArray startTag; ///< without attributes
-        QByteArray endTag;
-        bool isOfXML = false;      ///< which reserves names that begin so
-        Name *following = nullptr; ///< the element that last began after one of this name
-        Joint first;               ///< behind the start tag of an element of this name
-        Joint next;                ///< behind the text of a field of this name
-        quint64 element = 0;       ///< the last one that had a field of this name
-        // Of the last element of this name that was noted:
-        std::vector<Name *> fields;
-        Dictionary::Keys keys;
-        // Of the last one that was noted with its attributes:
-        std::vector<Name *> attributes;
-        bool hasText = false;
-        Dictionary::Keys attributedKeys;
-    };
+    using Name = PlainName;
+    using Joint = PlainName::Joint;
     struct Attribute
     {
         Name *name;
         QByteArrayView value;
     };
     bool skipDeclaration();
-    [[nodiscard]] Name *readName(const char *&at, Name *expected);
     bool readAttributes(const Name &element, const char *&at);
     bool readElement(TreeBuilder &builder);
     void startElement(const Name &name, TreeBuilder &builder);
@@ -90,9 +61,8 @@ private:
     const char *m_at;
     const char *m_end;
     TextFinder m_finder;
-    std::deque<Name> m_names;
-    std::array<Name *, std::size_t{1} << bitsOfPlaces> m_places{}; ///< by a hash of their texts
-    Name *m_last = nullptr;                                        ///< the element that began last
+    PlainNames m_names;
+    Name *m_last = nullptr; ///< the element that began last
     std::vector<Name *> m_open;
     std::vector<Attribute> m_attributes; ///< of the start tag that was read last
     bool m_notesAttributes = false;

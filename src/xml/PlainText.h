@@ -2,6 +2,8 @@
 
 #include <QByteArray>
 
+#include <cstring>
+
 #ifdef __SSE2__
 #include <QtAlgorithms>
 
@@ -67,6 +69,13 @@ namespace quillet {
     while (at != end && *at > ' ' && !isBeyondAscii(*at) && *at != '<' && *at != '&' && *at != ']')
         ++at;
     return at;
+}
+
+/// Whether that text stands there, before the end.
+[[nodiscard]] inline bool standsAt(const char *at, const char *end, QByteArrayView text)
+{
+    return end - at >= text.size() &&
+           std::memcmp(at, text.data(), static_cast<std::size_t>(text.size())) == 0;
 }
 
 /// A blank of ASCII, as trimming takes it away.

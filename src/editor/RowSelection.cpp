@@ -70,6 +70,17 @@ void RowSelection::selectRows(const QList<qsizetype> &rows)
     change(chosen);
 }
 
+QList<qsizetype> RowSelection::rows() const
+{
+    QList<qsizetype> rows;
+    rows.reserve(m_rows.count(true));
+    for (qsizetype row = 0; row < m_rows.size(); ++row) {
+        if (m_rows.testBit(row))
+            rows.append(row);
+    }
+    return rows;
+}
+
 void RowSelection::change(const QBitArray &rows)
 {
     const QBitArray before = std::exchange(m_rows, rows);

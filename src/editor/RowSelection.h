@@ -25,6 +25,8 @@ public:
     void select(const QItemSelection &selection, SelectionFlags command) override;
     /// Selects exactly those of the rows that there are.
     void selectRows(const QList<qsizetype> &rows);
+    /// Those that are selected, ascending.
+    [[nodiscard]] QList<qsizetype> rows() const;
 
 private:
     using Numbers = QSet<quint64>;

@@ -6,7 +6,9 @@
 #include "files/FileNames.h"
 #include "support/KXFileLog.h"
 
-#include <QSet>
+#include <QHash>
+
+#include <algorithm>
 
 namespace quillet {
 
@@ -260,24 +262,25 @@ void TableController::showList(const StationListPtr &list)
 
 void TableController::reveal(const StationList &stations)
 {
-    QSet<const LGStation *> wanted;
+    QHash<const LGStation *, bool> wanted; // and whether there is a row, or several, of it
+    wanted.reserve(static_cast<qsizetype>(stations.size()));
     for (const StationPtr &station : stations)
-        wanted.insert(station.get());
-    qsizetype hidden = 0;
-    const auto rowsOf = [&] {
-        QSet<const LGStation *> missing = wanted; // a station may have two rows
+        wanted.insert(station.get(), false);
+    const auto rowsOf = [&wanted, this] {
         QList<qsizetype> rows;
-        for (std::size_t row = 0; row < currentList().size(); ++row) {
-            if (!wanted.contains(currentList()[row].get()))
+        const StationList &list = currentList();
+        for (std::size_t row = 0; row < list.size(); ++row) {
+            const auto found = wanted.find(list[row].get());
+            if (found == wanted.end())
                 continue;
+            *found = true;
             rows.append(static_cast<qsizetype>(row));
-            missing.remove(currentList()[row].get());
         }
-        hidden = missing.size();
         return rows;
     };
     QList<qsizetype> rows = rowsOf();
-    if (hidden > 0 && m_shown.isFiltered()) {
+    const bool isAllShown = std::all_of(wanted.begin(), wanted.end(), [](bool has) { return has; });
+    if (!isAllShown && m_shown.isFiltered()) {
         clearFilters();
         rows = rowsOf();
     }

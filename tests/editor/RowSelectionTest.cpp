@@ -37,6 +37,15 @@ QItemSelection scattered(const QAbstractItemModel &model, QRandomGenerator &rand
     return selection;
 }
 
+/// What Qt's part has been told, by which rows are drawn and spoken.
+QList<qsizetype> knownToQt(const RowSelection &selection)
+{
+    std::set<qsizetype> rows;
+    for (const QModelIndex &index : selection.selectedIndexes())
+        rows.insert(index.row());
+    return {rows.begin(), rows.end()};
+}
+
 } // namespace
 
 class RowSelectionTest : public QObject
@@ -91,6 +100,7 @@ private slots:
             }
             const QList<qsizetype> expected = selectedRows(own);
             QCOMPARE(selectedRows(rows), expected);
+            QCOMPARE(knownToQt(rows), expected);
             QCOMPARE(rows.currentIndex(), own.currentIndex());
             QCOMPARE(rows.hasSelection(), own.hasSelection());
             if (kind < 3)
@@ -109,9 +119,9 @@ private slots:
         const QList<qsizetype> before = selectedRows(rows);
         {
             const RowSelection::Excerpt excerpt(rows, 11, 14);
-            QCOMPARE(selectedRows(rows), QList<qsizetype>({12, 14}));
+            QCOMPARE(knownToQt(rows), QList<qsizetype>({12, 14}));
         }
-        QCOMPARE(selectedRows(rows), before);
+        QCOMPARE(knownToQt(rows), before);
         QCOMPARE(changed.size(), 0);
     }
 };

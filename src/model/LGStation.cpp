@@ -98,8 +98,11 @@ LGStation::LGStation(Dictionary entry, qint64 origIndex)
 std::optional<qint64> LGStation::getIntValue(const QString &key) const
 {
     const qsizetype position = m_entry.indexOf(key);
-    if (position == KeyTable::none)
-        return {};
+    return position == KeyTable::none ? std::nullopt : intValueAt(position);
+}
+
+std::optional<qint64> LGStation::intValueAt(qsizetype position) const
+{
     if (const std::optional<QByteArrayView> bytes = m_entry.bytesRead(position))
         return decimalNumber(*bytes);
     const Value &value = m_entry.at(position).value;
@@ -384,11 +387,13 @@ std::optional<qint64> LGStation::frequency() const
 
 std::optional<bool> LGStation::isEncrypted() const
 {
-    const std::optional<qint64> number = getIntValue(m_keys->keyScrambled);
-    const Value *value = number ? nullptr : m_entry.find(m_keys->keyScrambled);
-    if (const bool *given = value ? value->boolean() : nullptr)
-        return *given;
-    return number ? std::optional(*number > 0) : std::nullopt;
+    const qsizetype position = m_entry.indexOf(m_keys->keyScrambled);
+    if (position == KeyTable::none)
+        return {};
+    if (const std::optional<qint64> number = intValueAt(position))
+        return *number > 0;
+    const bool *given = m_entry.at(position).value.boolean();
+    return given ? std::optional(*given) : std::nullopt;
 }
 
 int LGStation::mappedSourceIndex() const

@@ -173,6 +173,7 @@ protected:
     [[nodiscard]] virtual QLatin1String className() const;
 
 private:
+    [[nodiscard]] std::optional<qint64> intValueAt(qsizetype position) const;
     [[nodiscard]] std::optional<QString> textValue(const QString &key) const;
     [[nodiscard]] std::optional<QString> shownText(const QString &key) const;
     [[nodiscard]] std::optional<qint64> rawNumber() const;

@@ -2,8 +2,8 @@
 
 #include <QByteArrayView>
 
-/// Looking for a text in a long one by a single character of it, that at `mark`, which should be
-/// rare there: what is all over a file stops the search all over it.
+/// Looking for a text, of two characters or more, in a long one by two of them that should be rare
+/// there, at `mark` and behind it: what is all over a file stops the search all over it.
 namespace quillet {
 
 /// The first place at or after a position; -1 when there is none.

@@ -293,7 +293,7 @@ std::optional<QByteArray> Dictionary::utf8(qsizetype position) const
 std::optional<QByteArrayView> Dictionary::bytesRead(qsizetype position) const
 {
     const Noted *noted = notedAt(position);
-    if (!noted || noted->at(position).isEncoded)
+    if (!noted || noted->at(position).isEncoded())
         return {};
     return noted->bytes(position);
 }

@@ -33,6 +33,7 @@ private:
     void index(std::size_t position);
 
     std::vector<QString> m_keys;
+    std::vector<quint32> m_marks;          ///< of the keys: equal ones have equal marks
     QHash<QStringView, qsizetype> m_index; ///< filled for long tables only; views of m_keys' text
 };
 

@@ -55,8 +55,7 @@ PlainScanner::PlainScanner(const QByteArray &utf8)
 std::optional<Dictionary> PlainScanner::tree(const XMLDictionaryParser::Settings &settings)
 {
     const QByteArray &utf8 = m_texts->utf8();
-    if (utf8.size() >= std::numeric_limits<qint32>::max() || !skipDeclaration() ||
-        !isPlainText(utf8))
+    if (utf8.size() >= std::numeric_limits<qint32>::max() || !skipDeclaration())
         return {};
     m_texts->reserve(static_cast<std::size_t>(utf8.size() / bytesPerText));
     m_notesAttributes =
@@ -279,8 +278,8 @@ bool PlainScanner::noteText(Name &field, const char *&at, bool &isInLines)
     if (!found)
         return false;
     const ReadText &text = found->text;
-    isInLines = isInLines && !text.isEncoded && !found->isTrimmed && text.size > 0;
-    if (text.size > 0) {
+    isInLines = isInLines && !text.isEncoded() && !found->isTrimmed && text.size() > 0;
+    if (text.size() > 0) {
         m_texts->add(text);
         m_fields.push_back(&field);
     }
@@ -323,7 +322,7 @@ bool PlainScanner::noteAttributed(Name &element, const char *tag, const char *st
         !std::all_of(m_attributes.begin(), m_attributes.end(), isNoted))
         return false;
     const char *end = start;
-    ReadText text{};
+    ReadText text;
     if (m_finder.skipWord(end))
         text = m_finder.between(start, end, false);
     else if (const auto content = m_finder.contentAt(end))
@@ -333,7 +332,7 @@ bool PlainScanner::noteAttributed(Name &element, const char *tag, const char *st
     if (!standsAt(end, m_end, element.endTag))
         return false;
     const std::size_t first = m_texts->count();
-    const bool hasText = text.size > 0;
+    const bool hasText = text.size() > 0;
     bool haveSameKeys = element.attributedKeys && element.hasText == hasText &&
                         element.attributes.size() == m_attributes.size();
     for (std::size_t i = 0; i < m_attributes.size(); ++i) {

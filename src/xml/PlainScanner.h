@@ -25,6 +25,7 @@ public:
     /// Whether it makes trees of that kind.
     [[nodiscard]] static bool suits(const XMLDictionaryParser::Settings &settings);
 
+    /// Of what isPlainText() says is one.
     explicit PlainScanner(const QByteArray &utf8);
 
     /// The tree; none when the text is another one than it takes.

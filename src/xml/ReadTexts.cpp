@@ -7,13 +7,13 @@ namespace quillet {
 
 QString ReadTexts::textOf(ReadText text) const
 {
-    return text.isEncoded ? textFromUtf8(utf8Of(text)) : textFromUtf8(bytesOf(text));
+    return text.isEncoded() ? textFromUtf8(utf8Of(text)) : textFromUtf8(bytesOf(text));
 }
 
 QByteArray ReadTexts::utf8Of(ReadText text) const
 {
     const QByteArrayView bytes = bytesOf(text);
-    return text.isEncoded ? decodedPlainText(bytes) : bytes.toByteArray();
+    return text.isEncoded() ? decodedPlainText(bytes) : bytes.toByteArray();
 }
 
 } // namespace quillet

@@ -9,11 +9,23 @@
 namespace quillet {
 
 /// Where a text stands among the bytes it was read from.
-struct ReadText
+class ReadText
 {
-    quint32 start;
-    quint32 size : 31;
-    quint32 isEncoded : 1; ///< it holds what reading replaces: references, line ends
+public:
+    ReadText() = default;
+    ReadText(quint32 start, quint32 size, bool isEncoded)
+        : m_start(start), m_size(size << 1 | (isEncoded ? 1U : 0U))
+    {
+    }
+
+    [[nodiscard]] qsizetype start() const { return m_start; }
+    [[nodiscard]] qsizetype size() const { return m_size >> 1; }
+    /// Whether it holds what reading replaces: references, line ends.
+    [[nodiscard]] bool isEncoded() const { return (m_size & 1) != 0; }
+
+private:
+    quint32 m_start = 0;
+    quint32 m_size = 0; ///< twice, and one if it is encoded
 };
 
 /// Where an element stands whose texts were noted.
@@ -44,7 +56,7 @@ public:
     /// The bytes as they stand in the file.
     [[nodiscard]] QByteArrayView bytesOf(ReadText text) const
     {
-        return {m_utf8.constData() + text.start, static_cast<qsizetype>(text.size)};
+        return {m_utf8.constData() + text.start(), text.size()};
     }
     /// What they tell.
     [[nodiscard]] QString textOf(ReadText text) const;

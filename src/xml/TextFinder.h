@@ -39,9 +39,7 @@ public:
 
     [[nodiscard]] ReadText between(const char *start, const char *end, bool isEncoded) const
     {
-        return {.start = offset(start),
-                .size = static_cast<quint32>(end - start) & 0x7FFFFFFF,
-                .isEncoded = isEncoded};
+        return {offset(start), static_cast<quint32>(end - start), isEncoded};
     }
     [[nodiscard]] quint32 offset(const char *at) const
     {

@@ -1,6 +1,7 @@
 #include "xml/XMLDictionaryParser.h"
 
 #include "xml/PlainScanner.h"
+#include "xml/PlainText.h"
 #include "xml/TreeBuilder.h"
 
 #include <QFile>
@@ -25,7 +26,17 @@ std::optional<Dictionary> XMLDictionaryParser::dictionaryWithParser(EventParser 
 
 std::optional<Dictionary> XMLDictionaryParser::dictionaryWithData(const QByteArray &data)
 {
-    if (PlainScanner::suits(settings)) {
+    return read(data, PlainScanner::suits(settings) && isPlainText(data));
+}
+
+std::optional<Dictionary> XMLDictionaryParser::dictionaryWithPlainData(const QByteArray &data)
+{
+    return read(data, true);
+}
+
+std::optional<Dictionary> XMLDictionaryParser::read(const QByteArray &data, bool isPlain)
+{
+    if (isPlain && PlainScanner::suits(settings)) {
         if (std::optional<Dictionary> tree = PlainScanner(data).tree(settings)) {
             m_firstError.reset();
             m_openElements.clear();

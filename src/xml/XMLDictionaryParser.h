@@ -50,6 +50,8 @@ public:
     /// string cannot be encoded as UTF-8. `data` is UTF-8, whatever an XML declaration in it says.
     [[nodiscard]] std::optional<Dictionary> dictionaryWithParser(EventParser &parser);
     [[nodiscard]] std::optional<Dictionary> dictionaryWithData(const QByteArray &data);
+    /// The same of data that is known to be a plain text, as isPlainText() tells.
+    [[nodiscard]] std::optional<Dictionary> dictionaryWithPlainData(const QByteArray &data);
     [[nodiscard]] std::optional<Dictionary> dictionaryWithString(QStringView string);
     [[nodiscard]] std::optional<Dictionary> dictionaryWithFile(const QString &path);
 
@@ -60,6 +62,8 @@ public:
     [[nodiscard]] const QStringList &openElements() const { return m_openElements; }
 
 private:
+    [[nodiscard]] std::optional<Dictionary> read(const QByteArray &data, bool isPlain);
+
     std::optional<ParseError> m_firstError;
     QStringList m_openElements;
 };

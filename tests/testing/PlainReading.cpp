@@ -72,7 +72,9 @@ bool areWrittenAlike(const Value &a, const Value &b)
 
 std::optional<Dictionary> scannedTree(const QByteArray &utf8)
 {
-    return PlainScanner(utf8).tree(XMLDictionaryParser::sharedInstance().settings);
+    return !isPlainText(utf8)
+               ? std::nullopt
+               : PlainScanner(utf8).tree(XMLDictionaryParser::sharedInstance().settings);
 }
 
 const char *faultOfScanning(const QByteArray &utf8)

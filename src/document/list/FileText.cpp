@@ -1,6 +1,7 @@
 #include "document/list/FileText.h"
 
 #include "support/TextSearch.h"
+#include "xml/PlainText.h"
 
 #include <QRegularExpression>
 
@@ -61,7 +62,9 @@ std::optional<FileText> FileText::decode(const QByteArray &bytes)
         return {};
     FileText text;
     const auto first = static_cast<unsigned char>(bytes.front());
-    if (first != 0xFF && first != 0x00 && bytes.isValidUtf8()) {
+    const bool mayBeUtf8 = first != 0xFF && first != 0x00;
+    text.m_isPlain = mayBeUtf8 && isPlainText(bytes); // which is UTF-8
+    if (text.m_isPlain || (mayBeUtf8 && bytes.isValidUtf8())) {
         text.m_bytes = bytes;
         return text;
     }

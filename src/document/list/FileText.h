@@ -21,6 +21,8 @@ public:
     [[nodiscard]] static std::optional<FileText> decode(const QByteArray &bytes);
 
     [[nodiscard]] TextEncoding encoding() const { return m_encoding; }
+    /// Whether it came in UTF-8 and isPlainText().
+    [[nodiscard]] bool isPlain() const { return m_isPlain; }
     [[nodiscard]] QString toString() const;
     /// The text in UTF-8: the bytes themselves when they came in it.
     [[nodiscard]] QByteArray utf8() const;
@@ -51,6 +53,7 @@ public:
 
 private:
     TextEncoding m_encoding = TextEncoding::Utf8;
+    bool m_isPlain = false;
     QByteArray m_bytes; ///< the text itself, when it came in UTF-8
     QString m_text;     ///< the text, when it came otherwise
 };

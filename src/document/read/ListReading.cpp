@@ -111,6 +111,14 @@ bool fileAndLocate(ChannelList &list, const QStringList &open)
     return fileStations(list) && locateStations(list);
 }
 
+std::optional<Dictionary> treeOf(const FileText &text, XMLDictionaryParser &parser)
+{
+    if (text.encoding() != TextEncoding::Utf8)
+        return parser.dictionaryWithString(text.toString());
+    return text.isPlain() ? parser.dictionaryWithPlainData(text.bytes())
+                          : parser.dictionaryWithData(text.bytes());
+}
+
 } // namespace
 
 Reading readInto(ChannelList &list, const QByteArray &bytes)
@@ -121,11 +129,7 @@ Reading readInto(ChannelList &list, const QByteArray &bytes)
     list.text = *std::move(text);
 
     XMLDictionaryParser parser(XMLDictionaryParser::sharedInstance());
-    std::optional<Dictionary> tree =
-        list.text.encoding() == TextEncoding::Utf8
-            ? parser.dictionaryWithData(list.text.utf8()) // the bytes that the text is encoded to
-            : parser.dictionaryWithString(list.text.toString());
-    list.tree = std::move(tree).value_or(Dictionary());
+    list.tree = treeOf(list.text, parser).value_or(Dictionary());
     list.parseError = parser.firstError();
     list.formatFault.reset();
     list.isLegacyFormat = list.isFormatWithLegacybroadcast();

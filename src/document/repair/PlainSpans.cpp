@@ -1,6 +1,7 @@
 #include "document/repair/PlainSpans.h"
 
 #include "xml/PlainScanner.h"
+#include "xml/PlainText.h"
 
 #include <algorithm>
 #include <utility>
@@ -90,7 +91,7 @@ std::optional<std::vector<ElementSpan>> plainElementSpans(const QByteArray &utf8
                                                           const std::vector<QByteArray> &path)
 {
     const XMLDictionaryParser::Settings &settings = XMLDictionaryParser::sharedInstance().settings;
-    if (!PlainScanner::suits(settings) || !PlainScanner(utf8).tree(settings))
+    if (!PlainScanner::suits(settings) || !isPlainText(utf8) || !PlainScanner(utf8).tree(settings))
         return {};
     return TagWalker(utf8, path).spans();
 }

@@ -3,6 +3,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 #include <iterator>
 #include <utility>
@@ -21,17 +22,22 @@ StationList extract(const StationList &list, Matches matches)
     return found;
 }
 
-/// Letters of Latin, Greek and Cyrillic that fold to one letter, whatever stands beside them.
+constexpr char16_t endOfLetters = 0x530; ///< of Latin, Greek and Cyrillic
+
+/// Those that fold to one letter, whatever stands beside them.
 bool foldsAlone(char16_t u)
 {
     return (u < 0x149 && u != 0xDF && u != 0x130) || (u > 0x149 && u < 0x1F0) ||
-           (u >= 0x391 && u < 0x3B0) || (u > 0x3B0 && u < 0x530);
+           (u >= 0x391 && u < 0x3B0) || (u > 0x3B0 && u < endOfLetters);
 }
 
-constexpr char16_t foldedASCII(char16_t u)
+/// By the letter what it folds to, or 0 when it does not fold alone.
+std::array<char16_t, endOfLetters> makeFoldedLetters()
 {
-    const auto place = static_cast<char16_t>(u - u'A');
-    return static_cast<char16_t>(u + (place < 26 ? u'a' - u'A' : 0));
+    std::array<char16_t, endOfLetters> folded{};
+    for (char16_t u = 0; u < endOfLetters; ++u)
+        folded.at(u) = foldsAlone(u) ? QChar(u).toCaseFolded().unicode() : u'\0';
+    return folded;
 }
 
 constexpr int unitsAtOnce = 4;
@@ -58,6 +64,7 @@ bool foldASCII(const char16_t *in, char16_t *out)
 void fold(const QString &name, QString &folded)
 {
     folded.resize(name.size());
+    static const auto foldedLetters = makeFoldedLetters();
     const auto *in = QStringView(name).utf16();
     const auto *const end = in + name.size();
     auto *out = reinterpret_cast<char16_t *>(folded.data());
@@ -67,11 +74,8 @@ void fold(const QString &name, QString &folded)
             out += unitsAtOnce;
             continue;
         }
-        if (*in < 0x80) {
-            *out = foldedASCII(*in);
-        } else if (foldsAlone(*in)) {
-            *out = QChar(*in).toCaseFolded().unicode();
-        } else {
+        *out = *in < endOfLetters ? foldedLetters[*in] : u'\0';
+        if (*out == 0) {
             folded = name.toCaseFolded();
             return;
         }

@@ -58,8 +58,8 @@ qsizetype placeOf(QByteArrayView wanted, qsizetype mark, QByteArrayView text, qs
 qsizetype occurrences(QByteArrayView wanted, qsizetype mark, QByteArrayView text)
 {
     qsizetype count = 0;
-    for (qsizetype at = -1; (at = placeOf(wanted, mark, text, at + 1)) >= 0;)
-        ++count;
+    for (qsizetype at = mark - 1; (at = text.indexOf(wanted[mark], at + 1)) >= 0;)
+        count += text.sliced(at - mark).startsWith(wanted) ? 1 : 0;
     return count;
 }
 

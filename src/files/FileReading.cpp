@@ -3,19 +3,18 @@
 #include "files/FileNames.h"
 #include "files/ShownPath.h"
 #include "files/SystemReasons.h"
+#include "support/MemoryPages.h"
 
 #include <QFile>
 #include <QFileInfo>
 
 #include <cerrno>
 #include <chrono>
-#include <memory>
 #include <new>
 #include <thread>
 
 #ifndef Q_OS_WIN
 #include <fcntl.h>
-#include <sys/mman.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #endif
@@ -116,19 +115,6 @@ qint64 readLikely(QFile &file, const QByteArray &likely, QByteArray &bytes)
     }
 }
 
-/// Asks the system for the memory of the bytes at once, which takes it half the time of giving one
-/// page after another as they are written.
-void takePages([[maybe_unused]] QByteArray &bytes)
-{
-#ifdef MADV_POPULATE_WRITE
-    void *place = bytes.data();
-    std::size_t room = std::size_t(bytes.size());
-    const auto page = std::size_t(::sysconf(_SC_PAGESIZE));
-    if (std::align(page, page, place, room))
-        ::madvise(place, room / page * page, MADV_POPULATE_WRITE); // or it comes page by page
-#endif
-}
-
 /// Reads the open file to its end; some that pass for ordinary ones have none, or no size.
 QString readAll(QFile &file, const QByteArray &likely, QByteArray &bytes)
 {
@@ -143,7 +129,7 @@ QString readAll(QFile &file, const QByteArray &likely, QByteArray &bytes)
         return {};
     bytes.reserve(expected + step);
     bytes.resize(expected);
-    takePages(bytes);
+    takePages(bytes.data(), static_cast<std::size_t>(bytes.size()));
     while (count <= largestFile) {
         bytes.resize(qMax(expected, count + step));
         forgetSystemReason();

@@ -14,7 +14,7 @@ namespace {
 // What goes beyond these may be right, but no set writes it.
 constexpr std::size_t deepest = 64;
 constexpr std::size_t mostAttributes = 50;
-constexpr qsizetype bytesPerText = 24; ///< about as many as a field of a station takes
+constexpr qsizetype bytesPerText = 27; ///< or a few more, in the lists of sets
 
 bool isBlank(char c)
 {
@@ -57,7 +57,7 @@ std::optional<Dictionary> PlainScanner::tree(const XMLDictionaryParser::Settings
     const QByteArray &utf8 = m_texts->utf8();
     if (utf8.size() >= std::numeric_limits<qint32>::max() || !skipDeclaration())
         return {};
-    m_texts->reserve(static_cast<std::size_t>(utf8.size() / bytesPerText));
+    m_texts->expect(static_cast<std::size_t>(utf8.size() / bytesPerText));
     m_notesAttributes =
         settings.attributesMode == XMLDictionaryParser::AttributesMode::AttributesPrefixed;
     TreeBuilder builder(settings, utf8);

@@ -1,9 +1,16 @@
 #include "xml/ReadTexts.h"
 
+#include "support/MemoryPages.h"
 #include "support/TextConversion.h"
 #include "xml/PlainText.h"
 
 namespace quillet {
+
+void ReadTexts::expect(std::size_t count)
+{
+    m_texts.reserve(count);
+    takePages(m_texts.data(), count * sizeof(ReadText));
+}
 
 QString ReadTexts::textOf(ReadText text) const
 {

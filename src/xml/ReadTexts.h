@@ -48,7 +48,8 @@ public:
     [[nodiscard]] const QByteArray &utf8() const { return m_utf8; }
     [[nodiscard]] std::size_t count() const { return m_texts.size(); }
     [[nodiscard]] ReadText at(std::size_t index) const { return m_texts[index]; }
-    void reserve(std::size_t count) { m_texts.reserve(count); }
+    /// Takes memory for that many, about as many as there will be.
+    void expect(std::size_t count);
     void add(ReadText text) { m_texts.push_back(text); }
     /// Forgets all but the first so many.
     void truncate(std::size_t count) { m_texts.resize(count); }

@@ -45,7 +45,7 @@ constexpr char usage[] =
     "       quillet_bench FOLDER --commands    says what does each row\n"
     "       quillet_bench FOLDER --made-with   says what the number of instructions depends on\n";
 
-/// Looks at files by the clock, in threads of their own, are not what a row counts.
+/// Keeps looks at open files, which come by the clock, out of what a row counts.
 class Application : public QApplication
 {
 public:

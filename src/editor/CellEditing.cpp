@@ -1,7 +1,7 @@
 #include "editor/CellEditing.h"
 
 #include "editor/DarkModeTableView.h"
-#include "editor/TableSelection.h"
+#include "editor/RowSelection.h"
 #include "editor/ViewController.h"
 #include "texts/StationColumns.h"
 
@@ -61,7 +61,7 @@ QString CellEditing::reasonAgainstRenaming() const
 
 void CellEditing::rename()
 {
-    const QList<qsizetype> rows = selectedRows(*m_list.selectionModel());
+    const QList<qsizetype> rows = m_list.rowSelection().rows();
     if (rows.isEmpty())
         return;
     const QModelIndex name =

@@ -1,6 +1,7 @@
 #include "editor/ComparisonTable.h"
 
 #include "editor/CheckMarkDelegate.h"
+#include "editor/RowSelection.h"
 #include "editor/TableColumns.h"
 #include "editor/TableSelection.h"
 #include "editor/TypedTextDelegate.h"
@@ -136,7 +137,7 @@ void ComparisonTable::resizeEvent(QResizeEvent *event)
 
 std::vector<std::size_t> ComparisonTable::selected() const
 {
-    const QList<qsizetype> rows = selectedRows(*selectionModel());
+    const QList<qsizetype> rows = rowSelection().rows();
     return {rows.begin(), rows.end()};
 }
 

@@ -6,7 +6,6 @@
 #include "editor/RowSelection.h"
 #include "editor/StationHeader.h"
 #include "editor/StationTableModel.h"
-#include "editor/TableSelection.h"
 #include "files/FileNames.h"
 #include "framework/Speech.h"
 
@@ -207,7 +206,7 @@ void DarkModeTableView::startDrag(Qt::DropActions)
     if (!isOfSelection || !m_pressed.flags().testFlag(Qt::ItemIsDragEnabled))
         return; // nothing is dragged by what the pointer is not on
     QModelIndexList indexes;
-    for (const qsizetype row : selectedRows(*m_selection))
+    for (const qsizetype row : m_selection->rows())
         indexes.append(model()->index(static_cast<int>(row), 0));
     auto *drag = new QDrag(this); // which Qt deletes
     drag->setMimeData(model()->mimeData(indexes));

@@ -41,7 +41,7 @@ public:
     /// Makes a row that there is the current and only selected one, as the arrow keys do.
     void goToRow(int row);
     /// There is one with the first model.
-    [[nodiscard]] RowSelection &rowSelection() { return *m_selection; }
+    [[nodiscard]] RowSelection &rowSelection() const { return *m_selection; }
     /// Scrolls up or down alone.
     void scrollToRow(int row, ScrollHint hint = EnsureVisible);
     void keyboardSearch(const QString &search) override;

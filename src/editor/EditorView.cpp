@@ -12,6 +12,7 @@
 #include "editor/EmptyPage.h"
 #include "editor/ExportDialog.h"
 #include "editor/InfoViewController.h"
+#include "editor/RowSelection.h"
 #include "editor/TableColumns.h"
 #include "editor/TableSelection.h"
 #include "files/Settings.h"
@@ -317,7 +318,7 @@ void EditorView::showChange(const ListChange &change)
 QList<qsizetype> EditorView::selectedRows() const
 {
     if (!m_selectedRows)
-        m_selectedRows = quillet::selectedRows(*m_ui->list->selectionModel());
+        m_selectedRows = m_ui->list->rowSelection().rows();
     return *m_selectedRows;
 }
 

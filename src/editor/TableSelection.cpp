@@ -9,8 +9,6 @@ namespace quillet {
 
 QList<qsizetype> selectedRows(const QItemSelectionModel &selection)
 {
-    if (const auto *ofRows = qobject_cast<const RowSelection *>(&selection))
-        return ofRows->rows();
     QList<qsizetype> rows;
     for (const QItemSelectionRange &range : selection.selection()) {
         for (int row = range.top(); row <= range.bottom(); ++row)

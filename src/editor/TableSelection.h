@@ -9,7 +9,7 @@ namespace quillet {
 
 class DarkModeTableView;
 
-/// Ascending, each once.
+/// Ascending, each once: what Qt knows. A RowSelection tells its rows sooner.
 [[nodiscard]] QList<qsizetype> selectedRows(const QItemSelectionModel &selection);
 /// Selects exactly those of the ascending rows that there are, and makes one of them the current
 /// one.

@@ -1,13 +1,8 @@
 #include "xml/TextFinder.h"
 
 #include "support/TextConversion.h"
-#include "xml/PlainText.h"
 
 namespace quillet {
-
-namespace {
-
-} // namespace
 
 bool TextFinder::hasPlainEnds(QByteArrayView text)
 {

@@ -10,17 +10,6 @@ constexpr std::array sizes{16, 24, 32, 48, 64, 128, 256};
 
 } // namespace
 
-void ApplicationIcon::paint(QPainter *painter, const QRect &place, QIcon::Mode mode,
-                            QIcon::State state)
-{
-    pictures().paint(painter, place, Qt::AlignCenter, mode, state);
-}
-
-QPixmap ApplicationIcon::pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state)
-{
-    return pictures().pixmap(size, 1.0, mode, state); // device pixels, as this is asked for
-}
-
 QList<QSize> ApplicationIcon::availableSizes(QIcon::Mode /*mode*/, QIcon::State /*state*/)
 {
     QList<QSize> all;
@@ -29,12 +18,12 @@ QList<QSize> ApplicationIcon::availableSizes(QIcon::Mode /*mode*/, QIcon::State 
     return all;
 }
 
-const QIcon &ApplicationIcon::pictures()
+QIcon ApplicationIcon::lookUp() const
 {
-    if (m_pictures.isNull())
-        for (const int size : sizes)
-            m_pictures.addFile(QStringLiteral(":/icons/quillet-%1.png").arg(size));
-    return m_pictures;
+    QIcon pictures;
+    for (const int size : sizes)
+        pictures.addFile(QStringLiteral(":/icons/quillet-%1.png").arg(size));
+    return pictures;
 }
 
 } // namespace quillet

@@ -5,6 +5,7 @@
 #include "app/HelpProgram.h"
 #include "app/OneInstance.h"
 #include "app/Palettes.h"
+#include "app/ProgramStyle.h"
 #include "app/SessionFolder.h"
 #include "app/Snapshot.h"
 #include "app/TerminationSignals.h"
@@ -137,6 +138,7 @@ int main(int argc, char *argv[])
     printMessage = qInstallMessageHandler(endWhereQtCannotStart);
     QApplication app(argc, argv); // takes Qt's own options
     qInstallMessageHandler(printMessage);
+    QApplication::setStyle(new ProgramStyle);
     QApplication::setDesktopFileName(QStringLiteral("org.quillet.Quillet"));
     QApplication::setWindowIcon(QIcon(new ApplicationIcon));
     installTranslations(line.language);

@@ -1,6 +1,7 @@
 #include "AppFixture.h"
 
 #include "app/OpenRequest.h"
+#include "app/ProgramStyle.h"
 #include "app/TerminationSignals.h"
 #include "editor/EditorView.h"
 #include "files/FileNames.h"
@@ -14,6 +15,7 @@
 #include <QDir>
 #include <QDropEvent>
 #include <QFileOpenEvent>
+#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -256,6 +258,22 @@ private slots:
         const QString text = box.button(QDialogButtonBox::Close)->text().remove(u'&');
         installTranslations();
         QCOMPARE(text, close);
+    }
+
+    void picturesLookedUpLateAreTheStylesOwn()
+    {
+        std::unique_ptr<QStyle> style = std::make_unique<ProgramStyle>();
+        QIcon late;
+        for (const auto which :
+             {QStyle::SP_ToolBarHorizontalExtensionButton, QStyle::SP_LineEditClearButton}) {
+            const QImage own =
+                QApplication::style()->standardIcon(which).pixmap(QSize(16, 16)).toImage();
+            QVERIFY(!own.isNull());
+            late = style->standardIcon(which);
+            QCOMPARE(style->standardIcon(which).pixmap(QSize(16, 16)).toImage(), own);
+        }
+        style.reset(); // the desktop has changed to another
+        QVERIFY(!late.pixmap(QSize(16, 16)).isNull());
     }
 
     void fileThatDoesNotOpenLeavesAnEmptyWindow()

@@ -1,13 +1,14 @@
 #include "editor/CellFont.h"
 
 #include <QFontDatabase>
+#include <QStringList>
 
 namespace quillet {
 
 QFont cellFont(int percent)
 {
     constexpr double points = 12;
-    static const bool isInstalled = QFontDatabase::hasFamily(QStringLiteral("Monaco"));
+    static const bool isInstalled = QFontDatabase::families().contains(QStringLiteral("Monaco"));
     if (!isInstalled)
         return {};
     QFont font(QStringLiteral("Monaco"));

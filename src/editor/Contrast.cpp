@@ -1,23 +1,36 @@
 #include "editor/Contrast.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace quillet {
 
 namespace {
 
-/// Of a channel, 0 to 1.
-double linear(float level)
+using Levels = std::array<double, 256>;
+
+Levels linearLevels()
 {
-    return level <= 0.04045F ? static_cast<double>(level) / 12.92
-                             : std::pow((static_cast<double>(level) + 0.055) / 1.055, 2.4);
+    Levels levels;
+    for (std::size_t i = 0; i < levels.size(); ++i) {
+        const double level = static_cast<double>(i) / static_cast<double>(levels.size() - 1);
+        levels[i] = level <= 0.04045 ? level / 12.92 : std::pow((level + 0.055) / 1.055, 2.4);
+    }
+    return levels;
+}
+
+/// Of a channel, 0 to 255; 0 to 1.
+double linear(int level)
+{
+    static const Levels levels = linearLevels(); // for a cell's ink takes hundreds of them
+    return levels[static_cast<std::size_t>(level)];
 }
 
 double luminance(const QColor &color)
 {
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
-           0.0722 * linear(color.blueF());
+    return 0.2126 * linear(color.red()) + 0.7152 * linear(color.green()) +
+           0.0722 * linear(color.blue());
 }
 
 } // namespace

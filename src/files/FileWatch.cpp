@@ -15,10 +15,17 @@ namespace {
 
 /// At the end of the program; a look that takes longer waits for a disk that does not answer.
 constexpr std::chrono::milliseconds longestWait{200};
+/// Before a thread is begun, so that a window that opens with its file is painted first.
+constexpr std::chrono::milliseconds delay{100};
 
 } // namespace
 
-FileWatch::FileWatch(QObject *parent) : QObject(parent) {}
+FileWatch::FileWatch(QObject *parent) : QObject(parent)
+{
+    m_beginning.setSingleShot(true);
+    m_beginning.setInterval(delay);
+    connect(&m_beginning, &QTimer::timeout, this, &FileWatch::begin);
+}
 
 FileWatch::~FileWatch()
 {
@@ -49,23 +56,36 @@ void FileWatch::watch(const FileState &known)
     // Looks that wait for a disk would never come to another place.
     if (m_known && m_known->path() != known.path())
         letGo();
-    if (!m_thread) {
-        m_thread = new QThread;
-        m_thread->setObjectName(QStringLiteral("FileWatch"));
-        m_looks = new FileLooks;
-        m_looks->moveToThread(m_thread);
-        connect(m_looks, &FileLooks::found, this, &FileWatch::compare);
-        connect(m_thread, &QThread::finished, m_looks, &QObject::deleteLater);
-        m_thread->start();
-    }
     m_known = known;
     m_wasAway = false;
     ++m_number;
+    if (m_thread)
+        look();
+    else
+        m_beginning.start();
+    tell(FileState::Change::None, {});
+}
+
+void FileWatch::begin()
+{
+    m_thread = new QThread;
+    m_thread->setObjectName(QStringLiteral("FileWatch"));
+    m_looks = new FileLooks;
+    m_looks->moveToThread(m_thread);
+    connect(m_looks, &FileLooks::found, this, &FileWatch::compare);
+    connect(m_thread, &QThread::finished, m_looks, &QObject::deleteLater);
+    m_thread->start();
+    look();
+}
+
+void FileWatch::look()
+{
     QMetaObject::invokeMethod(
         m_looks,
-        [looks = m_looks, path = known.path(), number = m_number] { looks->start(path, number); },
+        [looks = m_looks, path = m_known->path(), number = m_number] {
+            looks->start(path, number);
+        },
         Qt::QueuedConnection);
-    tell(FileState::Change::None, {});
 }
 
 void FileWatch::compare(const FileState &state, quint64 number)

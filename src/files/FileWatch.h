@@ -3,6 +3,7 @@
 #include "files/FileState.h"
 
 #include <QObject>
+#include <QTimer>
 
 #include <optional>
 
@@ -40,10 +41,13 @@ signals:
     void newsChanged();
 
 private:
+    void begin();
+    void look();
     void letGo();
     void compare(const FileState &state, quint64 number);
     void tell(FileState::Change news, const std::optional<FileState> &found);
 
+    QTimer m_beginning;
     QThread *m_thread = nullptr;
     FileLooks *m_looks = nullptr; ///< lives in the thread, and looks at the path of the known state
     quint64 m_number = 0;         ///< of the known state; what was found for an earlier is no news

@@ -5,6 +5,7 @@
 #include <QSettings>
 
 #include <algorithm>
+#include <chrono>
 
 namespace quillet {
 
@@ -17,6 +18,8 @@ constexpr char pathKey[] = "path";
 constexpr char originKey[] = "origin";
 constexpr char entriesKey[] = "entries";
 constexpr char usedKey[] = "used";
+/// Writing waits for the disk, which a window that is to be painted first need not.
+constexpr std::chrono::milliseconds delay{100};
 constexpr qsizetype longestOrigin = 100; // it comes from a file, where it may be endless
 
 std::vector<RecentFile> factsIn(QSettings &settings)
@@ -45,9 +48,24 @@ void removePath(std::vector<RecentFile> &files, const QString &path)
 
 } // namespace
 
+RecentFiles::RecentFiles(QObject *parent) : QObject(parent)
+{
+    m_writing.setSingleShot(true);
+    m_writing.setInterval(delay);
+    connect(&m_writing, &QTimer::timeout, this, &RecentFiles::write);
+}
+
+RecentFiles::~RecentFiles()
+{
+    write();
+}
+
 QStringList RecentFiles::paths() const
 {
-    return QSettings().value(filesKey).toStringList();
+    QStringList paths;
+    for (const RecentFile &file : files())
+        paths.append(file.path);
+    return paths;
 }
 
 std::vector<RecentFile> RecentFiles::files() const
@@ -62,18 +80,20 @@ std::vector<RecentFile> RecentFiles::files() const
                          [&path](const RecentFile &file) { return file.path == path; });
         files.push_back(found == known.end() ? RecentFile{path} : *found);
     }
+    for (const RecentFile &file : m_added) {
+        removePath(files, file.path);
+        files.insert(files.begin(), file);
+    }
+    if (files.size() > maximum)
+        files.resize(maximum);
     return files;
 }
 
 void RecentFiles::add(const QString &path, const RecentFacts &facts)
 {
-    const QString absolute = tidyPath(path);
-    std::vector<RecentFile> list = files();
-    removePath(list, absolute);
-    list.insert(list.begin(), {absolute, facts, QDateTime::currentDateTimeUtc()});
-    if (list.size() > maximum)
-        list.resize(maximum);
-    store(list);
+    m_added.push_back({tidyPath(path), facts, QDateTime::currentDateTimeUtc()});
+    m_writing.start();
+    emit changed();
 }
 
 void RecentFiles::remove(const QString &path)
@@ -81,11 +101,19 @@ void RecentFiles::remove(const QString &path)
     std::vector<RecentFile> list = files();
     removePath(list, path);
     store(list);
+    emit changed();
 }
 
 void RecentFiles::clear()
 {
     store({});
+    emit changed();
+}
+
+void RecentFiles::write()
+{
+    if (!m_added.empty())
+        store(files());
 }
 
 void RecentFiles::store(const std::vector<RecentFile> &files)
@@ -108,7 +136,8 @@ void RecentFiles::store(const std::vector<RecentFile> &files)
             settings.setValue(usedKey, file.usedAt.toString(Qt::ISODate));
     }
     settings.endArray();
-    emit changed();
+    m_added.clear();
+    m_writing.stop();
 }
 
 } // namespace quillet

@@ -3,6 +3,7 @@
 #include <QDateTime>
 #include <QObject>
 #include <QStringList>
+#include <QTimer>
 
 #include <optional>
 #include <vector>
@@ -33,13 +34,14 @@ class RecentFiles : public QObject
 public:
     static constexpr int maximum = 10;
 
-    using QObject::QObject;
+    explicit RecentFiles(QObject *parent = nullptr);
+    ~RecentFiles() override;
 
     /// Absolute paths, each once, at most `maximum`.
     [[nodiscard]] QStringList paths() const;
     /// The same with what is known of them.
     [[nodiscard]] std::vector<RecentFile> files() const;
-    /// Puts the file first, as one that is used now.
+    /// Puts the file first, as one that is used now. The settings are written soon.
     void add(const QString &path, const RecentFacts &facts = {});
     void remove(const QString &path);
     void clear();
@@ -48,7 +50,11 @@ signals:
     void changed();
 
 private:
+    void write();
     void store(const std::vector<RecentFile> &files);
+
+    std::vector<RecentFile> m_added; ///< not yet in the settings; the newest last
+    QTimer m_writing;
 };
 
 } // namespace quillet

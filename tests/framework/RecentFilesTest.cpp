@@ -35,7 +35,7 @@ private slots:
             recent.add(QString::fromLatin1(path));
         const QStringList expected{QStringLiteral("/a/1"), QStringLiteral("/a/2")};
         QCOMPARE(recent.paths(), expected);
-        QCOMPARE(RecentFiles().paths(), expected);
+        QTRY_COMPARE(RecentFiles().paths(), expected); // written for other programs
         for (int i = 0; i < 20; ++i)
             recent.add(QStringLiteral("/many/%1").arg(i));
         QCOMPARE(recent.paths().size(), RecentFiles::maximum);

@@ -143,6 +143,7 @@ quint64 RowSelection::numberOf(int row) const
 RowSelection::Numbers RowSelection::numbersOf(const QBitArray &rows) const
 {
     Numbers numbers;
+    numbers.reserve(rows.count(true));
     for (int row = 0; row < static_cast<int>(rows.size()); ++row) {
         if (rows.testBit(row))
             numbers.insert(numberOf(row));

@@ -14,7 +14,7 @@ namespace {
 // What goes beyond these may be right, but no set writes it.
 constexpr std::size_t deepest = 64;
 constexpr std::size_t mostAttributes = 50;
-constexpr qsizetype bytesPerText = 27; ///< or a few more, in the lists of sets
+constexpr qsizetype bytesPerText = 33; ///< or a few more, in the lists of sets
 
 bool isBlank(char c)
 {

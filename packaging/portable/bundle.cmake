@@ -13,7 +13,7 @@ set(system_libraries
     "^lib(EGL|GL|GLX|OpenGL|GLdispatch|X11|X11-xcb|xcb|Xau|Xdmcp|ICE|SM|uuid)\\.so"
     "^lib(fontconfig|freetype|expat|glib-2\\.0|z|dbus-1|cups)\\.so")
 
-set(modules "")
+file(GLOB_RECURSE modules ${TREE}/lib/quillet_session.so)
 foreach(plugin IN LISTS plugins)
     cmake_path(GET plugin PARENT_PATH folder)
     file(COPY ${PLUGINS}/${plugin} DESTINATION ${TREE}/lib/plugins/${folder})

@@ -1,37 +1,36 @@
 #pragma once
 
 #include "app/OpenRequest.h"
+#include "app/instance/InstanceSocket.h"
 #include "files/FileLock.h"
 
-#include <QLocalServer>
 #include <QObject>
 
-#include <chrono>
 #include <functional>
 #include <memory>
-
-class QDeadlineTimer;
-class QLocalSocket;
+#include <optional>
 
 namespace quillet {
 
 /// Makes one program of all starts in a session: the first listens at a socket, where the others
-/// offer what they were asked to open. An offer is taken at one moment: the first sends its word,
-/// which fails when the other has stopped waiting. So the files are never opened twice, nor by
-/// nobody, even if the first is stopped in the midst of it. Whoever gets no word goes on alone.
+/// offer what they were asked to open. So the files are never opened twice, nor by nobody, even if
+/// the first is stopped in the midst of it. Whoever gets no word goes on alone.
 /// Owned by main; nothing in it waits once the program runs.
 class OneInstance : public QObject
 {
     Q_OBJECT
 
 public:
+    /// Makes a socket; null when there is none to be had.
+    using MakeSocket = std::function<std::unique_ptr<InstanceSocket>()>;
+
     /// The path is that of the socket, in a folder of the person's own; beside it lies the lock
     /// that tells who may listen. An empty one: every start is on its own.
-    explicit OneInstance(const QString &socketPath, QObject *parent = nullptr);
+    OneInstance(const QString &socketPath, MakeSocket makeSocket, QObject *parent = nullptr);
     ~OneInstance() override;
 
     enum class Role {
-        First,      ///< this program listens now
+        First,      ///< this program listens soon
         HandedOver, ///< another one opens the files, and this is to end
         Alone,      ///< this is to open them itself, and others do not find it
     };
@@ -48,16 +47,13 @@ signals:
     void requested(const quillet::OpenRequest &request);
 
 private:
-    enum class Answer { Taken, Declined, None, NobodyThere };
-    [[nodiscard]] bool listen();
-    [[nodiscard]] Answer offer(const QByteArray &message, const QDeadlineTimer &deadline) const;
-    void welcome();
-    /// `received` is what has come so far.
-    void read(QLocalSocket *socket, QByteArray &received);
+    void listen();
+    [[nodiscard]] std::optional<InstanceSocket::Reply> answer(const QByteArray &received) const;
 
     QString m_path;
+    MakeSocket m_makeSocket;
     std::unique_ptr<FileLock> m_lock; ///< null: another program may listen
-    QLocalServer m_server;
+    std::unique_ptr<InstanceSocket> m_socket;
     std::function<bool()> m_mayTake = [] { return true; };
 };
 

@@ -5,6 +5,7 @@
 #include "app/HelpProgram.h"
 #include "app/OneInstance.h"
 #include "app/Palettes.h"
+#include "app/ProgramFiles.h"
 #include "app/ProgramStyle.h"
 #include "app/SessionFolder.h"
 #include "app/Snapshot.h"
@@ -26,6 +27,7 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
 
 using namespace quillet;
 
@@ -70,9 +72,16 @@ QString meetingPlace(const CommandLine &line)
                             : folder + QLatin1String("/quillet-") + sessionName(line.helpWindow);
 }
 
+std::unique_ptr<InstanceSocket> loadInstanceSocket()
+{
+    auto *module =
+        qobject_cast<InstanceModule *>(loadProgramModule(QStringLiteral("quillet_session")));
+    return module ? module->makeSocket() : nullptr;
+}
+
 int edit(const CommandLine &line, const OpenRequest &request)
 {
-    OneInstance instance(meetingPlace(line));
+    OneInstance instance(meetingPlace(line), loadInstanceSocket);
     if (instance.begin(request) == OneInstance::Role::HandedOver)
         return Succeeded; // the log is the other program's
     const LogClaim log;

@@ -1,5 +1,6 @@
 #include "app/OneInstance.h"
-#include "app/LocalPeer.h"
+#include "app/instance/LocalInstanceSocket.h"
+#include "app/instance/LocalPeer.h"
 #include "testing/TestFiles.h"
 #include "testing/TestMain.h"
 
@@ -20,6 +21,11 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 using Role = OneInstance::Role;
+
+std::unique_ptr<InstanceSocket> makeSocket()
+{
+    return std::make_unique<LocalInstanceSocket>();
+}
 
 const QByteArray wholeMessage("quillet open 1\0token=t\0/a.tll\0\0", 31);
 
@@ -54,7 +60,7 @@ private slots:
     {
         QFETCH(QStringList, files);
         QFETCH(bool, isSent);
-        OneInstance first(m_path);
+        OneInstance first(m_path, makeSocket);
         QCOMPARE(first.begin({}), Role::First);
         QStringList taken{u"nothing"_s};
         connect(&first, &OneInstance::requested, this,
@@ -72,14 +78,14 @@ private slots:
     void firstThatDoesNotAnswerIsLeft()
     {
         QFETCH(bool, isQuitting);
-        OneInstance first(m_path);
+        OneInstance first(m_path, makeSocket);
         QCOMPARE(first.begin({}), Role::First);
         first.setMayTake([isQuitting] { return !isQuitting; });
         QSignalSpy requested(&first, &OneInstance::requested);
         if (isQuitting) {
             QCOMPARE(roleOfLater({{u"/a"_s}, {}}), Role::Alone);
         } else {
-            OneInstance second(m_path);
+            OneInstance second(m_path, makeSocket);
             QCOMPARE(second.begin({{u"/a"_s}, {}}), Role::Alone); // no event loop runs here
         }
         // It comes back, and leaves alone what is open elsewhere by now; but what comes later is
@@ -126,9 +132,10 @@ private slots:
     {
         QFETCH(QByteArray, bytes);
         QFETCH(bool, isTaken);
-        OneInstance first(m_path);
+        OneInstance first(m_path, makeSocket);
         QCOMPARE(first.begin({}), Role::First);
         QSignalSpy requested(&first, &OneInstance::requested);
+        QTRY_VERIFY(QFile::exists(m_path));   // it listens
         std::array<QLocalSocket, 40> sockets; // more than are let in at one time
         for (QLocalSocket &socket : sockets) {
             socket.connectToServer(m_path);
@@ -153,11 +160,11 @@ private slots:
         }
         QVERIFY(QFile::rename(m_path + u".2"_s, m_path));
         writeFile(m_path + u".lock"_s, "999999999\nquillet\nearlier\n\n\n");
-        OneInstance next(m_path);
+        OneInstance next(m_path, makeSocket);
         QCOMPARE(next.begin({}), Role::First);
         QCOMPARE(roleOfLater({}), Role::HandedOver);
         next.stop();
-        OneInstance afterThat(m_path);
+        OneInstance afterThat(m_path, makeSocket);
         QCOMPARE(afterThat.begin({}), Role::First);
     }
 
@@ -170,7 +177,7 @@ private slots:
             std::array<std::unique_ptr<QThread>, starts> threads;
             for (std::size_t i = 0; i < starts; ++i) {
                 threads[i].reset(QThread::create([&roles, i, path = folder.filePath(u"s"_s)] {
-                    OneInstance start(path);
+                    OneInstance start(path, makeSocket);
                     QEventLoop taking;
                     int left = starts - 1;
                     QObject::connect(&start, &OneInstance::requested, &taking, [&] {
@@ -197,7 +204,7 @@ private:
     {
         Role role{};
         const std::unique_ptr<QThread> thread(
-            QThread::create([&] { role = OneInstance(m_path).begin(request); }));
+            QThread::create([&] { role = OneInstance(m_path, makeSocket).begin(request); }));
         thread->start();
         [&] { QTRY_VERIFY(thread->isFinished()); }();
         thread->wait();

@@ -1,4 +1,4 @@
-#include "app/LocalPeer.h"
+#include "app/instance/LocalPeer.h"
 
 #include <QLocalSocket>
 

@@ -54,7 +54,7 @@ void install(const QLocale &locale, const QString &name, const QString &folder)
 QStringList textLanguages()
 {
     QStringList languages;
-    const QStringList names = QDir(textFolder()).entryList({QStringLiteral("quillet_*.qm")});
+    const QStringList names = QDir(textFolder()).entryList();
     for (const QString &name : names)
         languages.append(languageOf(name));
     return languages;

@@ -139,7 +139,10 @@ std::optional<QString> declaredEncoding(const FileText &text)
     constexpr qsizetype longestDeclaration = 200;
     static const QRegularExpression declaration(
         QStringLiteral("^\\x{FEFF}?<\\?xml\\s[^>]*\\bencoding\\s*=\\s*[\"']([\\w.-]+)[\"']"));
-    const QRegularExpressionMatch match = declaration.match(text.start(longestDeclaration));
+    const QString start = text.start(longestDeclaration);
+    if (!start.contains(QLatin1String("encoding")))
+        return {}; // as in a new list, which is there at every start
+    const QRegularExpressionMatch match = declaration.match(start);
     return match.hasMatch() ? std::optional(match.captured(1)) : std::nullopt;
 }
 

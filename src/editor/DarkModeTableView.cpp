@@ -54,7 +54,11 @@ void DarkModeTableView::setModel(QAbstractItemModel *model)
     if (!model)
         return;
     const std::unique_ptr<QItemSelectionModel> qtsOwn(selectionModel());
-    m_selection = new RowSelection(*model, StationTableModel::StationRole, this);
+    const auto *stations = qobject_cast<const StationTableModel *>(model);
+    const auto numberOf = [stations](int row) {
+        return stations ? stations->numberOf(row) : static_cast<quintptr>(row);
+    };
+    m_selection = new RowSelection(*model, numberOf, this);
     setSelectionModel(m_selection);
     m_markPress.watch(*model);
     // To assistive technology all cells are new ones after that.

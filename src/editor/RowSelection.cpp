@@ -25,8 +25,8 @@ QBitArray rowsIn(const QItemSelection &selection, int count)
 } // namespace
 
 /// It hears of changes of the model before Qt's part does, which would follow each cell.
-RowSelection::RowSelection(QAbstractItemModel &model, int roleOfNumber, QObject *parent)
-    : QItemSelectionModel(nullptr, parent), m_roleOfNumber(roleOfNumber)
+RowSelection::RowSelection(QAbstractItemModel &model, NumberOf numberOf, QObject *parent)
+    : QItemSelectionModel(nullptr, parent), m_numberOf(std::move(numberOf))
 {
     connect(&model, &QAbstractItemModel::rowsAboutToBeMoved, this, &RowSelection::rowsWillMove);
     connect(&model, &QAbstractItemModel::rowsMoved, this, &RowSelection::rowsHaveMoved);
@@ -135,18 +135,13 @@ void RowSelection::rowsHaveMoved()
     tellQt(m_ranges);
 }
 
-quint64 RowSelection::numberOf(int row) const
-{
-    return model()->index(row, 0).data(m_roleOfNumber).toULongLong();
-}
-
 RowSelection::Numbers RowSelection::numbersOf(const QBitArray &rows) const
 {
     Numbers numbers;
     numbers.reserve(rows.count(true));
     for (int row = 0; row < static_cast<int>(rows.size()); ++row) {
         if (rows.testBit(row))
-            numbers.insert(numberOf(row));
+            numbers.insert(m_numberOf(row));
     }
     return numbers;
 }
@@ -156,7 +151,7 @@ QBitArray RowSelection::rowsOf(const Numbers &numbers) const
     const int count = model()->rowCount();
     QBitArray rows(count);
     for (int row = 0; row < count && !numbers.isEmpty(); ++row)
-        rows.setBit(row, numbers.contains(numberOf(row)));
+        rows.setBit(row, numbers.contains(m_numberOf(row)));
     return rows;
 }
 

@@ -4,6 +4,8 @@
 #include <QItemSelectionModel>
 #include <QSet>
 
+#include <functional>
+
 namespace quillet {
 
 /// The selection of a table whose whole rows are selected, a bit for each row. Qt keeps ranges and
@@ -17,8 +19,10 @@ class RowSelection : public QItemSelectionModel
 public:
     class Excerpt;
 
-    /// Under the role the model tells of each row a number that no other has, wherever it stands.
-    RowSelection(QAbstractItemModel &model, int roleOfNumber, QObject *parent = nullptr);
+    /// A number that the row has and no other, wherever it stands.
+    using NumberOf = std::function<quintptr(int row)>;
+
+    RowSelection(QAbstractItemModel &model, NumberOf numberOf, QObject *parent = nullptr);
 
     using QItemSelectionModel::select;
     /// Any cell stands for its row.
@@ -29,12 +33,11 @@ public:
     [[nodiscard]] QList<qsizetype> rows() const;
 
 private:
-    using Numbers = QSet<quint64>;
+    using Numbers = QSet<quintptr>;
 
     void change(const QBitArray &rows);
     void rowsWillMove();
     void rowsHaveMoved();
-    [[nodiscard]] quint64 numberOf(int row) const;
     [[nodiscard]] Numbers numbersOf(const QBitArray &rows) const;
     [[nodiscard]] QBitArray rowsOf(const Numbers &numbers) const;
     [[nodiscard]] QItemSelection ranges(const QBitArray &rows) const;
@@ -45,7 +48,7 @@ private:
     QItemSelection m_ranges; ///< the same as m_rows
     Numbers m_movingRows;    ///< while rows change places
     Numbers m_movingSettled; ///< the same
-    int m_roleOfNumber;
+    NumberOf m_numberOf;
 };
 
 /// While it lives, Qt knows of nothing that is selected but what is in some neighbouring rows,

@@ -4,22 +4,38 @@
 
 namespace quillet {
 
+std::optional<QStringList> SavedSelection::selectedStations() const
+{
+    if (!m_numbers)
+        return {};
+    QStringList texts;
+    for (const qint64 number : *m_numbers)
+        texts.append(QString::number(number));
+    return texts;
+}
+
+void SavedSelection::set(const QStringList &numbers)
+{
+    m_numbers.emplace();
+    for (const QString &number : numbers)
+        m_numbers->append(number.toLongLong());
+}
+
 void SavedSelection::save(const QList<qsizetype> &rows, const StationList &list)
 {
     m_numbers.reset();
     if (rows.isEmpty())
         return;
-    m_numbers.emplace();
+    m_numbers.emplace().reserve(rows.size());
     for (const qsizetype row : rows)
-        m_numbers->append(list[static_cast<std::size_t>(row)]->progNumString());
+        m_numbers->append(list[static_cast<std::size_t>(row)]->progNum());
 }
 
 void SavedSelection::follow(const StationList &stations)
 {
-    QStringList numbers;
+    m_numbers.emplace().reserve(static_cast<qsizetype>(stations.size()));
     for (const StationPtr &station : stations)
-        numbers.append(station->progNumString());
-    m_numbers = std::move(numbers);
+        m_numbers->append(station->progNum());
 }
 
 QList<qsizetype> SavedSelection::rowsIn(const StationList &list) const
@@ -27,10 +43,7 @@ QList<qsizetype> SavedSelection::rowsIn(const StationList &list) const
     QList<qsizetype> rows;
     if (isEmpty())
         return rows;
-    // The numbers of a station's text are canonical decimals, so they compare as numbers.
-    QSet<qint64> numbers;
-    for (const QString &number : *m_numbers)
-        numbers.insert(number.toLongLong());
+    const QSet<qint64> numbers(m_numbers->cbegin(), m_numbers->cend());
     for (std::size_t i = 0; i < list.size(); ++i) {
         if (numbers.contains(list[i]->progNum()))
             rows.append(static_cast<qsizetype>(i));

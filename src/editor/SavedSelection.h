@@ -9,17 +9,19 @@
 
 namespace quillet {
 
-/// Which stations are selected, remembered by program number as text: so it survives renumbering,
-/// sorting and filtering, and afterwards means whatever stations carry those numbers.
+/// Which stations are selected, remembered by program number: so it survives renumbering, sorting
+/// and filtering, and afterwards means whatever stations carry those numbers.
 class SavedSelection
 {
 public:
-    /// The numbers; none when nothing is selected.
-    [[nodiscard]] const std::optional<QStringList> &selectedStations() const { return m_numbers; }
+    /// The numbers as text; none when nothing is selected.
+    [[nodiscard]] std::optional<QStringList> selectedStations() const;
+    [[nodiscard]] bool hasSelection() const { return m_numbers.has_value(); }
     [[nodiscard]] bool isEmpty() const { return !m_numbers || m_numbers->isEmpty(); }
 
     void clear() { m_numbers.reset(); }
-    void set(QStringList numbers) { m_numbers = std::move(numbers); }
+    /// Remembers those numbers, canonical decimals.
+    void set(const QStringList &numbers);
     /// Remembers those stations by the numbers they carry now.
     void follow(const StationList &stations);
     /// Remembers the stations at those ascending rows; no rows mean no selection.
@@ -32,7 +34,7 @@ public:
     bool operator==(const SavedSelection &) const = default;
 
 private:
-    std::optional<QStringList> m_numbers;
+    std::optional<QList<qint64>> m_numbers; ///< as numbers they compare as their texts do
 };
 
 } // namespace quillet

@@ -192,6 +192,12 @@ void StationTableModel::tellCells(const ListStretch &rows, int firstColumn, int 
     }
 }
 
+quintptr StationTableModel::numberOf(int row) const
+{
+    const auto place = static_cast<std::size_t>(row);
+    return place < m_rows.size() ? reinterpret_cast<quintptr>(m_rows[place].get()) : 0;
+}
+
 int StationTableModel::rowCount(const QModelIndex &parent) const
 {
     return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
@@ -213,8 +219,6 @@ QVariant StationTableModel::data(const QModelIndex &index, int role) const
         return m_font;
     if (role == SkippedRole)
         return station.isSkipped();
-    if (role == StationRole)
-        return QVariant::fromValue(reinterpret_cast<quintptr>(&station));
     switch (column.content) {
     case ColumnContent::Skipped:
         return markData(station.isSkipped(), column, role);

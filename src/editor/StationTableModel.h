@@ -23,8 +23,6 @@ public:
     enum Role {
         SkippedRole = Qt::UserRole, ///< of any cell: whether its station is skipped
         GlyphRole,                  ///< the Glyph that a cell shows, or that stands for a title
-        StationRole, ///< of any cell: a number that its station has and no other, wherever it
-                     ///< stands
     };
 
     explicit StationTableModel(ViewController &controller, QObject *parent = nullptr);
@@ -37,6 +35,8 @@ public:
     void setTextSize(int percent);
     void setNameColumnEditable(bool editable) { m_nameIsEditable = editable; }
 
+    /// A number that the row's station has and no other; 0 when there is no such row.
+    [[nodiscard]] quintptr numberOf(int row) const;
     [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex &parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;

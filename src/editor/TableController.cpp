@@ -301,7 +301,7 @@ void TableController::selectRows(const QList<qsizetype> &rows)
 void TableController::saveSelection()
 {
     m_shown.selection().save(m_outlets.selectedRows(), currentList());
-    enable(EditorOutlets::Control::MoveToButton, selection().selectedStations().has_value());
+    enable(EditorOutlets::Control::MoveToButton, selection().hasSelection());
     emit stateChanged();
 }
 

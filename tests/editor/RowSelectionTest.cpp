@@ -25,6 +25,11 @@ QStringList numbers()
     return texts;
 }
 
+RowSelection::NumberOf numberOf(const QAbstractItemModel &model)
+{
+    return [&model](int row) { return quintptr(model.index(row, 0).data().toUInt()); };
+}
+
 /// Some rows, here and there.
 QItemSelection scattered(const QAbstractItemModel &model, QRandomGenerator &random)
 {
@@ -53,7 +58,7 @@ private slots:
         QRandomGenerator random(16);
         QStringListModel model(numbers());
         Model own(&model);
-        RowSelection rows(model, Qt::DisplayRole);
+        RowSelection rows(model, numberOf(model));
         std::set<qsizetype> told;
         connect(&rows, &Model::selectionChanged, this,
                 [&told](const QItemSelection &added, const QItemSelection &gone) {
@@ -103,7 +108,7 @@ private slots:
     void showsAnExcerpt()
     {
         QStringListModel model(numbers());
-        RowSelection rows(model, Qt::DisplayRole);
+        RowSelection rows(model, numberOf(model));
         for (int row = 0; row < rowCount; row += 2)
             rows.select(model.index(row, 0), QItemSelectionModel::Select);
         const QSignalSpy changed(&rows, &QItemSelectionModel::selectionChanged);

@@ -1,5 +1,7 @@
 #include "app/OneInstance.h"
 
+#include "support/StartDelay.h"
+
 #include <QDeadlineTimer>
 #include <QThread>
 #include <QTimer>
@@ -15,8 +17,6 @@ using Reply = InstanceSocket::Reply;
 
 constexpr std::chrono::seconds patience{2};
 constexpr std::chrono::milliseconds pause{20};
-/// Before it listens, so that the window is painted first; the others go on asking as long.
-constexpr std::chrono::milliseconds delay{100};
 
 } // namespace
 
@@ -38,7 +38,7 @@ OneInstance::Role OneInstance::begin(const OpenRequest &request)
         FileLock::Obstacle obstacle;
         m_lock = FileLock::take(m_path + QLatin1String(".lock"), obstacle);
         if (m_lock) {
-            QTimer::singleShot(delay, this, &OneInstance::listen);
+            QTimer::singleShot(startDelay, this, &OneInstance::listen);
             return Role::First;
         }
         if (!obstacle.isHeld || !message)

@@ -55,6 +55,7 @@ void DarkModeTableView::setModel(QAbstractItemModel *model)
         return;
     const std::unique_ptr<QItemSelectionModel> qtsOwn(selectionModel());
     const auto *stations = qobject_cast<const StationTableModel *>(model);
+    // The rows of other models stay where they are.
     const auto numberOf = [stations](int row) {
         return stations ? stations->numberOf(row) : static_cast<quintptr>(row);
     };

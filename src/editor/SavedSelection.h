@@ -16,7 +16,6 @@ class SavedSelection
 public:
     /// The numbers as text; none when nothing is selected.
     [[nodiscard]] std::optional<QStringList> selectedStations() const;
-    [[nodiscard]] bool hasSelection() const { return m_numbers.has_value(); }
     [[nodiscard]] bool isEmpty() const { return !m_numbers || m_numbers->isEmpty(); }
 
     void clear() { m_numbers.reset(); }

@@ -301,7 +301,7 @@ void TableController::selectRows(const QList<qsizetype> &rows)
 void TableController::saveSelection()
 {
     m_shown.selection().save(m_outlets.selectedRows(), currentList());
-    enable(EditorOutlets::Control::MoveToButton, selection().hasSelection());
+    enable(EditorOutlets::Control::MoveToButton, !selection().isEmpty());
     emit stateChanged();
 }
 

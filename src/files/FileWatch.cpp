@@ -1,6 +1,7 @@
 #include "files/FileWatch.h"
 
 #include "files/FileLooks.h"
+#include "support/StartDelay.h"
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
@@ -15,15 +16,13 @@ namespace {
 
 /// At the end of the program; a look that takes longer waits for a disk that does not answer.
 constexpr std::chrono::milliseconds longestWait{200};
-/// Before a thread is begun, so that a window that opens with its file is painted first.
-constexpr std::chrono::milliseconds delay{100};
 
 } // namespace
 
 FileWatch::FileWatch(QObject *parent) : QObject(parent)
 {
     m_beginning.setSingleShot(true);
-    m_beginning.setInterval(delay);
+    m_beginning.setInterval(startDelay);
     connect(&m_beginning, &QTimer::timeout, this, &FileWatch::begin);
 }
 

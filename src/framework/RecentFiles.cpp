@@ -1,11 +1,11 @@
 #include "framework/RecentFiles.h"
 
 #include "files/Places.h"
+#include "support/StartDelay.h"
 
 #include <QSettings>
 
 #include <algorithm>
-#include <chrono>
 
 namespace quillet {
 
@@ -18,8 +18,6 @@ constexpr char pathKey[] = "path";
 constexpr char originKey[] = "origin";
 constexpr char entriesKey[] = "entries";
 constexpr char usedKey[] = "used";
-/// Writing waits for the disk, which a window that is to be painted first need not.
-constexpr std::chrono::milliseconds delay{100};
 constexpr qsizetype longestOrigin = 100; // it comes from a file, where it may be endless
 
 std::vector<RecentFile> factsIn(QSettings &settings)
@@ -51,7 +49,7 @@ void removePath(std::vector<RecentFile> &files, const QString &path)
 RecentFiles::RecentFiles(QObject *parent) : QObject(parent)
 {
     m_writing.setSingleShot(true);
-    m_writing.setInterval(delay);
+    m_writing.setInterval(startDelay); // writing waits for the disk
     connect(&m_writing, &QTimer::timeout, this, &RecentFiles::write);
 }
 

@@ -168,6 +168,15 @@ private slots:
         QCOMPARE(afterThat.begin({}), Role::First);
     }
 
+    void withoutASocketEachIsOnItsOwn()
+    {
+        const auto noSocket = [] { return std::unique_ptr<InstanceSocket>(); };
+        OneInstance first(m_path, noSocket);
+        QCOMPARE(first.begin({}), Role::First);
+        QCOMPARE(OneInstance(m_path, noSocket).begin({}), Role::Alone);
+        QTRY_COMPARE(OneInstance(m_path, makeSocket).begin({}), Role::First); // it has let go
+    }
+
     void oneOfManyIsTheFirst()
     {
         constexpr int starts = 6;

@@ -68,23 +68,19 @@ Ranks ranksOfTexts(ArrangeBy by, const StationList &stations, const PlaceOrder &
     QCollator collator(locale.language() == QLocale::C ? QLocale(QLocale::English) : locale);
     collator.setNumericMode(true);
     collator.setCaseSensitivity(Qt::CaseInsensitive);
-    std::vector<QCollatorSortKey> keys;
-    std::vector<std::size_t> indexes, order;
+    std::vector<std::pair<QCollatorSortKey, std::size_t>> keys;
     keys.reserve(places.size());
     for (std::size_t i = 0; i < places.size(); ++i) {
-        if (const auto text = textOf(by, *stations[places[i]])) {
-            order.push_back(keys.size());
-            indexes.push_back(i);
-            keys.push_back(collator.sortKey(*text));
-        }
+        if (const auto text = textOf(by, *stations[places[i]]))
+            keys.emplace_back(collator.sortKey(*text), i);
     }
-    std::sort(order.begin(), order.end(),
-              [&keys](std::size_t a, std::size_t b) { return keys[a] < keys[b]; });
+    std::sort(keys.begin(), keys.end(),
+              [](const auto &a, const auto &b) { return a.first < b.first; });
     Ranks ranks(places.size());
     qint64 rank = 0;
-    for (std::size_t i = 0; i < order.size(); ++i) {
-        rank += i > 0 && keys[order[i - 1]] < keys[order[i]] ? 1 : 0;
-        ranks[indexes[order[i]]] = rank;
+    for (std::size_t i = 0; i < keys.size(); ++i) {
+        rank += i > 0 && keys[i - 1].first < keys[i].first ? 1 : 0;
+        ranks[keys[i].second] = rank;
     }
     return ranks;
 }

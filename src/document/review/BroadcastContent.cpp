@@ -69,7 +69,9 @@ EntryKeys BroadcastContent::keys() const
 {
     const StationKeys keys = LGLegacyStation({}, 0).keys();
     QStringList edited{keys.keyProgNum, keys.keyStationName, keys.keySkipped, keys.keyBlocked};
-    return {.edited = edited + LGLegacyStation::numberMarks(), .number = {}};
+    return {.edited = edited + LGLegacyStation::numberMarks(),
+            .number = {},
+            .identity = {keys.keyService_id, keys.keyTransport_id, keys.keyFrequency}};
 }
 
 QString BroadcastContent::nameOf(const Dictionary &entry) const

@@ -5,7 +5,10 @@
 #include <QHash>
 
 #include <algorithm>
+#include <array>
 #include <optional>
+#include <unordered_set>
+#include <utility>
 
 namespace quillet {
 
@@ -35,24 +38,39 @@ private:
     Dictionary::Keys m_keysOfB;
 };
 
-/// Entries to be taken one by one, found by what they hold besides some fields.
+/// What entries have in common that are found as each other.
+struct Likeness
+{
+    QStringList without; ///< fields that may differ
+    std::size_t WrittenHashes::*hash;
+};
+
+/// Entries to be taken one by one, found by what they have in common.
 class EntryPool
 {
 public:
-    EntryPool(const std::vector<Dictionary> &entries, QStringList without)
-        : m_entries(entries), m_without(std::move(without))
+    EntryPool(const std::vector<Dictionary> &entries, WrittenHasher &hasher, Likeness likeness)
+        : m_entries(entries), m_hasher(hasher), m_likeness(std::move(likeness))
     {
     }
 
     void reserve(std::size_t count) { m_places.reserve(count); }
+    /// The hash is that of the entry's identity.
     void add(std::size_t hash, std::size_t index) { m_places.push_back({hash, index}); }
     /// Must follow the last add().
-    void sort() { std::sort(m_places.begin(), m_places.end()); }
+    void sort()
+    {
+        std::sort(m_places.begin(), m_places.end());
+        if (tellApart())
+            std::sort(m_places.begin(), m_places.end());
+    }
 
     /// Takes out the first one that is equal and not gone; none when there is none.
     std::optional<std::size_t> take(std::size_t hash, const Dictionary &entry,
                                     const std::vector<bool> &areGone)
     {
+        if (m_shared.contains(hash))
+            hash = m_hasher.hashesOf(entry).*m_likeness.hash;
         const auto first = std::lower_bound(m_places.begin(), m_places.end(), Place{hash, 0});
         if (first == m_places.end() || first->hash != hash)
             return {};
@@ -69,10 +87,7 @@ public:
     }
 
 private:
-    [[nodiscard]] bool areSame(const Dictionary &a, const Dictionary &b)
-    {
-        return m_without.isEmpty() ? m_comparison.areSame(a, b) : areWrittenSame(a, b, m_without);
-    }
+    static constexpr std::size_t mostAlike = 4; ///< that are compared to find one
 
     struct Place
     {
@@ -86,10 +101,35 @@ private:
         }
     };
 
+    /// Where more have one identity than can be compared, takes the hash of all that they have in
+    /// common instead. Returns whether any have.
+    bool tellApart()
+    {
+        for (std::size_t i = mostAlike; i < m_places.size(); ++i) {
+            if (m_places[i - mostAlike].hash == m_places[i].hash)
+                m_shared.insert(m_places[i].hash);
+        }
+        if (m_shared.empty())
+            return false;
+        for (Place &place : m_places) {
+            if (m_shared.contains(place.hash))
+                place.hash = m_hasher.hashesOf(m_entries[place.index]).*m_likeness.hash;
+        }
+        return true;
+    }
+
+    [[nodiscard]] bool areSame(const Dictionary &a, const Dictionary &b)
+    {
+        return m_likeness.without.isEmpty() ? m_comparison.areSame(a, b)
+                                            : areWrittenSame(a, b, m_likeness.without);
+    }
+
     const std::vector<Dictionary> &m_entries;
-    QStringList m_without;
+    WrittenHasher &m_hasher;
+    Likeness m_likeness;
     Comparison m_comparison;
     std::vector<Place> m_places;
+    std::unordered_set<std::size_t> m_shared; ///< identities that too many have
 };
 
 /// The same for entries whose texts broke off, by their numbers.
@@ -129,25 +169,31 @@ private:
 class EntryPools
 {
 public:
-    EntryPools(const std::vector<Dictionary> &expected, const std::vector<WrittenHashes> &allHashes,
-               const std::vector<bool> &areFound, const WrittenHasher &hasher)
-        : m_foundSame(expected, {}), m_foundAlike(expected, hasher.edited()),
-          m_missingOfNumber(expected, hasher.editedButNumber()),
-          m_missingButNumber(expected, hasher.number()), m_missingAlike(expected, hasher.edited())
+    /// `wanted` are the identities that will be asked for.
+    EntryPools(const std::vector<Dictionary> &expected, const std::vector<std::size_t> &identities,
+               const std::vector<bool> &areFound, const std::unordered_set<std::size_t> &wanted,
+               WrittenHasher &hasher)
+        : m_foundSame(expected, hasher, {{}, &WrittenHashes::all}),
+          m_foundAlike(expected, hasher, {hasher.edited(), &WrittenHashes::unedited}),
+          m_missingOfNumber(expected, hasher,
+                            {hasher.editedButNumber(), &WrittenHashes::uneditedAndNumber}),
+          m_missingButNumber(expected, hasher, {hasher.number(), &WrittenHashes::butNumber}),
+          m_missingAlike(expected, hasher, {hasher.edited(), &WrittenHashes::unedited})
     {
+        const std::array found{&m_foundSame, &m_foundAlike};
+        const std::array missing{&m_missingOfNumber, &m_missingButNumber, &m_missingAlike};
         for (std::size_t i = 0; i < expected.size(); ++i) {
-            const WrittenHashes &hashes = allHashes[i];
-            if (areFound[i]) {
-                m_foundSame.add(hashes.all, i);
-                m_foundAlike.add(hashes.unedited, i);
-            } else {
-                m_missingOfNumber.add(hashes.uneditedAndNumber, i);
-                m_missingButNumber.add(hashes.butNumber, i);
-                m_missingAlike.add(hashes.unedited, i);
-            }
+            if (!wanted.contains(identities[i]))
+                continue;
+            const auto addTo = [&](const auto &pools) {
+                for (EntryPool *pool : pools)
+                    pool->add(identities[i], i);
+            };
+            areFound[i] ? addTo(found) : addTo(missing);
         }
-        for (EntryPool *pool : {&m_foundSame, &m_foundAlike, &m_missingOfNumber,
-                                &m_missingButNumber, &m_missingAlike})
+        for (EntryPool *pool : found)
+            pool->sort();
+        for (EntryPool *pool : missing)
             pool->sort();
     }
 
@@ -158,19 +204,19 @@ public:
     };
     /// Takes out the one that an entry is of. One that has all but its number is there; that it
     /// then looks like another is no second one.
-    std::optional<Taken> take(const Dictionary &entry, const WrittenHashes &hashes,
+    std::optional<Taken> take(std::size_t identity, const Dictionary &entry,
                               const std::vector<bool> &areFound,
                               const std::vector<bool> &areDoubled)
     {
-        if (const auto i = m_missingOfNumber.take(hashes.uneditedAndNumber, entry, areFound))
+        if (const auto i = m_missingOfNumber.take(identity, entry, areFound))
             return Taken{*i, false};
-        if (const auto i = m_missingButNumber.take(hashes.butNumber, entry, areFound))
+        if (const auto i = m_missingButNumber.take(identity, entry, areFound))
             return Taken{*i, false};
-        if (const auto i = m_foundSame.take(hashes.all, entry, areDoubled))
+        if (const auto i = m_foundSame.take(identity, entry, areDoubled))
             return Taken{*i, true};
-        if (const auto i = m_missingAlike.take(hashes.unedited, entry, areFound))
+        if (const auto i = m_missingAlike.take(identity, entry, areFound))
             return Taken{*i, false};
-        if (const auto i = m_foundAlike.take(hashes.unedited, entry, areDoubled))
+        if (const auto i = m_foundAlike.take(identity, entry, areDoubled))
             return Taken{*i, true};
         return {};
     }
@@ -181,20 +227,21 @@ private:
 
 /// Notes what is there as expected, and where. Returns the indexes of the others.
 std::vector<std::size_t> findSame(const std::vector<Dictionary> &expected,
-                                  const std::vector<WrittenHashes> &expectedHashes,
+                                  const std::vector<std::size_t> &expectedIdentities,
                                   const std::vector<Dictionary> &actual,
-                                  const std::vector<WrittenHashes> &actualHashes,
-                                  std::vector<bool> &areFound, std::vector<std::size_t> &places)
+                                  const std::vector<std::size_t> &actualIdentities,
+                                  WrittenHasher &hasher, std::vector<bool> &areFound,
+                                  std::vector<std::size_t> &places)
 {
-    EntryPool wanted(expected, {});
+    EntryPool wanted(expected, hasher, {{}, &WrittenHashes::all});
     wanted.reserve(expected.size());
     for (std::size_t i = 0; i < expected.size(); ++i)
-        wanted.add(expectedHashes[i].all, i);
+        wanted.add(expectedIdentities[i], i);
     wanted.sort();
     std::vector<std::size_t> others;
     places.resize(expected.size());
     for (std::size_t i = 0; i < actual.size(); ++i) {
-        if (const auto index = wanted.take(actualHashes[i].all, actual[i], areFound)) {
+        if (const auto index = wanted.take(actualIdentities[i], actual[i], areFound)) {
             areFound[*index] = true;
             places[*index] = i;
         } else {
@@ -217,22 +264,25 @@ EntryMatches matchEntries(const std::vector<Dictionary> &expected,
         return {};
 
     // First what is as expected, then what is alike, then what only has the number.
-    WrittenHasher hasher(keys.edited, keys.number);
-    const std::vector<WrittenHashes> expectedHashes = hasher.hashesOf(expected);
-    const std::vector<WrittenHashes> actualHashes = hasher.hashesOf(actual);
+    WrittenHasher hasher(keys);
+    const std::vector<std::size_t> expectedIdentities = hasher.identitiesOf(expected);
+    const std::vector<std::size_t> actualIdentities = hasher.identitiesOf(actual);
     std::vector<bool> isFound(expected.size(), false);
     EntryMatches matches;
-    const std::vector<std::size_t> others =
-        findSame(expected, expectedHashes, actual, actualHashes, isFound, matches.places);
+    const std::vector<std::size_t> others = findSame(
+        expected, expectedIdentities, actual, actualIdentities, hasher, isFound, matches.places);
     if (others.empty() && actual.size() == expected.size())
         return matches;
-    EntryPools pools(expected, expectedHashes, isFound, hasher);
+    std::unordered_set<std::size_t> wanted;
+    for (const std::size_t index : others)
+        wanted.insert(actualIdentities[index]);
+    EntryPools pools(expected, expectedIdentities, isFound, wanted, hasher);
     NumberPool mutilated(keys.number);
     std::vector<const Dictionary *> unlike;
     std::vector<bool> isDoubled(expected.size(), false);
     for (const std::size_t index : others) {
         const Dictionary &entry = actual[index];
-        const auto taken = pools.take(entry, actualHashes[index], isFound, isDoubled);
+        const auto taken = pools.take(actualIdentities[index], entry, isFound, isDoubled);
         if (!taken) {
             mutilated.add(entry);
             unlike.push_back(&entry);

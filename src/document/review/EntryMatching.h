@@ -1,8 +1,7 @@
 #pragma once
 
+#include "document/review/EntryKeys.h"
 #include "xml/Value.h"
-
-#include <QStringList>
 
 #include <vector>
 
@@ -23,14 +22,6 @@ struct EntryMatches
     {
         return missing.empty() && changed.empty() && doubled.empty() && surplus.empty();
     }
-};
-
-/// Which fields tell stations apart.
-struct EntryKeys
-{
-    QStringList
-        edited;     ///< fields that editing changes; entries that differ in these only are alike
-    QString number; ///< its text tells which station a mutilated entry is of; empty: nothing does
 };
 
 /// Compares entries as the file's texts: a text is the same without the blanks around it, and an

@@ -138,7 +138,8 @@ EntryKeys SectionContent::keys() const
 {
     const StationKeys keys = LGStation({}, 0).keys();
     return {.edited = {keys.keyProgNum, keys.keyStationName, keys.keySkipped, keys.keyBlocked},
-            .number = keys.keyProgNum};
+            .number = keys.keyProgNum,
+            .identity = {keys.keyService_id, keys.keyTransport_id, keys.keyFrequency}};
 }
 
 QString SectionContent::nameOf(const Dictionary &entry) const

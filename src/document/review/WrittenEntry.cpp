@@ -198,11 +198,27 @@ std::optional<std::size_t> hashOf(const Value &value)
     return value.visit(FieldHash{value});
 }
 
-/// Of a field, from the hash of its key, which is well mixed, and that of what it holds.
-std::size_t hashOfField(std::size_t key, std::size_t content)
+/// What fields of an entry hash to, each from the hash of its key, which is well mixed, and
+/// that of what it holds; 0 for one that is as good as none.
+class FieldHasher
 {
-    return static_cast<std::size_t>(mixed(quint64{key} ^ content));
-}
+public:
+    explicit FieldHasher(const Dictionary &entry)
+        : m_entry(entry), m_isNoted(entry.origin().has_value())
+    {
+    }
+
+    [[nodiscard]] std::size_t operator()(qsizetype position, std::size_t key) const
+    {
+        const std::optional<std::size_t> content =
+            m_isNoted ? notedHashAt(m_entry, position) : hashOf(m_entry.at(position).value);
+        return content ? static_cast<std::size_t>(mixed(quint64{key} ^ *content)) : 0;
+    }
+
+private:
+    const Dictionary &m_entry;
+    bool m_isNoted;
+};
 
 } // namespace
 
@@ -228,53 +244,56 @@ bool areWrittenSame(const Dictionary &a, const Dictionary &b, const QStringList 
     return found == 0;
 }
 
-WrittenHasher::WrittenHasher(const QStringList &edited, const QString &number)
-    : m_edited(edited), m_editedButNumber(edited)
+WrittenHasher::WrittenHasher(const EntryKeys &keys) : m_keys(keys), m_editedButNumber(keys.edited)
 {
-    m_editedButNumber.removeOne(number);
-    if (!number.isEmpty())
-        m_number.append(number);
+    m_editedButNumber.removeOne(keys.number);
+    if (!keys.number.isEmpty())
+        m_number.append(keys.number);
 }
 
 void WrittenHasher::readKeys(const Dictionary &entry)
 {
-    m_keys = entry.keys();
+    if (entry.keys() == m_keysRead)
+        return;
+    m_keysRead = entry.keys();
     m_fields.clear();
+    m_identity.clear();
     for (qsizetype i = 0; i < entry.count(); ++i) {
-        const QString &key = m_keys->at(i);
-        m_fields.push_back({qHash(key), m_edited.contains(key), m_number.contains(key)});
+        const QString &key = m_keysRead->at(i);
+        m_fields.push_back({i, qHash(key), m_keys.edited.contains(key), m_number.contains(key)});
+        if (m_keys.identity.contains(key))
+            m_identity.push_back(m_fields.back());
     }
-}
-
-std::vector<WrittenHashes> WrittenHasher::hashesOf(const std::vector<Dictionary> &entries)
-{
-    std::vector<WrittenHashes> all;
-    all.reserve(entries.size());
-    for (const Dictionary &entry : entries)
-        all.push_back(hashesOf(entry));
-    return all;
 }
 
 WrittenHashes WrittenHasher::hashesOf(const Dictionary &entry)
 {
-    if (entry.keys() != m_keys)
-        readKeys(entry);
+    readKeys(entry);
+    const FieldHasher hashOf(entry);
     WrittenHashes hashes;
-    const bool isNoted = entry.origin().has_value();
-    for (std::size_t i = 0; i < m_fields.size(); ++i) {
-        const auto [key, isEdited, isNumber] = m_fields[i];
-        const auto position = static_cast<qsizetype>(i);
-        const std::optional<std::size_t> content =
-            isNoted ? notedHashAt(entry, position) : hashOf(entry.at(position).value);
-        if (!content)
-            continue;
-        const std::size_t hash = hashOfField(key, *content);
+    for (const Field &field : m_fields) {
+        const std::size_t hash = hashOf(field.position, field.key);
         hashes.all += hash;
-        hashes.unedited += isEdited ? 0 : hash;
-        hashes.uneditedAndNumber += isEdited && !isNumber ? 0 : hash;
-        hashes.butNumber += isNumber ? 0 : hash;
+        hashes.unedited += field.isEdited ? 0 : hash;
+        hashes.uneditedAndNumber += field.isEdited && !field.isNumber ? 0 : hash;
+        hashes.butNumber += field.isNumber ? 0 : hash;
     }
     return hashes;
+}
+
+std::vector<std::size_t> WrittenHasher::identitiesOf(const std::vector<Dictionary> &entries)
+{
+    std::vector<std::size_t> identities;
+    identities.reserve(entries.size());
+    for (const Dictionary &entry : entries) {
+        readKeys(entry);
+        const FieldHasher hashOf(entry);
+        std::size_t sum = 0;
+        for (const Field &field : m_identity)
+            sum += hashOf(field.position, field.key);
+        identities.push_back(sum);
+    }
+    return identities;
 }
 
 } // namespace quillet

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/review/EntryKeys.h"
 #include "xml/Value.h"
 
 #include <QStringList>
@@ -29,13 +30,13 @@ struct WrittenHashes
 class WrittenHasher
 {
 public:
-    /// By the fields that editing changes and that of the number, which may be empty.
-    WrittenHasher(const QStringList &edited, const QString &number);
+    explicit WrittenHasher(const EntryKeys &keys);
 
-    /// One for each entry.
-    [[nodiscard]] std::vector<WrittenHashes> hashesOf(const std::vector<Dictionary> &entries);
+    [[nodiscard]] WrittenHashes hashesOf(const Dictionary &entry);
+    /// One for each entry, of its identity alone, which takes much less time.
+    [[nodiscard]] std::vector<std::size_t> identitiesOf(const std::vector<Dictionary> &entries);
 
-    [[nodiscard]] const QStringList &edited() const { return m_edited; }
+    [[nodiscard]] const QStringList &edited() const { return m_keys.edited; }
     [[nodiscard]] const QStringList &editedButNumber() const { return m_editedButNumber; }
     /// The one field of the number, if there is one.
     [[nodiscard]] const QStringList &number() const { return m_number; }
@@ -43,18 +44,19 @@ public:
 private:
     struct Field
     {
-        std::size_t hash; ///< of its key
+        qsizetype position;
+        std::size_t key; ///< its hash
         bool isEdited;
         bool isNumber;
     };
-    [[nodiscard]] WrittenHashes hashesOf(const Dictionary &entry);
     void readKeys(const Dictionary &entry);
 
-    QStringList m_edited;
+    EntryKeys m_keys;
     QStringList m_editedButNumber;
     QStringList m_number;
-    Dictionary::Keys m_keys; ///< whose fields these are
+    Dictionary::Keys m_keysRead; ///< whose fields these are
     std::vector<Field> m_fields;
+    std::vector<Field> m_identity;
 };
 
 } // namespace quillet

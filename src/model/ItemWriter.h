@@ -64,7 +64,7 @@ void writeItem(const Dictionary &entry, const QString &nameKey, Output &output)
     static constexpr FileWord start(fileword::startTag(fileword::item), lineEnd);
     static constexpr FileWord end(fileword::endTag(fileword::item), lineEnd);
     const bool isWhole = entry.contains(nameKey);
-    const std::optional<Dictionary::Origin> origin = entry.origin();
+    const ElementText *origin = entry.origin();
     if (isWhole && origin && origin->element.isInLines && entry.isAsNoted() &&
         origin->bytes().startsWith(start.bytes())) {
         output.append(origin->bytes());

@@ -11,49 +11,20 @@
 
 namespace quillet {
 
-/// Texts that were noted, and the values of them once somebody has asked.
-struct Dictionary::Noted
-{
-    explicit Noted(NotedTexts texts) : noted(std::move(texts)) {}
-    ~Noted() { delete made.load(std::memory_order_relaxed); }
-    Q_DISABLE_COPY_MOVE(Noted)
-
-    [[nodiscard]] ReadText at(qsizetype position) const
-    {
-        return noted.texts->at(noted.first + static_cast<std::size_t>(position));
-    }
-    [[nodiscard]] QString text(qsizetype position) const
-    {
-        return noted.texts->textOf(at(position));
-    }
-    [[nodiscard]] QByteArrayView bytes(qsizetype position) const
-    {
-        return noted.texts->bytesOf(at(position));
-    }
-
-    /// As many as there are keys.
-    [[nodiscard]] const std::vector<Value> &values(qsizetype count) const
-    {
-        if (const auto *known = made.load(std::memory_order_acquire))
-            return *known;
-        auto mine = std::make_unique<std::vector<Value>>();
-        mine->reserve(static_cast<std::size_t>(count));
-        for (qsizetype position = 0; position < count; ++position)
-            mine->emplace_back(text(position));
-        const std::vector<Value> *others = nullptr; // of a thread that was quicker
-        return made.compare_exchange_strong(others, mine.get(), std::memory_order_acq_rel)
-                   ? *mine.release()
-                   : *others;
-    }
-
-    NotedTexts noted;
-    mutable std::atomic<const std::vector<Value> *> made = nullptr;
-};
-
 /// The content. One that was changed while others shared it, or after it was noted, holds the
 /// changed values alone, over the content before: of a station's thirty fields an edit changes one.
 struct Dictionary::Data : QSharedData
 {
+    /// Texts that were noted, and the values of them once somebody has asked.
+    struct Noted
+    {
+        explicit Noted(std::size_t firstText) : first(firstText) {}
+        ~Noted() { delete made.load(std::memory_order_relaxed); }
+        Q_DISABLE_COPY_MOVE(Noted)
+
+        std::size_t first; ///< of the texts
+        mutable std::atomic<const std::vector<Value> *> made = nullptr;
+    };
     struct Changes
     {
         QExplicitlySharedDataPointer<Data> base; ///< has no changes itself
@@ -62,6 +33,7 @@ struct Dictionary::Data : QSharedData
 
     Keys keys{new KeyTable};
     std::vector<Value> values; ///< all that were not noted, or those that are changed
+    ElementText text{};        ///< that all is of; has no texts when that is not known
     std::variant<std::monostate, Noted, Changes> origin;
 
     Data() = default;
@@ -70,17 +42,19 @@ struct Dictionary::Data : QSharedData
     {
     }
     Data(Keys sharedKeys, NotedTexts texts)
-        : keys(std::move(sharedKeys)), origin(std::in_place_type<Noted>, std::move(texts))
+        : keys(std::move(sharedKeys)), text(std::move(texts.whole)),
+          origin(std::in_place_type<Noted>, texts.first)
     {
     }
     explicit Data(QExplicitlySharedDataPointer<Data> base)
         : keys(base->keys), origin(Changes{std::move(base)})
     {
     }
-    Data(const Data &other) : QSharedData(other), keys(other.keys), values(other.values)
+    /// Of one that will be changed.
+    Data(const Data &other)
+        : QSharedData(other), keys(other.keys),
+          values(other.noted() ? other.notedValues() : other.values)
     {
-        if (const Noted *noted = other.noted())
-            values = noted->values(keys->count());
         if (const Changes *changes = other.changes())
             origin = *changes;
     }
@@ -92,11 +66,34 @@ struct Dictionary::Data : QSharedData
     [[nodiscard]] const Changes *changes() const { return std::get_if<Changes>(&origin); }
     [[nodiscard]] Changes *changes() { return std::get_if<Changes>(&origin); }
 
+    [[nodiscard]] ReadText notedAt(qsizetype position) const
+    {
+        return text.texts->at(noted()->first + static_cast<std::size_t>(position));
+    }
+    [[nodiscard]] QString notedText(qsizetype position) const
+    {
+        return text.texts->textOf(notedAt(position));
+    }
+    [[nodiscard]] const std::vector<Value> &notedValues() const
+    {
+        auto &made = noted()->made;
+        if (const auto *known = made.load(std::memory_order_acquire))
+            return *known;
+        auto mine = std::make_unique<std::vector<Value>>();
+        mine->reserve(static_cast<std::size_t>(keys->count()));
+        for (qsizetype position = 0; position < keys->count(); ++position)
+            mine->emplace_back(notedText(position));
+        const std::vector<Value> *others = nullptr; // of a thread that was quicker
+        return made.compare_exchange_strong(others, mine.get(), std::memory_order_acq_rel)
+                   ? *mine.release()
+                   : *others;
+    }
+
     [[nodiscard]] const Value &value(qsizetype position) const
     {
         const auto place = static_cast<std::size_t>(position);
-        if (const Noted *texts = noted())
-            return texts->values(keys->count())[place];
+        if (noted())
+            return notedValues()[place];
         if (!changes())
             return values[place];
         const std::size_t change = changeAt(position);
@@ -112,9 +109,11 @@ struct Dictionary::Data : QSharedData
             std::find(positions.begin(), end, static_cast<quint32>(position)) - positions.begin());
     }
 
-    [[nodiscard]] const Noted *lastNoted() const
+    /// What was noted and perhaps changed since; null when there is no such thing.
+    [[nodiscard]] const Data *lastNoted() const
     {
-        return changes() ? changes()->base->noted() : noted();
+        const Data *last = changes() ? changes()->base.data() : this;
+        return last->noted() ? last : nullptr;
     }
 };
 
@@ -156,6 +155,7 @@ Dictionary::Data &Dictionary::detached()
         d.reset(new Data(*d));
     } else {
         d.detach();
+        d->text = {};
     }
     return *d;
 }
@@ -165,8 +165,10 @@ Dictionary::Data &Dictionary::detached()
 Value &Dictionary::detachedValue(qsizetype position, Content content)
 {
     const bool isShared = d->ref.loadRelaxed() != 1 || d->noted();
-    if (!d->changes() && !isShared)
+    if (!d->changes() && !isShared) {
+        d->text = {};
         return d->values[static_cast<std::size_t>(position)];
+    }
     if (!d->changes())
         d.reset(new Data(d));
     else if (isShared)
@@ -181,7 +183,7 @@ Value &Dictionary::detachedValue(qsizetype position, Content content)
     if (content == Content::Replaced)
         return d->values.emplace_back();
     const Data &base = *changes.base;
-    return d->values.emplace_back(base.noted() ? Value(base.noted()->text(position))
+    return d->values.emplace_back(base.noted() ? Value(base.notedText(position))
                                                : base.value(position));
 }
 
@@ -258,10 +260,10 @@ Dictionary::Keys Dictionary::keys() const
     return d ? d->keys : Keys();
 }
 
-/// What was noted at a position and nobody has changed; null when there is no such thing.
-const Dictionary::Noted *Dictionary::notedAt(qsizetype position) const
+/// What was noted, if nobody has changed it at that position; null when there is no such thing.
+const Dictionary::Data *Dictionary::notedAt(qsizetype position) const
 {
-    const Noted *noted = d->lastNoted();
+    const Data *noted = d->lastNoted();
     const bool isChanged = d->changes() && d->changeAt(position) < d->values.size();
     return isChanged ? nullptr : noted;
 }
@@ -274,9 +276,10 @@ std::optional<QString> Dictionary::text(QStringView key) const
 
 std::optional<QString> Dictionary::text(qsizetype position) const
 {
-    if (const Noted *noted = notedAt(position)) {
-        const auto *made = noted->made.load(std::memory_order_acquire);
-        return made ? *(*made)[static_cast<std::size_t>(position)].string() : noted->text(position);
+    if (const Data *noted = notedAt(position)) {
+        const auto *made = noted->noted()->made.load(std::memory_order_acquire);
+        return made ? *(*made)[static_cast<std::size_t>(position)].string()
+                    : noted->notedText(position);
     }
     const QString *text = d->value(position).string();
     return text ? std::optional(*text) : std::nullopt;
@@ -284,26 +287,25 @@ std::optional<QString> Dictionary::text(qsizetype position) const
 
 std::optional<QByteArray> Dictionary::utf8(qsizetype position) const
 {
-    if (const Noted *noted = notedAt(position))
-        return noted->noted.texts->utf8Of(noted->at(position));
+    if (const Data *noted = notedAt(position))
+        return noted->text.texts->utf8Of(noted->notedAt(position));
     const QString *text = d->value(position).string();
     return text ? std::optional(text->toUtf8()) : std::nullopt;
 }
 
 std::optional<QByteArrayView> Dictionary::bytesRead(qsizetype position) const
 {
-    const Noted *noted = notedAt(position);
-    if (!noted || noted->at(position).isEncoded())
-        return {};
-    return noted->bytes(position);
-}
-
-std::optional<Dictionary::Origin> Dictionary::origin() const
-{
-    const Noted *noted = d ? d->lastNoted() : nullptr;
+    const Data *noted = notedAt(position);
     if (!noted)
         return {};
-    return Origin{noted->noted.texts->utf8(), noted->noted.element};
+    const ReadText read = noted->notedAt(position);
+    return read.isEncoded() ? std::nullopt : std::optional(noted->text.texts->bytesOf(read));
+}
+
+const ElementText *Dictionary::origin() const
+{
+    const Data *noted = d ? d->lastNoted() : nullptr;
+    return noted ? &noted->text : nullptr;
 }
 
 bool Dictionary::isAsNoted() const
@@ -311,10 +313,19 @@ bool Dictionary::isAsNoted() const
     return d && d->noted();
 }
 
-/// Whether both were noted, and their elements are the same byte by byte.
+void Dictionary::rememberText(ElementText text)
+{
+    if (d) {
+        d.detach();
+        d->text = std::move(text);
+    }
+}
+
+/// Whether both are elements that are the same byte by byte.
 bool Dictionary::areOneText(const Dictionary &other) const
 {
-    return isAsNoted() && other.isAsNoted() && origin()->bytes() == other.origin()->bytes();
+    return d && other.d && d->text.texts && other.d->text.texts &&
+           d->text.bytes() == other.d->text.bytes();
 }
 
 bool Dictionary::hasEqualValue(qsizetype position, const Dictionary &other,
@@ -337,10 +348,10 @@ bool Dictionary::hasEqualValues(const Dictionary &other) const
         return false;
     if (d == other.d || isEmpty())
         return true;
-    if (d->isMade() && other.d->isMade())
-        return d->values == other.d->values;
     if (areOneText(other))
         return true;
+    if (d->isMade() && other.d->isMade())
+        return d->values == other.d->values;
     for (qsizetype position = 0; position < count(); ++position) {
         if (!hasEqualValue(position, other, position))
             return false;

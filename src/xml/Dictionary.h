@@ -23,12 +23,23 @@ struct DictionaryEntry
     const Value &value;
 };
 
-/// The texts of an element, noted where they stand in a file: as many as there are keys.
+/// The text of an element in a file.
+struct ElementText
+{
+    QExplicitlySharedDataPointer<const ReadTexts> texts; ///< of the whole file
+    ReadElement element;
+
+    [[nodiscard]] QByteArrayView bytes() const
+    {
+        return QByteArrayView(texts->utf8()).sliced(element.start, element.size);
+    }
+};
+
+/// The texts in an element, noted where they stand in it: as many as there are keys.
 struct NotedTexts
 {
-    QExplicitlySharedDataPointer<const ReadTexts> texts;
-    quint32 first; ///< of them among all
-    ReadElement element;
+    ElementText whole;
+    quint32 first; ///< of them among all of the file
 };
 
 /// An implicitly shared, string-keyed dictionary that keeps the order in which keys were first
@@ -98,18 +109,9 @@ public:
     /// The text at a position as it stands in the file, if it was noted there, nobody has changed
     /// it, and reading it replaces nothing. Valid as long as the dictionary.
     [[nodiscard]] std::optional<QByteArrayView> bytesRead(qsizetype position) const;
-    /// The element that was noted, which all values are of that bytesRead() gives; none when none
-    /// was. `utf8` are the bytes of the whole file.
-    struct Origin
-    {
-        const QByteArray &utf8;
-        ReadElement element;
-        [[nodiscard]] QByteArrayView bytes() const
-        {
-            return QByteArrayView(utf8).sliced(element.start, element.size);
-        }
-    };
-    [[nodiscard]] std::optional<Origin> origin() const;
+    /// The element that was noted, which all values are of that bytesRead() gives; null when none
+    /// was. Valid as long as the dictionary.
+    [[nodiscard]] const ElementText *origin() const;
     /// Whether its values are still those that were noted.
     [[nodiscard]] bool isAsNoted() const;
 
@@ -123,6 +125,10 @@ public:
     [[nodiscard]] DictionaryEntry at(qsizetype position) const;
     [[nodiscard]] Iterator begin() const { return {this, 0}; }
     [[nodiscard]] Iterator end() const { return {this, count()}; }
+
+    /// Tells which element all is of, so that comparing it, until it is changed, with what the same
+    /// bytes elsewhere were read as need not look at the values. Not for one that was noted.
+    void rememberText(ElementText text);
 
     [[nodiscard]] bool operator==(const Dictionary &other) const;
     /// Whether neither was changed since one was a copy of the other; false tells nothing.
@@ -139,8 +145,7 @@ public:
 
 private:
     struct Data;
-    struct Noted;
-    [[nodiscard]] const Noted *notedAt(qsizetype position) const;
+    [[nodiscard]] const Data *notedAt(qsizetype position) const;
     Data &detached();
     [[nodiscard]] bool areOneText(const Dictionary &other) const;
     enum class Content { Kept, Replaced };

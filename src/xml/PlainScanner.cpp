@@ -147,13 +147,13 @@ bool PlainScanner::readElement(TreeBuilder &builder)
                     : noteAttributed(*name, m_at, start, builder))
             return true;
     }
-    m_at = start;
+    const char *const tag = std::exchange(m_at, start);
     startElement(*name, builder);
     if (isEmpty) {
         builder.endElement();
         return true;
     }
-    m_open.push_back(name);
+    m_open.push_back({name, tag});
     return m_open.size() <= deepest;
 }
 
@@ -190,12 +190,13 @@ bool PlainScanner::readText(TreeBuilder &builder)
 
 bool PlainScanner::readEndTag(TreeBuilder &builder)
 {
-    const QByteArray &tag = m_open.back()->endTag;
-    if (!standsAt(m_at, m_end, tag))
+    const auto [name, tag] = m_open.back();
+    if (!standsAt(m_at, m_end, name->endTag))
         return false;
-    m_at += tag.size();
+    m_at += name->endTag.size();
     m_open.pop_back();
-    builder.endElement();
+    const ElementText text{m_texts, elementFrom(tag, false)};
+    builder.endElement(&text);
     return true;
 }
 
@@ -376,7 +377,7 @@ void PlainScanner::addNoted(const Name &element, const Dictionary::Keys &keys, s
                             const ReadElement &place, TreeBuilder &builder) const
 {
     builder.addElement(element.text.constData(),
-                       {keys, NotedTexts{m_texts, static_cast<quint32>(first), place}});
+                       {keys, NotedTexts{{m_texts, place}, static_cast<quint32>(first)}});
 }
 
 } // namespace quillet

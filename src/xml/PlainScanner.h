@@ -64,7 +64,12 @@ private:
     TextFinder m_finder;
     PlainNames m_names;
     Name *m_last = nullptr; ///< the element that began last
-    std::vector<Name *> m_open;
+    struct OpenElement
+    {
+        const Name *name;
+        const char *tag; ///< where it starts
+    };
+    std::vector<OpenElement> m_open;
     std::vector<Attribute> m_attributes; ///< of the start tag that was read last
     bool m_notesAttributes = false;
     quint64 m_elements = 0;       ///< that were looked at for fields

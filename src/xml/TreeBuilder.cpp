@@ -169,7 +169,7 @@ void TreeBuilder::startElement(const char *name, const char *const *attributes)
         addAttributes(element, attributes);
 }
 
-void TreeBuilder::endElement()
+void TreeBuilder::endElement(const ElementText *text)
 {
     OpenElement &element = top();
     Name &name = *element.name;
@@ -181,6 +181,8 @@ void TreeBuilder::endElement()
     }
     endText();
     Dictionary node = makeNode(element);
+    if (text)
+        node.rememberText(*text);
     --m_depth;
     if (m_depth > 0)
         closeElement(top(), name, std::move(node));

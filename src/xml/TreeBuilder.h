@@ -25,10 +25,13 @@ public:
     TreeBuilder(const XMLDictionaryParser::Settings &settings, QByteArrayView source);
 
     void startElement(const char *name, const char *const *attributes) override;
-    void endElement() override;
+    void endElement() override { endElement(nullptr); }
     void characters(QByteArrayView text) override;
     void cdataBlock(QByteArrayView bytes) override;
     void comment(QByteArrayView text) override;
+
+    /// The same of an element whose text is known; null: it is not.
+    void endElement(const ElementText *text);
 
     /// Adds a whole element, which holds child elements and nothing else, to the innermost open
     /// one.

@@ -61,6 +61,38 @@ private slots:
         QCOMPARE(*items.at(1).dictionary(), (Dictionary{{u"x"_s, u"3"_s}, {u"y"_s, u"4"_s}}));
     }
 
+    /// What was read from equal bytes is equal without a look, until it is changed.
+    void changesTellFromWhatWasRead()
+    {
+        const auto text =
+            u"<r><a t=\"0\"><b><c>1</c></b><b><c>2</c></b></a><d><e>3</e><f/></d></r>";
+        const auto read = dictionaryWithXMLString(text);
+        using Change = void (*)(Dictionary &);
+        static constexpr Change changes[]{
+            [](Dictionary &tree) { tree.insert(u"g"_s, u"4"_s); },
+            [](Dictionary &tree) { tree.insert(u"d"_s, u"3"_s); },
+            [](Dictionary &tree) { tree.remove(u"d"); },
+            [](Dictionary &tree) { *tree.find(u"a") = Value(u"0"_s); },
+            [](Dictionary &tree) {
+                Dictionary a = *tree.dictionary(u"a");
+                a.insert(u"_t"_s, u"1"_s);
+                tree.insert(u"a"_s, a);
+            },
+            [](Dictionary &tree) {
+                Dictionary a = *tree.dictionary(u"a");
+                a.find(u"b")->array()->removeLast();
+                tree.insert(u"a"_s, a);
+            },
+        };
+        for (const Change change : changes) {
+            auto shared = read, own = dictionaryWithXMLString(text);
+            QVERIFY(own == read);
+            change(*shared);
+            change(*own);
+            QVERIFY(!(shared == read) && !(read == own) && shared == own);
+        }
+    }
+
     void formatsTrees()
     {
         QCOMPARE(formattedDescription(Dictionary{{u"b"_s, u"x"_s}, {u"A"_s, Value(qint64(1))}}),

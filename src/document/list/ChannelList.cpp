@@ -49,7 +49,7 @@ std::optional<JSONText> ChannelList::legacyTextInFile() const
     const auto bytes = place == KeyTable::none ? std::nullopt : channel->bytesRead(place);
     if (!bytes)
         return {};
-    return JSONText(*bytes, channel->origin()->utf8.end() - bytes->end());
+    return JSONText(*bytes, channel->origin()->texts->utf8().end() - bytes->end());
 }
 
 qsizetype ChannelList::stationCount() const

@@ -73,7 +73,7 @@ bool replaceText(const std::vector<ElementSpan> &fields, const QByteArray &name,
 std::optional<std::vector<Replacement>> editedLines(const Dictionary &original,
                                                     const Dictionary &entry)
 {
-    const std::optional<Dictionary::Origin> origin = original.origin();
+    const ElementText *origin = original.origin();
     if (!origin || !origin->element.isInLines || !original.isAsNoted() ||
         entry.keys() != original.keys())
         return {};

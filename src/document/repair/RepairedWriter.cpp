@@ -79,8 +79,8 @@ private:
             const Dictionary *original = m_originals.at(i).dictionary();
             if (!original)
                 continue;
-            const auto origin = original->origin();
-            if (!origin || origin->utf8.constData() != text.constData())
+            const ElementText *origin = original->origin();
+            if (!origin || origin->texts->utf8().constData() != text.constData())
                 return false;
             const qsizetype start = origin->element.start;
             m_items[static_cast<std::size_t>(i)] = {start, start + origin->element.size};

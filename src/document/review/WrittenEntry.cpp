@@ -204,7 +204,7 @@ class FieldHasher
 {
 public:
     explicit FieldHasher(const Dictionary &entry)
-        : m_entry(entry), m_isNoted(entry.origin().has_value())
+        : m_entry(entry), m_isNoted(entry.origin() != nullptr)
     {
     }
 

@@ -61,6 +61,8 @@ void DarkModeTableView::setModel(QAbstractItemModel *model)
     };
     m_selection = new RowSelection(*model, numberOf, this);
     setSelectionModel(m_selection);
+    // Titles do not tell of selected rows, so they need not look through them when they are drawn.
+    horizontalHeader()->setSelectionModel(new QItemSelectionModel(model, horizontalHeader()));
     m_markPress.watch(*model);
     // To assistive technology all cells are new ones after that.
     const auto speakCell = [this] { speakCurrentItem(this); };

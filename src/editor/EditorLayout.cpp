@@ -16,7 +16,7 @@ void sizeControls(Ui::EditorView &ui, const QFont &font, int textSize)
 {
     QFont device = font;
     device.setBold(true);
-    device.setPointSizeF(device.pointSizeF() * 1.25);
+    device.setPointSizeF(device.pointSizeF() * 1.2);
     ui.deviceName->setFont(device);
 
     const QFontMetrics metrics(font);

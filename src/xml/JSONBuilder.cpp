@@ -2,6 +2,7 @@
 
 #include "xml/JSON.h"
 
+#include <algorithm>
 #include <cstring>
 #include <limits>
 #include <utility>
@@ -41,6 +42,20 @@ void JSONBuilder::key(QByteArrayView utf8)
         object.values.reserve(object.lastNames.size());
 }
 
+bool JSONBuilder::takeSameKey(const char *text, const char *end)
+{
+    Container &object = innermost();
+    if (!object.areLastPlain || !object.names.empty() ||
+        object.sameNames == object.lastNames.size() || object.values.capacity() == 0)
+        return false;
+    const QByteArray &name = object.lastNames[object.sameNames];
+    if (end - text <= name.size() || text[name.size()] != '"' ||
+        !isEqual(name, {text, name.size()}))
+        return false;
+    ++object.sameNames;
+    return true;
+}
+
 void JSONBuilder::add(Value value)
 {
     if (m_depth == 0)
@@ -51,8 +66,10 @@ void JSONBuilder::add(Value value)
 
 void JSONBuilder::addUnsigned(quint64 number)
 {
-    add(number <= quint64(std::numeric_limits<qint64>::max()) ? Value(qint64(number))
-                                                              : Value(number));
+    if (number <= quint64(std::numeric_limits<qint64>::max()))
+        addScalar(qint64(number));
+    else
+        addScalar(number);
 }
 
 void JSONBuilder::addDouble(double number, QByteArrayView text)
@@ -97,6 +114,10 @@ Dictionary::Keys JSONBuilder::keysOf(Container &object)
     const bool isEachOnce = count == names.size();
     object.lastNames = isEachOnce ? std::move(names) : std::vector<QByteArray>();
     object.lastKeys = isEachOnce ? keys : Dictionary::Keys();
+    object.areLastPlain =
+        std::all_of(object.lastNames.begin(), object.lastNames.end(), [](const QByteArray &name) {
+            return !name.contains('"') && !name.contains('\\');
+        });
     values.resize(count);
     return keys;
 }

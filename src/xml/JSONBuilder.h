@@ -17,7 +17,19 @@ public:
     /// Opens an object or array; false when that is nested too deep.
     [[nodiscard]] bool open();
     void key(QByteArrayView utf8);
+    /// The same of a key as JSON has it, which stands there up to a quotation mark, if the last
+    /// object had it here, too. False tells nothing.
+    [[nodiscard]] bool takeSameKey(const char *text, const char *end);
     void add(Value value);
+    /// Of a truth value or a number: the same, but quick.
+    template<typename Scalar>
+    void addScalar(Scalar scalar)
+    {
+        if (m_depth == 0)
+            m_root = Value(scalar);
+        else
+            innermost().values.emplace_back(scalar);
+    }
     void addText(QByteArrayView utf8) { add(m_texts.text(utf8)); }
     void addUnsigned(quint64 number);
     /// The text is the number's in the JSON.
@@ -41,6 +53,7 @@ private:
         /// Of the last object closed at this depth; none where it had one twice.
         std::vector<QByteArray> lastNames;
         Dictionary::Keys lastKeys; ///< the same as a table
+        bool areLastPlain = false; ///< they have no characters that JSON escapes
     };
 
     [[nodiscard]] Container &innermost() { return m_stack[m_depth - 1]; }

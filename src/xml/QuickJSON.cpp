@@ -72,7 +72,7 @@ std::optional<Integer> integerOf(QByteArrayView digits)
 class Reader
 {
 public:
-    explicit Reader(JSONBuilder &builder) : m_builder(builder) {}
+    Reader(JSONBuilder &builder, const char *end) : m_builder(builder), m_end(end) {}
 
     /// False when the value is not as it should be, or out of the ordinary.
     bool read(ondemand::value value)
@@ -138,6 +138,8 @@ private:
     /// The key whose text begins here and ends with a quotation mark, which it surely has.
     bool readKey(const char *text)
     {
+        if (m_builder.takeSameKey(text, m_end))
+            return true;
         const char *end = text;
         bool isAsItStands = true;
         for (; *end != '"'; ++end) {
@@ -160,9 +162,9 @@ private:
     {
         const char first = token.isEmpty() ? '\0' : token.front();
         if (first == 't' && token == "true")
-            m_builder.add(Value(true));
+            m_builder.addScalar(true);
         else if (first == 'f' && token == "false")
-            m_builder.add(Value(false));
+            m_builder.addScalar(false);
         else if (first == 'n' && token == "null")
             m_builder.add(Value());
         else
@@ -229,7 +231,7 @@ private:
         const bool hasSign = token.startsWith('-');
         if (kind == NumberKind::Integer && hasSign) {
             if (const auto number = integerOf<qint64>(token)) {
-                *number == 0 ? m_builder.addNegativeZero() : m_builder.add(Value(*number));
+                *number == 0 ? m_builder.addNegativeZero() : m_builder.addScalar(*number);
                 return true;
             }
         } else if (kind == NumberKind::Integer) {
@@ -243,6 +245,7 @@ private:
     }
 
     JSONBuilder &m_builder;
+    const char *m_end;
 };
 
 } // namespace
@@ -265,7 +268,7 @@ std::optional<Value> quickValueFromJSON(const JSONText &text, qsizetype &rewritt
         document.type().get(type) != simdjson::SUCCESS)
         return {};
     JSONBuilder builder;
-    Reader reader(builder);
+    Reader reader(builder, utf8.end());
     bool isRead = false;
     if (type == ondemand::json_type::object)
         isRead = reader.readObject(document.get_object());

@@ -104,6 +104,10 @@ private slots:
                                    "{\"b\":5,\"a\":6}",
                                    "{\"a\":7}",
                                    "{}",
+                                   "{\"a\":8,\"b\\\":\\\"c\":9}",
+                                   "{\"a\":8,\"b\":\"c\"}",
+                                   "{\"a\":8,\"b\\\\\":9}",
+                                   "{\"a\":8,\"b\\\":9}\":9}",
                                    "{\"a\":8,\"b\":9,\"a\":10}",
                                    "{\"a\":11,\"b\":12,\"c\":{\"a\":13,\"b\":14}}",
                                    "{\"a\":{\"a\":15,\"b\":16},\"b\":{\"a\":17,\"b\":18}}"};
@@ -116,7 +120,7 @@ private slots:
         changed.insert(u"b"_s, u"99"_s);
         changed.insert(u"new"_s, u"100"_s);
         QCOMPARE(list, std::optional<Value>(alone));
-        QCOMPARE(*alone.at(6).dictionary()->dictionary(u"c")->find(u"b"), Value(qint64(14)));
+        QCOMPARE(*alone.at(10).dictionary()->dictionary(u"c")->find(u"b"), Value(qint64(14)));
     }
 
     void nesting()

@@ -5,7 +5,6 @@
 #include <QHash>
 
 #include <algorithm>
-#include <array>
 #include <optional>
 #include <unordered_set>
 #include <utility>
@@ -38,7 +37,7 @@ private:
     Dictionary::Keys m_keysOfB;
 };
 
-/// What entries have in common that are found as each other.
+/// What entries that are taken for each other have in common.
 struct Likeness
 {
     QStringList without; ///< fields that may differ
@@ -180,20 +179,17 @@ public:
           m_missingButNumber(expected, hasher, {hasher.number(), &WrittenHashes::butNumber}),
           m_missingAlike(expected, hasher, {hasher.edited(), &WrittenHashes::unedited})
     {
-        const std::array found{&m_foundSame, &m_foundAlike};
-        const std::array missing{&m_missingOfNumber, &m_missingButNumber, &m_missingAlike};
+        const std::vector<EntryPool *> found{&m_foundSame, &m_foundAlike};
+        const std::vector<EntryPool *> missing{&m_missingOfNumber, &m_missingButNumber,
+                                               &m_missingAlike};
         for (std::size_t i = 0; i < expected.size(); ++i) {
             if (!wanted.contains(identities[i]))
                 continue;
-            const auto addTo = [&](const auto &pools) {
-                for (EntryPool *pool : pools)
-                    pool->add(identities[i], i);
-            };
-            areFound[i] ? addTo(found) : addTo(missing);
+            for (EntryPool *pool : areFound[i] ? found : missing)
+                pool->add(identities[i], i);
         }
-        for (EntryPool *pool : found)
-            pool->sort();
-        for (EntryPool *pool : missing)
+        for (EntryPool *pool : {&m_foundSame, &m_foundAlike, &m_missingOfNumber,
+                                &m_missingButNumber, &m_missingAlike})
             pool->sort();
     }
 

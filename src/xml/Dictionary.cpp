@@ -15,14 +15,13 @@ namespace quillet {
 /// changed values alone, over the content before: of a station's thirty fields an edit changes one.
 struct Dictionary::Data : QSharedData
 {
-    /// Texts that were noted, and the values of them once somebody has asked.
+    /// Of texts that were noted the values, once somebody has asked for one.
     struct Noted
     {
-        explicit Noted(std::size_t firstText) : first(firstText) {}
+        Noted() = default;
         ~Noted() { delete made.load(std::memory_order_relaxed); }
         Q_DISABLE_COPY_MOVE(Noted)
 
-        std::size_t first; ///< of the texts
         mutable std::atomic<const std::vector<Value> *> made = nullptr;
     };
     struct Changes
@@ -31,6 +30,7 @@ struct Dictionary::Data : QSharedData
         std::array<quint32, 4> positions{};      ///< where those values belong
     };
 
+    quint32 first = 0; ///< of the texts that were noted
     Keys keys{new KeyTable};
     std::vector<Value> values; ///< all that were not noted, or those that are changed
     ElementText text{};        ///< that all is of; has no texts when that is not known
@@ -42,8 +42,8 @@ struct Dictionary::Data : QSharedData
     {
     }
     Data(Keys sharedKeys, NotedTexts texts)
-        : keys(std::move(sharedKeys)), text(std::move(texts.whole)),
-          origin(std::in_place_type<Noted>, texts.first)
+        : first(texts.first), keys(std::move(sharedKeys)), text(std::move(texts.whole)),
+          origin(std::in_place_type<Noted>)
     {
     }
     explicit Data(QExplicitlySharedDataPointer<Data> base)
@@ -68,7 +68,7 @@ struct Dictionary::Data : QSharedData
 
     [[nodiscard]] ReadText notedAt(qsizetype position) const
     {
-        return text.texts->at(noted()->first + static_cast<std::size_t>(position));
+        return text.texts->at(first + static_cast<std::size_t>(position));
     }
     [[nodiscard]] QString notedText(qsizetype position) const
     {
@@ -263,9 +263,10 @@ Dictionary::Keys Dictionary::keys() const
 /// What was noted, if nobody has changed it at that position; null when there is no such thing.
 const Dictionary::Data *Dictionary::notedAt(qsizetype position) const
 {
+    if (d->noted())
+        return d.data();
     const Data *noted = d->lastNoted();
-    const bool isChanged = d->changes() && d->changeAt(position) < d->values.size();
-    return isChanged ? nullptr : noted;
+    return noted && d->changeAt(position) == d->values.size() ? noted : nullptr;
 }
 
 std::optional<QString> Dictionary::text(QStringView key) const

@@ -30,10 +30,10 @@ struct Dictionary::Data : QSharedData
         std::array<quint32, 4> positions{};      ///< where those values belong
     };
 
-    quint32 first = 0; ///< of the texts that were noted
+    quint32 first = 0; ///< where its noted texts begin among those of the file
     Keys keys{new KeyTable};
     std::vector<Value> values; ///< all that were not noted, or those that are changed
-    ElementText text{};        ///< that all is of; has no texts when that is not known
+    ElementText text{};        ///< of the element whose bytes tell all; has no texts without one
     std::variant<std::monostate, Noted, Changes> origin;
 
     Data() = default;
@@ -316,7 +316,7 @@ bool Dictionary::isAsNoted() const
 
 void Dictionary::rememberText(ElementText text)
 {
-    if (d) {
+    if (d && d->isMade()) {
         d.detach();
         d->text = std::move(text);
     }

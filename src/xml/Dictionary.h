@@ -107,10 +107,10 @@ public:
     [[nodiscard]] std::optional<QByteArray> utf8(qsizetype position) const;
 
     /// The text at a position as it stands in the file, if it was noted there, nobody has changed
-    /// it, and reading it replaces nothing. Valid as long as the dictionary.
+    /// it, and reading it replaces nothing. Valid until the dictionary is changed.
     [[nodiscard]] std::optional<QByteArrayView> bytesRead(qsizetype position) const;
     /// The element that was noted, which all values are of that bytesRead() gives; null when none
-    /// was. Valid as long as the dictionary.
+    /// was. Valid until the dictionary is changed.
     [[nodiscard]] const ElementText *origin() const;
     /// Whether its values are still those that were noted.
     [[nodiscard]] bool isAsNoted() const;
@@ -127,7 +127,8 @@ public:
     [[nodiscard]] Iterator end() const { return {this, count()}; }
 
     /// Tells which element all is of, so that comparing it, until it is changed, with what the same
-    /// bytes elsewhere were read as need not look at the values. Not for one that was noted.
+    /// bytes elsewhere were read as need not look at the values. Elements within others tell them,
+    /// read under the same settings. Does nothing for one that was noted, or changed since.
     void rememberText(ElementText text);
 
     [[nodiscard]] bool operator==(const Dictionary &other) const;

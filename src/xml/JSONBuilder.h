@@ -18,7 +18,7 @@ public:
     [[nodiscard]] bool open();
     void key(QByteArrayView utf8);
     /// The same of a key as JSON has it, which stands there up to a quotation mark, if the last
-    /// object had it here, too. False tells nothing.
+    /// object had it here, too. Never the first one of an object. False tells nothing.
     [[nodiscard]] bool takeSameKey(const char *text, const char *end);
     void add(Value value);
     /// Of a truth value or a number: the same, but quick.
@@ -53,7 +53,7 @@ private:
         /// Of the last object closed at this depth; none where it had one twice.
         std::vector<QByteArray> lastNames;
         Dictionary::Keys lastKeys; ///< the same as a table
-        bool areLastPlain = false; ///< they have no characters that JSON escapes
+        bool areLastPlain = false; ///< none of those has a quotation mark or a backslash
     };
 
     [[nodiscard]] Container &innermost() { return m_stack[m_depth - 1]; }

@@ -101,9 +101,6 @@ private slots:
             u"missing 1: C, changed 1: R&B"_s);
         row("escaped twice", digital(items({u"A"_s, u"R&amp;lt;"_s, u"C"_s})), none,
             u"changed 1: R&lt;"_s);
-        row("escaped twice, many with the same identifiers",
-            digital(items({u"A"_s, u"R&amp;lt;"_s, u"C"_s, u"D"_s, u"E"_s, u"F"_s, u"G"_s})), none,
-            u"changed 1: R&lt;"_s);
         row("control character", digital(items({u"A"_s, u"B\x01"_s, u"C"_s})), none,
             u"changed 1: 2, unread, tail"_s);
         row("bare &", digital(items({u"A & B"_s, u"B"_s, u"C"_s})), none,

@@ -11,7 +11,7 @@ struct EntryKeys
     QStringList
         edited;     ///< fields that editing changes; entries that differ in these only are alike
     QString number; ///< its text tells which station a mutilated entry is of; empty: nothing does
-    /// Others, in which hardly any two stations agree; those that are alike do.
+    /// Fields that are neither of these, in which hardly any two stations agree.
     QStringList identity;
 };
 

@@ -40,8 +40,8 @@ private:
 /// What entries that are taken for each other have in common.
 struct Likeness
 {
-    QStringList without; ///< fields that may differ
-    std::size_t WrittenHashes::*hash;
+    QStringList without;              ///< fields that may differ
+    std::size_t WrittenHashes::*hash; ///< is equal then
 };
 
 /// Entries to be taken one by one, found by what they have in common.
@@ -54,8 +54,7 @@ public:
     }
 
     void reserve(std::size_t count) { m_places.reserve(count); }
-    /// The hash is that of the entry's identity.
-    void add(std::size_t hash, std::size_t index) { m_places.push_back({hash, index}); }
+    void add(std::size_t identity, std::size_t index) { m_places.push_back({identity, index}); }
     /// Must follow the last add().
     void sort()
     {
@@ -65,11 +64,11 @@ public:
     }
 
     /// Takes out the first one that is equal and not gone; none when there is none.
-    std::optional<std::size_t> take(std::size_t hash, const Dictionary &entry,
+    std::optional<std::size_t> take(std::size_t identity, const Dictionary &entry,
                                     const std::vector<bool> &areGone)
     {
-        if (m_shared.contains(hash))
-            hash = m_hasher.hashesOf(entry).*m_likeness.hash;
+        const std::size_t hash =
+            m_shared.contains(identity) ? m_hasher.hashesOf(entry).*m_likeness.hash : identity;
         const auto first = std::lower_bound(m_places.begin(), m_places.end(), Place{hash, 0});
         if (first == m_places.end() || first->hash != hash)
             return {};

@@ -269,10 +269,10 @@ void WrittenHasher::readKeys(const Dictionary &entry)
 WrittenHashes WrittenHasher::hashesOf(const Dictionary &entry)
 {
     readKeys(entry);
-    const FieldHasher hashOf(entry);
+    const FieldHasher hashOfField(entry);
     WrittenHashes hashes;
     for (const Field &field : m_fields) {
-        const std::size_t hash = hashOf(field.position, field.key);
+        const std::size_t hash = hashOfField(field.position, field.key);
         hashes.all += hash;
         hashes.unedited += field.isEdited ? 0 : hash;
         hashes.uneditedAndNumber += field.isEdited && !field.isNumber ? 0 : hash;
@@ -287,10 +287,10 @@ std::vector<std::size_t> WrittenHasher::identitiesOf(const std::vector<Dictionar
     identities.reserve(entries.size());
     for (const Dictionary &entry : entries) {
         readKeys(entry);
-        const FieldHasher hashOf(entry);
+        const FieldHasher hashOfField(entry);
         std::size_t sum = 0;
         for (const Field &field : m_identity)
-            sum += hashOf(field.position, field.key);
+            sum += hashOfField(field.position, field.key);
         identities.push_back(sum);
     }
     return identities;

@@ -195,12 +195,8 @@ bool PlainScanner::readEndTag(TreeBuilder &builder)
         return false;
     m_at += name->endTag.size();
     m_open.pop_back();
-    if (m_open.empty()) { // the root, whose node holds more than its text tells
-        builder.endElement();
-        return true;
-    }
     const ElementText text{m_texts, elementFrom(tag, false)};
-    builder.endElement(&text);
+    builder.endElement(m_open.empty() ? nullptr : &text); // the root holds more than its text tells
     return true;
 }
 

@@ -37,6 +37,13 @@ private:
     Dictionary::Keys m_keysOfB;
 };
 
+/// Entries with the hashes of what identifies them.
+struct IdentifiedEntries
+{
+    const std::vector<Dictionary> &entries;
+    std::vector<std::size_t> identities;
+};
+
 /// What entries that are taken for each other have in common.
 struct Likeness
 {
@@ -168,24 +175,25 @@ class EntryPools
 {
 public:
     /// `wanted` are the identities that will be asked for.
-    EntryPools(const std::vector<Dictionary> &expected, const std::vector<std::size_t> &identities,
-               const std::vector<bool> &areFound, const std::unordered_set<std::size_t> &wanted,
-               WrittenHasher &hasher)
-        : m_foundSame(expected, hasher, {{}, &WrittenHashes::all}),
-          m_foundAlike(expected, hasher, {hasher.edited(), &WrittenHashes::unedited}),
-          m_missingOfNumber(expected, hasher,
+    EntryPools(const IdentifiedEntries &expected, const std::vector<bool> &areFound,
+               const std::unordered_set<std::size_t> &wanted, WrittenHasher &hasher)
+        : m_foundSame(expected.entries, hasher, {{}, &WrittenHashes::all}),
+          m_foundAlike(expected.entries, hasher, {hasher.edited(), &WrittenHashes::unedited}),
+          m_missingOfNumber(expected.entries, hasher,
                             {hasher.editedButNumber(), &WrittenHashes::uneditedAndNumber}),
-          m_missingButNumber(expected, hasher, {hasher.number(), &WrittenHashes::butNumber}),
-          m_missingAlike(expected, hasher, {hasher.edited(), &WrittenHashes::unedited})
+          m_missingButNumber(expected.entries, hasher,
+                             {hasher.number(), &WrittenHashes::butNumber}),
+          m_missingAlike(expected.entries, hasher, {hasher.edited(), &WrittenHashes::unedited})
     {
         const std::vector<EntryPool *> found{&m_foundSame, &m_foundAlike};
         const std::vector<EntryPool *> missing{&m_missingOfNumber, &m_missingButNumber,
                                                &m_missingAlike};
-        for (std::size_t i = 0; i < expected.size(); ++i) {
-            if (!wanted.contains(identities[i]))
+        for (std::size_t i = 0; i < expected.identities.size(); ++i) {
+            const std::size_t identity = expected.identities[i];
+            if (!wanted.contains(identity))
                 continue;
             for (EntryPool *pool : areFound[i] ? found : missing)
-                pool->add(identities[i], i);
+                pool->add(identity, i);
         }
         for (EntryPool *pool : {&m_foundSame, &m_foundAlike, &m_missingOfNumber,
                                 &m_missingButNumber, &m_missingAlike})
@@ -221,22 +229,20 @@ private:
 };
 
 /// Notes what is there as expected, and where. Returns the indexes of the others.
-std::vector<std::size_t> findSame(const std::vector<Dictionary> &expected,
-                                  const std::vector<std::size_t> &expectedIdentities,
-                                  const std::vector<Dictionary> &actual,
-                                  const std::vector<std::size_t> &actualIdentities,
-                                  WrittenHasher &hasher, std::vector<bool> &areFound,
-                                  std::vector<std::size_t> &places)
+std::vector<std::size_t> findSame(const IdentifiedEntries &expected,
+                                  const IdentifiedEntries &actual, WrittenHasher &hasher,
+                                  std::vector<bool> &areFound, std::vector<std::size_t> &places)
 {
-    EntryPool wanted(expected, hasher, {{}, &WrittenHashes::all});
-    wanted.reserve(expected.size());
-    for (std::size_t i = 0; i < expected.size(); ++i)
-        wanted.add(expectedIdentities[i], i);
+    const std::size_t count = expected.identities.size();
+    EntryPool wanted(expected.entries, hasher, {{}, &WrittenHashes::all});
+    wanted.reserve(count);
+    for (std::size_t i = 0; i < count; ++i)
+        wanted.add(expected.identities[i], i);
     wanted.sort();
     std::vector<std::size_t> others;
-    places.resize(expected.size());
-    for (std::size_t i = 0; i < actual.size(); ++i) {
-        if (const auto index = wanted.take(actualIdentities[i], actual[i], areFound)) {
+    places.resize(count);
+    for (std::size_t i = 0; i < actual.identities.size(); ++i) {
+        if (const auto index = wanted.take(actual.identities[i], actual.entries[i], areFound)) {
             areFound[*index] = true;
             places[*index] = i;
         } else {
@@ -260,24 +266,24 @@ EntryMatches matchEntries(const std::vector<Dictionary> &expected,
 
     // First what is as expected, then what is alike, then what only has the number.
     WrittenHasher hasher(keys);
-    const std::vector<std::size_t> expectedIdentities = hasher.identitiesOf(expected);
-    const std::vector<std::size_t> actualIdentities = hasher.identitiesOf(actual);
+    const IdentifiedEntries wanted{expected, hasher.identitiesOf(expected)};
+    const IdentifiedEntries there{actual, hasher.identitiesOf(actual)};
     std::vector<bool> isFound(expected.size(), false);
     EntryMatches matches;
-    const std::vector<std::size_t> others = findSame(
-        expected, expectedIdentities, actual, actualIdentities, hasher, isFound, matches.places);
+    const std::vector<std::size_t> others =
+        findSame(wanted, there, hasher, isFound, matches.places);
     if (others.empty() && actual.size() == expected.size())
         return matches;
-    std::unordered_set<std::size_t> wanted;
+    std::unordered_set<std::size_t> unsettled;
     for (const std::size_t index : others)
-        wanted.insert(actualIdentities[index]);
-    EntryPools pools(expected, expectedIdentities, isFound, wanted, hasher);
+        unsettled.insert(there.identities[index]);
+    EntryPools pools(wanted, isFound, unsettled, hasher);
     NumberPool mutilated(keys.number);
     std::vector<const Dictionary *> unlike;
     std::vector<bool> isDoubled(expected.size(), false);
     for (const std::size_t index : others) {
         const Dictionary &entry = actual[index];
-        const auto taken = pools.take(actualIdentities[index], entry, isFound, isDoubled);
+        const auto taken = pools.take(there.identities[index], entry, isFound, isDoubled);
         if (!taken) {
             mutilated.add(entry);
             unlike.push_back(&entry);
